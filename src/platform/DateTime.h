@@ -1,0 +1,54 @@
+#pragma once
+
+#include <chrono>
+#include <compare>
+#include <cstdint>
+
+namespace ostrel {
+
+/// A local date and time of day to the second. The default is the zero date of the calendar that
+/// the model uses, 30 December 1899 at midnight.
+struct DateTime {
+  int year = 1899;
+  int month = 12;
+  int day = 30;
+  int hour = 0;
+  int minute = 0;
+  int second = 0;
+
+  auto operator<=>(const DateTime&) const = default;
+};
+
+/// True when all fields stand for a day and time that exist.
+constexpr bool IsValid(const DateTime& t) {
+  using namespace std::chrono;
+  const year_month_day date{year{t.year}, month{static_cast<unsigned>(t.month)},
+                            day{static_cast<unsigned>(t.day)}};
+  return t.month > 0 && t.day > 0 && date.ok() && t.hour >= 0 && t.hour < 24 && t.minute >= 0 &&
+         t.minute < 60 && t.second >= 0 && t.second < 60;
+}
+
+/// Seconds since 1 January 1970 at midnight, without time zones.
+constexpr std::int64_t ToSeconds(const DateTime& t) {
+  using namespace std::chrono;
+  const sys_days days{year_month_day{year{t.year}, month{static_cast<unsigned>(t.month)},
+                                     day{static_cast<unsigned>(t.day)}}};
+  return std::int64_t{days.time_since_epoch().count()} * 86'400 + t.hour * 3600 + t.minute * 60 +
+         t.second;
+}
+
+/// The reverse of `ToSeconds`.
+constexpr DateTime FromSeconds(std::int64_t seconds) {
+  using namespace std::chrono;
+  const std::int64_t dayCount = (seconds >= 0 ? seconds : seconds - 86'399) / 86'400;
+  const int rest = static_cast<int>(seconds - dayCount * 86'400);
+  const year_month_day date{sys_days{days{static_cast<int>(dayCount)}}};
+  return {static_cast<int>(date.year()),
+          static_cast<int>(static_cast<unsigned>(date.month())),
+          static_cast<int>(static_cast<unsigned>(date.day())),
+          rest / 3600,
+          rest / 60 % 60,
+          rest % 60};
+}
+
+}  // namespace ostrel

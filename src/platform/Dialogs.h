@@ -1,0 +1,43 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+namespace ostrel {
+
+class Form;
+
+enum class BoxIcon { None, Information, Question, Exclamation };
+enum class BoxButtons { Ok, YesNo };
+enum class BoxAnswer { Ok, Yes, No };
+
+/// A message box; texts are UTF-8 and already translated.
+struct MessageBox {
+  std::string text;
+  std::string title;
+  BoxIcon icon = BoxIcon::None;
+  BoxButtons buttons = BoxButtons::Ok;
+};
+
+/// A question for a file name. `filter` is a list of description and pattern pairs, all joined by
+/// "|"; `filterIndex` counts pairs from 1.
+struct FileQuestion {
+  enum class Mode { Open, Save } mode = Mode::Open;
+  std::string filter;
+  int filterIndex = 1;
+  bool overwritePrompt = false;
+};
+
+/// What asks the operator, modal; injected because each face asks in its own way.
+class Dialogs {
+ public:
+  virtual ~Dialogs() = default;
+  virtual BoxAnswer ShowMessage(const MessageBox& box) = 0;
+  /// The chosen path, or nothing when the operator cancels.
+  virtual std::optional<std::string> ChooseFile(const FileQuestion& question) = 0;
+  /// Shows a form until its logic closes it (`Form::Close`) or the operator dismisses it.
+  virtual void ShowModal(Form& form) = 0;
+  virtual void Beep() = 0;
+};
+
+}  // namespace ostrel
