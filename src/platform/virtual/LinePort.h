@@ -1,0 +1,98 @@
+#pragma once
+
+#include <cstddef>
+#include <deque>
+#include <functional>
+#include <map>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "platform/EventLoop.h"
+#include "platform/Line.h"
+#include "platform/SerialPort.h"
+
+namespace ostrel {
+
+/// A serial port whose numbers lead to devices in this process. It works on any event loop.
+///
+/// Nothing passes from one end to the other within a call: octets and carrier changes travel
+/// through the loop, at once or, when paced, at 960 octets/s each way. DTR is told to the device
+/// within the call that changes it. The loop and the devices must outlive the port.
+class LinePort final : public SerialPort {
+ public:
+  /// Makes the device for a line; it may keep the reference for its life.
+  using Attach = std::function<std::unique_ptr<LineDevice>(LineEnd& end)>;
+
+  explicit LinePort(EventLoop& loop);
+  ~LinePort() override;
+
+  /// Puts a device at a number, in place of an earlier one, which vanishes.
+  LineEnd& AddDevice(int number, std::string device, std::string description, const Attach& attach);
+  /// The same for a device that someone else owns.
+  LineEnd& AddDevice(int number, std::string device, std::string description, LineDevice& logger);
+  /// Plugs a vanished device in again. An open port stays lost until it is closed.
+  void Restore(int number);
+  /// What opening this number comes to from now on.
+  void SetOpenFault(int number, PortFault fault);
+  /// Whether octets take their line time; off at first.
+  void SetPaced(bool paced);
+
+  void SetCommPort(int number) override { commPort_ = number; }
+  /// Kept for nothing: the lines know one speed.
+  void SetSettings(std::string_view) override {}
+  void SetInputLen(int octets) override { inputLen_ = octets; }
+  void SetInBufferSize(int octets) override;
+  /// With any flow control a full receive buffer holds the line; without, octets are lost.
+  void SetHandshaking(PortHandshaking handshaking) override { handshaking_ = handshaking; }
+  void SetRTSEnable(bool) override {}
+  void SetDTREnable(bool on) override;
+  PortFault SetPortOpen(bool open) override;
+  bool PortOpen() const override { return open_ != nullptr; }
+  bool LineLost() const override;
+  void Output(std::string_view octets) override;
+  /// Always 0 when not paced: such a line takes octets at once.
+  std::size_t OutBufferCount() const override;
+  std::string Input() override;
+  std::size_t InBufferCount() const override;
+  bool CDHolding() const override { return carrier_; }
+  int CommEvent() const override { return commEvent_; }
+  void SetOnComm(std::function<void()> handler) override { onComm_ = std::move(handler); }
+  PortFault Probe(int number) override;
+  std::vector<PortEntry> Entries() override;
+
+ private:
+  class Wire;
+
+  Wire& AddWire(int number, std::string device, std::string description);
+  std::shared_ptr<Wire> Find(int number) const;
+  PortFault FaultOf(int number) const;
+  PortFault Open();
+  void Close();
+  void Forget();
+  std::size_t Room() const;
+  void TakeIn();
+  void PostCarrier(bool on);
+  void TellCarrier();
+
+  EventLoop& loop_;
+  std::map<int, std::shared_ptr<Wire>> wires_;
+  bool paced_ = false;
+  int commPort_ = 1;
+  int inputLen_ = 0;
+  std::size_t inBufferSize_ = 1024;
+  PortHandshaking handshaking_ = PortHandshaking::None;
+  bool dtr_ = true;
+  std::shared_ptr<Wire> open_;
+  std::string received_;  ///< the receive buffer, up to `taken_` already read
+  std::size_t taken_ = 0;
+  bool carrier_ = false;
+  std::deque<bool> carrierChanges_;  ///< seen on the line, not told yet
+  TimerId carrierTimer_ = 0;
+  int commEvent_ = 0;
+  std::function<void()> onComm_;
+};
+
+}  // namespace ostrel

@@ -1,0 +1,56 @@
+#pragma once
+
+#include <cstddef>
+#include <map>
+#include <optional>
+#include <set>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "platform/Files.h"
+
+namespace ostrel {
+
+/// A file system in memory. Its maps are open to tests; it keeps a log of what changed it, and any
+/// change can be made to fail. Folders are not asked for: a file may stand anywhere.
+class VirtualFiles final : public Files {
+ public:
+  enum class Change { Create, Write, Sync, Rename, Remove, MakeFolder };
+
+  std::map<std::string, std::string> contents;  ///< octets by path
+  std::map<std::string, std::string> links;     ///< symbolic links: where each path leads
+  std::set<std::string> folders;
+  std::vector<std::string> log;  ///< one line a change tried: "rename /a.new0 /a"
+
+  /// Makes the n-th change from now fail, counted from 1. A failing write leaves half the octets.
+  void FailOperation(std::size_t n);
+  /// Makes the n-th change of a kind from now fail, counted from 1.
+  void FailOperation(Change kind, std::size_t n);
+  /// Makes that change and all after it fail, as when the process is killed in its midst.
+  void FailFrom(std::size_t n);
+  /// Nothing fails any more.
+  void Heal();
+
+  std::optional<std::string> Read(const std::string& path) override;
+  bool Exists(const std::string& path) override;
+  std::string Resolve(const std::string& path) override;
+  FileResult Create(const std::string& path) override;
+  FileResult Write(const std::string& path, std::string_view octets) override;
+  FileResult Sync(const std::string& path) override;
+  FileResult Rename(const std::string& from, const std::string& to) override;
+  FileResult Remove(const std::string& path) override;
+  FileResult MakeFolder(const std::string& path) override;
+
+ private:
+  bool Fails(Change kind, const std::string& what);
+
+  std::size_t changes_ = 0;
+  std::map<Change, std::size_t> changesOfKind_;
+  std::set<std::size_t> failing_;
+  std::set<std::pair<Change, std::size_t>> failingOfKind_;
+  std::optional<std::size_t> failFrom_;
+};
+
+}  // namespace ostrel

@@ -1,0 +1,92 @@
+#include <gmock/gmock.h>
+
+#include <algorithm>
+#include <string>
+
+#include "platform/Files.h"
+#include "platform/virtual/VirtualFiles.h"
+
+namespace ostrel {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+constexpr const char* kOld = "the old text";
+constexpr const char* kNew = "the new and longer text";
+
+TEST(SaveWholeTest, WritesBesideSyncsAndRenames) {
+  VirtualFiles files;
+  EXPECT_TRUE(SaveWhole(files, "/a.ocf", kNew).Ok());
+  EXPECT_EQ(files.Read("/a.ocf"), kNew);
+  EXPECT_THAT(files.log, ElementsAre("create /a.ocf.new0", "write /a.ocf.new0", "sync /a.ocf.new0",
+                                     "rename /a.ocf.new0 /a.ocf"));
+}
+
+TEST(SaveWholeTest, AnyFailureLeavesTheOldFileWholeAndNothingElse) {
+  for (const bool exists : {false, true}) {
+    for (std::size_t n = 1; n <= 4; ++n) {
+      SCOPED_TRACE(testing::Message() << "failure of step " << n << ", exists " << exists);
+      VirtualFiles files;
+      if (exists) files.contents["/a.ocf"] = kOld;
+      const auto before = files.contents;
+      files.FailOperation(n);
+      EXPECT_FALSE(SaveWhole(files, "/a.ocf", kNew).Ok());
+      EXPECT_EQ(files.contents, before);
+      EXPECT_TRUE(SaveWhole(files, "/a.ocf", kNew).Ok());
+    }
+  }
+}
+
+TEST(SaveWholeTest, KillAtAnyStepLeavesTheOldOrTheNewFileWhole) {
+  for (std::size_t n = 1; n <= 5; ++n) {
+    VirtualFiles files;
+    files.contents["/a.ocf"] = kOld;
+    files.FailFrom(n);
+    const bool saved = SaveWhole(files, "/a.ocf", kNew).Ok();
+    EXPECT_EQ(files.Read("/a.ocf"), saved ? kNew : kOld) << "killed at step " << n;
+    EXPECT_EQ(saved, n == 5);
+    files.Heal();
+    EXPECT_TRUE(SaveWhole(files, "/a.ocf", "third").Ok()) << "in spite of what is left about";
+    EXPECT_EQ(files.Read("/a.ocf"), "third");
+  }
+}
+
+TEST(SaveWholeTest, FollowsALinkAndLeavesItInPlace) {
+  VirtualFiles files;
+  files.links["/desk.ocf"] = "/shelf.ocf";
+  files.links["/shelf.ocf"] = "/store/real.ocf";
+  files.contents["/store/real.ocf"] = kOld;
+  EXPECT_TRUE(SaveWhole(files, "/desk.ocf", kNew).Ok());
+  EXPECT_EQ(files.contents["/store/real.ocf"], kNew);
+  EXPECT_EQ(files.links.size(), 2u);
+  EXPECT_EQ(files.Read("/desk.ocf"), kNew);
+}
+
+TEST(SaveWholeTest, LeavesForeignFilesAlone) {
+  VirtualFiles files;
+  files.contents["/a.ocf.new0"] = "someone's";
+  EXPECT_TRUE(SaveWhole(files, "/a.ocf", kNew).Ok());
+  EXPECT_EQ(files.contents["/a.ocf.new0"], "someone's");
+  EXPECT_EQ(files.contents.size(), 2u);
+}
+
+TEST(VirtualFilesTest, FailsTheChangeAskedForAndTellsWhy) {
+  VirtualFiles files;
+  files.FailOperation(VirtualFiles::Change::Write, 2);
+  EXPECT_TRUE(files.Create("/a").Ok());
+  EXPECT_TRUE(files.Write("/a", "12345678").Ok());
+  EXPECT_THAT(files.Write("/a", "abcdefgh").error, HasSubstr("/a"));
+  EXPECT_EQ(files.Read("/a"), "abcd") << "a failing write leaves a part";
+  EXPECT_TRUE(files.Write("/a", "whole").Ok());
+  EXPECT_FALSE(files.Create("/a").Ok());
+  EXPECT_FALSE(files.Write("/none", "x").Ok());
+  EXPECT_FALSE(files.Rename("/none", "/a").Ok());
+  EXPECT_FALSE(files.Remove("/none").Ok());
+  EXPECT_EQ(files.Read("/none"), std::nullopt);
+  files.links["/loop"] = "/loop";
+  EXPECT_FALSE(files.Exists("/loop"));
+}
+
+}  // namespace
+}  // namespace ostrel
