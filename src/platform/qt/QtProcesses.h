@@ -1,0 +1,28 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+
+#include "platform/Processes.h"
+
+namespace ostrel {
+
+/// Starts programs. "Explorer" followed by a blank and a path means: show that document in the
+/// viewer of the user's choice; the path may use backslashes.
+class QtProcesses final : public Processes {
+ public:
+  /// Shows an existing document; false when nothing could be started.
+  using Opener = std::function<bool(const std::string& path)>;
+
+  /// Opens documents by the desktop's own command; a window may hand in a better way.
+  explicit QtProcesses(Opener opener = {});
+
+  /// False also when the document does not exist.
+  bool Start(std::string_view commandLine) override;
+
+ private:
+  Opener opener_;
+};
+
+}  // namespace ostrel

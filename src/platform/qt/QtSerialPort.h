@@ -1,0 +1,79 @@
+#pragma once
+
+#include <QSerialPort>
+#include <cstddef>
+#include <functional>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "platform/SerialPort.h"
+#include "platform/qt/PortMap.h"
+#include "platform/qt/QtEventLoop.h"
+
+namespace ostrel {
+
+/// The serial ports of the machine, pseudo-terminals among them. What a device does not have, such
+/// as the modem lines of a pseudo-terminal, is passed over. Loop and map must outlive the port.
+class QtSerialPort final : public SerialPort {
+ public:
+  QtSerialPort(QtEventLoop& loop, const PortMap& map);
+  ~QtSerialPort() override;
+
+  void SetCommPort(int number) override { commPort_ = number; }
+  void SetSettings(std::string_view settings) override { settings_ = settings; }
+  void SetInputLen(int octets) override { inputLen_ = octets; }
+  /// Kept for nothing: whatever the driver has is taken and held, however much it is.
+  void SetInBufferSize(int) override {}
+  void SetHandshaking(PortHandshaking handshaking) override { handshaking_ = handshaking; }
+  void SetRTSEnable(bool on) override;
+  void SetDTREnable(bool on) override;
+  PortFault SetPortOpen(bool open) override;
+  bool PortOpen() const override { return open_; }
+  bool LineLost() const override { return open_ && lost_; }
+  void Output(std::string_view octets) override;
+  /// Counts what the driver holds, too.
+  std::size_t OutBufferCount() const override;
+  std::string Input() override;
+  std::size_t InBufferCount() const override { return received_.size() - taken_; }
+  bool CDHolding() const override { return carrier_; }
+  int CommEvent() const override { return commEvent_; }
+  void SetOnComm(std::function<void()> handler) override { onComm_ = std::move(handler); }
+  PortFault Probe(int number) override;
+  std::vector<PortEntry> Entries() override;
+
+ private:
+  PortFault Open();
+  PortFault OpenDevice(const std::string& path);
+  void Close();
+  void ApplySettings(QSerialPort& device) const;
+  void ApplyModemLine(int line, bool on) const;
+  void TakeIn();
+  void WatchCarrier();
+  void WatchDrain();
+  void Lose();
+
+  QtEventLoop& loop_;
+  const PortMap& map_;
+  int commPort_ = 1;
+  std::string settings_ = "9600,N,8,1";
+  int inputLen_ = 0;
+  PortHandshaking handshaking_ = PortHandshaking::None;
+  bool rts_ = true;
+  bool dtr_ = true;
+  std::unique_ptr<QSerialPort> device_;
+  bool open_ = false;
+  bool lost_ = false;
+  std::string received_;  ///< up to `taken_` already read
+  std::size_t taken_ = 0;
+  bool carrier_ = false;
+  int commEvent_ = 0;
+  std::function<void()> onComm_;
+  TimerId carrierTimer_ = 0;
+  TimerId drainTimer_ = 0;
+  TimerId loseTimer_ = 0;
+};
+
+}  // namespace ostrel

@@ -1,0 +1,102 @@
+#include <gmock/gmock.h>
+
+#include <QCoreApplication>
+#include <QTimer>
+#include <memory>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+#include "platform/qt/QtEventLoop.h"
+
+namespace ostrel {
+namespace {
+
+using std::chrono::milliseconds;
+using std::chrono::seconds;
+using testing::ElementsAre;
+
+/// The application object that Qt needs, for all tests of this program.
+class QtEnvironment final : public testing::Environment {
+ public:
+  void SetUp() override { application_ = std::make_unique<QCoreApplication>(count_, words_); }
+  void TearDown() override { application_.reset(); }
+
+ private:
+  int count_ = 1;
+  char name_[5] = "test";
+  char* words_[2] = {name_, nullptr};
+  std::unique_ptr<QCoreApplication> application_;
+};
+
+const testing::Environment* const kEnvironment =
+    testing::AddGlobalTestEnvironment(new QtEnvironment);
+
+const auto kNo = [] { return false; };
+
+TEST(QtEventLoopTest, ServesTimersByDueTimeAndKeepsTheDeadline) {
+  QtEventLoop loop;
+  std::vector<std::string> notes;
+  loop.After(milliseconds(4), "second", [&] { notes.push_back("second"); });
+  loop.After(milliseconds(2), "first", [&] { notes.push_back("first"); });
+  const TimerId gone = loop.After(milliseconds(1), "gone", [&] { notes.push_back("gone"); });
+  loop.Cancel(gone);
+  loop.After(milliseconds(4), "third", [&] { notes.push_back("third"); });
+  EXPECT_FALSE(loop.RunUntil(kNo, loop.Now() + milliseconds(12)));
+  EXPECT_GE(loop.Now(), milliseconds(12));
+  EXPECT_THAT(notes, ElementsAre("first", "second", "third"));
+}
+
+TEST(QtEventLoopTest, WaitSleepsInsteadOfPolling) {
+  QtEventLoop loop;
+  int looks = 0;
+  loop.RunUntil([&] { return ++looks < 0; }, loop.Now() + milliseconds(40));
+  EXPECT_LT(looks, 8);
+}
+
+TEST(QtEventLoopTest, TicksArriveInNestedWaitsAndDoNotPileUp) {
+  QtEventLoop loop;
+  int ticks = 0;
+  int nested = 0;
+  const TimerId timer = loop.Every(milliseconds(5), "tick", [&] {
+    if (++ticks == 1) {
+      loop.RunUntil([&] { return ticks == 3; }, loop.Now() + seconds(5));
+      nested = ticks;
+    }
+  });
+  loop.RunUntil([&] { return nested > 0; }, loop.Now() + seconds(5));
+  EXPECT_EQ(nested, 3);
+  const int before = ticks;
+  const TimePoint end = loop.Now() + milliseconds(50);
+  while (loop.Now() < end) continue;  // holds the loop up
+  loop.PumpEvents();
+  loop.PumpEvents();
+  EXPECT_LE(ticks - before, 2) << "ten intervals have gone by";
+  loop.Cancel(timer);
+}
+
+TEST(QtEventLoopTest, ExceptionsReachTheWaitOrTheHandlerAndNeverQt) {
+  QtEventLoop loop;
+  const auto fail = [] { throw std::runtime_error("bound"); };
+  loop.After(Duration::zero(), "outer", [&] {
+    loop.After(Duration::zero(), "inner", fail);
+    EXPECT_THROW(loop.RunUntil(kNo, loop.Now() + seconds(5)), std::runtime_error);
+    loop.After(Duration::zero(), "passes through", fail);
+    loop.RunUntil(kNo, loop.Now() + seconds(5));
+    ADD_FAILURE() << "went on behind an exception";
+  });
+  EXPECT_THROW(loop.RunUntil(kNo, loop.Now() + seconds(5)), std::runtime_error);
+
+  int handled = 0;
+  loop.SetFaultHandler([&](const std::exception_ptr&) {
+    ++handled;
+    QCoreApplication::quit();
+  });
+  loop.After(Duration::zero(), "without a wait", fail);
+  QTimer::singleShot(seconds(5), [] { QCoreApplication::quit(); });
+  QCoreApplication::exec();
+  EXPECT_EQ(handled, 1);
+}
+
+}  // namespace
+}  // namespace ostrel

@@ -1,0 +1,165 @@
+#include <gmock/gmock.h>
+
+#include <filesystem>
+#include <map>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "platform/qt/PortMap.h"
+#include "platform/qt/PseudoTerminal.h"
+#include "platform/qt/QtSerialPort.h"
+
+namespace ostrel {
+namespace {
+
+using std::chrono::milliseconds;
+using std::chrono::seconds;
+
+/// Notes what it gets, and at a carriage return sends all of it back behind an equals sign.
+class AnsweringDevice final : public LineDevice {
+ public:
+  explicit AnsweringDevice(LineEnd& end) : end_(end) {}
+  void Receive(std::string_view octets) override {
+    got += octets;
+    if (octets.back() == '\r') end_.Send("=" + got);
+  }
+  void SetTerminalReady(bool ready) override { got += ready ? "<up>" : "<down>"; }
+
+  std::string got;
+
+ private:
+  LineEnd& end_;
+};
+
+class SerialTest : public testing::Test {
+ protected:
+  void Start(bool paced) {
+    terminal = std::make_unique<PseudoTerminal>(
+        loop,
+        [this](LineEnd& end) {
+          auto made = std::make_unique<AnsweringDevice>(end);
+          device = made.get();
+          return made;
+        },
+        paced);
+    map = PortMap({{200, terminal->SlavePath()}});
+    port.SetCommPort(200);
+    port.SetSettings("9600,N,8,1");
+    port.SetHandshaking(PortHandshaking::RtsCts);
+    port.SetRTSEnable(false);
+    port.SetDTREnable(true);
+  }
+  bool Await(const EventLoop::Condition& condition) {
+    return loop.RunUntil(condition, loop.Now() + seconds(5));
+  }
+  bool AwaitInUse(bool inUse) {
+    return Await([&, inUse] { return terminal->InUse() == inUse; });
+  }
+
+  QtEventLoop loop;
+  PortMap map;
+  std::unique_ptr<PseudoTerminal> terminal;
+  AnsweringDevice* device = nullptr;
+  QtSerialPort port{loop, map};
+};
+
+TEST_F(SerialTest, RoundTripsOfAllOctetsThroughRepeatedOpenings) {
+  Start(false);
+  std::string all;
+  for (int octet = 0; octet < 256; ++octet) all += static_cast<char>(octet);
+  all += '\r';
+  for (int pass = 0; pass < 3; ++pass) {
+    SCOPED_TRACE(pass);
+    device->got.clear();
+    ASSERT_EQ(port.SetPortOpen(true), PortFault::None);
+    EXPECT_EQ(port.SetPortOpen(true), PortFault::Failed);
+    ASSERT_TRUE(AwaitInUse(true));
+    port.Output(all);
+    const std::string expected = "=<up>" + all;
+    EXPECT_TRUE(Await([&] { return port.InBufferCount() >= expected.size(); }));
+    EXPECT_EQ(port.OutBufferCount(), 0u);
+    port.SetInputLen(1);
+    EXPECT_EQ(port.Input(), "=");
+    port.SetInputLen(0);
+    EXPECT_EQ(port.Input(), expected.substr(1));
+    port.SetPortOpen(false);
+    EXPECT_TRUE(AwaitInUse(false));
+    EXPECT_EQ(device->got, "<up>" + all + "<down>");
+  }
+}
+
+TEST_F(SerialTest, LargeTransfersPassWhole) {
+  Start(false);
+  ASSERT_EQ(port.SetPortOpen(true), PortFault::None);
+  std::string text(100'000, 'x');
+  text += '\r';
+  port.Output(text);
+  EXPECT_GT(port.OutBufferCount(), 0u);
+  std::string got;
+  Await([&] {
+    got += port.Input();
+    return got.size() >= text.size() + 5;
+  });
+  EXPECT_EQ(got.size(), text.size() + 5);
+}
+
+TEST_F(SerialTest, HangUpIsNoticedAtOnceAndDoesNotSpin) {
+  Start(false);
+  ASSERT_EQ(port.SetPortOpen(true), PortFault::None);
+  ASSERT_TRUE(AwaitInUse(true));
+  const TimePoint start = loop.Now();
+  terminal->Vanish();
+  EXPECT_TRUE(Await([&] { return port.LineLost(); }));
+  EXPECT_LT(loop.Now() - start, milliseconds(100));
+  EXPECT_TRUE(port.PortOpen());
+  port.Output("into nothing");
+  int looks = 0;
+  loop.RunUntil([&] { return ++looks < 0; }, loop.Now() + milliseconds(30));
+  EXPECT_LT(looks, 10);
+  port.SetPortOpen(false);
+  EXPECT_FALSE(port.LineLost());
+}
+
+TEST_F(SerialTest, PacedTerminalKeepsLineSpeedBothWays) {
+  Start(true);
+  ASSERT_EQ(port.SetPortOpen(true), PortFault::None);
+  ASSERT_TRUE(AwaitInUse(true));
+  const TimePoint start = loop.Now();
+  port.Output(std::string(95, 'x') + '\r');
+  const std::size_t expected = 96 + 5;
+  EXPECT_TRUE(Await([&] { return port.InBufferCount() == expected; }));
+  EXPECT_GE(loop.Now() - start, LineTime(96) + LineTime(expected));
+}
+
+TEST_F(SerialTest, ProbeAndOpenTellFaults) {
+  Start(false);
+  QtSerialPort other(loop, map);
+  other.SetCommPort(200);
+  EXPECT_EQ(port.Probe(200), PortFault::None);
+  ASSERT_EQ(port.SetPortOpen(true), PortFault::None);
+  EXPECT_EQ(port.Probe(200), PortFault::None) << "the port in use";
+  EXPECT_EQ(other.Probe(200), PortFault::Busy);
+  EXPECT_EQ(other.SetPortOpen(true), PortFault::Busy);
+  EXPECT_FALSE(other.PortOpen());
+  EXPECT_EQ(other.Probe(96), PortFault::NoSuchPort);
+  EXPECT_EQ(other.Probe(256), PortFault::NoSuchPort);
+  map = PortMap({{201, "/dev/null"}});
+  EXPECT_EQ(other.Probe(201), PortFault::Failed) << "no terminal";
+}
+
+TEST_F(SerialTest, EntriesAreTheNodesThatExist) {
+  Start(false);
+  bool found = false;
+  int last = 0;
+  for (const PortEntry& entry : port.Entries()) {
+    EXPECT_GT(entry.number, last);
+    last = entry.number;
+    EXPECT_TRUE(std::filesystem::exists(entry.device));
+    found = found || (entry.number == 200 && entry.device == terminal->SlavePath());
+  }
+  EXPECT_TRUE(found);
+}
+
+}  // namespace
+}  // namespace ostrel

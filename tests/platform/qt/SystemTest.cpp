@@ -1,0 +1,126 @@
+#include <gmock/gmock.h>
+#include <sys/stat.h>
+
+#include <QTemporaryDir>
+#include <filesystem>
+#include <fstream>
+#include <string>
+#include <vector>
+
+#include "platform/qt/PortMap.h"
+#include "platform/qt/QtFiles.h"
+#include "platform/qt/QtProcesses.h"
+#include "platform/qt/QtSettings.h"
+
+namespace ostrel {
+namespace {
+
+namespace fs = std::filesystem;
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+class SystemTest : public testing::Test {
+ protected:
+  std::string Path(const std::string& name) const {
+    return folder.path().toStdString() + "/" + name;
+  }
+
+  QTemporaryDir folder;
+  QtFiles files;
+};
+
+TEST_F(SystemTest, SavesThroughALinkWithThePermissionsOfANewFile) {
+  ASSERT_TRUE(files.MakeFolder(Path("store/deep")).Ok());
+  ASSERT_TRUE(files.MakeFolder(Path("store/deep")).Ok());
+  const std::string real = Path("store/deep/real.ocf");
+  fs::create_symlink("store/deep/real.ocf", Path("step.ocf"));
+  fs::create_symlink(Path("step.ocf"), Path("link.ocf"));
+  EXPECT_EQ(files.Resolve(Path("link.ocf")), real) << "also while nothing stands there";
+  const mode_t mask = ::umask(0027);
+  std::string content(300'000, '\0');
+  content += "\r\nend";
+  for (const std::string& text : {std::string("short"), content, std::string()}) {
+    EXPECT_EQ(SaveWhole(files, Path("link.ocf"), text).error, "");
+    EXPECT_EQ(files.Read(real), text);
+  }
+  ::umask(mask);
+  struct stat state {};
+  ASSERT_EQ(::stat(real.c_str(), &state), 0);
+  EXPECT_EQ(state.st_mode & 0777, 0640u);
+  EXPECT_TRUE(fs::is_symlink(Path("link.ocf")) && fs::is_symlink(Path("step.ocf")));
+  EXPECT_EQ(std::distance(fs::directory_iterator(Path("store/deep")), {}), 1);
+}
+
+TEST_F(SystemTest, FilesTellWhatFailed) {
+  EXPECT_TRUE(files.Create(Path("a")).Ok());
+  EXPECT_THAT(files.Create(Path("a")).error, HasSubstr(Path("a") + ": "));
+  EXPECT_FALSE(files.MakeFolder(Path("a/b")).Ok());
+  EXPECT_FALSE(files.Write(Path("none"), "x").Ok());
+  EXPECT_FALSE(files.Sync(Path("none")).Ok());
+  EXPECT_FALSE(files.Rename(Path("none"), Path("a")).Ok());
+  EXPECT_FALSE(files.Remove(Path("none")).Ok());
+  EXPECT_FALSE(SaveWhole(files, Path("no/folder.ocf"), "x").Ok());
+  EXPECT_EQ(files.Read(folder.path().toStdString()), std::nullopt);
+  EXPECT_EQ(files.Read("/dev/zero"), std::nullopt);
+  fs::create_symlink(Path("loop"), Path("loop"));
+  EXPECT_FALSE(files.Exists(Path("loop")));
+  EXPECT_EQ(files.Read(Path("loop")), std::nullopt);
+  EXPECT_TRUE(SaveWhole(files, Path("loop"), "x").Ok()) << "takes the place of what leads nowhere";
+}
+
+TEST_F(SystemTest, SettingsKeepThreeLevelsAndAnyText) {
+  const std::vector<std::string> texts = {"1", "a, b; c=\"d\"", "Español\n\\", " blanks ",
+                                          "/dev/x"};
+  for (const std::string& text : texts) {
+    QtSettings(Path("user.ini")).Set("Quorvane", "Ostrel Configurator", "Key", text);
+    const QtSettings reopened(Path("user.ini"));
+    EXPECT_EQ(reopened.Get("Quorvane", "Ostrel Configurator", "Key"), text);
+    EXPECT_EQ(reopened.Get("Quorvane", "Ostrel", "Configurator/Key"), "");
+    EXPECT_EQ(reopened.Get("Other", "Ostrel Configurator", "Key"), "");
+  }
+}
+
+TEST_F(SystemTest, PortMapNumbersDevices) {
+  QtSettings settings(Path("user.ini"));
+  settings.Set("Quorvane", "Ostrel Configurator", "Ports",
+               "161=/dev/one;x=/dev/two;251=/dev/sim;0=/dev/zero;163=;2=/dev/own;9;;162=/dev/a=b");
+  PortMap map = PortMap::FromSettings(settings);
+  const std::vector<std::pair<int, std::string>> rows = {
+      {1, "/dev/ttyS0"},      {2, "/dev/own"},       {32, "/dev/ttyS31"},
+      {33, "/dev/ttyUSB0"},   {96, "/dev/ttyUSB63"}, {97, "/dev/ttyACM0"},
+      {160, "/dev/ttyACM63"}, {161, "/dev/one"},     {162, "/dev/a=b"}};
+  for (const auto& [number, path] : rows) {
+    EXPECT_EQ(map.DeviceOf(number), path);
+    EXPECT_EQ(map.NumberFor(path), number);
+  }
+  for (const int number : {0, -1, 163, 251, 256, 257})
+    EXPECT_EQ(map.DeviceOf(number), "") << number;
+  fs::create_symlink("/dev/null", Path("adapter"));
+  EXPECT_EQ(map.NumberFor(Path("adapter")), 163);
+  EXPECT_EQ(map.NumberFor("/dev/pts/3"), 164);
+  EXPECT_EQ(map.NumberFor(Path("adapter")), 163);
+  EXPECT_EQ(map.DeviceOf(164), "/dev/pts/3");
+  for (int number = 165; number <= 250; ++number) {
+    EXPECT_EQ(map.NumberFor("/dev/x" + std::to_string(number)), number);
+  }
+  EXPECT_EQ(map.NumberFor("/dev/one too many"), 0);
+  EXPECT_EQ(map.NumberFor(""), 0);
+}
+
+TEST_F(SystemTest, ExplorerShowsDocumentsThatExist) {
+  std::vector<std::string> opened;
+  QtProcesses processes([&](const std::string& path) {
+    opened.push_back(path);
+    return true;
+  });
+  files.MakeFolder(Path("my html"));
+  files.Create(Path("my html/Gene_ES.htm"));
+  EXPECT_TRUE(processes.Start("Explorer " + Path("my html\\Gene_ES.htm")));
+  EXPECT_FALSE(processes.Start("Explorer " + Path("my html\\None_ES.htm")));
+  EXPECT_FALSE(processes.Start(Path("no-such-program") + " x"));
+  EXPECT_FALSE(processes.Start(""));
+  EXPECT_THAT(opened, ElementsAre(Path("my html/Gene_ES.htm")));
+}
+
+}  // namespace
+}  // namespace ostrel
