@@ -1,0 +1,22 @@
+#pragma once
+
+#include <cmath>
+#include <concepts>
+#include <limits>
+
+#include "lang/Values.h"
+
+namespace ostrel {
+
+/// Stores a number in a field of the model: rounded to even for whole numbers. A number outside
+/// the field's width leaves the field as it was.
+template <std::integral T>
+void Assign(T& field, double number) {
+  field = RoundToEven<T>(number).value_or(field);
+}
+
+inline void Assign(float& field, double number) {
+  if (std::abs(number) <= std::numeric_limits<float>::max()) field = static_cast<float>(number);
+}
+
+}  // namespace ostrel

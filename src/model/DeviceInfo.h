@@ -1,0 +1,21 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+namespace ostrel {
+
+/// What the connected logger reports of itself.
+struct DeviceInfo {
+  float FirmwareVersion = 0;  ///< hundredths: 123 is version 1.23
+  std::int32_t Features = 0;  ///< firmware feature mask; 0 until a logger has reported one
+  std::string SerialNumber;
+  float BatteryVoltage = 0;  ///< volts
+  std::int16_t Rssi = 0;     ///< signal strength as the modem counts it
+  double LogSize = 0;        ///< depth of the log in records
+  double LogUsed = 0;        ///< records in use
+
+  bool operator==(const DeviceInfo&) const = default;
+};
+
+}  // namespace ostrel
