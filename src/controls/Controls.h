@@ -1,0 +1,235 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "controls/Face.h"
+#include "lang/Values.h"
+#include "platform/EventLoop.h"
+
+namespace ostrel {
+
+class Form;
+
+// Plain control objects. Each registers itself with its form when it is made and lives as long as
+// the form. Setting a value from code runs the click logic exactly as a user's click does, when it
+// changes something.
+
+/// A text that the operator only reads.
+class Label {
+ public:
+  Label(Form& form, std::string_view name, std::string_view key = "");
+  Face face;
+};
+
+/// A titled box around other controls; disabling it disables what the window puts inside.
+class Frame {
+ public:
+  Frame(Form& form, std::string_view name, std::string_view key = "");
+  Face face;
+};
+
+class Button {
+ public:
+  Button(Form& form, std::string_view name, std::string_view key);
+  /// Runs the click logic, unless the button is disabled.
+  void Click();
+
+  Face face;
+  std::function<void()> OnClick;
+};
+
+class CheckBox {
+ public:
+  CheckBox(Form& form, std::string_view name, std::string_view key);
+  bool Checked() const { return checked_; }
+  void SetChecked(bool checked);
+
+  Face face;
+  std::function<void()> OnClick;
+
+ private:
+  bool checked_ = false;
+};
+
+class OptionButton;
+
+/// Option buttons of which one at the most is selected.
+class OptionGroup {
+ public:
+  void Add(OptionButton& option) { options_.push_back(&option); }
+  const std::vector<OptionButton*>& Options() const { return options_; }
+
+ private:
+  std::vector<OptionButton*> options_;
+};
+
+class OptionButton {
+ public:
+  OptionButton(Form& form, OptionGroup& group, std::string_view name, std::string_view key);
+  bool Selected() const { return selected_; }
+  /// Selecting clears the other options of the group and runs the click logic; clearing leaves the
+  /// group with none selected.
+  void SetSelected(bool selected);
+
+  Face face;
+  std::function<void()> OnClick;
+
+ private:
+  OptionGroup& group_;
+  bool selected_ = false;
+};
+
+class TextBox {
+ public:
+  /// `maxLength` is in characters, 0 for none; it limits typing, not texts set by code.
+  TextBox(Form& form, std::string_view name, int maxLength = 0);
+  const std::string& Text() const { return text_; }
+  void SetText(std::string_view text);
+  /// What a user's edit does: the text is cut at the length limit.
+  void Type(std::string_view text);
+  int MaxLength() const { return maxLength_; }
+
+  Face face;
+
+ private:
+  std::string text_;
+  int maxLength_;
+};
+
+/// One row of a list, with the value that stands for it.
+struct ListRow {
+  std::string text;
+  std::int32_t value = 0;
+  bool operator==(const ListRow&) const = default;
+};
+
+/// A drop-down list: one row is chosen, or none (position -1).
+class ComboBox {
+ public:
+  ComboBox(Form& form, std::string_view name);
+  const std::vector<ListRow>& Rows() const { return rows_; }
+  void Add(std::string_view text, std::int32_t value = 0);
+  void Clear();
+  int Position() const { return position_; }
+  /// Chooses a row; a position that does not exist changes nothing.
+  void SetPosition(int position);
+  /// Text of the chosen row; empty when there is none.
+  std::string Text() const;
+  /// Value of the chosen row; `none` when there is none.
+  std::int32_t Value(std::int32_t none = 0) const;
+
+  Face face;
+  std::function<void()> OnClick;
+
+ private:
+  std::vector<ListRow> rows_;
+  int position_ = -1;
+};
+
+/// An open list with one row selected, or none.
+class ListBox {
+ public:
+  ListBox(Form& form, std::string_view name);
+  const std::vector<ListRow>& Rows() const { return rows_; }
+  /// Text of a row; empty beyond the end.
+  std::string RowText(int row) const;
+  void Add(std::string_view text, std::int32_t value = 0);
+  /// Removes a row; one that does not exist changes nothing. The selection is lost when it was it.
+  void Remove(int row);
+  void Clear();
+  int Position() const { return position_; }
+  void SetPosition(int position);
+  /// Selects the row and runs the double-click logic.
+  void DoubleClick(int row);
+
+  Face face;
+  std::function<void()> OnDoubleClick;
+
+ private:
+  std::vector<ListRow> rows_;
+  int position_ = -1;
+};
+
+/// An open list in which any number of rows is selected.
+class MultiListBox {
+ public:
+  MultiListBox(Form& form, std::string_view name);
+  const std::vector<ListRow>& Rows() const { return rows_; }
+  void Add(std::string_view text, std::int32_t value = 0);
+  void Clear();
+  bool Selected(int row) const;
+  void SetSelected(int row, bool selected);
+  void UnselectAll();
+
+  Face face;
+
+ private:
+  std::vector<ListRow> rows_;
+  std::vector<bool> selected_;
+};
+
+/// A time of day.
+class TimePicker {
+ public:
+  TimePicker(Form& form, std::string_view name);
+  TimeOfDay Value() const { return value_; }
+  void SetValue(TimeOfDay value);
+
+  Face face;
+
+ private:
+  TimeOfDay value_;
+};
+
+/// A bar from 0 to its maximum. A value above the maximum is kept and shown as full.
+class ProgressBar {
+ public:
+  ProgressBar(Form& form, std::string_view name);
+  int Maximum() const { return maximum_; }
+  int Value() const { return value_; }
+  void SetMaximum(int maximum);
+  void SetValue(int value);
+
+  Face face;
+
+ private:
+  int maximum_ = 100;
+  int value_ = 0;
+};
+
+/// A picture out of a list of images; 0 is the picture of the design.
+class Picture {
+ public:
+  Picture(Form& form, std::string_view name);
+  int Image() const { return image_; }
+  void SetImage(int image);
+
+  Face face;
+
+ private:
+  int image_ = 0;
+};
+
+/// A periodic timer on the event loop, running while it is enabled.
+class Timer {
+ public:
+  Timer(Form& form, std::string_view name, EventLoop& loop, Duration interval);
+  ~Timer();
+  Duration Interval() const { return interval_; }
+  bool Enabled() const { return running_ != 0; }
+  void SetEnabled(bool enabled);
+
+  Face face;
+  std::function<void()> OnTimer;
+
+ private:
+  EventLoop& loop_;
+  Duration interval_;
+  TimerId running_ = 0;
+};
+
+}  // namespace ostrel

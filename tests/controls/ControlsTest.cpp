@@ -1,0 +1,136 @@
+#include <gtest/gtest.h>
+
+#include "controls/Controls.h"
+#include "controls/Form.h"
+#include "controls/NumberBox.h"
+#include "platform/virtual/VirtualLoop.h"
+
+namespace ostrel {
+namespace {
+
+TEST(Controls, ClickLogicRunsOnceForEachChangeFromCodeOrUser) {
+  Form form("F", "");
+  CheckBox check(form, "Check", "");
+  int clicks = 0, changes = 0;
+  check.OnClick = [&] { ++clicks; };
+  check.face.OnChanged = [&] { ++changes; };
+  check.SetChecked(true);
+  check.SetChecked(true);
+  EXPECT_EQ(clicks, 1);
+  EXPECT_EQ(changes, 1);
+  check.SetChecked(false);
+  EXPECT_EQ(clicks, 2);
+}
+
+TEST(Controls, AnOptionClearsTheOthersOfItsGroupWithoutTheirLogic) {
+  Form form("F", "");
+  OptionGroup group;
+  std::string log;
+  OptionButton first(form, group, "First", ""), second(form, group, "Second", "");
+  first.OnClick = [&] { log += "1"; };
+  second.OnClick = [&] { log += "2"; };
+  first.SetSelected(true);
+  second.SetSelected(true);
+  EXPECT_FALSE(first.Selected());
+  second.SetSelected(true);
+  second.SetSelected(false);
+  EXPECT_EQ(log, "12");
+  EXPECT_FALSE(first.Selected() || second.Selected()) << "clearing leaves none selected";
+}
+
+TEST(Controls, PositionsThatDoNotExistChangeNothing) {
+  Form form("F", "");
+  ComboBox combo(form, "Combo");
+  ListBox list(form, "List");
+  combo.Add("a", 5);
+  list.Add("x");
+  list.Add("y");
+  combo.SetPosition(0);
+  for (const int bad : {-1, 1, 99}) combo.SetPosition(bad);
+  EXPECT_EQ(combo.Position(), 0);
+  EXPECT_EQ(combo.Value(), 5);
+  list.SetPosition(1);
+  list.SetPosition(2);
+  EXPECT_EQ(list.Position(), 1);
+  list.Remove(0);
+  EXPECT_EQ(list.Position(), 0) << "the selection stays on its row";
+  list.Remove(0);
+  list.Remove(0);
+  EXPECT_EQ(list.Position(), -1);
+  EXPECT_EQ(list.RowText(0), "");
+  combo.Clear();
+  EXPECT_EQ(combo.Value(7), 7);
+}
+
+TEST(Controls, TypingIsLimitedInCharactersAndCodeIsNot) {
+  Form form("F", "");
+  TextBox box(form, "Box", 3);
+  box.Type("ñandú");
+  EXPECT_EQ(box.Text(), "ñan");
+  box.SetText("ñandú");
+  EXPECT_EQ(box.Text(), "ñandú");
+}
+
+TEST(Controls, ADisabledButtonDoesNothing) {
+  Form form("F", "");
+  Button button(form, "B", "");
+  int clicks = 0;
+  button.OnClick = [&] { ++clicks; };
+  button.face.SetEnabled(false);
+  button.Click();
+  button.face.SetEnabled(true);
+  button.Click();
+  EXPECT_EQ(clicks, 1);
+}
+
+TEST(Controls, ATimerTicksWhileItIsEnabledAndEndsWithItsForm) {
+  VirtualLoop loop;
+  int ticks = 0;
+  {
+    Form form("F", "");
+    Timer timer(form, "T", loop, std::chrono::seconds(1));
+    timer.OnTimer = [&] { ++ticks; };
+    loop.RunFor(std::chrono::seconds(2));
+    EXPECT_EQ(ticks, 0);
+    timer.SetEnabled(true);
+    timer.SetEnabled(true);
+    loop.RunFor(std::chrono::milliseconds(3500));
+    EXPECT_EQ(ticks, 3);
+  }
+  loop.RunFor(std::chrono::seconds(5));
+  EXPECT_EQ(ticks, 3);
+}
+
+TEST(Form, FindsControlsByNameAndTranslatesThoseWithAKey) {
+  Form form("F", "Titulo");
+  CheckBox check(form, "Check", "Habilitar");
+  TextBox box(form, "Box");
+  Label label(form, "State", "");
+  label.face.SetCaption("own");
+  EXPECT_EQ(&form.Get<CheckBox>("Check"), &check);
+  EXPECT_THROW(form["None"], std::logic_error);
+  EXPECT_THROW(Label(form, "Box"), std::logic_error) << "names are unique";
+  form.TranslateCaptions([](std::string_view key) { return "<" + std::string(key) + ">"; });
+  EXPECT_EQ(form.Title(), "<Titulo>");
+  EXPECT_EQ(check.face.Caption(), "<Habilitar>");
+  EXPECT_EQ(label.face.Caption(), "own");
+}
+
+TEST(CheckNumberBox, ColoursByKind) {
+  struct Case {
+    std::string_view text, kind;
+    bool valid;
+  };
+  Form form("F", "");
+  TextBox box(form, "Box");
+  for (const auto& [text, kind, valid] :
+       {Case{" 12", "int", true}, Case{"12.5", "int", false}, Case{"12.5", "float", true},
+        Case{"1,5", "float", false}, Case{"", "float", false}, Case{"12", "text", false}}) {
+    box.SetText(text);
+    EXPECT_EQ(CheckNumberBox(box, kind), valid) << text << " as " << kind;
+    EXPECT_EQ(box.face.Colour(), valid ? BackColour::Window : BackColour::Red);
+  }
+}
+
+}  // namespace
+}  // namespace ostrel
