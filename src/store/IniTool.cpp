@@ -1,0 +1,36 @@
+#include "store/IniTool.h"
+
+#include "lang/CodePage.h"
+
+namespace ostrel {
+namespace {
+
+std::string_view WithoutQuotes(std::string_view value) {
+  if (value.size() < 2 || value.front() != value.back()) return value;
+  if (value.front() != '"' && value.front() != '\'') return value;
+  return value.substr(1, value.size() - 2);
+}
+
+}  // namespace
+
+std::string IniTool::ProfileRead(std::string_view section, std::string_view key,
+                                 const std::string& path) {
+  if (!index_ || path != path_) {
+    index_.emplace(files_.Read(path).value_or(""));
+    path_ = path;
+  }
+  const std::string_view value = index_->Find(ToCodePage(section), ToCodePage(key));
+  return FromCodePage(WithoutQuotes(value).substr(0, kProfileValueLimit));
+}
+
+void ConfWriteKey(std::string_view value, std::string_view section, std::string_view key,
+                  IniClass& ini) {
+  ini.WriteKey(section, key, value);
+}
+
+std::string ConfReadKey(IniTool& tool, std::string_view section, std::string_view key,
+                        const std::string& path) {
+  return tool.ProfileRead(section, key, path);
+}
+
+}  // namespace ostrel
