@@ -1,0 +1,57 @@
+#include "link/Comms.h"
+
+#include <utility>
+
+#include "link/WireText.h"
+
+namespace ostrel {
+
+Comms::Comms(const Platform& platform, const LinkRecords& records, LinkHooks hooks)
+    : platform_(platform), records_(records), hooks_(std::move(hooks)), countdown_(platform.loop) {
+  platform_.port.SetOnComm([this] {
+    const bool changed = platform_.port.CommEvent() == kCommEventCarrier;
+    if (changed && !platform_.port.CDHolding() && hooks_.carrierLost) hooks_.carrierLost();
+  });
+}
+
+Comms::~Comms() { platform_.port.SetOnComm({}); }
+
+void Comms::SetWire(std::vector<WireSection> sections, std::vector<WireBlock> blocks) {
+  sections_.clear();
+  // The first one of a key counts.
+  for (WireSection& section : sections)
+    sections_.try_emplace(std::string(section.key), std::move(section.read));
+  blocks_ = std::move(blocks);
+}
+
+Duration Comms::SilentFor() const {
+  if (!LinkBusy || !awaitedSince_) return Duration::zero();
+  return platform_.loop.Now() - *awaitedSince_;
+}
+
+bool Comms::Fail(LinkFault::Kind kind, int number, std::string text) {
+  if (platform_.port.LineLost()) kind = LinkFault::Kind::LineLost;
+  if (!PortOpen()) kind = LinkFault::Kind::PortClosed;
+  fault_ = {kind, number, std::move(text)};
+  return false;
+}
+
+bool Comms::FailWaiting(int number) {
+  return Fail(damaged_ ? LinkFault::Kind::BadChecksum : LinkFault::Kind::Silence, number);
+}
+
+void Comms::Note(std::string_view what, std::string_view text) const {
+  if (!Trace) return;
+  constexpr std::size_t kStampWidth = 9;
+  std::string line = std::to_string(platform_.loop.Now() / std::chrono::milliseconds(1));
+  if (line.size() < kStampWidth) line.insert(0, kStampWidth - line.size(), ' ');
+  Trace(line.append(" ").append(what).append(MaskCode(text)));
+}
+
+Comms::Dialogue::Dialogue(Comms& comms)
+    : comms_(comms), wasBusy_(comms.LinkBusy), wasOpen_(comms.PortOpen()) {
+  comms.LinkBusy = true;
+  comms.awaitedSince_ = comms.platform_.loop.Now();
+}
+
+}  // namespace ostrel

@@ -1,0 +1,89 @@
+#include "lang/BoundFailure.h"
+#include "link/Comms.h"
+#include "link/WireText.h"
+
+namespace ostrel {
+namespace {
+
+constexpr std::string_view kStreamHead = "#BD";
+constexpr int kBarMaximum = 300;
+constexpr int kAttempts = 3;
+constexpr std::size_t kNumberAt = 4;
+constexpr std::size_t kNumberDigits = 3;
+constexpr std::size_t kKeyAt = 7;
+
+/// Holds a flag up for the length of a scope.
+class Raised {
+ public:
+  explicit Raised(bool& flag) : flag_(flag) { flag_ = true; }
+  ~Raised() { flag_ = false; }
+  Raised(const Raised&) = delete;
+  Raised& operator=(const Raised&) = delete;
+
+ private:
+  bool& flag_;
+};
+
+}  // namespace
+
+bool Comms::ReadConf() {
+  if (LinkBusy) return false;
+  fault_ = {};
+  if (!Alive()) return FailWaiting(0);
+  const Dialogue dialogue(*this);
+  const Raised comBusy(records_.ComBusy);
+  if (hooks_.barMaximum) hooks_.barMaximum(kBarMaximum);
+  if (hooks_.barValue) hooks_.barValue(0);
+  // Once only: what a failed attempt has brought stays.
+  if (hooks_.clearPages) hooks_.clearPages();
+  bool done = false;
+  try {
+    for (int attempt = 0; attempt < kAttempts && !done; ++attempt) {
+      done = DownloadOnce();
+      if (!Alive()) break;
+    }
+  } catch (const BoundFailure& failure) {
+    Note("Bound failure, ", std::string(failure.what()) + ": " + RxLine);
+    return Fail(LinkFault::Kind::IndexOutOfRange, recordReceived_, RxLine);
+  }
+  if (!done) return false;
+  fault_ = {};
+  if (hooks_.barValue) hooks_.barValue(kBarMaximum);
+  if (hooks_.loadPages) hooks_.loadPages();
+  return true;
+}
+
+bool Comms::DownloadOnce() {
+  RxChars = 0;
+  recordExpected_ = 0;
+  if (!Ask("#42")) return FailWaiting(recordExpected_);
+  if (RxLine == kStreamHead) return Fail(LinkFault::Kind::EmptyStream);
+  while (RxLine != kStreamHead) {
+    if (!ParseConfLine()) return Fail(LinkFault::Kind::OutOfSequence, recordExpected_, RxLine);
+    damaged_ = false;
+    if (!RxSer(ReplyTimeout)) return FailWaiting(recordExpected_);
+  }
+  return true;
+}
+
+bool Comms::ParseConfLine() {
+  if (!TakeRecordNumber(kStreamHead)) return false;
+  if (recordReceived_ < kBarMaximum && hooks_.barValue) hooks_.barValue(recordReceived_);
+  const auto section = sections_.find(std::string(Characters(FieldOfLine(RxLine, 1), kKeyAt)));
+  if (section == sections_.end()) return true;  // of a newer firmware
+  const std::string line = RxLine;  // a section may serve events, which may take another line
+  LineReader reader(line);
+  section->second(reader);
+  return true;
+}
+
+bool Comms::TakeRecordNumber(std::string_view head) {
+  if (!RxLine.starts_with(head)) return false;
+  const double number = NumVal(Characters(RxLine, kNumberAt, kNumberDigits));
+  recordReceived_ = RoundToEven<std::int16_t>(number).value_or(-1);
+  if (recordReceived_ != recordExpected_) return false;
+  ++recordExpected_;
+  return true;
+}
+
+}  // namespace ostrel

@@ -1,0 +1,143 @@
+#include <limits>
+
+#include "lang/CodePage.h"
+#include "link/Comms.h"
+#include "link/Frame.h"
+
+namespace ostrel {
+namespace {
+
+constexpr char kEndOfLine = '\r';
+constexpr int kDrainMs = 100;
+constexpr int kAttempts = 3;
+/// Far above the longest answer of any logger.
+constexpr std::size_t kLongestLine = 64 * 1024;
+constexpr Duration kSendingExtra = std::chrono::milliseconds(500);
+
+bool StartsFrame(char c) { return c == '#'; }
+/// The first of a plain line: blanks, line ends and control characters before it are passed over.
+bool StartsPlainLine(char c) { return c > ' ' && c <= '~'; }
+
+/// A running count that starts over instead of overflowing.
+void AddTo(std::int32_t& count, int more) {
+  count = more > std::numeric_limits<std::int32_t>::max() - count ? more : count + more;
+}
+
+}  // namespace
+
+void Comms::TxSer(std::string& message, int timeout) {
+  if (!PortOpen()) return;
+  const std::string plain = Trace ? message : std::string();
+  const std::string frame = FrameOf(ToCodePage(message));
+  message = FromCodePage(frame);
+  const auto send = [&] {
+    Put(frame + kEndOfLine);
+    Note("TxSer: ", plain);
+  };
+  if (timeout <= 0) return send();
+  while (RxSer(kDrainMs)) {
+  }
+  damaged_ = false;
+  for (int attempt = 0; attempt < kAttempts && Alive(); ++attempt) {
+    send();
+    AwaitSent();
+    if (RxSer(timeout)) return;
+  }
+}
+
+bool Comms::RxSer(int timeout) {
+  if (!PortOpen()) return false;
+  const TakenLine line = TakeLine(timeout, StartsFrame);
+  AddTo(RxChars, line.behindFirst);
+  RxLine.clear();
+  if (line.tooLong || (line.complete && !ChecksumOk(line.text))) {
+    damaged_ = true;
+    Note("RxSer Checksum error!");
+    return false;
+  }
+  if (!line.complete) return false;
+  RxLine = FromCodePage(MessageOf(line.text));
+  awaitedSince_ = platform_.loop.Now();
+  Note("RxSer: ", RxLine);
+  return true;
+}
+
+void Comms::TxGsm(std::string_view command, int timeout) {
+  if (!PortOpen()) return;
+  while (RxGsm(kDrainMs)) {
+  }
+  for (int attempt = 0; attempt < kAttempts && Alive(); ++attempt) {
+    Put(ToCodePage(command) + kEndOfLine);
+    Note("TxGsm: ", command);
+    if (timeout <= 0) return;
+    AwaitSent();
+    if (RxGsm(timeout) && RxLine != "+CME ERROR: 515") return;
+  }
+}
+
+bool Comms::RxGsm(int timeout) {
+  if (!PortOpen()) return false;
+  const TakenLine line = TakeLine(timeout, StartsPlainLine);
+  RxLine.clear();
+  if (line.tooLong || !line.complete) return false;
+  RxLine = FromCodePage(line.text);
+  awaitedSince_ = platform_.loop.Now();
+  Note("RxGsm: ", RxLine);
+  return true;
+}
+
+std::string Comms::GetField(int n) const { return std::string(FieldOfLine(RxLine, n)); }
+
+std::string Comms::GetField1(int n) const { return std::string(BracedFieldOfLine(RxLine, n)); }
+
+Comms::TakenLine Comms::TakeLine(int timeout, Starts starts) {
+  TakenLine line;
+  countdown_.Start(timeout);
+  PumpEvents();
+  for (;;) {
+    TakeWaiting(line, starts);
+    if (line.complete || !countdown_.Running() || !Alive()) return line;
+    platform_.loop.RunUntil([this] { return HasInput() || !Alive(); }, countdown_.Deadline());
+  }
+}
+
+/// Takes the characters that have arrived, up to the end of the line: they count even when the
+/// countdown has ended while something else held the loop up.
+void Comms::TakeWaiting(TakenLine& line, Starts starts) {
+  while (!line.complete && HasInput()) {
+    for (const char c : platform_.port.Input()) {
+      if (line.text.empty()) {
+        if (starts(c)) line.text = c;
+        continue;
+      }
+      ++line.behindFirst;
+      line.complete = c == kEndOfLine;
+      if (line.complete) break;
+      line.tooLong = line.text.size() >= kLongestLine;
+      if (!line.tooLong) line.text += c;
+    }
+  }
+}
+
+void Comms::Put(std::string_view octets) { platform_.port.Output(octets); }
+
+void Comms::AwaitSent() {
+  const SerialPort& port = platform_.port;
+  const std::size_t queued = port.OutBufferCount();
+  if (queued == 0) return;
+  platform_.loop.RunUntil([&] { return port.OutBufferCount() == 0 || !Alive(); },
+                          platform_.loop.Now() + 2 * LineTime(queued) + kSendingExtra);
+}
+
+bool Comms::Ask(std::string message) {
+  RxLine.clear();  // a closed port leaves it alone, and an old line is no answer
+  TxSer(message, ReplyTimeout);
+  return !RxLine.empty();
+}
+
+void Comms::AskModem(std::string_view command, int timeout) {
+  RxLine.clear();
+  TxGsm(command, timeout);
+}
+
+}  // namespace ostrel

@@ -1,0 +1,149 @@
+#include "link/Comms.h"
+
+namespace ostrel {
+namespace {
+
+constexpr int kCableReplyMs = 1000;
+constexpr int kModemReplyMs = 10'000;
+constexpr int kQuietLineMs = 1000;
+constexpr int kModemAnswerMs = 1000;
+constexpr int kDialExtraMs = 30'000;
+constexpr int kHangUpMs = 5000;
+constexpr int kGuardMs = 1000;
+constexpr int kBetweenPlusMs = 200;
+constexpr int kCodePasses = 3;
+constexpr int kReceiveBuffer = 8192;
+
+LinkFault::Kind KindOf(PortFault fault) {
+  switch (fault) {
+    case PortFault::None:
+      return LinkFault::Kind::None;
+    case PortFault::NoSuchPort:
+      return LinkFault::Kind::NoSuchPort;
+    case PortFault::Busy:
+      return LinkFault::Kind::PortBusy;
+    case PortFault::NoPermission:
+      return LinkFault::Kind::NoPermission;
+    case PortFault::Failed:
+      break;
+  }
+  return LinkFault::Kind::PortFailed;
+}
+
+std::string PortName(int number) { return "COM" + std::to_string(number); }
+
+}  // namespace
+
+void Comms::ScanPorts() {
+  for (int number = kFirstPort; number <= kLastPort; ++number)
+    if (platform_.port.Probe(number) == PortFault::None && hooks_.portFound)
+      hooks_.portFound(PortName(number));
+}
+
+bool Comms::StartComs(std::int16_t port, const std::string& phone) {
+  bool connected = false;
+  fault_ = {};
+  {
+    const Dialogue dialogue(*this);
+    connected = OpenPort(port) && Connect(phone);
+  }
+  // A flag left behind by whatever ran before must not block the session.
+  if (connected) LinkBusy = false;
+  return connected;
+}
+
+bool Comms::OpenPort(std::int16_t number) {
+  SerialPort& port = platform_.port;
+  port.SetCommPort(number);
+  port.SetSettings("9600,N,8,1");
+  port.SetInputLen(1);
+  port.SetInBufferSize(kReceiveBuffer);
+  port.SetHandshaking(PortHandshaking::RtsCts);
+  port.SetRTSEnable(false);
+  port.SetDTREnable(true);
+  const PortFault opened = port.SetPortOpen(true);
+  if (opened != PortFault::None) fault_ = {KindOf(opened), number, PortName(number)};
+  return opened == PortFault::None;
+}
+
+bool Comms::Connect(const std::string& phone) {
+  if (phone.empty()) {
+    ReplyTimeout = kCableReplyMs;
+    while (RxSer(kQuietLineMs)) {
+    }
+  }
+  if ((phone.empty() || Dial(phone)) && Handshake()) return true;
+  platform_.port.SetPortOpen(false);
+  return false;
+}
+
+bool Comms::Dial(const std::string& phone) {
+  ReplyTimeout = kModemReplyMs;
+  AskModem("ATE0", kModemAnswerMs);
+  AskModem("AT", kModemAnswerMs);
+  if (!RxLine.starts_with("OK")) return Fail(LinkFault::Kind::NoModem, 0, RxLine);
+  AskModem("AT+IFC=2,2", kModemAnswerMs);
+  AskModem("ATD" + phone, ReplyTimeout + kDialExtraMs);
+  if (!RxLine.starts_with("CONNECT")) return Fail(LinkFault::Kind::NoConnect, 0, RxLine);
+  AskAccessCode();
+  return true;
+}
+
+void Comms::AskAccessCode() {
+  for (int pass = 0; pass < kCodePasses && Alive(); ++pass) {
+    AccessCode.clear();
+    awaitedSince_.reset();  // the operator takes the time now
+    if (hooks_.showPWForm) hooks_.showPWForm();
+    awaitedSince_ = platform_.loop.Now();
+    if (AccessCode.empty()) continue;
+    Ask("#11" + AccessCode);
+    if (RxLine == "#PassWord=1") return;
+  }
+}
+
+bool Comms::Handshake() {
+  Ask("#40");
+  return RxLine.starts_with("#BF") || Fail(LinkFault::Kind::NoHandshake, 0, RxLine);
+}
+
+void Comms::CloseComs(bool modem) {
+  const Dialogue dialogue(*this);
+  if (modem && Alive()) HangUp();
+  platform_.port.SetPortOpen(false);
+}
+
+void Comms::HangUp() {
+  constexpr int kPlusSigns = 3;
+  for (int sign = 0; sign < kPlusSigns; ++sign) {
+    Delay(sign == 0 ? kGuardMs : kBetweenPlusMs);
+    Put("+");
+    Note("TxGsm: ", "+");
+  }
+  Delay(kGuardMs);
+  AskModem("ATH", kHangUpMs);
+}
+
+void Comms::Abort() { platform_.port.SetPortOpen(false); }
+
+std::string Comms::GetChar(int timeout) {
+  countdown_.Start(timeout);
+  platform_.loop.RunUntil([this] { return HasInput() || !Alive(); }, countdown_.Deadline());
+  return HasInput() ? platform_.port.Input() : std::string();
+}
+
+void Comms::Delay(int ms) {
+  const bool wasOpen = PortOpen();
+  countdown_.Start(ms);
+  platform_.loop.RunUntil([&] { return !countdown_.Running() || (wasOpen && !PortOpen()); },
+                          countdown_.Deadline());
+}
+
+void Comms::PumpEvents() { platform_.loop.PumpEvents(); }
+
+bool Comms::PortOpen() const { return platform_.port.PortOpen(); }
+
+bool Comms::Alive() const { return PortOpen() && !platform_.port.LineLost(); }
+
+bool Comms::HasInput() const { return platform_.port.InBufferCount() > 0; }
+
+}  // namespace ostrel

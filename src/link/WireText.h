@@ -1,0 +1,24 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+namespace ostrel {
+
+/// A number in decimal with leading zeros up to `digits`.
+std::string Padded(int number, std::size_t digits);
+
+/// Two upper-case hexadecimal digits.
+std::string HexOctet(std::uint8_t octet);
+
+/// Characters of a line, the first of which is 1; as many as there are.
+std::string_view Characters(std::string_view line, std::size_t first,
+                            std::size_t count = std::string_view::npos);
+
+/// A line of the trace in which "****" stands for an access code, as a message or as the echo of
+/// its frame carries it.
+std::string MaskCode(std::string_view text);
+
+}  // namespace ostrel
