@@ -1,0 +1,28 @@
+#include "pages/PageContext.h"
+
+#include "lang/Help.h"
+#include "lang/Lang.h"
+#include "platform/Dialogs.h"
+#include "store/IniTool.h"
+
+namespace ostrel {
+
+std::string PageContext::Translate(std::string_view text) const {
+  return std::string(lang.Translate(text));
+}
+
+std::string PageContext::ConfReadKey(std::string_view section, std::string_view key) const {
+  return std::string(iniTool.ProfileRead(section, key, ConfFilePath));
+}
+
+void PageContext::ShowHelp(std::string_view word) const {
+  ostrel::ShowHelp(platform.processes, programFolder, word);
+}
+
+void PageContext::ShowMessage(std::string_view text, bool isError) const {
+  platform.dialogs.ShowMessage({.text = std::string(text),
+                                .title = profile.TargetName,
+                                .icon = isError ? BoxIcon::Exclamation : BoxIcon::Information});
+}
+
+}  // namespace ostrel

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+
+#include "model/ActionList.h"
+#include "model/DeviceConf.h"
+#include "model/DeviceInfo.h"
+#include "model/RealTimeData.h"
+#include "model/TargetProfile.h"
+#include "platform/Platform.h"
+
+namespace ostrel {
+
+class IniTool;
+class Lang;
+
+/// What all pages share: the records and flags of one configurator, and its services.
+struct PageContext {
+  const Platform& platform;
+  Lang& lang;
+  IniTool& iniTool;
+  DeviceConf& conf;
+  const TargetProfile& profile;
+  DeviceInfo& info;
+  RealTimeData& live;
+  TotalCounts& totals;
+  ActionList& ActionBuffer;  ///< through which a page and the action editor exchange a list
+  const bool& Connected;
+  const bool& ComBusy;
+  const std::string& ConfFilePath;
+  bool timersRun = false;             ///< whether loaded pages tick each second
+  std::string programFolder;          ///< where the help pages stand, without a separator
+  std::function<void()> showActEdit;  ///< shows the action editor on `ActionBuffer`, modal
+
+  /// The text in the language in use.
+  std::string Translate(std::string_view text) const;
+  /// Reads a key of the file at `ConfFilePath`; empty when it is absent.
+  std::string ConfReadKey(std::string_view section, std::string_view key) const;
+  /// Opens the help page of a word.
+  void ShowHelp(std::string_view word) const;
+  /// Shows a box with an OK button, titled with the model's name.
+  void ShowMessage(std::string_view text, bool isError) const;
+};
+
+}  // namespace ostrel

@@ -1,0 +1,134 @@
+#include <gtest/gtest.h>
+
+#include <set>
+
+#include "PageFixture.h"
+#include "pages/ActEdit.h"
+#include "pages/ActionCatalogue.h"
+
+namespace ostrel {
+namespace {
+
+std::string Untranslated(std::string_view text) { return std::string(text); }
+
+TEST(ActionCatalogue, EachModelOffersItsNumbers) {
+  struct Case {
+    const char* model;
+    std::set<int> missing;  // of the numbers that some model offers
+  };
+  const auto run = [](std::set<int> into, int first, int last) {
+    for (int n = first; n <= last; ++n) into.insert(n);
+    return into;
+  };
+  std::set<int> all;
+  for (const auto& [first, last] : {std::pair{1, 39}, {42, 48}, {50, 68}, {70, 125}})
+    all = run(all, first, last);
+  const Case table[] = {
+      {"Tavro BP", run(run(run({}, 70, 78), 98, 101), 110, 125)},
+      {"Tavro BQ",
+       run(run(run(run(run(run(run({}, 45, 47), 54, 56), 59, 64), 66, 68), 70, 78), 81, 88), 98,
+           101)},
+      {"Ostrel VR200", run(run(run(run({}, 50, 52), 81, 88), 98, 101), 110, 125)},
+      {"Ostrel KA1", run(run(run(run(run({}, 44, 47), 50, 56), 70, 78), 81, 88), 110, 125)},
+      {"Ostrel KA2", run(run(run(run(run({}, 44, 47), 50, 56), 70, 78), 81, 88), 110, 125)},
+      {"Ostrel S100",
+       run(run(run(run(run(run(run(run({}, 46, 47), 50, 52), 55, 56), 59, 64), 66, 68), 81, 88), 98,
+               101),
+           104, 109)},
+  };
+  for (const Case& c : table) {
+    TargetProfile model;
+    SelectTarget(model, c.model);
+    std::set<int> expected = all;
+    for (const int n : c.missing) expected.erase(n);
+    if (model.IsBQ)
+      expected = [&] {
+        for (int n = 106; n <= 125; ++n) expected.erase(n);
+        return expected;
+      }();
+    std::set<int> offered;
+    int former = 0;
+    for (const ActionItem& item : OfferedActions(model, Untranslated)) {
+      EXPECT_GT(item.number, former) << "ascending, each once";
+      former = item.number;
+      offered.insert(item.number);
+    }
+    EXPECT_EQ(offered, expected) << c.model;
+  }
+}
+
+TEST(ActionCatalogue, LinesReadAsNumberNameAndIndex) {
+  const auto line = [](const char* model, int number) {
+    TargetProfile profile;
+    SelectTarget(profile, model);
+    for (const ActionItem& item : OfferedActions(profile, Untranslated))
+      if (item.number == number) return item.text;
+    return std::string();
+  };
+  EXPECT_EQ(line("Tavro BP", 1), "1 - Ejecutar macro 0");
+  EXPECT_EQ(line("Ostrel S100", 124), "124 - Registrar grupo de expansiones 14");
+  EXPECT_EQ(line("Tavro BQ", 44), "44 - Leer presion");
+  EXPECT_EQ(line("Tavro BP", 44), "44 - Leer grupo de analogicas 0");
+  EXPECT_EQ(line("Tavro BQ", 53), "53 - Registrar presion");
+  EXPECT_EQ(line("Ostrel VR200", 78), "78 - Registrar MODBUS grupo 3");
+  EXPECT_EQ(line("Tavro BP", 200), "");
+}
+
+class ActEditForm : public PageFixture {
+ protected:
+  ActEditForm() { SelectModel("Tavro BP"); }
+
+  void Fill(std::initializer_list<std::int16_t> numbers) {
+    int place = 0;
+    for (const std::int16_t number : numbers) ActionBuffer[place++] = number;
+  }
+  std::vector<int> Buffer() const { return {ActionBuffer.begin(), ActionBuffer.end()}; }
+  Form& form = actEdit.GetForm();
+  ListBox& list = form.Get<ListBox>("DeviceList");
+};
+
+TEST_F(ActEditForm, AcceptingCompactsAndDropsWhatTheModelLacks) {
+  Fill({5, 0, 98, 200, 7, 5, -3, 125});
+  ActionBuffer[8] = 33;
+  dialogs.OnModal([&](Form&) {
+    ASSERT_EQ(list.Rows().size(), 3U);
+    EXPECT_EQ(list.RowText(1), "7 - Ejecutar macro 6");
+    form.Get<Button>("OKButton").Click();
+  });
+  actEdit.ShowModal();
+  EXPECT_EQ(Buffer(), (std::vector<int>{5, 7, 5, 0, 0, 0, 0, 0, 33}));
+  EXPECT_FALSE(form.Visible());
+}
+
+TEST_F(ActEditForm, LeavingInAnyOtherWayKeepsTheList) {
+  Fill({5, 0, 98});
+  const auto before = Buffer();
+  dialogs.OnModal([&](Form&) {
+    list.SetPosition(0);
+    form.Get<Button>("DelButton").Click();
+    form.Get<Button>("CancelButton").Click();
+  });
+  dialogs.OnModal([&](Form&) { form.Get<Button>("DelButton").Click(); });
+  actEdit.ShowModal();
+  actEdit.ShowModal();
+  EXPECT_EQ(Buffer(), before);
+}
+
+TEST_F(ActEditForm, ANinthActionIsRefusedWithAMessage) {
+  dialogs.OnModal([&](Form&) {
+    form.Get<Button>("AddButton").Click();
+    form.Get<Button>("DelButton").Click();
+    EXPECT_TRUE(list.Rows().empty() && dialogs.boxes.empty()) << "nothing is selected";
+    form.Get<ListBox>("RefList").SetPosition(2);
+    for (int i = 0; i < 9; ++i) form.Get<Button>("AddButton").Click();
+    form.Get<Button>("OKButton").Click();
+  });
+  actEdit.ShowModal();
+  ASSERT_EQ(dialogs.boxes.size(), 1U);
+  EXPECT_EQ(dialogs.boxes[0].text, "No se pueden añadir mas de 8 acciones");
+  EXPECT_EQ(dialogs.boxes[0].title, "Tavro BP");
+  EXPECT_EQ(Buffer(), (std::vector<int>{3, 3, 3, 3, 3, 3, 3, 3, 0}));
+}
+
+}  // namespace
+}  // namespace ostrel

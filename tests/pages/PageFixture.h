@@ -1,0 +1,98 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include "controls/Form.h"
+#include "lang/Lang.h"
+#include "link/Statement.h"
+#include "pages/ActEdit.h"
+#include "pages/Page.h"
+#include "pages/PageContext.h"
+#include "platform/virtual/LinePort.h"
+#include "platform/virtual/VirtualClock.h"
+#include "platform/virtual/VirtualDialogs.h"
+#include "platform/virtual/VirtualFiles.h"
+#include "platform/virtual/VirtualLoop.h"
+#include "platform/virtual/VirtualProcesses.h"
+#include "platform/virtual/VirtualSettings.h"
+#include "store/IniClass.h"
+#include "store/IniTool.h"
+
+namespace ostrel {
+
+/// All that a page stands on, without a link and without a window.
+class PageFixture : public testing::Test {
+ protected:
+  void SelectModel(std::string_view name) { SelectTarget(profile, name); }
+
+  /// Feeds a line of the configuration stream, given from its key on, to the page.
+  void Receive(Page& page, const std::string& line) {
+    const std::string whole = "#BD000" + line;
+    const std::string key = line.substr(0, line.find(','));
+    for (const WireSection& section : page.WireSections()) {
+      if (section.key != key) continue;
+      LineReader reader(whole);
+      return section.read(reader);
+    }
+    FAIL() << "no section for " << key;
+  }
+
+  /// The statements of all blocks of a page.
+  std::vector<std::string> Statements(Page& page) {
+    StatementList list;
+    for (const WireBlock& block : page.WireBlocks()) block.compose(list);
+    return list.All();
+  }
+
+  /// The page's keys as the text of a file.
+  std::string FileText(Page& page) {
+    IniClass document(files);
+    document.NewINI();
+    page.SaveConf(document);
+    return document.OutputINI();
+  }
+
+  /// Makes a text the file that pages restore from.
+  void PutFile(const std::string& text) {
+    files.contents[ConfFilePath] = text;
+    iniTool.Forget();
+  }
+
+  VirtualLoop loop;
+  LinePort port{loop};
+  VirtualSettings store;
+  VirtualDialogs dialogs;
+  VirtualFiles files;
+  VirtualProcesses processes;
+  VirtualClock clock;
+  Platform platform{loop, port, store, dialogs, files, processes, clock};
+  Lang lang{files, "Lang.txt"};
+  IniTool iniTool{files};
+  DeviceConf conf;
+  TargetProfile profile;
+  DeviceInfo info;
+  RealTimeData live;
+  TotalCounts totals;
+  ActionList ActionBuffer;
+  bool Connected = false;
+  bool ComBusy = false;
+  std::string ConfFilePath = "conf.ocf";
+  PageContext context{.platform = platform,
+                      .lang = lang,
+                      .iniTool = iniTool,
+                      .conf = conf,
+                      .profile = profile,
+                      .info = info,
+                      .live = live,
+                      .totals = totals,
+                      .ActionBuffer = ActionBuffer,
+                      .Connected = Connected,
+                      .ComBusy = ComBusy,
+                      .ConfFilePath = ConfFilePath,
+                      .timersRun = true,
+                      .programFolder = "/opt/ostrel",
+                      .showActEdit = [this] { actEdit.ShowModal(); }};
+  ActEdit actEdit{context};
+};
+
+}  // namespace ostrel
