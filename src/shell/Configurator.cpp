@@ -1,0 +1,208 @@
+#include "shell/Configurator.h"
+
+#include <algorithm>
+
+#include "pages/E_Analog.h"
+#include "pages/E_Digital.h"
+#include "pages/Flags.h"
+#include "pages/Grupos.h"
+#include "platform/Dialogs.h"
+#include "platform/EventLoop.h"
+#include "platform/Files.h"
+#include "shell/Orders.h"
+
+namespace ostrel {
+namespace {
+
+constexpr std::string_view kMaker = "Quorvane";
+
+std::vector<std::unique_ptr<Page>> MakePages(PageContext& context) {
+  std::vector<std::unique_ptr<Page>> pages;
+  pages.push_back(std::make_unique<General>(context));
+  pages.push_back(std::make_unique<E_Digital>(context));
+  pages.push_back(std::make_unique<E_Analog>(context));
+  pages.push_back(std::make_unique<Grupos>(context));
+  pages.push_back(std::make_unique<Flags>(context));
+  return pages;
+}
+
+}  // namespace
+
+Configurator::Configurator(const Platform& platform, ConfiguratorOptions options)
+    : settings(platform.settings),
+      lang(platform.files, options.langFile),
+      iniTool(platform.files),
+      context{.platform = platform_,
+              .lang = lang,
+              .iniTool = iniTool,
+              .conf = conf,
+              .profile = profile,
+              .info = info,
+              .live = live,
+              .totals = totals,
+              .ActionBuffer = ActionBuffer,
+              .Connected = Connected,
+              .ComBusy = ComBusy,
+              .ConfFilePath = ConfFilePath,
+              .timersRun = options.ticking,
+              .programFolder = options.programFolder,
+              .showActEdit = [this] { actEdit.ShowModal(); }},
+      platform_(platform),
+      options_(std::move(options)),
+      pages_(MakePages(context)),
+      general(static_cast<General&>(*pages_.front())),
+      comms(platform_, {profile, info, live, totals, ComBusy}, MakeHooks()),
+      session(context, comms, general, Connected),
+      actEdit(context),
+      pwForm(context),
+      langForm(context),
+      targetSelect(context, settings,
+                   [this](const std::string& name) { TargetDeviceChange(name); }) {
+  if (options_.ticking) general.OnScanPorts = [this] { comms.ScanPorts(); };
+  RegisterWire();
+}
+
+Configurator::~Configurator() = default;
+
+LinkHooks Configurator::MakeHooks() {
+  SessionFrame& frame = general.Session();
+  return {
+      .clearPages = [this] { ForEach(kClearAtDownload, [](Page& page) { page.Clear(); }); },
+      .loadPages = [this] { ForEach(kLoadAfterDownload, [](Page& page) { page.LoadData(); }); },
+      .barMaximum = [&frame](int maximum) { frame.PBar.SetMaximum(maximum); },
+      .barValue = [&frame](int value) { frame.PBar.SetValue(value); },
+      .infoChanged = [this](std::string_view key) { general.ShowInfo(key); },
+      .showPWForm = [this] { pwForm.ShowModal(comms.AccessCode); },
+      .carrierLost = [this] { ShowCarrierLost(); },
+      .portFound = [&frame](std::string_view name) { frame.Puerto.Add(name); },
+  };
+}
+
+void Configurator::RegisterWire() {
+  std::vector<WireSection> sections;
+  std::vector<WireBlock> found;
+  for (const auto& page : pages_) {
+    std::ranges::move(page->WireSections(), std::back_inserter(sections));
+    std::ranges::move(page->WireBlocks(), std::back_inserter(found));
+  }
+  std::vector<WireBlock> blocks;
+  for (const std::string_view name : kUploadOrder) {
+    const auto block = std::ranges::find(found, name, &WireBlock::name);
+    if (block != found.end()) blocks.push_back(std::move(*block));
+  }
+  comms.SetWire(std::move(sections), std::move(blocks));
+}
+
+void Configurator::ShowCarrierLost() {
+  platform_.dialogs.ShowMessage(
+      {.text = context.Translate("Se corto la comunicacion"), .title = profile.TargetName});
+}
+
+template <class Names, class Action>
+void Configurator::ForEach(const Names& names, Action action) {
+  for (const std::string_view name : names)
+    if (Page* page = PageNamed(name)) action(*page);
+}
+
+Page* Configurator::PageNamed(std::string_view name) const {
+  for (const auto& page : pages_)
+    if (page->GetForm().Name() == name) return page.get();
+  return nullptr;
+}
+
+std::vector<Form*> Configurator::Forms() {
+  std::vector<Form*> forms;
+  for (const auto& page : pages_) forms.push_back(&page->GetForm());
+  for (Form* form :
+       {&actEdit.GetForm(), &pwForm.GetForm(), &langForm.GetForm(), &targetSelect.GetForm()})
+    forms.push_back(form);
+  return forms;
+}
+
+void Configurator::VisitFields(DeviceConf& target, const FieldVisitor& visit) const {
+  for (const FileTurn& turn : kFileOrder)
+    if (const Page* page = PageNamed(turn.page); page && turn.takesPart(profile))
+      page->VisitFields(target, visit);
+}
+
+std::vector<std::string> Configurator::StatementsOf(const DeviceConf& source,
+                                                    std::int32_t features) {
+  const DeviceConf keptConf = std::exchange(conf, source);
+  const std::int32_t keptFeatures = std::exchange(info.Features, features);
+  std::vector<std::string> statements = comms.ComposeStatements();
+  conf = keptConf;
+  info.Features = keptFeatures;
+  return statements;
+}
+
+void Configurator::TargetDeviceChange(const std::string& name) {
+  SelectTarget(profile, name);
+  if (OnTargetChanged) OnTargetChanged();
+  general.LoadMaskSelection();
+  mainCaption_ = std::string(kMaker) + " " + profile.TargetName + " v" +
+                 std::to_string(options_.versionMajor) + "." +
+                 std::to_string(options_.versionMinor);
+}
+
+void Configurator::LoadForms() {
+  for (const auto& page : pages_) page->Form_Load();
+  targetSelect.Form_Load();
+}
+
+void Configurator::Start(const std::string& commandLine) {
+  Universal = true;
+  ComBusy = false;
+  lang.Init();
+  const std::string idioma = settings.Idioma();
+  if (idioma.empty() || settings.ComPort().empty()) {
+    settings.SetComPort("1");
+    langForm.AskUser();
+    settings.SetIdioma(std::to_string(lang.SelectedLang()));
+  }
+  // A language chosen at the first run applies from the next start on.
+  lang.SetSelectedLang(RoundToEven<std::int16_t>(NumVal(idioma)).value_or(0));
+  std::string target = settings.Target();
+  if (target.empty()) {
+    platform_.dialogs.ShowMessage(
+        {.text = context.Translate("Esta version del configurador es universal. Seleccione en "
+                                   "'Dispositivo' el modelo que desea configurar."),
+         .title = context.Translate("Seleccion del modelo"),
+         .icon = BoxIcon::Information});
+    target = TargetNamesOffered().front();
+  }
+  TargetDeviceChange(target);
+  LoadForms();
+  ForEach(kClearAtStart, [](Page& page) { page.Clear(); });
+  if (!commandLine.empty()) {
+    ConfFilePath = commandLine.size() > 2 ? commandLine.substr(1, commandLine.size() - 2) : "";
+    RestoreConf();
+  }
+}
+
+void Configurator::StartForCommand(std::string_view target, std::int16_t language) {
+  lang.Init();
+  lang.SetSelectedLang(language);
+  const TargetModel* model = FindTarget(target);
+  TargetDeviceChange(std::string(model ? model->name : target));
+  LoadForms();
+  ForEach(kClearAtStart, [](Page& page) { page.Clear(); });
+}
+
+void Configurator::ShutDown() {
+  const std::string port = general.Session().Puerto.Text();
+  settings.SetComPort(port.size() > 3 ? port.substr(3, 3) : "");
+  settings.SetIdioma(std::to_string(lang.SelectedLang()));
+  comms.Abort();
+}
+
+void Configurator::AskLanguage() {
+  langForm.AskUser();
+  LoadText();
+}
+
+void Configurator::LoadText() {
+  for (const auto& page : pages_) page->LoadText();
+  targetSelect.LoadText();
+}
+
+}  // namespace ostrel

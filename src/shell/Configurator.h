@@ -1,0 +1,132 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "lang/Lang.h"
+#include "link/Comms.h"
+#include "model/DeviceConf.h"
+#include "model/DeviceInfo.h"
+#include "model/RealTimeData.h"
+#include "model/TargetProfile.h"
+#include "pages/ActEdit.h"
+#include "pages/General.h"
+#include "pages/Page.h"
+#include "pages/PageContext.h"
+#include "shell/LangForm.h"
+#include "shell/PWForm.h"
+#include "shell/SessionDriver.h"
+#include "shell/StoredSettings.h"
+#include "shell/TargetSelect.h"
+#include "store/IniTool.h"
+
+namespace ostrel {
+
+/// Where a configurator finds what is installed, and how it runs.
+struct ConfiguratorOptions {
+  std::string programFolder;  ///< where the help pages stand
+  std::string langFile;       ///< the working copy of the translation table
+  bool ticking = false;       ///< the pages' timers run and ports are scanned, as a window needs it
+  int versionMajor = 1;
+  int versionMinor = 0;
+};
+
+/// What opening a file came to.
+enum class RestoreResult { Loaded, NotAConfiguration };
+
+/// One whole program without a face: it owns one of everything and wires it. Two configurators in a
+/// process do not know of each other.
+class Configurator {
+ public:
+  Configurator(const Platform& platform, ConfiguratorOptions options);
+  ~Configurator();
+  Configurator(const Configurator&) = delete;
+  Configurator& operator=(const Configurator&) = delete;
+
+  // Life.
+  /// Starts as the window does: language, first-run questions, model, empty pages, and the file of
+  /// the command line, which is a path between two characters that are dropped.
+  void Start(const std::string& commandLine);
+  /// Starts for a command: no question, no scan. The model by any of its names, the language by
+  /// its column; an unknown model name leaves no model selected.
+  void StartForCommand(std::string_view target, std::int16_t language);
+  /// Stores port and language. The link is not closed politely: closing the port drops it.
+  void ShutDown();
+
+  // Model.
+  void TargetDeviceChange(const std::string& name);
+  /// The main window's caption: maker, model and version.
+  const std::string& MainCaption() const { return mainCaption_; }
+  /// Runs after the model has changed, for the tree. Set by the face.
+  std::function<void()> OnTargetChanged;
+
+  // Files. Both work on `ConfFilePath`.
+  /// Writes the configuration. The result is for those who show it: callers need not look.
+  FileResult SaveConf();
+  /// Reads the configuration, after changing the model where the file is of another one.
+  RestoreResult RestoreConf();
+  /// Opens a file that the operator has chosen: restores it and brings the general page up to it.
+  RestoreResult OpenFile(const std::string& path);
+  /// The tool bar's "Abrir" and "Guardar": ask for a path; false when the operator cancels.
+  bool AskAndOpen();
+  bool AskAndSave();
+
+  // Language.
+  /// The tool bar's "Idioma": asks, then shows every caption in the language chosen.
+  void AskLanguage();
+  /// Sets all captions of all pages and forms.
+  void LoadText();
+
+  /// The page of a name; null when this build has none.
+  Page* PageNamed(std::string_view name) const;
+  const std::vector<std::unique_ptr<Page>>& Pages() const { return pages_; }
+  /// Every form of the program: the pages' and the dialogs'.
+  std::vector<Form*> Forms();
+  /// Visits every field of a configuration that a file of the selected model holds, in file order.
+  void VisitFields(DeviceConf& conf, const FieldVisitor& visit) const;
+  /// The statements that an upload of a configuration would send to a logger of the selected model
+  /// and these features.
+  std::vector<std::string> StatementsOf(const DeviceConf& conf, std::int32_t features);
+
+  DeviceConf conf;
+  TargetProfile profile;
+  DeviceInfo info;
+  RealTimeData live;
+  TotalCounts totals;
+  ActionList ActionBuffer;
+  bool Connected = false;
+  bool ComBusy = false;
+  bool Universal = true;
+  std::string ConfFilePath;
+  StoredSettings settings;
+  Lang lang;
+  IniTool iniTool;
+  PageContext context;
+
+ private:
+  template <class Names, class Action>
+  void ForEach(const Names& names, Action action);
+  LinkHooks MakeHooks();
+  void RegisterWire();
+  void LoadForms();
+  void ShowCarrierLost();
+
+  Platform platform_;
+  ConfiguratorOptions options_;
+  std::string mainCaption_;
+  std::vector<std::unique_ptr<Page>> pages_;
+
+ public:
+  General& general;
+  Comms comms;
+  SessionDriver session;
+  ActEdit actEdit;
+  PWForm pwForm;
+  LangForm langForm;
+  TargetSelect targetSelect;
+};
+
+}  // namespace ostrel

@@ -1,0 +1,162 @@
+#include "shell/Navigation.h"
+
+#include <array>
+
+#include "shell/Configurator.h"
+
+namespace ostrel {
+namespace {
+
+constexpr std::string_view kTargetSelect = "TargetSelect";
+
+/// The pages that a click hides, in order. Those of single MODBUS channels, of expansion inputs and
+/// of one test stay open: the page shown next covers them.
+constexpr std::array<std::string_view, 25> kHidden{
+    "E_Analog", "E_Math",      "Caudal",     "E_Digital",   "CTimer",       "WTimer",  "MTimer",
+    "LTimer",   "General",     "Grupos",     "Macros",      "T_Real_Tavro", "Firm",    "Terminal",
+    "GPRS",     "Flags",       "Katodex",    "E_Aux",       "Test",         "TestKA2", "E_OneWire",
+    "Aut_Voz",  "CONF_MODBUS", "SampleRate", "TargetSelect"};
+
+/// Keys that stand for one page as they are.
+struct PlainRow {
+  std::string_view key;
+  NodeTarget target;
+};
+
+constexpr std::array<PlainRow, 10> kPlain{{
+    {"Caudal", {"SampleRate", {}}},
+    {"General", {"General", std::int16_t{0}}},
+    {"Grupos", {"Grupos", {}}},
+    {"MODBUS", {"CONF_MODBUS", {}}},
+    {"Aut_Voz", {"Aut_Voz", {}}},
+    {"GPRS", {"GPRS", {}}},
+    {"Macros", {"Macros", {}}},
+    {"Firmware", {"Firm", {}}},
+    {"Terminal", {"Terminal", {}}},
+    {"PCAT", {"Katodex", {}}},
+}};
+
+/// Keys of a stem and a channel number.
+struct NumberedRow {
+  std::string_view stem;
+  std::string_view page;
+  int last;
+};
+
+constexpr std::array<NumberedRow, 9> kNumbered{{
+    {"E_Analog_", "E_Analog", 3},
+    {"E_OneWire_", "E_OneWire", 3},
+    {"E_Math_", "E_Math", 3},
+    {"Caudal_", "Caudal", 7},
+    {"E_Digital_", "E_Digital", 8},
+    {"MODBUS_", "E_MODBUS", 31},
+    {"Flag_", "Flags", 15},
+    {"E_Aux_", "E_Aux", 3},
+    {"Modulo_", "E_Modular", 95},
+}};
+
+constexpr std::array<std::string_view, 4> kTimerPages{"CTimer", "WTimer", "MTimer", "LTimer"};
+/// Ends of the keys of timer blocks, with the first timer of each.
+constexpr std::array<std::pair<std::string_view, std::int16_t>, 4> kTimerBlocks{
+    {{"0_3", 0}, {"4_7", 4}, {"8_11", 8}, {"12_15", 12}}};
+
+std::optional<NodeTarget> FindNumbered(std::string_view key) {
+  for (const auto& [stem, page, last] : kNumbered) {
+    if (!key.starts_with(stem)) continue;
+    const std::string_view digits = key.substr(stem.size());
+    for (int number = 0; number <= last; ++number)
+      if (digits == std::to_string(number))
+        return NodeTarget{page, static_cast<std::int16_t>(number)};
+  }
+  return {};
+}
+
+std::optional<NodeTarget> FindTimers(std::string_view key) {
+  for (const std::string_view page : kTimerPages) {
+    if (!key.starts_with(page)) continue;
+    for (const auto& [end, first] : kTimerBlocks)
+      if (key.substr(page.size()) == end) return NodeTarget{page, first};
+  }
+  return {};
+}
+
+std::optional<NodeTarget> FindByModel(std::string_view key, const TargetProfile& model) {
+  if (key == "T_Real") {
+    if (model.IsBP || model.IsVR200 || model.IsKA2 || model.IsKA1 || model.IsBQ || model.IsS100)
+      return NodeTarget{"T_Real_Tavro", {}};
+  } else if (key == "TEST") {
+    if (model.IsBP) return NodeTarget{"Test", {}};
+    if (model.IsBQ) return NodeTarget{"TestBQ", {}};
+    if (model.IsKA2) return NodeTarget{"TestKA2", {}};
+  }
+  return {};
+}
+
+}  // namespace
+
+std::optional<NodeTarget> FindNodeTarget(std::string_view key, const TargetProfile& model,
+                                         bool universal) {
+  if (key == "Tavro") {
+    if (universal) return NodeTarget{kTargetSelect, {}};
+    return {};
+  }
+  for (const PlainRow& row : kPlain)
+    if (row.key == key) return row.target;
+  if (const auto numbered = FindNumbered(key)) return numbered;
+  if (const auto timers = FindTimers(key)) return timers;
+  return FindByModel(key, model);
+}
+
+NodeResult Navigation::NodeClick(std::string_view key) {
+  HideAll();
+  const auto target = FindNodeTarget(key, configurator_.profile, configurator_.Universal);
+  if (!target) return NodeResult::Nothing;
+  if (!FormNamed(target->page)) return NodeResult::NotBuilt;
+  if (Page* page = configurator_.PageNamed(target->page); page && target->index)
+    page->ChangeIndex(*target->index);
+  ShowForm(target->page);
+  return NodeResult::Shown;
+}
+
+void Navigation::HideAll() {
+  Deactivate();
+  for (const std::string_view name : kHidden)
+    if (Form* form = FormNamed(name)) form->Hide();
+  if (OnFrontChanged) OnFrontChanged();
+}
+
+bool Navigation::ShowForm(std::string_view name) {
+  Form* form = FormNamed(name);
+  if (!form) return false;
+  if (front_ != name) Deactivate();
+  front_ = name;
+  form->Show();
+  if (Page* page = FrontPage())
+    page->Form_Activate();
+  else
+    configurator_.targetSelect.Form_Activate();
+  if (OnFrontChanged) OnFrontChanged();
+  return true;
+}
+
+void Navigation::CommitFront() {
+  if (Page* page = FrontPage()) page->SavePage();
+}
+
+Form* Navigation::Front() const { return FormNamed(front_); }
+
+Page* Navigation::FrontPage() const { return configurator_.PageNamed(front_); }
+
+Form* Navigation::FormNamed(std::string_view name) const {
+  if (name == kTargetSelect) return &configurator_.targetSelect.GetForm();
+  Page* page = configurator_.PageNamed(name);
+  return page ? &page->GetForm() : nullptr;
+}
+
+/// Takes the front from the form that has it, which stays shown until it is hidden.
+void Navigation::Deactivate() {
+  if (Page* page = FrontPage()) page->Form_Deactivate();
+  front_.clear();
+}
+
+}  // namespace ostrel

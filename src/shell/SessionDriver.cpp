@@ -1,0 +1,138 @@
+#include "shell/SessionDriver.h"
+
+#include <cstdlib>
+
+#include "platform/Clock.h"
+#include "platform/Dialogs.h"
+
+namespace ostrel {
+namespace {
+
+constexpr std::int64_t kToleratedClockSeconds = 10 * 60;
+
+/// Holds a flag for the length of a scope.
+class Held {
+ public:
+  explicit Held(bool& flag) : flag_(flag) { flag_ = true; }
+  ~Held() { flag_ = false; }
+  Held(const Held&) = delete;
+  Held& operator=(const Held&) = delete;
+
+ private:
+  bool& flag_;
+};
+
+}  // namespace
+
+SessionDriver::SessionDriver(PageContext& context, Comms& comms, General& general, bool& Connected)
+    : context_(context),
+      comms_(comms),
+      general_(general),
+      session_(general.Session()),
+      Connected_(Connected) {
+  session_.TimerComms.OnTimer = [this] { Tick(); };
+}
+
+void SessionDriver::Tick() {
+  if (ticking_) return;
+  const Held held(ticking_);
+  if (session_.IniRequest && !Connected_) comms_.LinkBusy = false;
+  if (!comms_.LinkBusy && session_.IniRequest) OpenOrClose();
+  if (!Connected_ || !general_.PageActive) return;
+  if (session_.WriteRequest) {
+    Upload();
+    session_.WriteRequest = false;
+  }
+  if (session_.ReadRequest) {
+    Download();
+    session_.ReadRequest = false;
+  }
+  comms_.ReadInfo();
+}
+
+void SessionDriver::OpenOrClose() {
+  Form& form = general_.GetForm();
+  form.SetMousePointer(Pointer::Hourglass);
+  if (Connected_) {
+    Close(session_.ModemCheck.Checked());
+  } else {
+    Open(session_.SelectedPort(),
+         session_.ModemCheck.Checked() ? session_.CallNum.Text() : std::string());
+  }
+  form.SetMousePointer(Pointer::Default);
+  session_.IniRequest = false;
+}
+
+bool SessionDriver::Open(std::int16_t port, const std::string& phone) {
+  session_.ComStat.face.SetCaption(
+      "", context_.Translate("Detectando ") + context_.profile.TargetName + "...");
+  Connected_ = comms_.StartComs(port, phone);
+  if (Connected_) ReadAfterConnect();
+  ShowState();
+  return Connected_;
+}
+
+void SessionDriver::Close(bool modem) {
+  comms_.CloseComs(modem);
+  Connected_ = false;
+  ShowState();
+}
+
+void SessionDriver::ReadAfterConnect() {
+  comms_.ReadInfo();
+  comms_.ReadTotalCount();
+  comms_.ReadIOParameter();
+  comms_.ReadDeviceRTC();
+  CompareClocks();
+}
+
+void SessionDriver::CompareClocks() {
+  const std::int64_t difference =
+      ToSeconds(context_.platform.clock.LocalNow()) - ToSeconds(context_.live.DeviceClock);
+  if (std::abs(difference) <= kToleratedClockSeconds) return;
+  const BoxAnswer answer = context_.platform.dialogs.ShowMessage(
+      {.text = context_.Translate("Parece que la hora del dispositivo no esta sincronizada, desea "
+                                  "sincronizarlo con la hora del PC?"),
+       .title = context_.profile.TargetName,
+       .icon = BoxIcon::Question,
+       .buttons = BoxButtons::YesNo});
+  if (answer == BoxAnswer::Yes) comms_.WriteDeviceRTC();
+}
+
+void SessionDriver::ShowState() {
+  const std::string_view caption = Connected_ ? "Cerrar comunicacion" : "Iniciar comunicacion";
+  SetStatus(Connected_ ? "Comunicacion iniciada" : "Comunicacion no iniciada");
+  session_.IniCom.face.SetCaption(caption, context_.Translate(caption));
+  session_.EnableTransfers(Connected_);
+}
+
+bool SessionDriver::Upload() {
+  return Transfer("Escribiendo configuracion...", "Configuracion escrita con exito",
+                  &Comms::WriteConf);
+}
+
+bool SessionDriver::Download() {
+  return Transfer("Descargando configuracion...", "Configuracion descargada con exito",
+                  &Comms::ReadConf);
+}
+
+bool SessionDriver::Transfer(std::string_view status, std::string_view success,
+                             bool (Comms::*dialogue)()) {
+  Form& form = general_.GetForm();
+  form.SetMousePointer(Pointer::Hourglass);
+  form.SetEnabled(false);
+  session_.EnableTransfers(false);
+  SetStatus(status);
+  const bool done = (comms_.*dialogue)();
+  SetStatus(done ? success : "Error!");
+  session_.EnableTransfers(true);
+  form.SetEnabled(true);
+  form.SetMousePointer(Pointer::Default);
+  return done;
+}
+
+void SessionDriver::SetStatus(std::string_view key) {
+  session_.ComStat.face.SetCaption(key, context_.Translate(key));
+}
+
+}  // namespace ostrel

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <string>
+
+#include "link/Comms.h"
+#include "pages/General.h"
+#include "pages/PageContext.h"
+
+namespace ostrel {
+
+/// The main loop: serves the requests of the session controls, once a second, and keeps the device
+/// information fresh. The steps can also be run directly, by a command that does not wait for
+/// ticks.
+class SessionDriver {
+ public:
+  SessionDriver(PageContext& context, Comms& comms, General& general, bool& Connected);
+
+  /// One tick of `TimerComms`. A tick that arrives inside another one does nothing: the dialogue
+  /// that the outer tick runs must not be disturbed.
+  void Tick();
+  /// Opens a session on a port, through a modem when there is a phone number. True when it stands.
+  bool Open(std::int16_t port, const std::string& phone);
+  /// Closes the session, hanging up when `modem` is set.
+  void Close(bool modem);
+  /// Downloads the configuration, showing how it goes. The result is that of the dialogue.
+  bool Download();
+  /// Uploads the configuration, likewise.
+  bool Upload();
+
+ private:
+  void OpenOrClose();
+  void ReadAfterConnect();
+  void CompareClocks();
+  void ShowState();
+  /// Runs a transfer with the page disabled, between its two status texts.
+  bool Transfer(std::string_view status, std::string_view success, bool (Comms::*dialogue)());
+  void SetStatus(std::string_view key);
+
+  PageContext& context_;
+  Comms& comms_;
+  General& general_;
+  SessionFrame& session_;
+  bool& Connected_;
+  bool ticking_ = false;
+};
+
+}  // namespace ostrel

@@ -1,0 +1,124 @@
+#include <gtest/gtest.h>
+
+#include "World.h"
+
+namespace ostrel {
+namespace {
+
+class ConfigurationFile : public testing::Test {
+ protected:
+  ConfigurationFile() {
+    program.StartForCommand("Tavro BP", 1);
+    program.ConfFilePath = kPath;
+  }
+
+  static constexpr const char* kPath = "/site.ocf";
+  World world;
+  Configurator program{world.platform, world.Options(false)};
+  std::string& file = world.files.contents[kPath];
+};
+
+TEST_F(ConfigurationFile, StandsInItsFixedOrderUnderOneGeneralSection) {
+  program.conf.General.DNAME = "Depósito";
+  ASSERT_TRUE(program.SaveConf().Ok());
+  EXPECT_TRUE(
+      file.starts_with("[General]\r\nVERSION=TAVRO\r\nNOMBRE=Dep\xF3sito\r\nCSM=\r\n"
+                       "RENVT= 10\r\nRENVN= 3\r\nPTLF=\r\nRESTORE=\r\n[ANALOG 0]\r\n"))
+      << file.substr(0, 200);
+  std::size_t former = 0;
+  for (const char* section : {"[ANALOG 3]", "[DIGITAL 0]", "[DIGITAL 8]", "[GRUPO 0]", "[GRUPO 3]",
+                              "[FLAG 0]", "[FLAG 15]"}) {
+    const std::size_t at = file.find(section);
+    ASSERT_NE(at, std::string::npos) << section;
+    EXPECT_GT(at, former) << section;
+    former = at;
+  }
+  EXPECT_EQ(file.find("[GENERAL]"), std::string::npos);
+  EXPECT_EQ(file.find("\r\n\r\n"), std::string::npos);
+  EXPECT_FALSE(file.ends_with("\n"));
+}
+
+TEST_F(ConfigurationFile, StampsDecideWhatIsLoaded) {
+  struct Case {
+    const char* stamp;
+    const char* model;  // afterwards
+    std::size_t boxes;  // shown
+    bool loaded;
+  };
+  for (const Case& c :
+       {Case{"TAVRO", "Tavro BP", 0, true}, Case{"OSTREL_KA1", "Ostrel KA1", 1, true},
+        Case{"VR200", "Ostrel VR200", 1, true}, Case{"PX240", "Tavro BP", 2, false},
+        Case{"PX PLUS", "Ostrel KA2", 2, false}, Case{"tavro", "Tavro BP", 1, false},
+        Case{"", "Tavro BP", 1, false}}) {
+    SCOPED_TRACE(c.stamp);
+    program.TargetDeviceChange("Tavro BP");
+    program.conf.General.DNAME = "before";
+    world.dialogs.boxes.clear();
+    file = std::string("[general]\nNOMBRE=after\nversion= ") + c.stamp;
+    EXPECT_EQ(program.RestoreConf() == RestoreResult::Loaded, c.loaded);
+    EXPECT_EQ(program.profile.TargetName, c.model);
+    EXPECT_EQ(program.conf.General.DNAME, c.loaded ? "after" : "before");
+    ASSERT_EQ(world.dialogs.boxes.size(), c.boxes);
+    if (c.boxes > 0 && program.profile.TargetName != "Tavro BP") {
+      EXPECT_EQ(world.dialogs.boxes[0].title, "Aviso");
+      EXPECT_TRUE(world.dialogs.boxes[0].text.ends_with(std::string("la seleccion a ") + c.model));
+    }
+    if (!c.loaded) {
+      EXPECT_EQ(world.dialogs.boxes.back().text, "No es un archivo de configuracion valido");
+      EXPECT_EQ(world.dialogs.boxes.back().title, c.model);
+    }
+  }
+}
+
+TEST_F(ConfigurationFile, AFileThatCannotBeReadIsRefused) {
+  program.ConfFilePath = "/none.ocf";
+  EXPECT_EQ(program.RestoreConf(), RestoreResult::NotAConfiguration);
+  EXPECT_EQ(world.dialogs.boxes.size(), 1U);
+}
+
+TEST_F(ConfigurationFile, ValuesAreCutAt254Characters) {
+  program.conf.Digital[0].NOMBRE = std::string(300, 'x');
+  program.SaveConf();
+  program.RestoreConf();
+  EXPECT_EQ(program.conf.Digital[0].NOMBRE, std::string(254, 'x'));
+}
+
+/// After any failure the old or the new file stands whole, and no other file is left behind.
+TEST_F(ConfigurationFile, SavingSurvivesTheFailureOfEveryOperation) {
+  program.SaveConf();
+  const std::string old = file;
+  const auto others = world.files.contents.size();
+  bool saved = false;
+  for (int n = 1; !saved; ++n) {
+    ASSERT_LT(n, 20);
+    program.conf.General.DNAME = "new " + std::to_string(n);
+    world.files.FailOperation(n);
+    saved = program.SaveConf().Ok();
+    world.files.Heal();
+    EXPECT_EQ(world.files.contents.size(), others) << n;
+    if (saved) break;
+    EXPECT_EQ(file, old) << "operation " << n;
+  }
+  EXPECT_NE(file, old);
+}
+
+TEST_F(ConfigurationFile, AskingForAPath) {
+  world.dialogs.ChoosePath(std::nullopt);
+  EXPECT_FALSE(program.AskAndOpen());
+  EXPECT_EQ(program.ConfFilePath, kPath);
+  world.dialogs.ChoosePath("/other.ocf");
+  EXPECT_TRUE(program.AskAndSave());
+  EXPECT_TRUE(world.files.contents["/other.ocf"].starts_with("[General]\r\nVERSION=TAVRO"));
+  EXPECT_TRUE(world.dialogs.questions.back().overwritePrompt);
+  EXPECT_EQ(world.dialogs.questions.back().filter,
+            "Archivo de configuracion OCF (*.ocf)|*.ocf|Todos los ficheros (*.*)|*.*");
+  world.files.contents["/third.ocf"] =
+      "[General]\r\nVERSION=TAVRO\r\nCSM=+34607003110\r\nTLFM 0=600,Prio=0,PRV0,MASKMODE0";
+  world.dialogs.ChoosePath("/third.ocf");
+  EXPECT_TRUE(program.AskAndOpen());
+  EXPECT_TRUE(program.general.GetForm().Get<OptionButton>("CSMVoda").Selected());
+  EXPECT_EQ(program.general.GetForm().Get<ListBox>("ListaTlf").Position(), 0);
+}
+
+}  // namespace
+}  // namespace ostrel
