@@ -7,7 +7,7 @@
 namespace ostrel {
 
 Comms::Comms(const Platform& platform, const LinkRecords& records, LinkHooks hooks)
-    : platform_(platform), records_(records), hooks_(std::move(hooks)), countdown_(platform.loop) {
+    : platform_(platform), records_(records), hooks_(std::move(hooks)), MainTimer_(platform.loop) {
   platform_.port.SetOnComm([this] {
     const bool changed = platform_.port.CommEvent() == kCommEventCarrier;
     if (changed && !platform_.port.CDHolding() && hooks_.carrierLost) hooks_.carrierLost();

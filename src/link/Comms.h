@@ -10,7 +10,6 @@
 
 #include "link/Countdown.h"
 #include "link/LinkFault.h"
-#include "link/LiveRequests.h"
 #include "link/Wire.h"
 #include "model/DeviceInfo.h"
 #include "model/RealTimeData.h"
@@ -42,6 +41,8 @@ struct LinkHooks {
   std::function<void(std::string_view portName)> portFound;  ///< one usable port, such as "COM7"
 };
 
+struct LiveRequest;
+
 /// The device link: owns the serial port, the frame of every message and every dialogue with a
 /// logger. Texts are UTF-8; the line carries code page 1252. Times are in ms unless a type says so.
 ///
@@ -72,7 +73,7 @@ class Comms {
   void Abort();
   /// One received character as an octet in a text, or empty after `timeout`.
   std::string GetChar(int timeout);
-  /// Waits, serving events. Ends early when the port is closed meanwhile.
+  /// Waits, serving events. Ends early when the port is closed or lost meanwhile.
   void Delay(int ms);
   /// Serves what is due now.
   void PumpEvents();
@@ -191,12 +192,12 @@ class Comms {
   Platform platform_;
   LinkRecords records_;
   LinkHooks hooks_;
-  Countdown countdown_;
+  Countdown MainTimer_;
   std::unordered_map<std::string, std::function<void(LineReader&)>> sections_;
   std::vector<WireBlock> blocks_;
   LinkFault fault_;
-  std::int16_t recordExpected_ = 0;
-  std::int16_t recordReceived_ = 0;
+  std::int16_t RecordExpected_ = 0;
+  std::int16_t RecordReceived_ = 0;
   bool damaged_ = false;                   ///< a bad frame has come since this was last cleared
   std::optional<TimePoint> awaitedSince_;  ///< last sign of the logger; none while none is due
 };

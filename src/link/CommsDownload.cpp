@@ -44,7 +44,7 @@ bool Comms::ReadConf() {
     }
   } catch (const BoundFailure& failure) {
     Note("Bound failure, ", std::string(failure.what()) + ": " + RxLine);
-    return Fail(LinkFault::Kind::IndexOutOfRange, recordReceived_, RxLine);
+    return Fail(LinkFault::Kind::IndexOutOfRange, RecordReceived_, RxLine);
   }
   if (!done) return false;
   fault_ = {};
@@ -55,24 +55,23 @@ bool Comms::ReadConf() {
 
 bool Comms::DownloadOnce() {
   RxChars = 0;
-  recordExpected_ = 0;
-  if (!Ask("#42")) return FailWaiting(recordExpected_);
+  RecordExpected_ = 0;
+  if (!Ask("#42")) return FailWaiting(RecordExpected_);
   if (RxLine == kStreamHead) return Fail(LinkFault::Kind::EmptyStream);
   while (RxLine != kStreamHead) {
-    if (!ParseConfLine()) return Fail(LinkFault::Kind::OutOfSequence, recordExpected_, RxLine);
+    if (!ParseConfLine()) return Fail(LinkFault::Kind::OutOfSequence, RecordExpected_, RxLine);
     damaged_ = false;
-    if (!RxSer(ReplyTimeout)) return FailWaiting(recordExpected_);
+    if (!RxSer(ReplyTimeout)) return FailWaiting(RecordExpected_);
   }
   return true;
 }
 
 bool Comms::ParseConfLine() {
   if (!TakeRecordNumber(kStreamHead)) return false;
-  if (recordReceived_ < kBarMaximum && hooks_.barValue) hooks_.barValue(recordReceived_);
+  if (RecordReceived_ < kBarMaximum && hooks_.barValue) hooks_.barValue(RecordReceived_);
   const auto section = sections_.find(std::string(Characters(FieldOfLine(RxLine, 1), kKeyAt)));
   if (section == sections_.end()) return true;  // of a newer firmware
-  const std::string line = RxLine;  // a section may serve events, which may take another line
-  LineReader reader(line);
+  LineReader reader(RxLine);
   section->second(reader);
   return true;
 }
@@ -80,9 +79,9 @@ bool Comms::ParseConfLine() {
 bool Comms::TakeRecordNumber(std::string_view head) {
   if (!RxLine.starts_with(head)) return false;
   const double number = NumVal(Characters(RxLine, kNumberAt, kNumberDigits));
-  recordReceived_ = RoundToEven<std::int16_t>(number).value_or(-1);
-  if (recordReceived_ != recordExpected_) return false;
-  ++recordExpected_;
+  RecordReceived_ = RoundToEven<std::int16_t>(number).value_or(-1);
+  if (RecordReceived_ != RecordExpected_) return false;
+  ++RecordExpected_;
   return true;
 }
 

@@ -92,12 +92,12 @@ std::string Comms::GetField1(int n) const { return std::string(BracedFieldOfLine
 
 Comms::TakenLine Comms::TakeLine(int timeout, Starts starts) {
   TakenLine line;
-  countdown_.Start(timeout);
+  MainTimer_.Start(timeout);
   PumpEvents();
   for (;;) {
     TakeWaiting(line, starts);
-    if (line.complete || !countdown_.Running() || !Alive()) return line;
-    platform_.loop.RunUntil([this] { return HasInput() || !Alive(); }, countdown_.Deadline());
+    if (line.complete || !MainTimer_.Running() || !Alive()) return line;
+    platform_.loop.RunUntil([this] { return HasInput() || !Alive(); }, MainTimer_.Deadline());
   }
 }
 

@@ -38,7 +38,7 @@ bool Comms::ReadInfo() {
   const Dialogue dialogue(*this);
   bool taken = false;
   for (int attempt = 0; attempt < kAttempts && !taken && Alive(); ++attempt) {
-    recordExpected_ = 0;
+    RecordExpected_ = 0;
     Ask("#44");
     if (!RxLine.starts_with(kStreamHead)) continue;
     while (RxLine != kStreamHead) {

@@ -1,4 +1,5 @@
 #include "link/Comms.h"
+#include "link/LiveRequests.h"
 
 namespace ostrel {
 namespace {

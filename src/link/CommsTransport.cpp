@@ -116,6 +116,7 @@ void Comms::HangUp() {
   constexpr int kPlusSigns = 3;
   for (int sign = 0; sign < kPlusSigns; ++sign) {
     Delay(sign == 0 ? kGuardMs : kBetweenPlusMs);
+    if (!Alive()) return;
     Put("+");
     Note("TxGsm: ", "+");
   }
@@ -126,16 +127,16 @@ void Comms::HangUp() {
 void Comms::Abort() { platform_.port.SetPortOpen(false); }
 
 std::string Comms::GetChar(int timeout) {
-  countdown_.Start(timeout);
-  platform_.loop.RunUntil([this] { return HasInput() || !Alive(); }, countdown_.Deadline());
+  MainTimer_.Start(timeout);
+  platform_.loop.RunUntil([this] { return HasInput() || !Alive(); }, MainTimer_.Deadline());
   return HasInput() ? platform_.port.Input() : std::string();
 }
 
 void Comms::Delay(int ms) {
-  const bool wasOpen = PortOpen();
-  countdown_.Start(ms);
-  platform_.loop.RunUntil([&] { return !countdown_.Running() || (wasOpen && !PortOpen()); },
-                          countdown_.Deadline());
+  const bool wasAlive = Alive();
+  MainTimer_.Start(ms);
+  platform_.loop.RunUntil([&] { return !MainTimer_.Running() || (wasAlive && !Alive()); },
+                          MainTimer_.Deadline());
 }
 
 void Comms::PumpEvents() { platform_.loop.PumpEvents(); }
