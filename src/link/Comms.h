@@ -105,6 +105,9 @@ class Comms {
   bool SendStatement(std::string_view statement, const std::function<void(int)>& bar);
   /// Asks the logger who it is. Always false; the values stand in the records.
   bool ReadInfo();
+  /// True when the last `ReadInfo` got the stream to its end. A damaged line ends it early, and the
+  /// values behind that line stay as they were.
+  bool InfoComplete() const { return infoComplete_; }
   /// Brings the logger's clock into `DeviceClock`, which stays as it was on failure.
   void ReadDeviceRTC();
   /// Sets the logger's clock to the computer's.
@@ -196,6 +199,7 @@ class Comms {
   std::unordered_map<std::string, std::function<void(LineReader&)>> sections_;
   std::vector<WireBlock> blocks_;
   LinkFault fault_;
+  bool infoComplete_ = false;
   std::int16_t RecordExpected_ = 0;
   std::int16_t RecordReceived_ = 0;
   bool damaged_ = false;                   ///< a bad frame has come since this was last cleared

@@ -37,6 +37,7 @@ bool Comms::ReadInfo() {
   if (LinkBusy || !PortOpen()) return false;
   const Dialogue dialogue(*this);
   bool taken = false;
+  infoComplete_ = false;
   for (int attempt = 0; attempt < kAttempts && !taken && Alive(); ++attempt) {
     RecordExpected_ = 0;
     Ask("#44");
@@ -45,6 +46,7 @@ bool Comms::ReadInfo() {
       taken = ParseInfoLine();
       if (!taken || !RxSer(ReplyTimeout)) break;
     }
+    infoComplete_ = taken && RxLine == kStreamHead;
   }
   return false;
 }

@@ -2,7 +2,6 @@
 
 #include "model/Assign.h"
 #include "pages/ActionCatalogue.h"
-#include "platform/Dialogs.h"
 
 namespace ostrel {
 
@@ -27,7 +26,7 @@ ActEdit::ActEdit(PageContext& context)
 
 void ActEdit::ShowModal() {
   Form_Load();
-  context_.platform.dialogs.ShowModal(form_);
+  context_.ShowModal(form_);
 }
 
 void ActEdit::Form_Load() {

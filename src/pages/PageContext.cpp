@@ -1,5 +1,6 @@
 #include "pages/PageContext.h"
 
+#include "controls/Form.h"
 #include "lang/Help.h"
 #include "lang/Lang.h"
 #include "platform/Dialogs.h"
@@ -17,6 +18,12 @@ std::string PageContext::ConfReadKey(std::string_view section, std::string_view 
 
 void PageContext::ShowHelp(std::string_view word) const {
   ostrel::ShowHelp(platform.processes, programFolder, word);
+}
+
+void PageContext::ShowModal(Form& form) const {
+  form.Show();
+  platform.dialogs.ShowModal(form);
+  form.Hide();
 }
 
 void PageContext::ShowMessage(std::string_view text, bool isError) const {

@@ -13,6 +13,7 @@
 
 namespace ostrel {
 
+class Form;
 class IniTool;
 class Lang;
 
@@ -40,6 +41,8 @@ struct PageContext {
   std::string ConfReadKey(std::string_view section, std::string_view key) const;
   /// Opens the help page of a word.
   void ShowHelp(std::string_view word) const;
+  /// Shows a form until its logic closes it or the operator dismisses it.
+  void ShowModal(Form& form) const;
   /// Shows a box with an OK button, titled with the model's name.
   void ShowMessage(std::string_view text, bool isError) const;
 };

@@ -1,7 +1,6 @@
 #include "shell/LangForm.h"
 
 #include "lang/Lang.h"
-#include "platform/Dialogs.h"
 
 namespace ostrel {
 namespace {
@@ -28,7 +27,7 @@ void LangForm::AskUser() {
   for (int column = 0; column <= kLastColumn; ++column)
     if (const auto name = context_.lang.GetLangName(column); !name.empty()) ComboLang.Add(name);
   ComboLang.SetPosition(0);
-  context_.platform.dialogs.ShowModal(form_);
+  context_.ShowModal(form_);
 }
 
 }  // namespace ostrel

@@ -27,7 +27,7 @@ void PWForm::ShowModal(std::string& AccessCode) {
   form_.TranslateCaptions([this](std::string_view key) { return context_.Translate(key); });
   PWText.SetText("");
   context_.platform.dialogs.Beep();
-  context_.platform.dialogs.ShowModal(form_);
+  context_.ShowModal(form_);
   Aceptar.OnClick = Cancelar.OnClick = nullptr;
 }
 

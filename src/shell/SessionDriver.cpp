@@ -72,6 +72,15 @@ bool SessionDriver::Open(std::int16_t port, const std::string& phone) {
   return Connected_;
 }
 
+bool SessionDriver::OpenForCommand(std::int16_t port, const std::string& phone) {
+  constexpr int kFurtherTries = 2;
+  if (!Open(port, phone)) return false;
+  for (int i = 0; i < kFurtherTries && !comms_.InfoComplete(); ++i) comms_.ReadInfo();
+  if (comms_.InfoComplete()) return true;
+  Close(!phone.empty());
+  return false;
+}
+
 void SessionDriver::Close(bool modem) {
   comms_.CloseComs(modem);
   Connected_ = false;
