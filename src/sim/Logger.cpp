@@ -1,0 +1,276 @@
+#include "sim/Logger.h"
+
+#include <algorithm>
+#include <limits>
+#include <utility>
+
+#include "sim/LineComposer.h"
+#include "sim/NumberText.h"
+#include "sim/StatementCursor.h"
+
+namespace ostrel::sim {
+
+LoggerOptions MakeDefaultOptions(Model model) {
+  const ModelTraits& traits = TraitsOf(model);
+  LoggerOptions options;
+  options.model = model;
+  options.version = traits.version;
+  options.features = traits.features;
+  options.serial = std::string(traits.word) + "-000137";
+  return options;
+}
+
+const Logger::Command Logger::kCommands[] = {
+    {"#11", &Logger::AnswerAccessCode},  {"#40", &Logger::AnswerHandshake},
+    {"#41", &Logger::AnswerSetTotal},    {"#42", &Logger::AnswerDownload},
+    {"#44", &Logger::AnswerInformation}, {"#45", &Logger::AnswerStatement},
+    {"#46", &Logger::AnswerClosing},     {"#47", &Logger::AnswerOutputOn},
+    {"#48", &Logger::AnswerOutputOff},   {"#5C", &Logger::AnswerSetClock},
+    {"#5D", &Logger::AnswerReadClock},
+};
+
+Logger::Logger(EventLoop& loop, LineEnd& line, LoggerOptions options)
+    : loop_(loop),
+      line_(line),
+      options_(std::move(options)),
+      plan_(options_.faults, options_.seed),
+      sender_(loop, line, plan_, [this] { LoseCarrier(); }),
+      upload_(Self()),
+      live_(Self(), options_.seed) {
+  SetClock(FromSeconds(ToSeconds(options_.clockStart) + options_.clockOffsetSeconds));
+  if (!options_.modem) {
+    line_.SetCarrier(true);
+    return;
+  }
+  modem_ = std::make_unique<Modem>(
+      loop_, options_.modemOptions,
+      Modem::Wiring{.toProgram = [this](std::string_view octets) { line_.Send(octets); },
+                    .toLogger = [this](std::string_view octets) { TakeOctets(octets); },
+                    .onCall = [this](bool up) { ChangeCall(up); },
+                    .onCommand =
+                        [this](const std::string& command, const std::string& answer) {
+                          Tell({loop_.Now(), command, answer, 0, {}});
+                        }});
+}
+
+Logger::~Logger() { loop_.Cancel(answer_); }
+
+// ---- The way of a request
+
+void Logger::Receive(std::string_view octets) {
+  if (modem_)
+    modem_->Receive(octets);
+  else
+    TakeOctets(octets);
+}
+
+void Logger::TakeOctets(std::string_view octets) {
+  while (auto request = reader_.Take(octets)) requests_.push_back(std::move(*request));
+  AwaitAnswer();
+}
+
+void Logger::AwaitAnswer() {
+  if (answer_ != 0 || requests_.empty()) return;
+  answer_ = loop_.After(options_.replyDelay, "simulated logger", [this] {
+    answer_ = 0;
+    const std::string request = std::move(requests_.front());
+    requests_.pop_front();
+    Answer(request);
+    AwaitAnswer();
+  });
+}
+
+void Logger::Answer(const std::string& request) {
+  exchange_ = {loop_.Now(), request, {}, 0, {}};
+  if (plan_.Count(FaultKind::Silent))
+    exchange_.note = "silent by fault";
+  else if (!admitted_ && !request.starts_with("#11"))
+    exchange_.note = "access code missing";
+  else if (!Dispatch(request) && exchange_.note.empty())
+    exchange_.note = "unknown request";
+  // Told first: what is sent may end the call, and its end belongs behind.
+  Tell(std::exchange(exchange_, {}));
+  sender_.Flush();
+}
+
+bool Logger::Dispatch(const std::string& request) {
+  for (const Command& command : kCommands) {
+    if (request.starts_with(command.head))
+      return (this->*command.answer)(std::string_view(request).substr(command.head.size()));
+  }
+  const auto answer = AnswerLive(request, Self(), conf_, live_, outputs_, Seconds());
+  if (answer) Reply(*answer);
+  return answer.has_value();
+}
+
+void Logger::Reply(std::string_view message, Duration tear) {
+  if (exchange_.frames++ == 0) exchange_.reply = message;
+  sender_.Frame(message, tear);
+}
+
+void Logger::Tell(const Exchange& exchange) const {
+  if (observer_) observer_(exchange);
+}
+
+void Logger::SetTerminalReady(bool ready) {
+  if (!ready) ForgetLine();
+  if (modem_ && !ready) modem_->HangUp();
+  if (!modem_ && ready) line_.SetCarrier(true);
+}
+
+void Logger::ForgetLine() {
+  reader_.Reset();
+  requests_.clear();
+  loop_.Cancel(std::exchange(answer_, 0));
+  sender_.Clear();
+}
+
+void Logger::ChangeCall(bool up) {
+  ForgetLine();
+  admitted_ = !up || options_.accessCode.empty();
+  line_.SetCarrier(up);
+}
+
+void Logger::LoseCarrier() {
+  if (modem_)
+    modem_->LoseCarrier();
+  else
+    line_.SetCarrier(false);
+}
+
+// ---- Answers
+
+bool Logger::AnswerAccessCode(std::string_view rest) {
+  const bool right = rest == options_.accessCode;
+  if (modem_) admitted_ = right || options_.accessCode.empty();
+  Reply(right ? "#PassWord=1" : "#PassWord=0");
+  return true;
+}
+
+bool Logger::AnswerHandshake(std::string_view rest) {
+  if (!rest.empty()) return false;
+  std::string text = "#BF" + std::string(Self().Traits().displayName) + " v";
+  AppendNumber(text, options_.version / 100);
+  text += '.';
+  AppendPadded(text, options_.version % 100, 2);
+  Reply(text);
+  return true;
+}
+
+void Logger::ReplyRecord(std::string_view head, int number, std::string_view record) {
+  std::string message(head);
+  AppendPadded(message, number, 3);
+  Reply(message.append(record));
+}
+
+bool Logger::AnswerInformation(std::string_view rest) {
+  if (!rest.empty()) return false;
+  const auto battery = static_cast<int>(options_.seed % 30);
+  const std::int64_t used = 1200 + Seconds() / 60;
+  const std::string records[] = {
+      "VERSION," + std::to_string(options_.version),
+      "FEATURES," + std::to_string(static_cast<std::int32_t>(options_.features)),
+      "SERIAL," + options_.serial,
+      "VBAT,3." + std::to_string(60 + battery),
+      "RSSI," + std::to_string(18 + Seconds() / 20 % 5),
+      "LOG.SIZE,65536",
+      "LOG.USE," + std::to_string(std::min<std::int64_t>(used, 65536)),
+  };
+  int number = 0;
+  for (const std::string& record : records) ReplyRecord("#BB", number++, record);
+  Reply("#BB");
+  return true;
+}
+
+bool Logger::AnswerDownload(std::string_view rest) {
+  if (!rest.empty()) return false;
+  int number = 0;
+  for (const std::string& record : ConfigurationRecords(conf_, Self())) {
+    ReplyRecord("#BD", number, record);
+    if (plan_.At(FaultKind::SilentAfterRecord, number++)) {
+      exchange_.note = "cut by fault";
+      return true;
+    }
+  }
+  Reply("#BD");
+  return true;
+}
+
+bool Logger::AnswerStatement(std::string_view rest) {
+  const int number = ThreeDigits(rest);
+  if (number == 0) muteUpload_ = false;
+  if (muteUpload_) {
+    exchange_.note = "unheard by fault";
+    return true;
+  }
+  Verdict verdict = upload_.Take(rest, conf_);
+  Duration tear{};
+  if (verdict == Verdict::Taken) {
+    const auto torn = plan_.At(FaultKind::TornRefusal, number);
+    if (torn) tear = std::chrono::milliseconds{torn->milliseconds};
+    if (torn || plan_.At(FaultKind::RefuseStatement, number)) {
+      upload_.Refuse("by fault");
+      verdict = Verdict::Refused;
+    }
+  }
+  if (verdict == Verdict::Refused) Reply("#BA0" + std::string(rest.substr(0, 3)), tear);
+  if (verdict != Verdict::Taken) exchange_.note = upload_.Why();
+  if (plan_.At(FaultKind::SilentAfterStatement, number)) muteUpload_ = true;
+  return true;
+}
+
+bool Logger::AnswerClosing(std::string_view rest) {
+  if (muteUpload_) {
+    exchange_.note = "unheard by fault";
+    return true;
+  }
+  if (plan_.Count(FaultKind::WrongClosing)) upload_.Refuse("by fault");
+  if (auto conf = upload_.Close(rest)) {
+    conf_ = std::move(*conf);
+    ++uploadsTaken_;
+    Reply("#B91");
+  } else {
+    exchange_.note = upload_.Why();
+    Reply("#B90");
+  }
+  return true;
+}
+
+bool Logger::AnswerSetTotal(std::string_view rest) {
+  StatementCursor in(rest);
+  const bool counter = in.Has("CNT");
+  if (!counter && !in.Has("EXP")) return false;
+  const ModelTraits& traits = Self().Traits();
+  const int index = in.Plain(0, (counter ? traits.flows : traits.modules) - 1);
+  in.Expect("=");
+  const bool negative = in.Has("-");
+  const int value = in.Plain(0, std::numeric_limits<std::int32_t>::max());
+  in.End();
+  exchange_.note = in.Why();
+  if (in.Failed()) {
+    Reply("#BE0");
+    return true;
+  }
+  if (counter)
+    live_.SetCounter(index, negative ? -value : value, Seconds());
+  else
+    live_.SetModule(index, negative ? -value : value, Seconds());
+  Reply("#BE1");
+  return true;
+}
+
+bool Logger::SwitchOutput(std::string_view rest, bool on) {
+  StatementCursor in(rest);
+  const int index = in.Plain(0, Self().Traits().outputs - 1);
+  in.End();
+  exchange_.note = in.Why();
+  const unsigned bit = in.Failed() ? 0 : 1U << index;
+  outputs_ = on ? outputs_ | bit : outputs_ & ~bit;
+  Reply(std::string(on ? "#B8" : "#B7") + (bit == 0 ? "0" : "1"));
+  return true;
+}
+
+bool Logger::AnswerOutputOn(std::string_view rest) { return SwitchOutput(rest, true); }
+bool Logger::AnswerOutputOff(std::string_view rest) { return SwitchOutput(rest, false); }
+
+}  // namespace ostrel::sim

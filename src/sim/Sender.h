@@ -1,0 +1,50 @@
+#pragma once
+
+#include <deque>
+#include <functional>
+#include <string>
+#include <string_view>
+
+#include "platform/EventLoop.h"
+#include "platform/Line.h"
+#include "sim/Faults.h"
+
+namespace ostrel::sim {
+
+/// The logger's way out: frames messages, lets the faults of the line at them, and keeps order
+/// where a fault delays. What needs no wait leaves in one piece at `Flush`.
+class Sender {
+ public:
+  Sender(EventLoop& loop, LineEnd& line, FaultPlan& plan, std::function<void()> onCarrierDrop);
+  ~Sender();
+  Sender(const Sender&) = delete;
+  Sender& operator=(const Sender&) = delete;
+
+  /// Queues a message as a frame; with a `tear`, its second half that much later than its first.
+  void Frame(std::string_view message, Duration tear = {});
+  /// Sends what is queued.
+  void Flush();
+  /// Forgets what has not left.
+  void Clear();
+
+ private:
+  enum class End { None, CarrierDrop, Vanish };
+  struct Piece {
+    Duration wait{};
+    std::string octets;
+    End end = End::None;
+  };
+
+  Piece& Last();
+  void Put(std::string_view octets);
+
+  EventLoop& loop_;
+  LineEnd& line_;
+  FaultPlan& plan_;
+  std::function<void()> onCarrierDrop_;
+  std::deque<Piece> pieces_;
+  TimerId wait_ = 0;
+  bool gone_ = false;
+};
+
+}  // namespace ostrel::sim

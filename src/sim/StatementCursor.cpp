@@ -1,0 +1,132 @@
+#include "sim/StatementCursor.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+#include <cstdint>
+#include <system_error>
+#include <utility>
+
+namespace ostrel::sim {
+namespace {
+
+bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+bool IsControl(char c) { return static_cast<unsigned char>(c) < 0x20 || c == 0x7F; }
+
+}  // namespace
+
+void StatementCursor::Fail(std::string why) {
+  if (Failed()) return;
+  why_ = std::move(why);
+  why_.append(" at \"").append(rest_.substr(0, 20)).append("\"");
+  rest_ = {};
+}
+
+bool StatementCursor::Has(std::string_view token) {
+  if (Failed() || !rest_.starts_with(token)) return false;
+  rest_.remove_prefix(token.size());
+  return true;
+}
+
+bool StatementCursor::HasToken(std::string_view token) {
+  const bool whole = rest_.size() <= token.size() || rest_[token.size()] == ',';
+  return whole && Has(token);
+}
+
+void StatementCursor::Expect(std::string_view token) {
+  if (!Has(token)) Fail(std::string(token) + " expected");
+}
+
+void StatementCursor::End() {
+  if (!rest_.empty()) Fail("end expected");
+}
+
+std::string StatementCursor::Text() {
+  const std::string_view text = rest_.substr(0, rest_.find(','));
+  if (std::ranges::any_of(text, IsControl)) {
+    Fail("control character");
+    return {};
+  }
+  rest_.remove_prefix(text.size());
+  return std::string(text);
+}
+
+std::string_view StatementCursor::TakeDigits() {
+  const auto end = std::ranges::find_if_not(rest_, IsDigit);
+  const std::string_view digits(rest_.begin(), end);
+  rest_.remove_prefix(digits.size());
+  return digits;
+}
+
+int StatementCursor::Bounded(std::string_view digits, bool negative, int first, int last) {
+  std::int64_t value = 0;
+  const auto parsed = std::from_chars(digits.data(), digits.data() + digits.size(), value);
+  if (parsed.ec != std::errc{} || (digits.size() > 1 && digits[0] == '0')) {
+    Fail("whole number expected");
+    return 0;
+  }
+  if (negative) value = -value;
+  if (value < first || value > last) {
+    Fail("number " + std::to_string(value) + " out of range");
+    return 0;
+  }
+  return static_cast<int>(value);
+}
+
+int StatementCursor::Plain(int first, int last) {
+  if (Failed()) return 0;
+  return Bounded(TakeDigits(), false, first, last);
+}
+
+int StatementCursor::Whole(int first, int last) {
+  if (Failed()) return 0;
+  const bool negative = Has("-");
+  if (!negative) Expect(" ");
+  return Failed() ? 0 : Bounded(TakeDigits(), negative, first, last);
+}
+
+float StatementCursor::Decimal() {
+  if (Failed()) return 0;
+  const bool negative = Has("-");
+  if (!negative) Expect(" ");
+  const std::string_view token = rest_.substr(0, rest_.find(','));
+  const bool zeroInFront = token.size() > 1 && token[0] == '0';
+  float value = 0;
+  const auto parsed = std::from_chars(token.data(), token.data() + token.size(), value);
+  const bool number = !token.empty() && (IsDigit(token[0]) || token[0] == '.') && !zeroInFront;
+  if (!number || parsed.ec != std::errc{} || parsed.ptr != token.data() + token.size() ||
+      !std::isfinite(value)) {
+    Fail("number expected");
+    return 0;
+  }
+  rest_.remove_prefix(token.size());
+  return negative ? -value : value;
+}
+
+int StatementCursor::TimeOfDay() {
+  const int hours = Plain(0, 23);
+  int seconds = hours * 3600;
+  for (const int unit : {60, 1}) {
+    Expect(":");
+    const std::string_view digits = TakeDigits();
+    if (digits.size() != 2 || digits > "59") {
+      Fail("time expected");
+      return 0;
+    }
+    seconds += unit * ((digits[0] - '0') * 10 + (digits[1] - '0'));
+  }
+  return Failed() ? 0 : seconds;
+}
+
+int StatementCursor::Week() {
+  int week = 0;
+  const std::string_view digits = TakeDigits();
+  for (std::size_t day = 0; day < digits.size() && day < 7; ++day) {
+    if (digits[day] == '1') week |= 1 << day;
+  }
+  if (digits.size() != 7 || digits.find_first_not_of("01") != std::string_view::npos)
+    Fail("week of seven digits expected");
+  return Failed() ? 0 : week;
+}
+
+}  // namespace ostrel::sim

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace ostrel::sim {
+
+/// Walks along a statement. The first thing that is not as it must be is kept as `Why`; from then
+/// on every step does nothing and gives 0, so a grammar reads as a straight list of steps.
+class StatementCursor {
+ public:
+  explicit StatementCursor(std::string_view statement) : rest_(statement) {}
+
+  bool Failed() const { return !why_.empty(); }
+  const std::string& Why() const { return why_; }
+  void Fail(std::string why);
+  /// The text that was not taken.
+  std::string_view Rest() const { return rest_; }
+
+  /// Takes a text if it comes next.
+  bool Has(std::string_view token);
+  /// The same for a whole token: behind it the statement ends or goes on with a comma.
+  bool HasToken(std::string_view token);
+  /// Takes a text that must come next.
+  void Expect(std::string_view token);
+  /// The statement must end here.
+  void End();
+
+  /// All up to a comma or the end; may be empty.
+  std::string Text();
+  /// Plain digits without a leading zero, within bounds.
+  int Plain(int first, int last);
+  /// A whole number with its place for the sign ("- 3" is none, " 3" and "-3" are), within bounds.
+  int Whole(int first, int last);
+  /// A decimal number with its place for the sign and no zero in front of the point.
+  float Decimal();
+  /// A time of day "h:mm:ss" as seconds since midnight.
+  int TimeOfDay();
+  /// Seven digits 0 or 1, Monday first.
+  int Week();
+
+ private:
+  std::string_view TakeDigits();
+  int Bounded(std::string_view digits, bool negative, int first, int last);
+
+  std::string_view rest_;
+  std::string why_;
+};
+
+}  // namespace ostrel::sim
