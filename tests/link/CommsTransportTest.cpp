@@ -1,3 +1,5 @@
+#include <set>
+
 #include "link/LinkFixture.h"
 #include "link/RecordingPort.h"
 
@@ -12,10 +14,14 @@ class CommsTransport : public LinkTest {
   Kind FaultKind() const { return comms.Fault().kind; }
 };
 
-TEST_F(CommsTransport, PropertiesAreSetInOrder) {
-  RecordingPort recording(port);
+class CommsRecorded : public CommsTransport {
+ protected:
+  RecordingPort recording{port};
   Platform recorded{loop, recording, settings, dialogs, files, processes, clock};
-  Comms link(recorded, {profile, info, live, totals, ComBusy}, {});
+  Comms link{recorded, {profile, info, live, totals, ComBusy}, {}};
+};
+
+TEST_F(CommsRecorded, PropertiesAreSetInOrder) {
   logger.Always("#40", Frames("#BF120"));
   EXPECT_TRUE(link.StartComs(kPort, ""));
   EXPECT_THAT(recording.log,
@@ -23,10 +29,7 @@ TEST_F(CommsTransport, PropertiesAreSetInOrder) {
                           "Handshaking 2", "RTSEnable 0", "DTREnable 1", "PortOpen 1"));
 }
 
-TEST_F(CommsTransport, BlockedLineDelaysTheWindowByItsDeadlineOnly) {
-  RecordingPort recording(port);
-  Platform recorded{loop, recording, settings, dialogs, files, processes, clock};
-  Comms link(recorded, {profile, info, live, totals, ComBusy}, {});
+TEST_F(CommsRecorded, BlockedLineDelaysTheWindowByItsDeadlineOnly) {
   OpenPort();
   recording.stuck = 960;
   std::string message = "#40";
@@ -88,36 +91,23 @@ TEST_F(CommsTransport, ModemPath) {
   struct Case {
     std::string at, ifc, atd;       ///< answers of the modem
     std::deque<std::string> codes;  ///< typed by the operator
-    Texts lines;                    ///< heard by modem and logger
+    Texts lines;                    ///< heard behind "ATE0" and "AT"
     Kind fault;
-    int forms;
+    std::size_t forms;
   };
-  const std::string ok = "\r\nOK\r\n", connect = "\r\nCONNECT 9600\r";
-  const Texts dialled = {"ATE0", "AT", "AT+IFC=2,2", "ATD600123"};
-  const auto after = [&](Texts more) {
-    more.insert(more.begin(), dialled.begin(), dialled.end());
-    return more;
-  };
+  const std::string ok = "\r\nOK\r\n", con = "\r\nCONNECT 9600\r", ifc = "AT+IFC=2,2";
   const Case cases[] = {
-      {ok, ok, connect, {"1234"}, after({"#111234", "#40"}), Kind::None, 1},
-      {ok, "ERROR\r", connect, {"1234"}, after({"#111234", "#40"}), Kind::None, 1},
-      {ok, ok, connect, {"", "9", "1234"}, after({"#119", "#111234", "#40"}), Kind::None, 3},
-      {ok, ok, connect, {}, after({"#40"}), Kind::None, 3},
-      {ok,
-       ok,
-       connect,
-       {"1", "2", "3", "4"},
-       after({"#111", "#112", "#113", "#40"}),
-       Kind::None,
-       3},
-      {"ERROR\r", ok, connect, {}, {"ATE0", "AT"}, Kind::NoModem, 0},
-      {ok, ok, "BUSY\r", {}, dialled, Kind::NoConnect, 0},
-      {ok, ok, "NO CONNECT\r", {}, dialled, Kind::NoConnect, 0},
+      {ok, ok, con, {"1234"}, {ifc, "ATD6", "#111234", "#40"}, Kind::None, 1},
+      {ok, "ERROR\r", con, {"1234"}, {ifc, "ATD6", "#111234", "#40"}, Kind::None, 1},
+      {ok, ok, con, {"", "9", "1234"}, {ifc, "ATD6", "#119", "#111234", "#40"}, Kind::None, 3},
+      {ok, ok, con, {}, {ifc, "ATD6", "#40"}, Kind::None, 3},
+      {"ERROR\r", ok, con, {}, {}, Kind::NoModem, 0},
+      {ok, ok, "BUSY\r", {}, {ifc, "ATD6"}, Kind::NoConnect, 0},
+      {ok, ok, "NO CONNECT\r", {}, {ifc, "ATD6"}, Kind::NoConnect, 0},
   };
   logger.Always("ATE0", "ATE0\r\r\nOK\r\n");
   logger.Always("#40", Frames("#BF"));
-  for (const std::string code : {"1", "2", "3", "9"})
-    logger.Always("#11" + code, Frames("#PassWord=0"));
+  logger.Always("#119", Frames("#PassWord=0"));
   logger.Always("#111234", Frames("#PassWord=1"));
   Texts trace;
   comms.Trace = [&trace](const std::string& line) { trace.push_back(line); };
@@ -125,16 +115,16 @@ TEST_F(CommsTransport, ModemPath) {
     SCOPED_TRACE(testing::PrintToString(c.lines));
     logger.Always("AT", c.at);
     logger.Always("AT+IFC=2,2", c.ifc);
-    logger.Always("ATD600123", c.atd);
+    logger.Always("ATD6", c.atd);
     codes = c.codes;
     logger.lines.clear();
     hooked.clear();
-    EXPECT_EQ(comms.StartComs(kPort, "600123"), c.fault == Kind::None);
+    EXPECT_EQ(comms.StartComs(kPort, "6"), c.fault == Kind::None);
     EXPECT_EQ(FaultKind(), c.fault);
     EXPECT_EQ(comms.PortOpen(), c.fault == Kind::None);
     EXPECT_EQ(comms.ReplyTimeout, 10'000);
-    EXPECT_THAT(logger.lines, ElementsAreArray(c.lines));
-    EXPECT_EQ(hooked.size(), static_cast<std::size_t>(c.forms));
+    EXPECT_THAT(Texts(logger.lines.begin() + 2, logger.lines.end()), ElementsAreArray(c.lines));
+    EXPECT_EQ(hooked.size(), c.forms);
     comms.CloseComs(false);
   }
   for (const std::string& line : trace) EXPECT_EQ(line.find("1234"), std::string::npos) << line;
@@ -148,8 +138,6 @@ TEST_F(CommsTransport, DiallingWaitsFortySeconds) {
     dialled = loop.Now();
     At(milliseconds(39'999), [this] { logger.end->Send("CONNECT\r"); });
   };
-  At(milliseconds(40'500),
-     [&] { EXPECT_EQ(comms.SilentFor(), Duration::zero()) << "at the form"; });
   comms.StartComs(kPort, "1");
   EXPECT_EQ(FaultKind(), Kind::NoHandshake);
   EXPECT_EQ(loop.Now() - dialled, milliseconds(39'999 + 3 * 1000 + 100 + 3 * 10'000));
@@ -188,51 +176,32 @@ TEST_F(CommsTransport, CarrierLossIsToldOncePerEvent) {
 /// Every dialogue, and what it gives when nothing more comes.
 class CommsCut : public CommsTransport {
  protected:
-  struct Case {
-    const char* name;
-    std::function<bool()> run;
-    bool tellsFault = false;
-  };
-  std::vector<Case> Dialogues() {
-    profile.OutputCount = 4;
-    profile.IsS100 = true;
-    return {
-        {"StartComs",
-         [this] {
-           port.SetPortOpen(false);
-           return comms.StartComs(kPort, "");
-         },
-         true},
-        {"Dial",
-         [this] {
-           port.SetPortOpen(false);
-           return comms.StartComs(kPort, "1");
-         },
-         true},
-        {"CloseComs",
-         [this] {
-           comms.CloseComs(true);
-           return false;
-         }},
-        {"ReadConf", [this] { return comms.ReadConf(); }, true},
-        {"WriteConf", [this] { return comms.WriteConf(); }, true},
-        {"ReadInfo", [this] { return comms.ReadInfo(); }},
-        {"ReadDeviceRTC",
-         [this] {
-           comms.ReadDeviceRTC();
-           return false;
-         }},
-        {"WriteDeviceRTC", [this] { return comms.WriteDeviceRTC(); }, true},
-        {"ReadTotalCount", [this] { return comms.ReadTotalCount(); }},
-        {"ReadIOParameter", [this] { return comms.ReadIOParameter(); }},
-        {"ReadRealTime", [this] { return comms.ReadRealTime(); }},
-        {"SetOutput", [this] { return comms.SetOutput(3); }},
-        {"SetSingleOutput", [this] { return comms.SetSingleOutput(1, true); }},
-        {"SetTotalCNT", [this] { return comms.SetTotalCNT(1, 2); }, true},
-        {"SetExpValue", [this] { return comms.SetExpValue(1, 2); }, true},
-    };
+  const Texts kNames = {
+      "StartComs",    "Dial",          "CloseComs",       "ReadConf",       "WriteConf",
+      "ReadInfo",     "ReadDeviceRTC", "WriteDeviceRTC",  "ReadTotalCount", "ReadIOParameter",
+      "ReadRealTime", "SetOutput",     "SetSingleOutput", "SetTotalCNT",    "SetExpValue"};
+  const std::set<std::string> kTellFault = {
+      "StartComs", "Dial", "ReadConf", "WriteConf", "WriteDeviceRTC", "SetTotalCNT", "SetExpValue"};
+
+  bool Run(const std::string& name) {
+    if (name == "StartComs") return port.SetPortOpen(false), comms.StartComs(kPort, "");
+    if (name == "Dial") return port.SetPortOpen(false), comms.StartComs(kPort, "1");
+    if (name == "CloseComs") return comms.CloseComs(true), false;
+    if (name == "ReadConf") return comms.ReadConf();
+    if (name == "WriteConf") return comms.WriteConf();
+    if (name == "ReadInfo") return comms.ReadInfo();
+    if (name == "ReadDeviceRTC") return comms.ReadDeviceRTC(), false;
+    if (name == "WriteDeviceRTC") return comms.WriteDeviceRTC();
+    if (name == "ReadTotalCount") return comms.ReadTotalCount();
+    if (name == "ReadIOParameter") return comms.ReadIOParameter();
+    if (name == "ReadRealTime") return comms.ReadRealTime();
+    if (name == "SetOutput") return comms.SetOutput(3);
+    if (name == "SetSingleOutput") return comms.SetSingleOutput(1, true);
+    if (name == "SetTotalCNT") return comms.SetTotalCNT(1, 2);
+    return comms.SetExpValue(1, 2);
   }
   void Start() {
+    SelectTarget(profile, "Ostrel S100");
     const auto many = [](StatementList& out) {
       for (int i = 0; i < 300; ++i) out.Add("X");
     };
@@ -243,31 +212,29 @@ class CommsCut : public CommsTransport {
 
 /// No old line may pass for an answer.
 TEST_F(CommsCut, AbortEndsEveryDialogueAtOnce) {
-  for (const Case& c : Dialogues()) {
+  for (const std::string& name : kNames) {
     for (const char* stale : {"#BD", "#B91", "#BE1", "#A3", "#BF", "#DC,1", "#DF,1", "OK"}) {
-      SCOPED_TRACE(std::string(c.name) + " after " + stale);
+      SCOPED_TRACE(name + " after " + stale);
       Start();
       comms.RxLine = stale;
       const TimePoint start = loop.Now();
       At(milliseconds(150), [this] { comms.Abort(); });
-      EXPECT_FALSE(c.run());
+      EXPECT_FALSE(Run(name));
       EXPECT_EQ(loop.Now() - start, milliseconds(150));
-      EXPECT_FALSE(comms.PortOpen());
-      EXPECT_FALSE(comms.LinkBusy);
-      EXPECT_FALSE(ComBusy);
-      EXPECT_TRUE(!c.tellsFault || FaultKind() == Kind::PortClosed);
+      EXPECT_FALSE(comms.PortOpen() || comms.LinkBusy || ComBusy);
+      EXPECT_TRUE(!kTellFault.contains(name) || FaultKind() == Kind::PortClosed);
     }
   }
 }
 
 TEST_F(CommsCut, LostLineEndsEveryWaitAtOnce) {
-  for (const Case& c : Dialogues()) {
-    SCOPED_TRACE(c.name);
+  for (const std::string& name : kNames) {
+    SCOPED_TRACE(name);
     Start();
     const TimePoint start = loop.Now();
     At(milliseconds(150), [this] { logger.end->Vanish(); });
-    const bool result = c.run();
-    if (c.tellsFault) {
+    const bool result = Run(name);
+    if (kTellFault.contains(name)) {
       EXPECT_FALSE(result);
       EXPECT_EQ(FaultKind(), Kind::LineLost);
     }
@@ -279,13 +246,12 @@ TEST_F(CommsCut, LostLineEndsEveryWaitAtOnce) {
 }
 
 TEST_F(CommsCut, BusyLinkTurnsEveryDialogueAway) {
-  for (const Case& c : Dialogues()) {
-    const std::string_view name = c.name;
+  for (const std::string& name : kNames) {
     if (name == "StartComs" || name == "Dial" || name == "CloseComs") continue;
-    SCOPED_TRACE(c.name);
+    SCOPED_TRACE(name);
     Start();
     comms.LinkBusy = true;
-    EXPECT_FALSE(c.run());
+    EXPECT_FALSE(Run(name));
     EXPECT_TRUE(comms.LinkBusy);
   }
   EXPECT_EQ(logger.raw, "");

@@ -1,10 +1,13 @@
 #include <gmock/gmock.h>
 
 #include <cmath>
+#include <cstdio>
 #include <set>
 
 #include "sim/LineComposer.h"
+#include "sim/Random.h"
 #include "sim/SimBench.h"
+#include "sim/StatementParser.h"
 #include "sim/Text1252.h"
 
 namespace ostrel::sim {
@@ -186,6 +189,39 @@ TEST(SimConfiguration, TheDemoSuitsEveryModel) {
       EXPECT_EQ(demo.analogs[static_cast<std::size_t>(i)].scale.name.empty(), i >= traits.analogs);
     EXPECT_EQ(NameOfKept(demo, "FLOWCONF0").unit, "m\xB3/h");
   }
+}
+
+TEST(SimConfiguration, DamagedStatementsAreRefusedOrLeaveSomethingSound) {
+  const LoggerOptions options = MakeDefaultOptions(Model::VR200);
+  const Identity self{options.model, options.features};
+  const auto statements =
+      StatementsFor(RandomConfiguration(self.model, self.features, 9, 0.9), self);
+  Random random(77);
+  int taken = 0;
+  int refused = 0;
+  for (int round = 0; round < 20'000; ++round) {
+    std::string statement = random.Pick(statements);
+    for (int hits = random.Between(1, 3); hits > 0 && !statement.empty(); --hits) {
+      const auto at = static_cast<std::size_t>(random.Next() % statement.size());
+      const int way = random.Between(0, 2);
+      if (way == 0) statement.erase(at, 1);
+      if (way == 1) statement[at] = static_cast<char>(random.Between(0, 255));
+      if (way == 2) statement.insert(at, 1, random.Pick(std::string_view(", -=+0129.EA#\r{")));
+    }
+    Configuration conf;
+    if (!ApplyStatement(statement, self, conf).empty()) {
+      ++refused;
+      continue;
+    }
+    ++taken;
+    const auto again = StatementsFor(conf, self);
+    Configuration copy;
+    for (const std::string& one : again)
+      ASSERT_EQ(ApplyStatement(one, self, copy), "") << one << " after " << statement;
+    EXPECT_EQ(ConfigurationRecords(copy, self).size(), ConfigurationRecords(conf, self).size());
+  }
+  EXPECT_GT(taken, 1000);
+  EXPECT_GT(refused, 1000);
 }
 
 // ---- The saved state
