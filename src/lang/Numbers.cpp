@@ -135,6 +135,16 @@ bool IsLarge(std::string_view magnitude) {
   return place - static_cast<std::int64_t>(first) + WrittenExponent(magnitude) > 0;
 }
 
+/// All digits that it takes to read the very same number back, without an exponent.
+template <class Number>
+std::string AllDigits(Number number) {
+  if (!std::isfinite(number) || number == 0) return "0";
+  std::array<char, 400> buffer{};
+  const auto [end, _] =
+      std::to_chars(buffer.data(), buffer.data() + buffer.size(), number, std::chars_format::fixed);
+  return {buffer.data(), end};
+}
+
 }  // namespace
 
 std::string NumText(float number) { return FloatText(double{number}, kFloatDigits); }
@@ -151,13 +161,8 @@ double NumVal(std::string_view text) {
   return scan.isNegative && value != 0 ? -value : value;
 }
 
-std::string DecText(float number) {
-  if (!std::isfinite(number) || number == 0) return "0";
-  std::array<char, 128> buffer{};
-  const auto [end, _] =
-      std::to_chars(buffer.data(), buffer.data() + buffer.size(), number, std::chars_format::fixed);
-  return {buffer.data(), end};
-}
+std::string DecText(float number) { return AllDigits(number); }
+std::string DecText(double number) { return AllDigits(number); }
 
 bool IsFloatText(std::string_view text) {
   const Scan scan = ScanNumber(text);

@@ -32,6 +32,7 @@ double NumVal(std::string_view text);
 /// The plain decimal text of a number, without a leading blank and never with an exponent, in as
 /// many digits as it takes to read the very same float back. What is no finite number gives "0".
 std::string DecText(float number);
+std::string DecText(double number);
 
 /// True for a decimal number with optional sign, point and exponent and nothing else; blanks and
 /// tabs may stand around it, as in a box that shows `NumText`. A comma is always refused.

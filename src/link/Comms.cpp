@@ -14,7 +14,10 @@ Comms::Comms(const Platform& platform, const LinkRecords& records, LinkHooks hoo
   });
 }
 
-Comms::~Comms() { platform_.port.SetOnComm({}); }
+Comms::~Comms() {
+  platform_.port.SetOnComm({});
+  if (opened_) platform_.port.SetPortOpen(false);
+}
 
 void Comms::SetWire(std::vector<WireSection> sections, std::vector<WireBlock> blocks) {
   sections_.clear();

@@ -101,7 +101,8 @@ class Comms {
   /// The statements that `WriteConf` would send now, without their numbers.
   std::vector<std::string> ComposeStatements() const;
   /// Sends one statement under `StatementNo`, which rises by 1 and is told to `bar`. False when
-  /// the logger refuses within its window, or when the line is closed or lost; silence is good.
+  /// the logger refuses within its window, or when the line is closed, lost or held; silence is
+  /// good.
   bool SendStatement(std::string_view statement, const std::function<void(int)>& bar);
   /// Asks the logger who it is. Always false; the values stand in the records.
   bool ReadInfo();
@@ -170,8 +171,9 @@ class Comms {
   TakenLine TakeLine(int timeout, Starts starts);
   void TakeWaiting(TakenLine& line, Starts starts);
   void Put(std::string_view octets);
-  /// Waits until what was written is on the line.
-  void AwaitSent();
+  /// Waits until what was written is on the line. What flow control holds back for too long is
+  /// discarded, so that it never reaches a logger late; the result is then false.
+  bool AwaitSent();
   /// Sends a message and awaits the answer; false when there is none.
   bool Ask(std::string message);
   void AskModem(std::string_view command, int timeout);
@@ -184,8 +186,9 @@ class Comms {
   // Dialogues.
   bool DownloadOnce();
   bool ParseConfLine();
+  bool ReadSection(const std::function<void(LineReader&)>& section);
   bool ParseInfoLine();
-  bool ParseClock();
+  void ParseClock();
   bool UploadOnce();
   /// Takes the number of a stream's line; false when it is not the one expected.
   bool TakeRecordNumber(std::string_view head);
@@ -200,8 +203,10 @@ class Comms {
   std::vector<WireBlock> blocks_;
   LinkFault fault_;
   bool infoComplete_ = false;
+  bool boundFailed_ = false;  ///< a line of this download had an index beyond its array
   std::int16_t RecordExpected_ = 0;
   std::int16_t RecordReceived_ = 0;
+  bool opened_ = false;                    ///< the open port is ours to close
   bool damaged_ = false;                   ///< a bad frame has come since this was last cleared
   std::optional<TimePoint> awaitedSince_;  ///< last sign of the logger; none while none is due
 };

@@ -37,14 +37,10 @@ bool Comms::ReadConf() {
   // Once only: what a failed attempt has brought stays.
   if (hooks_.clearPages) hooks_.clearPages();
   bool done = false;
-  try {
-    for (int attempt = 0; attempt < kAttempts && !done; ++attempt) {
-      done = DownloadOnce();
-      if (!Alive()) break;
-    }
-  } catch (const BoundFailure& failure) {
-    Note("Bound failure, ", std::string(failure.what()) + ": " + RxLine);
-    return Fail(LinkFault::Kind::IndexOutOfRange, RecordReceived_, RxLine);
+  boundFailed_ = false;
+  for (int attempt = 0; attempt < kAttempts && !done; ++attempt) {
+    done = DownloadOnce();
+    if (boundFailed_ || !Alive()) break;
   }
   if (!done) return false;
   fault_ = {};
@@ -59,7 +55,8 @@ bool Comms::DownloadOnce() {
   if (!Ask("#42")) return FailWaiting(RecordExpected_);
   if (RxLine == kStreamHead) return Fail(LinkFault::Kind::EmptyStream);
   while (RxLine != kStreamHead) {
-    if (!ParseConfLine()) return Fail(LinkFault::Kind::OutOfSequence, RecordExpected_, RxLine);
+    if (!ParseConfLine())
+      return !boundFailed_ && Fail(LinkFault::Kind::OutOfSequence, RecordExpected_, RxLine);
     damaged_ = false;
     if (!RxSer(ReplyTimeout)) return FailWaiting(RecordExpected_);
   }
@@ -71,9 +68,20 @@ bool Comms::ParseConfLine() {
   if (RecordReceived_ < kBarMaximum && hooks_.barValue) hooks_.barValue(RecordReceived_);
   const auto section = sections_.find(std::string(Characters(FieldOfLine(RxLine, 1), kKeyAt)));
   if (section == sections_.end()) return true;  // of a newer firmware
-  LineReader reader(RxLine);
-  section->second(reader);
-  return true;
+  return ReadSection(section->second);
+}
+
+/// Lets a section read the line in hand. An index beyond its array ends the whole download.
+bool Comms::ReadSection(const std::function<void(LineReader&)>& section) {
+  try {
+    LineReader reader(RxLine);
+    section(reader);
+    return true;
+  } catch (const BoundFailure& failure) {
+    boundFailed_ = true;
+    Note("Bound failure, ", std::string(failure.what()) + ": " + RxLine);
+    return Fail(LinkFault::Kind::IndexOutOfRange, RecordReceived_, RxLine);
+  }
 }
 
 bool Comms::TakeRecordNumber(std::string_view head) {

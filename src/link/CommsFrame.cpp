@@ -12,6 +12,8 @@ constexpr int kDrainMs = 100;
 constexpr int kAttempts = 3;
 /// Far above the longest answer of any logger.
 constexpr std::size_t kLongestLine = 64 * 1024;
+/// More stale frames than any stream has; a source that never stops must not hold a dialogue up.
+constexpr int kMostStaleFrames = 2000;
 constexpr Duration kSendingExtra = std::chrono::milliseconds(500);
 
 bool StartsFrame(char c) { return c == '#'; }
@@ -35,13 +37,12 @@ void Comms::TxSer(std::string& message, int timeout) {
     Note("TxSer: ", plain);
   };
   if (timeout <= 0) return send();
-  while (RxSer(kDrainMs)) {
+  for (int stale = 0; stale < kMostStaleFrames && RxSer(kDrainMs); ++stale) {
   }
   damaged_ = false;
   for (int attempt = 0; attempt < kAttempts && Alive(); ++attempt) {
     send();
-    AwaitSent();
-    if (RxSer(timeout)) return;
+    if (AwaitSent() && RxSer(timeout)) return;
   }
 }
 
@@ -64,14 +65,13 @@ bool Comms::RxSer(int timeout) {
 
 void Comms::TxGsm(std::string_view command, int timeout) {
   if (!PortOpen()) return;
-  while (RxGsm(kDrainMs)) {
+  for (int stale = 0; stale < kMostStaleFrames && RxGsm(kDrainMs); ++stale) {
   }
   for (int attempt = 0; attempt < kAttempts && Alive(); ++attempt) {
     Put(ToCodePage(command) + kEndOfLine);
     Note("TxGsm: ", command);
     if (timeout <= 0) return;
-    AwaitSent();
-    if (RxGsm(timeout) && RxLine != "+CME ERROR: 515") return;
+    if (AwaitSent() && RxGsm(timeout) && RxLine != "+CME ERROR: 515") return;
   }
 }
 
@@ -121,12 +121,19 @@ void Comms::TakeWaiting(TakenLine& line, Starts starts) {
 
 void Comms::Put(std::string_view octets) { platform_.port.Output(octets); }
 
-void Comms::AwaitSent() {
-  const SerialPort& port = platform_.port;
+bool Comms::AwaitSent() {
+  SerialPort& port = platform_.port;
   const std::size_t queued = port.OutBufferCount();
-  if (queued == 0) return;
-  platform_.loop.RunUntil([&] { return port.OutBufferCount() == 0 || !Alive(); },
-                          platform_.loop.Now() + 2 * LineTime(queued) + kSendingExtra);
+  if (queued == 0) return true;
+  const bool sent =
+      platform_.loop.RunUntil([&] { return port.OutBufferCount() == 0 || !Alive(); },
+                              platform_.loop.Now() + 2 * LineTime(queued) + kSendingExtra);
+  if (!sent) {
+    port.DiscardOutput();
+    RxLine.clear();
+    Note("Line held, not sent");
+  }
+  return sent;
 }
 
 bool Comms::Ask(std::string message) {

@@ -68,19 +68,20 @@ void Comms::ReadDeviceRTC() {
   const Dialogue dialogue(*this);
   for (int attempt = 0; attempt < kAttempts && Alive(); ++attempt) {
     Ask("#5D");
-    if (RxLine.starts_with(kClockHead) && ParseClock()) return;
+    if (!RxLine.starts_with(kClockHead)) continue;
+    ParseClock();
+    return;
   }
 }
 
-/// Takes the twelve digits of a clock answer; false when they are no real date and time.
-bool Comms::ParseClock() {
+/// Takes the twelve digits of a clock answer. A date or time beyond its range counts on from the
+/// nearest real one, so an unset clock is a date long past and not an error.
+void Comms::ParseClock() {
   const auto part = [this](std::size_t first) {
-    return RoundToEven<int>(NumVal(Characters(RxLine, first, 2))).value_or(-1);
+    return RoundToEven<int>(NumVal(Characters(RxLine, first, 2))).value_or(0);
   };
-  const DateTime clock{part(4) + kCentury, part(6), part(8), part(10), part(12), part(14)};
-  if (!IsValid(clock)) return false;
-  records_.live.DeviceClock = clock;
-  return true;
+  records_.live.DeviceClock =
+      CountedOn({part(4) + kCentury, part(6), part(8), part(10), part(12), part(14)});
 }
 
 bool Comms::WriteDeviceRTC() {

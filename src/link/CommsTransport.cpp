@@ -13,6 +13,8 @@ constexpr int kGuardMs = 1000;
 constexpr int kBetweenPlusMs = 200;
 constexpr int kCodePasses = 3;
 constexpr int kReceiveBuffer = 8192;
+/// More frames than any logger sends at once; a source that never stops must not hold a start up.
+constexpr int kMostStaleFrames = 2000;
 
 LinkFault::Kind KindOf(PortFault fault) {
   switch (fault) {
@@ -30,6 +32,21 @@ LinkFault::Kind KindOf(PortFault fault) {
   return LinkFault::Kind::PortFailed;
 }
 
+/// Closes a port at the end of a scope, however it is left, unless `keepOpen` has become true.
+class PortCloser {
+ public:
+  PortCloser(SerialPort& port, const bool& keepOpen) : port_(port), keepOpen_(keepOpen) {}
+  ~PortCloser() {
+    if (!keepOpen_) port_.SetPortOpen(false);
+  }
+  PortCloser(const PortCloser&) = delete;
+  PortCloser& operator=(const PortCloser&) = delete;
+
+ private:
+  SerialPort& port_;
+  const bool& keepOpen_;
+};
+
 std::string PortName(int number) { return "COM" + std::to_string(number); }
 
 }  // namespace
@@ -45,7 +62,9 @@ bool Comms::StartComs(std::int16_t port, const std::string& phone) {
   fault_ = {};
   {
     const Dialogue dialogue(*this);
+    const PortCloser closer(platform_.port, connected);
     connected = OpenPort(port) && Connect(phone);
+    opened_ = connected;
   }
   // A flag left behind by whatever ran before must not block the session.
   if (connected) LinkBusy = false;
@@ -69,12 +88,10 @@ bool Comms::OpenPort(std::int16_t number) {
 bool Comms::Connect(const std::string& phone) {
   if (phone.empty()) {
     ReplyTimeout = kCableReplyMs;
-    while (RxSer(kQuietLineMs)) {
+    for (int stale = 0; stale < kMostStaleFrames && RxSer(kQuietLineMs); ++stale) {
     }
   }
-  if ((phone.empty() || Dial(phone)) && Handshake()) return true;
-  platform_.port.SetPortOpen(false);
-  return false;
+  return (phone.empty() || Dial(phone)) && Handshake();
 }
 
 bool Comms::Dial(const std::string& phone) {
@@ -108,8 +125,10 @@ bool Comms::Handshake() {
 
 void Comms::CloseComs(bool modem) {
   const Dialogue dialogue(*this);
+  const bool keepOpen = false;
+  const PortCloser closer(platform_.port, keepOpen);
   if (modem && Alive()) HangUp();
-  platform_.port.SetPortOpen(false);
+  if (Alive()) AwaitSent();
 }
 
 void Comms::HangUp() {

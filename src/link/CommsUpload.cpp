@@ -38,13 +38,13 @@ bool Comms::UploadOnce() {
   const std::vector<std::string> statements = ComposeStatements();
   for (const std::string& statement : statements)
     if (!SendStatement(statement, hooks_.barValue))
-      return Fail(LinkFault::Kind::Refused, StatementNo - 1, statement);
+      return RxLine.empty() ? FailWaiting(StatementNo - 1)
+                            : Fail(LinkFault::Kind::Refused, StatementNo - 1, statement);
   RxLine.clear();
   damaged_ = false;
   std::string closing = "#46" + Padded(StatementNo, kNumberDigits);
   TxSer(closing, 0);
-  AwaitSent();
-  if (!RxSer(ReplyTimeout)) return FailWaiting(StatementNo);
+  if (!AwaitSent() || !RxSer(ReplyTimeout)) return FailWaiting(StatementNo);
   if (RxLine.starts_with(kTakenOver)) return true;
   const bool isLateRefusal = RxLine.find(kRefusal) != std::string::npos && !statements.empty();
   return isLateRefusal ? Fail(LinkFault::Kind::Refused, StatementNo - 1, statements.back())
@@ -59,7 +59,7 @@ bool Comms::SendStatement(std::string_view statement, const std::function<void(i
   TxSer(message, 0);
   ++StatementNo;
   if (bar) bar(StatementNo);
-  AwaitSent();
+  if (!AwaitSent()) return false;
   awaitedSince_ = platform_.loop.Now();  // no answer is due before this window
   RxSer(isFast ? kFastRefusalMs : kRefusalMs);
   return Alive() && RxLine.find(kRefusal) == std::string::npos;

@@ -60,11 +60,7 @@ Fill MasksInto(RealTimeData& live) {
 
 Fill RawMathInto(RealTimeData& live) {
   return [&live](LineReader& line) {
-    for (int i = 0; i < kMathRaws; ++i) {
-      float value = 0;
-      line.Into(value);
-      live.MathRaw[i] = DecText(value);
-    }
+    for (int i = 0; i < kMathRaws; ++i) live.MathRaw[i] = DecText(line.Number());
   };
 }
 

@@ -9,7 +9,8 @@
 namespace ostrel {
 
 /// How the lines of one key of the configuration stream are read into the model. An index beyond
-/// its array leaves by `BoundFailure`, which ends the download.
+/// its array leaves by `BoundFailure`, which ends the download. It serves no events and does not
+/// use the link: the line that it reads is the link's own.
 struct WireSection {
   std::string_view key;
   std::function<void(LineReader&)> read;

@@ -21,14 +21,10 @@ std::string MaskCode(std::string_view text) {
   constexpr std::string_view kCommand = "#11";
   constexpr std::string_view kFramed = ";11";
   constexpr std::size_t kFrameHead = 3;  // "#" and two digits
-  std::size_t at = text.find(kCommand);
-  if (at == std::string_view::npos) {
-    at = text.find(kFramed);
-    const bool framed =
-        at != std::string_view::npos && at >= kFrameHead && text[at - kFrameHead] == '#';
-    if (!framed) return std::string(text);
-  }
-  return std::string(text.substr(0, at + kCommand.size())) + "****";
+  if (text.starts_with(kCommand)) return std::string(kCommand) + "****";
+  const bool framed = text.starts_with('#') && text.substr(0, kFrameHead + 3).ends_with(kFramed);
+  return framed ? std::string(text.substr(0, kFrameHead + kFramed.size())) + "****"
+                : std::string(text);
 }
 
 }  // namespace ostrel

@@ -60,7 +60,7 @@ class AlarmChannelPage final : public Page {
     channel_.Activate();
     LoadData();
   }
-  void Form_Deactivate() override { SavePage(); }
+  void Form_Deactivate() override { Commit(); }
   void VisitFields(DeviceConf& conf, const FieldVisitor& visit) const override {
     VisitRecords(Channel::Records(conf), Channel::kChannels, Channel::kSection, visit);
   }
@@ -75,6 +75,8 @@ class AlarmChannelPage final : public Page {
 
   Record& Current() { return Channel::Records(context_.conf)[CurrentIndex_]; }
   void SelectConfig(std::int16_t config);
+  /// Commits, unless a download is replacing the model.
+  void Commit();
   void EditActions(ActionList AlarmBlock::*list);
 
   PageContext& context_;
@@ -121,7 +123,7 @@ void AlarmChannelPage<Channel>::LoadText() {
 
 template <AlarmChannel Channel>
 void AlarmChannelPage<Channel>::ChangeIndex(std::int16_t index) {
-  SavePage();
+  Commit();
   if (index < 0 || index >= Channel::kChannels) return;
   CurrentIndex_ = index;
   Form_Load();
@@ -169,9 +171,14 @@ void AlarmChannelPage<Channel>::SavePage() {
 }
 
 template <AlarmChannel Channel>
+void AlarmChannelPage<Channel>::Commit() {
+  if (!context_.ComBusy) SavePage();
+}
+
+template <AlarmChannel Channel>
 void AlarmChannelPage<Channel>::SelectConfig(std::int16_t config) {
   if (config >= Record::kShape.configs) return;
-  SavePage();
+  Commit();
   CurrentConfig_ = config;
   LoadData();
 }

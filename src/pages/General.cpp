@@ -29,12 +29,6 @@ std::string VersionText(float hundredths) {
   return {text.data(), end.ptr};
 }
 
-/// A whole or broken number in plain digits, without a place for the sign.
-std::string PlainText(double number) {
-  const std::string text = NumText(number);
-  return text.starts_with(' ') ? text.substr(1) : text;
-}
-
 }  // namespace
 
 General::General(PageContext& context)
@@ -100,7 +94,7 @@ void General::Form_Load() {
 }
 
 void General::ChangeIndex(std::int16_t) {
-  SavePage();
+  if (!context_.ComBusy) SavePage();
   LoadData();
 }
 
@@ -172,8 +166,8 @@ void General::ShowInfo(std::string_view key) {
     RSSIBar.SetValue(info.Rssi);
     LabelRSSI.face.SetCaption("(" + std::to_string(info.Rssi) + ")");
   }
-  if (key == "LOG.SIZE") MaxHText.face.SetCaption(PlainText(info.LogSize) + " Registros");
-  if (key == "LOG.USE") UsedHText.face.SetCaption(PlainText(info.LogUsed) + " Registros");
+  if (key == "LOG.SIZE") MaxHText.face.SetCaption(DecText(info.LogSize) + " Registros");
+  if (key == "LOG.USE") UsedHText.face.SetCaption(DecText(info.LogUsed) + " Registros");
 }
 
 void General::VisitFields(DeviceConf& conf, const FieldVisitor& visit) const {

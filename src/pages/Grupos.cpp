@@ -38,8 +38,12 @@ void Grupos::LoadText() {
   form_.TranslateCaptions([this](std::string_view key) { return context_.Translate(key); });
 }
 
+void Grupos::Form_Deactivate() {
+  if (!context_.ComBusy) SavePage();
+}
+
 void Grupos::ChangeIndex(std::int16_t) {
-  SavePage();
+  Form_Deactivate();
   Form_Load();
 }
 

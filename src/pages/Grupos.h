@@ -24,7 +24,7 @@ class Grupos final : public Page {
   void SavePage() override;
   void Form_Load() override;
   void Form_Activate() override {}
-  void Form_Deactivate() override { SavePage(); }
+  void Form_Deactivate() override;
   void VisitFields(DeviceConf& conf, const FieldVisitor& visit) const override;
   std::vector<WireSection> WireSections() override;
   std::vector<WireBlock> WireBlocks() override;

@@ -51,4 +51,14 @@ constexpr DateTime FromSeconds(std::int64_t seconds) {
           rest % 60};
 }
 
+/// The real date and time that fields beyond their range stand for: month 0 is the December before,
+/// day 0 the last day of the month before, and so on.
+constexpr DateTime CountedOn(const DateTime& t) {
+  using namespace std::chrono;
+  const int months = t.year * 12 + t.month - 1;
+  const sys_days first{year{months / 12} / month{static_cast<unsigned>(months % 12 + 1)} / 1};
+  const std::int64_t dayCount = first.time_since_epoch().count() + t.day - 1;
+  return FromSeconds(dayCount * 86'400 + t.hour * 3600 + t.minute * 60 + t.second);
+}
+
 }  // namespace ostrel

@@ -56,6 +56,8 @@ class SerialPort {
   virtual void Output(std::string_view octets) = 0;
   /// Octets that were queued and are not on the line yet.
   virtual std::size_t OutBufferCount() const = 0;
+  /// Forgets the octets that are not on the line yet.
+  virtual void DiscardOutput() = 0;
   /// Takes up to `InputLen` received octets.
   virtual std::string Input() = 0;
   virtual std::size_t InBufferCount() const = 0;

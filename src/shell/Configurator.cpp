@@ -1,6 +1,7 @@
 #include "shell/Configurator.h"
 
 #include <algorithm>
+#include <stdexcept>
 
 #include "pages/E_Analog.h"
 #include "pages/E_Digital.h"
@@ -15,6 +16,20 @@ namespace ostrel {
 namespace {
 
 constexpr std::string_view kMaker = "Quorvane";
+
+/// Gives a record another value until the end of a scope.
+template <class T>
+class Lent {
+ public:
+  Lent(T& record, T value) : record_(record), kept_(std::exchange(record, std::move(value))) {}
+  ~Lent() { record_ = std::move(kept_); }
+  Lent(const Lent&) = delete;
+  Lent& operator=(const Lent&) = delete;
+
+ private:
+  T& record_;
+  T kept_;
+};
 
 std::vector<std::unique_ptr<Page>> MakePages(PageContext& context) {
   std::vector<std::unique_ptr<Page>> pages;
@@ -85,6 +100,9 @@ void Configurator::RegisterWire() {
     std::ranges::move(page->WireSections(), std::back_inserter(sections));
     std::ranges::move(page->WireBlocks(), std::back_inserter(found));
   }
+  for (const WireBlock& block : found)
+    if (std::ranges::find(kUploadOrder, block.name) == kUploadOrder.end())
+      throw std::logic_error("no place in an upload for " + std::string(block.name));
   std::vector<WireBlock> blocks;
   for (const std::string_view name : kUploadOrder) {
     const auto block = std::ranges::find(found, name, &WireBlock::name);
@@ -94,6 +112,8 @@ void Configurator::RegisterWire() {
 }
 
 void Configurator::ShowCarrierLost() {
+  if (carrierBoxUp_) return;  // a flapping signal must not stack boxes
+  const Lent up(carrierBoxUp_, true);
   platform_.dialogs.ShowMessage(
       {.text = context.Translate("Se corto la comunicacion"), .title = profile.TargetName});
 }
@@ -127,12 +147,9 @@ void Configurator::VisitFields(DeviceConf& target, const FieldVisitor& visit) co
 
 std::vector<std::string> Configurator::StatementsOf(const DeviceConf& source,
                                                     std::int32_t features) {
-  const DeviceConf keptConf = std::exchange(conf, source);
-  const std::int32_t keptFeatures = std::exchange(info.Features, features);
-  std::vector<std::string> statements = comms.ComposeStatements();
-  conf = keptConf;
-  info.Features = keptFeatures;
-  return statements;
+  const Lent lentConf(conf, source);
+  const Lent lentFeatures(info.Features, features);
+  return comms.ComposeStatements();
 }
 
 void Configurator::TargetDeviceChange(const std::string& name) {

@@ -117,6 +117,7 @@ class Configurator {
   Platform platform_;
   ConfiguratorOptions options_;
   std::string mainCaption_;
+  bool carrierBoxUp_ = false;
   std::vector<std::unique_ptr<Page>> pages_;
 
  public:

@@ -10,16 +10,17 @@ namespace {
 
 constexpr std::int64_t kToleratedClockSeconds = 10 * 60;
 
-/// Holds a flag for the length of a scope.
-class Held {
+/// Runs an action at the end of a scope, however that is left.
+template <class Action>
+class AtEnd {
  public:
-  explicit Held(bool& flag) : flag_(flag) { flag_ = true; }
-  ~Held() { flag_ = false; }
-  Held(const Held&) = delete;
-  Held& operator=(const Held&) = delete;
+  explicit AtEnd(Action action) : action_(std::move(action)) {}
+  ~AtEnd() { action_(); }
+  AtEnd(const AtEnd&) = delete;
+  AtEnd& operator=(const AtEnd&) = delete;
 
  private:
-  bool& flag_;
+  Action action_;
 };
 
 }  // namespace
@@ -35,17 +36,18 @@ SessionDriver::SessionDriver(PageContext& context, Comms& comms, General& genera
 
 void SessionDriver::Tick() {
   if (ticking_) return;
-  const Held held(ticking_);
+  ticking_ = true;
+  const AtEnd ended([this] { ticking_ = false; });
   if (session_.IniRequest && !Connected_) comms_.LinkBusy = false;
   if (!comms_.LinkBusy && session_.IniRequest) OpenOrClose();
   if (!Connected_ || !general_.PageActive) return;
   if (session_.WriteRequest) {
+    const AtEnd served([this] { session_.WriteRequest = false; });
     Upload();
-    session_.WriteRequest = false;
   }
   if (session_.ReadRequest) {
+    const AtEnd served([this] { session_.ReadRequest = false; });
     Download();
-    session_.ReadRequest = false;
   }
   comms_.ReadInfo();
 }
@@ -53,14 +55,16 @@ void SessionDriver::Tick() {
 void SessionDriver::OpenOrClose() {
   Form& form = general_.GetForm();
   form.SetMousePointer(Pointer::Hourglass);
+  const AtEnd served([&] {
+    form.SetMousePointer(Pointer::Default);
+    session_.IniRequest = false;
+  });
   if (Connected_) {
     Close(session_.ModemCheck.Checked());
   } else {
     Open(session_.SelectedPort(),
          session_.ModemCheck.Checked() ? session_.CallNum.Text() : std::string());
   }
-  form.SetMousePointer(Pointer::Default);
-  session_.IniRequest = false;
 }
 
 bool SessionDriver::Open(std::int16_t port, const std::string& phone) {
@@ -131,12 +135,16 @@ bool SessionDriver::Transfer(std::string_view status, std::string_view success,
   form.SetMousePointer(Pointer::Hourglass);
   form.SetEnabled(false);
   session_.EnableTransfers(false);
+  const AtEnd ended([&] {
+    session_.EnableTransfers(true);
+    form.SetEnabled(true);
+    form.SetMousePointer(Pointer::Default);
+  });
   SetStatus(status);
+  // What the firmware can do decides how a configuration is read and written.
+  if (!comms_.InfoComplete()) comms_.ReadInfo();
   const bool done = (comms_.*dialogue)();
   SetStatus(done ? success : "Error!");
-  session_.EnableTransfers(true);
-  form.SetEnabled(true);
-  form.SetMousePointer(Pointer::Default);
   return done;
 }
 

@@ -65,7 +65,7 @@ TEST_F(CommsSession, InfoFaults) {
   }
 }
 
-TEST_F(CommsSession, ClockIsReadWhenItIsARealDate) {
+TEST_F(CommsSession, ClockCountsOnFromARealDate) {
   const DateTime former{2020, 1, 1, 0, 0, 0}, good{2026, 1, 15, 8, 30, 5};
   struct Case {
     Texts answers;
@@ -74,10 +74,13 @@ TEST_F(CommsSession, ClockIsReadWhenItIsARealDate) {
   };
   const Case cases[] = {
       {{"#A2260115083005"}, good, 1},
-      {{"#A3", "#A2261315083005", "#A2260115083005"}, good, 3},
-      {{"#A2260230083005", "#A2260115243005", "#A2"}, former, 3},
+      {{"#A3", "#A1", "#A2260115083005"}, good, 3},
+      {{"#A3", "#A1", "#A0"}, former, 3},
       {{"#A2240229000000"}, {2024, 2, 29, 0, 0, 0}, 1},
-      {{"#A2250229000000", "#A22601150830-5", "#A2260100083005", "#A2260115083005"}, former, 3},
+      {{"#A2250229246001"}, {2025, 3, 2, 1, 0, 1}, 1},
+      {{"#A2261315000000"}, {2027, 1, 15, 0, 0, 0}, 1},
+      {{"#A2000000000000"}, {1999, 11, 30, 0, 0, 0}, 1},
+      {{"#A2"}, {1999, 11, 30, 0, 0, 0}, 1},
   };
   for (const Case& c : cases) {
     logger.Forget();

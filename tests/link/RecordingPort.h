@@ -29,6 +29,7 @@ class RecordingPort final : public SerialPort {
   bool LineLost() const override { return port_.LineLost(); }
   void Output(std::string_view octets) override { port_.Output(octets); }
   std::size_t OutBufferCount() const override { return stuck.value_or(port_.OutBufferCount()); }
+  void DiscardOutput() override { port_.DiscardOutput(); }
   std::string Input() override { return port_.Input(); }
   std::size_t InBufferCount() const override { return port_.InBufferCount(); }
   bool CDHolding() const override { return port_.CDHolding(); }

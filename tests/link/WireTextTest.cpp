@@ -70,7 +70,7 @@ TEST(LineReader, TakesFieldsFromTheSecondOn) {
 
 TEST(WireText, TraceHidesAccessCodes) {
   const std::pair<std::string, std::string> cases[] = {
-      {"#111234", "#11****"},       {"xx#11987", "xx#11****"},
+      {"#111234", "#11****"},       {"#45000ID=Pozo #11", "#45000ID=Pozo #11"},
       {"#F6;111234", "#F6;11****"}, {"#BD011NAME,a;11b", "#BD011NAME,a;11b"},
       {"ATD111;112", "ATD111;112"},
   };

@@ -166,6 +166,56 @@ TEST_F(Session, APortThatIsNotThereLeavesItIdle) {
   EXPECT_FALSE(frame.IniRequest);
 }
 
+/// A logger that is switched off keeps CTS low: nothing hangs, and nothing of a failed upload
+/// reaches it when it is back.
+TEST_F(Session, AHeldLineEndsSoonAndSendsNothingLate) {
+  Connect();
+  requests.clear();
+  world.port.HoldOutput(SimWorld::kPort, true);
+  const TimePoint start = world.loop.Now();
+  Click("Escribir");
+  world.loop.RunFor(seconds(1));
+  EXPECT_EQ(Status(), "Error!");
+  EXPECT_LT(world.loop.Now() - start, seconds(20));
+  EXPECT_EQ(program.comms.Fault().kind, LinkFault::Kind::Silence);
+  world.loop.RunFor(seconds(60));
+  world.port.HoldOutput(SimWorld::kPort, false);
+  world.loop.RunFor(seconds(5));
+  for (const std::string& request : requests) EXPECT_EQ(request, "#44");
+  EXPECT_FALSE(requests.empty());
+}
+
+/// While a download replaces the model, moving between pages must not write the emptied controls
+/// into it.
+TEST_F(Session, MovingAboutDuringADownloadCommitsNothing) {
+  Connect();
+  ASSERT_TRUE(program.session.Download());
+  const DeviceConf expected = program.conf;
+  program.general.GetForm().Get<ProgressBar>("PBar").face.OnChanged = [&] {
+    for (const auto& page : program.Pages()) {
+      page->Form_Deactivate();
+      page->ChangeIndex(1);
+    }
+  };
+  ASSERT_TRUE(program.session.Download());
+  EXPECT_EQ(program.conf, expected);
+}
+
+/// Whatever an event throws in the middle, the page comes back and nothing starts over by itself.
+TEST_F(Session, AnExceptionInATransferLeavesThePageUsable) {
+  Connect();
+  requests.clear();
+  auto& bar = program.general.GetForm().Get<ProgressBar>("PBar").face;
+  bar.OnChanged = [] { throw std::runtime_error("in the middle"); };
+  Click("Escribir");
+  EXPECT_THROW(world.loop.RunFor(seconds(2)), std::runtime_error);
+  bar.OnChanged = nullptr;
+  world.loop.RunFor(seconds(3));
+  EXPECT_TRUE(program.general.GetForm().Enabled() && frame.Leer.face.Enabled());
+  EXPECT_FALSE(frame.WriteRequest || program.comms.LinkBusy);
+  EXPECT_EQ(std::ranges::count(requests, "#45000ID="), 0);
+}
+
 class ModemSession : public Session {
  protected:
   static sim::LoggerOptions Behind() {

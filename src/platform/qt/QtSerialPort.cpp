@@ -239,6 +239,10 @@ std::size_t QtSerialPort::OutBufferCount() const {
          static_cast<std::size_t>(std::max(held, 0));
 }
 
+void QtSerialPort::DiscardOutput() {
+  if (device_ && !lost_) device_->clear(QSerialPort::Output);
+}
+
 /// A driver does not tell when its queue is empty: wakes the loop when it can be, at line speed.
 void QtSerialPort::WatchDrain() {
   drainTimer_ = 0;

@@ -36,6 +36,7 @@ class QtSerialPort final : public SerialPort {
   void Output(std::string_view octets) override;
   /// Counts what the driver holds, too.
   std::size_t OutBufferCount() const override;
+  void DiscardOutput() override;
   std::string Input() override;
   std::size_t InBufferCount() const override { return received_.size() - taken_; }
   bool CDHolding() const override { return carrier_; }

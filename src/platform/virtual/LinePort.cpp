@@ -101,6 +101,10 @@ void LinePort::SetOpenFault(int number, PortFault fault) {
   if (const auto wire = Find(number)) wire->fault = fault;
 }
 
+void LinePort::HoldOutput(int number, bool hold) {
+  if (const auto wire = Find(number)) wire->toDevice.Hold(hold);
+}
+
 void LinePort::SetPaced(bool paced) {
   paced_ = paced;
   for (const auto& [number, wire] : wires_) wire->SetPaced(paced);
@@ -148,7 +152,7 @@ void LinePort::Close() {
   wire->toProgram.Hold(false);
   if (wire->vanished) return;
   // An unpaced line counts as having taken all that was written.
-  if (!wire->toDevice.Paced()) wire->toDevice.Flush();
+  if (!wire->toDevice.Paced() && !wire->toDevice.OnHold()) wire->toDevice.Flush();
   wire->Deliver();
   wire->Clear();
   if (dtr_) wire->far->SetTerminalReady(false);
@@ -169,7 +173,13 @@ void LinePort::Output(std::string_view octets) {
 }
 
 std::size_t LinePort::OutBufferCount() const {
-  return open_ && open_->toDevice.Paced() ? open_->toDevice.Underway() : 0;
+  if (!open_) return 0;
+  const LineQueue& line = open_->toDevice;
+  return line.Paced() || line.OnHold() ? line.Underway() : 0;
+}
+
+void LinePort::DiscardOutput() {
+  if (open_) open_->toDevice.Clear();
 }
 
 std::size_t LinePort::Room() const {

@@ -37,6 +37,8 @@ class LinePort final : public SerialPort {
   void Restore(int number);
   /// What opening this number comes to from now on.
   void SetOpenFault(int number, PortFault fault);
+  /// The device keeps the line towards it stopped, like a low CTS, or lets it go.
+  void HoldOutput(int number, bool hold);
   /// Whether octets take their line time; off at first.
   void SetPaced(bool paced);
 
@@ -53,8 +55,9 @@ class LinePort final : public SerialPort {
   bool PortOpen() const override { return open_ != nullptr; }
   bool LineLost() const override;
   void Output(std::string_view octets) override;
-  /// Always 0 when not paced: such a line takes octets at once.
+  /// Always 0 when neither paced nor held: such a line takes octets at once.
   std::size_t OutBufferCount() const override;
+  void DiscardOutput() override;
   std::string Input() override;
   std::size_t InBufferCount() const override;
   bool CDHolding() const override { return carrier_; }

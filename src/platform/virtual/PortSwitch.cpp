@@ -72,6 +72,10 @@ void PortSwitch::Output(std::string_view octets) {
   if (open_) open_->Output(octets);
 }
 
+void PortSwitch::DiscardOutput() {
+  if (open_) open_->DiscardOutput();
+}
+
 PortFault PortSwitch::Probe(int number) {
   if (open_ && number == openNumber_) return PortFault::None;
   SerialPort* port = PortOf(number);

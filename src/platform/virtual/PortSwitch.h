@@ -30,6 +30,7 @@ class PortSwitch final : public SerialPort {
   bool LineLost() const override { return open_ && open_->LineLost(); }
   void Output(std::string_view octets) override;
   std::size_t OutBufferCount() const override { return open_ ? open_->OutBufferCount() : 0; }
+  void DiscardOutput() override;
   std::string Input() override { return open_ ? open_->Input() : std::string(); }
   std::size_t InBufferCount() const override { return open_ ? open_->InBufferCount() : 0; }
   bool CDHolding() const override { return open_ && open_->CDHolding(); }

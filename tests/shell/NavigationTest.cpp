@@ -1,0 +1,191 @@
+#include <gmock/gmock.h>
+
+#include "World.h"
+#include "shell/Comparison.h"
+#include "shell/Navigation.h"
+#include "shell/NavigationTree.h"
+
+namespace ostrel {
+namespace {
+
+using testing::ElementsAre;
+
+/// The tree as lines: a node's children stand behind it in brackets, numbered ones counted only.
+std::string Outline(std::string_view model, const TargetProfile& before = {}) {
+  TargetProfile profile = before;
+  SelectTarget(profile, model);
+  std::string outline;
+  std::map<std::string, int> numbered;
+  const auto nodes = BuildNavigationTree(
+      profile, [](std::string_view text) { return "<" + std::string(text) + ">"; });
+  for (const TreeNode& node : nodes) {
+    const bool isNumbered = node.text.find_first_not_of("0123456789") == std::string::npos;
+    if (isNumbered && node.key.ends_with("_" + node.text))
+      ++numbered[node.parent];
+    else
+      outline += node.parent + "/" + node.key + "=" + node.text + " ";
+  }
+  for (const auto& [parent, count] : numbered)
+    outline += parent + ":" + std::to_string(count) + " ";
+  return outline;
+}
+
+std::string Timers(const std::string& key, const std::string& text) {
+  return "Timer/" + key + "=<" + text + "> " + key + "/" + key + "0_3=0-3 " + key + "/" + key +
+         "4_7=4-7 " + key + "/" + key + "8_11=8-11 " + key + "/" + key + "12_15=12-15 ";
+}
+
+TEST(NavigationTree, HasTheNodesOfEachModelInOrder) {
+  const std::string head =
+      "/Tavro=<Dispositivo> Tavro/General=<General> Tavro/Timer=<Temporizadores> " +
+      Timers("CTimer", "Ciclicos") + Timers("WTimer", "Semanales") + Timers("MTimer", "Mensuales") +
+      Timers("LTimer", "Largos");
+  const std::string groups = "Tavro/Grupos=Grupos ", analog = "Tavro/E_Analog=<E.Analogicas> ",
+                    probes = "Tavro/E_OneWire=<Sondas> ",
+                    digital = "Tavro/E_Digital=<E.Digitales> ",
+                    flow = "Tavro/Caudal=<Caudalimetros> ", modules = "Tavro/Modulo=<Expansiones> ",
+                    mains = "E_Digital/E_Digital_8=<8 (Fallo red)> ";
+  const std::string math = "Tavro/E_Math=<C.Matematicos> Tavro/Flags=<Flags> ";
+  const std::string modbus = "Tavro/MODBUS=<MODBUS> ";
+  const std::string tail =
+      "Tavro/Aut_Voz=<Autorizados Voz> Tavro/GPRS=GPRS Tavro/Macros=<Macros> "
+      "Tavro/T_Real=<T.Real> Tavro/Firmware=Firmware Tavro/Terminal=Terminal ";
+  EXPECT_EQ(Outline("Ostrel KA1"), head + probes + digital + flow + math + tail +
+                                       "Caudal:8 E_Digital:8 E_Math:4 E_OneWire:4 Flags:16 ");
+  EXPECT_EQ(Outline("Ostrel KA2"), head + probes + digital + mains + flow + math + tail +
+                                       "Caudal:8 E_Digital:8 E_Math:4 E_OneWire:4 Flags:16 ");
+  EXPECT_EQ(Outline("Ostrel VR200"),
+            head + analog + digital + flow + math + modbus + tail +
+                "Caudal:8 E_Analog:4 E_Digital:8 E_Math:4 Flags:16 MODBUS:32 ");
+  EXPECT_EQ(Outline("Ostrel S100"),
+            head + analog + digital + flow + modules + math + tail +
+                "Caudal:2 E_Analog:2 E_Digital:2 E_Math:4 Flags:16 Modulo:96 ");
+  EXPECT_EQ(Outline("Tavro BP"), head + groups + analog + digital + flow + math + tail +
+                                     "Caudal:8 E_Analog:4 E_Digital:8 E_Math:4 Flags:16 ");
+  EXPECT_EQ(Outline("Tavro BQ"), head + analog + digital + flow + math + tail +
+                                     "Caudal:2 E_Analog:1 E_Digital:4 E_Math:4 Flags:16 ");
+}
+
+TEST(NavigationTree, KeepsTheGroupsThatAChangeOfModelLeavesBehind) {
+  TargetProfile before;
+  SelectTarget(before, "Ostrel KA1");
+  EXPECT_NE(Outline("Tavro BP", before).find("E_OneWire:4"), std::string::npos);
+}
+
+/// Page and index of a key, such as "E_Digital 8"; "-" for none.
+std::string Target(std::string_view key, std::string_view model = "Ostrel VR200",
+                   bool universal = true) {
+  TargetProfile profile;
+  SelectTarget(profile, model);
+  const auto target = FindNodeTarget(key, profile, universal);
+  if (!target) return "-";
+  return std::string(target->page) + (target->index ? " " + std::to_string(*target->index) : "");
+}
+
+TEST(Navigation, KnowsWhereEachKeyLeads) {
+  const std::vector<std::pair<std::string, std::string>> table{{"Tavro", "TargetSelect"},
+                                                               {"General", "General 0"},
+                                                               {"Grupos", "Grupos"},
+                                                               {"E_Analog_3", "E_Analog 3"},
+                                                               {"E_OneWire_0", "E_OneWire 0"},
+                                                               {"E_Math_2", "E_Math 2"},
+                                                               {"Caudal", "SampleRate"},
+                                                               {"Caudal_7", "Caudal 7"},
+                                                               {"E_Digital_8", "E_Digital 8"},
+                                                               {"CTimer0_3", "CTimer 0"},
+                                                               {"WTimer4_7", "WTimer 4"},
+                                                               {"MTimer8_11", "MTimer 8"},
+                                                               {"LTimer12_15", "LTimer 12"},
+                                                               {"MODBUS", "CONF_MODBUS"},
+                                                               {"MODBUS_31", "E_MODBUS 31"},
+                                                               {"Flag_15", "Flags 15"},
+                                                               {"Aut_Voz", "Aut_Voz"},
+                                                               {"GPRS", "GPRS"},
+                                                               {"Macros", "Macros"},
+                                                               {"T_Real", "T_Real_Tavro"},
+                                                               {"Firmware", "Firm"},
+                                                               {"Terminal", "Terminal"},
+                                                               {"PCAT", "Katodex"},
+                                                               {"E_Aux_3", "E_Aux 3"},
+                                                               {"Modulo_95", "E_Modular 95"}};
+  for (const auto& [key, target] : table) EXPECT_EQ(Target(key), target) << key;
+  for (const auto* key : {"Timer", "CTimer", "E_Analog", "E_OneWire", "E_Digital", "E_Math",
+                          "Flags", "Modulo", "E_Analog_4", "E_Digital_9", "E_Digital_08",
+                          "MODBUS_32", "Flag_16", "Modulo_96", "CTimer0_4", "", "TEST"})
+    EXPECT_EQ(Target(key), "-") << key;
+  EXPECT_EQ(Target("TEST", "Tavro BP"), "Test");
+  EXPECT_EQ(Target("TEST", "Tavro BQ"), "TestBQ");
+  EXPECT_EQ(Target("TEST", "Ostrel KA2"), "TestKA2");
+  EXPECT_EQ(Target("T_Real", "Unknown"), "-");
+  EXPECT_EQ(Target("Tavro", "Tavro BP", false), "-");
+}
+
+class NavigationFixture : public testing::Test, protected World {
+ protected:
+  NavigationFixture() { core.StartForCommand("Tavro BP", 1); }
+
+  template <class Control>
+  Control& On(std::string_view page, std::string_view control) {
+    return core.PageNamed(page)->GetForm().Get<Control>(control);
+  }
+  std::vector<std::string> Visible() {
+    std::vector<std::string> names;
+    for (Form* form : core.Forms())
+      if (form->Visible()) names.push_back(form->Name());
+    return names;
+  }
+
+  Configurator core{platform, Options(false)};
+  Navigation navigation{core};
+};
+
+TEST_F(NavigationFixture, ShowsOnePageAndCommitsTheOneThatLeaves) {
+  EXPECT_EQ(navigation.NodeClick("E_Digital_0"), NodeResult::Shown);
+  EXPECT_THAT(Visible(), ElementsAre("E_Digital"));
+  On<TextBox>("E_Digital", "Nombre").Type("first");
+  navigation.NodeClick("E_Digital_1");
+  On<TextBox>("E_Digital", "Nombre").Type("second");
+  EXPECT_EQ(navigation.NodeClick("General"), NodeResult::Shown);
+  EXPECT_THAT(Visible(), ElementsAre("General"));
+  EXPECT_EQ(core.conf.Digital[0].NOMBRE, "first");
+  EXPECT_EQ(core.conf.Digital[1].NOMBRE, "second");
+  EXPECT_TRUE(core.general.PageActive);
+  EXPECT_EQ(navigation.NodeClick("CTimer"), NodeResult::Nothing);
+  EXPECT_FALSE(core.general.PageActive);
+  EXPECT_THAT(Visible(), ElementsAre());
+  EXPECT_EQ(navigation.NodeClick("Macros"), NodeResult::NotBuilt);
+  EXPECT_EQ(navigation.Front(), nullptr);
+}
+
+TEST_F(NavigationFixture, ActivatesWhatItShows) {
+  core.TargetDeviceChange("Tavro BQ");
+  navigation.NodeClick("E_Analog_0");
+  EXPECT_TRUE(On<OptionButton>("E_Analog", "Int_Press").face.Enabled());
+  core.Connected = true;
+  navigation.NodeClick("Tavro");
+  EXPECT_THAT(Visible(), ElementsAre("TargetSelect"));
+  EXPECT_FALSE(core.targetSelect.GetForm().Get<Button>("CommandChange").face.Enabled());
+}
+
+TEST_F(NavigationFixture, CommitsTheFrontOnDemand) {
+  navigation.NodeClick("E_Digital_2");
+  On<TextBox>("E_Digital", "Nombre").Type("door");
+  EXPECT_EQ(core.conf.Digital[2].NOMBRE, "");
+  navigation.CommitFront();
+  EXPECT_EQ(core.conf.Digital[2].NOMBRE, "door");
+}
+
+TEST_F(NavigationFixture, ComparesByFieldAndIgnoresFreeTelephones) {
+  DeviceConf changed = core.conf;
+  changed.Digital[1].NOMBRE = "door";
+  changed.Phone[3].Prio = 5;
+  changed.Phone[4].TLF = "600";
+  const auto differences = CompareFields(FieldLines(core, core.conf), FieldLines(core, changed));
+  ASSERT_EQ(differences.size(), 2u);
+  EXPECT_EQ(differences[0], (FieldDifference{"DIGITAL 1", "NOMBRE", "", "door"}));
+  EXPECT_EQ(differences[1].section + differences[1].key, "GENERALTLFM 4");
+  EXPECT_EQ(CompareFields(FieldLines(core, changed), FieldLines(core, core.conf)).size(), 2u);
+}
+
+}  // namespace
+}  // namespace ostrel
