@@ -11,7 +11,6 @@ namespace {
 
 constexpr int kFloatDigits = std::numeric_limits<float>::digits10 + 1;
 constexpr int kDoubleDigits = std::numeric_limits<double>::digits10;
-constexpr double kWholeLimit = 1e15;
 /// Beyond this an exponent decides alone; it stays far from the limits of the type.
 constexpr int kExponentLimit = 100'000;
 
@@ -60,7 +59,7 @@ void AppendPlain(const Digits& number, std::string& text) {
 std::string FloatText(double number, int digitCount) {
   constexpr int kLowestPlain = -6;
   if (!std::isfinite(number)) return NumText(0);
-  if (std::abs(number) < kWholeLimit && number == std::floor(number))
+  if (std::abs(number) < std::pow(10, digitCount) && number == std::floor(number))
     return NumText(static_cast<std::int64_t>(number));
   const Digits digits = SignificantDigits(std::abs(number), digitCount);
   std::string text(1, number < 0 ? '-' : ' ');

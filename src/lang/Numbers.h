@@ -11,10 +11,10 @@
 namespace ostrel {
 
 /// The decimal text of a number, with a place for the sign in front: a blank, or "-" when it is
-/// negative. The point is the decimal separator and no zero stands before it. A whole number below
-/// 10^15 stands with all its digits, any other keeps 7 significant digits of a 32-bit float and 15
-/// of a 64-bit one. Only numbers nearer to zero than 0.000001 take an exponent. Both zeros give
-/// " 0", and so does what is no finite number. `NumVal` reads all of these back.
+/// negative. The point is the decimal separator and no zero stands before it. A 32-bit float keeps
+/// 7 significant digits, a 64-bit one 15; a large number stands in plain digits all the same. Only
+/// numbers nearer to zero than 0.000001 take an exponent. Both zeros give " 0", and so does what is
+/// no finite number. `NumVal` reads all of these back.
 std::string NumText(float number);
 std::string NumText(double number);
 template <std::integral T>

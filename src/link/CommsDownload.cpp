@@ -1,4 +1,5 @@
 #include "lang/BoundFailure.h"
+#include "lang/Scope.h"
 #include "link/Comms.h"
 #include "link/WireText.h"
 
@@ -12,18 +13,6 @@ constexpr std::size_t kNumberAt = 4;
 constexpr std::size_t kNumberDigits = 3;
 constexpr std::size_t kKeyAt = 7;
 
-/// Holds a flag up for the length of a scope.
-class Raised {
- public:
-  explicit Raised(bool& flag) : flag_(flag) { flag_ = true; }
-  ~Raised() { flag_ = false; }
-  Raised(const Raised&) = delete;
-  Raised& operator=(const Raised&) = delete;
-
- private:
-  bool& flag_;
-};
-
 }  // namespace
 
 bool Comms::ReadConf() {
@@ -31,7 +20,7 @@ bool Comms::ReadConf() {
   fault_ = {};
   if (!Alive()) return FailWaiting(0);
   const Dialogue dialogue(*this);
-  const Raised comBusy(records_.ComBusy);
+  const Lent comBusy(records_.ComBusy, true);
   if (hooks_.barMaximum) hooks_.barMaximum(kBarMaximum);
   if (hooks_.barValue) hooks_.barValue(0);
   // Once only: what a failed attempt has brought stays.

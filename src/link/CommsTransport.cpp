@@ -1,3 +1,4 @@
+#include "lang/Scope.h"
 #include "link/Comms.h"
 
 namespace ostrel {
@@ -32,21 +33,6 @@ LinkFault::Kind KindOf(PortFault fault) {
   return LinkFault::Kind::PortFailed;
 }
 
-/// Closes a port at the end of a scope, however it is left, unless `keepOpen` has become true.
-class PortCloser {
- public:
-  PortCloser(SerialPort& port, const bool& keepOpen) : port_(port), keepOpen_(keepOpen) {}
-  ~PortCloser() {
-    if (!keepOpen_) port_.SetPortOpen(false);
-  }
-  PortCloser(const PortCloser&) = delete;
-  PortCloser& operator=(const PortCloser&) = delete;
-
- private:
-  SerialPort& port_;
-  const bool& keepOpen_;
-};
-
 std::string PortName(int number) { return "COM" + std::to_string(number); }
 
 }  // namespace
@@ -62,7 +48,9 @@ bool Comms::StartComs(std::int16_t port, const std::string& phone) {
   fault_ = {};
   {
     const Dialogue dialogue(*this);
-    const PortCloser closer(platform_.port, connected);
+    const AtEnd closed([&] {
+      if (!connected) platform_.port.SetPortOpen(false);
+    });
     connected = OpenPort(port) && Connect(phone);
     opened_ = connected;
   }
@@ -125,8 +113,7 @@ bool Comms::Handshake() {
 
 void Comms::CloseComs(bool modem) {
   const Dialogue dialogue(*this);
-  const bool keepOpen = false;
-  const PortCloser closer(platform_.port, keepOpen);
+  const AtEnd closed([this] { platform_.port.SetPortOpen(false); });
   if (modem && Alive()) HangUp();
   if (Alive()) AwaitSent();
 }

@@ -1,6 +1,7 @@
 #include "pages/PageContext.h"
 
 #include "controls/Form.h"
+#include "lang/BoundFailure.h"
 #include "lang/Help.h"
 #include "lang/Lang.h"
 #include "platform/Dialogs.h"
@@ -9,7 +10,11 @@
 namespace ostrel {
 
 std::string PageContext::Translate(std::string_view text) const {
-  return std::string(lang.Translate(text));
+  try {
+    return lang.Translate(text);
+  } catch (const BoundFailure&) {
+    return std::string(text);  // the table is full
+  }
 }
 
 std::string PageContext::ConfReadKey(std::string_view section, std::string_view key) const {

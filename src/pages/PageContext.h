@@ -35,7 +35,7 @@ struct PageContext {
   std::string programFolder;          ///< where the help pages stand, without a separator
   std::function<void()> showActEdit;  ///< shows the action editor on `ActionBuffer`, modal
 
-  /// The text in the language in use.
+  /// The text in the language in use; the text itself when the table is full.
   std::string Translate(std::string_view text) const;
   /// Reads a key of the file at `ConfFilePath`; empty when it is absent.
   std::string ConfReadKey(std::string_view section, std::string_view key) const;

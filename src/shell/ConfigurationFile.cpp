@@ -1,6 +1,7 @@
 #include <array>
 #include <utility>
 
+#include "lang/Scope.h"
 #include "platform/Dialogs.h"
 #include "shell/Configurator.h"
 #include "shell/Orders.h"
@@ -39,10 +40,22 @@ std::string_view ModelOfStamp(std::string_view stamp) {
   return {};
 }
 
+/// Shows the wait pointer until the end of a scope.
+class Hourglass {
+ public:
+  explicit Hourglass(Form& form) : form_(form) { form.SetMousePointer(Pointer::Hourglass); }
+  ~Hourglass() { form_.SetMousePointer(Pointer::Default); }
+  Hourglass(const Hourglass&) = delete;
+  Hourglass& operator=(const Hourglass&) = delete;
+
+ private:
+  Form& form_;
+};
+
 }  // namespace
 
 FileResult Configurator::SaveConf() {
-  general.GetForm().SetMousePointer(Pointer::Hourglass);
+  const Hourglass hourglass(general.GetForm());
   IniClass document(platform_.files);
   document.NewINI();
   document.WriteKey(kStampSection, kStampKey, profile.TargetType);
@@ -51,7 +64,6 @@ FileResult Configurator::SaveConf() {
       page->SaveConf(document);
   FileResult result = document.SaveINI(ConfFilePath);
   iniTool.Forget();
-  general.GetForm().SetMousePointer(Pointer::Default);
   return result;
 }
 
@@ -68,18 +80,17 @@ RestoreResult Configurator::RestoreConf() {
       TargetDeviceChange(name);
     }
   }
-  if (stamp != profile.TargetType) {
-    iniTool.Forget();
+  const Hourglass hourglass(general.GetForm());
+  const AtEnd forgotten([this] { iniTool.Forget(); });
+  // An empty stamp fits no model, not even the absence of one.
+  if (stamp.empty() || stamp != profile.TargetType) {
     platform_.dialogs.ShowMessage(
         {.text = context.Translate("No es un archivo de configuracion valido"),
          .title = profile.TargetName});
     return RestoreResult::NotAConfiguration;
   }
-  general.GetForm().SetMousePointer(Pointer::Hourglass);
   for (const FileTurn& turn : kFileOrder)
     if (Page* page = PageNamed(turn.page); page && turn.takesPart(profile)) page->RestoreConf();
-  iniTool.Forget();
-  general.GetForm().SetMousePointer(Pointer::Default);
   return RestoreResult::Loaded;
 }
 

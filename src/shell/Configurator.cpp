@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <stdexcept>
 
+#include "lang/Scope.h"
 #include "pages/E_Analog.h"
 #include "pages/E_Digital.h"
 #include "pages/Flags.h"
@@ -16,20 +17,6 @@ namespace ostrel {
 namespace {
 
 constexpr std::string_view kMaker = "Quorvane";
-
-/// Gives a record another value until the end of a scope.
-template <class T>
-class Lent {
- public:
-  Lent(T& record, T value) : record_(record), kept_(std::exchange(record, std::move(value))) {}
-  ~Lent() { record_ = std::move(kept_); }
-  Lent(const Lent&) = delete;
-  Lent& operator=(const Lent&) = delete;
-
- private:
-  T& record_;
-  T kept_;
-};
 
 std::vector<std::unique_ptr<Page>> MakePages(PageContext& context) {
   std::vector<std::unique_ptr<Page>> pages;
@@ -175,6 +162,7 @@ void Configurator::Start(const std::string& commandLine) {
     settings.SetComPort("1");
     langForm.AskUser();
     settings.SetIdioma(std::to_string(lang.SelectedLang()));
+    keepsStoredLanguage_ = true;
   }
   // A language chosen at the first run applies from the next start on.
   lang.SetSelectedLang(RoundToEven<std::int16_t>(NumVal(idioma)).value_or(0));
@@ -208,12 +196,13 @@ void Configurator::StartForCommand(std::string_view target, std::int16_t languag
 void Configurator::ShutDown() {
   const std::string port = general.Session().Puerto.Text();
   settings.SetComPort(port.size() > 3 ? port.substr(3, 3) : "");
-  settings.SetIdioma(std::to_string(lang.SelectedLang()));
+  if (!keepsStoredLanguage_) settings.SetIdioma(std::to_string(lang.SelectedLang()));
   comms.Abort();
 }
 
 void Configurator::AskLanguage() {
   langForm.AskUser();
+  keepsStoredLanguage_ = false;
   LoadText();
 }
 

@@ -30,8 +30,8 @@ struct ConfiguratorOptions {
   std::string programFolder;  ///< where the help pages stand
   std::string langFile;       ///< the working copy of the translation table
   bool ticking = false;       ///< the pages' timers run and ports are scanned, as a window needs it
-  int versionMajor = 1;
-  int versionMinor = 0;
+  int versionMajor = OSTREL_VERSION_MAJOR;
+  int versionMinor = OSTREL_VERSION_MINOR;
 };
 
 /// What opening a file came to.
@@ -118,6 +118,9 @@ class Configurator {
   ConfiguratorOptions options_;
   std::string mainCaption_;
   bool carrierBoxUp_ = false;
+  /// The language of this run is not the one to store: the choice of a first run waits for the
+  /// next.
+  bool keepsStoredLanguage_ = false;
   std::vector<std::unique_ptr<Page>> pages_;
 
  public:

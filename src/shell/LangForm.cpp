@@ -3,11 +3,6 @@
 #include "lang/Lang.h"
 
 namespace ostrel {
-namespace {
-
-constexpr int kLastColumn = 5;
-
-}  // namespace
 
 LangForm::LangForm(PageContext& context)
     : context_(context),
@@ -24,8 +19,7 @@ LangForm::LangForm(PageContext& context)
 
 void LangForm::AskUser() {
   ComboLang.Clear();
-  for (int column = 0; column <= kLastColumn; ++column)
-    if (const auto name = context_.lang.GetLangName(column); !name.empty()) ComboLang.Add(name);
+  for (const std::string& name : context_.lang.OfferedNames()) ComboLang.Add(name);
   ComboLang.SetPosition(0);
   context_.ShowModal(form_);
 }

@@ -64,6 +64,8 @@ std::string SeedLang(Files& files, const std::string& shippedPath, const std::st
   if (!shipped) return workingPath;
   const auto working = files.Read(workingPath);
   if (!working) {
+    // One that stands but cannot be read holds somebody's work.
+    if (files.Exists(workingPath)) return workingPath;
     if (const std::string folder = Folder(workingPath); !folder.empty()) files.MakeFolder(folder);
     SaveWhole(files, workingPath, *shipped);
     return workingPath;

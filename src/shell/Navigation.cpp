@@ -140,7 +140,8 @@ bool Navigation::ShowForm(std::string_view name) {
 }
 
 void Navigation::CommitFront() {
-  if (Page* page = FrontPage()) page->SavePage();
+  Page* page = FrontPage();
+  if (page && !configurator_.ComBusy) page->SavePage();
 }
 
 Form* Navigation::Front() const { return FormNamed(front_); }

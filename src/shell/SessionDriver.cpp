@@ -2,6 +2,7 @@
 
 #include <cstdlib>
 
+#include "lang/Scope.h"
 #include "platform/Clock.h"
 #include "platform/Dialogs.h"
 
@@ -9,19 +10,6 @@ namespace ostrel {
 namespace {
 
 constexpr std::int64_t kToleratedClockSeconds = 10 * 60;
-
-/// Runs an action at the end of a scope, however that is left.
-template <class Action>
-class AtEnd {
- public:
-  explicit AtEnd(Action action) : action_(std::move(action)) {}
-  ~AtEnd() { action_(); }
-  AtEnd(const AtEnd&) = delete;
-  AtEnd& operator=(const AtEnd&) = delete;
-
- private:
-  Action action_;
-};
 
 }  // namespace
 
@@ -36,8 +24,7 @@ SessionDriver::SessionDriver(PageContext& context, Comms& comms, General& genera
 
 void SessionDriver::Tick() {
   if (ticking_) return;
-  ticking_ = true;
-  const AtEnd ended([this] { ticking_ = false; });
+  const Lent ticking(ticking_, true);
   if (session_.IniRequest && !Connected_) comms_.LinkBusy = false;
   if (!comms_.LinkBusy && session_.IniRequest) OpenOrClose();
   if (!Connected_ || !general_.PageActive) return;

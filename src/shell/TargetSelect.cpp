@@ -15,6 +15,7 @@ TargetSelect::TargetSelect(PageContext& context, StoredSettings settings,
       CommandChange(form_, "CommandChange", "Cambiar") {
   LabelWarning.face.SetVisible(false);
   CommandChange.OnClick = [this, change = std::move(change)] {
+    if (context_.Connected) return Form_Activate();
     const std::string name = ComboTarget.Text();
     change(name);
     settings_.SetTarget(name);

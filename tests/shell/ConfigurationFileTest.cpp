@@ -74,6 +74,10 @@ TEST_F(ConfigurationFile, AFileThatCannotBeReadIsRefused) {
   program.ConfFilePath = "/none.ocf";
   EXPECT_EQ(program.RestoreConf(), RestoreResult::NotAConfiguration);
   EXPECT_EQ(world.dialogs.boxes.size(), 1U);
+  program.StartForCommand("no model", 1);
+  program.conf.General.DNAME = "kept";
+  EXPECT_EQ(program.RestoreConf(), RestoreResult::NotAConfiguration);
+  EXPECT_EQ(program.conf.General.DNAME, "kept");
 }
 
 TEST_F(ConfigurationFile, ValuesAreCutAt254Characters) {

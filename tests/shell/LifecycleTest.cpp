@@ -43,6 +43,8 @@ TEST_F(Lifecycle, TheFirstRunAsksForLanguageAndModel) {
   EXPECT_TRUE(program.profile.IsKA1);
   EXPECT_EQ(program.MainCaption(), "Quorvane Ostrel KA1 v1.0");
   EXPECT_EQ(world.Stored("Target"), "") << "only the model window stores it";
+  program.ShutDown();
+  EXPECT_EQ(world.Stored("Idioma"), "2") << "the end of the run does not undo the choice";
 }
 
 TEST_F(Lifecycle, ALaterRunAsksNothing) {
