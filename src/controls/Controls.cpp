@@ -89,7 +89,7 @@ void ComboBox::Clear() {
 }
 
 void ComboBox::SetPosition(int position) {
-  if (position == position_ || !IsRow(position, rows_)) return;
+  if (position == position_ || (position != -1 && !IsRow(position, rows_))) return;
   position_ = position;
   face.Changed();
   Run(OnClick);

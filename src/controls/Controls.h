@@ -115,7 +115,7 @@ class ComboBox {
   void Add(std::string_view text, std::int32_t value = 0);
   void Clear();
   int Position() const { return position_; }
-  /// Chooses a row; a position that does not exist changes nothing.
+  /// Chooses a row, or none with -1; a position that does not exist changes nothing.
   void SetPosition(int position);
   /// Text of the chosen row; empty when there is none.
   std::string Text() const;

@@ -50,6 +50,9 @@ std::string TimeText(TimeOfDay time) {
 std::optional<TimeOfDay> TextTime(std::string_view text) {
   constexpr std::array<std::int32_t, 3> kLimits = {24, 60, 60};
   std::string_view rest = TrimBlanks(text);
+  const std::size_t blank = rest.rfind(' ');
+  const bool hasDate = blank != std::string_view::npos && rest.substr(0, blank).find('/') < blank;
+  if (hasDate) rest.remove_prefix(blank + 1);
   std::int32_t seconds = 0;
   std::size_t parts = 0;
   for (bool isLast = false; !isLast; ++parts) {

@@ -48,7 +48,8 @@ std::optional<TimeOfDay> SecondsToTime(std::int32_t& seconds);
 /// the nearer end of it.
 std::string TimeText(TimeOfDay time);
 
-/// Reads "H:MM" or "H:MM:SS", each part of one or two digits, with blanks around the whole.
+/// Reads "H:MM" or "H:MM:SS", each part of one or two digits, with blanks around the whole; a date
+/// with slashes in front of it is passed over.
 /// Nothing for any other text, nor for a time that does not exist.
 std::optional<TimeOfDay> TextTime(std::string_view text);
 

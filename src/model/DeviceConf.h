@@ -136,7 +136,7 @@ struct DeviceConf {
   Bounded<ConfPhone, kPhones + 1> Phone;
   Bounded<ConfDigital, 10> Digital;
   Bounded<ConfAnalog, 5> Analog;
-  Bounded<ConfGrupo, 4> Grupo;
+  Bounded<ConfGrupo, 5> Grupo;
   Bounded<ConfFlag, 17> Flag;
 
   bool operator==(const DeviceConf&) const = default;

@@ -62,7 +62,7 @@ void ActEdit::Add() {
   }
   context_.ShowMessage(context_.Translate("No se pueden añadir mas de") + NumText(kActionPlaces) +
                            context_.Translate(" acciones"),
-                       true);
+                       BoxIcon::None);
 }
 
 }  // namespace ostrel

@@ -28,12 +28,12 @@ concept AlarmChannel = requires(Channel channel, const Channel& constant, Device
   { Channel::Thresholds() } -> std::same_as<ThresholdBoxes>;
   { Channel::Records(conf)[0] } -> std::same_as<typename Channel::Record&>;
   Channel(form, context);
-  channel.Load(std::as_const(record));  // the channel's own fields into its controls
-  constant.Save(record);                // and back
-  Channel::ClearFields(record);         // the channel's own fields to their defaults
-  channel.AfterClear();                 // what a model sets beyond the defaults
-  channel.Activate();                   // what the model allows on the page
-  channel.CheckNumbers();               // paints the channel's own number boxes
+  channel.Load(std::as_const(record));           // the channel's own fields into its controls
+  constant.Save(record);                         // and back
+  Channel::ClearFields(record);                  // the channel's own fields to their defaults
+  channel.AfterClear();                          // what a model sets beyond the defaults
+  { channel.Activate() } -> std::same_as<bool>;  // what the model allows; true to show data anew
+  channel.CheckNumbers();                        // paints the channel's own number boxes
   { channel.WireSections() } -> std::same_as<std::vector<WireSection>>;
   { channel.WireBlocks() } -> std::same_as<std::vector<WireBlock>>;
 };
@@ -57,8 +57,7 @@ class AlarmChannelPage final : public Page {
   void SavePage() override;
   void Form_Load() override;
   void Form_Activate() override {
-    channel_.Activate();
-    LoadData();
+    if (channel_.Activate()) LoadData();
   }
   void Form_Deactivate() override { Commit(); }
   void VisitFields(DeviceConf& conf, const FieldVisitor& visit) const override {
@@ -185,6 +184,7 @@ void AlarmChannelPage<Channel>::SelectConfig(std::int16_t config) {
 
 template <AlarmChannel Channel>
 void AlarmChannelPage<Channel>::EditActions(ActionList AlarmBlock::*list) {
+  if (context_.ComBusy) return;  // the list is being replaced
   ActionList& actions = Current().ALARM[CurrentConfig_].common.*list;
   CopyActions(actions, context_.ActionBuffer);
   context_.showActEdit();

@@ -90,7 +90,7 @@ void AnalogChannel::AfterClear() {
   pressure.UNIDAD = context_.Translate("bar");
 }
 
-void AnalogChannel::Activate() {
+bool AnalogChannel::Activate() {
   const TargetProfile& model = context_.profile;
   for (OptionButton* option : {&Int_Press, &Int_4_20, &Int_0_5, &Int_0_10})
     option->face.SetEnabled(false);
@@ -113,6 +113,7 @@ void AnalogChannel::Activate() {
     Grupo.SetPosition(0);
   }
   if (model.IsS100) Int_4_20.face.SetEnabled(true);
+  return true;
 }
 
 void AnalogChannel::ClickInterface(std::int16_t code) {
@@ -137,7 +138,9 @@ void AnalogChannel::ShowInterface(std::int16_t code) {
     case kPressure:
       return Int_Press.SetSelected(true);
     default:
-      return;
+      // A code without an option is kept as it is.
+      for (OptionButton* option : interface_.Options()) option->SetSelected(false);
+      CurrentInterface_ = code;
   }
 }
 

@@ -23,7 +23,7 @@ class AnalogChannel {
   void Load(const ConfAnalog& record);
   void Save(ConfAnalog& record) const;
   void AfterClear();
-  void Activate();
+  bool Activate();
   void CheckNumbers();
   std::vector<WireSection> WireSections();
   std::vector<WireBlock> WireBlocks();

@@ -23,7 +23,7 @@ class DigitalChannel {
   void Load(const ConfDigital& record);
   void Save(ConfDigital& record) const;
   void AfterClear() {}
-  void Activate() {}
+  bool Activate() { return false; }
   void CheckNumbers() {}
   std::vector<WireSection> WireSections();
   std::vector<WireBlock> WireBlocks();

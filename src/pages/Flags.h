@@ -23,7 +23,7 @@ class FlagChannel {
   void Load(const ConfFlag&) {}
   void Save(ConfFlag&) const {}
   void AfterClear() {}
-  void Activate() {}
+  bool Activate() { return false; }
   void CheckNumbers() {}
   std::vector<WireSection> WireSections();
   std::vector<WireBlock> WireBlocks();

@@ -2,6 +2,7 @@
 #include <cstdint>
 
 #include "lang/Channels.h"
+#include "lang/Utf8.h"
 #include "model/Assign.h"
 #include "model/Features.h"
 #include "pages/General.h"
@@ -41,9 +42,8 @@ void ReadPhone(LineReader& line, std::int32_t features, DeviceConf& conf) {
     line.Into(phone.MASKMODE);
     for (int place = 0; place < kMaskPlaces; ++place) line.Into(phone.ListaMask[place]);
   } else {
-    std::int32_t mask = 0;
-    line.Into(mask);
-    ReadShortMask(mask, features, phone);
+    const auto mask = RoundToEven<std::int32_t>(line.Number());
+    if (mask) ReadShortMask(*mask, features, phone);
   }
 }
 

@@ -54,7 +54,7 @@ void Grupos::Form_Load() {
 }
 
 void Grupos::Clear() {
-  for (ConfGrupo& group : context_.conf.Grupo) group = {};
+  for (int i = 0; i < kGroups; ++i) context_.conf.Grupo[i] = {};
   LoadData();
 }
 

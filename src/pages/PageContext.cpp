@@ -4,7 +4,6 @@
 #include "lang/BoundFailure.h"
 #include "lang/Help.h"
 #include "lang/Lang.h"
-#include "platform/Dialogs.h"
 #include "store/IniTool.h"
 
 namespace ostrel {
@@ -31,10 +30,9 @@ void PageContext::ShowModal(Form& form) const {
   form.Hide();
 }
 
-void PageContext::ShowMessage(std::string_view text, bool isError) const {
-  platform.dialogs.ShowMessage({.text = std::string(text),
-                                .title = profile.TargetName,
-                                .icon = isError ? BoxIcon::Exclamation : BoxIcon::Information});
+void PageContext::ShowMessage(std::string_view text, BoxIcon icon) const {
+  platform.dialogs.ShowMessage(
+      {.text = std::string(text), .title = profile.TargetName, .icon = icon});
 }
 
 }  // namespace ostrel

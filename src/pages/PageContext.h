@@ -9,6 +9,7 @@
 #include "model/DeviceInfo.h"
 #include "model/RealTimeData.h"
 #include "model/TargetProfile.h"
+#include "platform/Dialogs.h"
 #include "platform/Platform.h"
 
 namespace ostrel {
@@ -44,7 +45,7 @@ struct PageContext {
   /// Shows a form until its logic closes it or the operator dismisses it.
   void ShowModal(Form& form) const;
   /// Shows a box with an OK button, titled with the model's name.
-  void ShowMessage(std::string_view text, bool isError) const;
+  void ShowMessage(std::string_view text, BoxIcon icon) const;
 };
 
 }  // namespace ostrel

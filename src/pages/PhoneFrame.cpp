@@ -1,17 +1,17 @@
 #include "pages/PhoneFrame.h"
 
 #include <array>
+#include <tuple>
 #include <utility>
 
 #include "model/PhoneRow.h"
-#include "platform/Dialogs.h"
 
 namespace ostrel {
 namespace {
 
 constexpr int kPriorities = 8;
-constexpr int kDefaultPrivilege = 1;  // position of "Administrador"
-constexpr std::size_t kRowsOnScreen = 20;
+constexpr int kDefaultPrivilege = 1;            // position of "Administrador"
+constexpr std::size_t kMostRows = kPhones + 1;  // one more than is kept
 constexpr int kFlags = 16;
 
 /// The privilege levels in the order of their list.
@@ -96,18 +96,19 @@ std::string PhoneFrame::EnteredRow(int& channels) const {
 void PhoneFrame::AddPhone() {
   if (!NewTlf.Text().empty()) {
     if (!IsIntText(NewTlf.Text())) {
-      context_.ShowMessage(context_.Translate("Error, no es un numero de telefono correcto"), true);
+      context_.ShowMessage(context_.Translate("Error, no es un numero de telefono correcto"),
+                           BoxIcon::Exclamation);
       form_.SetFocus(NewTlf.face);
       return;
     }
-    if (ListaTlf.Rows().size() > kRowsOnScreen) {
-      context_.ShowMessage(context_.Translate("Lista llena"), false);
+    if (ListaTlf.Rows().size() >= kMostRows) {
+      context_.ShowMessage(context_.Translate("Lista llena"), BoxIcon::Information);
     } else {
       int channels = 0;
       const std::string row = EnteredRow(channels);
       if (channels > kMaskPlaces) {
         context_.ShowMessage(context_.Translate("No puede añadir mas de 16 canales a la mascara"),
-                             true);
+                             BoxIcon::Exclamation);
         return;
       }
       ListaTlf.Add(row);

@@ -14,7 +14,8 @@ PWForm::PWForm(PageContext& context)
 void PWForm::ShowModal(std::string& AccessCode) {
   Aceptar.OnClick = [this, &AccessCode] {
     if (!IsFloatText(PWText.Text())) {
-      context_.ShowMessage(context_.Translate("La clave de acceso debe ser un numero"), true);
+      context_.ShowMessage(context_.Translate("La clave de acceso debe ser un numero"),
+                           BoxIcon::Exclamation);
       return;
     }
     AccessCode = PWText.Text();

@@ -46,9 +46,11 @@ TEST(Controls, PositionsThatDoNotExistChangeNothing) {
   list.Add("x");
   list.Add("y");
   combo.SetPosition(0);
-  for (const int bad : {-1, 1, 99}) combo.SetPosition(bad);
+  for (const int bad : {-2, 1, 99}) combo.SetPosition(bad);
   EXPECT_EQ(combo.Position(), 0);
   EXPECT_EQ(combo.Value(), 5);
+  combo.SetPosition(-1);
+  EXPECT_EQ(combo.Value(7), 7);
   list.SetPosition(1);
   list.SetPosition(2);
   EXPECT_EQ(list.Position(), 1);

@@ -30,7 +30,7 @@ class PlainChannel {
   void Load(const ConfAnalog&) {}
   void Save(ConfAnalog&) const {}
   void AfterClear() {}
-  void Activate() {}
+  bool Activate() { return false; }
   void CheckNumbers() {}
   std::vector<WireSection> WireSections() {
     auto& records = context_.conf.Analog;

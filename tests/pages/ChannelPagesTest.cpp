@@ -213,11 +213,71 @@ TEST_F(ChannelPages, APressureLoggerStartsInBar) {
   EXPECT_EQ(analog.GetForm().Get<TextBox>("EqFE").Text(), "10") << "no place for the sign";
 }
 
+TEST_F(ChannelPages, APressureLoggerHasNoScaleAndNoGroup) {
+  SelectModel("Tavro BQ");
+  Start(analog);
+  conf.Analog[0].GRUPO = 2;
+  analog.LoadData();
+  analog.Form_Activate();
+  for (const char* name : {"Label1", "Label2", "IE", "FE", "Grupo"})
+    EXPECT_FALSE(FaceOf(analog.GetForm()[name]).Enabled()) << name;
+  EXPECT_EQ(analog.GetForm().Get<ComboBox>("Grupo").Position(), 2) << "shown anew at the end";
+}
+
+TEST_F(ChannelPages, WhatAListDoesNotOfferIsKeptAsFarAsItCan) {
+  Start(analog);
+  conf.Analog[0].INTERFAZ = 3;
+  conf.Analog[1].INTERFAZ = 5;
+  conf.Analog[1].GRUPO = -1;
+  analog.LoadData();
+  analog.ChangeIndex(1);
+  EXPECT_FALSE(analog.GetForm().Get<OptionButton>("Int_0_10").Selected());
+  analog.ChangeIndex(0);
+  EXPECT_EQ(conf.Analog[1].INTERFAZ, 5);
+  EXPECT_EQ(conf.Analog[1].GRUPO, -1);
+  EXPECT_EQ(conf.Analog[0].INTERFAZ, 3);
+}
+
+TEST_F(ChannelPages, ModelsSendTheirChannels) {
+  SelectModel("Ostrel KA2");
+  Start(digital);
+  EXPECT_EQ(Statements(digital).at(40), "DINAME8=");
+  EXPECT_EQ(Statements(digital).at(44), "-ALMD8,INDEX= 3");
+  EXPECT_TRUE(Statements(analog).empty());
+}
+
+TEST_F(ChannelPages, FileKeysAndLimits) {
+  struct Case {
+    Page* page;
+    const char* start;
+    std::vector<std::pair<const char*, int>> limits;
+  };
+  const Case table[] = {
+      {&digital,
+       "[DIGITAL 0]\r\nNOMBRE=\r\nNC=False\r\nHABIL( 0)=False\r\nREST( 0)=False\r\n",
+       {{"Nombre", 19}, {"TextoAlarma", 49}}},
+      {&analog,
+       "[ANALOG 0]\r\nNOMBRE=\r\nUNIDAD=\r\nINTERFAZ= 0\r\nIE= 0\r\nFE= 0\r\nEqIE= 0\r\nEqFE= 0\r\n"
+       "GRUPO= 0\r\nHABIL( 0)=False\r\n",
+       {{"Nombre", 19}, {"Unidad", 9}, {"TextoAlarma", 49}}},
+      {&groups,
+       "[GRUPO 0]\r\nSALIDA= 0\r\nVOLTAJE= 0\r\nPERIOD= 0\r\n[GRUPO 1]\r\n",
+       {{"Period(3)", 5}}},
+      {&flags, "[FLAG 0]\r\nHABIL( 0)=False\r\n", {{"TextoAlarma", 49}}},
+  };
+  for (const auto& [page, start, limits] : table) {
+    Start(*page);
+    EXPECT_TRUE(FileText(*page).starts_with(start)) << FileText(*page).substr(0, 200);
+    for (const auto& [box, length] : limits)
+      EXPECT_EQ(page->GetForm().Get<TextBox>(box).MaxLength(), length) << box;
+  }
+}
+
 TEST_F(ChannelPages, GroupsAreSentForAsManyAsThereAreInputs) {
   Start(groups);
   Receive(groups, "GROUP,3,1,24,150");
   EXPECT_EQ(conf.Grupo[3], (ConfGrupo{1, 24, 150}));
-  EXPECT_THROW(Receive(groups, "GROUP,4,1,24,150"), BoundFailure);
+  EXPECT_THROW(Receive(groups, "GROUP,5,1,24,150"), BoundFailure);
   EXPECT_EQ(Statements(groups).at(3), "AGRP3= 1,T= 150,V= 24");
   profile.AnalogCount = 2;
   EXPECT_EQ(Statements(groups).size(), 2U);

@@ -79,10 +79,49 @@ TEST_F(GeneralPage, ATelephoneIsEnteredListedAndEdited) {
   EXPECT_TRUE(list.Rows().empty());
 }
 
+TEST_F(GeneralPage, ListsAndLimits) {
+  std::string rows;
+  for (const char* list_ : {"PrioBox", "Privilegios"})
+    for (const ListRow& row : Get<ComboBox>(list_).Rows())
+      rows += row.text + "=" + std::to_string(row.value) + ";";
+  EXPECT_EQ(rows,
+            "No Prio.=0;Prio. 1=1;Prio. 2=2;Prio. 3=3;Prio. 4=4;Prio. 5=5;Prio. 6=6;Prio. 7=7;"
+            "Prio. 8=8;Kestrel=3;Administrador=2;U. Avanzado=1;Usuario=0;");
+  for (const auto& [box, length] : {std::pair{"NameBox", 50},
+                                    {"SMSCBox", 16},
+                                    {"RENVT", 3},
+                                    {"RENVN", 3},
+                                    {"PTLF", 16},
+                                    {"RestoreText", 19},
+                                    {"NewTlf", 16}})
+    EXPECT_EQ(Get<TextBox>(box).MaxLength(), length) << box;
+}
+
+TEST_F(GeneralPage, UnusableFieldsOfARowLeaveTheEntryControls) {
+  Get<ComboBox>("PrioBox").SetPosition(4);
+  Get<ComboBox>("Privilegios").SetPosition(3);
+  list.Add("600,Prio=9,PRVx,MASKMODE7");
+  list.DoubleClick(0);
+  EXPECT_EQ(Get<ComboBox>("PrioBox").Position(), 4);
+  EXPECT_EQ(Get<ComboBox>("Privilegios").Position(), 3);
+  for (const auto& [row, position] : {std::pair{"1,Prio=0,PRV0", 3}, {"1,Prio=0,PRV1", 2}}) {
+    list.Clear();
+    list.Add(row);
+    list.DoubleClick(0);
+    EXPECT_EQ(Get<ComboBox>("Privilegios").Position(), position) << row;
+  }
+  list.SetPosition(-1);
+  Get<Button>("Borrar").Click();
+  EXPECT_EQ(list.Rows().size(), 1U) << "nothing is selected";
+}
+
 TEST_F(GeneralPage, BadTelephonesAreRefused) {
   for (const char* bad : {"6.5", "6,5", "abc"}) {
     Enter(bad);
     EXPECT_EQ(dialogs.boxes.back().text, "Error, no es un numero de telefono correcto") << bad;
+    EXPECT_EQ(dialogs.boxes.back().icon, BoxIcon::Exclamation);
+    EXPECT_EQ(dialogs.boxes.back().title, "Ostrel VR200");
+    EXPECT_EQ(form.Focus(), "NewTlf");
     EXPECT_EQ(Get<TextBox>("NewTlf").Text(), bad) << "left to be corrected";
   }
   EXPECT_TRUE(list.Rows().empty());
@@ -104,6 +143,7 @@ TEST_F(GeneralPage, TheListTakesOneRowMoreThanIsKept) {
   for (int i = 0; i < 22; ++i) Enter(std::to_string(600 + i));
   EXPECT_EQ(list.Rows().size(), 21U);
   EXPECT_EQ(dialogs.boxes.back().text, "Lista llena");
+  EXPECT_EQ(dialogs.boxes.back().icon, BoxIcon::Information);
   EXPECT_EQ(Get<TextBox>("NewTlf").Text(), "");
   loop.RunFor(std::chrono::seconds(1));
   EXPECT_EQ(conf.Phone[19].TLF, "619");
@@ -178,9 +218,9 @@ TEST_F(GeneralPage, ReadsTelephonesOfOlderFirmware) {
     std::vector<int> channels;
   };
   const std::vector<int> twelve{21, 22, 23, 24, 25, 26, 27, 28, 0, 1, 2, 3};
-  for (const Case& c :
-       {Case{0, "65535", 0, {}}, Case{0, "-1", 1, twelve}, Case{0x100, "-1", 0, {}},
-        Case{0x100, "65535", 1, twelve}, Case{0, "2305", 1, {21, 0, 3}}, Case{0, "0", 1, {}}}) {
+  for (const Case& c : {Case{0, "65535", 0, {}}, Case{0, "-1", 1, twelve}, Case{0x100, "-1", 0, {}},
+                        Case{0x100, "65535", 1, twelve}, Case{0, "99999999999", 1, {}},
+                        Case{0, "2305", 1, {21, 0, 3}}, Case{0, "0", 1, {}}}) {
     info.Features = c.features;
     Receive(page, std::string("TLF,4,600111222,3,2,") + c.mask);
     const ConfPhone& phone = conf.Phone[4];
