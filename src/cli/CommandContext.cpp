@@ -1,0 +1,146 @@
+#include "cli/CommandContext.h"
+
+#include <algorithm>
+#include <charconv>
+
+#include "cli/SimulatedLoggers.h"
+#include "shell/LangSeed.h"
+
+namespace ostrel::cli {
+namespace {
+
+constexpr std::string_view kSimulated = "sim:";
+constexpr std::string_view kNumbered = "COM";
+
+std::string Upper(std::string_view text) {
+  std::string upper(text);
+  for (char& c : upper)
+    if (c >= 'a' && c <= 'z') c = static_cast<char>(c - 'a' + 'A');
+  return upper;
+}
+
+std::optional<std::int16_t> PortNumber(std::string_view digits) {
+  std::int16_t number = 0;
+  const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), number);
+  if (error != std::errc() || end != digits.data() + digits.size()) return std::nullopt;
+  return number;
+}
+
+}  // namespace
+
+const TargetModel* FindModel(std::string_view anyName) {
+  for (const TargetModel& model : TargetModels())
+    for (const std::string_view name : {model.name, model.type, model.word})
+      if (Upper(name) == Upper(anyName)) return &model;
+  return nullptr;
+}
+
+CommandContext::CommandContext(Environment& world, GlobalOptions shared)
+    : environment(world),
+      options(std::move(shared)),
+      console(world.out, world.err, options.quiet),
+      dialogs(world, console, options),
+      langFile_(SeedLang(world.files, world.shippedLang, world.dataFolder + "/Lang.txt")),
+      noPorts_(world.loop) {}
+
+std::unique_ptr<Configurator> CommandContext::Make(SerialPort& port, std::string_view model) {
+  const Platform platform{.loop = environment.loop,
+                          .port = port,
+                          .settings = environment.settings,
+                          .dialogs = dialogs,
+                          .files = environment.files,
+                          .processes = environment.processes,
+                          .clock = environment.clock};
+  auto configurator = std::make_unique<Configurator>(
+      platform, ConfiguratorOptions{.programFolder = {}, .langFile = langFile_});
+  configurator->StartForCommand(model, options.lang);
+  return configurator;
+}
+
+std::unique_ptr<Configurator> CommandContext::MakeOnline(std::string_view model) {
+  return Make(environment.port, model);
+}
+
+std::unique_ptr<Configurator> CommandContext::MakeOffline(std::string_view model) {
+  return Make(noPorts_, model);
+}
+
+std::unique_ptr<Configurator> CommandContext::OpenOffline(const std::string& path) {
+  const auto model = ChooseModel({}, path);
+  if (!model) return nullptr;
+  auto configurator = MakeOffline(*model);
+  return Open(*configurator, path) ? std::move(configurator) : nullptr;
+}
+
+bool CommandContext::Open(Configurator& configurator, const std::string& path) {
+  if (!environment.files.Read(path)) {
+    console.Fail(ExitCode::BadFile, "cannot read " + path);
+    return false;
+  }
+  if (configurator.OpenFile(path) == RestoreResult::Loaded) return true;
+  console.Fail(ExitCode::BadFile, path + " is no configuration of any of the six models");
+  return false;
+}
+
+std::string CommandContext::ModelOfFile(const std::string& path) {
+  IniTool tool(environment.files);
+  const std::string stamp = tool.ProfileRead("General", "VERSION", path);
+  for (const TargetModel& model : TargetModels())
+    if (model.type == stamp) return std::string(model.name);
+  return {};
+}
+
+std::optional<std::string> CommandContext::ChooseModel(const PortChoice& port,
+                                                       const std::string& file) {
+  if (!options.target.empty()) return std::string(FindModel(options.target)->name);
+  if (!port.simulatedModel.empty()) return port.simulatedModel;
+  if (!file.empty())
+    if (std::string model = ModelOfFile(file); !model.empty()) return model;
+  const TargetModel* stored = FindModel(StoredSettings(environment.settings).Target());
+  if (stored) return std::string(stored->name);
+  // A file without a known stamp is refused in any case, whatever the model.
+  if (!file.empty()) return std::string(TargetNamesOffered().front());
+  console.Fail(ExitCode::Usage,
+               "which model is it? --target names one of KA1 KA2 VR200 S100 BP BQ");
+  return std::nullopt;
+}
+
+PortChoice CommandContext::NumberedPort(std::int16_t number) {
+  PortChoice choice{.number = number, .name = "COM" + std::to_string(number)};
+  choice.simulatedModel = environment.simulated.ModelAt(number);
+  for (const PortEntry& entry : environment.port.Entries())
+    if (entry.number == number && !entry.device.empty()) choice.name += " (" + entry.device + ")";
+  return choice;
+}
+
+ExitCode CommandContext::ChoosePort(PortChoice& choice) {
+  const std::string_view port = options.port;
+  if (port.empty())
+    return console.Fail(ExitCode::Usage, "no port: --port takes COM7, a device path or sim:VR200");
+  if (port.starts_with(kSimulated)) {
+    const TargetModel* model = FindModel(port.substr(kSimulated.size()));
+    if (!model)
+      return console.Fail(ExitCode::Usage, options.port +
+                                               " is none of sim:KA1 sim:KA2 sim:VR200 "
+                                               "sim:S100 sim:BP sim:BQ");
+    choice = NumberedPort(environment.simulated.NumberOf(model->name));
+    return ExitCode::Done;
+  }
+  if (Upper(port.substr(0, kNumbered.size())) == kNumbered) {
+    const auto number = PortNumber(port.substr(kNumbered.size()));
+    if (!number || *number < kFirstPort || *number > kLastPort)
+      return console.Fail(ExitCode::Usage, options.port + " is none of COM1 to COM256");
+    choice = NumberedPort(*number);
+    return ExitCode::Done;
+  }
+  const int number = environment.numberOfDevice ? environment.numberOfDevice(options.port) : 0;
+  if (number == 0) return console.Fail(ExitCode::NoSession, "there is no port " + options.port);
+  choice = {.number = static_cast<std::int16_t>(number), .name = options.port};
+  return ExitCode::Done;
+}
+
+DeviceConf EmptyConf(CommandContext& context, const Configurator& configurator) {
+  return context.MakeOffline(configurator.profile.TargetName)->conf;
+}
+
+}  // namespace ostrel::cli

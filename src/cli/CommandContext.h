@@ -1,0 +1,68 @@
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "cli/Console.h"
+#include "cli/ConsoleDialogs.h"
+#include "cli/Environment.h"
+#include "cli/GlobalOptions.h"
+#include "platform/virtual/LinePort.h"
+#include "shell/Configurator.h"
+
+namespace ostrel::cli {
+
+/// A port as the command line names it.
+struct PortChoice {
+  std::int16_t number = 0;
+  std::string name{};            ///< for messages: "COM7 (/dev/ttyS6)"
+  std::string simulatedModel{};  ///< display name of the simulated logger there; else empty
+};
+
+/// What a command runs in: the world, the options that all commands share, and configurators.
+class CommandContext {
+ public:
+  CommandContext(Environment& environment, GlobalOptions options);
+
+  Environment& environment;
+  const GlobalOptions options;
+  Console console;
+  ConsoleDialogs dialogs;
+
+  /// A configurator with the ports of the environment, on a model by its display name.
+  std::unique_ptr<Configurator> MakeOnline(std::string_view model);
+  /// One without any port, for work on files.
+  std::unique_ptr<Configurator> MakeOffline(std::string_view model);
+  /// The configuration of a file in a configurator of its own; null, after saying why, when it is
+  /// refused.
+  std::unique_ptr<Configurator> OpenOffline(const std::string& path);
+  /// Reads a file into a configurator. False, after saying why, when it is refused.
+  bool Open(Configurator& configurator, const std::string& path);
+
+  /// The model to work with, by its display name: that of the options, else that of the simulated
+  /// logger, else that of the file's stamp, else the stored one. Nothing, after saying why, when
+  /// none of these tells.
+  std::optional<std::string> ChooseModel(const PortChoice& port, const std::string& file);
+  /// Finds the port of the options. Anything but Done after saying why there is none.
+  ExitCode ChoosePort(PortChoice& choice);
+  bool HasPort() const { return !options.port.empty(); }
+
+ private:
+  std::unique_ptr<Configurator> Make(SerialPort& port, std::string_view model);
+  PortChoice NumberedPort(std::int16_t number);
+  /// Display name of the model that a file's stamp names; empty when it names none.
+  std::string ModelOfFile(const std::string& path);
+
+  std::string langFile_;
+  LinePort noPorts_;
+};
+
+/// The model that any of its names means, letter case aside; null when there is none.
+const TargetModel* FindModel(std::string_view anyName);
+
+/// An empty configuration of the model that a configurator is set to.
+DeviceConf EmptyConf(CommandContext& context, const Configurator& configurator);
+
+}  // namespace ostrel::cli

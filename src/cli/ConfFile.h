@@ -1,0 +1,20 @@
+#pragma once
+
+#include <string>
+
+#include "cli/CommandContext.h"
+
+namespace ostrel::cli {
+
+/// Writes the configuration of a configurator to a path, whole or not at all, and says why it
+/// failed.
+ExitCode SaveTo(CommandContext& context, Configurator& configurator, const std::string& path);
+
+/// Makes sure that a file can be made at a path before a logger is kept busy for it.
+ExitCode TryToWrite(CommandContext& context, const std::string& path);
+
+/// Keeps the configuration that a configurator holds as a safety copy in the user's data folder,
+/// named by serial number and time. `path` tells where.
+ExitCode SaveBackup(CommandContext& context, Configurator& configurator, std::string& path);
+
+}  // namespace ostrel::cli

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <optional>
+#include <ostream>
+#include <string>
+#include <string_view>
+
+#include "platform/Clock.h"
+#include "platform/EventLoop.h"
+#include "platform/Files.h"
+#include "platform/Processes.h"
+#include "platform/SerialPort.h"
+#include "platform/Settings.h"
+
+namespace ostrel::cli {
+
+class SimulatedLoggers;
+
+/// All that a command has of the world, so that it runs in a test as it does in a shell.
+struct Environment {
+  /// Asks the operator for one line, without echo when `echo` is false; nothing when it ends.
+  using Ask = std::function<std::optional<std::string>(std::string_view prompt, bool echo)>;
+
+  EventLoop& loop;
+  SerialPort& port;  ///< with the simulated loggers at their numbers
+  Settings& settings;
+  Files& files;
+  Processes& processes;
+  Clock& clock;
+  SimulatedLoggers& simulated;
+  std::ostream& out;
+  std::ostream& err;
+  bool errIsTerminal = false;
+  Ask ask;                  ///< empty when no operator sits at the terminal
+  std::string dataFolder;   ///< the user's own; made when needed
+  std::string shippedLang;  ///< the installed translation table
+  /// Number of a device path; 0 when there is none to give.
+  std::function<int(const std::string& path)> numberOfDevice;
+  /// Opens a text file that grows while the command runs; null when it cannot be written.
+  std::function<std::unique_ptr<std::ostream>(const std::string& path)> openLog;
+  /// What an interrupt does; set by a command for as long as it has a port open.
+  std::function<void()> onInterrupt;
+};
+
+}  // namespace ostrel::cli

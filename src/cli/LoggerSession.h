@@ -1,0 +1,57 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <ostream>
+#include <string_view>
+
+#include "cli/CommandContext.h"
+#include "cli/FaultText.h"
+#include "cli/Progress.h"
+
+namespace ostrel::cli {
+
+/// A session of one command with a logger. Each step says on standard error why it failed and gives
+/// the exit code. The port is closed when the session goes.
+///
+/// An interrupt ends the dialogue under way by closing the port.
+class LoggerSession {
+ public:
+  LoggerSession(CommandContext& context, Configurator& configurator, PortChoice port);
+  ~LoggerSession();
+  LoggerSession(const LoggerSession&) = delete;
+  LoggerSession& operator=(const LoggerSession&) = delete;
+
+  /// Opens the session and makes sure that the logger has told who it is.
+  ExitCode Open();
+  /// Downloads into an emptied model, so that nothing of a former one shows through.
+  ExitCode Download();
+  ExitCode Upload();
+  /// Runs a short dialogue, which says whether it succeeded.
+  ExitCode Run(const std::function<bool()>& dialogue);
+  /// Says why the last short dialogue failed.
+  ExitCode Failed() { return Fault(Transfer::None); }
+  void Close();
+
+  /// Records of the last download, up to what its bar shows; the first guess for the next one.
+  int Records() const { return records_; }
+  bool Interrupted() const { return interrupted_; }
+  const PortChoice& Port() const { return port_; }
+
+ private:
+  /// Runs a transfer with its progress shown; `farthest` is the last step that was seen.
+  bool Move(std::string_view label, int steps, bool (SessionDriver::*transfer)(), int& farthest);
+  ExitCode OpenFault();
+  ExitCode Fault(Transfer transfer, bool mayHaveClosed = false);
+  void StartTrace();
+
+  CommandContext& context_;
+  Configurator& configurator_;
+  PortChoice port_;
+  std::unique_ptr<std::ostream> trace_;
+  bool traceFailed_ = false;
+  bool interrupted_ = false;
+  int records_ = 300;
+};
+
+}  // namespace ostrel::cli

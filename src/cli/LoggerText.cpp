@@ -1,0 +1,42 @@
+#include "cli/LoggerText.h"
+
+#include <array>
+#include <charconv>
+
+namespace ostrel::cli {
+namespace {
+
+std::string TwoDigits(int number) { return (number < 10 ? "0" : "") + std::to_string(number); }
+
+}  // namespace
+
+std::string VersionText(float hundredths) {
+  std::array<char, 64> text{};
+  const auto end =
+      std::to_chars(text.data(), text.data() + text.size(), static_cast<double>(hundredths) / 100,
+                    std::chars_format::fixed, 2);
+  return {text.data(), end.ptr};
+}
+
+std::string FeaturesText(std::int32_t features) {
+  std::array<char, 8> text{};
+  const auto end = std::to_chars(text.data(), text.data() + text.size(),
+                                 static_cast<std::uint32_t>(features), 16);
+  return "0x" + std::string(text.data(), end.ptr);
+}
+
+std::optional<std::int32_t> ReadFeatures(std::string_view text) {
+  if (text.starts_with("0x") || text.starts_with("0X")) text.remove_prefix(2);
+  std::uint32_t mask = 0;
+  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), mask, 16);
+  if (error != std::errc() || end != text.data() + text.size()) return std::nullopt;
+  return static_cast<std::int32_t>(mask);
+}
+
+std::string ClockText(const DateTime& time) {
+  if (time == DateTime{}) return {};
+  return std::to_string(time.year) + "-" + TwoDigits(time.month) + "-" + TwoDigits(time.day) + " " +
+         TwoDigits(time.hour) + ":" + TwoDigits(time.minute) + ":" + TwoDigits(time.second);
+}
+
+}  // namespace ostrel::cli

@@ -1,0 +1,111 @@
+#include "cli/Ostrelctl.h"
+
+#include <vector>
+
+#include "cli/Commands.h"
+#include "cli/LoggerText.h"
+#include "cli/SimulatedLoggers.h"
+
+namespace ostrel::cli {
+namespace {
+
+constexpr const char* kFooter =
+    "Exit codes:\n"
+    "  0  done\n"
+    "  1  differences found, or errors by check\n"
+    "  2  usage\n"
+    "  3  no session: port, modem or handshake\n"
+    "  4  a dialogue failed or was interrupted\n"
+    "  5  a file was refused, or cannot be read or written\n";
+
+std::string NoModel(const std::string& name) {
+  return FindModel(name) ? std::string()
+                         : name + " is none of KA1 KA2 VR200 S100 BP BQ or their display names";
+}
+
+std::string NoFeatures(const std::string& text) {
+  return ReadFeatures(text) ? std::string() : text + " is no hexadecimal mask";
+}
+
+void AddGlobals(CLI::App& app, GlobalOptions& options) {
+  app.add_option("--port", options.port, "COM7, the path of a device, or sim:MODEL");
+  app.add_option("--target", options.target, "Model: display name, type word or short name")
+      ->check(NoModel);
+  app.add_option("--phone", options.phone, "Number to dial through a modem");
+  app.add_option("--code", options.code, "Access code; asked for where absent and needed");
+  app.add_option("--trace", options.trace, "File that gets what passes on the line");
+  app.add_option("--sim-state", options.simState, "File in which a simulated logger is kept");
+  app.add_option("--lang", options.lang, "Column of the language table for the core's texts")
+      ->check(CLI::Range(1, 5));
+  app.add_option_function<std::string>(
+         "--features",
+         [&options](const std::string& text) { options.features = ReadFeatures(text); },
+         "Firmware features to count with, hexadecimal")
+      ->check(NoFeatures);
+  app.add_flag("--json", options.json, "Results as JSON");
+  app.add_flag("--quiet", options.quiet, "No progress and no words about the work");
+  app.add_flag("--yes", options.yes, "Answer questions with yes");
+}
+
+std::vector<Command> AddCommands(CLI::App& app) {
+  std::vector<Command> commands;
+  for (const auto add : {AddPorts, AddInfo, AddClock, AddLive, AddOutput, AddTotal, AddDownload,
+                         AddUpload, AddStatements, AddDiff, AddShow, AddCheck})
+    commands.push_back(add(app));
+  for (const Command& command : commands) command.parser->fallthrough();
+  app.require_subcommand(1);
+  return commands;
+}
+
+/// What the parser had to say: help is a result, everything else a mistake in the command line.
+ExitCode TellParserResult(const CLI::App& app, const CLI::ParseError& error,
+                          Environment& environment) {
+  if (error.get_exit_code() != 0) {
+    const bool isUnknown = app.get_subcommands().empty() && !app.remaining().empty();
+    const std::string says =
+        isUnknown ? "there is no command " + app.remaining().front() : error.what();
+    environment.err << "ostrelctl: " << Printable(says) << " (--help tells more)\n";
+    return ExitCode::Usage;
+  }
+  app.exit(error, environment.out, environment.err);
+  return ExitCode::Done;
+}
+
+ExitCode RunChosen(const std::vector<Command>& commands, Environment& environment,
+                   const GlobalOptions& options) {
+  for (const Command& command : commands) {
+    if (!command.parser->parsed()) continue;
+    CommandContext context(environment, options);
+    const ExitCode result = command.run(context);
+    const FileResult kept = environment.simulated.SaveState(environment.files);
+    environment.out.flush();
+    if (!kept.Ok())
+      return context.console.Fail(ExitCode::BadFile,
+                                  "cannot write " + options.simState + ": " + kept.error);
+    if (!environment.out) return context.console.Fail(ExitCode::BadFile, "cannot write the output");
+    return result;
+  }
+  return ExitCode::Usage;
+}
+
+}  // namespace
+
+ExitCode RunOstrelctl(std::span<const std::string> args, Environment& environment) {
+  CLI::App app("Reads, checks, compares and writes the configurations of telemetry loggers",
+               "ostrelctl");
+  GlobalOptions options;
+  AddGlobals(app, options);
+  const std::vector<Command> commands = AddCommands(app);
+  const ConfiguratorOptions version;
+  app.set_version_flag("--version", "ostrelctl " + std::to_string(version.versionMajor) + "." +
+                                        std::to_string(version.versionMinor));
+  app.footer(kFooter);
+  try {
+    app.parse(std::vector<std::string>(args.rbegin(), args.rend()));
+  } catch (const CLI::ParseError& error) {
+    return TellParserResult(app, error, environment);
+  }
+  return RunChosen(commands, environment, options);
+}
+
+}  // namespace ostrel::cli

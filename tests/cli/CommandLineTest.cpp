@@ -1,0 +1,119 @@
+#include "cli/World.h"
+
+namespace ostrel::cli {
+namespace {
+
+using testing::HasSubstr;
+
+/// A command line that fails before any dialogue, with its exit code and part of its one line.
+struct Mistake {
+  std::string line;
+  int code;
+  std::string says;
+};
+
+TEST(CommandLine, SaysInOneLineWhatIsWrong) {
+  World world;
+  world.files.contents["/oem.ocf"] = "[General]\r\nVERSION=PX240";
+  world.files.contents["/text.txt"] = "no configuration";
+  for (const Mistake& mistake : std::vector<Mistake>{
+           {"", 2, "subcommand is required"},
+           {"fly", 2, "there is no command fly"},
+           {"info", 2, "no port"},
+           {"info --port COM300", 2, "COM1 to COM256"},
+           {"info --port COM251x", 2, "COM1 to COM256"},
+           {"info --port sim:XX", 2, "sim:KA1"},
+           {"info --port COM7", 2, "which model is it?"},
+           {"info --port COM7 --target VR200", 3, "there is no port COM7"},
+           {"info --port /dev/none --target VR200", 3, "there is no port /dev/none"},
+           {"info --port sim:VR200 --target XX", 2, "XX is none of"},
+           {"info --port sim:VR200 --lang 9", 2, "lang"},
+           {"live --port sim:VR200 --features xyz", 2, "xyz is no hexadecimal mask"},
+           {"output 1 up --port sim:VR200", 2, "up"},
+           {"output 4 on --port sim:VR200", 2, "has 4 outputs"},
+           {"output -1 on --port sim:VR200", 2, ""},
+           {"total 9 --port sim:VR200", 2, "9"},
+           {"total 1 many --port sim:VR200", 2, "many"},
+           {"total 1 3000000000 --port sim:VR200", 2, "3000000000"},
+           {"download", 2, "FILE is required"},
+           {"diff port port --port sim:VR200", 2, "compared with a file"},
+           {"check /text.txt --silence nonsense", 2, "there is no rule nonsense"},
+           {"show /absent.ocf", 5, "cannot read /absent.ocf"},
+           {"statements /absent.ocf", 5, "cannot read /absent.ocf"},
+           {"diff /absent.ocf /text.txt", 5, "cannot read /absent.ocf"},
+           {"upload /absent.ocf --port sim:VR200", 5, "cannot read /absent.ocf"},
+       }) {
+    EXPECT_EQ(world.Run(mistake.line), mistake.code) << mistake.line << '\n' << world.err;
+    EXPECT_THAT(world.err, HasSubstr(mistake.says)) << mistake.line;
+    EXPECT_TRUE(world.err.starts_with("ostrelctl: ")) << world.err;
+    EXPECT_EQ(std::ranges::count(world.err, '\n'), 1) << world.err;
+    EXPECT_EQ(world.out, "") << mistake.line;
+  }
+}
+
+TEST(CommandLine, RefusesAFileThatIsNoConfiguration) {
+  World world;
+  world.files.contents["/oem.ocf"] = "[General]\r\nVERSION=PX240";
+  world.files.contents["/text.txt"] = "no configuration";
+  world.files.contents["/empty.ocf"] = "";
+  for (const std::string path : {"/oem.ocf", "/text.txt", "/empty.ocf"})
+    for (const std::string command : {"show ", "check ", "statements ", "upload --dry-run "}) {
+      EXPECT_EQ(world.Run(command + path), 5) << command << path;
+      EXPECT_THAT(world.err, HasSubstr("No es un archivo de configuracion valido"));
+      EXPECT_THAT(world.err, HasSubstr(path + " is no configuration of any of the six models"));
+    }
+}
+
+TEST(CommandLine, HelpIsAResult) {
+  World world;
+  EXPECT_EQ(world.Run("--help"), 0);
+  EXPECT_THAT(world.out, HasSubstr("download"));
+  EXPECT_THAT(world.out, HasSubstr("4  a dialogue failed"));
+  EXPECT_EQ(world.Run("check --help"), 0);
+  EXPECT_THAT(world.out, HasSubstr("text-breaks-statement (error)"));
+  EXPECT_EQ(world.err, "");
+}
+
+TEST(CommandLine, TakesTheModelFromOptionSimulatorStampAndStoreInThisOrder) {
+  World world;
+  world.settings.Set("Quorvane", "Ostrel Configurator", "Target", "Tavro BQ");
+  world.simulated.Port().SetOpenFault(7, PortFault::Busy);
+  EXPECT_EQ(world.Run("info --port sim:KA2"), 0);
+  EXPECT_THAT(world.out, HasSubstr("Ostrel KA2"));
+  EXPECT_EQ(world.Run("info --port com252 --target ostrel_s100"), 0);
+  EXPECT_THAT(world.out, HasSubstr("Ostrel S100"));
+  world.files.contents["/ka1.ocf"] = "[General]\r\nVERSION=OSTREL_KA1";
+  EXPECT_EQ(world.Run("show /ka1.ocf"), 0);
+  EXPECT_THAT(world.out, HasSubstr("Ostrel KA1"));
+  EXPECT_EQ(world.Run("show /ka1.ocf --target VR200"), 0) << "the file changes the model";
+  EXPECT_THAT(world.out, HasSubstr("Ostrel KA1"));
+  EXPECT_THAT(world.err, HasSubstr("es de un modelo distinto"));
+  // The stored model serves where nothing else tells: the port's fault comes later.
+  EXPECT_EQ(world.Run("info --port COM7"), 3);
+}
+
+TEST(CommandLine, TranslatesTheTextsOfTheCore) {
+  World world;
+  world.files.contents["/share/Lang.txt"] =
+      "{Espa\xF1ol}{English}\r\n{No es un archivo de configuracion valido}{Not a valid file}\r\n";
+  world.files.contents["/text.txt"] = "no configuration";
+  EXPECT_EQ(world.Run("show /text.txt --lang 2"), 5);
+  EXPECT_THAT(world.err, HasSubstr("Not a valid file"));
+  EXPECT_TRUE(world.files.contents.contains("/home/user/data/Lang.txt"));
+  EXPECT_FALSE(world.files.contents["/share/Lang.txt"].find("Aviso") != std::string::npos)
+      << "the installed table is never written";
+}
+
+TEST(CommandLine, ListsThePorts) {
+  World world;
+  EXPECT_EQ(world.Run("ports"), 0);
+  EXPECT_THAT(world.out, HasSubstr("COM253  sim:VR200  simulated Ostrel VR200\n"));
+  EXPECT_EQ(world.Run("ports --json"), 0);
+  const QJsonArray ports = world.Json().array();
+  ASSERT_EQ(ports.size(), 6);
+  EXPECT_EQ(ports[0].toObject()["number"].toInt(), 251);
+  EXPECT_EQ(ports[5].toObject()["device"].toString().toStdString(), "sim:BQ");
+}
+
+}  // namespace
+}  // namespace ostrel::cli

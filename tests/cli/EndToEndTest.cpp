@@ -1,0 +1,144 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <signal.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <array>
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+#include <string>
+#include <vector>
+
+namespace ostrel::cli {
+namespace {
+
+namespace fs = std::filesystem;
+using testing::HasSubstr;
+
+/// The folder of the programs, which is that of this test.
+fs::path Programs() { return fs::read_symlink("/proc/self/exe").parent_path(); }
+
+/// A folder of its own for each test, with the user's folders in it.
+class EndToEnd : public testing::Test {
+ protected:
+  EndToEnd() {
+    std::string name = (fs::temp_directory_path() / "ostrel-XXXXXX").string();
+    folder_ = mkdtemp(name.data());
+    setenv("XDG_DATA_HOME", (folder_ / "data").c_str(), 1);
+    setenv("XDG_CONFIG_HOME", (folder_ / "config").c_str(), 1);
+  }
+  ~EndToEnd() override { fs::remove_all(folder_); }
+
+  std::string Path(const std::string& name) const { return (folder_ / name).string(); }
+  std::string Read(const std::string& name) const {
+    std::ifstream file(folder_ / name, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+  }
+  /// Runs a program to its end; its output and errors land in "out" and "err".
+  int Run(const std::string& program, const std::string& words) const {
+    const std::string line = (Programs() / program).string() + " " + words + " >" + Path("out") +
+                             " 2>" + Path("err") + " </dev/null";
+    return WEXITSTATUS(std::system(line.c_str()));
+  }
+
+  fs::path folder_;
+};
+
+/// `ostrel-sim` while it runs.
+class Simulator {
+ public:
+  explicit Simulator(std::vector<std::string> words) {
+    std::array<int, 2> ends{};
+    EXPECT_EQ(pipe(ends.data()), 0);
+    const std::string program = (Programs() / "ostrel-sim").string();
+    process_ = fork();
+    if (process_ == 0) {
+      dup2(ends[1], STDOUT_FILENO);
+      close(ends[0]);
+      close(ends[1]);
+      std::vector<char*> args{const_cast<char*>(program.c_str())};
+      for (std::string& word : words) args.push_back(word.data());
+      args.push_back(nullptr);
+      execv(program.c_str(), args.data());
+      _exit(127);
+    }
+    close(ends[1]);
+    output_ = fdopen(ends[0], "r");
+    path = Line();
+  }
+  ~Simulator() {
+    if (process_ > 0) Stop(SIGKILL);
+    std::fclose(output_);
+  }
+  std::string Line() {
+    std::string line;
+    for (int c = std::fgetc(output_); c != EOF && c != '\n'; c = std::fgetc(output_))
+      line += static_cast<char>(c);
+    return line;
+  }
+  /// Ends it; its exit code, or -1 when the signal killed it.
+  int Stop(int signal) {
+    int status = 0;
+    kill(process_, signal);
+    waitpid(process_, &status, 0);
+    process_ = 0;
+    return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+  }
+
+  std::string path;  ///< of the pseudo-terminal
+
+ private:
+  pid_t process_ = 0;
+  FILE* output_ = nullptr;
+};
+
+TEST_F(EndToEnd, ConfigurationGoesRoundOverAPseudoTerminal) {
+  Simulator simulator({"--model", "VR200", "--state", Path("state")});
+  const std::string port = " --target VR200 --port " + simulator.path;
+  ASSERT_EQ(Run("ostrelctl", "download " + Path("a.ocf") + port), 0) << Read("err");
+  EXPECT_TRUE(simulator.Line().find("#40") != std::string::npos) << "one line an exchange";
+  std::string text = Read("a.ocf");
+  const std::size_t name = text.find("NOMBRE=");
+  text.replace(name, text.find('\r', name) - name, "NOMBRE=Dep\xF3sito de la prueba");
+  std::ofstream(Path("b.ocf"), std::ios::binary) << text;
+  EXPECT_EQ(Run("ostrelctl", "upload " + Path("b.ocf") + port), 0) << Read("err");
+  EXPECT_THAT(Read("err"), HasSubstr("written and verified"));
+  EXPECT_EQ(Run("ostrelctl", "diff port " + Path("b.ocf") + port), 0) << Read("out");
+  EXPECT_EQ(Run("ostrelctl", "diff port " + Path("a.ocf") + port), 1);
+  EXPECT_EQ(std::distance(fs::directory_iterator(folder_ / "data/ostrel-configurator/backups"), {}),
+            1);
+  EXPECT_EQ(simulator.Stop(SIGTERM), 0);
+  EXPECT_THAT(Read("state"), HasSubstr("Depósito de la prueba")) << "the state is kept";
+}
+
+TEST_F(EndToEnd, ALoggerThatFallsSilentLeavesNoFile) {
+  Simulator simulator({"--model", "KA1", "--fault", "silent-after-record@3"});
+  EXPECT_EQ(
+      Run("ostrelctl", "download " + Path("a.ocf") + " --target KA1 --port " + simulator.path), 4);
+  EXPECT_THAT(Read("err"), HasSubstr("fell silent at record 4"));
+  EXPECT_FALSE(fs::exists(Path("a.ocf")));
+  EXPECT_EQ(simulator.Stop(SIGINT), 0);
+}
+
+TEST_F(EndToEnd, AnInterruptEndsADownloadWithoutAFile) {
+  Simulator simulator({"--model", "VR200", "--pace"});
+  const std::string line = "timeout --signal=INT 5 " + (Programs() / "ostrelctl").string() +
+                           " download " + Path("a.ocf") + " --target VR200 --port " +
+                           simulator.path + " 2>" + Path("err");
+  EXPECT_NE(std::system(line.c_str()), 0);
+  EXPECT_THAT(Read("err"), HasSubstr("interrupted; the logger's configuration is unchanged"));
+  EXPECT_FALSE(fs::exists(Path("a.ocf")));
+}
+
+TEST_F(EndToEnd, TheLoggersInTheProcessNeedNoPort) {
+  EXPECT_EQ(Run("ostrelctl", "info --port sim:BQ --json"), 0) << Read("err");
+  EXPECT_THAT(Read("out"), HasSubstr("\"model\": \"Tavro BQ\""));
+  EXPECT_EQ(Run("ostrelctl", "info --port /dev/null --target BQ"), 3);
+  EXPECT_EQ(Run("ostrel-sim", "--model nothing"), 2);
+}
+
+}  // namespace
+}  // namespace ostrel::cli

@@ -1,0 +1,211 @@
+#include "cli/World.h"
+#include "lang/CodePage.h"
+
+namespace ostrel::cli {
+namespace {
+
+using testing::HasSubstr;
+using testing::Not;
+
+TEST(Statements, AreThoseThatAnUploadSends) {
+  World world;
+  world.HaveFile("/a.ocf");
+  std::string sent;
+  world.Logger().OnExchange([&](const sim::Exchange& exchange) {
+    if (exchange.request.starts_with("#45"))
+      sent += FromCodePage(exchange.request.substr(6)) + "\n";
+  });
+  EXPECT_EQ(world.Run("upload /a.ocf --no-verify --no-backup --port sim:VR200"), 0);
+  const auto features = world.Logger().Self().features;
+  std::ostringstream hex;
+  hex << std::hex << features;
+  EXPECT_EQ(world.Run("statements /a.ocf --features 0x" + hex.str()), 0);
+  EXPECT_EQ(world.out, sent);
+  EXPECT_EQ(world.Run("statements /a.ocf --json"), 0);
+  const QJsonArray statements = world.Json().object()["statements"].toArray();
+  EXPECT_TRUE(statements[0].toString().startsWith("ID="));
+  for (const auto& statement : statements)
+    EXPECT_FALSE(statement.toString().startsWith("RETRYMAX")) << "without features by default";
+}
+
+TEST(Show, TellsOnlyWhatIsSetUnlessToldAll) {
+  World world;
+  world.files.contents["/a.ocf"] =
+      "[General]\r\nVERSION=VR200\r\nNOMBRE=Dep\xF3sito\r\nRENVT= 10\r\nRENVN= 3\r\n"
+      "TLFM 1=600100200,Prio=2,PRV1,MASKMODE1,DI3,FG0\r\n"
+      "[DIGITAL 2]\r\nHABIL( 1)=True\r\nSIEMPRE( 1)=True\r\nSEMANA( 1)= 31\r\n"
+      "TEXTO( 1)=Puerta\x1B[31m\r\nACTHI( 1 0)= 5\r\nACTHI( 1 3)= 12";
+  EXPECT_EQ(world.Run("show /a.ocf"), 0);
+  EXPECT_THAT(world.out, HasSubstr("Ostrel VR200\n"));
+  EXPECT_THAT(world.out, HasSubstr("GENERAL (general)\n  NOMBRE (name): \"Dep\xC3\xB3sito\"\n"));
+  EXPECT_THAT(world.out, Not(HasSubstr("RENVT")));
+  EXPECT_THAT(world.out, HasSubstr("TLFM 1 (telephone 1): 600100200,Prio=2,PRV1,MASKMODE1,DI3"));
+  EXPECT_THAT(world.out, HasSubstr("DIGITAL 2 (digital input 2)\n"));
+  EXPECT_THAT(world.out, HasSubstr("  HABIL( 1) (alarm 1, enabled): yes\n"));
+  EXPECT_THAT(world.out, HasSubstr("\"Puerta\\x1b[31m\"")) << "a terminal gets no control";
+  EXPECT_THAT(world.out, HasSubstr("(alarm 1, valid days): Mo Tu We Th Fr\n"));
+  EXPECT_THAT(world.out, HasSubstr("  ACTHI( 1) (alarm 1, actions, high): 5 12\n"));
+  EXPECT_EQ(world.Run("show /a.ocf --all"), 0);
+  EXPECT_THAT(world.out, HasSubstr("RENVT (minutes between resends): 10\n"));
+  EXPECT_THAT(world.out, HasSubstr("TLFM 0 (telephone 0): free\n"));
+}
+
+TEST(Show, GivesTypedJson) {
+  World world;
+  world.HaveFile("/a.ocf");
+  world.SetKey("/a.ocf", "ANALOG 0", "EqFE", " 2.5");
+  EXPECT_EQ(world.Run("show /a.ocf --json"), 0);
+  const QJsonObject sections = world.Json().object()["sections"].toObject();
+  const QJsonObject general = sections["GENERAL"].toObject();
+  EXPECT_TRUE(general["NOMBRE"].isString());
+  EXPECT_TRUE(general["RENVT"].isDouble());
+  EXPECT_TRUE(general["TLFM 0"].toObject()["mask"].isArray());
+  EXPECT_TRUE(general["TLFM 19"].isNull());
+  const QJsonObject analog = sections["ANALOG 0"].toObject();
+  EXPECT_EQ(analog["EqFE"].toDouble(), 2.5);
+  EXPECT_TRUE(analog["HABIL( 0)"].isBool());
+  EXPECT_TRUE(analog["INICIO( 0)"].isString());
+  EXPECT_TRUE(sections["FLAG 15"].isObject());
+}
+
+TEST(Diff, TellsDifferencesInWordsAndByExitCode) {
+  World world;
+  world.HaveFile("/a.ocf");
+  world.files.contents["/b.ocf"] = world.files.contents["/a.ocf"];
+  EXPECT_EQ(world.Run("diff /a.ocf /b.ocf"), 0);
+  EXPECT_EQ(world.out, "");
+  world.SetKey("/b.ocf", "General", "RENVN", " 7");
+  world.SetKey("/b.ocf", "DIGITAL 7", "TEXTO( 3)", "oculto");
+  EXPECT_EQ(world.Run("diff /a.ocf /b.ocf"), 1);
+  EXPECT_THAT(world.out, HasSubstr("RENVN (resends): "));
+  EXPECT_THAT(world.out, HasSubstr("TEXTO( 3) (alarm 3, text): \"\" -> \"oculto\"\n"));
+  EXPECT_EQ(world.Run("diff /a.ocf /b.ocf --json"), 1);
+  EXPECT_EQ(world.Json().object()["differences"].toArray().size(), 2);
+}
+
+TEST(Diff, WithFeaturesOnlyWhatIsSentCounts) {
+  World world;
+  world.HaveFile("/a.ocf");
+  world.SetKey("/a.ocf", "DIGITAL 7", "HABIL( 3)", "False");
+  world.files.contents["/b.ocf"] = world.files.contents["/a.ocf"];
+  world.SetKey("/b.ocf", "General", "RENVN", " 7");
+  world.SetKey("/b.ocf", "DIGITAL 7", "TEXTO( 3)", "oculto");
+  EXPECT_EQ(world.Run("diff /a.ocf /b.ocf --features 0"), 0);
+  EXPECT_THAT(world.out, testing::StartsWith("not sent to this logger:\n"));
+  EXPECT_EQ(world.Run("diff /a.ocf /b.ocf --features 1"), 1);
+  EXPECT_THAT(world.out, testing::ContainsRegex("RENVN.*\nnot sent to this logger:\n.*\n.*TEXTO"));
+  // A text goes along once its alarm is enabled on either side.
+  world.SetKey("/b.ocf", "DIGITAL 7", "HABIL( 3)", "True");
+  EXPECT_EQ(world.Run("diff /a.ocf /b.ocf --features 0 --json"), 1);
+  for (const auto& difference : world.Json().object()["differences"].toArray())
+    EXPECT_EQ(difference.toObject()["sent"].toBool(),
+              difference.toObject()["key"].toString() != "RENVN");
+}
+
+TEST(Diff, ComparesAFileWithWhatTheLoggerHolds) {
+  World world;
+  world.HaveFile("/a.ocf");
+  EXPECT_EQ(world.Run("diff /a.ocf port --port sim:VR200"), 0) << world.out;
+  world.SetKey("/a.ocf", "General", "NOMBRE", "Nuevo");
+  const std::string name = "\"" + world.Logger().Conf().name + "\"";
+  EXPECT_EQ(world.Run("diff /a.ocf port --port sim:VR200"), 1);
+  EXPECT_THAT(world.out, HasSubstr("(name): \"Nuevo\" -> " + name));
+  EXPECT_EQ(world.Run("diff port /a.ocf --port sim:VR200"), 1);
+  EXPECT_THAT(world.out, HasSubstr("(name): " + name + " -> \"Nuevo\""));
+  EXPECT_EQ(world.Run("diff /a.ocf port"), 2) << "no port is named";
+}
+
+TEST(Diff, TellsFilesOfTwoModelsApart) {
+  World world;
+  world.HaveFile("/a.ocf");
+  world.HaveFile("/b.ocf", "KA1");
+  EXPECT_EQ(world.Run("diff /a.ocf /b.ocf"), 1);
+  EXPECT_THAT(world.out, HasSubstr("VERSION: Ostrel VR200 -> Ostrel KA1\n"));
+}
+
+/// A configuration of a VR200, in which nothing is wrong.
+std::string Sound() {
+  std::string text = "[General]\r\nVERSION=VR200\r\nNOMBRE=Bomba\r\nRENVT= 10\r\nRENVN= 3\r\n";
+  text += "TLFM 0=+34600100200,Prio=1,PRV0,MASKMODE1,DI2\r\n[DIGITAL 2]\r\nNOMBRE=Puerta\r\n";
+  text += "HABIL( 0)=True\r\nSMS( 0)=True\r\nTEXTO( 0)=Abierta\r\nSIEMPRE( 0)=True\r\n";
+  text += "SEMANA( 0)= 127\r\nACTHI( 0 0)= 5\r\n[MODBUS 0]\r\nOTHER=1\r\n";
+  return text;
+}
+
+/// One change to a sound file, and the only rule that then finds something.
+struct RuleCase {
+  std::string from, to;
+  std::string options;
+  std::string rule;  ///< empty for none
+  int code = 0;
+};
+
+TEST(Check, FindsEachMistakeByItsRule) {
+  const std::string shortMasks = " --features ffeffff";
+  for (const RuleCase& one : std::vector<RuleCase>{
+           {"Bomba", "Bomba", "", ""},
+           {"Bomba", "Bomba", " --features ffffffff", ""},
+           {"Bomba", "Bomba, sur", "", "text-breaks-statement", 1},
+           {"Abierta", "Abierta\tya", "", "text-breaks-statement", 1},
+           {"NOMBRE=Puerta", "NOMBRE=Puerta, norte", "", "text-breaks-statement", 1},
+           {"HABIL( 0)=True\r\nSMS( 0)=True\r\nTEXTO( 0)=Abierta", "TEXTO( 0)=cerrada, no enviada",
+            "", ""},
+           {"Bomba", std::string(51, 'x'), "", "text-too-long"},
+           {"Bomba", std::string(50, 'x'), "", ""},
+           {"NOMBRE=Puerta", "NOMBRE=" + std::string(60, 'x'), "", "text-too-long"},
+           {"Abierta", std::string(60, 'x'), "", "text-too-long"},
+           {"+34600100200", "+3460010020012345678", "", "text-too-long"},
+           {"OTHER=1", "OTHER=" + std::string(255, 'x'), "", "value-cut"},
+           {"ACTHI( 0 0)= 5", "ACTHI( 0 0)= 41", "", "action-not-offered"},
+           {"ACTHI( 0 0)= 5", "ACTHI( 0 0)=-1", "", ""},
+           {"MASKMODE1,DI2", "MASKMODE1,DI3", "", "alarm-for-nobody"},
+           {"MASKMODE1,DI2", "MASKMODE2,DI2", "", "alarm-for-nobody"},
+           {"MASKMODE1,DI2", "MASKMODE2,DI3", "", ""},
+           {"MASKMODE1,DI2", "MASKMODE0", "", ""},
+           {"TLFM 0=+34600100200", "TLFX 0=", "", "alarm-for-nobody"},
+           {"SMS( 0)=True", "SMS( 0)=False", "", ""},
+           {"SIEMPRE( 0)=True\r\nSEMANA( 0)= 127", "SIEMPRE( 0)=False\r\nSEMANA( 0)= 0", "",
+            "alarm-never-valid"},
+           {"RENVN= 3", "RENVN= 4", " --features fffffffe", "setting-not-sent"},
+           {"RENVN= 3", "RENVN= 4", "", ""},
+           {"MASKMODE1,DI2", "MASKMODE1,DI2,FG3", shortMasks, "mask-not-sent"},
+           {"MASKMODE1,DI2", "MASKMODE1,DI2,FG3", "", ""},
+           {"+34600100200", "34-600", "", "bad-telephone"},
+           {"+34600100200", "12", "", "bad-telephone"},
+       }) {
+    World world;
+    world.files.contents["/a.ocf"] = Sound();
+    world.Edit("/a.ocf", one.from, one.to);
+    EXPECT_EQ(world.Run("check /a.ocf --json" + one.options), one.code) << one.to;
+    const QJsonArray findings = world.Json().object()["findings"].toArray();
+    EXPECT_EQ(findings.size(), one.rule.empty() ? 0 : 1) << one.to << '\n' << world.out;
+    if (findings.empty() || one.rule.empty()) continue;
+    EXPECT_EQ(findings[0].toObject()["rule"].toString().toStdString(), one.rule) << one.to;
+    EXPECT_EQ(findings[0].toObject()["severity"].toString().toStdString(),
+              one.code == 1 ? "error" : "warning");
+    EXPECT_EQ(world.Run("check /a.ocf" + one.options + " --silence " + one.rule), 0);
+    EXPECT_EQ(world.out, "") << "a rule can be silenced";
+  }
+}
+
+TEST(Check, FindsNothingInWhatASimulatedLoggerHolds) {
+  for (const std::string model : {"KA1", "KA2", "VR200", "S100", "BP", "BQ"}) {
+    World world;
+    world.HaveFile("/a.ocf", model);
+    EXPECT_EQ(world.Run("check /a.ocf --features ffffffff"), 0) << model;
+    EXPECT_EQ(world.out, "") << model;
+  }
+}
+
+TEST(Check, SaysWhereAndWhatHelps) {
+  World world;
+  world.files.contents["/a.ocf"] = Sound();
+  world.Edit("/a.ocf", "Bomba", "Bomba, sur");
+  EXPECT_EQ(world.Run("check /a.ocf"), 1);
+  EXPECT_EQ(world.out,
+            "error: [GENERAL] NOMBRE: a comma ends the text on the line: write something else for "
+            "it (text-breaks-statement)\n");
+}
+
+}  // namespace
+}  // namespace ostrel::cli

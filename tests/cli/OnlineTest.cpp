@@ -1,0 +1,235 @@
+#include "cli/World.h"
+
+namespace ostrel::cli {
+namespace {
+
+using testing::HasSubstr;
+using testing::Not;
+
+TEST(Online, ShowsWhoTheLoggerIs) {
+  World world;
+  EXPECT_EQ(world.Run("info --port sim:VR200"), 0);
+  EXPECT_THAT(world.out, HasSubstr("model      Ostrel VR200\n"));
+  EXPECT_THAT(world.out, HasSubstr("firmware   4.12\n"));
+  EXPECT_THAT(world.out, HasSubstr("clock      2026-03-02 09:05:"));
+  EXPECT_EQ(world.err, "");
+  EXPECT_EQ(world.Run("info --port sim:VR200 --json"), 0);
+  const QJsonObject info = world.Json().object();
+  EXPECT_EQ(info["firmware"].toString().toStdString(), "4.12");
+  EXPECT_EQ(info["serial"].toString().toStdString(), world.Logger().Options().serial);
+  EXPECT_EQ(info["port"].toString().toStdString(), "COM253 (sim:VR200)");
+}
+
+TEST(Online, ReadsAndSetsTheClock) {
+  World world;
+  world.Logger().SetClock({2026, 3, 2, 8, 0, 0});
+  EXPECT_EQ(world.Run("clock --port sim:VR200"), 0);
+  EXPECT_THAT(world.err, HasSubstr("no (--yes answers yes)")) << "the session offers to set it";
+  EXPECT_THAT(world.out, HasSubstr("logger     2026-03-02 08:00:0"));
+  EXPECT_EQ(world.Run("clock --set --quiet --json --port sim:VR200"), 0);
+  EXPECT_EQ(world.err, "");
+  EXPECT_LE(std::abs(world.Json().object()["secondsAhead"].toInt(99)), 1);
+  EXPECT_EQ(world.Logger().Clock().hour, 9);
+}
+
+TEST(Online, AnswersTheClockQuestionAsTheOperatorDoes) {
+  World world;
+  std::vector<std::string> asked;
+  world.environment.ask = [&](std::string_view prompt, bool) {
+    asked.emplace_back(prompt);
+    return asked.size() == 1 ? "n" : "y";
+  };
+  for (const int hour : {8, 9}) {
+    world.Logger().SetClock({2026, 3, 2, 8, 0, 0});
+    EXPECT_EQ(world.Run("info --port sim:VR200"), 0);
+    EXPECT_EQ(world.Logger().Clock().hour, hour);
+  }
+  ASSERT_EQ(asked.size(), 2U);
+  EXPECT_THAT(asked[0], HasSubstr("Ostrel VR200: Parece que la hora"));
+}
+
+TEST(Online, ShowsLiveValues) {
+  World world;
+  EXPECT_EQ(world.Run("live --port sim:VR200"), 0);
+  EXPECT_THAT(world.out, testing::ContainsRegex("digital inputs [01]{8}\n"));
+  EXPECT_THAT(world.out, HasSubstr("MODBUS channel 31 "));
+  EXPECT_EQ(world.Run("live --port sim:BQ --json"), 0);
+  const QJsonObject live = world.Json().object();
+  EXPECT_EQ(live["digital"].toArray().size(), 4);
+  EXPECT_EQ(live["analog"].toArray().size(), 1);
+  EXPECT_EQ(live["flows"].toArray().size(), 2);
+  EXPECT_EQ(live["modbus"].toArray().size(), 0);
+}
+
+TEST(Online, WatchesUntilInterrupted) {
+  World world;
+  world.loop.After(std::chrono::seconds(10), "interrupt", [&] { world.environment.onInterrupt(); });
+  EXPECT_EQ(world.Run("live --watch --json --port sim:KA1"), 0);
+  std::istringstream lines(world.out);
+  int count = 0;
+  for (std::string line; std::getline(lines, line); ++count)
+    EXPECT_TRUE(QJsonDocument::fromJson(QByteArray::fromStdString(line)).isObject()) << line;
+  EXPECT_THAT(count, testing::AllOf(testing::Ge(5), testing::Le(10)));
+  EXPECT_EQ(world.err, "");
+}
+
+TEST(Online, SetsOutputsAndTotals) {
+  World world;
+  EXPECT_EQ(world.Run("output 2 on --port sim:VR200"), 0);
+  EXPECT_EQ(world.out, "output 2 set on\n");
+  EXPECT_EQ(world.Logger().Outputs(), 4U);
+  EXPECT_EQ(world.Run("output 2 off --port sim:VR200 --json"), 0);
+  EXPECT_EQ(world.Logger().Outputs(), 0U);
+  EXPECT_FALSE(world.Json().object()["on"].toBool(true));
+  EXPECT_EQ(world.Run("total 3 123456 --port sim:VR200"), 0) << world.err;
+  EXPECT_EQ(std::stoi(world.out) / 100, 1234);
+  EXPECT_EQ(world.Run("total 3 --port sim:VR200 --json"), 0);
+  EXPECT_FALSE(world.Json().object()["set"].toBool(true));
+}
+
+TEST(Online, KeepsASimulatedLoggerInAFileWhenToldTo) {
+  World world;
+  EXPECT_EQ(world.Run("output 1 on --port sim:KA1 --sim-state /ka1.state"), 0);
+  World next;
+  next.files.contents = world.files.contents;
+  EXPECT_EQ(next.Run("info --port sim:KA1 --sim-state /ka1.state"), 0) << next.err;
+  EXPECT_EQ(next.Logger(sim::Model::KA1).Outputs(), 2U);
+  EXPECT_EQ(next.Run("info --port sim:KA2 --sim-state /ka1.state"), 5) << "another model's";
+  next.files.FailOperation(VirtualFiles::Change::Write, 1);
+  EXPECT_EQ(next.Run("info --port sim:KA1 --sim-state /ka1.state"), 5);
+  EXPECT_THAT(next.err, HasSubstr("cannot write /ka1.state"));
+}
+
+TEST(Online, SavesADownloadWhole) {
+  World world;
+  EXPECT_EQ(world.Run("download /new.ocf --port sim:VR200"), 0);
+  EXPECT_TRUE(world.files.contents["/new.ocf"].starts_with("[General]\r\nVERSION=VR200\r\n") ||
+              world.files.contents["/new.ocf"].find("VERSION=VR200") != std::string::npos);
+  EXPECT_EQ(world.out, "");
+  EXPECT_THAT(world.err, HasSubstr("saved to /new.ocf"));
+  EXPECT_EQ(world.Run("download /new.ocf --port sim:KA1 --json"), 0) << "replaces what stands";
+  EXPECT_EQ(world.Json().object()["model"].toString().toStdString(), "Ostrel KA1");
+  EXPECT_THAT(world.files.contents["/new.ocf"], HasSubstr("VERSION=OSTREL_KA1"));
+  EXPECT_EQ(world.files.contents.size(), 1U) << "nothing else is left";
+}
+
+TEST(Online, LeavesNothingBehindAFailedDownload) {
+  struct Failure {
+    std::string fault;
+    std::string says;
+  };
+  for (const Failure& failure : std::vector<Failure>{
+           {"silent-after-record@5", "the logger fell silent at record 6"},
+           {"bad-checksum@9", ""},
+           {"vanish@20", "COM253 (sim:VR200) has gone"},
+       }) {
+    World world(WithFaults({failure.fault}));
+    world.files.contents["/old.ocf"] = "old";
+    for (const std::string path : {"/old.ocf", "/new.ocf"}) {
+      const int code = world.Run("download " + path + " --port sim:VR200");
+      EXPECT_THAT(code, testing::AnyOf(3, 4)) << failure.fault;
+      EXPECT_NE(world.err, "");
+      EXPECT_TRUE(path != "/old.ocf" || world.err.find(failure.says) != std::string::npos)
+          << world.err;
+      world.simulated.Port().Restore(253);
+    }
+    EXPECT_EQ(world.files.contents.size(), 1U) << failure.fault;
+    EXPECT_EQ(world.files.contents["/old.ocf"], "old") << failure.fault;
+  }
+}
+
+TEST(Online, TellsAnUnwritableFileBeforeTheLoggerIsKeptBusy) {
+  World world;
+  world.files.FailOperation(VirtualFiles::Change::Create, 1);
+  EXPECT_EQ(world.Run("download /new.ocf --port sim:VR200"), 5);
+  EXPECT_EQ(world.loop.Now(), TimePoint{});
+  world.files.Heal();
+  world.files.FailOperation(VirtualFiles::Change::Rename, 1);
+  EXPECT_EQ(world.Run("download /new.ocf --port sim:VR200"), 5);
+  EXPECT_TRUE(world.files.contents.empty());
+}
+
+TEST(Online, AnInterruptEndsADownloadAndSaysHowTheLoggerStands) {
+  World world;
+  world.environment.errIsTerminal = true;
+  world.simulated.Port().SetPaced(true);
+  world.loop.After(std::chrono::seconds(6), "interrupt", [&] { world.environment.onInterrupt(); });
+  EXPECT_EQ(world.Run("download /new.ocf --port sim:VR200"), 4);
+  EXPECT_THAT(world.err, HasSubstr("\r\x1b[Kostrelctl: interrupted; the logger's configuration is "
+                                   "unchanged\n"));
+  EXPECT_TRUE(world.files.contents.empty());
+  EXPECT_FALSE(world.simulated.Port().PortOpen());
+  EXPECT_LT(world.loop.Now(), std::chrono::milliseconds(6100));
+  EXPECT_EQ(world.environment.onInterrupt, nullptr);
+}
+
+TEST(Online, SaysWhyAPortDoesNotOpen) {
+  World world;
+  for (const auto& [fault, says] : std::vector<std::pair<PortFault, std::string>>{
+           {PortFault::NoPermission, "usermod -aG dialout"},
+           {PortFault::Busy, "in use by another program"},
+           {PortFault::Failed, "cannot be opened as a serial port"}}) {
+    world.simulated.Port().SetOpenFault(253, fault);
+    EXPECT_EQ(world.Run("info --port sim:VR200"), 3);
+    EXPECT_THAT(world.err, HasSubstr(says));
+  }
+  World mute(WithFaults({"silent"}));
+  EXPECT_EQ(mute.Run("info --port sim:VR200"), 3);
+  EXPECT_THAT(mute.err, HasSubstr("no logger answers at COM253"));
+}
+
+TEST(Online, ShowsProgressWithTheTimeThatRemainsOnATerminalAlone) {
+  World world;
+  world.simulated.Port().SetPaced(true);
+  EXPECT_EQ(world.Run("download /a.ocf --port sim:VR200"), 0);
+  EXPECT_THAT(world.err, Not(HasSubstr("left")));
+  world.environment.errIsTerminal = true;
+  EXPECT_EQ(world.Run("download /a.ocf --quiet --port sim:VR200"), 0);
+  EXPECT_EQ(world.err, "");
+  EXPECT_EQ(world.Run("download /a.ocf --port sim:VR200"), 0);
+  EXPECT_THAT(world.err, testing::ContainsRegex("download \\[#+ *\\] [0-9]+%, 0:[0-9]+ left"));
+  EXPECT_EQ(world.out, "");
+}
+
+TEST(Online, TracesTheLineWithItsPrefixes) {
+  World world;
+  std::ostringstream trace;
+  world.environment.openLog = [&](const std::string& path) -> std::unique_ptr<std::ostream> {
+    if (path != "/trace.txt") return nullptr;
+    return std::make_unique<std::ostream>(trace.rdbuf());
+  };
+  EXPECT_EQ(world.Run("info --port sim:VR200 --trace /trace.txt"), 0);
+  EXPECT_THAT(trace.str(), HasSubstr(" TxSer: #40\n"));
+  EXPECT_THAT(trace.str(), HasSubstr(" RxSer: #BF"));
+  EXPECT_EQ(world.Run("info --port sim:VR200 --trace /forbidden"), 5);
+}
+
+/// A logger behind a modem.
+SimulatedLoggers::MakeOptions Behind(std::string code) {
+  return [code](sim::Model model) {
+    sim::LoggerOptions options = sim::MakeDefaultOptions(model);
+    options.modem = true;
+    options.accessCode = code;
+    return options;
+  };
+}
+
+TEST(Online, GivesTheAccessCodeOnceFromTheOptionsOrAsksForIt) {
+  World world(Behind("4711"));
+  EXPECT_EQ(world.Run("info --port sim:VR200 --phone 600100200 --code 4711"), 0) << world.err;
+  EXPECT_EQ(world.Run("info --port sim:VR200 --phone 600100200 --code 1"), 3);
+  EXPECT_THAT(world.err, HasSubstr("did not accept the access code"));
+  EXPECT_EQ(world.Run("info --port sim:VR200 --phone 600100200"), 3);
+  EXPECT_THAT(world.err, HasSubstr("--code gives one"));
+  int asked = 0;
+  world.environment.ask = [&](std::string_view prompt, bool echo) {
+    EXPECT_FALSE(echo);
+    EXPECT_THAT(std::string(prompt), HasSubstr("Introduzca la clave de acceso:"));
+    return ++asked < 3 ? "99" : "4711";
+  };
+  EXPECT_EQ(world.Run("info --port sim:VR200 --phone 600100200"), 0) << world.err;
+  EXPECT_EQ(asked, 3);
+}
+
+}  // namespace
+}  // namespace ostrel::cli

@@ -1,0 +1,133 @@
+#include <fstream>
+
+#include "cli/Console.h"
+#include "cli/Fields.h"
+#include "cli/Json.h"
+#include "cli/LoggerText.h"
+#include "cli/Progress.h"
+#include "cli/SimOptions.h"
+#include "cli/World.h"
+#include "shell/LangSeed.h"
+
+namespace ostrel::cli {
+namespace {
+
+using testing::HasSubstr;
+
+TEST(Json, WritesNestedValuesAndEscapes) {
+  const auto write = [](JsonWriter::Layout layout) {
+    std::ostringstream out;
+    JsonWriter json(out, layout);
+    json.Object([&] {
+      json.Member("text", "a\"\\\n\x01\x7F\xC3\xB3\xFF");
+      json.Member("float", 0.1F);
+      json.Member("none", std::numeric_limits<double>::quiet_NaN());
+      json.Member("least", std::numeric_limits<std::int64_t>::min());
+      json.ArrayMember("empty", [] {});
+      json.ArrayMember("list", [&] {
+        json.Value(true);
+        json.Object([] {});
+      });
+    });
+    return out.str();
+  };
+  EXPECT_EQ(write(JsonWriter::Layout::OneLine),
+            "{\"text\":\"a\\\"\\\\\\n\\u0001\\u007f\xC3\xB3\xEF\xBF\xBD\",\"float\":0.1,"
+            "\"none\":null,\"least\":-9223372036854775808,\"empty\":[],\"list\":[true,{}]}");
+  const std::string indented = write(JsonWriter::Layout::Indented);
+  EXPECT_THAT(indented, HasSubstr("  \"list\": [\n    true,\n    {}\n  ]\n}"));
+  EXPECT_TRUE(QJsonDocument::fromJson(QByteArray::fromStdString(indented)).isObject());
+}
+
+TEST(Texts, OfNumbersAndNames) {
+  EXPECT_EQ(VersionText(123), "1.23");
+  EXPECT_EQ(FeaturesText(-1), "0xffffffff");
+  EXPECT_EQ(ReadFeatures("0x80000000"), std::numeric_limits<std::int32_t>::min());
+  for (const std::string_view wrong : {"", "0x", "g", "1 ", "100000000"})
+    EXPECT_EQ(ReadFeatures(wrong), std::nullopt) << wrong;
+  EXPECT_EQ(ClockText({2026, 3, 2, 9, 5, 7}), "2026-03-02 09:05:07");
+  EXPECT_EQ(DurationText(std::chrono::milliseconds(64'001)), "1:05");
+  EXPECT_EQ(DurationText(std::chrono::hours(2)), "2:00:00");
+  EXPECT_EQ(Printable("a\x1B\xC3\xB3\xFF"), "a\\x1b\xC3\xB3\\xff");
+  const NumberedName list = SplitName("ACTHI( 1 12)");
+  EXPECT_EQ(list.word, "ACTHI");
+  EXPECT_EQ(list.numbers, (std::vector<int>{1, 12}));
+  EXPECT_EQ(SplitName("1WIRE 3").word, "1WIRE");
+  EXPECT_EQ(SplitName("GENERAL").numbers.size(), 0U);
+  EXPECT_EQ(SectionWords("NUEVO 3"), "NUEVO 3") << "a record needs no words of its own";
+  EXPECT_EQ(KeyWords("NUEVO( 0)"), "");
+}
+
+TEST(LangSeed, MakesTheWorkingCopyAndBringsWhatIsNew) {
+  VirtualFiles files;
+  EXPECT_EQ(SeedLang(files, "/s/Lang.txt", "/u/Lang.txt"), "/u/Lang.txt");
+  EXPECT_TRUE(files.contents.empty()) << "no installed table, no copy";
+  files.contents["/s/Lang.txt"] = "{ES}{EN}\r\n{Uno}{One}\r\n";
+  SeedLang(files, "/s/Lang.txt", "/u/Lang.txt");
+  EXPECT_EQ(files.contents["/u/Lang.txt"], files.contents["/s/Lang.txt"]);
+  files.contents["/u/Lang.txt"] = "{ES}{EN}\r\n{Uno}{Mine}\r\n{Dos}\r\n\r\n";
+  files.contents["/s/Lang.txt"] = "{ES}{EN}\r\n{Uno}{One}\r\n{Dos}{Two}\r\n{Tres}{Three}\r\n";
+  SeedLang(files, "/s/Lang.txt", "/u/Lang.txt");
+  EXPECT_EQ(files.contents["/u/Lang.txt"],
+            "{ES}{EN}\r\n{Uno}{Mine}\r\n{Dos}{Two}\r\n\r\n{Tres}{Three}\r\n");
+  const std::size_t changes = files.log.size();
+  SeedLang(files, "/s/Lang.txt", "/u/Lang.txt");
+  EXPECT_EQ(files.log.size(), changes) << "a copy that is up to date is left alone";
+}
+
+TEST(LangSeed, NeverOverfillsTheTable) {
+  VirtualFiles files;
+  std::string rows;
+  for (int row = 0; row < 399; ++row) rows += "{own " + std::to_string(row) + "}\r\n";
+  files.contents["/u/Lang.txt"] = rows;
+  files.contents["/s/Lang.txt"] = "{ES}{EN}\r\n{Uno}{One}\r\n{Dos}{Two}\r\n";
+  SeedLang(files, "/s/Lang.txt", "/u/Lang.txt");
+  Lang lang(files, "/u/Lang.txt");
+  EXPECT_TRUE(lang.Init());
+  EXPECT_LE(lang.LangCount(), 400);
+}
+
+TEST(SimOptions, AreReadOrRefusedInOneLine) {
+  const auto parse = [](std::vector<std::string> args, SimOptions& options, std::string& said) {
+    std::ostringstream out, err;
+    ExitCode code = ExitCode::Done;
+    const bool goesOn = ParseSimOptions(args, options, out, err, code);
+    said = err.str() + out.str();
+    return goesOn ? -1 : static_cast<int>(code);
+  };
+  SimOptions options;
+  std::string said;
+  EXPECT_EQ(parse({"--model", "ka2", "--features", "401", "--pace", "--modem", "--code", "77",
+                   "--fault", "silent", "--fault", "drop-octet@3!once", "--seed", "9"},
+                  options, said),
+            -1);
+  EXPECT_EQ(options.logger.model, sim::Model::KA2);
+  EXPECT_EQ(options.logger.features, 0x401U);
+  EXPECT_EQ(options.logger.faults.size(), 2U);
+  EXPECT_EQ(options.logger.accessCode, "77");
+  EXPECT_TRUE(options.isPaced && options.logger.modem);
+  for (const auto& [words, says] : std::vector<std::pair<std::vector<std::string>, std::string>>{
+           {{"--model", "X"}, "there is no model X"},
+           {{"--features", "x"}, "no hexadecimal mask"},
+           {{"--fault", "fly"}, "fault fly: "},
+           {{"--nonsense"}, "--nonsense"}}) {
+    SimOptions other;
+    EXPECT_EQ(parse(words, other, said), 2);
+    EXPECT_THAT(said, HasSubstr(says));
+    EXPECT_EQ(std::ranges::count(said, '\n'), 1);
+  }
+  EXPECT_EQ(parse({"--help"}, options, said), 0);
+  EXPECT_THAT(said, HasSubstr("refuse-statement"));
+}
+
+TEST(SimOptions, AnExchangeIsOneLine) {
+  EXPECT_EQ(ExchangeLine({.at = std::chrono::milliseconds(1042),
+                          .request = "#42",
+                          .reply = "#BD000DNAME,Dep\xF3sito",
+                          .frames = 3,
+                          .note = "all"}),
+            "1.042  #42 -> #BD000DNAME,Dep\xC3\xB3sito and 2 more  (all)");
+}
+
+}  // namespace
+}  // namespace ostrel::cli

@@ -1,0 +1,180 @@
+#include "cli/UploadPlan.h"
+#include "cli/World.h"
+
+namespace ostrel::cli {
+namespace {
+
+using testing::HasSubstr;
+using testing::Not;
+
+TEST(Upload, WritesVerifiesAndKeepsTheFormerConfiguration) {
+  World world;
+  world.HaveFile("/a.ocf");
+  const std::string former = world.files.contents["/a.ocf"];
+  world.SetKey("/a.ocf", "General", "NOMBRE", "Dep\xF3sito sur");
+  EXPECT_EQ(world.Run("upload /a.ocf --port sim:VR200"), 0) << world.err;
+  EXPECT_EQ(world.Logger().Conf().name, "Dep\xF3sito sur");
+  EXPECT_THAT(world.err, HasSubstr("configuration written and verified"));
+  const std::string backup =
+      "/home/user/data/backups/" + world.Logger().Options().serial + "-20260302-0905";
+  ASSERT_EQ(world.Backups(), 1U);
+  const auto found = world.files.contents.lower_bound(backup);
+  EXPECT_TRUE(found->first.starts_with(backup)) << found->first;
+  EXPECT_EQ(found->second, former);
+}
+
+TEST(Upload, LeavesOutWhatItIsToldTo) {
+  World world;
+  world.HaveFile("/a.ocf");
+  int downloads = 0;
+  world.Logger().OnExchange(
+      [&](const sim::Exchange& exchange) { downloads += exchange.request == "#42" ? 1 : 0; });
+  EXPECT_EQ(world.Run("upload /a.ocf --no-backup --no-verify --json --port sim:VR200"), 0);
+  EXPECT_EQ(downloads, 0);
+  EXPECT_EQ(world.Backups(), 0U);
+  const QJsonObject result = world.Json().object();
+  EXPECT_TRUE(result["backup"].isNull());
+  EXPECT_TRUE(result["verified"].isNull());
+  EXPECT_GT(result["statements"].toInt(), 20);
+}
+
+TEST(Upload, FindsThatTheLoggerHoldsSomethingElse) {
+  World world;
+  world.HaveFile("/a.ocf");
+  world.SetKey("/a.ocf", "General", "NOMBRE", "Nuevo");
+  world.Logger().OnExchange([&](const sim::Exchange& exchange) {
+    if (!exchange.request.starts_with("#46")) return;
+    sim::Configuration conf = world.Logger().Conf();
+    conf.name = "Otro";
+    world.Logger().SetConf(conf);
+  });
+  EXPECT_EQ(world.Run("upload /a.ocf --port sim:VR200"), 1);
+  EXPECT_THAT(world.out, HasSubstr("NOMBRE (name): \"Nuevo\" -> \"Otro\"\n"));
+  EXPECT_THAT(world.err, HasSubstr("holds another configuration than was sent"));
+  EXPECT_EQ(world.Run("upload /a.ocf --json --port sim:VR200"), 1);
+  const QJsonObject result = world.Json().object();
+  EXPECT_FALSE(result["verified"].toBool(true));
+  EXPECT_EQ(result["differences"].toArray()[0].toObject()["after"].toString().toStdString(),
+            "\"Otro\"");
+}
+
+TEST(Upload, AStaleNotificationDoesNotHideAtTheVerification) {
+  World world;
+  world.HaveFile("/a.ocf");
+  world.SetKey("/a.ocf", "DIGITAL 0", "HABIL( 0)", "True");
+  world.SetKey("/a.ocf", "DIGITAL 0", "GPRS( 0)", "True");
+  world.Logger().OnExchange([&](const sim::Exchange& exchange) {
+    if (!exchange.request.starts_with("#46")) return;
+    sim::Configuration conf = world.Logger().Conf();
+    conf.digitals[0].alarms[0].notify &= ~sim::kNotifyGprs;
+    world.Logger().SetConf(conf);
+  });
+  EXPECT_EQ(world.Run("upload /a.ocf --no-backup --port sim:VR200"), 1) << world.err;
+  EXPECT_THAT(world.out, HasSubstr("GPRS( 0) (alarm 0, notify by GPRS): yes -> no\n"));
+}
+
+/// A fault of the logger and what the failed upload says of it.
+struct Failure {
+  std::string fault;
+  std::string says;
+};
+
+TEST(Upload, SaysWhyItFailedAndHowTheLoggerStands) {
+  for (const Failure& failure : std::vector<Failure>{
+           {"refuse-statement@3", "refused statement 3: \"REST="},
+           {"refuse-statement@3", "the logger's former configuration stays in force"},
+           {"wrong-closing", "did not take the configuration over"},
+           {"wrong-closing", "read it back"},
+           {"silent-after-statement@4", "read it back"},
+       }) {
+    World world(WithFaults({failure.fault}));
+    const sim::Configuration former = world.Logger().Conf();
+    world.HaveFile("/a.ocf");
+    world.SetKey("/a.ocf", "General", "NOMBRE", "Nuevo");
+    EXPECT_EQ(world.Run("upload /a.ocf --port sim:VR200"), 4) << failure.fault;
+    EXPECT_THAT(world.err, HasSubstr(failure.says)) << failure.fault;
+    EXPECT_EQ(world.Logger().Conf(), former) << failure.fault;
+    EXPECT_EQ(world.Backups(), 1U);
+  }
+}
+
+TEST(Upload, DoesNotBeginWithoutItsSafetyCopy) {
+  World world;
+  world.HaveFile("/a.ocf");
+  for (const auto change : {VirtualFiles::Change::MakeFolder, VirtualFiles::Change::Write}) {
+    world.files.FailOperation(change, 1);
+    EXPECT_EQ(world.Run("upload /a.ocf --port sim:VR200"), 5);
+    EXPECT_EQ(world.Logger().UploadsTaken(), 0U);
+  }
+}
+
+TEST(Upload, AnInterruptSaysHowTheLoggerStands) {
+  World world;
+  world.HaveFile("/a.ocf");
+  bool atClosing = false;
+  world.Logger().OnExchange([&](const sim::Exchange& exchange) {
+    const std::string_view at = atClosing ? "#46" : "#45010";
+    if (exchange.request.starts_with(at) && world.environment.onInterrupt)
+      world.environment.onInterrupt();
+  });
+  EXPECT_EQ(world.Run("upload /a.ocf --no-backup --port sim:VR200"), 4);
+  EXPECT_THAT(world.err,
+              HasSubstr("interrupted; the logger's former configuration stays in force"));
+  EXPECT_EQ(world.Logger().UploadsTaken(), 0U);
+  atClosing = true;
+  EXPECT_EQ(world.Run("upload /a.ocf --no-backup --port sim:VR200"), 4);
+  EXPECT_THAT(world.err, HasSubstr("interrupted; whether the logger has taken"));
+}
+
+TEST(Upload, AsksBeforeItSendsTheFileOfAnotherModel) {
+  World world;
+  world.HaveFile("/ka1.ocf", "KA1");
+  EXPECT_EQ(world.Run("upload /ka1.ocf --port sim:VR200"), 5);
+  EXPECT_THAT(world.err, HasSubstr("es de un modelo distinto"));
+  EXPECT_THAT(world.err, HasSubstr("/ka1.ocf is for another model"));
+  EXPECT_EQ(world.Logger().UploadsTaken(), 0U);
+  EXPECT_EQ(world.Run("upload /ka1.ocf --dry-run --yes --port sim:VR200"), 0);
+}
+
+TEST(Upload, ADryRunSendsNothingAndTellsItsTime) {
+  World world;
+  world.HaveFile("/a.ocf");
+  EXPECT_EQ(world.Run("statements /a.ocf --features 10000"), 0);
+  const std::string statements = world.out;
+  EXPECT_EQ(world.Run("upload /a.ocf --dry-run --features 10000"), 0);
+  EXPECT_TRUE(world.out.starts_with(statements)) << world.out;
+  EXPECT_THAT(world.out, HasSubstr(" statements, "));
+  EXPECT_EQ(world.Run("upload /a.ocf --dry-run --json --port sim:VR200"), 0);
+  const QJsonObject plan = world.Json().object();
+  const double seconds = plan["octets"].toDouble() / 960 + plan["statements"].toInt() * 0.01;
+  EXPECT_NEAR(plan["seconds"].toDouble(), seconds, 1e-3);
+  EXPECT_EQ(plan["statementTexts"].toArray().size(), plan["statements"].toInt());
+  EXPECT_EQ(world.Logger().UploadsTaken(), 0U);
+}
+
+TEST(UploadPlan, CountsFramesAndWindows) {
+  // "#xx;45000ID=A\r" and "#xx;46001\r"
+  const UploadPlan slow = PlanUpload({"ID=A"}, 0);
+  EXPECT_EQ(slow.octets, 14U + 10U);
+  EXPECT_EQ(slow.duration, std::chrono::milliseconds(25 + 200));
+  EXPECT_EQ(PlanUpload({"ID=A"}, 0x400).duration, std::chrono::milliseconds(25 + 10));
+  EXPECT_EQ(PlanUpload({"ID=\xC3\xB3"}, 0).octets, 14U + 10U) << "one octet a character";
+}
+
+TEST(Upload, TakesAboutTheTimeThatItsDryRunTells) {
+  World world;
+  world.HaveFile("/a.ocf");
+  world.simulated.Port().SetPaced(true);
+  EXPECT_EQ(world.Run("upload /a.ocf --dry-run --json --port sim:VR200"), 0);
+  const double told = world.Json().object()["seconds"].toDouble();
+  TimePoint first{}, last{};
+  world.Logger().OnExchange([&](const sim::Exchange& exchange) {
+    if (exchange.request.starts_with("#45000")) first = exchange.at;
+    if (exchange.request.starts_with("#46")) last = exchange.at;
+  });
+  EXPECT_EQ(world.Run("upload /a.ocf --no-backup --no-verify --port sim:VR200"), 0);
+  EXPECT_NEAR(std::chrono::duration<double>(last - first).count(), told, told * 0.03);
+}
+
+}  // namespace
+}  // namespace ostrel::cli

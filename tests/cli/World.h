@@ -1,0 +1,118 @@
+#pragma once
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <QByteArray>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <initializer_list>
+#include <sstream>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "cli/Ostrelctl.h"
+#include "cli/SimulatedLoggers.h"
+#include "platform/virtual/VirtualClock.h"
+#include "platform/virtual/VirtualFiles.h"
+#include "platform/virtual/VirtualLoop.h"
+#include "platform/virtual/VirtualProcesses.h"
+#include "platform/virtual/VirtualSettings.h"
+
+namespace ostrel::cli {
+
+/// Makes options of the simulated loggers with these faults.
+inline SimulatedLoggers::MakeOptions WithFaults(std::vector<std::string> faults) {
+  return [faults = std::move(faults)](sim::Model model) {
+    sim::LoggerOptions options = sim::MakeDefaultOptions(model);
+    for (const std::string& text : faults) {
+      std::string error;
+      options.faults.push_back(sim::ParseFault(text, error).value());
+    }
+    return options;
+  };
+}
+
+/// A shell in memory: the command line on virtual time with six simulated loggers and its own
+/// files. Loggers and files live on from one command to the next.
+class World {
+ public:
+  explicit World(const SimulatedLoggers::MakeOptions& makeOptions = sim::MakeDefaultOptions)
+      : simulated(loop, clock, makeOptions) {}
+
+  VirtualLoop loop;
+  VirtualClock clock{{2026, 3, 2, 9, 5, 7}, loop};
+  VirtualFiles files;
+  VirtualSettings settings;
+  VirtualProcesses processes;
+  SimulatedLoggers simulated;
+  std::ostringstream outStream, errStream;
+  Environment environment{.loop = loop,
+                          .port = simulated.Port(),
+                          .settings = settings,
+                          .files = files,
+                          .processes = processes,
+                          .clock = clock,
+                          .simulated = simulated,
+                          .out = outStream,
+                          .err = errStream,
+                          .errIsTerminal = false,
+                          .ask = {},
+                          .dataFolder = "/home/user/data",
+                          .shippedLang = "/share/Lang.txt",
+                          .numberOfDevice = [](const std::string&) { return 0; },
+                          .openLog = {},
+                          .onInterrupt = {}};
+
+  std::string out, err;  ///< of the last command
+
+  /// Runs a command line whose words are separated by blanks; gives the exit code.
+  int Run(const std::string& line) {
+    std::vector<std::string> args;
+    std::istringstream words(line);
+    for (std::string word; words >> word;) args.push_back(word);
+    outStream.str("");
+    errStream.str("");
+    const ExitCode code = RunOstrelctl(args, environment);
+    out = outStream.str();
+    err = errStream.str();
+    return static_cast<int>(code);
+  }
+  /// What the last command wrote as JSON; a null document when that is none.
+  QJsonDocument Json() const { return QJsonDocument::fromJson(QByteArray::fromStdString(out)); }
+
+  sim::Logger& Logger(sim::Model model = sim::Model::VR200) { return simulated.LoggerOf(model); }
+
+  /// Puts a file there that holds what a simulated logger holds.
+  void HaveFile(const std::string& path, const std::string& model = "VR200") {
+    ASSERT_EQ(Run("download " + path + " --port sim:" + model), 0) << err;
+  }
+  /// Replaces the first occurrence of a text in a file.
+  void Edit(const std::string& path, std::string_view from, std::string_view to) {
+    std::string& text = files.contents.at(path);
+    const std::size_t at = text.find(from);
+    ASSERT_NE(at, std::string::npos) << from << " stands nowhere in\n" << text;
+    text.replace(at, from.size(), to);
+  }
+  /// Sets a key of a section, which must be there.
+  void SetKey(const std::string& path, const std::string& section, const std::string& key,
+              const std::string& value) {
+    std::string& text = files.contents.at(path);
+    const std::size_t head = text.find("[" + section + "]\r\n");
+    ASSERT_NE(head, std::string::npos) << section;
+    const std::size_t at = text.find("\r\n" + key + "=", head);
+    ASSERT_LT(at, text.find("\r\n[", head)) << section << " has no " << key;
+    const std::size_t start = at + 2 + key.size() + 1;
+    text.replace(start, text.find("\r\n", start) - start, value);
+  }
+  std::size_t Backups() const {
+    std::size_t count = 0;
+    for (const auto& [path, octets] : files.contents)
+      count += path.starts_with("/home/user/data/backups/") ? 1U : 0U;
+    return count;
+  }
+};
+
+}  // namespace ostrel::cli
