@@ -1,0 +1,36 @@
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include "desktop/LayoutParts.h"
+#include "desktop/Layouts.h"
+
+namespace ostrel {
+
+void LayOutActEdit(FormView& view) {
+  auto* dialog = new QVBoxLayout(&view);
+  auto* lists = new QGridLayout;
+  lists->addWidget(view.LabelFor("RefList", std::string_view("LabelRef")), 0, 0);
+  lists->addWidget(view.Show("RefList"), 1, 0);
+  auto* moves = new QVBoxLayout;
+  moves->addStretch(1);
+  moves->addWidget(view.Show("AddButton"));
+  moves->addWidget(view.Show("DelButton"));
+  moves->addStretch(1);
+  lists->addLayout(moves, 1, 1);
+  lists->addWidget(view.LabelFor("DeviceList", std::string_view("LabelDevice")), 0, 2);
+  lists->addWidget(view.Show("DeviceList"), 1, 2);
+  lists->setColumnStretch(0, 1);
+  lists->setColumnStretch(2, 1);
+  for (const auto* list : {"RefList", "DeviceList"}) view.Show(list)->setMinimumSize(280, 320);
+  dialog->addLayout(lists, 1);
+  auto* ends = new QHBoxLayout;
+  ends->addStretch(1);
+  ends->addWidget(view.Show("OKButton"));
+  ends->addWidget(view.Show("CancelButton"));
+  view.Show<QPushButton>("OKButton")->setDefault(true);
+  dialog->addLayout(ends);
+}
+
+}  // namespace ostrel

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <QString>
+#include <QWidget>
+#include <string_view>
+#include <vector>
+
+#include "desktop/FormView.h"
+
+namespace ostrel {
+
+/// A threshold box with the window's words for it, for pages whose form has no label.
+struct ThresholdWords {
+  std::string_view control;
+  QString words;  ///< empty where the form has a label of its own, "Label" and the control's name
+};
+
+/// Draws the alarm block that all alarmed pages share: the choice of the configuration, and under
+/// it what raises the alarm, who is told, when it is valid and what it runs.
+QWidget* LayOutAlarmPanel(FormView& view, const std::vector<ThresholdWords>& thresholds);
+
+}  // namespace ostrel

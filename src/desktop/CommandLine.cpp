@@ -1,0 +1,82 @@
+#include "desktop/CommandLine.h"
+
+#include <QCommandLineParser>
+#include <QFileInfo>
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+#include <string_view>
+
+#include "desktop/Words.h"
+#include "model/TargetProfile.h"
+
+namespace ostrel {
+namespace {
+
+constexpr int kUsage = 2;
+
+[[noreturn]] void Refuse(const std::string& words) {
+  std::fprintf(stderr, "ostrel-configurator: %s\n", words.c_str());
+  std::exit(kUsage);
+}
+
+Scheme ReadScheme(const QString& word) {
+  if (word == "light") return Scheme::Light;
+  if (word == "dark") return Scheme::Dark;
+  if (word != "system") Refuse("--scheme is light, dark or system");
+  return Scheme::System;
+}
+
+QSize ReadSize(const QString& text) {
+  const QSize size(text.section(u'x', 0, 0).toInt(), text.section(u'x', 1).toInt());
+  if (size.isEmpty()) Refuse("--size is WIDTHxHEIGHT");
+  return size;
+}
+
+std::string ReadTarget(const QString& name) {
+  if (name.isEmpty()) return {};
+  const TargetModel* model = FindTarget(FromQt(name));
+  if (!model) Refuse("there is no model " + FromQt(name));
+  return std::string(model->name);
+}
+
+}  // namespace
+
+bool WantsPicture(int argc, char** argv) {
+  return std::any_of(argv, argv + argc, [](const char* argument) {
+    return std::string_view(argument).starts_with("--screenshot");
+  });
+}
+
+CommandLine ReadCommandLine(const QStringList& arguments) {
+  QCommandLineParser parser;
+  parser.setApplicationDescription(
+      "Configures telemetry loggers of the Ostrel and Tavro families.");
+  parser.addHelpOption();
+  parser.addVersionOption();
+  parser.addPositionalArgument("FILE", "Configuration file to open.", "[FILE]");
+  parser.addOptions({
+      {"demo", "Put six simulated loggers into the port list, COM251 to COM256."},
+      {"scheme", "Colours: light, dark or system.", "SCHEME", "system"},
+      {"screenshot", "Draw one page into a PNG file, without a display, and end.", "OUT"},
+      {"target", "Model for the picture.", "NAME"},
+      {"page", "Key of the tree's node to draw.", "KEY"},
+      {"language", "Column of the translation table for the picture.", "NUMBER", "1"},
+      {"size", "Size of the picture.", "WIDTHxHEIGHT", "1280x720"},
+  });
+  parser.process(arguments);
+  if (parser.positionalArguments().size() > 1) Refuse("one FILE at the most");
+  CommandLine line;
+  if (!parser.positionalArguments().isEmpty())
+    line.file = FromQt(QFileInfo(parser.positionalArguments().first()).absoluteFilePath());
+  line.target = ReadTarget(parser.value("target"));
+  line.page = FromQt(parser.value("page"));
+  line.screenshot = FromQt(parser.value("screenshot"));
+  line.language = parser.value("language").toInt();
+  line.size = ReadSize(parser.value("size"));
+  line.scheme = ReadScheme(parser.value("scheme"));
+  line.demo = parser.isSet("demo");
+  return line;
+}
+
+}  // namespace ostrel

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QIcon>
+#include <QPixmap>
+#include <QRect>
+
+#include "platform/Dialogs.h"
+
+class QPainter;
+class QPalette;
+
+namespace ostrel {
+
+/// The signs of the tool bar.
+enum class Sign { Open, Save, Recent, Copies, Compare, Trace, Language };
+
+/// A sign drawn in the colours of a palette, sharp at any scale.
+QIcon MakeIcon(Sign sign, const QPalette& palette);
+
+/// The program's own icon.
+QIcon ProgramIcon();
+
+/// The picture of a message box; empty for a box without.
+QPixmap BoxPicture(BoxIcon icon);
+
+/// A triangle with an exclamation mark.
+void DrawWarningSign(QPainter& painter, const QRect& where);
+
+}  // namespace ostrel

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QString>
+#include <initializer_list>
+#include <string_view>
+
+#include "desktop/FormView.h"
+
+namespace ostrel {
+
+/// A titled box that holds a grid.
+struct Card {
+  QGroupBox* box;
+  QGridLayout* grid;
+};
+Card MakeCard(FormView& view, const QString& title);
+
+/// The same for a frame that is a control.
+Card MakeCard(FormView& view, std::string_view frame);
+
+/// Adds a row at the end of a grid: a label and the field beside it, over `columns` columns.
+void AddField(const Card& card, QWidget* label, QWidget* field, int columns = 1);
+
+/// Options of one group in rows of `columns` each, in a box of their own so that the arrow keys
+/// move among them.
+QWidget* OptionBox(FormView& view, std::initializer_list<std::string_view> options, int columns);
+
+/// Widgets side by side, or one below the other, without margins.
+QWidget* Joined(FormView& view, std::initializer_list<QWidget*> widgets,
+                Qt::Orientation orientation = Qt::Horizontal, bool stretchEnd = false);
+
+/// The button that opens the help page.
+QWidget* HelpButton(FormView& view);
+
+/// Makes a box for numbers as narrow as numbers are.
+QWidget* Narrow(QWidget* field, int characters);
+
+}  // namespace ostrel

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <QString>
+#include <functional>
+#include <set>
+
+#include "desktop/FormView.h"
+#include "desktop/Guard.h"
+
+namespace ostrel {
+
+/// What layouts get from the window.
+struct LayoutContext {
+  Guard guard;
+  /// How a row of the port list reads, with the device behind the number.
+  std::function<QString(const ListRow&)> portText;
+  /// Letters that the window around the form uses with Alt.
+  std::set<QChar> takenKeys;
+};
+
+/// Draws any form of the program. A form that has no layout is a broken invariant.
+FormView* MakeView(Form& form, const LayoutContext& context, QWidget* parent = nullptr);
+
+// One layout a form, each in a file of its own. They put the widgets of all controls into `view`.
+void LayOutGeneral(FormView& view, const LayoutContext& context);
+void LayOutDigital(FormView& view);
+void LayOutAnalog(FormView& view);
+void LayOutGrupos(FormView& view);
+void LayOutFlags(FormView& view);
+void LayOutActEdit(FormView& view);
+void LayOutPWForm(FormView& view);
+void LayOutLang(FormView& view);
+void LayOutTargetSelect(FormView& view);
+
+}  // namespace ostrel

@@ -1,0 +1,220 @@
+#include "desktop/MainWindow.h"
+
+#include <QAction>
+#include <QCloseEvent>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QSplitter>
+#include <QStatusBar>
+
+#include "desktop/ConfigurationReader.h"
+#include "desktop/FaultDetails.h"
+#include "desktop/FaultWords.h"
+#include "desktop/Icons.h"
+#include "desktop/Words.h"
+#include "platform/Settings.h"
+#include "shell/Configurator.h"
+
+namespace ostrel {
+namespace {
+
+constexpr Duration kLookInterval = std::chrono::milliseconds(200);
+constexpr int kLooksPerSecond = 5;
+constexpr int kTreeWidth = 230;
+constexpr QSize kFirstSize{1280, 720};
+constexpr std::string_view kApplication = "Quorvane";
+constexpr std::string_view kSection = "Window";
+constexpr std::string_view kPlace = "Place";
+
+}  // namespace
+
+MainWindow::MainWindow(const WindowParts& parts)
+    : parts_(parts),
+      configurator_(parts.configurator),
+      navigation_(parts.navigation),
+      recent_(parts.platform.settings),
+      copies_(parts.platform.files, parts.platform.clock, parts.dataFolder),
+      unsaved_(configurator_, navigation_),
+      transfer_(configurator_, parts.platform.settings),
+      ports_(configurator_.general.Session().Puerto, parts.platform.port, parts.platform.loop,
+             parts.guard),
+      tree_(new TreePane(this)),
+      pages_(new PageArea([this] { return Context(); }, this)),
+      link_(new LinkPanel(this)),
+      trace_(new TraceView(this)) {
+  auto* splitter = new QSplitter(this);
+  splitter->addWidget(tree_);
+  splitter->addWidget(pages_);
+  splitter->setStretchFactor(1, 1);
+  splitter->setSizes({kTreeWidth, kFirstSize.width() - kTreeWidth});
+  splitter->setChildrenCollapsible(false);
+  setCentralWidget(splitter);
+  addDockWidget(Qt::BottomDockWidgetArea, trace_);
+  trace_->hide();
+  statusBar()->addWidget(link_, 1);
+  MakeToolBar();
+  resize(kFirstSize);
+  RestorePlace();
+  setWindowIcon(ProgramIcon());
+  tree_->OnNode = [this](const std::string& key) { parts_.guard([&] { GoTo(key); }); };
+  pages_->OnChanged = [this] {
+    const FormView* front = pages_->Front();
+    if (front && front->GetForm().MousePointer() == Pointer::Hourglass)
+      setCursor(Qt::BusyCursor);
+    else
+      unsetCursor();
+  };
+  configurator_.OnTargetChanged = [this] {
+    const auto translate = [this](std::string_view text) {
+      return configurator_.context.Translate(text);
+    };
+    tree_->SetNodes(BuildNavigationTree(configurator_.profile, translate));
+  };
+  navigation_.OnFrontChanged = [this] {
+    if (following_) ShowFront();
+  };
+  Retranslate();
+}
+
+MainWindow::~MainWindow() {
+  parts_.platform.loop.Cancel(lookTimer_);
+  configurator_.OnTargetChanged = nullptr;
+  configurator_.comms.Trace = nullptr;
+  navigation_.OnFrontChanged = nullptr;
+}
+
+LayoutContext MainWindow::Context() const {
+  return {.guard = parts_.guard,
+          .portText = [this](const ListRow& row) { return ports_.RowText(row); },
+          .takenKeys = {}};
+}
+
+void MainWindow::Follow() {
+  following_ = true;
+  ports_.Start();
+  Retranslate();
+  pages_->Redraw();
+  ShowFront();
+  tree_->Select(configurator_.general.GetForm().Visible() ? "General" : "Tavro");
+  tree_->Tree().setFocus();
+  unsaved_.Keep();
+  Look();
+  lookTimer_ = parts_.platform.loop.Every(kLookInterval, "window",
+                                          [this] { parts_.guard([this] { Look(); }); });
+}
+
+void MainWindow::GoTo(const std::string& key) {
+  const NodeResult result = navigation_.NodeClick(key);
+  tree_->Select(key);
+  if (result == NodeResult::NotBuilt)
+    pages_->ShowEmpty(Words::tr("This page does not exist in this version yet."));
+}
+
+void MainWindow::ShowFront() {
+  Form* front = navigation_.Front();
+  // Pages that stay open come back into sight when nothing else is in front.
+  for (const auto& page : configurator_.Pages())
+    if (!front && page->GetForm().Visible()) front = &page->GetForm();
+  if (!front) return pages_->ShowEmpty({});
+  pages_->ShowForm(*front);
+  ShowFault();
+}
+
+void MainWindow::Look() {
+  const auto now = parts_.platform.loop.Now();
+  link_->ShowState(LinkStateOf(configurator_));
+  if (const auto ended = transfer_.Look(now)) TransferEnded(*ended);
+  ShowTransfer();
+  ShowFault();
+  if (looks_++ % kLooksPerSecond == 0) ShowTitle();
+}
+
+void MainWindow::ShowTransfer() {
+  QString words;
+  if (transfer_.Running()) {
+    const auto left = transfer_.Time().Left(parts_.platform.loop.Now());
+    link_->ShowProgress(transfer_.Time().Done(), transfer_.Time().Steps(), left);
+    if (left) words = Words::tr("%1 left").arg(DurationWords(*left));
+  } else {
+    link_->HideProgress();
+  }
+  const FormView* front = pages_->Front();
+  auto* label = front ? front->findChild<QLabel*>("TimeLeft") : nullptr;
+  if (label && label->text() != words) label->setText(words);
+}
+
+void MainWindow::ShowFault() {
+  const FormView* front = pages_->Front();
+  auto* details = front ? front->findChild<FaultDetails*>("FaultDetails") : nullptr;
+  if (!details) return;
+  const SessionFrame& session = configurator_.general.Session();
+  const std::string& status = session.ComStat.face.Key();
+  const bool failed = status == "Error!" || status == "Comunicacion no iniciada";
+  const QString device = ports_.DeviceOf(session.Puerto.Text());
+  details->SetText(failed ? FaultWords(configurator_.comms.Fault(), device) : QString());
+}
+
+void MainWindow::ShowTitle() {
+  QString title = ToQt(configurator_.MainCaption()) + "[*]";
+  if (!configurator_.ConfFilePath.empty())
+    title = ToQt(configurator_.ConfFilePath).section(u'/', -1) + "[*] - " +
+            ToQt(configurator_.MainCaption());
+  if (windowTitle() != title) setWindowTitle(title);
+  setWindowModified(unsaved_.Changed());
+}
+
+void MainWindow::TransferEnded(LinkState::Kind kind) {
+  if (configurator_.comms.Fault().kind != LinkFault::Kind::None) return;
+  unsaved_.Keep();
+  const FileResult kept = copies_.Keep(configurator_);
+  if (!kept.Ok())
+    statusBar()->showMessage(Words::tr("No safety copy could be kept: %1").arg(ToQt(kept.error)),
+                             10'000);
+  if (kind == LinkState::Kind::Reading) ShowTitle();
+}
+
+bool MainWindow::FileHoldsAll() const {
+  const auto file = ReadConfiguration(parts_.platform, configurator_.profile.TargetName,
+                                      configurator_.ConfFilePath);
+  return file && file->model == configurator_.profile.TargetName &&
+         file->lines == FieldLines(configurator_, configurator_.conf);
+}
+
+bool MainWindow::MayLeave() {
+  if (!unsaved_.Changed()) return true;
+  QMessageBox box(QMessageBox::NoIcon, ToQt(configurator_.profile.TargetName),
+                  Words::tr("The configuration has changes that are neither saved nor sent."),
+                  QMessageBox::NoButton, this);
+  box.setIconPixmap(BoxPicture(BoxIcon::Question));
+  QPushButton* save = box.addButton(Words::tr("&Save"), QMessageBox::AcceptRole);
+  QPushButton* discard =
+      box.addButton(Words::tr("&Leave without saving"), QMessageBox::DestructiveRole);
+  QPushButton* stay = box.addButton(Words::tr("&Cancel"), QMessageBox::RejectRole);
+  box.setDefaultButton(save);
+  box.setEscapeButton(stay);
+  box.exec();
+  if (box.clickedButton() == save) Save();
+  return box.clickedButton() == discard || !unsaved_.Changed();
+}
+
+void MainWindow::RestorePlace() {
+  const std::string place = parts_.platform.settings.Get(kApplication, kSection, kPlace);
+  restoreGeometry(QByteArray::fromBase64(QByteArray::fromStdString(place)));
+}
+
+void MainWindow::KeepPlace() {
+  parts_.platform.settings.Set(kApplication, kSection, kPlace,
+                               saveGeometry().toBase64().toStdString());
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+  event->ignore();
+  parts_.guard([&] {
+    if (!MayLeave()) return;
+    KeepPlace();
+    configurator_.ShutDown();
+    event->accept();
+  });
+}
+
+}  // namespace ostrel

@@ -1,0 +1,108 @@
+#pragma once
+
+#include <QMainWindow>
+#include <QString>
+#include <functional>
+#include <string>
+
+#include "desktop/Icons.h"
+#include "desktop/LinkPanel.h"
+#include "desktop/PageArea.h"
+#include "desktop/PortWatch.h"
+#include "desktop/QtDialogs.h"
+#include "desktop/RecentFiles.h"
+#include "desktop/SafetyCopies.h"
+#include "desktop/TraceView.h"
+#include "desktop/TransferWatch.h"
+#include "desktop/TreePane.h"
+#include "desktop/UnsavedMark.h"
+#include "platform/Platform.h"
+#include "shell/Navigation.h"
+
+class QAction;
+class QMenu;
+class QToolBar;
+
+namespace ostrel {
+
+/// What the window stands on.
+struct WindowParts {
+  Configurator& configurator;
+  Navigation& navigation;
+  const Platform& platform;
+  Guard guard;
+  std::string dataFolder;  ///< the user's own
+};
+
+/// The window: tool bar, tree, the page in front, and the state of the link. It draws and asks; all
+/// rules are the configurator's.
+class MainWindow final : public QMainWindow {
+ public:
+  explicit MainWindow(const WindowParts& parts);
+  ~MainWindow() override;
+
+  /// Called when the configurator has started: shows what is in front, and follows it from here on.
+  void Follow();
+  /// Goes to a node, as a click on it does.
+  void GoTo(const std::string& key);
+  LayoutContext Context() const;
+  PageArea& Pages() { return *pages_; }
+  TreePane& Tree() { return *tree_; }
+  /// Looks at all that changes by itself: link, transfer, title. Runs several times a second.
+  void Look();
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+
+ private:
+  // Making.
+  void MakeToolBar();
+  QAction* AddAction(Sign sign, QKeySequence keys, std::function<void()> run);
+  QMenu* AddMenu(QAction* action, std::function<void(QMenu&)> fill);
+  void Retranslate();
+
+  // What the tool bar does.
+  void Open();
+  void OpenPath(const std::string& path);
+  void Save();
+  void AskLanguage();
+  void FillRecent(QMenu& menu);
+  void FillCopies(QMenu& menu);
+  void Compare();
+  void ShowTrace(bool on);
+
+  // What follows the configurator.
+  void ShowFront();
+  void ShowTitle();
+  void ShowFault();
+  void ShowTransfer();
+  void TransferEnded(LinkState::Kind kind);
+  /// Whether the file at `ConfFilePath` holds the present configuration.
+  bool FileHoldsAll() const;
+  void Reached(const std::string& path);
+  void RestorePlace();
+  void KeepPlace();
+  /// True when the window may close.
+  bool MayLeave();
+
+  WindowParts parts_;
+  Configurator& configurator_;
+  Navigation& navigation_;
+  RecentFiles recent_;
+  SafetyCopies copies_;
+  UnsavedMark unsaved_;
+  TransferWatch transfer_;
+  PortWatch ports_;
+  TreePane* tree_;
+  PageArea* pages_;
+  LinkPanel* link_;
+  TraceView* trace_;
+  QToolBar* bar_ = nullptr;
+  QAction *open_ = nullptr, *save_ = nullptr, *language_ = nullptr, *recentFiles_ = nullptr,
+          *safetyCopies_ = nullptr, *compare_ = nullptr, *traceSwitch_ = nullptr;
+  TimerId lookTimer_ = 0;
+  int looks_ = 0;
+  bool following_ = false;
+};
+
+}  // namespace ostrel

@@ -1,0 +1,188 @@
+#include <QAction>
+#include <QDesktopServices>
+#include <QDir>
+#include <QFileInfo>
+#include <QMenu>
+#include <QStatusBar>
+#include <QToolBar>
+#include <QToolButton>
+#include <QUrl>
+
+#include "desktop/CompareDialog.h"
+#include "desktop/ConfigurationReader.h"
+#include "desktop/Icons.h"
+#include "desktop/Language.h"
+#include "desktop/MainWindow.h"
+#include "desktop/Words.h"
+#include "platform/Dialogs.h"
+#include "platform/Files.h"
+#include "shell/Configurator.h"
+
+namespace ostrel {
+namespace {
+
+constexpr int kCopiesOffered = 15;
+constexpr int kMessageTime = 10'000;  // ms
+
+}  // namespace
+
+void MainWindow::MakeToolBar() {
+  bar_ = addToolBar(QString());
+  bar_->setObjectName("Tools");
+  bar_->setMovable(false);
+  bar_->setContextMenuPolicy(Qt::PreventContextMenu);
+  bar_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+  bar_->setIconSize({22, 22});
+  open_ = AddAction(Sign::Open, QKeySequence::Open, [this] { Open(); });
+  save_ = AddAction(Sign::Save, QKeySequence::Save, [this] { Save(); });
+  recentFiles_ = AddAction(Sign::Recent, {}, {});
+  AddMenu(recentFiles_, [this](QMenu& menu) { FillRecent(menu); });
+  safetyCopies_ = AddAction(Sign::Copies, {}, {});
+  AddMenu(safetyCopies_, [this](QMenu& menu) { FillCopies(menu); });
+  bar_->addSeparator();
+  compare_ = AddAction(Sign::Compare, {}, [this] { Compare(); });
+  traceSwitch_ = AddAction(Sign::Trace, QKeySequence("Ctrl+T"), {});
+  traceSwitch_->setCheckable(true);
+  connect(traceSwitch_, &QAction::toggled, this, [this](bool on) { ShowTrace(on); });
+  connect(trace_, &QDockWidget::visibilityChanged, this, [this](bool) {
+    if (trace_->isHidden()) traceSwitch_->setChecked(false);
+  });
+  bar_->addSeparator();
+  language_ = AddAction(Sign::Language, {}, [this] { AskLanguage(); });
+}
+
+QAction* MainWindow::AddAction(Sign sign, QKeySequence keys, std::function<void()> run) {
+  QAction* action = bar_->addAction(MakeIcon(sign, palette()), QString());
+  action->setShortcut(keys);
+  if (run)
+    connect(action, &QAction::triggered, this, [this, run = std::move(run)] { parts_.guard(run); });
+  return action;
+}
+
+QMenu* MainWindow::AddMenu(QAction* action, std::function<void(QMenu&)> fill) {
+  auto* menu = new QMenu(this);
+  connect(menu, &QMenu::aboutToShow, this, [this, menu, fill = std::move(fill)] {
+    menu->clear();
+    parts_.guard([&] { fill(*menu); });
+  });
+  action->setMenu(menu);
+  static_cast<QToolButton*>(bar_->widgetForAction(action))->setPopupMode(QToolButton::InstantPopup);
+  return menu;
+}
+
+void MainWindow::Retranslate() {
+  const auto core = [this](std::string_view text) {
+    return ToQt(configurator_.context.Translate(text));
+  };
+  const auto name = [](QAction* action, const QString& text, const QString& tip) {
+    action->setText(text);
+    const QString keys = action->shortcut().toString(QKeySequence::NativeText);
+    action->setToolTip(keys.isEmpty() ? tip : tip + " (" + keys + ")");
+  };
+  name(open_, core("Abrir"), Words::tr("Open a configuration file"));
+  name(save_, core("Guardar"), Words::tr("Save the configuration to a file"));
+  name(language_, core("Idioma"), Words::tr("Choose the language"));
+  name(recentFiles_, Words::tr("Recent"), Words::tr("Files opened or saved lately"));
+  name(safetyCopies_, Words::tr("Safety copies"),
+       Words::tr("Configurations read from loggers or sent to them"));
+  name(compare_, Words::tr("Compare"), Words::tr("Compare the configuration with a file"));
+  name(traceSwitch_, Words::tr("Trace"), Words::tr("Show what goes over the line"));
+  tree_->Retranslate();
+  trace_->Retranslate();
+}
+
+void MainWindow::Open() {
+  navigation_.CommitFront();
+  if (!configurator_.AskAndOpen()) return;
+  Reached(configurator_.ConfFilePath);
+}
+
+void MainWindow::OpenPath(const std::string& path) {
+  navigation_.CommitFront();
+  configurator_.OpenFile(path);
+  Reached(path);
+}
+
+void MainWindow::Save() {
+  navigation_.CommitFront();
+  if (!configurator_.AskAndSave()) return;
+  Reached(configurator_.ConfFilePath);
+  if (unsaved_.Changed())
+    parts_.platform.dialogs.ShowMessage(
+        {.text = FromQt(
+             Words::tr("The file could not be written: %1").arg(ToQt(configurator_.ConfFilePath))),
+         .title = configurator_.profile.TargetName,
+         .icon = BoxIcon::Exclamation});
+}
+
+/// Notes a file that has been opened or saved, if it holds what the program holds.
+void MainWindow::Reached(const std::string& path) {
+  if (FileHoldsAll()) {
+    unsaved_.Keep();
+    recent_.Add(path);
+  }
+  ShowTitle();
+}
+
+void MainWindow::AskLanguage() {
+  const auto before = configurator_.lang.SelectedLang();
+  configurator_.AskLanguage();
+  if (configurator_.lang.SelectedLang() == before) return;
+  UseLanguage(LanguageCode(configurator_.lang));
+  Retranslate();
+  pages_->Redraw();
+  Look();
+}
+
+void MainWindow::FillRecent(QMenu& menu) {
+  for (const std::string& path : recent_.Paths()) {
+    QString text = QDir::toNativeSeparators(ToQt(path));
+    menu.addAction(text.replace(u'&', "&&"), this,
+                   [this, path] { parts_.guard([&] { OpenPath(path); }); });
+  }
+  if (menu.isEmpty()) menu.addAction(Words::tr("No files yet"))->setEnabled(false);
+}
+
+void MainWindow::FillCopies(QMenu& menu) {
+  for (const QString& path : copies_.Newest(kCopiesOffered))
+    menu.addAction(QFileInfo(path).completeBaseName(), this,
+                   [this, path] { parts_.guard([&] { OpenPath(FromQt(path)); }); });
+  if (menu.isEmpty()) menu.addAction(Words::tr("No copies yet"))->setEnabled(false);
+  menu.addSeparator();
+  menu.addAction(Words::tr("Show the folder"), this, [this] {
+    parts_.platform.files.MakeFolder(copies_.Folder());
+    QDesktopServices::openUrl(QUrl::fromLocalFile(ToQt(copies_.Folder())));
+  });
+}
+
+void MainWindow::Compare() {
+  const std::string filter =
+      FromQt(Words::tr("Configuration files") + "|*.ocf|" + Words::tr("All files") + "|*.*");
+  const auto path = parts_.platform.dialogs.ChooseFile({.filter = filter});
+  if (!path) return;
+  const auto file = ReadConfiguration(parts_.platform, configurator_.profile.TargetName, *path);
+  if (!file) {
+    parts_.platform.dialogs.ShowMessage(
+        {.text = FromQt(Words::tr("The file holds no configuration.")),
+         .title = configurator_.profile.TargetName,
+         .icon = BoxIcon::Exclamation});
+    return;
+  }
+  const QString note = file->model == configurator_.profile.TargetName
+                           ? QString()
+                           : Words::tr("The file is of another model: %1").arg(ToQt(file->model));
+  const auto present = FieldLines(configurator_, unsaved_.WithFront());
+  CompareDialog dialog(QFileInfo(ToQt(*path)).fileName(), note, CompareFields(present, file->lines),
+                       this);
+  dialog.exec();
+}
+
+void MainWindow::ShowTrace(bool on) {
+  trace_->setVisible(on);
+  if (on)
+    configurator_.comms.Trace = [this](const std::string& line) { trace_->Add(line); };
+  else
+    configurator_.comms.Trace = nullptr;
+}
+
+}  // namespace ostrel

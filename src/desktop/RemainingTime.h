@@ -1,0 +1,28 @@
+#pragma once
+
+#include <optional>
+
+#include "platform/Time.h"
+
+namespace ostrel {
+
+/// Tells how long a transfer will still take, from the speed that it has had.
+class RemainingTime {
+ public:
+  /// A transfer of about `steps` steps begins.
+  void Start(TimePoint now, int steps);
+  /// The transfer has come to a step. One that goes back is a new attempt, timed anew.
+  void Step(TimePoint now, int step);
+  /// What is left, or nothing as long as no speed is known.
+  std::optional<Duration> Left(TimePoint now) const;
+  int Steps() const { return steps_; }
+  int Done() const { return done_; }
+
+ private:
+  TimePoint start_{};
+  TimePoint lastStep_{};
+  int steps_ = 1;
+  int done_ = 0;
+};
+
+}  // namespace ostrel

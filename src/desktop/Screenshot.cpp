@@ -1,0 +1,91 @@
+#include "desktop/Screenshot.h"
+
+#include <QCoreApplication>
+#include <QCursor>
+#include <QPixmap>
+
+#include "desktop/Demo.h"
+#include "desktop/Desktop.h"
+#include "desktop/Words.h"
+#include "platform/qt/QtEventLoop.h"
+#include "platform/qt/QtFiles.h"
+#include "platform/virtual/VirtualClock.h"
+#include "platform/virtual/VirtualDialogs.h"
+#include "platform/virtual/VirtualFiles.h"
+#include "platform/virtual/VirtualProcesses.h"
+#include "platform/virtual/VirtualSettings.h"
+
+namespace ostrel {
+namespace {
+
+constexpr const char* kApplication = "Quorvane";
+constexpr const char* kSection = "Ostrel Configurator";
+constexpr const char* kConfiguration = "/picture.ocf";
+constexpr const char* kTable = "/Lang.txt";
+
+/// A dialog, drawn by itself as it comes up, if the key names one.
+QPixmap DialogPicture(Desktop& desktop, VirtualDialogs& dialogs, const std::string& key) {
+  Configurator& core = desktop.Core();
+  QPixmap picture;
+  dialogs.OnEveryModal([&](Form& form) {
+    const std::unique_ptr<FormView> view(MakeView(form, desktop.Window().Context()));
+    view->show();
+    picture = view->grab();
+  });
+  std::string code;
+  if (key == core.actEdit.GetForm().Name()) core.actEdit.ShowModal();
+  if (key == core.pwForm.GetForm().Name()) core.pwForm.ShowModal(code);
+  if (key == core.langForm.GetForm().Name()) core.langForm.AskUser();
+  dialogs.OnEveryModal({});
+  return picture;
+}
+
+QPixmap PagePicture(Desktop& desktop, const CommandLine& line) {
+  MainWindow& window = desktop.Window();
+  if (!line.page.empty()) window.GoTo(line.page);
+  window.resize(line.size);
+  window.show();
+  window.setFocus();
+  QCursor::setPos(window.mapToGlobal(window.rect().center()));
+  window.Look();
+  for (int round = 0; round < 3; ++round) QCoreApplication::processEvents();
+  return window.grab();
+}
+
+}  // namespace
+
+bool TakeScreenshot(const CommandLine& line, const std::string& langFile) {
+  QtEventLoop loop;
+  VirtualSettings settings;
+  settings.Set(kApplication, kSection, "Idioma", std::to_string(line.language));
+  settings.Set(kApplication, kSection, "ComPort", "1");
+  settings.Set(kApplication, kSection, "Target",
+               line.target.empty() ? TargetNamesOffered().front() : line.target);
+  QtFiles disk;
+  VirtualFiles files;
+  files.contents[kTable] = disk.Read(langFile).value_or("");
+  if (!line.file.empty()) {
+    const auto content = disk.Read(line.file);
+    if (!content) return false;
+    files.contents[kConfiguration] = *content;
+  }
+  VirtualClock clock;
+  VirtualDialogs dialogs;
+  VirtualProcesses processes;
+  LinePort port(loop);
+  if (line.demo) AddDemoLoggers(port, loop, clock);
+  Desktop desktop({.loop = loop,
+                   .port = port,
+                   .settings = settings,
+                   .files = files,
+                   .processes = processes,
+                   .clock = clock,
+                   .dialogs = &dialogs},
+                  {.programFolder = {}, .langFile = kTable, .ticking = true}, {});
+  desktop.Start(line.file.empty() ? "" : kConfiguration);
+  QPixmap picture = DialogPicture(desktop, dialogs, line.page);
+  if (picture.isNull()) picture = PagePicture(desktop, line);
+  return picture.save(ToQt(line.screenshot), "PNG");
+}
+
+}  // namespace ostrel

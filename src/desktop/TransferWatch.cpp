@@ -1,0 +1,53 @@
+#include "desktop/TransferWatch.h"
+
+#include <charconv>
+
+#include "shell/Configurator.h"
+
+namespace ostrel {
+namespace {
+
+constexpr std::string_view kApplication = "Quorvane";
+constexpr std::string_view kSection = "Window";
+
+}  // namespace
+
+std::optional<LinkState::Kind> TransferWatch::Look(TimePoint now) {
+  const LinkState::Kind kind = LinkStateOf(configurator_).kind;
+  const bool transfers = kind == LinkState::Kind::Reading || kind == LinkState::Kind::Writing;
+  const ProgressBar& bar = configurator_.general.Session().PBar;
+  if (transfers && !running_) Begin(now, kind);
+  if (transfers) {
+    // A full bar says that the transfer is over, not how many steps it had.
+    if (bar.Value() < bar.Maximum() && bar.Value() != time_.Done()) time_.Step(now, bar.Value());
+    return {};
+  }
+  const auto ended = std::exchange(running_, {});
+  if (ended == LinkState::Kind::Reading &&
+      configurator_.comms.Fault().kind == LinkFault::Kind::None)
+    KeepRecords(time_.Done());
+  return ended;
+}
+
+void TransferWatch::Begin(TimePoint now, LinkState::Kind kind) {
+  running_ = kind;
+  const bool isUpload = kind == LinkState::Kind::Writing;
+  time_.Start(now, isUpload ? static_cast<int>(configurator_.comms.ComposeStatements().size())
+                            : KnownRecords());
+}
+
+int TransferWatch::KnownRecords() const {
+  const std::string text =
+      settings_.Get(kApplication, kSection, "Records." + configurator_.profile.TargetType);
+  int records = configurator_.general.Session().PBar.Maximum();
+  std::from_chars(text.data(), text.data() + text.size(), records);
+  return records;
+}
+
+void TransferWatch::KeepRecords(int records) {
+  if (records > 0)
+    settings_.Set(kApplication, kSection, "Records." + configurator_.profile.TargetType,
+                  std::to_string(records));
+}
+
+}  // namespace ostrel

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QTreeWidget>
+#include <QWidget>
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "shell/NavigationTree.h"
+
+class QLineEdit;
+
+namespace ostrel {
+
+/// The tree of all that can be opened, with a box above it that leaves the matching nodes.
+class TreePane final : public QWidget {
+ public:
+  explicit TreePane(QWidget* parent);
+
+  /// Shows another tree. Nothing is clicked by that.
+  void SetNodes(const std::vector<TreeNode>& nodes);
+  /// Marks a node as the one in front. Nothing is clicked by that.
+  void Select(std::string_view key);
+  /// The window's own words anew.
+  void Retranslate();
+  QTreeWidget& Tree() { return *tree_; }
+
+  /// Runs when the operator goes to a node, by mouse or by key. Set by the window.
+  std::function<void(const std::string& key)> OnNode;
+
+ protected:
+  /// Arrow down and Enter lead from the box to the first match.
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  void Filter(const QString& text);
+  bool FilterItem(QTreeWidgetItem& item, const QString& text, bool parentMatches);
+  QTreeWidgetItem* Find(std::string_view key) const;
+
+  QLineEdit* filter_;
+  QTreeWidget* tree_;
+  bool quiet_ = false;
+};
+
+}  // namespace ostrel

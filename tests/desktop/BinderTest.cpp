@@ -1,0 +1,225 @@
+#include <gtest/gtest.h>
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTimeEdit>
+
+#include "Input.h"
+#include "controls/NumberBox.h"
+#include "desktop/AccessKeys.h"
+#include "desktop/FormView.h"
+#include "desktop/LayoutParts.h"
+#include "desktop/Words.h"
+#include "platform/virtual/VirtualLoop.h"
+
+namespace ostrel {
+namespace {
+
+/// One form with a control of each kind, drawn without a layout.
+class Binder : public testing::Test {
+ protected:
+  template <class Widget>
+  Widget* Show(std::string_view control) {
+    auto* widget = dynamic_cast<Widget*>(view.Show(control));
+    EXPECT_NE(widget, nullptr) << control;
+    view.resize(400, 300);
+    view.show();
+    widget->resize(200, 100);
+    return widget;
+  }
+
+  VirtualLoop loop;
+  Form form{"Sample", ""};
+  Label label{form, "label", "Rojo"};
+  Frame frame{form, "frame", "Marco"};
+  Button button{form, "button", "Pulsar"};
+  CheckBox check{form, "check", "Marcar"};
+  OptionGroup group;
+  OptionButton first{form, group, "first", "Uno"}, second{form, group, "second", "Dos"};
+  TextBox text{form, "text", 5};
+  ComboBox combo{form, "combo"};
+  ListBox list{form, "list"};
+  MultiListBox multi{form, "multi"};
+  TimePicker time{form, "time"};
+  ProgressBar bar{form, "bar"};
+  Timer timer{form, "timer", loop, std::chrono::seconds(1)};
+  int runs = 0;  ///< of click logic
+  FormView view{form, [](const std::function<void()>& run) { run(); }};
+};
+
+TEST_F(Binder, CarriesEditsOfTheUserToEachKindOnce) {
+  const auto count = [this] { ++runs; };
+  button.OnClick = check.OnClick = first.OnClick = second.OnClick = combo.OnClick =
+      list.OnDoubleClick = count;
+  for (const auto* row : {"a", "b", "c"}) {
+    combo.Add(row);
+    list.Add(row);
+    multi.Add(row);
+  }
+  Click(Show<QPushButton>("button"));
+  EXPECT_EQ(runs, 1);
+  Click(Show<QCheckBox>("check"));
+  EXPECT_TRUE(check.Checked());
+  EXPECT_EQ(runs, 2);
+  OptionBox(view, {"first", "second"}, 1)->show();
+  Click(Show<QRadioButton>("first"));
+  Click(Show<QRadioButton>("second"));
+  Click(Show<QRadioButton>("second"));
+  EXPECT_TRUE(second.Selected() && !first.Selected());
+  EXPECT_FALSE(Show<QRadioButton>("first")->isChecked());
+  EXPECT_EQ(runs, 4);
+  Press(Show<QComboBox>("combo"), Qt::Key_Down);
+  EXPECT_EQ(combo.Position(), 0);
+  EXPECT_EQ(runs, 5);
+  auto* rows = Show<QListWidget>("list");
+  Click(rows->viewport(), rows->visualItemRect(rows->item(1)).center());
+  EXPECT_EQ(list.Position(), 1);
+  EXPECT_EQ(runs, 5);
+  DoubleClick(rows->viewport(), rows->visualItemRect(rows->item(2)).center());
+  EXPECT_EQ(list.Position(), 2);
+  EXPECT_EQ(runs, 6);
+  auto* boxes = Show<QListWidget>("multi");
+  boxes->setCurrentRow(1);
+  Press(boxes, Qt::Key_Space);
+  EXPECT_TRUE(multi.Selected(1) && !multi.Selected(0));
+  auto* clock = Show<QTimeEdit>("time");
+  clock->setCurrentSection(QDateTimeEdit::HourSection);
+  Press(clock, Qt::Key_Up);
+  EXPECT_EQ(time.Value(), TimeOfDay{3600});
+}
+
+TEST_F(Binder, FollowsCodeWithoutAnEcho) {
+  // Whatever a widget sent back would run as an edit: the guard counts them.
+  int echoes = 0;
+  FormView counted(form, [&](const std::function<void()>& run) {
+    ++echoes;
+    run();
+  });
+  const auto show = [&](std::string_view name) { return counted.Show(name); };
+  auto* shownLabel = static_cast<QLabel*>(show("label"));
+  auto* shownFrame = static_cast<QGroupBox*>(show("frame"));
+  auto* shownButton = static_cast<QPushButton*>(show("button"));
+  auto* shownCheck = static_cast<QCheckBox*>(show("check"));
+  auto* shownFirst = static_cast<QRadioButton*>(show("first"));
+  auto* shownSecond = static_cast<QRadioButton*>(show("second"));
+  auto* shownText = static_cast<QLineEdit*>(show("text"));
+  auto* shownCombo = static_cast<QComboBox*>(show("combo"));
+  auto* shownList = static_cast<QListWidget*>(show("list"));
+  auto* shownMulti = static_cast<QListWidget*>(show("multi"));
+  auto* shownTime = static_cast<QTimeEdit*>(show("time"));
+  auto* shownBar = static_cast<QProgressBar*>(show("bar"));
+  EXPECT_EQ(show("timer"), nullptr);
+
+  label.face.SetCaption("A & B");
+  frame.face.SetCaption("Frame");
+  button.face.SetCaption("Save & go");
+  button.face.SetEnabled(false);
+  check.SetChecked(true);
+  check.face.SetVisible(false);
+  first.SetSelected(true);
+  text.SetText("hello");
+  for (const auto* row : {"a", "b"}) {
+    combo.Add(row);
+    list.Add(row);
+    multi.Add(row);
+  }
+  combo.SetPosition(1);
+  list.SetPosition(1);
+  multi.SetSelected(0, true);
+  time.SetValue({3661});
+  bar.SetMaximum(10);
+  bar.SetValue(20);
+
+  EXPECT_EQ(shownLabel->text(), "A & B");
+  EXPECT_EQ(shownFrame->title(), "Frame");
+  EXPECT_EQ(WithoutAccessKey(shownButton->text()), "Save & go");
+  EXPECT_FALSE(shownButton->isEnabled());
+  EXPECT_TRUE(shownCheck->isChecked() && shownCheck->isHidden());
+  EXPECT_TRUE(shownFirst->isChecked() && !shownSecond->isChecked());
+  EXPECT_EQ(shownText->text(), "hello");
+  EXPECT_EQ(shownCombo->currentText(), "b");
+  EXPECT_EQ(shownList->currentRow(), 1);
+  EXPECT_EQ(shownMulti->item(0)->checkState(), Qt::Checked);
+  EXPECT_EQ(shownTime->time(), QTime(1, 1, 1));
+  EXPECT_EQ(shownBar->value(), shownBar->maximum());
+
+  first.SetSelected(false);  // none is selected
+  combo.Clear();
+  list.Remove(0);
+  EXPECT_FALSE(shownFirst->isChecked() || shownSecond->isChecked());
+  EXPECT_EQ(shownCombo->count(), 0);
+  EXPECT_EQ(shownList->count(), 1);
+  EXPECT_EQ(shownList->currentRow(), 0);
+  EXPECT_EQ(echoes, 0);
+}
+
+TEST_F(Binder, LimitsTypingButShowsLongerTextsOfCode) {
+  auto* edit = Show<QLineEdit>("text");
+  Type(edit, "1234567");
+  EXPECT_EQ(text.Text(), "12345");
+  EXPECT_EQ(edit->text(), "12345");
+  text.SetText("ninety-nine");
+  EXPECT_EQ(edit->text(), "ninety-nine");
+  EXPECT_EQ(text.Text(), "ninety-nine");
+  Press(edit, Qt::Key_End);
+  Press(edit, Qt::Key_Backspace);
+  EXPECT_EQ(text.Text(), "ninet");
+  EXPECT_EQ(edit->text(), "ninet");
+}
+
+TEST_F(Binder, PaintsBadNumbersAndSaysWhatTheyCountAs) {
+  auto* edit = Show<QLineEdit>("text");
+  Type(edit, "12x");
+  CheckNumberBox(text, "int");
+  EXPECT_TRUE(edit->property("bad").toBool());
+  EXPECT_TRUE(edit->toolTip().contains("12."));
+  EXPECT_EQ(edit->grab().toImage().pixelColor(edit->width() / 2, edit->height() / 2),
+            QColor(255, 0, 0));
+  Type(edit, "12");
+  CheckNumberBox(text, "int");
+  EXPECT_FALSE(edit->property("bad").toBool());
+  EXPECT_TRUE(edit->toolTip().isEmpty());
+}
+
+TEST_F(Binder, FollowsTheFocusOnlyWhenAskedTo) {
+  auto* edit = Show<QLineEdit>("text");
+  auto* box = Show<QCheckBox>("check");
+  view.activateWindow();
+  view.Finish({});
+  form.SetFocus(text.face);
+  EXPECT_EQ(view.focusWidget(), edit);
+  box->setFocus();
+  form.SetMousePointer(Pointer::Hourglass);
+  EXPECT_EQ(view.focusWidget(), box);
+  form.SetFocus(text.face);
+  EXPECT_EQ(view.focusWidget(), edit);
+}
+
+TEST_F(Binder, LetsGoOfTheControlsWhenItIsReplaced) {
+  auto old = std::make_unique<FormView>(form, [](const std::function<void()>& run) { run(); });
+  old->Show("text");
+  old->Detach();
+  auto* edit = Show<QLineEdit>("text");
+  old.reset();
+  text.SetText("new");
+  EXPECT_EQ(edit->text(), "new");
+}
+
+TEST(AccessKeys, TakeEachLetterOnce) {
+  std::set<QChar> taken;
+  EXPECT_EQ(WithAccessKey("Config 0", taken), "&Config 0");
+  EXPECT_EQ(WithAccessKey("Config 1", taken), "Config &1");
+  EXPECT_EQ(WithAccessKey("Cut & copy", taken), "C&ut && copy");
+  EXPECT_EQ(WithAccessKey("u c", taken), "u c");
+  EXPECT_EQ(WithoutAccessKey("C&ut && copy"), "Cut & copy");
+}
+
+}  // namespace
+}  // namespace ostrel

@@ -1,0 +1,153 @@
+#include <gtest/gtest.h>
+
+#include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QAbstractSpinBox>
+#include <QComboBox>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QLabel>
+#include <QLineEdit>
+#include <QProgressBar>
+#include <QRegularExpression>
+
+#include "WindowWorld.h"
+#include "desktop/Language.h"
+#include "desktop/Layouts.h"
+
+namespace ostrel {
+namespace {
+
+bool TakesInput(const QWidget* widget) {
+  return qobject_cast<const QAbstractButton*>(widget) || qobject_cast<const QLineEdit*>(widget) ||
+         qobject_cast<const QComboBox*>(widget) || qobject_cast<const QAbstractSpinBox*>(widget) ||
+         qobject_cast<const QAbstractItemView*>(widget) ||
+         qobject_cast<const QProgressBar*>(widget);
+}
+
+/// Whether a widget is a part that another one, which stands for a control, is made of.
+bool IsPart(const QWidget* widget, const std::set<const QWidget*>& shown, const QWidget* view) {
+  for (const QWidget* above = widget->parentWidget(); above && above != view;
+       above = above->parentWidget())
+    if (shown.contains(above) && TakesInput(above)) return true;
+  return false;
+}
+
+class AllForms : public testing::TestWithParam<std::string_view>,
+                 protected WindowWorld<VirtualLoop> {
+ protected:
+  AllForms() {
+    StartBefore(std::string(GetParam()), "1");
+    desktop = Make(&dialogs);
+    desktop->Start("");
+  }
+  ~AllForms() override { UseLanguage("en"); }
+
+  VirtualDialogs dialogs;
+  std::unique_ptr<Desktop> desktop;
+};
+
+TEST_P(AllForms, ShowEveryControlAndNothingElse) {
+  for (Form* form : desktop->Core().Forms()) {
+    const std::unique_ptr<FormView> view(MakeView(*form, desktop->Window().Context()));
+    view->show();
+    std::set<const QWidget*> shown(view->OwnWidgets());
+    for (const ControlRef& control : form->Controls()) {
+      const Face& face = FaceOf(control);
+      const std::string name = form->Name() + "." + face.Name();
+      QWidget* widget = view->WidgetOf(face.Name());
+      if (std::holds_alternative<Timer*>(control)) {
+        EXPECT_EQ(widget, nullptr) << name;
+        continue;
+      }
+      ASSERT_NE(widget, nullptr) << name << " has no widget";
+      EXPECT_TRUE(shown.insert(widget).second) << name;
+      EXPECT_EQ(widget->isVisibleTo(view.get()), face.Visible()) << name;
+      EXPECT_NE(widget->parentWidget()->layout(), nullptr) << name << " is not laid out";
+      EXPECT_TRUE(!TakesInput(widget) || !widget->accessibleName().isEmpty())
+          << name << " has no accessible name";
+    }
+    for (const QWidget* widget : view->findChildren<QWidget*>()) {
+      if (!TakesInput(widget) || IsPart(widget, shown, view.get())) continue;
+      EXPECT_TRUE(shown.contains(widget) || shown.contains(widget->parentWidget()))
+          << form->Name() << ": no control behind " << FromQt(widget->objectName()) << " "
+          << widget->metaObject()->className();
+    }
+  }
+}
+
+TEST_P(AllForms, FitIntoTheSmallestScreenInBothLanguages) {
+  MainWindow& window = desktop->Window();
+  window.resize(1280, 720);
+  window.show();
+  for (const auto& [column, code] : {std::pair<std::int16_t, QString>{1, "es"}, {2, "en"}}) {
+    desktop->Core().lang.SetSelectedLang(column);
+    desktop->Core().LoadText();
+    UseLanguage(code);
+    window.Pages().Redraw();
+    for (const auto* key : {"Tavro", "General", "E_Digital_0", "E_Analog_0", "Grupos", "Flag_0"}) {
+      window.GoTo(key);
+      QCoreApplication::processEvents();
+      const FormView* view = window.Pages().Front();
+      ASSERT_NE(view, nullptr) << key;
+      const QSize room = window.Pages().size();
+      const QSize needs = view->minimumSizeHint();
+      EXPECT_LE(needs.width(), room.width()) << key << " " << FromQt(code);
+      EXPECT_LE(needs.height(), room.height()) << key << " " << FromQt(code);
+      for (const auto* button : view->findChildren<QAbstractButton*>()) {
+        if (!button->isVisible()) continue;
+        EXPECT_GE(button->width(), button->minimumSizeHint().width())
+            << key << " " << FromQt(button->text());
+      }
+    }
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Models, AllForms,
+                         testing::Values("Ostrel KA1", "Ostrel KA2", "Ostrel VR200", "Ostrel S100",
+                                         "Tavro BP", "Tavro BQ"),
+                         [](const auto& model) {
+                           std::string name(model.param);
+                           return name.substr(name.find(' ') + 1);
+                         });
+
+/// The words that the window's sources hand to be translated.
+std::set<QString> WordsInSources(const QString& folder) {
+  std::set<QString> words;
+  const QRegularExpression call(R"x(Words::tr\(\s*((?:"(?:[^"\\]|\\.)*"\s*)+))x");
+  const QRegularExpression literal(R"x("((?:[^"\\]|\\.)*)")x");
+  for (const QFileInfo& info : QDir(folder).entryInfoList({"*.cpp", "*.h"})) {
+    QFile file(info.filePath());
+    if (!file.open(QIODevice::ReadOnly)) continue;
+    const QString text = QString::fromUtf8(file.readAll());
+    for (auto it = call.globalMatch(text); it.hasNext();) {
+      QString joined;
+      for (auto part = literal.globalMatch(it.next().captured(1)); part.hasNext();)
+        joined += part.next().captured(1);
+      words.insert(joined.replace("\\\"", "\""));
+    }
+  }
+  return words;
+}
+
+TEST(OwnWords, HaveSpanishForEachThatTheWindowUses) {
+  const std::set<QString> same{"General", "Firmware:", "&No"};
+  const auto places = [](const QString& text) { return text.count(QRegularExpression("%[0-9]")); };
+  const std::set<QString> words =
+      WordsInSources(QString(__FILE__).section("/tests/", 0, 0) + "/src/desktop");
+  EXPECT_GT(words.size(), 100u);
+  UseLanguage("es");
+  for (const QString& word : words) {
+    const QString spanish = QCoreApplication::translate("Words", word.toUtf8());
+    EXPECT_TRUE(spanish != word || same.contains(word)) << FromQt(word);
+    EXPECT_EQ(places(spanish), places(word)) << FromQt(word);
+  }
+  EXPECT_EQ(Words::tr("%n field(s) differ.", nullptr, 3), "3 campos son distintos.");
+  UseLanguage("en");
+  EXPECT_EQ(Words::tr("Read"), "Read");
+  EXPECT_EQ(Words::tr("%n field(s) differ.", nullptr, 1), "1 field differs.");
+}
+
+}  // namespace
+}  // namespace ostrel

@@ -1,0 +1,336 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <QAction>
+#include <QDockWidget>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QTableWidget>
+#include <QToolBar>
+#include <QTreeWidget>
+#include <QTreeWidgetItemIterator>
+
+#include "Input.h"
+#include "WindowWorld.h"
+#include "desktop/ConfigurationReader.h"
+#include "desktop/FaultDetails.h"
+#include "desktop/FaultWords.h"
+#include "desktop/HelpProcesses.h"
+#include "desktop/Language.h"
+#include "desktop/LinkPanel.h"
+#include "desktop/RemainingTime.h"
+#include "lang/Help.h"
+
+namespace ostrel {
+namespace {
+
+using std::chrono::seconds;
+using testing::ElementsAre;
+
+TEST(RemainingTime, FollowsTheSpeedAndStartsAnewWithEachAttempt) {
+  RemainingTime time;
+  time.Start(seconds(10), 100);
+  time.Step(seconds(10), 5);
+  EXPECT_FALSE(time.Left(seconds(10)));
+  time.Step(seconds(20), 25);
+  EXPECT_EQ(time.Left(seconds(20)), seconds(30));
+  EXPECT_EQ(time.Left(seconds(24)), seconds(26));
+  EXPECT_EQ(time.Left(seconds(99)), seconds(0));
+  time.Step(seconds(100), 1);
+  EXPECT_FALSE(time.Left(seconds(100)));
+  time.Step(seconds(110), 130);
+  EXPECT_EQ(time.Left(seconds(110)), seconds(0));
+  EXPECT_EQ(DurationWords(std::chrono::milliseconds(64'100)), "1:05");
+}
+
+TEST(RecentFiles, KeepTheNewestFirstAndEachOnce) {
+  VirtualSettings settings;
+  RecentFiles recent(settings);
+  EXPECT_THAT(recent.Paths(), ElementsAre());
+  for (int i = 0; i < 10; ++i) recent.Add("/f" + std::to_string(i));
+  recent.Add("/f5");
+  EXPECT_THAT(recent.Paths(), ElementsAre("/f5", "/f9", "/f8", "/f7", "/f6", "/f4", "/f3", "/f2"));
+}
+
+TEST(FaultWords, TellEachFaultDifferentlyWithItsNumberAndText) {
+  UseLanguage("en");
+  std::set<QString> told;
+  for (int kind = 1; kind <= static_cast<int>(LinkFault::Kind::PortClosed); ++kind)
+    told.insert(FaultWords({static_cast<LinkFault::Kind>(kind), 12, "+TLF=600"}, "/dev/ttyUSB0"));
+  EXPECT_EQ(told.size(), static_cast<std::size_t>(LinkFault::Kind::PortClosed));
+  EXPECT_FALSE(told.contains(QString()));
+  EXPECT_EQ(FaultWords({LinkFault::Kind::Refused, 12, "+TLF=600"}, ""),
+            "The logger refused statement 12: +TLF=600");
+  EXPECT_TRUE(
+      FaultWords({LinkFault::Kind::NoPermission, 0, ""}, "/dev/ttyUSB0").contains("dialout"));
+  EXPECT_TRUE(FaultWords({}, "x").isEmpty());
+}
+
+TEST(Help, SaysBrieflyWhenThereIsNone) {
+  VirtualProcesses real;
+  VirtualDialogs dialogs;
+  HelpProcesses processes(real);
+  processes.dialogs = &dialogs;
+  EXPECT_TRUE(ShowHelp(processes, "/opt", "General"));
+  EXPECT_TRUE(dialogs.boxes.empty());
+  real.fails = true;
+  EXPECT_FALSE(ShowHelp(processes, "/opt", "General"));
+  ASSERT_EQ(dialogs.boxes.size(), 1u);
+  EXPECT_FALSE(processes.Start("other"));
+  EXPECT_EQ(dialogs.boxes.size(), 1u);
+}
+
+TEST(NameFilters, ComeFromPairs) {
+  EXPECT_EQ(NameFilters("OCF (*.ocf)|*.ocf|All (*.*)|*.*"),
+            QStringList({"OCF (*.ocf)", "All (*)"}));
+}
+
+class Ports : public testing::Test {
+ protected:
+  struct Silent final : LineDevice {
+    void Receive(std::string_view) override {}
+    void SetTerminalReady(bool) override {}
+  };
+
+  LineEnd& Plug(int number) {
+    return port.AddDevice(number, "/dev/tty" + std::to_string(number), "adapter", device);
+  }
+  std::vector<std::string> Names() const {
+    std::vector<std::string> names;
+    for (const ListRow& row : list.Rows()) names.push_back(row.text);
+    return names;
+  }
+
+  VirtualLoop loop;
+  Silent device;
+  LinePort port{loop};
+  Form form{"Sample", ""};
+  ComboBox list{form, "Puerto"};
+};
+
+TEST_F(Ports, ComeAndGoWithoutLosingTheChoice) {
+  Plug(3);
+  LineEnd& chosen = Plug(40);
+  Plug(1);  // could not be opened by the scan
+  list.Add("COM3");
+  list.Add("COM40");
+  list.SetPosition(1);
+  PortWatch watch(list, port, loop, [](const std::function<void()>& run) { run(); });
+  watch.Start();
+  watch.Refresh();
+  EXPECT_THAT(Names(), ElementsAre("COM3", "COM40"));
+  Plug(33);
+  watch.Refresh();
+  EXPECT_THAT(Names(), ElementsAre("COM3", "COM33", "COM40"));
+  EXPECT_EQ(list.Text(), "COM40");
+  EXPECT_EQ(watch.RowText({"COM40", 0}), "COM40 - /dev/tty40 (adapter)");
+  chosen.Vanish();
+  watch.Refresh();
+  EXPECT_THAT(Names(), ElementsAre("COM3", "COM33"));
+  EXPECT_EQ(list.Text(), "COM3");
+  port.Restore(40);
+  watch.Refresh();
+  EXPECT_EQ(list.Text(), "COM40");
+  EXPECT_EQ(watch.DeviceOf("COM99"), "COM99");
+}
+
+TEST_F(Ports, KeepAnotherChoiceWhenTheFormerOneComesBack) {
+  LineEnd& first = Plug(3);
+  Plug(4);
+  Plug(5);
+  for (const auto* name : {"COM3", "COM4", "COM5"}) list.Add(name);
+  list.SetPosition(0);
+  PortWatch watch(list, port, loop, [](const std::function<void()>& run) { run(); });
+  watch.Start();
+  first.Vanish();
+  watch.Refresh();
+  list.SetPosition(1);
+  port.Restore(3);
+  watch.Refresh();
+  EXPECT_EQ(list.Text(), "COM5");
+}
+
+class WindowTools : public testing::Test, protected WindowWorld<VirtualLoop> {
+ protected:
+  WindowTools() {
+    StartBefore("Tavro BP", "1");
+    desktop = Make(&dialogs);
+    desktop->Start("");
+  }
+  Configurator& Core() { return desktop->Core(); }
+  MainWindow& Window() { return desktop->Window(); }
+  /// Asks for a session on the logger's port.
+  void Connect() {
+    SessionFrame& session = Core().general.Session();
+    session.Puerto.Add("COM7");
+    session.Puerto.SetPosition(0);
+    Window().GoTo("General");
+    session.IniCom_Click();
+    loop.RunFor(seconds(5));
+  }
+
+  VirtualDialogs dialogs;
+  std::unique_ptr<Desktop> desktop;
+};
+
+TEST_F(WindowTools, ReadsAFileBesideThePresentConfiguration) {
+  Core().conf.Digital[1].NOMBRE = "door";
+  Core().ConfFilePath = Path("a.ocf");
+  ASSERT_TRUE(Core().SaveConf().Ok());
+  const auto present = FieldLines(Core(), Core().conf);
+  const Platform& platform = Core().context.platform;
+  const auto file = ReadConfiguration(platform, "Ostrel KA1", Path("a.ocf"));
+  ASSERT_TRUE(file);
+  EXPECT_EQ(file->model, "Tavro BP");
+  EXPECT_EQ(file->lines, present);
+  EXPECT_EQ(FieldLines(Core(), Core().conf), present);
+  EXPECT_FALSE(ReadConfiguration(platform, "Tavro BP", Path("none.ocf")));
+}
+
+TEST_F(WindowTools, MarksWhatIsNotSavedWithoutCommittingIt) {
+  const auto isMarked = [this] {
+    loop.RunFor(seconds(2));
+    return Window().isWindowModified();
+  };
+  EXPECT_FALSE(isMarked());
+  for (const auto* key : {"General", "E_Digital_0", "E_Analog_1", "Grupos", "Flag_3", "Tavro"}) {
+    Window().GoTo(key);
+    EXPECT_FALSE(isMarked()) << "looking at " << key;
+  }
+  Core().TargetDeviceChange("Ostrel VR200");
+  EXPECT_FALSE(isMarked()) << "another model";
+  Window().GoTo("E_Digital_0");
+  auto& name = Core().PageNamed("E_Digital")->GetForm().Get<TextBox>("Nombre");
+  name.Type("pump");
+  EXPECT_TRUE(isMarked());
+  EXPECT_EQ(Core().conf.Digital[0].NOMBRE, "");
+  name.Type("");
+  EXPECT_FALSE(isMarked());
+}
+
+TEST_F(WindowTools, OpensATreeNodeFromTheFilter) {
+  TreePane& tree = Window().Tree();
+  auto* filter = tree.findChild<QLineEdit*>("Filter");
+  filter->setText("flags");
+  EXPECT_EQ(Core().PageNamed("Flags")->GetForm().Visible(), false);
+  int shown = 0;
+  for (QTreeWidgetItemIterator it(&tree.Tree(), QTreeWidgetItemIterator::NotHidden); *it; ++it)
+    ++shown;
+  EXPECT_EQ(shown, 18);  // the root, the group and its sixteen
+  filter->setText("");
+  tree.Select("General");
+  EXPECT_EQ(desktop->Navigator().Front()->Name(), "TargetSelect");
+}
+
+TEST_F(WindowTools, SaysThatAPageDoesNotExistYet) {
+  UseLanguage("en");
+  Window().GoTo("Macros");
+  EXPECT_EQ(Window().Pages().Front(), nullptr);
+  auto* empty = Window().Pages().findChild<QLabel*>("EmptyPage");
+  EXPECT_EQ(empty->text(), "This page does not exist in this version yet.");
+  Window().GoTo("CTimer");
+  EXPECT_EQ(empty->text(), "");
+}
+
+TEST_F(WindowTools, TellsWhatWentWrongBesideTheStatus) {
+  UseLanguage("en");
+  AddLogger(sim::Model::BP);
+  port.SetOpenFault(kPort, PortFault::NoPermission);
+  Connect();
+  auto* details = Window().Pages().Front()->findChild<FaultDetails*>("FaultDetails");
+  ASSERT_NE(details, nullptr);
+  EXPECT_FALSE(details->isHidden());
+  EXPECT_TRUE(details->Text().contains("usermod")) << FromQt(details->Text());
+  port.SetOpenFault(kPort, PortFault::None);
+  Core().general.Session().IniCom_Click();
+  loop.RunFor(seconds(5));
+  EXPECT_TRUE(Core().Connected);
+  EXPECT_TRUE(details->isHidden());
+}
+
+TEST_F(WindowTools, TellsWhereADownloadBrokeOffAndTracesTheLine) {
+  UseLanguage("en");
+  std::string error;
+  AddLogger(sim::Model::BP, {*sim::ParseFault("silent-after-record@9", error)});
+  Connect();
+  auto* trace = Window().findChild<QDockWidget*>("Trace");
+  auto* bar = Window().findChild<QToolBar*>("Tools");
+  QAction* traceSwitch = nullptr;
+  for (QAction* action : bar->actions())
+    if (action->isCheckable()) traceSwitch = action;
+  traceSwitch->trigger();
+  Core().general.Session().Leer.Click();
+  auto* state = Window().findChild<QLabel*>("LinkState");
+  loop.RunFor(std::chrono::minutes(2));
+  EXPECT_EQ(state->text(), "Open");
+  EXPECT_EQ(Core().general.Session().ComStat.face.Key(), "Error!");
+  auto* details = Window().Pages().Front()->findChild<FaultDetails*>("FaultDetails");
+  EXPECT_TRUE(details->Text().contains("silent at step 10")) << FromQt(details->Text());
+  auto* lines = trace->findChild<QPlainTextEdit*>();
+  EXPECT_TRUE(lines->toPlainText().contains("TxSer: "));
+  const int count = lines->blockCount();
+  traceSwitch->trigger();
+  loop.RunFor(seconds(5));
+  EXPECT_EQ(lines->blockCount(), count);
+}
+
+TEST_F(WindowTools, TellsHowLongALoggerHasBeenSilent) {
+  UseLanguage("en");
+  std::string error;
+  AddLogger(sim::Model::BP, {*sim::ParseFault("silent", error)});
+  auto* state = Window().findChild<QLabel*>("LinkState");
+  QString midway;
+  loop.After(std::chrono::milliseconds(4500), "look", [&] { midway = state->text(); });
+  Connect();
+  EXPECT_TRUE(midway.startsWith("Detecting, silent for ")) << FromQt(midway);
+  loop.RunFor(seconds(5));
+  EXPECT_EQ(state->text(), "Idle");
+}
+
+TEST_F(WindowTools, MayBeClosedInTheMidstOfADownload) {
+  AddLogger(sim::Model::BP);
+  port.SetPaced(true);
+  Connect();
+  Core().general.Session().Leer.Click();
+  bool closed = false;
+  loop.After(seconds(4), "close", [&] {
+    EXPECT_TRUE(Core().ComBusy);
+    closed = Window().close();
+  });
+  const auto start = loop.Now();
+  loop.RunFor(seconds(5));
+  EXPECT_TRUE(closed);
+  EXPECT_LT(loop.Now() - start, seconds(6));
+  EXPECT_FALSE(port.PortOpen());
+}
+
+TEST_F(WindowTools, ComparesWithAFileWithoutTouchingAnything) {
+  UseLanguage("en");
+  Core().ConfFilePath = Path("a.ocf");
+  ASSERT_TRUE(Core().SaveConf().Ok());
+  Window().GoTo("E_Digital_2");
+  Core().PageNamed("E_Digital")->GetForm().Get<TextBox>("Nombre").Type("door");
+  dialogs.ChoosePath(Path("a.ocf"));
+  ModalScript modals;
+  modals.Expect([](QWidget* modal) {
+    auto* table = modal->findChild<QTableWidget*>();
+    ASSERT_EQ(table->rowCount(), 1);
+    EXPECT_EQ(table->item(0, 0)->text() + table->item(0, 2)->text(), "DIGITAL 2door");
+    EXPECT_EQ(modal->findChild<QLabel*>("Summary")->text(), "1 field differs.");
+    Press(modal, Qt::Key_Escape);
+  });
+  for (QAction* action : Window().findChild<QToolBar*>("Tools")->actions())
+    if (action->text() == "Compare" || action->text() == "Comparar") action->trigger();
+  EXPECT_EQ(modals.Left(), 0u);
+  EXPECT_EQ(Core().conf.Digital[2].NOMBRE, "");
+}
+
+TEST_F(WindowTools, ShowsWhatIsThrownAndGoesOn) {
+  desktop->ShowFault(std::make_exception_ptr(std::runtime_error("odd")));
+  ASSERT_EQ(dialogs.boxes.size(), 1u);
+  EXPECT_NE(dialogs.boxes[0].text.find("odd"), std::string::npos);
+}
+
+}  // namespace
+}  // namespace ostrel

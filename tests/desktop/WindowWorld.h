@@ -1,0 +1,90 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <QCoreApplication>
+#include <QTemporaryDir>
+#include <memory>
+
+#include "desktop/Desktop.h"
+#include "desktop/Words.h"
+#include "platform/qt/QtFiles.h"
+#include "platform/virtual/LinePort.h"
+#include "platform/virtual/VirtualClock.h"
+#include "platform/virtual/VirtualDialogs.h"
+#include "platform/virtual/VirtualLoop.h"
+#include "platform/virtual/VirtualProcesses.h"
+#include "platform/virtual/VirtualSettings.h"
+#include "sim/Logger.h"
+
+namespace ostrel {
+
+/// A window's outside world: real files in a folder of its own, all else in memory.
+template <class Loop>
+struct WindowWorld {
+  static constexpr int kPort = 7;
+
+  WindowWorld() {
+    const std::string table =
+        FromQt(QCoreApplication::applicationDirPath()) + "/../share/ostrel-configurator/Lang.txt";
+    files.Create(Path("Lang.txt"));
+    files.Write(Path("Lang.txt"), files.Read(table).value_or(""));
+  }
+
+  std::string Path(const std::string& name) const { return FromQt(folder.filePath(ToQt(name))); }
+  std::string& Stored(const std::string& key) {
+    return settings.values[{"Quorvane", "Ostrel Configurator", key}];
+  }
+  /// Fills the store as a program that has run before does.
+  void StartBefore(const std::string& target, const std::string& language) {
+    Stored("Idioma") = language;
+    Stored("ComPort") = "7";
+    Stored("Target") = target;
+  }
+  /// Puts a simulated logger on the port.
+  void AddLogger(sim::Model model, const sim::Faults& faults = {}) {
+    port.AddDevice(kPort, "/dev/sim", "", [&](LineEnd& end) {
+      sim::LoggerOptions options = sim::MakeDefaultOptions(model);
+      options.faults = faults;
+      auto made = std::make_unique<sim::Logger>(loop, end, options);
+      logger = made.get();
+      logger->SetConf(sim::DemoConfiguration(model));
+      clock.SetNow(logger->Clock());
+      return made;
+    });
+  }
+  /// `asking` takes the place of the window's own dialogs, if set.
+  std::unique_ptr<Desktop> Make(Dialogs* asking = nullptr, bool ticking = true) {
+    return std::make_unique<Desktop>(
+        DesktopWorld{.loop = loop,
+                     .port = port,
+                     .settings = settings,
+                     .files = files,
+                     .processes = processes,
+                     .clock = clock,
+                     .dialogs = asking},
+        ConfiguratorOptions{
+            .programFolder = "/nowhere", .langFile = Path("Lang.txt"), .ticking = ticking},
+        FromQt(folder.path()));
+  }
+
+  QTemporaryDir folder;
+  Loop loop;
+  LinePort port{loop};
+  VirtualSettings settings;
+  QtFiles files;
+  VirtualProcesses processes;
+  VirtualClock clock;
+  sim::Logger* logger = nullptr;
+};
+
+/// The widget of a control of the page in front.
+template <class Widget = QWidget>
+Widget* On(Desktop& desktop, std::string_view control) {
+  FormView* front = desktop.Window().Pages().Front();
+  auto* widget = front ? dynamic_cast<Widget*>(front->WidgetOf(control)) : nullptr;
+  if (!widget) throw std::runtime_error("no widget for " + std::string(control));
+  return widget;
+}
+
+}  // namespace ostrel
