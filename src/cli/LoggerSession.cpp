@@ -44,12 +44,7 @@ ExitCode LoggerSession::Open() {
   if (!configurator_.session.Open(port_.number, context_.options.phone)) return OpenFault();
   if (interrupted_) return Failed();
   // What is sent depends on what the firmware can do: without knowing it nothing may start.
-  Comms& comms = configurator_.comms;
-  if (comms.InfoComplete()) return ExitCode::Done;
-  return Run([&comms] {
-    comms.ReadInfo();
-    return comms.InfoComplete();
-  });
+  return Run([this] { return configurator_.session.CompleteInfo(); });
 }
 
 ExitCode LoggerSession::OpenFault() {

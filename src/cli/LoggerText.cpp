@@ -10,14 +10,6 @@ std::string TwoDigits(int number) { return (number < 10 ? "0" : "") + std::to_st
 
 }  // namespace
 
-std::string VersionText(float hundredths) {
-  std::array<char, 64> text{};
-  const auto end =
-      std::to_chars(text.data(), text.data() + text.size(), static_cast<double>(hundredths) / 100,
-                    std::chars_format::fixed, 2);
-  return {text.data(), end.ptr};
-}
-
 std::string FeaturesText(std::int32_t features) {
   std::array<char, 8> text{};
   const auto end = std::to_chars(text.data(), text.data() + text.size(),

@@ -9,8 +9,6 @@
 
 namespace ostrel::cli {
 
-/// A firmware version in hundredths as "1.23".
-std::string VersionText(float hundredths);
 /// A feature mask as "0x10401".
 std::string FeaturesText(std::int32_t features);
 /// Reads a mask of up to eight hexadecimal digits, with or without "0x".

@@ -170,6 +170,8 @@ class Comms {
   // Lines.
   TakenLine TakeLine(int timeout, Starts starts);
   void TakeWaiting(TakenLine& line, Starts starts);
+  /// Swallows stale lines until none comes for `quietMs`. A source that never stops ends it too.
+  void Drain(bool (Comms::*receive)(int timeout), int quietMs);
   void Put(std::string_view octets);
   /// Waits until what was written is on the line. What flow control holds back for too long is
   /// discarded, so that it never reaches a logger late; the result is then false.

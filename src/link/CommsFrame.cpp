@@ -12,8 +12,8 @@ constexpr int kDrainMs = 100;
 constexpr int kAttempts = 3;
 /// Far above the longest answer of any logger.
 constexpr std::size_t kLongestLine = 64 * 1024;
-/// More stale frames than any stream has; a source that never stops must not hold a dialogue up.
-constexpr int kMostStaleFrames = 2000;
+/// More than any stream has.
+constexpr int kMostStaleLines = 2000;
 constexpr Duration kSendingExtra = std::chrono::milliseconds(500);
 
 bool StartsFrame(char c) { return c == '#'; }
@@ -37,8 +37,7 @@ void Comms::TxSer(std::string& message, int timeout) {
     Note("TxSer: ", plain);
   };
   if (timeout <= 0) return send();
-  for (int stale = 0; stale < kMostStaleFrames && RxSer(kDrainMs); ++stale) {
-  }
+  Drain(&Comms::RxSer, kDrainMs);
   damaged_ = false;
   for (int attempt = 0; attempt < kAttempts && Alive(); ++attempt) {
     send();
@@ -65,8 +64,7 @@ bool Comms::RxSer(int timeout) {
 
 void Comms::TxGsm(std::string_view command, int timeout) {
   if (!PortOpen()) return;
-  for (int stale = 0; stale < kMostStaleFrames && RxGsm(kDrainMs); ++stale) {
-  }
+  Drain(&Comms::RxGsm, kDrainMs);
   for (int attempt = 0; attempt < kAttempts && Alive(); ++attempt) {
     Put(ToCodePage(command) + kEndOfLine);
     Note("TxGsm: ", command);
@@ -116,6 +114,11 @@ void Comms::TakeWaiting(TakenLine& line, Starts starts) {
       line.tooLong = line.text.size() >= kLongestLine;
       if (!line.tooLong) line.text += c;
     }
+  }
+}
+
+void Comms::Drain(bool (Comms::*receive)(int), int quietMs) {
+  for (int stale = 0; stale < kMostStaleLines && (this->*receive)(quietMs); ++stale) {
   }
 }
 

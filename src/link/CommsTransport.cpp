@@ -14,8 +14,6 @@ constexpr int kGuardMs = 1000;
 constexpr int kBetweenPlusMs = 200;
 constexpr int kCodePasses = 3;
 constexpr int kReceiveBuffer = 8192;
-/// More frames than any logger sends at once; a source that never stops must not hold a start up.
-constexpr int kMostStaleFrames = 2000;
 
 LinkFault::Kind KindOf(PortFault fault) {
   switch (fault) {
@@ -76,8 +74,7 @@ bool Comms::OpenPort(std::int16_t number) {
 bool Comms::Connect(const std::string& phone) {
   if (phone.empty()) {
     ReplyTimeout = kCableReplyMs;
-    for (int stale = 0; stale < kMostStaleFrames && RxSer(kQuietLineMs); ++stale) {
-    }
+    Drain(&Comms::RxSer, kQuietLineMs);
   }
   return (phone.empty() || Dial(phone)) && Handshake();
 }

@@ -18,4 +18,7 @@ struct DeviceInfo {
   bool operator==(const DeviceInfo&) const = default;
 };
 
+/// A firmware version in hundredths as "1.23".
+std::string VersionText(float hundredths);
+
 }  // namespace ostrel

@@ -1,8 +1,5 @@
 #include "pages/General.h"
 
-#include <array>
-#include <charconv>
-
 #include "controls/NumberBox.h"
 #include "model/Assign.h"
 #include "model/Features.h"
@@ -19,15 +16,6 @@ constexpr std::string_view kVodafone = "+34607003110";
 constexpr std::string_view kOrange = "+34656000311";
 
 std::string PhoneKey(std::string_view word, int slot) { return std::string(word) + NumText(slot); }
-
-/// A version in hundredths as "1.23".
-std::string VersionText(float hundredths) {
-  std::array<char, 64> text{};
-  const auto end =
-      std::to_chars(text.data(), text.data() + text.size(), static_cast<double>(hundredths) / 100,
-                    std::chars_format::fixed, 2);
-  return {text.data(), end.ptr};
-}
 
 }  // namespace
 

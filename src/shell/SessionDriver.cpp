@@ -63,13 +63,10 @@ bool SessionDriver::Open(std::int16_t port, const std::string& phone) {
   return Connected_;
 }
 
-bool SessionDriver::OpenForCommand(std::int16_t port, const std::string& phone) {
-  constexpr int kFurtherTries = 2;
-  if (!Open(port, phone)) return false;
-  for (int i = 0; i < kFurtherTries && !comms_.InfoComplete(); ++i) comms_.ReadInfo();
-  if (comms_.InfoComplete()) return true;
-  Close(!phone.empty());
-  return false;
+bool SessionDriver::CompleteInfo() {
+  constexpr int kTries = 2;
+  for (int i = 0; i < kTries && !comms_.InfoComplete(); ++i) comms_.ReadInfo();
+  return comms_.InfoComplete();
 }
 
 void SessionDriver::Close(bool modem) {
@@ -128,8 +125,7 @@ bool SessionDriver::Transfer(std::string_view status, std::string_view success,
     form.SetMousePointer(Pointer::Default);
   });
   SetStatus(status);
-  // What the firmware can do decides how a configuration is read and written.
-  if (!comms_.InfoComplete()) comms_.ReadInfo();
+  CompleteInfo();
   const bool done = (comms_.*dialogue)();
   SetStatus(done ? success : "Error!");
   return done;

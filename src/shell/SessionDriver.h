@@ -20,9 +20,9 @@ class SessionDriver {
   void Tick();
   /// Opens a session on a port, through a modem when there is a phone number. True when it stands.
   bool Open(std::int16_t port, const std::string& phone);
-  /// Opens a session for a command, which has no ticks that would complete the information later:
-  /// what a firmware can do must be known before a transfer. False when it stays unknown.
-  bool OpenForCommand(std::int16_t port, const std::string& phone);
+  /// Asks for the information again where a damaged line has cut it short: what a firmware can do
+  /// decides how a configuration is read and written. False when it stays unknown.
+  bool CompleteInfo();
   /// Closes the session, hanging up when `modem` is set.
   void Close(bool modem);
   /// Downloads the configuration, showing how it goes. The result is that of the dialogue.

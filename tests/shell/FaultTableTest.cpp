@@ -61,8 +61,10 @@ class Road {
 
   Outcome Run() {
     Outcome out;
-    out.opened =
-        Timed(out.openTook, [&] { return program_.session.OpenForCommand(SimWorld::kPort, ""); });
+    out.opened = Timed(out.openTook, [&] {
+      return program_.session.Open(SimWorld::kPort, "") && program_.session.CompleteInfo();
+    });
+    if (!out.opened && program_.Connected) program_.session.Close(false);
     if (out.opened) {
       out.downloaded = Timed(out.downloadTook, [&] { return program_.session.Download(); });
       if (out.downloaded) {
