@@ -3,6 +3,7 @@
 #include <QCommandLineParser>
 #include <QFileInfo>
 #include <algorithm>
+#include <array>
 #include <cstdio>
 #include <cstdlib>
 #include <string_view>
@@ -42,9 +43,11 @@ std::string ReadTarget(const QString& name) {
 
 }  // namespace
 
-bool WantsPicture(int argc, char** argv) {
-  return std::any_of(argv, argv + argc, [](const char* argument) {
-    return std::string_view(argument).starts_with("--screenshot");
+bool NeedsNoDisplay(int argc, char** argv) {
+  constexpr std::array<std::string_view, 5> kWords{"-h", "--help", "--help-all", "-v", "--version"};
+  return std::any_of(argv, argv + argc, [&](std::string_view argument) {
+    return argument.starts_with("--screenshot") ||
+           std::find(kWords.begin(), kWords.end(), argument) != kWords.end();
   });
 }
 

@@ -21,9 +21,9 @@ struct CommandLine {
   bool demo = false;  ///< simulated loggers stand in the port list
 };
 
-/// Whether the arguments ask for a picture, which needs no display. Looked at ahead of everything
-/// else: the window system is chosen before the arguments can be read.
-bool WantsPicture(int argc, char** argv);
+/// Whether the arguments ask for something that needs no display: a picture, the help, the version.
+/// Looked at ahead of everything else: the window system is chosen before they can be read.
+bool NeedsNoDisplay(int argc, char** argv);
 
 /// Reads the arguments. Ends the program for `--help`, `--version` and wrong ones, as is usual.
 CommandLine ReadCommandLine(const QStringList& arguments);

@@ -157,7 +157,7 @@ void LayOutGeneral(FormView& view, const LayoutContext& context) {
   top->addWidget(LoggerCard(view).box, 5);
   heading->layout()->addWidget(HelpButton(view));
   auto* notice = Joined(view, {view.Show("Warning"), warning});
-  static_cast<QHBoxLayout*>(notice->layout())->setStretch(1, 1);
+  static_cast<QBoxLayout*>(notice->layout())->setStretch(1, 1);
   page->addWidget(heading);
   page->addWidget(notice);
   page->addLayout(top);

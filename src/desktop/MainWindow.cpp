@@ -69,6 +69,7 @@ MainWindow::MainWindow(const WindowParts& parts)
       return configurator_.context.Translate(text);
     };
     tree_->SetNodes(BuildNavigationTree(configurator_.profile, translate));
+    tree_->Select(shownNode_);
   };
   navigation_.OnFrontChanged = [this] {
     if (following_) ShowFront();
@@ -95,7 +96,8 @@ void MainWindow::Follow() {
   Retranslate();
   pages_->Redraw();
   ShowFront();
-  tree_->Select(configurator_.general.GetForm().Visible() ? "General" : "Tavro");
+  shownNode_ = configurator_.general.GetForm().Visible() ? "General" : "Tavro";
+  tree_->Select(shownNode_);
   tree_->Tree().setFocus();
   unsaved_.Keep();
   Look();
@@ -105,6 +107,7 @@ void MainWindow::Follow() {
 
 void MainWindow::GoTo(const std::string& key) {
   const NodeResult result = navigation_.NodeClick(key);
+  shownNode_ = key;
   tree_->Select(key);
   if (result == NodeResult::NotBuilt)
     pages_->ShowEmpty(Words::tr("This page does not exist in this version yet."));
@@ -122,11 +125,19 @@ void MainWindow::ShowFront() {
 
 void MainWindow::Look() {
   const auto now = parts_.platform.loop.Now();
-  link_->ShowState(LinkStateOf(configurator_));
+  const LinkState state = LinkStateOf(configurator_);
+  link_->ShowState(state);
+  EnableTools(state.kind != LinkState::Kind::Reading && state.kind != LinkState::Kind::Writing);
   if (const auto ended = transfer_.Look(now)) TransferEnded(*ended);
   ShowTransfer();
   ShowFault();
   if (looks_++ % kLooksPerSecond == 0) ShowTitle();
+}
+
+/// A transfer owns the model: nothing may be opened, saved or compared under it.
+void MainWindow::EnableTools(bool enabled) {
+  for (QAction* action : {open_, save_, recentFiles_, safetyCopies_, compare_, language_})
+    action->setEnabled(enabled);
 }
 
 void MainWindow::ShowTransfer() {

@@ -75,6 +75,7 @@ class MainWindow final : public QMainWindow {
   void ShowFront();
   void ShowTitle();
   void ShowFault();
+  void EnableTools(bool enabled);
   void ShowTransfer();
   void TransferEnded(LinkState::Kind kind);
   /// Whether the file at `ConfFilePath` holds the present configuration.
@@ -94,6 +95,7 @@ class MainWindow final : public QMainWindow {
   TransferWatch transfer_;
   PortWatch ports_;
   TreePane* tree_;
+  std::string shownNode_;  ///< key of the node in front
   PageArea* pages_;
   LinkPanel* link_;
   TraceView* trace_;

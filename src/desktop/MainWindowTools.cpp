@@ -128,6 +128,7 @@ void MainWindow::AskLanguage() {
   const auto before = configurator_.lang.SelectedLang();
   configurator_.AskLanguage();
   if (configurator_.lang.SelectedLang() == before) return;
+  configurator_.OnTargetChanged();  // the tree is translated when it is built
   UseLanguage(LanguageCode(configurator_.lang));
   Retranslate();
   pages_->Redraw();

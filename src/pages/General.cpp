@@ -11,6 +11,7 @@ namespace ostrel {
 namespace {
 
 constexpr std::string_view kSection = "GENERAL";
+constexpr int kStrongestSignal = 31;  // on the scale that modems report
 constexpr std::string_view kMovistar = "+34609090909";
 constexpr std::string_view kVodafone = "+34607003110";
 constexpr std::string_view kOrange = "+34656000311";
@@ -44,6 +45,7 @@ General::General(PageContext& context)
       WarningText(form_, "WarningText"),
       help_(form_, "Help", ""),
       Timer1_(form_, "Timer1", context.platform.loop, std::chrono::seconds(1)) {
+  RSSIBar.SetMaximum(kStrongestSignal);
   CSMMovi.OnClick = [this] { SelectCentre(kMovistar); };
   CSMVoda.OnClick = [this] { SelectCentre(kVodafone); };
   CSMAmen.OnClick = [this] { SelectCentre(kOrange); };

@@ -72,7 +72,7 @@ int RunWindow(const CommandLine& line) {
 }
 
 int Run(int argc, char** argv) {
-  if (WantsPicture(argc, argv)) qputenv("QT_QPA_PLATFORM", "offscreen");
+  if (NeedsNoDisplay(argc, argv)) qputenv("QT_QPA_PLATFORM", "offscreen");
   const QApplication application(argc, argv);
   QApplication::setApplicationName("ostrel-configurator");
   QApplication::setApplicationVersion(OSTREL_VERSION);
