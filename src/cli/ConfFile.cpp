@@ -1,30 +1,9 @@
 #include "cli/ConfFile.h"
 
-#include <algorithm>
-
-#include "cli/LoggerText.h"
+#include "shell/SafetyCopies.h"
 
 namespace ostrel::cli {
 namespace {
-
-/// A serial number as part of a file name.
-std::string NameOf(std::string_view serial) {
-  std::string name;
-  for (const char c : serial) {
-    const bool isPlain =
-        (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || c == '-';
-    name += isPlain ? c : '_';
-  }
-  return name.empty() ? "unknown" : name;
-}
-
-/// "20260302-090507".
-std::string StampOf(const DateTime& time) {
-  std::string stamp = ClockText(time);
-  std::erase_if(stamp, [](char c) { return c == '-' || c == ':'; });
-  std::ranges::replace(stamp, ' ', '-');
-  return stamp;
-}
 
 ExitCode CannotWrite(CommandContext& context, const std::string& path, const FileResult& result) {
   return context.console.Fail(ExitCode::BadFile, "cannot write " + path + ": " + result.error);
@@ -51,16 +30,11 @@ ExitCode TryToWrite(CommandContext& context, const std::string& path) {
 }
 
 ExitCode SaveBackup(CommandContext& context, Configurator& configurator, std::string& path) {
-  Environment& environment = context.environment;
-  const std::string folder = environment.dataFolder + "/backups";
-  if (const FileResult made = environment.files.MakeFolder(folder); !made.Ok())
-    return CannotWrite(context, folder, made);
-  const std::string name = folder + "/" + NameOf(configurator.info.SerialNumber) + "-" +
-                           StampOf(environment.clock.LocalNow());
-  path = name + ".ocf";
-  for (int next = 2; environment.files.Exists(path); ++next)
-    path = name + "-" + std::to_string(next) + ".ocf";
-  return SaveTo(context, configurator, path);
+  const Environment& environment = context.environment;
+  SafetyCopies copies(environment.files, environment.clock, environment.dataFolder);
+  const SafetyCopies::Kept kept = copies.Keep(configurator);
+  path = kept.path;
+  return kept.result.Ok() ? ExitCode::Done : CannotWrite(context, path, kept.result);
 }
 
 }  // namespace ostrel::cli

@@ -4,11 +4,6 @@
 #include <charconv>
 
 namespace ostrel::cli {
-namespace {
-
-std::string TwoDigits(int number) { return (number < 10 ? "0" : "") + std::to_string(number); }
-
-}  // namespace
 
 std::string FeaturesText(std::int32_t features) {
   std::array<char, 8> text{};
@@ -26,9 +21,7 @@ std::optional<std::int32_t> ReadFeatures(std::string_view text) {
 }
 
 std::string ClockText(const DateTime& time) {
-  if (time == DateTime{}) return {};
-  return std::to_string(time.year) + "-" + TwoDigits(time.month) + "-" + TwoDigits(time.day) + " " +
-         TwoDigits(time.hour) + ":" + TwoDigits(time.minute) + ":" + TwoDigits(time.second);
+  return time == DateTime{} ? std::string() : DateTimeText(time);
 }
 
 }  // namespace ostrel::cli

@@ -7,6 +7,7 @@
 #include "cli/Console.h"
 #include "controls/Controls.h"
 #include "platform/EventLoop.h"
+#include "shell/RemainingTime.h"
 
 namespace ostrel::cli {
 
@@ -26,20 +27,16 @@ class Progress {
 
  private:
   void Follow();
-  void Draw(int step);
+  void Draw();
 
   Console& console_;
   EventLoop& loop_;
   ProgressBar& bar_;
   std::string label_;
-  int steps_;
   bool isShown_;
-  TimePoint start_;
+  RemainingTime time_;
   int farthest_ = 0;
   std::string drawn_;
 };
-
-/// A length of time as "1:05" or "2:00:00".
-std::string DurationText(Duration duration);
 
 }  // namespace ostrel::cli

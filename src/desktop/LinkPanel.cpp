@@ -25,12 +25,6 @@ const char* ColourOf(const LinkState& state) {
 
 }  // namespace
 
-QString DurationWords(Duration duration) {
-  const auto seconds = std::chrono::ceil<std::chrono::seconds>(duration).count();
-  return QString::number(seconds / 60) + ":" +
-         QString::number(seconds % 60).rightJustified(2, u'0');
-}
-
 LinkPanel::LinkPanel(QWidget* parent)
     : QWidget(parent),
       lamp_(new QLabel(this)),
@@ -60,12 +54,12 @@ void LinkPanel::ShowState(const LinkState& state) {
   lamp_->setStyleSheet(QString("background: %1; border-radius: 6px;").arg(ColourOf(state)));
 }
 
-void LinkPanel::ShowProgress(int done, int steps, std::optional<Duration> left) {
+void LinkPanel::ShowProgress(int done, int steps, const QString& left) {
   bar_->setMaximum(steps);
   bar_->setValue(done);
   bar_->setVisible(true);
   left_->setVisible(true);
-  left_->setText(left ? Words::tr("%1 left").arg(DurationWords(*left)) : QString());
+  left_->setText(left);
 }
 
 void LinkPanel::HideProgress() {

@@ -3,10 +3,8 @@
 #include <QLabel>
 #include <QProgressBar>
 #include <QWidget>
-#include <optional>
 
 #include "desktop/LinkState.h"
-#include "platform/Time.h"
 
 namespace ostrel {
 
@@ -16,8 +14,8 @@ class LinkPanel final : public QWidget {
   explicit LinkPanel(QWidget* parent);
 
   void ShowState(const LinkState& state);
-  /// Shows a transfer of `steps` steps at step `done`, with what is left where that is known.
-  void ShowProgress(int done, int steps, std::optional<Duration> left);
+  /// Shows a transfer of `steps` steps at step `done`, and words on the time left.
+  void ShowProgress(int done, int steps, const QString& left);
   void HideProgress();
   QString StateWords() const { return words_->text(); }
 
@@ -27,8 +25,5 @@ class LinkPanel final : public QWidget {
   QProgressBar* bar_;
   QLabel* left_;
 };
-
-/// A length of time as "1:05", rounded up to whole seconds.
-QString DurationWords(Duration duration);
 
 }  // namespace ostrel

@@ -143,9 +143,10 @@ void MainWindow::EnableTools(bool enabled) {
 void MainWindow::ShowTransfer() {
   QString words;
   if (transfer_.Running()) {
-    const auto left = transfer_.Time().Left(parts_.platform.loop.Now());
-    link_->ShowProgress(transfer_.Time().Done(), transfer_.Time().Steps(), left);
-    if (left) words = Words::tr("%1 left").arg(DurationWords(*left));
+    const RemainingTime& time = transfer_.Time();
+    if (const auto left = time.Left(parts_.platform.loop.Now()))
+      words = Words::tr("%1 left").arg(ToQt(DurationText(*left)));
+    link_->ShowProgress(time.Done(), time.Steps(), words);
   } else {
     link_->HideProgress();
   }
@@ -177,7 +178,7 @@ void MainWindow::ShowTitle() {
 void MainWindow::TransferEnded(LinkState::Kind kind) {
   if (configurator_.comms.Fault().kind != LinkFault::Kind::None) return;
   unsaved_.Keep();
-  const FileResult kept = copies_.Keep(configurator_);
+  const FileResult kept = copies_.Keep(configurator_).result;
   if (!kept.Ok())
     statusBar()->showMessage(Words::tr("No safety copy could be kept: %1").arg(ToQt(kept.error)),
                              10'000);

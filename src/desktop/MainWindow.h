@@ -11,13 +11,13 @@
 #include "desktop/PortWatch.h"
 #include "desktop/QtDialogs.h"
 #include "desktop/RecentFiles.h"
-#include "desktop/SafetyCopies.h"
 #include "desktop/TraceView.h"
 #include "desktop/TransferWatch.h"
 #include "desktop/TreePane.h"
 #include "desktop/UnsavedMark.h"
 #include "platform/Platform.h"
 #include "shell/Navigation.h"
+#include "shell/SafetyCopies.h"
 
 class QAction;
 class QMenu;

@@ -7,6 +7,7 @@
 #include <QToolBar>
 #include <QToolButton>
 #include <QUrl>
+#include <algorithm>
 
 #include "desktop/CompareDialog.h"
 #include "desktop/ConfigurationReader.h"
@@ -21,7 +22,7 @@
 namespace ostrel {
 namespace {
 
-constexpr int kCopiesOffered = 15;
+constexpr qsizetype kCopiesOffered = 15;
 constexpr int kMessageTime = 10'000;  // ms
 
 }  // namespace
@@ -105,12 +106,13 @@ void MainWindow::OpenPath(const std::string& path) {
 
 void MainWindow::Save() {
   navigation_.CommitFront();
-  if (!configurator_.AskAndSave()) return;
+  const auto saved = configurator_.AskAndSave();
+  if (!saved) return;
   Reached(configurator_.ConfFilePath);
-  if (unsaved_.Changed())
+  if (!saved->Ok())
     parts_.platform.dialogs.ShowMessage(
-        {.text = FromQt(
-             Words::tr("The file could not be written: %1").arg(ToQt(configurator_.ConfFilePath))),
+        {.text = FromQt(Words::tr("%1 could not be written: %2")
+                            .arg(ToQt(configurator_.ConfFilePath), ToQt(saved->error))),
          .title = configurator_.profile.TargetName,
          .icon = BoxIcon::Exclamation});
 }
@@ -145,9 +147,12 @@ void MainWindow::FillRecent(QMenu& menu) {
 }
 
 void MainWindow::FillCopies(QMenu& menu) {
-  for (const QString& path : copies_.Newest(kCopiesOffered))
-    menu.addAction(QFileInfo(path).completeBaseName(), this,
-                   [this, path] { parts_.guard([&] { OpenPath(FromQt(path)); }); });
+  const QFileInfoList copies =
+      QDir(ToQt(copies_.Folder())).entryInfoList({"*.ocf"}, QDir::Files, QDir::Time);
+  for (const QFileInfo& copy : copies.first(std::min(copies.size(), kCopiesOffered)))
+    menu.addAction(copy.completeBaseName(), this, [this, path = copy.absoluteFilePath()] {
+      parts_.guard([&] { OpenPath(FromQt(path)); });
+    });
   if (menu.isEmpty()) menu.addAction(Words::tr("No copies yet"))->setEnabled(false);
   menu.addSeparator();
   menu.addAction(Words::tr("Show the folder"), this, [this] {

@@ -4,8 +4,8 @@
 #include <string>
 
 #include "desktop/LinkState.h"
-#include "desktop/RemainingTime.h"
 #include "platform/Settings.h"
+#include "shell/RemainingTime.h"
 
 namespace ostrel {
 

@@ -3,6 +3,7 @@
 #include <chrono>
 #include <compare>
 #include <cstdint>
+#include <string>
 
 namespace ostrel {
 
@@ -27,6 +28,9 @@ constexpr bool IsValid(const DateTime& t) {
   return t.month > 0 && t.day > 0 && date.ok() && t.hour >= 0 && t.hour < 24 && t.minute >= 0 &&
          t.minute < 60 && t.second >= 0 && t.second < 60;
 }
+
+/// "2026-03-02 09:05:07".
+std::string DateTimeText(const DateTime& time);
 
 /// Seconds since 1 January 1970 at midnight, without time zones.
 constexpr std::int64_t ToSeconds(const DateTime& t) {

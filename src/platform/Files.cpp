@@ -7,14 +7,12 @@ constexpr int kTemporaryNames = 100;
 
 /// Makes the first free one of the names beside `target`.
 FileResult CreateBeside(Files& files, const std::string& target, std::string& temporary) {
-  FileResult result;
   for (int i = 0; i < kTemporaryNames; ++i) {
     temporary = target + ".new" + std::to_string(i);
     if (files.Exists(temporary)) continue;
-    result = files.Create(temporary);
-    return result;
+    return files.Create(temporary);
   }
-  return {"too many temporary files beside " + target};
+  return {"too many temporary files beside it"};
 }
 
 }  // namespace

@@ -6,7 +6,8 @@
 
 namespace ostrel {
 
-/// What a file operation came to: empty text for success, else words of the system on what failed.
+/// What a file operation came to: empty text for success, else the system's words on why it failed,
+/// without the path.
 struct FileResult {
   std::string error;
 

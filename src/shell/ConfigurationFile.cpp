@@ -110,14 +110,13 @@ bool Configurator::AskAndOpen() {
   return true;
 }
 
-bool Configurator::AskAndSave() {
+std::optional<FileResult> Configurator::AskAndSave() {
   const auto path = platform_.dialogs.ChooseFile({.mode = FileQuestion::Mode::Save,
                                                   .filter = context.Translate(kFileFilter),
                                                   .overwritePrompt = true});
-  if (!path) return false;
+  if (!path) return {};
   ConfFilePath = *path;
-  if (!ConfFilePath.empty()) SaveConf();
-  return true;
+  return ConfFilePath.empty() ? FileResult{} : SaveConf();
 }
 
 }  // namespace ostrel

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -70,9 +71,11 @@ class Configurator {
   RestoreResult RestoreConf();
   /// Opens a file that the operator has chosen: restores it and brings the general page up to it.
   RestoreResult OpenFile(const std::string& path);
-  /// The tool bar's "Abrir" and "Guardar": ask for a path; false when the operator cancels.
+  /// The tool bar's "Abrir": asks for a path; false when the operator cancels.
   bool AskAndOpen();
-  bool AskAndSave();
+  /// The tool bar's "Guardar": asks for a path. Nothing when the operator cancels, else what
+  /// writing came to, for those who show it.
+  std::optional<FileResult> AskAndSave();
 
   // Language.
   /// The tool bar's "Idioma": asks, then shows every caption in the language chosen.

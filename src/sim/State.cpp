@@ -12,17 +12,6 @@ namespace {
 constexpr int kFormat = 1;
 constexpr std::string_view kFormatKey = "ostrel-sim-state";
 
-std::string ClockText(const DateTime& t) {
-  std::string text;
-  const int parts[] = {t.year, t.month, t.day, t.hour, t.minute, t.second};
-  constexpr std::string_view kBehind = "-- ::";
-  for (std::size_t i = 0; i < std::size(parts); ++i) {
-    AppendPadded(text, parts[i], i == 0 ? 4 : 2);
-    if (i < kBehind.size()) text += kBehind[i];
-  }
-  return text;
-}
-
 /// Reads "2026-01-15 08:30:05"; an invalid time when it is none.
 DateTime ReadClockText(std::string_view text) {
   constexpr std::string_view kForm = "0000-00-00 00:00:00";
@@ -73,7 +62,7 @@ std::string Logger::SaveState() const {
   StateWriter out;
   out(std::string(kFormatKey), std::int64_t{kFormat});
   out("model", std::string(Self().Traits().word));
-  out("clock", ClockText(Clock()));
+  out("clock", DateTimeText(Clock()));
   out("outputs", std::int64_t{outputs_});
   for (int i = 0; i < Self().Traits().flows; ++i)
     out("total." + std::to_string(i), std::int64_t{Total(i)});

@@ -4,10 +4,8 @@
 #include "cli/Fields.h"
 #include "cli/Json.h"
 #include "cli/LoggerText.h"
-#include "cli/Progress.h"
 #include "cli/SimOptions.h"
 #include "cli/World.h"
-#include "shell/LangSeed.h"
 
 namespace ostrel::cli {
 namespace {
@@ -46,8 +44,6 @@ TEST(Texts, OfNumbersAndNames) {
   for (const std::string_view wrong : {"", "0x", "g", "1 ", "100000000"})
     EXPECT_EQ(ReadFeatures(wrong), std::nullopt) << wrong;
   EXPECT_EQ(ClockText({2026, 3, 2, 9, 5, 7}), "2026-03-02 09:05:07");
-  EXPECT_EQ(DurationText(std::chrono::milliseconds(64'001)), "1:05");
-  EXPECT_EQ(DurationText(std::chrono::hours(2)), "2:00:00");
   EXPECT_EQ(Printable("a\x1B\xC3\xB3\xFF"), "a\\x1b\xC3\xB3\\xff");
   const NumberedName list = SplitName("ACTHI( 1 12)");
   EXPECT_EQ(list.word, "ACTHI");
@@ -56,35 +52,6 @@ TEST(Texts, OfNumbersAndNames) {
   EXPECT_EQ(SplitName("GENERAL").numbers.size(), 0U);
   EXPECT_EQ(SectionWords("NUEVO 3"), "NUEVO 3") << "a record needs no words of its own";
   EXPECT_EQ(KeyWords("NUEVO( 0)"), "");
-}
-
-TEST(LangSeed, MakesTheWorkingCopyAndBringsWhatIsNew) {
-  VirtualFiles files;
-  EXPECT_EQ(SeedLang(files, "/s/Lang.txt", "/u/Lang.txt"), "/u/Lang.txt");
-  EXPECT_TRUE(files.contents.empty()) << "no installed table, no copy";
-  files.contents["/s/Lang.txt"] = "{ES}{EN}\r\n{Uno}{One}\r\n";
-  SeedLang(files, "/s/Lang.txt", "/u/Lang.txt");
-  EXPECT_EQ(files.contents["/u/Lang.txt"], files.contents["/s/Lang.txt"]);
-  files.contents["/u/Lang.txt"] = "{ES}{EN}\r\n{Uno}{Mine}\r\n{Dos}\r\n\r\n";
-  files.contents["/s/Lang.txt"] = "{ES}{EN}\r\n{Uno}{One}\r\n{Dos}{Two}\r\n{Tres}{Three}\r\n";
-  SeedLang(files, "/s/Lang.txt", "/u/Lang.txt");
-  EXPECT_EQ(files.contents["/u/Lang.txt"],
-            "{ES}{EN}\r\n{Uno}{Mine}\r\n{Dos}{Two}\r\n\r\n{Tres}{Three}\r\n");
-  const std::size_t changes = files.log.size();
-  SeedLang(files, "/s/Lang.txt", "/u/Lang.txt");
-  EXPECT_EQ(files.log.size(), changes) << "a copy that is up to date is left alone";
-}
-
-TEST(LangSeed, NeverOverfillsTheTable) {
-  VirtualFiles files;
-  std::string rows;
-  for (int row = 0; row < 399; ++row) rows += "{own " + std::to_string(row) + "}\r\n";
-  files.contents["/u/Lang.txt"] = rows;
-  files.contents["/s/Lang.txt"] = "{ES}{EN}\r\n{Uno}{One}\r\n{Dos}{Two}\r\n";
-  SeedLang(files, "/s/Lang.txt", "/u/Lang.txt");
-  Lang lang(files, "/u/Lang.txt");
-  EXPECT_TRUE(lang.Init());
-  EXPECT_LE(lang.LangCount(), 400);
 }
 
 TEST(SimOptions, AreReadOrRefusedInOneLine) {

@@ -19,7 +19,6 @@
 #include "desktop/HelpProcesses.h"
 #include "desktop/Language.h"
 #include "desktop/LinkPanel.h"
-#include "desktop/RemainingTime.h"
 #include "lang/Help.h"
 
 namespace ostrel {
@@ -27,22 +26,6 @@ namespace {
 
 using std::chrono::seconds;
 using testing::ElementsAre;
-
-TEST(RemainingTime, FollowsTheSpeedAndStartsAnewWithEachAttempt) {
-  RemainingTime time;
-  time.Start(seconds(10), 100);
-  time.Step(seconds(10), 5);
-  EXPECT_FALSE(time.Left(seconds(10)));
-  time.Step(seconds(20), 25);
-  EXPECT_EQ(time.Left(seconds(20)), seconds(30));
-  EXPECT_EQ(time.Left(seconds(24)), seconds(26));
-  EXPECT_EQ(time.Left(seconds(99)), seconds(0));
-  time.Step(seconds(100), 1);
-  EXPECT_FALSE(time.Left(seconds(100)));
-  time.Step(seconds(110), 130);
-  EXPECT_EQ(time.Left(seconds(110)), seconds(0));
-  EXPECT_EQ(DurationWords(std::chrono::milliseconds(64'100)), "1:05");
-}
 
 TEST(RecentFiles, KeepTheNewestFirstAndEachOnce) {
   VirtualSettings settings;
@@ -160,6 +143,12 @@ class WindowTools : public testing::Test, protected WindowWorld<VirtualLoop> {
   }
   Configurator& Core() { return desktop->Core(); }
   MainWindow& Window() { return desktop->Window(); }
+  /// The tool of a text; the tools are made in Spanish.
+  QAction* Tool(const QString& text) {
+    for (QAction* action : Window().findChild<QToolBar*>("Tools")->actions())
+      if (action->text() == text) return action;
+    throw std::invalid_argument("no tool " + FromQt(text));
+  }
   /// Asks for a session on the logger's port.
   void Connect() {
     SessionFrame& session = Core().general.Session();
@@ -255,10 +244,7 @@ TEST_F(WindowTools, TellsWhereADownloadBrokeOffAndTracesTheLine) {
   AddLogger(sim::Model::BP, {*sim::ParseFault("silent-after-record@9", error)});
   Connect();
   auto* trace = Window().findChild<QDockWidget*>("Trace");
-  auto* bar = Window().findChild<QToolBar*>("Tools");
-  QAction* traceSwitch = nullptr;
-  for (QAction* action : bar->actions())
-    if (action->isCheckable()) traceSwitch = action;
+  QAction* traceSwitch = Tool("Traza");
   traceSwitch->trigger();
   Core().general.Session().Leer.Click();
   auto* state = Window().findChild<QLabel*>("LinkState");
@@ -320,10 +306,21 @@ TEST_F(WindowTools, ComparesWithAFileWithoutTouchingAnything) {
     EXPECT_EQ(modal->findChild<QLabel*>("Summary")->text(), "1 field differs.");
     Press(modal, Qt::Key_Escape);
   });
-  for (QAction* action : Window().findChild<QToolBar*>("Tools")->actions())
-    if (action->text() == "Compare" || action->text() == "Comparar") action->trigger();
+  Tool("Comparar")->trigger();
   EXPECT_EQ(modals.Left(), 0u);
   EXPECT_EQ(Core().conf.Digital[2].NOMBRE, "");
+}
+
+TEST_F(WindowTools, SaysWhyAFileCouldNotBeWritten) {
+  UseLanguage("en");
+  dialogs.ChoosePath(Path("none/a.ocf"));
+  Tool("Guardar")->trigger();
+  ASSERT_EQ(dialogs.boxes.size(), 1u);
+  EXPECT_EQ(dialogs.boxes[0].text,
+            Path("none/a.ocf") + " could not be written: No such file or directory");
+  dialogs.ChoosePath(Path("a.ocf"));
+  Tool("Guardar")->trigger();
+  EXPECT_EQ(dialogs.boxes.size(), 1u);
 }
 
 TEST_F(WindowTools, ShowsWhatIsThrownAndGoesOn) {

@@ -448,8 +448,8 @@
         <translation>Mostrar lo que pasa por la línea</translation>
     </message>
     <message>
-        <source>The file could not be written: %1</source>
-        <translation>No se ha podido escribir el archivo: %1</translation>
+        <source>%1 could not be written: %2</source>
+        <translation>No se ha podido escribir %1: %2</translation>
     </message>
     <message>
         <source>No files yet</source>

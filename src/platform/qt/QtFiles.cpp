@@ -39,9 +39,9 @@ class Handle {
 };
 
 /// Result of a call that has just failed or, with `ok`, has not.
-FileResult Outcome(bool ok, const std::string& path) {
+FileResult Outcome(bool ok) {
   if (ok) return {};
-  return {path + ": " + std::generic_category().message(errno)};
+  return {std::generic_category().message(errno)};
 }
 
 bool SyncHandle(int handle) {
@@ -97,38 +97,36 @@ std::string QtFiles::Resolve(const std::string& path) {
 
 FileResult QtFiles::Create(const std::string& path) {
   const Handle file(path, O_WRONLY | O_CREAT | O_EXCL);
-  return Outcome(bool(file), path);
+  return Outcome(bool(file));
 }
 
 FileResult QtFiles::Write(const std::string& path, std::string_view octets) {
   Handle file(path, O_WRONLY | O_TRUNC);
-  return Outcome(file && WriteAll(file.Number(), octets) && file.Close(), path);
+  return Outcome(file && WriteAll(file.Number(), octets) && file.Close());
 }
 
 FileResult QtFiles::Sync(const std::string& path) {
   const Handle file(path, O_WRONLY);
-  return Outcome(file && SyncHandle(file.Number()), path);
+  return Outcome(file && SyncHandle(file.Number()));
 }
 
 FileResult QtFiles::Rename(const std::string& from, const std::string& to) {
-  if (std::rename(from.c_str(), to.c_str()) != 0) return Outcome(false, to);
+  if (std::rename(from.c_str(), to.c_str()) != 0) return Outcome(false);
   const fs::path folder = fs::path(to).parent_path();
   const Handle handle(folder.empty() ? "." : folder.string(), O_RDONLY | O_DIRECTORY);
   // A folder that cannot be read or synced, as on some network drives, is no reason to fail.
   const bool synced = !handle || SyncHandle(handle.Number()) || errno == EINVAL;
-  return Outcome(synced, to);
+  return Outcome(synced);
 }
 
-FileResult QtFiles::Remove(const std::string& path) {
-  return Outcome(::unlink(path.c_str()) == 0, path);
-}
+FileResult QtFiles::Remove(const std::string& path) { return Outcome(::unlink(path.c_str()) == 0); }
 
 FileResult QtFiles::MakeFolder(const std::string& path) {
   std::error_code error;
   fs::create_directories(path, error);
   std::error_code ignored;
   if (fs::is_directory(path, ignored)) return {};
-  return {path + ": " + (error ? error.message() : "is no folder")};
+  return {error ? error.message() : "is no folder"};
 }
 
 }  // namespace ostrel

@@ -55,8 +55,8 @@ std::string VirtualFiles::Resolve(const std::string& path) {
 }
 
 FileResult VirtualFiles::Create(const std::string& path) {
-  if (Fails(Change::Create, path)) return {"cannot create " + path};
-  if (contents.contains(path) || links.contains(path)) return {path + " exists"};
+  if (Fails(Change::Create, path)) return {"cannot create"};
+  if (contents.contains(path) || links.contains(path)) return {"exists"};
   contents[path];
   return {};
 }
@@ -64,32 +64,32 @@ FileResult VirtualFiles::Create(const std::string& path) {
 FileResult VirtualFiles::Write(const std::string& path, std::string_view octets) {
   const bool fails = Fails(Change::Write, path);
   const auto found = contents.find(Resolve(path));
-  if (found == contents.end()) return {"no file " + path};
+  if (found == contents.end()) return {"no such file"};
   found->second = octets.substr(0, fails ? octets.size() / 2 : octets.size());
-  return {fails ? "no space left for " + path : ""};
+  return {fails ? "no space left" : ""};
 }
 
 FileResult VirtualFiles::Sync(const std::string& path) {
-  if (Fails(Change::Sync, path)) return {"cannot sync " + path};
-  return {contents.contains(Resolve(path)) ? "" : "no file " + path};
+  if (Fails(Change::Sync, path)) return {"cannot sync"};
+  return {contents.contains(Resolve(path)) ? "" : "no such file"};
 }
 
 FileResult VirtualFiles::Rename(const std::string& from, const std::string& to) {
-  if (Fails(Change::Rename, from + " " + to)) return {"cannot rename " + from};
+  if (Fails(Change::Rename, from + " " + to)) return {"cannot rename"};
   auto moved = contents.extract(from);
-  if (moved.empty()) return {"no file " + from};
+  if (moved.empty()) return {"no such file"};
   links.erase(to);
   contents[to] = std::move(moved.mapped());
   return {};
 }
 
 FileResult VirtualFiles::Remove(const std::string& path) {
-  if (Fails(Change::Remove, path)) return {"cannot remove " + path};
-  return {contents.erase(path) + links.erase(path) > 0 ? "" : "no file " + path};
+  if (Fails(Change::Remove, path)) return {"cannot remove"};
+  return {contents.erase(path) + links.erase(path) > 0 ? "" : "no such file"};
 }
 
 FileResult VirtualFiles::MakeFolder(const std::string& path) {
-  if (Fails(Change::MakeFolder, path)) return {"cannot make folder " + path};
+  if (Fails(Change::MakeFolder, path)) return {"cannot make the folder"};
   folders.insert(path);
   return {};
 }

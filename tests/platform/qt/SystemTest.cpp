@@ -17,7 +17,6 @@ namespace {
 
 namespace fs = std::filesystem;
 using testing::ElementsAre;
-using testing::HasSubstr;
 
 class SystemTest : public testing::Test {
  protected:
@@ -53,7 +52,7 @@ TEST_F(SystemTest, SavesThroughALinkWithThePermissionsOfANewFile) {
 
 TEST_F(SystemTest, FilesTellWhatFailed) {
   EXPECT_TRUE(files.Create(Path("a")).Ok());
-  EXPECT_THAT(files.Create(Path("a")).error, HasSubstr(Path("a") + ": "));
+  EXPECT_EQ(files.Create(Path("a")).error, "File exists");
   EXPECT_FALSE(files.MakeFolder(Path("a/b")).Ok());
   EXPECT_FALSE(files.Write(Path("none"), "x").Ok());
   EXPECT_FALSE(files.Sync(Path("none")).Ok());

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <optional>
+#include <string>
 
 #include "platform/Time.h"
 
@@ -24,5 +25,8 @@ class RemainingTime {
   int steps_ = 1;
   int done_ = 0;
 };
+
+/// A length of time as "1:05" or "2:00:00", part seconds counted as whole ones.
+std::string DurationText(Duration duration);
 
 }  // namespace ostrel

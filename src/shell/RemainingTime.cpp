@@ -1,4 +1,4 @@
-#include "desktop/RemainingTime.h"
+#include "shell/RemainingTime.h"
 
 #include <algorithm>
 
@@ -16,7 +16,7 @@ void RemainingTime::Start(TimePoint now, int steps) {
 }
 
 void RemainingTime::Step(TimePoint now, int step) {
-  if (step < done_) start_ = now;
+  if (step == 0 || step < done_) start_ = now;
   done_ = step;
   steps_ = std::max(steps_, step);
   lastStep_ = now;
@@ -28,6 +28,18 @@ std::optional<Duration> RemainingTime::Left(TimePoint now) const {
   // The speed is that of the steps done; waiting for the next one is taken off what is left.
   const Duration left = worked * (steps_ - done_) / done_ - (now - lastStep_);
   return std::max(left, Duration::zero());
+}
+
+std::string DurationText(Duration duration) {
+  const auto seconds = std::chrono::ceil<std::chrono::seconds>(duration).count();
+  const bool hasHours = seconds >= 3600;
+  const auto twoDigits = [](auto number) {
+    return (number < 10 ? "0" : "") + std::to_string(number);
+  };
+  const std::string minutes =
+      hasHours ? std::to_string(seconds / 3600) + ":" + twoDigits(seconds / 60 % 60)
+               : std::to_string(seconds / 60);
+  return minutes + ":" + twoDigits(seconds % 60);
 }
 
 }  // namespace ostrel

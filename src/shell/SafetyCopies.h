@@ -1,0 +1,36 @@
+#pragma once
+
+#include <string>
+
+#include "platform/Clock.h"
+#include "platform/Files.h"
+
+namespace ostrel {
+
+class Configurator;
+
+/// The folder of the configurations that loggers were known to hold, named by serial number and
+/// time: "Q1234567-20260302-090507.ocf".
+class SafetyCopies {
+ public:
+  /// What keeping a copy came to, and where it stands.
+  struct Kept {
+    FileResult result;
+    std::string path;
+  };
+
+  SafetyCopies(Files& files, const Clock& clock, const std::string& dataFolder)
+      : files_(files), clock_(clock), folder_(dataFolder + "/backups") {}
+
+  /// Keeps the present configuration as what the logger named by the information holds. A copy that
+  /// stands is never overwritten; the path of the configuration file stays as it is.
+  Kept Keep(Configurator& configurator);
+  const std::string& Folder() const { return folder_; }
+
+ private:
+  Files& files_;
+  const Clock& clock_;
+  std::string folder_;
+};
+
+}  // namespace ostrel
