@@ -52,7 +52,8 @@ void AssignAccessKeys(QWidget& root, std::set<QChar> taken) {
     button->setText(WithAccessKey(caption, taken));
   }
   for (auto* label : root.findChildren<QLabel*>()) {
-    if (!label->buddy() || label->isHidden()) continue;
+    if (!label->buddy() || label->buddy()->focusPolicy() == Qt::NoFocus || label->isHidden())
+      continue;
     label->setText(WithAccessKey(WithoutAccessKey(label->text()), taken));
   }
 }

@@ -6,9 +6,11 @@
 #include <array>
 #include <cstdio>
 #include <cstdlib>
+#include <string>
 #include <string_view>
 
 #include "desktop/Words.h"
+#include "lang/Lang.h"
 #include "model/TargetProfile.h"
 
 namespace ostrel {
@@ -26,6 +28,14 @@ Scheme ReadScheme(const QString& word) {
   if (word == "dark") return Scheme::Dark;
   if (word != "system") Refuse("--scheme is light, dark or system");
   return Scheme::System;
+}
+
+int ReadLanguage(const QString& text) {
+  bool isNumber = false;
+  const int column = text.toInt(&isNumber);
+  if (!isNumber || column < 0 || column >= kLangColumns)
+    Refuse("--language is a number from 0 to " + std::to_string(kLangColumns - 1));
+  return column;
 }
 
 QSize ReadSize(const QString& text) {
@@ -69,13 +79,16 @@ CommandLine ReadCommandLine(const QStringList& arguments) {
   });
   parser.process(arguments);
   if (parser.positionalArguments().size() > 1) Refuse("one FILE at the most");
+  for (const auto* option : {"target", "page", "language", "size"})
+    if (parser.isSet(option) && !parser.isSet("screenshot"))
+      Refuse("--" + std::string(option) + " goes with --screenshot alone");
   CommandLine line;
   if (!parser.positionalArguments().isEmpty())
     line.file = FromQt(QFileInfo(parser.positionalArguments().first()).absoluteFilePath());
   line.target = ReadTarget(parser.value("target"));
   line.page = FromQt(parser.value("page"));
   line.screenshot = FromQt(parser.value("screenshot"));
-  line.language = parser.value("language").toInt();
+  line.language = ReadLanguage(parser.value("language"));
   line.size = ReadSize(parser.value("size"));
   line.scheme = ReadScheme(parser.value("scheme"));
   line.demo = parser.isSet("demo");

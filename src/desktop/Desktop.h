@@ -45,7 +45,6 @@ class Desktop {
  private:
   void Guarded(const std::function<void()>& run);
 
-  std::function<QWidget*()> parent_;
   QtDialogs qtDialogs_;
   Platform platform_;
   Configurator configurator_;

@@ -3,7 +3,9 @@
 #include <QCoreApplication>
 #include <QCursor>
 #include <QPixmap>
+#include <algorithm>
 
+#include "desktop/ConfigurationReader.h"
 #include "desktop/Demo.h"
 #include "desktop/Desktop.h"
 #include "desktop/Words.h"
@@ -14,6 +16,7 @@
 #include "platform/virtual/VirtualFiles.h"
 #include "platform/virtual/VirtualProcesses.h"
 #include "platform/virtual/VirtualSettings.h"
+#include "shell/NavigationTree.h"
 
 namespace ostrel {
 namespace {
@@ -40,6 +43,12 @@ QPixmap DialogPicture(Desktop& desktop, VirtualDialogs& dialogs, const std::stri
   return picture;
 }
 
+bool HasNode(const TargetProfile& model, const std::string& key) {
+  const auto nodes =
+      BuildNavigationTree(model, [](std::string_view text) { return std::string(text); });
+  return std::ranges::find(nodes, key, &TreeNode::key) != nodes.end();
+}
+
 QPixmap PagePicture(Desktop& desktop, const CommandLine& line) {
   MainWindow& window = desktop.Window();
   if (!line.page.empty()) window.GoTo(line.page);
@@ -54,7 +63,7 @@ QPixmap PagePicture(Desktop& desktop, const CommandLine& line) {
 
 }  // namespace
 
-bool TakeScreenshot(const CommandLine& line, const std::string& langFile) {
+std::string TakeScreenshot(const CommandLine& line, const std::string& langFile) {
   QtEventLoop loop;
   VirtualSettings settings;
   settings.Set(kApplication, kSection, "Idioma", std::to_string(line.language));
@@ -66,7 +75,7 @@ bool TakeScreenshot(const CommandLine& line, const std::string& langFile) {
   files.contents[kTable] = disk.Read(langFile).value_or("");
   if (!line.file.empty()) {
     const auto content = disk.Read(line.file);
-    if (!content) return false;
+    if (!content) return "cannot read " + line.file;
     files.contents[kConfiguration] = *content;
   }
   VirtualClock clock;
@@ -83,9 +92,17 @@ bool TakeScreenshot(const CommandLine& line, const std::string& langFile) {
                    .dialogs = &dialogs},
                   {.programFolder = {}, .langFile = kTable, .ticking = true}, {});
   desktop.Start(line.file.empty() ? "" : kConfiguration);
+  const Configurator& core = desktop.Core();
+  if (!line.file.empty() &&
+      !ReadConfiguration(core.context.platform, core.profile.TargetName, kConfiguration))
+    return line.file + " is no configuration file";
   QPixmap picture = DialogPicture(desktop, dialogs, line.page);
-  if (picture.isNull()) picture = PagePicture(desktop, line);
-  return picture.save(ToQt(line.screenshot), "PNG");
+  if (picture.isNull()) {
+    if (!line.page.empty() && !HasNode(core.profile, line.page))
+      return "there is no page " + line.page + " for the " + core.profile.TargetName;
+    picture = PagePicture(desktop, line);
+  }
+  return picture.save(ToQt(line.screenshot), "PNG") ? "" : "cannot write " + line.screenshot;
 }
 
 }  // namespace ostrel

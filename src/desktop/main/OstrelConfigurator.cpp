@@ -80,8 +80,9 @@ int Run(int argc, char** argv) {
   const CommandLine line = ReadCommandLine(QApplication::arguments());
   ApplyScheme(line.scheme);
   if (line.screenshot.empty()) return RunWindow(line);
-  if (TakeScreenshot(line, ShippedFolder() + "/Lang.txt")) return 0;
-  std::cerr << "ostrel-configurator: no picture could be drawn at " << line.screenshot << std::endl;
+  const std::string wrong = TakeScreenshot(line, ShippedFolder() + "/Lang.txt");
+  if (wrong.empty()) return 0;
+  std::cerr << "ostrel-configurator: " << wrong << std::endl;
   return 1;
 }
 

@@ -13,18 +13,19 @@ namespace {
 
 constexpr int kWait = 60'000;  // ms
 
-/// Runs a program to its end; gives what it wrote.
-QString RunProgram(const QString& program, const QStringList& arguments) {
+/// Runs a program to its end, which is to have an exit code; gives what it wrote.
+QString RunProgram(const QString& program, const QStringList& arguments, int code = 0) {
   QProcess process;
   process.setProcessChannelMode(QProcess::MergedChannels);
   process.start(program, arguments);
   EXPECT_TRUE(process.waitForFinished(kWait)) << FromQt(program);
   const QString output = QString::fromUtf8(process.readAll());
-  EXPECT_EQ(process.exitCode(), 0) << FromQt(program + " " + arguments.join(u' ') + "\n" + output);
+  EXPECT_EQ(process.exitCode(), code)
+      << FromQt(program + " " + arguments.join(u' ') + "\n" + output);
   return output;
 }
 
-TEST(Install, GivesAProgramThatRunsFromAnEmptyFolder) {
+TEST(Program, InstallsAndRunsFromAnEmptyFolder) {
   const QTemporaryDir folder;
   const QString build = QCoreApplication::applicationDirPath() + "/..";
   RunProgram("cmake", {"--install", build, "--prefix", folder.path()});
@@ -44,6 +45,33 @@ TEST(Install, GivesAProgramThatRunsFromAnEmptyFolder) {
   const QImage image(picture);
   EXPECT_EQ(image.size(), QSize(1100, 700));
   EXPECT_GT(image.convertToFormat(QImage::Format_Indexed8).colorCount(), 10) << "an empty picture";
+}
+
+TEST(Program, NamesWhatIsWrongWithItsArguments) {
+  const QTemporaryDir folder;
+  const QString picture = folder.filePath("page.png");
+  const struct {
+    QStringList arguments;
+    int code;
+    const char* says;
+  } kCases[] = {
+      {{"--page", "General"}, 2, "--page goes with --screenshot alone"},
+      {{"--screenshot", picture, "--target", "Q"}, 2, "there is no model Q"},
+      {{"--screenshot", picture, "--language", "en"}, 2, "--language is a number from 0 to"},
+      {{"--screenshot", picture, "--size", "big"}, 2, "--size is WIDTHxHEIGHT"},
+      {{"--screenshot", picture, "--scheme", "pink"}, 2, "--scheme is light, dark or system"},
+      {{"--screenshot", picture, "--page", "Nothing"}, 1, "no page Nothing for the Ostrel KA1"},
+      {{"--screenshot", picture, folder.filePath("none.ocf")}, 1, "cannot read "},
+      {{"--screenshot", picture, QCoreApplication::applicationFilePath()}, 1, "no configuration"},
+      {{"--screenshot", folder.filePath("none/page.png")}, 1, "cannot write "},
+      {{"a.ocf", "b.ocf"}, 2, "one FILE at the most"},
+  };
+  for (const auto& [arguments, code, says] : kCases) {
+    const QString output = RunProgram(
+        QCoreApplication::applicationDirPath() + "/ostrel-configurator", arguments, code);
+    EXPECT_TRUE(output.contains(says)) << FromQt(output);
+    EXPECT_FALSE(QFileInfo::exists(picture)) << says;
+  }
 }
 
 }  // namespace
