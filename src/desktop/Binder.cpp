@@ -44,6 +44,9 @@ Bound BindKind(Label& label, const BindOptions&, QWidget* parent) {
   auto* widget = new QLabel(parent);
   return {widget, [widget, &label] {
             FollowFace(*widget, label.face);
+            // A label is as grey as the control that it stands beside.
+            if (const QWidget* buddy = widget->buddy(); buddy && !buddy->isEnabled())
+              widget->setEnabled(false);
             const QString caption = ToQt(label.face.Caption());
             if (WithoutAccessKey(widget->text()) == caption) return;
             widget->setTextFormat(Qt::PlainText);

@@ -67,6 +67,8 @@ QLabel* FormView::LabelFor(std::string_view control, std::string_view label) {
   shown->setBuddy(widget);
   QString name = ToQt(FaceOf(form_[label]).Caption());
   widget->setAccessibleName(name.remove(u':'));
+  labels_.emplace(control, label);
+  Follow(label);
   return shown;
 }
 
@@ -122,6 +124,7 @@ void FormView::Follow(std::string_view control) {
       label->setVisible(face.Visible());
     }
   }
+  if (const auto label = labels_.find(control); label != labels_.end()) Follow(label->second);
   if (finished_ && widget->accessibleName() != before) AssignAccessKeys(*this, takenKeys_);
 }
 

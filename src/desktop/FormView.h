@@ -78,7 +78,10 @@ class FormView final : public QWidget {
   Form& form_;
   Guard guard_;
   std::map<std::string, Bound, std::less<>> bound_;
+  /// The window's own labels of a control.
   std::map<std::string, std::vector<QLabel*>, std::less<>> companions_;
+  /// The form's label of a control.
+  std::map<std::string, std::string, std::less<>> labels_;
   std::map<std::string, std::function<QString(const ListRow&)>, std::less<>> rowTexts_;
   std::set<const QWidget*> own_;
   std::set<QChar> takenKeys_;
