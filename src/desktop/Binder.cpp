@@ -45,7 +45,7 @@ Bound BindKind(Label& label, const BindOptions&, QWidget* parent) {
   return {widget, [widget, &label] {
             FollowFace(*widget, label.face);
             // A label is as grey as the control that it stands beside.
-            if (const QWidget* buddy = widget->buddy(); buddy && !buddy->isEnabled())
+            if (const QWidget* buddy = widget->buddy(); buddy && buddy->testAttribute(Qt::WA_ForceDisabled))
               widget->setEnabled(false);
             const QString caption = ToQt(label.face.Caption());
             if (WithoutAccessKey(widget->text()) == caption) return;

@@ -36,6 +36,9 @@ LinkPanel::LinkPanel(QWidget* parent)
   lamp_->setFixedSize(12, 12);
   words_->setObjectName("LinkState");
   bar_->setFixedWidth(200);
+  QSizePolicy policy = bar_->sizePolicy();
+  policy.setRetainSizeWhenHidden(true);  // the page above is not to jump
+  bar_->setSizePolicy(policy);
   bar_->setTextVisible(false);
   row->addWidget(lamp_);
   row->addWidget(words_);

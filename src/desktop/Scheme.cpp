@@ -103,9 +103,10 @@ QLabel#Failure { color: #d9480f; }
 QLineEdit, QComboBox, QTimeEdit { min-height: 22px; }
 QPushButton { min-height: 22px; padding: 1px 12px; }
 QPushButton[primary="true"]:enabled { background: palette(highlight);
-            color: palette(highlighted-text); border: none; border-radius: 4px; padding: 2px 12px; }
-QPushButton[primary="true"]:enabled:hover { border: 1px solid palette(text); }
-QPushButton[primary="true"]:enabled:focus { border: 2px solid palette(text); }
+            color: palette(highlighted-text); border: 2px solid palette(highlight);
+            border-radius: 4px; padding: 0 12px; }
+QPushButton[primary="true"]:enabled:hover,
+QPushButton[primary="true"]:enabled:focus { border-color: palette(text); }
 QLineEdit[bad="true"] { background: #ff0000; color: #ffffff; }
 QTreeWidget#Tree { border: 1px solid palette(mid); border-radius: 4px; }
 QTreeWidget#Tree::item { padding: 2px 0; }

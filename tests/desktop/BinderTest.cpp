@@ -160,6 +160,22 @@ TEST_F(Binder, FollowsCodeWithoutAnEcho) {
   EXPECT_EQ(echoes, 0);
 }
 
+TEST_F(Binder, GreysALabelWithItsControlAndNotWithThePage) {
+  QLabel* ofForm = view.LabelFor("text", std::string_view("label"));
+  QLabel* ofWindow = view.LabelFor("combo", QString("Own:"));
+  form.SetEnabled(false);
+  label.face.SetCaption("other words");
+  text.SetText("1");
+  form.SetEnabled(true);
+  EXPECT_TRUE(ofForm->isEnabled() && ofWindow->isEnabled());
+  text.face.SetEnabled(false);
+  combo.face.SetEnabled(false);
+  EXPECT_FALSE(ofForm->isEnabled() || ofWindow->isEnabled());
+  text.face.SetEnabled(true);
+  combo.face.SetEnabled(true);
+  EXPECT_TRUE(ofForm->isEnabled() && ofWindow->isEnabled());
+}
+
 TEST_F(Binder, LimitsTypingButShowsLongerTextsOfCode) {
   auto* edit = Show<QLineEdit>("text");
   Type(edit, "1234567");
