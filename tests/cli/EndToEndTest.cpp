@@ -114,6 +114,20 @@ TEST_F(EndToEnd, ConfigurationGoesRoundOverAPseudoTerminal) {
   EXPECT_THAT(Read("state"), HasSubstr("Depósito de la prueba")) << "the state is kept";
 }
 
+TEST_F(EndToEnd, AnUploadKeepsToTheSpeedOfTheLine) {
+  Simulator simulator({"--model", "BQ", "--pace"});
+  ASSERT_EQ(Run("ostrelctl", "download --port sim:BQ " + Path("a.ocf")), 0) << Read("err");
+  EXPECT_EQ(Run("ostrelctl", "upload --no-backup --no-verify " + Path("a.ocf") +
+                                 " --target BQ --port " + simulator.path),
+            0)
+      << Read("err");
+  EXPECT_EQ(simulator.Stop(SIGTERM), 0);
+  int closings = 0;
+  for (std::string line = simulator.Line(); !line.empty(); line = simulator.Line())
+    closings += line.find("  #46") != std::string::npos;
+  EXPECT_EQ(closings, 1) << "sent once, and heard whole before its answer was missed";
+}
+
 TEST_F(EndToEnd, ALoggerThatFallsSilentLeavesNoFile) {
   Simulator simulator({"--model", "KA1", "--fault", "silent-after-record@3"});
   EXPECT_EQ(
@@ -125,10 +139,10 @@ TEST_F(EndToEnd, ALoggerThatFallsSilentLeavesNoFile) {
 
 TEST_F(EndToEnd, AnInterruptEndsADownloadWithoutAFile) {
   Simulator simulator({"--model", "VR200", "--pace"});
-  const std::string line = "timeout --signal=INT 5 " + (Programs() / "ostrelctl").string() +
-                           " download " + Path("a.ocf") + " --target VR200 --port " +
-                           simulator.path + " 2>" + Path("err");
-  EXPECT_NE(std::system(line.c_str()), 0);
+  const std::string line = "timeout --preserve-status --signal=INT 5 " +
+                           (Programs() / "ostrelctl").string() + " download " + Path("a.ocf") +
+                           " --target VR200 --port " + simulator.path + " 2>" + Path("err");
+  EXPECT_EQ(WEXITSTATUS(std::system(line.c_str())), 4);
   EXPECT_THAT(Read("err"), HasSubstr("interrupted; the logger's configuration is unchanged"));
   EXPECT_FALSE(fs::exists(Path("a.ocf")));
 }

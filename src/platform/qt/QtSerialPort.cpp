@@ -192,6 +192,7 @@ void QtSerialPort::Close() {
   carrier_ = false;
   received_.clear();
   taken_ = 0;
+  lineFree_ = {};
 }
 
 void QtSerialPort::TakeIn() {
@@ -228,6 +229,7 @@ void QtSerialPort::WatchCarrier() {
 void QtSerialPort::Output(std::string_view octets) {
   if (!device_ || lost_) return;
   device_->write(octets.data(), static_cast<qint64>(octets.size()));
+  lineFree_ = std::max(lineFree_, loop_.Now()) + LineTime(octets.size());
   if (drainTimer_ == 0) WatchDrain();
 }
 
@@ -235,11 +237,21 @@ std::size_t QtSerialPort::OutBufferCount() const {
   if (!device_ || lost_) return 0;
   int held = 0;
   if (::ioctl(device_->handle(), TIOCOUTQ, &held) != 0) held = 0;
-  return static_cast<std::size_t>(device_->bytesToWrite()) +
-         static_cast<std::size_t>(std::max(held, 0));
+  const std::size_t queued = static_cast<std::size_t>(device_->bytesToWrite()) +
+                             static_cast<std::size_t>(std::max(held, 0));
+  return std::max(queued, OctetsUnderWay());
+}
+
+/// Octets that a line cannot have carried yet. An adapter with a store of its own, or a
+/// pseudo-terminal, takes them at once, and its driver counts nothing more.
+std::size_t QtSerialPort::OctetsUnderWay() const {
+  const Duration left = lineFree_ - loop_.Now();
+  if (left <= Duration::zero()) return 0;
+  return static_cast<std::size_t>(left * kLineOctetsPerSecond / std::chrono::seconds(1)) + 1;
 }
 
 void QtSerialPort::DiscardOutput() {
+  lineFree_ = loop_.Now();
   if (device_ && !lost_) device_->clear(QSerialPort::Output);
 }
 

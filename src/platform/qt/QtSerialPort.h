@@ -34,7 +34,7 @@ class QtSerialPort final : public SerialPort {
   bool PortOpen() const override { return open_; }
   bool LineLost() const override { return open_ && lost_; }
   void Output(std::string_view octets) override;
-  /// Counts what the driver holds, too.
+  /// Counts what the driver holds, and what the line has not had the time to carry.
   std::size_t OutBufferCount() const override;
   void DiscardOutput() override;
   std::string Input() override;
@@ -54,6 +54,7 @@ class QtSerialPort final : public SerialPort {
   void TakeIn();
   void WatchCarrier();
   void WatchDrain();
+  std::size_t OctetsUnderWay() const;
   void Lose();
 
   QtEventLoop& loop_;
@@ -69,6 +70,7 @@ class QtSerialPort final : public SerialPort {
   bool lost_ = false;
   std::string received_;  ///< up to `taken_` already read
   std::size_t taken_ = 0;
+  TimePoint lineFree_{};  ///< when the last octet sent can have left
   bool carrier_ = false;
   int commEvent_ = 0;
   std::function<void()> onComm_;
