@@ -71,7 +71,8 @@ void PrintFound(Console& console, const std::vector<Found>& found) {
   for (const auto& [rule, finding] : found) {
     console.Out() << SeverityText(rule->severity) << ": ";
     if (!finding.section.empty())
-      console.Out() << '[' << Printable(finding.section) << "] " << Printable(finding.key) << ": ";
+      console.Out() << '[' << Printable(finding.section) << ']' << (finding.key.empty() ? "" : " ")
+                    << Printable(finding.key) << ": ";
     console.Out() << Printable(finding.sentence) << " (" << rule->id << ")\n";
   }
 }

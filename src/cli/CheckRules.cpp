@@ -86,6 +86,49 @@ std::vector<Finding> CutValues(const Examined& file) {
   return found;
 }
 
+/// A value without the blanks around it.
+std::string_view Trimmed(std::string_view text) {
+  const std::size_t first = text.find_first_not_of(' ');
+  return first == std::string_view::npos
+             ? std::string_view()
+             : text.substr(first, text.find_last_not_of(' ') - first + 1);
+}
+
+/// Whether a field holds what its text in the file says. Texts and telephones are taken as they
+/// are.
+bool IsReadRight(const FieldRef& field, std::string_view value, bool isS100) {
+  const std::string_view text = Trimmed(value);
+  const std::string read = FieldText(field, isS100);
+  if (text.empty() || text == Trimmed(read) || TextOf(field)) return true;
+  if (auto* const* time = std::get_if<TimeOfDay*>(&field)) return TextTime(text) == **time;
+  return IsFloatText(text) && NumVal(text) == NumVal(read);
+}
+
+std::vector<Finding> MisreadValues(const Examined& file) {
+  std::vector<Finding> found;
+  for (const FieldEntry& entry : file.fields) {
+    if (!file.document.KeyExists(entry.section, entry.key)) continue;
+    const std::string value = file.document.ReadKey(entry.section, entry.key);
+    const bool isS100 = file.Model().IsS100;
+    if (IsReadRight(entry.field, value, isS100)) continue;
+    found.push_back({entry.section, entry.key,
+                     value + " is no value for this: it is read as " +
+                         std::string(Trimmed(FieldText(entry.field, isS100)))});
+  }
+  return found;
+}
+
+std::vector<Finding> MissingSections(const Examined& file) {
+  std::set<std::string> missing;
+  for (const FieldEntry& entry : file.fields)
+    if (!file.document.SectionExists("", entry.section)) missing.insert(entry.section);
+  if (missing.empty()) return {};
+  return {{*missing.begin(), "",
+           missing.size() == 1 ? "the section is missing, and is read as empty"
+                               : "this section and " + std::to_string(missing.size() - 1) +
+                                     " more are missing, and are read as empty"}};
+}
+
 std::vector<Finding> UnknownActions(const Examined& file) {
   std::set<std::int16_t> offered;
   for (const ActionItem& item :
@@ -155,7 +198,7 @@ std::vector<Finding> BadNumbers(const Examined& file) {
   return found;
 }
 
-constexpr std::array<Rule, 10> kRules{{
+constexpr std::array<Rule, 12> kRules{{
     {"text-breaks-statement", Severity::Error,
      "a comma or a control character in a text that is sent", BrokenTexts},
     {"too-many-statements", Severity::Error, "more statements than an upload can number",
@@ -163,6 +206,9 @@ constexpr std::array<Rule, 10> kRules{{
     {"text-too-long", Severity::Warning, "a text longer than its box takes", LongTexts},
     {"value-cut", Severity::Warning, "a value of which the file's reader takes only a part",
      CutValues},
+    {"value-misread", Severity::Warning, "a value that is none of its kind", MisreadValues},
+    {"section-missing", Severity::Warning, "a section of the model that is not in the file",
+     MissingSections},
     {"action-not-offered", Severity::Warning, "an action that the model does not have",
      UnknownActions},
     {"alarm-for-nobody", Severity::Warning, "an alarm that no telephone is to get",

@@ -34,7 +34,7 @@ struct Examined {
   StatementProbe& probe;      ///< under the features, or under all where they are not known
   StatementProbe& fullProbe;  ///< under all features
   const TextLimits& limits;
-  const IniClass& document;  ///< the file as it stands
+  IniClass& document;  ///< the file as it stands
 
   const TargetProfile& Model() const { return configurator.profile; }
   /// Whether a field holds something else than in an empty configuration.

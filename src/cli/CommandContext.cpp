@@ -4,6 +4,7 @@
 #include <charconv>
 
 #include "cli/SimulatedLoggers.h"
+#include "lang/Scope.h"
 #include "shell/LangSeed.h"
 
 namespace ostrel::cli {
@@ -77,7 +78,14 @@ bool CommandContext::Open(Configurator& configurator, const std::string& path) {
     console.Fail(ExitCode::BadFile, "cannot read " + path);
     return false;
   }
-  if (configurator.OpenFile(path) == RestoreResult::Loaded) return true;
+  const Lent muted(dialogs.mute, true);
+  const std::string model = configurator.profile.TargetName;
+  if (configurator.OpenFile(path) == RestoreResult::Loaded) {
+    if (!options.target.empty() && configurator.profile.TargetName != model)
+      console.Note(path + " is for the model " + configurator.profile.TargetName + ", not " +
+                   model);
+    return true;
+  }
   console.Fail(ExitCode::BadFile, path + " is no configuration of any of the six models");
   return false;
 }
@@ -117,7 +125,7 @@ ExitCode CommandContext::ChoosePort(PortChoice& choice) {
   const std::string_view port = options.port;
   if (port.empty())
     return console.Fail(ExitCode::Usage, "no port: --port takes COM7, a device path or sim:VR200");
-  if (port.starts_with(kSimulated)) {
+  if (Upper(port.substr(0, kSimulated.size())) == Upper(kSimulated)) {
     const TargetModel* model = FindModel(port.substr(kSimulated.size()));
     if (!model)
       return console.Fail(ExitCode::Usage, options.port +

@@ -30,6 +30,7 @@ class CommandContext {
   const GlobalOptions options;
   Console console;
   ConsoleDialogs dialogs;
+  bool traceLost = false;  ///< the trace could not be written whole
 
   /// A configurator with the ports of the environment, on a model by its display name.
   std::unique_ptr<Configurator> MakeOnline(std::string_view model);

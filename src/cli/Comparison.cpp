@@ -10,9 +10,12 @@
 namespace ostrel::cli {
 namespace {
 
-/// The text of a field in a file, without a number's place for the sign; a dash for none.
+/// The text of a field in a file as a person reads it: without a number's place for the sign, yes
+/// and no; a dash for none.
 std::string Plain(const std::string& text) {
   if (text.empty()) return "-";
+  if (text == "True") return "yes";
+  if (text == "False") return "no";
   return Printable(text.starts_with(' ') ? text.substr(1) : text);
 }
 
@@ -58,7 +61,7 @@ Comparison Compare(Configurator& configurator, DeviceConf before, DeviceConf aft
 }
 
 Comparison CompareModels(const Configurator& before, const Configurator& after) {
-  Comparison comparison{.differences = {{.section = "General",
+  Comparison comparison{.differences = {{.section = "GENERAL",
                                          .key = "VERSION",
                                          .before = before.profile.TargetName,
                                          .after = after.profile.TargetName}},

@@ -1,5 +1,7 @@
 #include "cli/ConsoleDialogs.h"
 
+#include <utility>
+
 #include "controls/Form.h"
 
 namespace ostrel::cli {
@@ -7,7 +9,7 @@ namespace ostrel::cli {
 BoxAnswer ConsoleDialogs::ShowMessage(const MessageBox& box) {
   const std::string text = box.title.empty() ? box.text : box.title + ": " + box.text;
   if (box.buttons == BoxButtons::YesNo) return Confirm(text) ? BoxAnswer::Yes : BoxAnswer::No;
-  console_.Err() << Printable(text) << std::endl;
+  if (!mute) console_.Err() << Printable(text) << std::endl;
   return BoxAnswer::Ok;
 }
 
@@ -17,8 +19,16 @@ bool ConsoleDialogs::Confirm(const std::string& question) {
     console_.Note(shown + (options_.yes ? " yes" : " no (--yes answers yes)"));
     return options_.yes;
   }
-  const std::string answer = environment_.ask(shown + " [y/N] ", true).value_or("");
+  const std::string answer = Ask(shown + " [y/N] ", true);
   return answer == "y" || answer == "Y" || answer == "yes";
+}
+
+std::string ConsoleDialogs::Ask(const std::string& prompt, bool echo) {
+  if (left_) return {};
+  auto answer = environment_.ask(prompt, echo);
+  left_ = !answer;
+  if (left_ && environment_.onInterrupt) environment_.onInterrupt();
+  return std::move(answer).value_or("");
 }
 
 void ConsoleDialogs::ShowModal(Form& form) {
@@ -36,7 +46,7 @@ std::string ConsoleDialogs::NextCode(const std::string& prompt) {
     // A code that was refused once is refused again: it is not repeated.
     if (codesAsked_ == 1) code = options_.code;
   } else if (environment_.ask) {
-    code = environment_.ask(Printable(prompt) + " ", false).value_or("");
+    code = Ask(Printable(prompt) + " ", false);
   }
   if (!code.empty()) ++codesGiven_;
   return code;

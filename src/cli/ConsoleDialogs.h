@@ -30,7 +30,14 @@ class ConsoleDialogs final : public Dialogs {
   int CodesAsked() const { return codesAsked_; }
   int CodesGiven() const { return codesGiven_; }
 
+  /// Whether a question was left by an interrupt, or by the end of the input.
+  bool Left() const { return left_; }
+  /// While this is set, message boxes are not written: the command says itself what happened.
+  bool mute = false;
+
  private:
+  /// Asks for a line; leaves the whole command where none comes.
+  std::string Ask(const std::string& prompt, bool echo);
   std::string NextCode(const std::string& prompt);
 
   Environment& environment_;
@@ -38,6 +45,7 @@ class ConsoleDialogs final : public Dialogs {
   const GlobalOptions& options_;
   int codesAsked_ = 0;
   int codesGiven_ = 0;
+  bool left_ = false;
 };
 
 }  // namespace ostrel::cli

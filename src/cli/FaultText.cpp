@@ -60,6 +60,7 @@ std::string FaultText(const LinkFault& fault, std::string_view port, Transfer tr
       return "the logger refused statement " + std::to_string(fault.number) + ": " +
              Quote(fault.text);
     case Kind::NotTakenOver:
+      if (transfer == Transfer::None) return "the logger refused the setting: " + Quote(fault.text);
       return fault.text.empty()
                  ? "the logger did not say that it took the configuration over"
                  : "the logger did not take the configuration over: " + Quote(fault.text);

@@ -97,15 +97,17 @@ void WriteLive(std::ostream& out, const Online& online, bool watch) {
 void PrintLive(std::ostream& out, const Online& online) {
   out << ClockText(online.context.environment.clock.LocalNow()) << '\n';
   for (const States& states : StatesOf(online.configurator)) {
+    if (states.count == 0) continue;
     out << states.title << ' ';
     for (int i = 0; i < states.count; ++i) out << ((states.mask >> i & 1U) != 0 ? '1' : '0');
     out << '\n';
   }
   for (const Group& group : GroupsOf(online.configurator))
     for (const Measure& measure : group.measures) {
+      const auto* number = std::get_if<float>(&measure.value);
       const std::string value =
-          std::visit([](auto number) { return NumText(number); }, measure.value);
-      out << group.title << ' ' << measure.index << (value.starts_with(' ') ? "" : " ") << value;
+          number ? DecText(*number) : std::to_string(std::get<std::int32_t>(measure.value));
+      out << group.title << ' ' << measure.index << ' ' << value;
       if (!measure.unit.empty()) out << ' ' << Printable(measure.unit);
       if (!measure.name.empty()) out << "  " << Printable(measure.name);
       out << '\n';
@@ -131,6 +133,7 @@ ExitCode RunLive(Online& online, bool watch) {
     if (watch && interrupted()) return ExitCode::Done;
     if (!isRead) return online.session.Failed();
     Show(online, watch);
+    if (!online.context.console.Out()) return ExitCode::BadFile;
     if (!watch || loop.RunUntil(interrupted, next)) return ExitCode::Done;
   }
 }

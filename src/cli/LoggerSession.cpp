@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "cli/SimulatedLoggers.h"
+#include "shell/RecordCounts.h"
 
 namespace ostrel::cli {
 
@@ -18,6 +19,7 @@ LoggerSession::~LoggerSession() {
   Close();
   context_.environment.onInterrupt = nullptr;
   configurator_.comms.Trace = nullptr;
+  if (trace_ && !trace_->flush()) context_.traceLost = true;
 }
 
 void LoggerSession::Close() {
@@ -44,7 +46,12 @@ ExitCode LoggerSession::Open() {
   if (!configurator_.session.Open(port_.number, context_.options.phone)) return OpenFault();
   if (interrupted_) return Failed();
   // What is sent depends on what the firmware can do: without knowing it nothing may start.
-  return Run([this] { return configurator_.session.CompleteInfo(); });
+  const bool isKnown = configurator_.session.CompleteInfo();
+  if (interrupted_) return Failed();
+  if (isKnown) return ExitCode::Done;
+  return context_.console.Fail(ExitCode::DialogueFailed,
+                               "the logger did not tell who it is: lines were lost or arrived "
+                               "damaged. Check cable and earthing");
 }
 
 ExitCode LoggerSession::OpenFault() {
@@ -78,15 +85,18 @@ bool LoggerSession::Move(std::string_view label, int steps, bool (SessionDriver:
 ExitCode LoggerSession::Download() {
   configurator_.conf = DeviceConf{};
   int farthest = 0;
-  const bool done = Move("download", records_, &SessionDriver::Download, farthest);
-  if (done) records_ = farthest + 1;
+  RecordCounts records(context_.environment.settings);
+  const std::string& type = configurator_.profile.TargetType;
+  const bool done = Move("download", records.Expected(type), &SessionDriver::Download, farthest);
+  if (done) records.Keep(type, farthest + 1);
   return done && !interrupted_ ? ExitCode::Done : Fault(Transfer::Download);
 }
 
 ExitCode LoggerSession::Upload() {
   const auto statements = static_cast<int>(configurator_.comms.ComposeStatements().size());
   int farthest = 0;
-  if (Move("upload", statements, &SessionDriver::Upload, farthest)) return ExitCode::Done;
+  written_ = Move("upload", statements, &SessionDriver::Upload, farthest);
+  if (written_) return ExitCode::Done;
   return Fault(Transfer::Upload, farthest >= statements);
 }
 
@@ -98,6 +108,8 @@ ExitCode LoggerSession::Fault(Transfer transfer, bool mayHaveClosed) {
                     ? "; whether the logger has taken the configuration over is not known: read "
                       "it back"
                     : "; the logger's former configuration stays in force";
+  else if (written_)
+    sentence += "; the logger has taken the new configuration over, which is not verified";
   else if (transfer == Transfer::Download || interrupted_)
     sentence += "; the logger's configuration is unchanged";
   return context_.console.Fail(ExitCode::DialogueFailed, sentence);

@@ -33,8 +33,6 @@ class LoggerSession {
   ExitCode Failed() { return Fault(Transfer::None); }
   void Close();
 
-  /// Records of the last download, up to what its bar shows; the first guess for the next one.
-  int Records() const { return records_; }
   bool Interrupted() const { return interrupted_; }
   const PortChoice& Port() const { return port_; }
 
@@ -51,7 +49,7 @@ class LoggerSession {
   std::unique_ptr<std::ostream> trace_;
   bool traceFailed_ = false;
   bool interrupted_ = false;
-  int records_ = 300;
+  bool written_ = false;  ///< the logger has taken a new configuration over
 };
 
 }  // namespace ostrel::cli

@@ -20,6 +20,13 @@ std::optional<std::int32_t> ReadFeatures(std::string_view text) {
   return static_cast<std::int32_t>(mask);
 }
 
+std::string NoWholeNumber(const std::string& text) {
+  const std::string_view digits = std::string_view(text).substr(text.starts_with('-') ? 1 : 0);
+  const bool isPlain = !digits.empty() && digits.find_first_not_of("0123456789") == digits.npos &&
+                       (digits.size() == 1 || digits.front() != '0');
+  return isPlain ? std::string() : text + " is no whole number";
+}
+
 std::string ClockText(const DateTime& time) {
   return time == DateTime{} ? std::string() : DateTimeText(time);
 }

@@ -12,11 +12,12 @@ namespace {
 constexpr const char* kFooter =
     "Exit codes:\n"
     "  0  done\n"
-    "  1  differences found, or errors by check\n"
+    "  1  differences found by diff or by the verification of an upload, or errors by check\n"
     "  2  usage\n"
     "  3  no session: port, modem or handshake\n"
     "  4  a dialogue failed or was interrupted\n"
-    "  5  a file was refused, or cannot be read or written\n";
+    "  5  a file was refused, or cannot be read or written\n"
+    "130  interrupted while no dialogue was under way\n";
 
 std::string NoModel(const std::string& name) {
   return FindModel(name) ? std::string()
@@ -40,11 +41,12 @@ void AddGlobals(CLI::App& app, GlobalOptions& options) {
   app.add_option_function<std::string>(
          "--features",
          [&options](const std::string& text) { options.features = ReadFeatures(text); },
-         "Firmware features to count with, hexadecimal")
+         "Firmware features to count with, hexadecimal, where no logger tells them")
       ->check(NoFeatures);
   app.add_flag("--json", options.json, "Results as JSON");
   app.add_flag("--quiet", options.quiet, "No progress and no words about the work");
-  app.add_flag("--yes", options.yes, "Answer questions with yes");
+  app.add_flag("--yes", options.yes,
+               "Answer questions with yes; sets a logger's clock that is off, too");
 }
 
 std::vector<Command> AddCommands(CLI::App& app) {
@@ -68,7 +70,8 @@ ExitCode TellParserResult(const CLI::App& app, const CLI::ParseError& error,
     return ExitCode::Usage;
   }
   app.exit(error, environment.out, environment.err);
-  return ExitCode::Done;
+  environment.out.flush();
+  return environment.out ? ExitCode::Done : ExitCode::BadFile;
 }
 
 ExitCode RunChosen(const std::vector<Command>& commands, Environment& environment,
@@ -83,6 +86,8 @@ ExitCode RunChosen(const std::vector<Command>& commands, Environment& environmen
       return context.console.Fail(ExitCode::BadFile,
                                   "cannot write " + options.simState + ": " + kept.error);
     if (!environment.out) return context.console.Fail(ExitCode::BadFile, "cannot write the output");
+    if (context.traceLost)
+      return context.console.Fail(ExitCode::BadFile, "cannot write " + options.trace);
     return result;
   }
   return ExitCode::Usage;

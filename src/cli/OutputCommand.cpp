@@ -1,5 +1,6 @@
 #include "cli/Commands.h"
 #include "cli/Json.h"
+#include "cli/LoggerText.h"
 #include "cli/OnlineCommand.h"
 
 namespace ostrel::cli {
@@ -15,9 +16,11 @@ ExitCode RunOutput(Online& online, const OutputOptions& options) {
   const bool on = options.state == "on";
   const TargetProfile& model = online.configurator.profile;
   if (options.index < 0 || options.index >= model.OutputCount)
-    return console.Fail(ExitCode::Usage, "the " + model.TargetName + " has " +
-                                             std::to_string(model.OutputCount) +
-                                             " outputs, counted from 0");
+    return console.Fail(ExitCode::Usage,
+                        "the " + model.TargetName +
+                            (model.OutputCount == 0 ? " has no outputs"
+                                                    : " has " + std::to_string(model.OutputCount) +
+                                                          " outputs, counted from 0"));
   const ExitCode sent = online.session.Run([&] {
     Comms& comms = online.configurator.comms;
     return comms.SetSingleOutput(options.index, on) && !comms.RxLine.empty();
@@ -41,7 +44,9 @@ ExitCode RunOutput(Online& online, const OutputOptions& options) {
 Command AddOutput(CLI::App& app) {
   CLI::App* parser = app.add_subcommand("output", "Set an output of the logger");
   const auto options = std::make_shared<OutputOptions>();
-  parser->add_option("INDEX", options->index, "Output, counted from 0")->required();
+  parser->add_option("INDEX", options->index, "Output, counted from 0")
+      ->required()
+      ->check(NoWholeNumber);
   parser->add_option("STATE", options->state, "on or off")
       ->required()
       ->check(CLI::IsMember({"on", "off"}));

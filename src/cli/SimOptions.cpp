@@ -19,7 +19,8 @@ struct Texts {
 
 void AddOptions(CLI::App& app, SimOptions& options, Texts& texts) {
   app.add_option("--model", texts.model, "KA1 KA2 VR200 S100 BP BQ")->capture_default_str();
-  app.add_option("--firmware", texts.firmware, "Version of the firmware in hundredths");
+  app.add_option("--firmware", texts.firmware, "Version of the firmware in hundredths")
+      ->check(CLI::Range(0, 9999));
   app.add_option("--features", texts.features, "Features of the firmware, hexadecimal");
   app.add_flag("--pace", options.isPaced, "960 octets a second, as on a cable");
   app.add_flag("--empty", options.isEmpty, "Start without a configuration");
@@ -28,7 +29,9 @@ void AddOptions(CLI::App& app, SimOptions& options, Texts& texts) {
   app.add_option("--code", options.logger.accessCode, "Access code of a data call");
   app.add_option("--fault", texts.faults, "What goes wrong; may be given again")
       ->allow_extra_args(false);
-  app.add_option("--seed", options.logger.seed, "Of live values and faults");
+  app.add_option("--seed", options.logger.seed, "Of live values and faults")
+      ->check(CLI::NonNegativeNumber)
+      ->capture_default_str();
   app.add_option("--link", options.link, "Symbolic link to make to the pseudo-terminal");
   app.footer("Faults:\n" + sim::FaultHelp());
 }

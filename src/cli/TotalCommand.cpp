@@ -1,5 +1,6 @@
 #include "cli/Commands.h"
 #include "cli/Json.h"
+#include "cli/LoggerText.h"
 #include "cli/OnlineCommand.h"
 
 namespace ostrel::cli {
@@ -44,8 +45,9 @@ Command AddTotal(CLI::App& app) {
   const auto options = std::make_shared<TotalOptions>();
   parser->add_option("INDEX", options->index, "Counter, counted from 0")
       ->required()
+      ->check(NoWholeNumber)
       ->check(CLI::Range(0, kTotals - 1));
-  parser->add_option("VALUE", options->value, "New total");
+  parser->add_option("VALUE", options->value, "New total")->check(NoWholeNumber);
   return {parser, [options](CommandContext& context) {
             return RunOnline(context, "",
                              [&](Online& online) { return RunTotal(online, *options); });

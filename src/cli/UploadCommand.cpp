@@ -22,9 +22,10 @@ struct UploadResult {
   std::optional<Comparison> comparison;  ///< with what was read back; nothing when not verified
 };
 
-std::string PlanText(std::size_t statements, const UploadPlan& plan) {
-  return std::to_string(statements) + " statements, " + std::to_string(plan.octets) +
-         " octets, about " + DurationText(plan.duration) + " on the line";
+std::string PlanText(std::size_t statements, std::int32_t features, const UploadPlan& plan) {
+  return std::to_string(statements) + " statements for features " + FeaturesText(features) + ", " +
+         std::to_string(plan.octets) + " octets, about " + DurationText(plan.duration) +
+         " on the line";
 }
 
 void WritePlan(JsonWriter& json, const Configurator& configurator, std::int32_t features,
@@ -53,7 +54,7 @@ ExitCode ShowPlan(CommandContext& context, Configurator& configurator, std::int3
     return ExitCode::Done;
   }
   for (const std::string& statement : statements) out << Printable(statement) << '\n';
-  out << PlanText(statements.size(), PlanUpload(statements, features)) << '\n';
+  out << PlanText(statements.size(), features, PlanUpload(statements, features)) << '\n';
   return ExitCode::Done;
 }
 
@@ -121,10 +122,15 @@ ExitCode LoadFile(CommandContext& context, Configurator& configurator, const std
   const std::string model = configurator.profile.TargetName;
   if (!context.Open(configurator, file)) return ExitCode::BadFile;
   const std::string& fileModel = configurator.profile.TargetName;
-  if (fileModel == model || context.dialogs.Confirm(file + " is for a " + fileModel +
-                                                    ", the logger is a " + model + ". Go on?"))
+  if (fileModel == model ||
+      context.dialogs.Confirm(file + " is for the model " + fileModel +
+                              ", the logger is of the model " + model + ". Go on?"))
     return ExitCode::Done;
-  return context.console.Fail(ExitCode::BadFile, file + " is for another model");
+  if (context.dialogs.Left())
+    return context.console.Fail(ExitCode::DialogueFailed,
+                                "interrupted before a session stood: the logger is unchanged");
+  return context.console.Fail(ExitCode::BadFile,
+                              file + " is for another model: --yes sends it all the same");
 }
 
 ExitCode RunUpload(CommandContext& context, const UploadOptions& options) {

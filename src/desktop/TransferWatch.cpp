@@ -1,17 +1,10 @@
 #include "desktop/TransferWatch.h"
 
-#include <charconv>
+#include <utility>
 
 #include "shell/Configurator.h"
 
 namespace ostrel {
-namespace {
-
-constexpr std::string_view kApplication = "Quorvane";
-constexpr std::string_view kSection = "Window";
-
-}  // namespace
-
 std::optional<LinkState::Kind> TransferWatch::Look(TimePoint now) {
   const LinkState::Kind kind = LinkStateOf(configurator_).kind;
   const bool transfers = kind == LinkState::Kind::Reading || kind == LinkState::Kind::Writing;
@@ -25,7 +18,7 @@ std::optional<LinkState::Kind> TransferWatch::Look(TimePoint now) {
   const auto ended = std::exchange(running_, {});
   if (ended == LinkState::Kind::Reading &&
       configurator_.comms.Fault().kind == LinkFault::Kind::None)
-    KeepRecords(time_.Done());
+    records_.Keep(configurator_.profile.TargetType, time_.Done());
   return ended;
 }
 
@@ -33,21 +26,7 @@ void TransferWatch::Begin(TimePoint now, LinkState::Kind kind) {
   running_ = kind;
   const bool isUpload = kind == LinkState::Kind::Writing;
   time_.Start(now, isUpload ? static_cast<int>(configurator_.comms.ComposeStatements().size())
-                            : KnownRecords());
-}
-
-int TransferWatch::KnownRecords() const {
-  const std::string text =
-      settings_.Get(kApplication, kSection, "Records." + configurator_.profile.TargetType);
-  int records = configurator_.general.Session().PBar.Maximum();
-  std::from_chars(text.data(), text.data() + text.size(), records);
-  return records;
-}
-
-void TransferWatch::KeepRecords(int records) {
-  if (records > 0)
-    settings_.Set(kApplication, kSection, "Records." + configurator_.profile.TargetType,
-                  std::to_string(records));
+                            : records_.Expected(configurator_.profile.TargetType));
 }
 
 }  // namespace ostrel

@@ -5,6 +5,7 @@
 
 #include "desktop/LinkState.h"
 #include "platform/Settings.h"
+#include "shell/RecordCounts.h"
 #include "shell/RemainingTime.h"
 
 namespace ostrel {
@@ -16,7 +17,7 @@ class Configurator;
 class TransferWatch {
  public:
   TransferWatch(Configurator& configurator, Settings& settings)
-      : configurator_(configurator), settings_(settings) {}
+      : configurator_(configurator), records_(settings) {}
 
   /// Looks at the link. Returns the kind of a transfer that has just ended, if one has.
   std::optional<LinkState::Kind> Look(TimePoint now);
@@ -25,12 +26,9 @@ class TransferWatch {
 
  private:
   void Begin(TimePoint now, LinkState::Kind kind);
-  /// Records that a model's configuration had when it was last downloaded.
-  int KnownRecords() const;
-  void KeepRecords(int records);
 
   Configurator& configurator_;
-  Settings& settings_;
+  RecordCounts records_;
   std::optional<LinkState::Kind> running_;
   RemainingTime time_;
 };

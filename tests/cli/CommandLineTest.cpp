@@ -31,7 +31,10 @@ TEST(CommandLine, SaysInOneLineWhatIsWrong) {
            {"live --port sim:VR200 --features xyz", 2, "xyz is no hexadecimal mask"},
            {"output 1 up --port sim:VR200", 2, "up"},
            {"output 4 on --port sim:VR200", 2, "has 4 outputs"},
-           {"output -1 on --port sim:VR200", 2, ""},
+           {"output -1 on --port sim:VR200", 2, "has 4 outputs"},
+           {"output 0x1 on --port sim:VR200", 2, "0x1 is no whole number"},
+           {"output 010 on --port sim:VR200", 2, "010 is no whole number"},
+           {"output 0 on --port SIM:BQ", 2, "has no outputs"},
            {"total 9 --port sim:VR200", 2, "9"},
            {"total 1 many --port sim:VR200", 2, "many"},
            {"total 1 3000000000 --port sim:VR200", 2, "3000000000"},
@@ -59,8 +62,8 @@ TEST(CommandLine, RefusesAFileThatIsNoConfiguration) {
   for (const std::string path : {"/oem.ocf", "/text.txt", "/empty.ocf"})
     for (const std::string command : {"show ", "check ", "statements ", "upload --dry-run "}) {
       EXPECT_EQ(world.Run(command + path), 5) << command << path;
-      EXPECT_THAT(world.err, HasSubstr("No es un archivo de configuracion valido"));
-      EXPECT_THAT(world.err, HasSubstr(path + " is no configuration of any of the six models"));
+      EXPECT_EQ(world.err,
+                "ostrelctl: " + path + " is no configuration of any of the six models\n");
     }
 }
 
@@ -87,7 +90,7 @@ TEST(CommandLine, TakesTheModelFromOptionSimulatorStampAndStoreInThisOrder) {
   EXPECT_THAT(world.out, HasSubstr("Ostrel KA1"));
   EXPECT_EQ(world.Run("show /ka1.ocf --target VR200"), 0) << "the file changes the model";
   EXPECT_THAT(world.out, HasSubstr("Ostrel KA1"));
-  EXPECT_THAT(world.err, HasSubstr("es de un modelo distinto"));
+  EXPECT_EQ(world.err, "/ka1.ocf is for the model Ostrel KA1, not Ostrel VR200\n");
   // The stored model serves where nothing else tells: the port's fault comes later.
   EXPECT_EQ(world.Run("info --port COM7"), 3);
 }
@@ -95,10 +98,11 @@ TEST(CommandLine, TakesTheModelFromOptionSimulatorStampAndStoreInThisOrder) {
 TEST(CommandLine, TranslatesTheTextsOfTheCore) {
   World world;
   world.files.contents["/share/Lang.txt"] =
-      "{Espa\xF1ol}{English}\r\n{No es un archivo de configuracion valido}{Not a valid file}\r\n";
-  world.files.contents["/text.txt"] = "no configuration";
-  EXPECT_EQ(world.Run("show /text.txt --lang 2"), 5);
-  EXPECT_THAT(world.err, HasSubstr("Not a valid file"));
+      "{Espa\xF1ol}{English}\r\n{Parece que la hora del dispositivo no esta sincronizada, desea "
+      "sincronizarlo con la hora del PC?}{Set the clock?}\r\n";
+  world.Logger().SetClock({2026, 3, 2, 8, 0, 0});
+  EXPECT_EQ(world.Run("info --lang 2 --port sim:VR200"), 0);
+  EXPECT_THAT(world.err, HasSubstr("Ostrel VR200: Set the clock? no"));
   EXPECT_TRUE(world.files.contents.contains("/home/user/data/Lang.txt"));
   EXPECT_FALSE(world.files.contents["/share/Lang.txt"].find("Aviso") != std::string::npos)
       << "the installed table is never written";

@@ -120,7 +120,7 @@ TEST(Diff, TellsFilesOfTwoModelsApart) {
   world.HaveFile("/a.ocf");
   world.HaveFile("/b.ocf", "KA1");
   EXPECT_EQ(world.Run("diff /a.ocf /b.ocf"), 1);
-  EXPECT_THAT(world.out, HasSubstr("VERSION: Ostrel VR200 -> Ostrel KA1\n"));
+  EXPECT_THAT(world.out, HasSubstr("GENERAL (general)\n  VERSION: Ostrel VR200 -> Ostrel KA1\n"));
 }
 
 /// A configuration of a VR200, in which nothing is wrong.
@@ -141,6 +141,7 @@ struct RuleCase {
 };
 
 TEST(Check, FindsEachMistakeByItsRule) {
+  const std::string kWhole = " --silence section-missing";  // the sample has but a few
   const std::string shortMasks = " --features ffeffff";
   for (const RuleCase& one : std::vector<RuleCase>{
            {"Bomba", "Bomba", "", ""},
@@ -155,6 +156,12 @@ TEST(Check, FindsEachMistakeByItsRule) {
            {"NOMBRE=Puerta", "NOMBRE=" + std::string(60, 'x'), "", "text-too-long"},
            {"Abierta", std::string(60, 'x'), "", "text-too-long"},
            {"+34600100200", "+3460010020012345678", "", "text-too-long"},
+           {"RENVT= 10", "RENVT=abc", "", "value-misread"},
+           {"ACTHI( 0 0)= 5", "ACTHI( 0 0)= 99999", "", "value-misread"},
+           {"RENVT= 10", "RENVT=10.0", "", ""},
+           {"SMS( 0)=True", "SMS( 0)=True\r\nHABIL( 1)=maybe", "", "value-misread"},
+           {"SMS( 0)=True", "SMS( 0)=True\r\nINICIO( 0)=99:99", "", "value-misread"},
+           {"SMS( 0)=True", "SMS( 0)=True\r\nINICIO( 0)=07:30", "", ""},
            {"OTHER=1", "OTHER=" + std::string(255, 'x'), "", "value-cut"},
            {"ACTHI( 0 0)= 5", "ACTHI( 0 0)= 41", "", "action-not-offered"},
            {"ACTHI( 0 0)= 5", "ACTHI( 0 0)=-1", "", ""},
@@ -176,14 +183,14 @@ TEST(Check, FindsEachMistakeByItsRule) {
     World world;
     world.files.contents["/a.ocf"] = Sound();
     world.Edit("/a.ocf", one.from, one.to);
-    EXPECT_EQ(world.Run("check /a.ocf --json" + one.options), one.code) << one.to;
+    EXPECT_EQ(world.Run("check /a.ocf --json" + kWhole + one.options), one.code) << one.to;
     const QJsonArray findings = world.Json().object()["findings"].toArray();
     EXPECT_EQ(findings.size(), one.rule.empty() ? 0 : 1) << one.to << '\n' << world.out;
     if (findings.empty() || one.rule.empty()) continue;
     EXPECT_EQ(findings[0].toObject()["rule"].toString().toStdString(), one.rule) << one.to;
     EXPECT_EQ(findings[0].toObject()["severity"].toString().toStdString(),
               one.code == 1 ? "error" : "warning");
-    EXPECT_EQ(world.Run("check /a.ocf" + one.options + " --silence " + one.rule), 0);
+    EXPECT_EQ(world.Run("check /a.ocf" + kWhole + one.options + " --silence " + one.rule), 0);
     EXPECT_EQ(world.out, "") << "a rule can be silenced";
   }
 }
@@ -197,11 +204,20 @@ TEST(Check, FindsNothingInWhatASimulatedLoggerHolds) {
   }
 }
 
+TEST(Check, FindsThatAFileWasCut) {
+  World world;
+  world.HaveFile("/a.ocf");
+  std::string& text = world.files.contents["/a.ocf"];
+  text.resize(text.find("[FLAG 14]"));
+  EXPECT_EQ(world.Run("check /a.ocf"), 0);
+  EXPECT_THAT(world.out, HasSubstr("warning: [FLAG 14]: this section and 1 more are missing"));
+}
+
 TEST(Check, SaysWhereAndWhatHelps) {
   World world;
   world.files.contents["/a.ocf"] = Sound();
   world.Edit("/a.ocf", "Bomba", "Bomba, sur");
-  EXPECT_EQ(world.Run("check /a.ocf"), 1);
+  EXPECT_EQ(world.Run("check /a.ocf --silence section-missing"), 1);
   EXPECT_EQ(world.out,
             "error: [GENERAL] NOMBRE: a comma ends the text on the line: write something else for "
             "it (text-breaks-statement)\n");

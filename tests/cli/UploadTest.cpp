@@ -126,12 +126,27 @@ TEST(Upload, AnInterruptSaysHowTheLoggerStands) {
   EXPECT_THAT(world.err, HasSubstr("interrupted; whether the logger has taken"));
 }
 
+TEST(Upload, AFailedVerificationSaysThatTheLoggerHoldsTheNewConfiguration) {
+  World world;
+  world.HaveFile("/a.ocf");
+  world.SetKey("/a.ocf", "General", "NOMBRE", "Nuevo");
+  bool isWritten = false;
+  world.Logger().OnExchange([&](const sim::Exchange& exchange) {
+    isWritten = isWritten || exchange.request.starts_with("#46");
+    if (isWritten && exchange.request == "#42") world.environment.onInterrupt();
+  });
+  EXPECT_EQ(world.Run("upload /a.ocf --no-backup --port sim:VR200"), 4);
+  EXPECT_THAT(world.err, HasSubstr("interrupted; the logger has taken the new configuration over, "
+                                   "which is not verified"));
+  EXPECT_EQ(world.Logger().Conf().name, "Nuevo");
+}
+
 TEST(Upload, AsksBeforeItSendsTheFileOfAnotherModel) {
   World world;
   world.HaveFile("/ka1.ocf", "KA1");
   EXPECT_EQ(world.Run("upload /ka1.ocf --port sim:VR200"), 5);
-  EXPECT_THAT(world.err, HasSubstr("es de un modelo distinto"));
-  EXPECT_THAT(world.err, HasSubstr("/ka1.ocf is for another model"));
+  EXPECT_THAT(world.err, HasSubstr("is for the model Ostrel KA1, the logger is of the model"));
+  EXPECT_THAT(world.err, HasSubstr("/ka1.ocf is for another model: --yes sends it all the same"));
   EXPECT_EQ(world.Logger().UploadsTaken(), 0U);
   EXPECT_EQ(world.Run("upload /ka1.ocf --dry-run --yes --port sim:VR200"), 0);
 }
@@ -143,7 +158,7 @@ TEST(Upload, ADryRunSendsNothingAndTellsItsTime) {
   const std::string statements = world.out;
   EXPECT_EQ(world.Run("upload /a.ocf --dry-run --features 10000"), 0);
   EXPECT_TRUE(world.out.starts_with(statements)) << world.out;
-  EXPECT_THAT(world.out, HasSubstr(" statements, "));
+  EXPECT_THAT(world.out, HasSubstr(" statements for features 0x10000, "));
   EXPECT_EQ(world.Run("upload /a.ocf --dry-run --json --port sim:VR200"), 0);
   const QJsonObject plan = world.Json().object();
   const double seconds = plan["octets"].toDouble() / 960 + plan["statements"].toInt() * 0.01;

@@ -28,8 +28,9 @@ class Link {
   Link(const std::string& path, const std::string& target) : path_(path) {
     if (path.empty()) return;
     std::error_code ignored;
-    if (std::filesystem::is_symlink(path, ignored)) std::filesystem::remove(path);
-    std::filesystem::create_symlink(target, path);
+    if (std::filesystem::is_symlink(path, ignored)) std::filesystem::remove(path, ignored);
+    std::filesystem::create_symlink(target, path, error_);
+    if (error_) path_.clear();
   }
   ~Link() {
     std::error_code ignored;
@@ -38,15 +39,25 @@ class Link {
   Link(const Link&) = delete;
   Link& operator=(const Link&) = delete;
 
+  /// Why the link could not be made; empty when it stands.
+  std::string Error() const { return error_ ? error_.message() : std::string(); }
+
  private:
+  std::error_code error_;
   std::string path_;
 };
+
+int CannotKeep(const std::string& path, const FileResult& result) {
+  return Fail(ExitCode::BadFile, "cannot write " + path + ": " + result.error);
+}
 
 int Serve(QtEventLoop& loop, sim::Logger& logger, const std::string& path,
           const SimOptions& options) {
   bool isOver = false;
   const SignalPipe watch(loop, [&] { isOver = true; });
   const Link link(options.link, path);
+  if (!link.Error().empty())
+    return Fail(ExitCode::BadFile, "cannot make the link " + options.link + ": " + link.Error());
   logger.OnExchange(
       [](const sim::Exchange& exchange) { std::cout << ExchangeLine(exchange) << std::endl; });
   std::cout << path << std::endl;
@@ -54,7 +65,7 @@ int Serve(QtEventLoop& loop, sim::Logger& logger, const std::string& path,
   QtFiles files;
   if (options.stateFile.empty()) return 0;
   const FileResult saved = SaveWhole(files, options.stateFile, logger.SaveState());
-  return saved.Ok() ? 0 : Fail(ExitCode::BadFile, options.stateFile + ": " + saved.error);
+  return saved.Ok() ? 0 : CannotKeep(options.stateFile, saved);
 }
 
 int Run(SimOptions options) {
@@ -75,6 +86,11 @@ int Run(SimOptions options) {
   std::string error;
   if (state && !logger->LoadState(*state, error))
     return Fail(ExitCode::BadFile, options.stateFile + ": " + error);
+  // Found out now and not when a long session is to be kept.
+  if (!options.stateFile.empty())
+    if (const FileResult saved = SaveWhole(files, options.stateFile, logger->SaveState());
+        !saved.Ok())
+      return CannotKeep(options.stateFile, saved);
   return Serve(loop, *logger, terminal.SlavePath(), options);
 }
 

@@ -111,6 +111,9 @@ FileResult QtFiles::Sync(const std::string& path) {
 }
 
 FileResult QtFiles::Rename(const std::string& from, const std::string& to) {
+  // A device or a pipe by this name is somebody else's.
+  if (std::error_code error; fs::exists(to, error) && !fs::is_regular_file(to, error))
+    return {"what stands there is no file to replace"};
   if (std::rename(from.c_str(), to.c_str()) != 0) return Outcome(false);
   const fs::path folder = fs::path(to).parent_path();
   const Handle handle(folder.empty() ? "." : folder.string(), O_RDONLY | O_DIRECTORY);

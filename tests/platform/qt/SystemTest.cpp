@@ -59,6 +59,9 @@ TEST_F(SystemTest, FilesTellWhatFailed) {
   EXPECT_FALSE(files.Rename(Path("none"), Path("a")).Ok());
   EXPECT_FALSE(files.Remove(Path("none")).Ok());
   EXPECT_FALSE(SaveWhole(files, Path("no/folder.ocf"), "x").Ok());
+  ASSERT_EQ(::mkfifo(Path("pipe").c_str(), 0600), 0);
+  EXPECT_FALSE(SaveWhole(files, Path("pipe"), "x").Ok());
+  EXPECT_TRUE(fs::is_fifo(Path("pipe")) && !fs::exists(Path("pipe.new0")));
   EXPECT_EQ(files.Read(folder.path().toStdString()), std::nullopt);
   EXPECT_EQ(files.Read("/dev/zero"), std::nullopt);
   fs::create_symlink(Path("loop"), Path("loop"));
