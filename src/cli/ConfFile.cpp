@@ -32,7 +32,7 @@ ExitCode TryToWrite(CommandContext& context, const std::string& path) {
 ExitCode SaveBackup(CommandContext& context, Configurator& configurator, std::string& path) {
   const Environment& environment = context.environment;
   SafetyCopies copies(environment.files, environment.clock, environment.dataFolder);
-  const SafetyCopies::Kept kept = copies.Keep(configurator);
+  const SafetyCopies::Kept kept = copies.Keep(configurator, configurator.conf);
   path = kept.path;
   return kept.result.Ok() ? ExitCode::Done : CannotWrite(context, path, kept.result);
 }

@@ -30,7 +30,9 @@ void AddOptions(CLI::App& app, SimOptions& options, Texts& texts) {
   app.add_option("--fault", texts.faults, "What goes wrong; may be given again")
       ->allow_extra_args(false);
   app.add_option("--seed", options.logger.seed, "Of live values and faults")
-      ->check(CLI::NonNegativeNumber)
+      ->check([](const std::string& text) {
+        return text.starts_with('-') ? text + " is no seed" : NoWholeNumber(text);
+      })
       ->capture_default_str();
   app.add_option("--link", options.link, "Symbolic link to make to the pseudo-terminal");
   app.footer("Faults:\n" + sim::FaultHelp());

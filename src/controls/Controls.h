@@ -219,7 +219,6 @@ class Timer {
  public:
   Timer(Form& form, std::string_view name, EventLoop& loop, Duration interval);
   ~Timer();
-  Duration Interval() const { return interval_; }
   bool Enabled() const { return running_ != 0; }
   void SetEnabled(bool enabled);
 

@@ -29,7 +29,6 @@ class Form {
   Form& operator=(const Form&) = delete;
 
   const std::string& Name() const { return name_; }
-  const std::string& TitleKey() const { return titleKey_; }
   const std::string& Title() const { return title_; }
   void SetTitle(std::string_view title);
 

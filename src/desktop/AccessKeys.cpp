@@ -43,7 +43,8 @@ QString WithAccessKey(const QString& caption, std::set<QChar>& taken) {
   return EscapedCaption(caption);
 }
 
-void AssignAccessKeys(QWidget& root, std::set<QChar> taken) {
+void AssignAccessKeys(QWidget& root) {
+  std::set<QChar> taken;
   // Buttons and boxes first: a field can also be reached by tabbing from its neighbour.
   for (auto* button : root.findChildren<QAbstractButton*>()) {
     const QString caption = WithoutAccessKey(button->text());

@@ -18,6 +18,6 @@ QString WithoutAccessKey(const QString& text);
 QString WithAccessKey(const QString& caption, std::set<QChar>& taken);
 
 /// Gives the buttons, boxes and field labels below a widget access keys, each letter once.
-void AssignAccessKeys(QWidget& root, std::set<QChar> taken);
+void AssignAccessKeys(QWidget& root);
 
 }  // namespace ostrel

@@ -51,7 +51,7 @@ Card ScaleCard(FormView& view) {
 void LayOutAnalog(FormView& view) {
   auto* page = new QVBoxLayout(&view);
   page->setContentsMargins(16, 12, 16, 16);
-  QWidget* heading = view.Heading({}, nullptr);
+  QWidget* heading = view.Heading({});
   page->addWidget(heading);
   auto* top = new QHBoxLayout;
   top->addWidget(InputCard(view).box, 4);

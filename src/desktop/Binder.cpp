@@ -45,7 +45,8 @@ Bound BindKind(Label& label, const BindOptions&, QWidget* parent) {
   return {widget, [widget, &label] {
             FollowFace(*widget, label.face);
             // A label is as grey as the control that it stands beside.
-            if (const QWidget* buddy = widget->buddy(); buddy && buddy->testAttribute(Qt::WA_ForceDisabled))
+            if (const QWidget* buddy = widget->buddy();
+                buddy && buddy->testAttribute(Qt::WA_ForceDisabled))
               widget->setEnabled(false);
             const QString caption = ToQt(label.face.Caption());
             if (WithoutAccessKey(widget->text()) == caption) return;
@@ -127,7 +128,9 @@ Bound BindKind(TextBox& box, const BindOptions& options, QWidget* parent) {
             const QString text = ToQt(box.Text());
             // The limit is one on typing: a longer text from a file or a logger is shown whole.
             const int limit = box.MaxLength() == 0 ? kUnlimited : box.MaxLength();
-            widget->setMaxLength(std::max(limit, static_cast<int>(text.size())));
+            const int length = std::max(limit, static_cast<int>(text.size()));
+            // Setting it again would send the cursor to the end and forget what can be undone.
+            if (widget->maxLength() != length) widget->setMaxLength(length);
             if (widget->text() == text) return;
             widget->setText(text);
             if (!widget->hasFocus()) widget->setCursorPosition(0);  // its beginning is seen

@@ -11,7 +11,7 @@ namespace ostrel {
 void LayOutDigital(FormView& view) {
   auto* page = new QVBoxLayout(&view);
   page->setContentsMargins(16, 12, 16, 16);
-  QWidget* heading = view.Heading({}, nullptr);
+  QWidget* heading = view.Heading({});
   page->addWidget(heading);
   const Card input = MakeCard(view, Words::tr("Input"));
   AddField(input, view.LabelFor("Nombre", Words::tr("Name:")), view.Show("Nombre"));

@@ -9,7 +9,7 @@ namespace ostrel {
 void LayOutFlags(FormView& view) {
   auto* page = new QVBoxLayout(&view);
   page->setContentsMargins(16, 12, 16, 16);
-  QWidget* heading = view.Heading({}, nullptr);
+  QWidget* heading = view.Heading({});
   page->addWidget(heading);
   page->addWidget(LayOutAlarmPanel(view, {}));
   page->addStretch(1);

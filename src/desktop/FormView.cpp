@@ -90,7 +90,7 @@ void FormView::SetRowText(std::string_view control,
   rowTexts_.emplace(control, std::move(rowText));
 }
 
-QWidget* FormView::Heading(const QString& untitled, QWidget* atRight) {
+QWidget* FormView::Heading(const QString& untitled) {
   auto* bar = new QWidget(this);
   auto* row = new QHBoxLayout(bar);
   row->setContentsMargins(0, 0, 0, 0);
@@ -99,14 +99,12 @@ QWidget* FormView::Heading(const QString& untitled, QWidget* atRight) {
   heading_->setTextFormat(Qt::PlainText);
   untitled_ = untitled;
   row->addWidget(heading_, 1);
-  if (atRight) row->addWidget(atRight);
   return bar;
 }
 
-void FormView::Finish(const std::set<QChar>& takenKeys) {
-  takenKeys_ = takenKeys;
+void FormView::Finish() {
   finished_ = true;
-  AssignAccessKeys(*this, takenKeys_);
+  AssignAccessKeys(*this);
   if (heading_) heading_->setText(form_.Title().empty() ? untitled_ : ToQt(form_.Title()));
   setEnabled(form_.Enabled());
 }
@@ -125,7 +123,7 @@ void FormView::Follow(std::string_view control) {
     }
   }
   if (const auto label = labels_.find(control); label != labels_.end()) Follow(label->second);
-  if (finished_ && widget->accessibleName() != before) AssignAccessKeys(*this, takenKeys_);
+  if (finished_ && widget->accessibleName() != before) AssignAccessKeys(*this);
 }
 
 void FormView::FollowForm() {

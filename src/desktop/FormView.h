@@ -51,9 +51,9 @@ class FormView final : public QWidget {
   /// How the rows of a drop-down list read. Ahead of the first asking for it.
   void SetRowText(std::string_view control, std::function<QString(const ListRow&)> rowText);
   /// A heading with the form's title above the rest, with a place for more at its right.
-  QWidget* Heading(const QString& untitled, QWidget* atRight);
+  QWidget* Heading(const QString& untitled);
   /// Called by a layout when all stands: access keys, and the present state of the form.
-  void Finish(const std::set<QChar>& takenKeys);
+  void Finish();
 
   // For the window.
   /// The widget of a control; null when no layout has asked for it.
@@ -84,7 +84,6 @@ class FormView final : public QWidget {
   std::map<std::string, std::string, std::less<>> labels_;
   std::map<std::string, std::function<QString(const ListRow&)>, std::less<>> rowTexts_;
   std::set<const QWidget*> own_;
-  std::set<QChar> takenKeys_;
   QLabel* heading_ = nullptr;
   QString untitled_;
   /// What the form showed of itself when it was last looked at.

@@ -151,7 +151,7 @@ void LayOutGeneral(FormView& view, const LayoutContext& context) {
   auto* warning = view.Show<QLabel>("WarningText");
   warning->setWordWrap(true);
   auto* top = new QHBoxLayout;
-  auto* heading = view.Heading(Words::tr("General"), nullptr);
+  auto* heading = view.Heading(Words::tr("General"));
   top->addWidget(SessionCard(view, context).box, 7);
   top->addWidget(DeviceCard(view).box, 4);
   top->addWidget(LoggerCard(view).box, 5);

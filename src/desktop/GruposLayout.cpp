@@ -28,7 +28,7 @@ Card GroupCard(FormView& view, int group) {
 void LayOutGrupos(FormView& view) {
   auto* page = new QVBoxLayout(&view);
   page->setContentsMargins(16, 12, 16, 16);
-  QWidget* heading = view.Heading({}, nullptr);
+  QWidget* heading = view.Heading({});
   page->addWidget(heading);
   auto* cards = new QGridLayout;
   for (int group = 0; group < kGroups; ++group)

@@ -35,7 +35,7 @@ FormView* MakeView(Form& form, const LayoutContext& context, QWidget* parent) {
     if (name != form.Name()) continue;
     auto* view = new FormView(form, context.guard, parent);
     layOut(*view, context);
-    view->Finish(context.takenKeys);
+    view->Finish();
     return view;
   }
   throw std::logic_error("form " + form.Name() + " has no layout");

@@ -2,7 +2,6 @@
 
 #include <QString>
 #include <functional>
-#include <set>
 
 #include "desktop/FormView.h"
 #include "desktop/Guard.h"
@@ -14,8 +13,6 @@ struct LayoutContext {
   Guard guard;
   /// How a row of the port list reads, with the device behind the number.
   std::function<QString(const ListRow&)> portText;
-  /// Letters that the window around the form uses with Alt.
-  std::set<QChar> takenKeys;
 };
 
 /// Draws any form of the program. A form that has no layout is a broken invariant.

@@ -17,7 +17,6 @@ class LinkPanel final : public QWidget {
   /// Shows a transfer of `steps` steps at step `done`, and words on the time left.
   void ShowProgress(int done, int steps, const QString& left);
   void HideProgress();
-  QString StateWords() const { return words_->text(); }
 
  private:
   QLabel* lamp_;

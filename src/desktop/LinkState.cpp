@@ -9,13 +9,16 @@ namespace {
 constexpr int kWorthTelling = 2;  // seconds
 
 LinkState::Kind KindOf(Configurator& configurator) {
-  const SessionFrame& session = configurator.general.Session();
   if (!configurator.Connected)
     return configurator.comms.PortOpen() ? LinkState::Kind::Detecting : LinkState::Kind::Idle;
-  // A transfer disables the whole page and rules out all other requests.
-  const bool isTransfer = !configurator.general.GetForm().Enabled();
-  if (isTransfer && configurator.ComBusy) return LinkState::Kind::Reading;
-  if (isTransfer && session.WriteRequest) return LinkState::Kind::Writing;
+  switch (configurator.session.Running()) {
+    case TransferKind::Reading:
+      return LinkState::Kind::Reading;
+    case TransferKind::Writing:
+      return LinkState::Kind::Writing;
+    case TransferKind::None:
+      break;
+  }
   return LinkState::Kind::Open;
 }
 

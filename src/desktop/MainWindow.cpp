@@ -81,13 +81,13 @@ MainWindow::~MainWindow() {
   parts_.platform.loop.Cancel(lookTimer_);
   configurator_.OnTargetChanged = nullptr;
   configurator_.comms.Trace = nullptr;
+  configurator_.session.OnTransferEnded = nullptr;
   navigation_.OnFrontChanged = nullptr;
 }
 
 LayoutContext MainWindow::Context() const {
   return {.guard = parts_.guard,
-          .portText = [this](const ListRow& row) { return ports_.RowText(row); },
-          .takenKeys = {}};
+          .portText = [this](const ListRow& row) { return ports_.RowText(row); }};
 }
 
 void MainWindow::Follow() {
@@ -99,7 +99,9 @@ void MainWindow::Follow() {
   shownNode_ = configurator_.general.GetForm().Visible() ? "General" : "Tavro";
   tree_->Select(shownNode_);
   tree_->Tree().setFocus();
-  unsaved_.Keep();
+  unsaved_.Keep(unsaved_.WithFront());
+  if (!configurator_.ConfFilePath.empty()) Reached(configurator_.ConfFilePath);
+  configurator_.session.OnTransferEnded = [this](const TransferEnd& end) { TransferEnded(end); };
   Look();
   lookTimer_ = parts_.platform.loop.Every(kLookInterval, "window",
                                           [this] { parts_.guard([this] { Look(); }); });
@@ -128,7 +130,7 @@ void MainWindow::Look() {
   const LinkState state = LinkStateOf(configurator_);
   link_->ShowState(state);
   EnableTools(state.kind != LinkState::Kind::Reading && state.kind != LinkState::Kind::Writing);
-  if (const auto ended = transfer_.Look(now)) TransferEnded(*ended);
+  transfer_.Look(now);
   ShowTransfer();
   ShowFault();
   if (looks_++ % kLooksPerSecond == 0) ShowTitle();
@@ -168,21 +170,22 @@ void MainWindow::ShowFault() {
 
 void MainWindow::ShowTitle() {
   QString title = ToQt(configurator_.MainCaption()) + "[*]";
-  if (!configurator_.ConfFilePath.empty())
-    title = ToQt(configurator_.ConfFilePath).section(u'/', -1) + "[*] - " +
-            ToQt(configurator_.MainCaption());
+  if (!shownFile_.empty())
+    title = ToQt(shownFile_).section(u'/', -1) + "[*] - " + ToQt(configurator_.MainCaption());
   if (windowTitle() != title) setWindowTitle(title);
   setWindowModified(unsaved_.Changed());
 }
 
-void MainWindow::TransferEnded(LinkState::Kind kind) {
-  if (configurator_.comms.Fault().kind != LinkFault::Kind::None) return;
-  unsaved_.Keep();
-  const FileResult kept = copies_.Keep(configurator_).result;
+void MainWindow::TransferEnded(const TransferEnd& end) {
+  transfer_.Ended(end);
+  if (!end.done) return;
+  unsaved_.Keep(end.held);
+  if (end.kind == TransferKind::Reading) shownFile_.clear();
+  const FileResult kept = copies_.Keep(configurator_, end.held).result;
   if (!kept.Ok())
     statusBar()->showMessage(Words::tr("No safety copy could be kept: %1").arg(ToQt(kept.error)),
                              10'000);
-  if (kind == LinkState::Kind::Reading) ShowTitle();
+  ShowTitle();
 }
 
 bool MainWindow::FileHoldsAll() const {
@@ -194,19 +197,27 @@ bool MainWindow::FileHoldsAll() const {
 
 bool MainWindow::MayLeave() {
   if (!unsaved_.Changed()) return true;
+  // A transfer owns the model: what stands there now is no state to save.
+  const bool mayBeSaved = configurator_.session.Running() == TransferKind::None;
   QMessageBox box(QMessageBox::NoIcon, ToQt(configurator_.profile.TargetName),
-                  Words::tr("The configuration has changes that are neither saved nor sent."),
+                  mayBeSaved ? Words::tr("The configuration has changes that are neither saved "
+                                         "nor sent.")
+                             : Words::tr("A transfer is under way. Leaving breaks it off, and "
+                                         "changes that are neither saved nor sent are lost."),
                   QMessageBox::NoButton, this);
   box.setIconPixmap(BoxPicture(BoxIcon::Question));
-  QPushButton* save = box.addButton(Words::tr("&Save"), QMessageBox::AcceptRole);
+  QPushButton* save =
+      mayBeSaved ? box.addButton(Words::tr("&Save"), QMessageBox::AcceptRole) : nullptr;
   QPushButton* discard =
       box.addButton(Words::tr("&Leave without saving"), QMessageBox::DestructiveRole);
   QPushButton* stay = box.addButton(Words::tr("&Cancel"), QMessageBox::RejectRole);
-  box.setDefaultButton(save);
+  box.setDefaultButton(save ? save : stay);
   box.setEscapeButton(stay);
   box.exec();
-  if (box.clickedButton() == save) Save();
-  return box.clickedButton() == discard || !unsaved_.Changed();
+  if (box.clickedButton() == discard) return true;
+  if (!save || box.clickedButton() != save) return false;
+  if (configurator_.session.Running() == TransferKind::None) Save();
+  return !unsaved_.Changed();
 }
 
 void MainWindow::RestorePlace() {

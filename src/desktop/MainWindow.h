@@ -77,7 +77,7 @@ class MainWindow final : public QMainWindow {
   void ShowFault();
   void EnableTools(bool enabled);
   void ShowTransfer();
-  void TransferEnded(LinkState::Kind kind);
+  void TransferEnded(const TransferEnd& end);
   /// Whether the file at `ConfFilePath` holds the present configuration.
   bool FileHoldsAll() const;
   void Reached(const std::string& path);
@@ -96,6 +96,7 @@ class MainWindow final : public QMainWindow {
   PortWatch ports_;
   TreePane* tree_;
   std::string shownNode_;  ///< key of the node in front
+  std::string shownFile_;  ///< file whose configuration is worked on; empty for none
   PageArea* pages_;
   LinkPanel* link_;
   TraceView* trace_;

@@ -120,8 +120,9 @@ void MainWindow::Save() {
 /// Notes a file that has been opened or saved, if it holds what the program holds.
 void MainWindow::Reached(const std::string& path) {
   if (FileHoldsAll()) {
-    unsaved_.Keep();
+    unsaved_.Keep(configurator_.conf);
     recent_.Add(path);
+    shownFile_ = path;
   }
   ShowTitle();
 }
@@ -156,8 +157,10 @@ void MainWindow::FillCopies(QMenu& menu) {
   if (menu.isEmpty()) menu.addAction(Words::tr("No copies yet"))->setEnabled(false);
   menu.addSeparator();
   menu.addAction(Words::tr("Show the folder"), this, [this] {
-    parts_.platform.files.MakeFolder(copies_.Folder());
-    QDesktopServices::openUrl(QUrl::fromLocalFile(ToQt(copies_.Folder())));
+    parts_.guard([this] {
+      parts_.platform.files.MakeFolder(copies_.Folder());
+      QDesktopServices::openUrl(QUrl::fromLocalFile(ToQt(copies_.Folder())));
+    });
   });
 }
 

@@ -2,22 +2,21 @@
 
 #include <utility>
 
+#include "lang/Scope.h"
 #include "shell/Configurator.h"
 #include "shell/Navigation.h"
 
 namespace ostrel {
 
 DeviceConf UnsavedMark::WithFront() {
-  const DeviceConf committed = configurator_.conf;
+  const Lent untouched(configurator_.conf, DeviceConf(configurator_.conf));
   navigation_.CommitFront();
-  return std::exchange(configurator_.conf, committed);
+  return configurator_.conf;
 }
 
-void UnsavedMark::Keep() {
-  looked_ = WithFront();
-  lookedModel_ = configurator_.profile.TargetType;
-  kept_ = FieldLines(configurator_, looked_);
-  changed_ = false;
+void UnsavedMark::Keep(const DeviceConf& safe) {
+  kept_ = FieldLines(configurator_, safe);
+  looked_.reset();
 }
 
 bool UnsavedMark::Changed() {
@@ -27,7 +26,7 @@ bool UnsavedMark::Changed() {
   if (present == looked_ && model == lookedModel_) return changed_;
   looked_ = std::move(present);
   lookedModel_ = model;
-  changed_ = FieldLines(configurator_, looked_) != kept_;
+  changed_ = FieldLines(configurator_, *looked_) != kept_;
   return changed_;
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <optional>
+#include <string>
 #include <vector>
 
 #include "model/DeviceConf.h"
@@ -17,8 +19,8 @@ class UnsavedMark {
   UnsavedMark(Configurator& configurator, Navigation& navigation)
       : configurator_(configurator), navigation_(navigation) {}
 
-  /// The present state is safe in a file or in a logger.
-  void Keep();
+  /// A state is safe in a file or in a logger.
+  void Keep(const DeviceConf& safe);
   /// Whether anything is neither saved nor sent. While a download replaces the model, as before.
   bool Changed();
   /// The configuration as it would be if the page in front were committed.
@@ -28,7 +30,8 @@ class UnsavedMark {
   Configurator& configurator_;
   Navigation& navigation_;
   std::vector<FieldLine> kept_;
-  DeviceConf looked_;  ///< what was looked at last, to spare looking twice
+  /// What was looked at last, to spare looking twice; nothing when it has to be looked at anew.
+  std::optional<DeviceConf> looked_;
   std::string lookedModel_;
   bool changed_ = false;
 };

@@ -35,6 +35,7 @@ struct LinkHooks {
   std::function<void()> loadPages;              ///< shows the model, after a download
   std::function<void(int maximum)> barMaximum;  ///< progress bar; its value is set after this
   std::function<void(int value)> barValue;
+  std::function<void()> composed;  ///< an attempt of an upload has taken its state from the model
   std::function<void(std::string_view key)> infoChanged;  ///< one value of `DeviceInfo` has arrived
   std::function<void()> showPWForm;   ///< asks the access code, modal, into AccessCode
   std::function<void()> carrierLost;  ///< tells the operator

@@ -36,6 +36,7 @@ bool Comms::UploadOnce() {
   StatementNo = 0;
   // Composed at once, so that what is sent is one state of the model.
   const std::vector<std::string> statements = ComposeStatements();
+  if (hooks_.composed) hooks_.composed();
   for (const std::string& statement : statements)
     if (!SendStatement(statement, hooks_.barValue))
       return RxLine.empty() ? FailWaiting(StatementNo - 1)

@@ -73,6 +73,7 @@ LinkHooks Configurator::MakeHooks() {
       .loadPages = [this] { ForEach(kLoadAfterDownload, [](Page& page) { page.LoadData(); }); },
       .barMaximum = [&frame](int maximum) { frame.PBar.SetMaximum(maximum); },
       .barValue = [&frame](int value) { frame.PBar.SetValue(value); },
+      .composed = [this] { session.KeepSent(); },
       .infoChanged = [this](std::string_view key) { general.ShowInfo(key); },
       .showPWForm = [this] { pwForm.ShowModal(comms.AccessCode); },
       .carrierLost = [this] { ShowCarrierLost(); },

@@ -29,13 +29,14 @@ std::string StampOf(const DateTime& time) {
 
 }  // namespace
 
-SafetyCopies::Kept SafetyCopies::Keep(Configurator& configurator) {
+SafetyCopies::Kept SafetyCopies::Keep(Configurator& configurator, const DeviceConf& held) {
   if (const FileResult made = files_.MakeFolder(folder_); !made.Ok()) return {made, folder_};
   const std::string name =
       folder_ + "/" + NameOf(configurator.info.SerialNumber) + "-" + StampOf(clock_.LocalNow());
   std::string path = name + ".ocf";
   for (int next = 2; files_.Exists(path); ++next) path = name + "-" + std::to_string(next) + ".ocf";
   const Lent lentPath(configurator.ConfFilePath, path);
+  const Lent lentConf(configurator.conf, held);
   return {configurator.SaveConf(), path};
 }
 

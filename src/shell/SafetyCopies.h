@@ -8,6 +8,7 @@
 namespace ostrel {
 
 class Configurator;
+struct DeviceConf;
 
 /// The folder of the configurations that loggers were known to hold, named by serial number and
 /// time: "Q1234567-20260302-090507.ocf".
@@ -22,9 +23,9 @@ class SafetyCopies {
   SafetyCopies(Files& files, const Clock& clock, const std::string& dataFolder)
       : files_(files), clock_(clock), folder_(dataFolder + "/backups") {}
 
-  /// Keeps the present configuration as what the logger named by the information holds. A copy that
-  /// stands is never overwritten; the path of the configuration file stays as it is.
-  Kept Keep(Configurator& configurator);
+  /// Keeps a configuration as what the logger named by the information holds. A copy that stands is
+  /// never overwritten; configuration and path of the configurator stay as they are.
+  Kept Keep(Configurator& configurator, const DeviceConf& held);
   const std::string& Folder() const { return folder_; }
 
  private:

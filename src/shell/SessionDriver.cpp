@@ -104,31 +104,38 @@ void SessionDriver::ShowState() {
 }
 
 bool SessionDriver::Upload() {
-  return Transfer("Escribiendo configuracion...", "Configuracion escrita con exito",
-                  &Comms::WriteConf);
+  return Transfer(TransferKind::Writing, "Escribiendo configuracion...",
+                  "Configuracion escrita con exito");
 }
 
 bool SessionDriver::Download() {
-  return Transfer("Descargando configuracion...", "Configuracion descargada con exito",
-                  &Comms::ReadConf);
+  return Transfer(TransferKind::Reading, "Descargando configuracion...",
+                  "Configuracion descargada con exito");
 }
 
-bool SessionDriver::Transfer(std::string_view status, std::string_view success,
-                             bool (Comms::*dialogue)()) {
-  Form& form = general_.GetForm();
-  form.SetMousePointer(Pointer::Hourglass);
-  form.SetEnabled(false);
-  session_.EnableTransfers(false);
-  const AtEnd ended([&] {
-    session_.EnableTransfers(true);
-    form.SetEnabled(true);
-    form.SetMousePointer(Pointer::Default);
-  });
-  SetStatus(status);
-  CompleteInfo();
-  const bool done = (comms_.*dialogue)();
-  SetStatus(done ? success : "Error!");
-  return done;
+bool SessionDriver::Transfer(TransferKind kind, std::string_view status, std::string_view success) {
+  TransferEnd end{kind, false, {}};
+  {
+    const Lent running(running_, kind);
+    Form& form = general_.GetForm();
+    form.SetMousePointer(Pointer::Hourglass);
+    form.SetEnabled(false);
+    session_.EnableTransfers(false);
+    const AtEnd ended([&] {
+      session_.EnableTransfers(true);
+      form.SetEnabled(true);
+      form.SetMousePointer(Pointer::Default);
+    });
+    SetStatus(status);
+    // Goes on without, too: a logger that never ends its information may still give the rest.
+    CompleteInfo();
+    const bool reads = kind == TransferKind::Reading;
+    end.done = reads ? comms_.ReadConf() : comms_.WriteConf();
+    end.held = reads ? context_.conf : std::move(sent_);
+    SetStatus(end.done ? success : "Error!");
+  }
+  if (OnTransferEnded) OnTransferEnded(end);
+  return end.done;
 }
 
 void SessionDriver::SetStatus(std::string_view key) {

@@ -1,12 +1,25 @@
 #pragma once
 
+#include <functional>
 #include <string>
+#include <string_view>
 
 #include "link/Comms.h"
+#include "model/DeviceConf.h"
 #include "pages/General.h"
 #include "pages/PageContext.h"
 
 namespace ostrel {
+
+/// What carries a whole configuration over the line.
+enum class TransferKind { None, Reading, Writing };
+
+/// What a transfer came to.
+struct TransferEnd {
+  TransferKind kind;
+  bool done;
+  DeviceConf held;  ///< what the logger holds, when done: what was read, or what was sent
+};
 
 /// The main loop: serves the requests of the session controls, once a second, and keeps the device
 /// information fresh. The steps can also be run directly, by a command that does not wait for
@@ -29,6 +42,12 @@ class SessionDriver {
   bool Download();
   /// Uploads the configuration, likewise.
   bool Upload();
+  /// An attempt of an upload has taken its state from the model.
+  void KeepSent() { sent_ = context_.conf; }
+  /// The transfer under way.
+  TransferKind Running() const { return running_; }
+  /// Runs after each transfer. Set by the face.
+  std::function<void(const TransferEnd&)> OnTransferEnded;
 
  private:
   void OpenOrClose();
@@ -36,7 +55,7 @@ class SessionDriver {
   void CompareClocks();
   void ShowState();
   /// Runs a transfer with the page disabled, between its two status texts.
-  bool Transfer(std::string_view status, std::string_view success, bool (Comms::*dialogue)());
+  bool Transfer(TransferKind kind, std::string_view status, std::string_view success);
   void SetStatus(std::string_view key);
 
   PageContext& context_;
@@ -45,6 +64,8 @@ class SessionDriver {
   SessionFrame& session_;
   bool& Connected_;
   bool ticking_ = false;
+  TransferKind running_ = TransferKind::None;
+  DeviceConf sent_;  ///< what the last attempt of an upload sends
 };
 
 }  // namespace ostrel

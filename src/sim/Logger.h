@@ -59,7 +59,6 @@ class Logger final : public LineDevice {
   unsigned Outputs() const { return outputs_; }
   /// Total of a counter, 0 to 8.
   int Total(int index) const { return live_.Counter(index, Seconds()); }
-  void SetTotal(int index, int value) { live_.SetCounter(index, value, Seconds()); }
 
   /// All that outlives a power cycle as readable UTF-8 text: configuration, clock, totals, outputs.
   std::string SaveState() const;

@@ -42,7 +42,6 @@ class Modem {
   void HangUp();
   /// The far end is gone: ends the call and says so.
   void LoseCarrier();
-  bool InCall() const { return call_; }
 
  private:
   void TakeCommandOctet(char octet);

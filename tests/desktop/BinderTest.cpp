@@ -176,6 +176,17 @@ TEST_F(Binder, GreysALabelWithItsControlAndNotWithThePage) {
   EXPECT_TRUE(ofForm->isEnabled() && ofWindow->isEnabled());
 }
 
+TEST_F(Binder, TypesWhereTheCursorStandsAndCanUndo) {
+  auto* edit = Show<QLineEdit>("text");
+  text.SetText("ab");
+  edit->setCursorPosition(1);
+  for (const auto* letter : {"1", "2", "3"}) Press(edit, Qt::Key_1, letter);
+  EXPECT_EQ(text.Text(), "a123b");
+  EXPECT_EQ(edit->cursorPosition(), 4);
+  edit->undo();
+  EXPECT_EQ(edit->text(), "ab");
+}
+
 TEST_F(Binder, LimitsTypingButShowsLongerTextsOfCode) {
   auto* edit = Show<QLineEdit>("text");
   Type(edit, "1234567");
@@ -208,7 +219,7 @@ TEST_F(Binder, FollowsTheFocusOnlyWhenAskedTo) {
   auto* edit = Show<QLineEdit>("text");
   auto* box = Show<QCheckBox>("check");
   view.activateWindow();
-  view.Finish({});
+  view.Finish();
   form.SetFocus(text.face);
   EXPECT_EQ(view.focusWidget(), edit);
   box->setFocus();

@@ -2,10 +2,12 @@
 #include <gtest/gtest.h>
 
 #include <QAction>
+#include <QDir>
 #include <QDockWidget>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QPushButton>
 #include <QTableWidget>
 #include <QToolBar>
 #include <QTreeWidget>
@@ -19,6 +21,7 @@
 #include "desktop/HelpProcesses.h"
 #include "desktop/Language.h"
 #include "desktop/LinkPanel.h"
+#include "lang/CodePage.h"
 #include "lang/Help.h"
 
 namespace ostrel {
@@ -289,6 +292,72 @@ TEST_F(WindowTools, MayBeClosedInTheMidstOfADownload) {
   EXPECT_TRUE(closed);
   EXPECT_LT(loop.Now() - start, seconds(6));
   EXPECT_FALSE(port.PortOpen());
+}
+
+TEST_F(WindowTools, CountsAnEditDuringAnUploadAsNotSent) {
+  AddLogger(sim::Model::BP);
+  port.SetPaced(true);
+  Connect();
+  Core().general.Session().Leer.Click();
+  loop.RunFor(seconds(30));
+  EXPECT_FALSE(Window().isWindowModified());
+  for (const auto* key : {"E_Digital_0", "E_Analog_1", "Grupos", "Flag_3", "General"}) {
+    Window().GoTo(key);
+    loop.RunFor(seconds(1));
+    EXPECT_FALSE(Window().isWindowModified()) << "looking at " << key;
+  }
+  const std::string former = Core().conf.Digital[1].NOMBRE;
+  Core().general.Session().Escribir.Click();
+  loop.After(seconds(3), "edit", [&] {
+    EXPECT_EQ(Core().session.Running(), TransferKind::Writing);
+    Window().GoTo("E_Digital_1");
+    Core().PageNamed("E_Digital")->GetForm().Get<TextBox>("Nombre").Type("late");
+    Window().GoTo("E_Digital_2");
+  });
+  loop.RunFor(seconds(30));
+  EXPECT_EQ(logger->Conf().digitals[1].name, ToCodePage(former));
+  EXPECT_EQ(Core().conf.Digital[1].NOMBRE, "late");
+  EXPECT_TRUE(Window().isWindowModified());
+  const QFileInfoList copies =
+      QDir(folder.filePath("backups")).entryInfoList({"*.ocf"}, QDir::Files, QDir::Name);
+  ASSERT_EQ(copies.size(), 2);
+  const std::string first = *files.Read(FromQt(copies[0].filePath()));
+  EXPECT_EQ(files.Read(FromQt(copies[1].filePath())), first);
+  EXPECT_EQ(first.find("late"), std::string::npos);
+}
+
+TEST_F(WindowTools, OffersNoSavingInTheMidstOfATransfer) {
+  AddLogger(sim::Model::BP);
+  port.SetPaced(true);
+  Connect();
+  Core().conf.Digital[1].NOMBRE = "door";
+  loop.RunFor(seconds(2));
+  ASSERT_TRUE(Window().isWindowModified());
+  Core().general.Session().Leer.Click();
+  ModalScript modals;
+  modals.Expect([](QWidget* modal) {
+    EXPECT_EQ(modal->findChildren<QPushButton*>().size(), 2) << "leave or stay";
+    Press(modal, Qt::Key_Escape);
+  });
+  loop.After(seconds(4), "close", [&] { EXPECT_FALSE(Window().close()); });
+  loop.RunFor(seconds(6));
+  EXPECT_EQ(modals.Left(), 0u);
+}
+
+TEST_F(WindowTools, IsTitledByTheFileThatItWorksOn) {
+  Core().ConfFilePath = Path("a.ocf");
+  ASSERT_TRUE(Core().SaveConf().Ok());
+  files.Create(Path("x.txt"));
+  for (const auto* name : {"a.ocf", "x.txt"}) {
+    dialogs.ChoosePath(Path(name));
+    Tool("Abrir")->trigger();
+    EXPECT_TRUE(Window().windowTitle().startsWith("a.ocf[*] - ")) << "after " << name;
+  }
+  AddLogger(sim::Model::BP);
+  Connect();
+  Core().general.Session().Leer.Click();
+  loop.RunFor(seconds(5));
+  EXPECT_TRUE(Window().windowTitle().startsWith("Quorvane Tavro BP")) << "it is the logger's now";
 }
 
 TEST_F(WindowTools, ComparesWithAFileWithoutTouchingAnything) {

@@ -125,6 +125,7 @@ class LinkTest : public testing::Test {
             .loadPages = note("load"),
             .barMaximum = [this](int n) { hooked.push_back("max " + std::to_string(n)); },
             .barValue = [this](int n) { hooked.push_back("bar " + std::to_string(n)); },
+            .composed = {},
             .infoChanged = [this](std::string_view key) { hooked.emplace_back(key); },
             .showPWForm =
                 [this] {

@@ -452,6 +452,10 @@
         <translation>No se ha podido escribir %1: %2</translation>
     </message>
     <message>
+        <source>A transfer is under way. Leaving breaks it off, and changes that are neither saved nor sent are lost.</source>
+        <translation>Hay una transferencia en curso. Al salir se interrumpe, y los cambios que no se han guardado ni enviado se pierden.</translation>
+    </message>
+    <message>
         <source>No files yet</source>
         <translation>Aún no hay archivos</translation>
     </message>
