@@ -141,38 +141,6 @@ TEST(SimStatement, WhatIsMalformedIsRefused) {
       "-ALMD0,INDEX=0",
       "-ALMD0",
       "-ALMD0,INDEX= 0,",
-      "+ALMD0=x,INDEX= 0,PO= 0,PC= 0,EQ= 0,ACTCLOSE=,ACTOPEN=",
-      "+ALMD0=x,INDEX= 0,PC= 0,EQ= 0,ACTCLOSE=,ACTOPEN=",
-      "+ALMD0=x,INDEX= 0,PC= 0,PO= 0.5,EQ= 0,ACTCLOSE=,ACTOPEN=",
-      "+ALMD0=x,INDEX= 0,PC= 0,PO= ,EQ= 0,ACTCLOSE=,ACTOPEN=",
-      "+ALMD0=x,INDEX= 0,PC= 0,PO= 1e99,EQ= 0,ACTCLOSE=,ACTOPEN=",
-      "+ALMD0=x,INDEX= 0,PC= 0,PO= inf,EQ= 0,ACTCLOSE=,ACTOPEN=",
-      "+ALMD0=x,INDEX= 0,PC= 0,PO= 1x,EQ= 0,ACTCLOSE=,ACTOPEN=",
-      "+ALMD0=x,INDEX= 0,PC= 0,PO=--1,EQ= 0,ACTCLOSE=,ACTOPEN=",
-      "+ALMD0=x,INDEX= 0,PC= 0,PO= 0,ACTCLOSE=,ACTOPEN=",
-      "+ALMD0=x,INDEX= 0,PC= 0,PO= 0,EQ= 17,ACTCLOSE=,ACTOPEN=",
-      "+ALMD0=x,INDEX= 0,PC= 0,PO= 0,RESEND,SREST,EQ= 0,ACTCLOSE=,ACTOPEN=",
-      "+ALMD0=x,INDEX= 0,PC= 0,PO= 0,RING,NOSEND,EQ= 0,ACTCLOSE=,ACTOPEN=",
-      "+ALMD0=x,INDEX= 0,PC= 0,PO= 0,SMS,EQ= 0,ACTCLOSE=,ACTOPEN=",
-      "+ALMD0=x,INDEX= 0,PC= 0,PO= 0,START=0:00:00,EQ= 0,ACTCLOSE=,ACTOPEN=",
-      "+ALMD0=x,INDEX= 0,PC= 0,PO= 0,START=08:00:00,STOP=9:00:00,WEEK=1111111,EQ= 0,ACTCLOSE=,"
-      "ACTOPEN=",
-      "+ALMD0=x,INDEX= 0,PC= 0,PO= 0,START=8:0:00,STOP=9:00:00,WEEK=1111111,EQ= 0,ACTCLOSE=,"
-      "ACTOPEN=",
-      "+ALMD0=x,INDEX= 0,PC= 0,PO= 0,START=8:00:00,STOP=24:00:00,WEEK=1111111,EQ= 0,ACTCLOSE=,"
-      "ACTOPEN=",
-      "+ALMD0=x,INDEX= 0,PC= 0,PO= 0,START=8:00:00,STOP=9:60:00,WEEK=1111111,EQ= 0,ACTCLOSE=,"
-      "ACTOPEN=",
-      "+ALMD0=x,INDEX= 0,PC= 0,PO= 0,START=8:00:00,STOP=9:00:00,WEEK=111111,EQ= 0,ACTCLOSE=,"
-      "ACTOPEN=",
-      "+ALMD0=x,INDEX= 0,PC= 0,PO= 0,START=8:00:00,STOP=9:00:00,WEEK=1111112,EQ= 0,ACTCLOSE=,"
-      "ACTOPEN=",
-      "+ALMD0=x,INDEX= 0,PC= 0,PO= 0,EQ= 0,ACTCLOSE= 1 2 3 4 5 6 7 8 9,ACTOPEN=",
-      "+ALMD0=x,INDEX= 0,PC= 0,PO= 0,EQ= 0,ACTCLOSE= 0,ACTOPEN=",
-      "+ALMD0=x,INDEX= 0,PC= 0,PO= 0,EQ= 0,ACTCLOSE= 32768,ACTOPEN=",
-      "+ALMD0=x,INDEX= 0,PC= 0,PO= 0,EQ= 0,ACTCLOSE=5,ACTOPEN=",
-      "+ALMD0=x,INDEX= 0,PC= 0,PO= 0,EQ= 0,ACTCLOSE= 1",
-      "+ALMD0=x,INDEX= 0,PC= 0,PO= 0,EQ= 0,ACTHI=,ACTLO=",
       "+ALMD0=a,b,INDEX= 0,PC= 0,PO= 0,EQ= 0,ACTCLOSE=,ACTOPEN=",
       "AICONF4=x,UNIT=m,5V,BSVAL= 0,FSVAL= 0,BSUNIT= 0,FSUNIT= 0,GROUP= 0",
       "AICONF0=x,5V,BSVAL= 0,FSVAL= 0,BSUNIT= 0,FSUNIT= 0,GROUP= 0",
@@ -200,12 +168,43 @@ TEST(SimStatement, WhatIsMalformedIsRefused) {
       "MACRO0={X",
       "F16={X}",
       "CLEARMACRO0",
-      "SAMPLERATE=1",
-  };
-  for (const char* statement : refused) {
+      "SAMPLERATE=1"};
+  // The middle of an alarm that is sound at both ends.
+  const char* const fields[] = {"PO= 0,PC= 0,EQ= 0",
+                                "PC= 0,EQ= 0",
+                                "PC= 0,PO= 0.5,EQ= 0",
+                                "PC= 0,PO= ,EQ= 0",
+                                "PC= 0,PO= 1e99,EQ= 0",
+                                "PC= 0,PO= inf,EQ= 0",
+                                "PC= 0,PO= 1x,EQ= 0",
+                                "PC= 0,PO=--1,EQ= 0",
+                                "PC= 0,PO= 0",
+                                "PC= 0,PO= 0,EQ= 17",
+                                "PC= 0,PO= 0,RESEND,SREST,EQ= 0",
+                                "PC= 0,PO= 0,RING,NOSEND,EQ= 0",
+                                "PC= 0,PO= 0,SMS,EQ= 0",
+                                "PC= 0,PO= 0,START=0:00:00,EQ= 0",
+                                "PC= 0,PO= 0,START=08:00:00,STOP=9:00:00,WEEK=1111111,EQ= 0",
+                                "PC= 0,PO= 0,START=8:0:00,STOP=9:00:00,WEEK=1111111,EQ= 0",
+                                "PC= 0,PO= 0,START=8:00:00,STOP=24:00:00,WEEK=1111111,EQ= 0",
+                                "PC= 0,PO= 0,START=8:00:00,STOP=9:60:00,WEEK=1111111,EQ= 0",
+                                "PC= 0,PO= 0,START=8:00:00,STOP=9:00:00,WEEK=111111,EQ= 0",
+                                "PC= 0,PO= 0,START=8:00:00,STOP=9:00:00,WEEK=1111112,EQ= 0"};
+  // The end of one that is sound up to its actions.
+  const char* const actions[] = {"ACTCLOSE= 1 2 3 4 5 6 7 8 9,ACTOPEN=",
+                                 "ACTCLOSE= 0,ACTOPEN=",
+                                 "ACTCLOSE= 32768,ACTOPEN=",
+                                 "ACTCLOSE=5,ACTOPEN=",
+                                 "ACTCLOSE= 1",
+                                 "ACTHI=,ACTLO="};
+  const auto expectRefused = [](const std::string& statement) {
     Configuration conf;
     EXPECT_NE(ApplyStatement(statement, {Model::VR200, kAll}, conf), "") << statement;
-  }
+  };
+  const std::string alarm = "+ALMD0=x,INDEX= 0,";
+  for (const char* statement : refused) expectRefused(statement);
+  for (const std::string middle : fields) expectRefused(alarm + middle + ",ACTCLOSE=,ACTOPEN=");
+  for (const std::string end : actions) expectRefused(alarm + "PC= 0,PO= 0,EQ= 0," + end);
 }
 
 TEST(SimStatement, TheFirmwareDecidesWhatIsKnown) {
