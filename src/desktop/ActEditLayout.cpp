@@ -1,6 +1,4 @@
-#include <QHBoxLayout>
 #include <QLabel>
-#include <QPushButton>
 #include <QVBoxLayout>
 
 #include "desktop/LayoutParts.h"
@@ -25,12 +23,7 @@ void LayOutActEdit(FormView& view) {
   lists->setColumnStretch(2, 1);
   for (const auto* list : {"RefList", "DeviceList"}) view.Show(list)->setMinimumSize(280, 320);
   dialog->addLayout(lists, 1);
-  auto* ends = new QHBoxLayout;
-  ends->addStretch(1);
-  ends->addWidget(view.Show("OKButton"));
-  ends->addWidget(view.Show("CancelButton"));
-  view.Show<QPushButton>("OKButton")->setDefault(true);
-  dialog->addLayout(ends);
+  dialog->addLayout(EndButtons(view.Show("OKButton"), view.Show("CancelButton")));
 }
 
 }  // namespace ostrel

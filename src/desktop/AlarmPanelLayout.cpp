@@ -14,7 +14,10 @@ void LayOutThreshold(FormView& view, const Card& card, const ThresholdWords& thr
   QLabel* label = threshold.words.isEmpty()
                       ? view.LabelFor(threshold.control, "Label" + std::string(threshold.control))
                       : view.LabelFor(threshold.control, threshold.words);
-  AddField(card, label, Narrow(view.Show(threshold.control), 12));
+  QWidget* box = Narrow(view.Show(threshold.control), 12);
+  if (!threshold.beside.empty())
+    box = Joined(view, {box, view.Show(threshold.beside)}, Qt::Horizontal, true);
+  AddField(card, label, box);
 }
 
 Card CauseCard(FormView& view, const std::vector<ThresholdWords>& thresholds) {

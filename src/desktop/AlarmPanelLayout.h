@@ -13,6 +13,7 @@ namespace ostrel {
 struct ThresholdWords {
   std::string_view control;
   QString words;  ///< empty where the form has a label of its own, "Label" and the control's name
+  std::string_view beside = {};  ///< a control that stands at its right, if any
 };
 
 /// Draws the alarm block that all alarmed pages share: the choice of the configuration, and under

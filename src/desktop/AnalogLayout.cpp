@@ -61,15 +61,8 @@ void LayOutAnalog(FormView& view) {
   page->addWidget(LayOutAlarmPanel(view, {{"Minimo", Words::tr("Minimum:")},
                                           {"Maximo", Words::tr("Maximum:")},
                                           {"Histeresis", Words::tr("Hysteresis:")},
-                                          {"Persist", Words::tr("Persistence:")}}));
-  // The asterisk marks the persistence, the notice explains it.
-  auto* persist = view.Show("Persist")->parentWidget();
-  auto* grid = static_cast<QGridLayout*>(persist->layout());
-  int row = 0, column = 0, rows = 0, columns = 0;
-  grid->getItemPosition(grid->indexOf(view.Show("Persist")), &row, &column, &rows, &columns);
-  grid->removeWidget(view.Show("Persist"));
-  grid->addWidget(Joined(view, {view.Show("Persist"), view.Show("Asterisk")}, Qt::Horizontal, true),
-                  row, column);
+                                          {"Persist", Words::tr("Persistence:"), "Asterisk"}}));
+  // The asterisk at the persistence is explained here.
   auto* notice = view.Show<QLabel>("Notice");
   notice->setWordWrap(true);
   page->addWidget(notice);

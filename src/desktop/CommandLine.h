@@ -15,7 +15,7 @@ struct CommandLine {
   std::string target;  ///< display name of the model for a picture; empty for the first
   std::string page;    ///< key of the node to go to for a picture; empty for the choice of model
   std::string screenshot;  ///< picture to draw; empty to run as a window
-  int language = 0;        ///< column of the translation table for a picture; 0 for the first
+  int language = 0;        ///< column of the translation table for a picture
   QSize size{1280, 720};   ///< of a picture
   Scheme scheme = Scheme::System;
   bool demo = false;  ///< simulated loggers stand in the port list

@@ -1,8 +1,7 @@
-#include <QHBoxLayout>
 #include <QLabel>
-#include <QPushButton>
 #include <QVBoxLayout>
 
+#include "desktop/LayoutParts.h"
 #include "desktop/Layouts.h"
 #include "desktop/Words.h"
 
@@ -14,12 +13,8 @@ void LayOutLang(FormView& view) {
   view.Show("ComboLang")->setMinimumWidth(260);
   dialog->addWidget(view.Show("ComboLang"));
   dialog->addStretch(1);
-  auto* ends = new QHBoxLayout;
-  ends->addStretch(1);
-  ends->addWidget(view.ShowWithWords("CommandOk", Words::tr("OK")));
-  ends->addWidget(view.ShowWithWords("CommandCancel", Words::tr("Cancel")));
-  view.Show<QPushButton>("CommandOk")->setDefault(true);
-  dialog->addLayout(ends);
+  dialog->addLayout(EndButtons(view.ShowWithWords("CommandOk", Words::tr("OK")),
+                               view.ShowWithWords("CommandCancel", Words::tr("Cancel"))));
 }
 
 }  // namespace ostrel

@@ -3,6 +3,7 @@
 #include <QAbstractButton>
 #include <QBoxLayout>
 #include <QFontMetrics>
+#include <QPushButton>
 
 #include "desktop/Words.h"
 
@@ -69,6 +70,15 @@ QWidget* HelpButton(FormView& view) {
   button->setShortcut(QKeySequence::HelpContents);
   button->setProperty("noAccessKey", true);
   return button;
+}
+
+QHBoxLayout* EndButtons(QWidget* accept, QWidget* leave) {
+  auto* row = new QHBoxLayout;
+  row->addStretch(1);
+  row->addWidget(accept);
+  row->addWidget(leave);
+  static_cast<QPushButton*>(accept)->setDefault(true);
+  return row;
 }
 
 QWidget* Narrow(QWidget* field, int characters) {

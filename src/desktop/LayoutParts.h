@@ -2,6 +2,7 @@
 
 #include <QGridLayout>
 #include <QGroupBox>
+#include <QHBoxLayout>
 #include <QString>
 #include <initializer_list>
 #include <string_view>
@@ -33,6 +34,9 @@ QWidget* Joined(FormView& view, std::initializer_list<QWidget*> widgets,
 
 /// The button that opens the help page.
 QWidget* HelpButton(FormView& view);
+
+/// The row that ends a dialog: the button that Return presses, and the one that leaves.
+QHBoxLayout* EndButtons(QWidget* accept, QWidget* leave);
 
 /// Makes a box for numbers as narrow as numbers are.
 QWidget* Narrow(QWidget* field, int characters);

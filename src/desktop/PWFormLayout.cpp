@@ -1,9 +1,8 @@
-#include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPushButton>
 #include <QVBoxLayout>
 
+#include "desktop/LayoutParts.h"
 #include "desktop/Layouts.h"
 
 namespace ostrel {
@@ -15,12 +14,7 @@ void LayOutPWForm(FormView& view) {
   view.Show("PWText")->setMinimumWidth(280);
   dialog->addWidget(view.Show("PWText"));
   dialog->addStretch(1);
-  auto* ends = new QHBoxLayout;
-  ends->addStretch(1);
-  ends->addWidget(view.Show("Aceptar"));
-  ends->addWidget(view.Show("Cancelar"));
-  view.Show<QPushButton>("Aceptar")->setDefault(true);
-  dialog->addLayout(ends);
+  dialog->addLayout(EndButtons(view.Show("Aceptar"), view.Show("Cancelar")));
 }
 
 }  // namespace ostrel

@@ -117,8 +117,7 @@ QToolBar { border: none; padding: 3px; spacing: 2px; }
 QStatusBar::item { border: none; }
 )";
 
-}  // namespace
-
+/// Whether the desktop asks for dark windows.
 bool SystemIsDark() {
   QDBusMessage ask = QDBusMessage::createMethodCall("org.freedesktop.portal.Desktop",
                                                     "/org/freedesktop/portal/desktop",
@@ -134,6 +133,8 @@ bool SystemIsDark() {
   return palette.color(QPalette::Window).lightness() <
          palette.color(QPalette::WindowText).lightness();
 }
+
+}  // namespace
 
 void ApplyScheme(Scheme scheme) {
   const bool isDark = scheme == Scheme::System ? SystemIsDark() : scheme == Scheme::Dark;

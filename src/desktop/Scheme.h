@@ -7,7 +7,4 @@ enum class Scheme { System, Light, Dark };
 /// Gives the whole program its look: the system's light or dark scheme, or a given one.
 void ApplyScheme(Scheme scheme);
 
-/// Whether the desktop asks for dark windows.
-bool SystemIsDark();
-
 }  // namespace ostrel

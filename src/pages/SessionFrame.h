@@ -10,7 +10,7 @@ class SessionFrame {
  public:
   SessionFrame(Form& form, EventLoop& loop);
 
-  /// Requests to open or close the session. Other windows call it too.
+  /// Requests to open or close the session.
   void IniCom_Click();
   /// Sets `Leer` and `Escribir`.
   void EnableTransfers(bool enabled);

@@ -139,6 +139,7 @@ TEST_F(ActEditForm, LeavingInAnyOtherWayKeepsTheList) {
   dialogs.OnModal([&](Form&) { form.Get<Button>("DelButton").Click(); });
   actEdit.ShowModal();
   actEdit.ShowModal();
+  EXPECT_EQ(dialogs.Unused(), 0u) << "both were shown";
   EXPECT_EQ(Buffer(), before);
 }
 

@@ -156,22 +156,7 @@ std::string At(const std::string& fault, int place) {
   return fault.substr(0, at + 1) + std::to_string(place) + fault.substr(at + 1);
 }
 
-/// A fault that strikes once, anywhere, is overcome by the attempts of the dialogues.
-TEST(FaultTable, AFaultThatStrikesOnceIsOvercome) {
-  const Row table[] = {
-      {"drop-octet@!once", 6000, 29, true, true, true},
-      {"flip-bit@!once", 6000, 31, true, true, true},
-      {"duplicate@!once", 120, 1, true, true, true},
-      {"delay@:700!once", 120, 1, true, true, true},
-      {"delay@:1500!once", 120, 1, true, true, true},
-      {"bad-checksum@!once", 120, 1, true, true, true},
-      {"silent-after-record@!once", 60, 1, true, true, true},
-      {"silent-after-statement@!once", 40, 1, true, true, true},
-      {"refuse-statement@!once", 40, 1, true, true, true},
-      {"torn-refusal@:30!once", 40, 1, true, true, true},
-      {"wrong-closing@!once", 1, 1, true, true, true},
-      {"carrier-drop@!once", 120, 7, true, true, true},
-  };
+void Walk(const std::vector<Row>& table) {
   for (const Row& row : table) {
     for (int place = 0; place <= row.places; place += row.step) {
       const std::string fault = At(row.fault, place);
@@ -182,39 +167,39 @@ TEST(FaultTable, AFaultThatStrikesOnceIsOvercome) {
       EXPECT_EQ(out.opened, row.opens) << fault;
       EXPECT_EQ(out.downloaded, row.downloads) << fault;
       EXPECT_EQ(out.uploaded, row.uploads) << fault;
+      EXPECT_TRUE(row.uploads || !out.opened || out.held.name != "Nuevo") << fault;
     }
   }
 }
 
+/// A fault that strikes once, anywhere, is overcome by the attempts of the dialogues.
+TEST(FaultTable, AFaultThatStrikesOnceIsOvercome) {
+  Walk({{"drop-octet@!once", 6000, 29, true, true, true},
+        {"flip-bit@!once", 6000, 31, true, true, true},
+        {"duplicate@!once", 120, 1, true, true, true},
+        {"delay@:700!once", 120, 1, true, true, true},
+        {"delay@:1500!once", 120, 1, true, true, true},
+        {"bad-checksum@!once", 120, 1, true, true, true},
+        {"silent-after-record@!once", 60, 1, true, true, true},
+        {"silent-after-statement@!once", 40, 1, true, true, true},
+        {"refuse-statement@!once", 40, 1, true, true, true},
+        {"torn-refusal@:30!once", 40, 1, true, true, true},
+        {"wrong-closing@!once", 1, 1, true, true, true},
+        {"carrier-drop@!once", 120, 7, true, true, true}});
+}
+
 /// A fault for ever lets each dialogue fail in its own way, and leaves everything whole.
 TEST(FaultTable, AFaultForEverFailsWholly) {
-  const Row table[] = {
-      {"silent", 0, 1, false, false, false},
-      {"drop-octet@", 9, 2, false, false, false},
-      {"bad-checksum@", 1, 1, false, false, false},
-      {"flip-bit@", 60, 20, false, false, false},
-      {"silent-after-record@", 20, 1, true, false, false},
-      {"silent-after-statement@", 26, 1, true, true, false},
-      {"refuse-statement@", 26, 1, true, true, false},
-      {"torn-refusal@:30", 26, 1, true, true, false},
-      {"wrong-closing@", 1, 1, true, true, false},
-      {"carrier-drop@", 1, 1, true, true, true},
-  };
-  for (const Row& row : table) {
-    for (int place = 0; place <= row.places; place += row.step) {
-      const std::string fault = At(row.fault, place);
-      std::string error;
-      if (!sim::ParseFault(fault, error)) continue;
-      const Outcome out = RunWith(fault);
-      ExpectSound(out, fault);
-      EXPECT_EQ(out.opened, row.opens) << fault;
-      EXPECT_EQ(out.downloaded, row.downloads) << fault;
-      EXPECT_EQ(out.uploaded, row.uploads) << fault;
-      if (!row.uploads && out.opened) {
-        EXPECT_NE(out.held.name, "Nuevo") << fault;
-      }
-    }
-  }
+  Walk({{"silent", 0, 1, false, false, false},
+        {"drop-octet@", 9, 2, false, false, false},
+        {"bad-checksum@", 1, 1, false, false, false},
+        {"flip-bit@", 60, 20, false, false, false},
+        {"silent-after-record@", 20, 1, true, false, false},
+        {"silent-after-statement@", 26, 1, true, true, false},
+        {"refuse-statement@", 26, 1, true, true, false},
+        {"torn-refusal@:30", 26, 1, true, true, false},
+        {"wrong-closing@", 1, 1, true, true, false},
+        {"carrier-drop@", 1, 1, true, true, true}});
 }
 
 /// Nothing of the line is left from some frame on: each dialogue ends like silence, but at once.

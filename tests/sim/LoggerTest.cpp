@@ -1,7 +1,5 @@
 #include <gmock/gmock.h>
 
-#include "platform/virtual/LinePort.h"
-#include "sim/LineComposer.h"
 #include "sim/Logger.h"
 #include "sim/SimBench.h"
 
@@ -150,18 +148,6 @@ TEST(SimLogger, ReadingsMoveSlowlyAndRepeatBySeed) {
     EXPECT_NEAR(std::stod(Field(next, n)), std::stod(Field(first, n)), 5.0) << n;
 }
 
-TEST(SimLogger, TheConfigurationComesAsNumberedRecords) {
-  SimBench bench(Model::BQ);
-  bench.logger.SetConf(RandomConfiguration(Model::BQ, bench.logger.Self().features, 5));
-  const auto lines = bench.AskAll("#42");
-  const auto records = ConfigurationRecords(bench.logger.Conf(), bench.logger.Self());
-  ASSERT_EQ(lines.size(), records.size() + 1);
-  for (std::size_t i = 0; i < records.size(); ++i)
-    EXPECT_EQ(lines[i], "#BD" + SimBench::Number(static_cast<int>(i)) + records[i]);
-  EXPECT_EQ(lines.back(), "#BD");
-  EXPECT_EQ(bench.line.sendings.size(), 1U);
-}
-
 // ---- Uploads
 
 TEST(SimUpload, ACompleteUploadIsTakenOverWhole) {
@@ -241,24 +227,6 @@ TEST(SimLogger, AClosedPortForgetsWhatWasBegun) {
   bench.logger.SetTerminalReady(true);
   EXPECT_EQ(bench.Say("0\r"), "");
   EXPECT_NE(bench.Ask("#40"), "");
-}
-
-TEST(SimLogger, WorksBehindAVirtualPort) {
-  VirtualLoop loop;
-  LinePort port(loop);
-  port.SetPaced(true);
-  port.AddDevice(7, "sim", "", [&](LineEnd& end) {
-    return std::make_unique<Logger>(loop, end, MakeDefaultOptions(Model::BP));
-  });
-  port.SetCommPort(7);
-  ASSERT_EQ(port.SetPortOpen(true), PortFault::None);
-  port.Output("#64;40\r");
-  std::string received;
-  loop.RunUntil([&] { return (received += port.Input()).ends_with('\r'); },
-                std::chrono::seconds{1});
-  EXPECT_EQ(received, "#A8;BFTavro BP v3.56\r");
-  EXPECT_GE(loop.Now(), LineTime(7) + std::chrono::milliseconds{2} + LineTime(received.size()));
-  EXPECT_TRUE(port.CDHolding());
 }
 
 }  // namespace
