@@ -158,6 +158,7 @@ Bound BindKind(ComboBox& box, const BindOptions& options, QWidget* parent) {
               if (widget->itemText(i) != text) widget->setItemText(i, text);
             }
             if (widget->currentIndex() != box.Position()) widget->setCurrentIndex(box.Position());
+            widget->setToolTip(options.rowText ? widget->currentText() : QString());
           }};
 }
 

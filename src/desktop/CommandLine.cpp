@@ -40,7 +40,9 @@ int ReadLanguage(const QString& text) {
 
 QSize ReadSize(const QString& text) {
   const QSize size(text.section(u'x', 0, 0).toInt(), text.section(u'x', 1).toInt());
-  if (size.isEmpty()) Refuse("--size is WIDTHxHEIGHT");
+  constexpr int kMost = 8192;
+  if (size.isEmpty() || size.width() > kMost || size.height() > kMost)
+    Refuse("--size is WIDTHxHEIGHT, each at most " + std::to_string(kMost));
   return size;
 }
 
@@ -82,6 +84,8 @@ CommandLine ReadCommandLine(const QStringList& arguments) {
   for (const auto* option : {"target", "page", "language", "size"})
     if (parser.isSet(option) && !parser.isSet("screenshot"))
       Refuse("--" + std::string(option) + " goes with --screenshot alone");
+  if (parser.isSet("screenshot") && parser.value("screenshot").isEmpty())
+    Refuse("--screenshot wants the name of a file");
   CommandLine line;
   if (!parser.positionalArguments().isEmpty())
     line.file = FromQt(QFileInfo(parser.positionalArguments().first()).absoluteFilePath());

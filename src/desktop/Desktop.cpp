@@ -4,6 +4,7 @@
 
 #include "desktop/Language.h"
 #include "desktop/Words.h"
+#include "lang/Scope.h"
 
 namespace ostrel {
 
@@ -42,6 +43,8 @@ void Desktop::Guarded(const std::function<void()>& run) {
 }
 
 void Desktop::ShowFault(std::exception_ptr fault) {
+  if (faultBoxUp_) return;  // a fault that repeats must not stack boxes
+  const Lent up(faultBoxUp_, true);
   std::string words;
   try {
     std::rethrow_exception(fault);

@@ -50,6 +50,7 @@ class Desktop {
   Configurator configurator_;
   Navigation navigation_;
   MainWindow window_;
+  bool faultBoxUp_ = false;
 };
 
 }  // namespace ostrel

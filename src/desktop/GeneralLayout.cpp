@@ -19,12 +19,12 @@ Card SessionCard(FormView& view, const LayoutContext& context) {
   QLabel* port = view.LabelFor("Puerto", Words::tr("Port:"));
   auto* ports = view.Show<QComboBox>("Puerto");
   ports->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-  ports->setMinimumContentsLength(14);
+  ports->setMinimumContentsLength(24);
   card.grid->addWidget(port, 0, 0);
-  card.grid->addWidget(ports, 0, 1);
-  card.grid->addWidget(view.ShowWithWords("SearchBut", Words::tr("Search")), 0, 2);
+  card.grid->addWidget(ports, 0, 1, 1, 2);
   card.grid->addWidget(view.ShowWithWords("ModemCheck", Words::tr("By modem")), 1, 0);
-  card.grid->addWidget(view.ShowNamed("CallNum", Words::tr("Number to call")), 1, 1, 1, 2);
+  card.grid->addWidget(view.ShowNamed("CallNum", Words::tr("Number to call")), 1, 1);
+  card.grid->addWidget(view.ShowWithWords("SearchBut", Words::tr("Search ports")), 1, 2);
   view.Show<QLineEdit>("CallNum")->setPlaceholderText(Words::tr("Number to call"));
   card.grid->addWidget(view.Show("IniCom"), 2, 0, 1, 3);
   view.Show("IniCom")->setProperty("primary", true);
@@ -120,13 +120,13 @@ QVBoxLayout* PhoneMask(FormView& view) {
 QVBoxLayout* PhoneList(FormView& view) {
   auto* column = new QVBoxLayout;
   column->setSpacing(6);
+  column->addWidget(view.LabelFor("ListaTlf", std::string_view("LabelEditar")));
+  column->addWidget(view.Show("ListaTlf"), 1);
   auto* buttons = new QHBoxLayout;
   buttons->setSpacing(6);
   buttons->addWidget(view.Show("Anadir"));
   buttons->addWidget(view.Show("Borrar"));
   buttons->addStretch(1);
-  column->addWidget(view.LabelFor("ListaTlf", std::string_view("LabelEditar")));
-  column->addWidget(view.Show("ListaTlf"), 1);
   column->addLayout(buttons);
   return column;
 }
@@ -155,13 +155,13 @@ void LayOutGeneral(FormView& view, const LayoutContext& context) {
   top->addWidget(SessionCard(view, context).box, 7);
   top->addWidget(DeviceCard(view).box, 4);
   top->addWidget(LoggerCard(view).box, 5);
-  heading->layout()->addWidget(HelpButton(view));
   auto* notice = Joined(view, {view.Show("Warning"), warning});
   static_cast<QBoxLayout*>(notice->layout())->setStretch(1, 1);
   page->addWidget(heading);
   page->addWidget(notice);
   page->addLayout(top);
   page->addWidget(PhoneCard(view).box, 1);
+  heading->layout()->addWidget(HelpButton(view));
 }
 
 }  // namespace ostrel

@@ -40,6 +40,7 @@ LinkPanel::LinkPanel(QWidget* parent)
   policy.setRetainSizeWhenHidden(true);  // the page above is not to jump
   bar_->setSizePolicy(policy);
   bar_->setTextVisible(false);
+  bar_->setAccessibleName(Words::tr("Progress"));
   row->addWidget(lamp_);
   row->addWidget(words_);
   row->addSpacing(12);

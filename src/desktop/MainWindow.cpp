@@ -21,6 +21,7 @@ namespace {
 constexpr Duration kLookInterval = std::chrono::milliseconds(200);
 constexpr int kLooksPerSecond = 5;
 constexpr int kTreeWidth = 230;
+constexpr int kMessageTime = 10'000;  // ms
 constexpr QSize kFirstSize{1280, 720};
 constexpr std::string_view kApplication = "Quorvane";
 constexpr std::string_view kSection = "Window";
@@ -65,11 +66,8 @@ MainWindow::MainWindow(const WindowParts& parts)
       unsetCursor();
   };
   configurator_.OnTargetChanged = [this] {
-    const auto translate = [this](std::string_view text) {
-      return configurator_.context.Translate(text);
-    };
-    tree_->SetNodes(BuildNavigationTree(configurator_.profile, translate));
-    tree_->Select(shownNode_);
+    BuildTree();
+    shownFile_.clear();  // it is of the former model
   };
   navigation_.OnFrontChanged = [this] {
     if (following_) ShowFront();
@@ -100,19 +98,31 @@ void MainWindow::Follow() {
   tree_->Select(shownNode_);
   tree_->Tree().setFocus();
   unsaved_.Keep(unsaved_.WithFront());
-  if (!configurator_.ConfFilePath.empty()) Reached(configurator_.ConfFilePath);
+  if (FileDifferences()) WorkOn(configurator_.ConfFilePath);
   configurator_.session.OnTransferEnded = [this](const TransferEnd& end) { TransferEnded(end); };
   Look();
   lookTimer_ = parts_.platform.loop.Every(kLookInterval, "window",
                                           [this] { parts_.guard([this] { Look(); }); });
 }
 
+void MainWindow::BuildTree() {
+  const auto translate = [this](std::string_view text) {
+    return configurator_.context.Translate(text);
+  };
+  tree_->SetNodes(BuildNavigationTree(configurator_.profile, translate));
+  tree_->Select(shownNode_);
+}
+
 void MainWindow::GoTo(const std::string& key) {
   const NodeResult result = navigation_.NodeClick(key);
   shownNode_ = key;
   tree_->Select(key);
-  if (result == NodeResult::NotBuilt)
-    pages_->ShowEmpty(Words::tr("This page does not exist in this version yet."));
+  isMissing_ = result == NodeResult::NotBuilt;
+  ShowMissing();
+}
+
+void MainWindow::ShowMissing() {
+  if (isMissing_) pages_->ShowEmpty(Words::tr("This page does not exist in this version yet."));
 }
 
 void MainWindow::ShowFront() {
@@ -129,17 +139,21 @@ void MainWindow::Look() {
   const auto now = parts_.platform.loop.Now();
   const LinkState state = LinkStateOf(configurator_);
   link_->ShowState(state);
-  EnableTools(state.kind != LinkState::Kind::Reading && state.kind != LinkState::Kind::Writing);
+  const SessionFrame& session = configurator_.general.Session();
+  Rest(configurator_.session.Running() != TransferKind::None || session.ReadRequest ||
+       session.WriteRequest);
   transfer_.Look(now);
   ShowTransfer();
   ShowFault();
   if (looks_++ % kLooksPerSecond == 0) ShowTitle();
 }
 
-/// A transfer owns the model: nothing may be opened, saved or compared under it.
-void MainWindow::EnableTools(bool enabled) {
+/// A transfer owns the model: nothing may be edited, opened, saved or compared under it, and a
+/// dialog that is opened in it would hold it up.
+void MainWindow::Rest(bool rests) {
   for (QAction* action : {open_, save_, recentFiles_, safetyCopies_, compare_, language_})
-    action->setEnabled(enabled);
+    action->setEnabled(!rests);
+  pages_->setEnabled(!rests);
 }
 
 void MainWindow::ShowTransfer() {
@@ -148,7 +162,11 @@ void MainWindow::ShowTransfer() {
     const RemainingTime& time = transfer_.Time();
     if (const auto left = time.Left(parts_.platform.loop.Now()))
       words = Words::tr("%1 left").arg(ToQt(DurationText(*left)));
-    link_->ShowProgress(time.Done(), time.Steps(), words);
+    // The general page has a bar of its own.
+    if (shownNode_ == "General")
+      link_->HideProgress();
+    else
+      link_->ShowProgress(time.Done(), time.Steps(), words);
   } else {
     link_->HideProgress();
   }
@@ -162,10 +180,13 @@ void MainWindow::ShowFault() {
   auto* details = front ? front->findChild<FaultDetails*>("FaultDetails") : nullptr;
   if (!details) return;
   const SessionFrame& session = configurator_.general.Session();
+  const LinkFault& fault = configurator_.comms.Fault();
+  // A session that was closed tells no more of a transfer that failed in it.
   const std::string& status = session.ComStat.face.Key();
-  const bool failed = status == "Error!" || status == "Comunicacion no iniciada";
-  const QString device = ports_.DeviceOf(session.Puerto.Text());
-  details->SetText(failed ? FaultWords(configurator_.comms.Fault(), device) : QString());
+  const bool failed = status == "Error!" || (status == "Comunicacion no iniciada" &&
+                                             fault.kind <= LinkFault::Kind::NoHandshake);
+  const QString device = ports_.DeviceOf("COM" + std::to_string(configurator_.session.Port()));
+  details->SetText(failed ? FaultWords(fault, device) : QString());
 }
 
 void MainWindow::ShowTitle() {
@@ -184,21 +205,22 @@ void MainWindow::TransferEnded(const TransferEnd& end) {
   const FileResult kept = copies_.Keep(configurator_, end.held).result;
   if (!kept.Ok())
     statusBar()->showMessage(Words::tr("No safety copy could be kept: %1").arg(ToQt(kept.error)),
-                             10'000);
+                             kMessageTime);
   ShowTitle();
 }
 
-bool MainWindow::FileHoldsAll() const {
+std::optional<std::vector<FieldDifference>> MainWindow::FileDifferences() const {
   const auto file = ReadConfiguration(parts_.platform, configurator_.profile.TargetName,
                                       configurator_.ConfFilePath);
-  return file && file->model == configurator_.profile.TargetName &&
-         file->lines == FieldLines(configurator_, configurator_.conf);
+  if (!file || file->model != configurator_.profile.TargetName) return {};
+  return CompareFields(FieldLines(configurator_, configurator_.conf), file->lines);
 }
 
 bool MainWindow::MayLeave() {
-  if (!unsaved_.Changed()) return true;
+  const TransferKind running = configurator_.session.Running();
+  if (!unsaved_.Changed() && running != TransferKind::Writing) return true;
   // A transfer owns the model: what stands there now is no state to save.
-  const bool mayBeSaved = configurator_.session.Running() == TransferKind::None;
+  const bool mayBeSaved = running == TransferKind::None;
   QMessageBox box(QMessageBox::NoIcon, ToQt(configurator_.profile.TargetName),
                   mayBeSaved ? Words::tr("The configuration has changes that are neither saved "
                                          "nor sent.")
@@ -209,15 +231,14 @@ bool MainWindow::MayLeave() {
   QPushButton* save =
       mayBeSaved ? box.addButton(Words::tr("&Save"), QMessageBox::AcceptRole) : nullptr;
   QPushButton* discard =
-      box.addButton(Words::tr("&Leave without saving"), QMessageBox::DestructiveRole);
+      box.addButton(Words::tr("&Go on without saving"), QMessageBox::DestructiveRole);
   QPushButton* stay = box.addButton(Words::tr("&Cancel"), QMessageBox::RejectRole);
   box.setDefaultButton(save ? save : stay);
   box.setEscapeButton(stay);
   box.exec();
   if (box.clickedButton() == discard) return true;
   if (!save || box.clickedButton() != save) return false;
-  if (configurator_.session.Running() == TransferKind::None) Save();
-  return !unsaved_.Changed();
+  return configurator_.session.Running() == TransferKind::None && Save();
 }
 
 void MainWindow::RestorePlace() {

@@ -64,26 +64,32 @@ class MainWindow final : public QMainWindow {
   // What the tool bar does.
   void Open();
   void OpenPath(const std::string& path);
-  void Save();
+  /// False when it was left, or when writing failed.
+  bool Save();
   void AskLanguage();
   void FillRecent(QMenu& menu);
   void FillCopies(QMenu& menu);
   void Compare();
   void ShowTrace(bool on);
+  /// Says in a box what went wrong.
+  void Tell(const QString& words);
 
   // What follows the configurator.
+  void BuildTree();
   void ShowFront();
   void ShowTitle();
   void ShowFault();
-  void EnableTools(bool enabled);
+  void Rest(bool rests);
+  void ShowMissing();
   void ShowTransfer();
   void TransferEnded(const TransferEnd& end);
-  /// Whether the file at `ConfFilePath` holds the present configuration.
-  bool FileHoldsAll() const;
-  void Reached(const std::string& path);
+  /// What the file at `ConfFilePath` holds otherwise than the program; nothing when it is refused.
+  std::optional<std::vector<FieldDifference>> FileDifferences() const;
+  /// Notes a file as the one worked on.
+  void WorkOn(const std::string& path);
   void RestorePlace();
   void KeepPlace();
-  /// True when the window may close.
+  /// True when the present configuration may go: nothing is unsaved, or the operator says so.
   bool MayLeave();
 
   WindowParts parts_;
@@ -106,6 +112,8 @@ class MainWindow final : public QMainWindow {
   TimerId lookTimer_ = 0;
   int looks_ = 0;
   bool following_ = false;
+  bool traceShown_ = false;
+  bool isMissing_ = false;  ///< the node in front has no page in this build
 };
 
 }  // namespace ostrel

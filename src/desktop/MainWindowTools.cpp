@@ -23,7 +23,7 @@ namespace ostrel {
 namespace {
 
 constexpr qsizetype kCopiesOffered = 15;
-constexpr int kMessageTime = 10'000;  // ms
+constexpr int kTraceHeight = 170;
 
 }  // namespace
 
@@ -93,37 +93,57 @@ void MainWindow::Retranslate() {
 }
 
 void MainWindow::Open() {
+  if (!MayLeave()) return;
   navigation_.CommitFront();
   if (!configurator_.AskAndOpen()) return;
-  Reached(configurator_.ConfFilePath);
+  if (FileDifferences()) WorkOn(configurator_.ConfFilePath);
 }
 
 void MainWindow::OpenPath(const std::string& path) {
+  if (!parts_.platform.files.Exists(path)) {
+    recent_.Remove(path);
+    Tell(Words::tr("%1 does not exist any more.").arg(ToQt(path)));
+    return;
+  }
+  if (!MayLeave()) return;
   navigation_.CommitFront();
   configurator_.OpenFile(path);
-  Reached(path);
+  if (FileDifferences()) WorkOn(path);
 }
 
-void MainWindow::Save() {
+bool MainWindow::Save() {
   navigation_.CommitFront();
   const auto saved = configurator_.AskAndSave();
-  if (!saved) return;
-  Reached(configurator_.ConfFilePath);
-  if (!saved->Ok())
-    parts_.platform.dialogs.ShowMessage(
-        {.text = FromQt(Words::tr("%1 could not be written: %2")
-                            .arg(ToQt(configurator_.ConfFilePath), ToQt(saved->error))),
-         .title = configurator_.profile.TargetName,
-         .icon = BoxIcon::Exclamation});
+  if (!saved) return false;
+  const std::string& path = configurator_.ConfFilePath;
+  if (!saved->Ok()) {
+    Tell(Words::tr("%1 could not be written: %2").arg(ToQt(path), ToQt(saved->error)));
+    return false;
+  }
+  WorkOn(path);
+  // Blanks around a text, and letters that the file has no code for, do not come back.
+  const auto differences = FileDifferences();
+  if (differences && !differences->empty()) {
+    const FieldDifference& first = differences->front();
+    Tell(
+        Words::tr("The file cannot keep %n text(s) as they are, the first of them %1 in %2: \"%3\" "
+                  "reads back as \"%4\".",
+                  nullptr, static_cast<int>(differences->size()))
+            .arg(ToQt(first.key), ToQt(first.section), ToQt(first.left), ToQt(first.right)));
+  }
+  return true;
 }
 
-/// Notes a file that has been opened or saved, if it holds what the program holds.
-void MainWindow::Reached(const std::string& path) {
-  if (FileHoldsAll()) {
-    unsaved_.Keep(configurator_.conf);
-    recent_.Add(path);
-    shownFile_ = path;
-  }
+void MainWindow::Tell(const QString& words) {
+  parts_.platform.dialogs.ShowMessage({.text = FromQt(words),
+                                       .title = configurator_.profile.TargetName,
+                                       .icon = BoxIcon::Exclamation});
+}
+
+void MainWindow::WorkOn(const std::string& path) {
+  unsaved_.Keep(configurator_.conf);
+  recent_.Add(path);
+  shownFile_ = path;
   ShowTitle();
 }
 
@@ -131,10 +151,11 @@ void MainWindow::AskLanguage() {
   const auto before = configurator_.lang.SelectedLang();
   configurator_.AskLanguage();
   if (configurator_.lang.SelectedLang() == before) return;
-  configurator_.OnTargetChanged();  // the tree is translated when it is built
+  BuildTree();  // it is translated when it is built
   UseLanguage(LanguageCode(configurator_.lang));
   Retranslate();
   pages_->Redraw();
+  ShowMissing();
   Look();
 }
 
@@ -171,10 +192,7 @@ void MainWindow::Compare() {
   if (!path) return;
   const auto file = ReadConfiguration(parts_.platform, configurator_.profile.TargetName, *path);
   if (!file) {
-    parts_.platform.dialogs.ShowMessage(
-        {.text = FromQt(Words::tr("The file holds no configuration.")),
-         .title = configurator_.profile.TargetName,
-         .icon = BoxIcon::Exclamation});
+    Tell(Words::tr("The file holds no configuration."));
     return;
   }
   const QString note = file->model == configurator_.profile.TargetName
@@ -188,6 +206,10 @@ void MainWindow::Compare() {
 
 void MainWindow::ShowTrace(bool on) {
   trace_->setVisible(on);
+  if (on && !traceShown_) {
+    traceShown_ = true;
+    resizeDocks({trace_}, {kTraceHeight}, Qt::Vertical);
+  }
   if (on)
     configurator_.comms.Trace = [this](const std::string& line) { trace_->Add(line); };
   else

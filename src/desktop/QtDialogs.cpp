@@ -71,6 +71,7 @@ std::optional<std::string> QtDialogs::ChooseFile(const FileQuestion& question) {
     dialog.selectNameFilter(filters[question.filterIndex - 1]);
   if (saves) dialog.setDefaultSuffix(DefaultSuffix(ToQt(question.filter)));
   if (!folder.isEmpty()) dialog.setDirectory(folder);
+  if (!question.suggested.empty()) dialog.selectFile(ToQt(question.suggested));
   if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty()) return {};
   const QString path = dialog.selectedFiles().first();
   folder = QFileInfo(path).absolutePath();

@@ -30,6 +30,16 @@ void RecentFiles::Add(const std::string& path) {
   std::erase(paths, path);
   paths.insert(paths.begin(), path);
   if (paths.size() > kMost) paths.resize(kMost);
+  Keep(paths);
+}
+
+void RecentFiles::Remove(const std::string& path) {
+  std::vector<std::string> paths = Paths();
+  std::erase(paths, path);
+  Keep(paths);
+}
+
+void RecentFiles::Keep(const std::vector<std::string>& paths) {
   std::string text;
   for (const std::string& each : paths) text += each + kSeparator;
   settings_.Set(kApplication, kSection, kKey, text);

@@ -15,8 +15,12 @@ class RecentFiles {
   std::vector<std::string> Paths() const;
   /// Puts a path first. At most eight stay.
   void Add(const std::string& path);
+  /// Forgets a path.
+  void Remove(const std::string& path);
 
  private:
+  void Keep(const std::vector<std::string>& paths);
+
   Settings& settings_;
 };
 

@@ -26,6 +26,7 @@ struct FileQuestion {
   std::string filter;
   int filterIndex = 1;
   bool overwritePrompt = false;
+  std::string suggested{};  ///< path to start from, if any
 };
 
 /// What asks the operator, modal; injected because each face asks in its own way.

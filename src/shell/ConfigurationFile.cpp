@@ -113,7 +113,8 @@ bool Configurator::AskAndOpen() {
 std::optional<FileResult> Configurator::AskAndSave() {
   const auto path = platform_.dialogs.ChooseFile({.mode = FileQuestion::Mode::Save,
                                                   .filter = context.Translate(kFileFilter),
-                                                  .overwritePrompt = true});
+                                                  .overwritePrompt = true,
+                                                  .suggested = ConfFilePath});
   if (!path) return {};
   ConfFilePath = *path;
   return ConfFilePath.empty() ? FileResult{} : SaveConf();

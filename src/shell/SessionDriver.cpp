@@ -55,6 +55,7 @@ void SessionDriver::OpenOrClose() {
 }
 
 bool SessionDriver::Open(std::int16_t port, const std::string& phone) {
+  port_ = port;
   session_.ComStat.face.SetCaption(
       "", context_.Translate("Detectando ") + context_.profile.TargetName + "...");
   Connected_ = comms_.StartComs(port, phone);

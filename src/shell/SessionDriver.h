@@ -33,6 +33,8 @@ class SessionDriver {
   void Tick();
   /// Opens a session on a port, through a modem when there is a phone number. True when it stands.
   bool Open(std::int16_t port, const std::string& phone);
+  /// Number of the port that a session was last asked on; 0 before.
+  std::int16_t Port() const { return port_; }
   /// Asks for the information again where a damaged line has cut it short: what a firmware can do
   /// decides how a configuration is read and written. False when it stays unknown.
   bool CompleteInfo();
@@ -63,6 +65,7 @@ class SessionDriver {
   General& general_;
   SessionFrame& session_;
   bool& Connected_;
+  std::int16_t port_ = 0;
   bool ticking_ = false;
   TransferKind running_ = TransferKind::None;
   DeviceConf sent_;  ///< what the last attempt of an upload sends

@@ -59,6 +59,8 @@ TEST(Program, NamesWhatIsWrongWithItsArguments) {
       {{"--screenshot", picture, "--target", "Q"}, 2, "there is no model Q"},
       {{"--screenshot", picture, "--language", "en"}, 2, "--language is a number from 0 to"},
       {{"--screenshot", picture, "--size", "big"}, 2, "--size is WIDTHxHEIGHT"},
+      {{"--screenshot", picture, "--size", "9x99999"}, 2, "--size is WIDTHxHEIGHT"},
+      {{"--screenshot", ""}, 2, "--screenshot wants the name of a file"},
       {{"--screenshot", picture, "--scheme", "pink"}, 2, "--scheme is light, dark or system"},
       {{"--screenshot", picture, "--page", "Nothing"}, 1, "no page Nothing for the Ostrel KA1"},
       {{"--screenshot", picture, folder.filePath("none.ocf")}, 1, "cannot read "},

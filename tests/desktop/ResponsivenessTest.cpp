@@ -37,6 +37,7 @@ class Responsiveness : public testing::Test, protected WindowWorld<QtEventLoop> 
     since.start();
     ticks.start(2);
     loop.RunUntil([&] { return !session.ReadRequest; }, loop.Now() + seconds(60));
+    longest = std::max(longest, since.elapsed());  // what follows upon the end counts, too
     EXPECT_EQ(session.ComStat.face.Key(), "Configuracion descargada con exito");
     EXPECT_GT(moves, 100);
     return milliseconds(longest);

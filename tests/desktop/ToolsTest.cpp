@@ -6,6 +6,7 @@
 #include <QDockWidget>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTableWidget>
@@ -16,6 +17,7 @@
 #include "Input.h"
 #include "WindowWorld.h"
 #include "desktop/ConfigurationReader.h"
+#include "desktop/Demo.h"
 #include "desktop/FaultDetails.h"
 #include "desktop/FaultWords.h"
 #include "desktop/HelpProcesses.h"
@@ -137,6 +139,18 @@ TEST_F(Ports, KeepAnotherChoiceWhenTheFormerOneComesBack) {
   EXPECT_EQ(list.Text(), "COM5");
 }
 
+TEST_F(Ports, OfTheDemonstrationAreTheSixLoggers) {
+  AddDemoLoggers(port, loop, VirtualClock());
+  std::vector<int> numbers;
+  for (const PortEntry& entry : port.Entries()) numbers.push_back(entry.number);
+  EXPECT_THAT(numbers, ElementsAre(251, 252, 253, 254, 255, 256));
+  port.SetCommPort(255);
+  ASSERT_EQ(port.SetPortOpen(true), PortFault::None);
+  port.Output("#64;40\r");
+  loop.RunFor(seconds(1));
+  EXPECT_NE(port.Input().find("Tavro BP"), std::string::npos);
+}
+
 class WindowTools : public testing::Test, protected WindowWorld<VirtualLoop> {
  protected:
   WindowTools() {
@@ -215,12 +229,33 @@ TEST_F(WindowTools, OpensATreeNodeFromTheFilter) {
   EXPECT_EQ(desktop->Navigator().Front()->Name(), "TargetSelect");
 }
 
+TEST_F(WindowTools, KeepsItsOwnWordsOutOfTheTable) {
+  AddLogger(sim::Model::BP);
+  Connect();
+  for (const auto* key : {"General", "E_Digital_0", "Macros", "Grupos", "Tavro"})
+    Window().GoTo(key);
+  const std::string table = *files.Read(Path("Lang.txt"));
+  for (const auto* own : {"{Sesi", "{Session}", "{Puerto:}", "{Port:}", "{Recientes}", "{Compar"})
+    EXPECT_EQ(table.find(own), std::string::npos) << own;
+}
+
 TEST_F(WindowTools, SaysThatAPageDoesNotExistYet) {
   UseLanguage("en");
   Window().GoTo("Macros");
   EXPECT_EQ(Window().Pages().Front(), nullptr);
   auto* empty = Window().Pages().findChild<QLabel*>("EmptyPage");
   EXPECT_EQ(empty->text(), "This page does not exist in this version yet.");
+  dialogs.OnModal([](Form& form) {
+    form.Get<ComboBox>("ComboLang").SetPosition(1);
+    form.Get<Button>("CommandOk").Click();
+  });
+  Tool("Idioma")->trigger();
+  dialogs.OnModal([](Form& form) {
+    form.Get<ComboBox>("ComboLang").SetPosition(0);
+    form.Get<Button>("CommandOk").Click();
+  });
+  Tool("Language")->trigger();
+  EXPECT_TRUE(empty->text().contains("Esta")) << "it speaks the language chosen";
   Window().GoTo("CTimer");
   EXPECT_EQ(empty->text(), "");
 }
@@ -239,6 +274,18 @@ TEST_F(WindowTools, TellsWhatWentWrongBesideTheStatus) {
   loop.RunFor(seconds(5));
   EXPECT_TRUE(Core().Connected);
   EXPECT_TRUE(details->isHidden());
+}
+
+TEST_F(WindowTools, NamesTheDeviceThatFailedWhateverIsChosenSince) {
+  UseLanguage("en");
+  AddLogger(sim::Model::BP);
+  port.SetOpenFault(kPort, PortFault::Busy);
+  Connect();
+  Core().general.Session().Puerto.Add("COM1");
+  Core().general.Session().Puerto.SetPosition(1);
+  Window().Look();
+  auto* details = Window().Pages().Front()->findChild<FaultDetails*>("FaultDetails");
+  EXPECT_TRUE(details->Text().startsWith("COM7 is in use")) << FromQt(details->Text());
 }
 
 TEST_F(WindowTools, TellsWhereADownloadBrokeOffAndTracesTheLine) {
@@ -324,6 +371,69 @@ TEST_F(WindowTools, CountsAnEditDuringAnUploadAsNotSent) {
   const std::string first = *files.Read(FromQt(copies[0].filePath()));
   EXPECT_EQ(files.Read(FromQt(copies[1].filePath())), first);
   EXPECT_EQ(first.find("late"), std::string::npos);
+}
+
+TEST_F(WindowTools, SavesWhatTheFileCannotKeepAndSaysSo) {
+  UseLanguage("en");
+  Core().conf.Digital[1].NOMBRE = " door";
+  Core().conf.Digital[2].NOMBRE = "gate";
+  dialogs.ChoosePath(Path("a.ocf"));
+  Tool("Guardar")->trigger();
+  ASSERT_EQ(dialogs.boxes.size(), 1u);
+  EXPECT_EQ(dialogs.boxes[0].text,
+            "The file cannot keep one text as it is, NOMBRE in DIGITAL 1: \" door\" reads back as "
+            "\"door\".");
+  EXPECT_TRUE(Window().windowTitle().startsWith("a.ocf"));
+  EXPECT_TRUE(Window().close()) << "it is saved";
+}
+
+TEST_F(WindowTools, AsksBeforeUnsavedWorkGoes) {
+  Core().ConfFilePath = Path("a.ocf");
+  ASSERT_TRUE(Core().SaveConf().Ok());
+  Core().conf.Digital[1].NOMBRE = "precious";
+  ModalScript modals;
+  modals.Expect([](QWidget* modal) { Press(modal, Qt::Key_Escape); });
+  Tool("Abrir")->trigger();
+  EXPECT_EQ(modals.Left(), 0u);
+  EXPECT_EQ(dialogs.questions.size(), 0u);
+  EXPECT_EQ(Core().conf.Digital[1].NOMBRE, "precious");
+  modals.Expect([](QWidget* modal) { modal->findChildren<QPushButton*>()[1]->click(); });
+  dialogs.ChoosePath(Path("a.ocf"));
+  Tool("Abrir")->trigger();
+  EXPECT_EQ(Core().conf.Digital[1].NOMBRE, "");
+}
+
+TEST_F(WindowTools, OpensFromItsMenusAndForgetsWhatIsGone) {
+  dialogs.ChoosePath(Path("a.ocf"));
+  Tool("Guardar")->trigger();
+  const auto open = [this] {
+    QMenu* menu = Tool("Recientes")->menu();
+    emit menu->aboutToShow();
+    menu->actions().first()->trigger();
+    emit menu->aboutToShow();
+    return menu->actions().first()->isEnabled();
+  };
+  EXPECT_TRUE(open());
+  EXPECT_TRUE(dialogs.boxes.empty());
+  files.Remove(Path("a.ocf"));
+  EXPECT_FALSE(open()) << "the menu is empty";
+  EXPECT_EQ(dialogs.boxes.size(), 1u);
+}
+
+TEST_F(WindowTools, RestsFromTheRequestToTheEndOfATransfer) {
+  AddLogger(sim::Model::BP);
+  port.SetPaced(true);
+  Connect();
+  Core().general.Session().Escribir.Click();
+  Window().Look();
+  EXPECT_FALSE(Tool("Guardar")->isEnabled() || Window().Pages().isEnabled());
+  ModalScript modals;
+  modals.Expect([](QWidget* modal) { Press(modal, Qt::Key_Escape); });
+  loop.After(seconds(2), "close", [&] { EXPECT_FALSE(Window().close()) << "it asks"; });
+  loop.RunFor(seconds(30));
+  EXPECT_EQ(modals.Left(), 0u);
+  EXPECT_EQ(logger->UploadsTaken(), 1U);
+  EXPECT_TRUE(Tool("Guardar")->isEnabled() && Window().Pages().isEnabled());
 }
 
 TEST_F(WindowTools, OffersNoSavingInTheMidstOfATransfer) {

@@ -4,6 +4,10 @@
 <context>
     <name>Words</name>
     <message numerus="yes">
+        <source>The file cannot keep %n text(s) as they are, the first of them %1 in %2: &quot;%3&quot; reads back as &quot;%4&quot;.</source>
+        <translation><numerusform>The file cannot keep one text as it is, %1 in %2: &quot;%3&quot; reads back as &quot;%4&quot;.</numerusform><numerusform>The file cannot keep %n texts as they are, the first of them %1 in %2: &quot;%3&quot; reads back as &quot;%4&quot;.</numerusform></translation>
+    </message>
+    <message numerus="yes">
         <source>%n field(s) differ.</source>
         <translation><numerusform>%n field differs.</numerusform><numerusform>%n fields differ.</numerusform></translation>
     </message>

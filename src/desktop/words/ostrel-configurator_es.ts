@@ -111,6 +111,14 @@
         <source>The present configuration and the file hold the same.</source>
         <translation>La configuración actual y el archivo son iguales.</translation>
     </message>
+    <message>
+        <source>%1 does not exist any more.</source>
+        <translation>%1 ya no existe.</translation>
+    </message>
+    <message numerus="yes">
+        <source>The file cannot keep %n text(s) as they are, the first of them %1 in %2: &quot;%3&quot; reads back as &quot;%4&quot;.</source>
+        <translation><numerusform>El archivo no puede guardar un texto tal como está, %1 en %2: &quot;%3&quot; se lee como &quot;%4&quot;.</numerusform><numerusform>El archivo no puede guardar %n textos tal como están, el primero %1 en %2: &quot;%3&quot; se lee como &quot;%4&quot;.</numerusform></translation>
+    </message>
     <message numerus="yes">
         <source>%n field(s) differ.</source>
         <translation><numerusform>Un campo es distinto.</numerusform><numerusform>%n campos son distintos.</numerusform></translation>
@@ -208,8 +216,8 @@
         <translation>Puerto:</translation>
     </message>
     <message>
-        <source>Search</source>
-        <translation>Buscar</translation>
+        <source>Search ports</source>
+        <translation>Buscar puertos</translation>
     </message>
     <message>
         <source>By modem</source>
@@ -396,8 +404,8 @@
         <translation>&amp;Guardar</translation>
     </message>
     <message>
-        <source>&amp;Leave without saving</source>
-        <translation>&amp;Salir sin guardar</translation>
+        <source>&amp;Go on without saving</source>
+        <translation>C&amp;ontinuar sin guardar</translation>
     </message>
     <message>
         <source>&amp;Cancel</source>
