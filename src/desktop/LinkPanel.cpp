@@ -40,7 +40,6 @@ LinkPanel::LinkPanel(QWidget* parent)
   policy.setRetainSizeWhenHidden(true);  // the page above is not to jump
   bar_->setSizePolicy(policy);
   bar_->setTextVisible(false);
-  bar_->setAccessibleName(Words::tr("Progress"));
   row->addWidget(lamp_);
   row->addWidget(words_);
   row->addSpacing(12);
@@ -50,6 +49,8 @@ LinkPanel::LinkPanel(QWidget* parent)
   HideProgress();
   ShowState({});
 }
+
+void LinkPanel::Retranslate() { bar_->setAccessibleName(Words::tr("Progress")); }
 
 void LinkPanel::ShowState(const LinkState& state) {
   const QString words = LinkStateWords(state);

@@ -13,6 +13,8 @@ class LinkPanel final : public QWidget {
  public:
   explicit LinkPanel(QWidget* parent);
 
+  /// Sets its own words anew; the others come with the next state.
+  void Retranslate();
   void ShowState(const LinkState& state);
   /// Shows a transfer of `steps` steps at step `done`, and words on the time left.
   void ShowProgress(int done, int steps, const QString& left);

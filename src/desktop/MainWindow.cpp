@@ -231,7 +231,8 @@ bool MainWindow::MayLeave() {
   QPushButton* save =
       mayBeSaved ? box.addButton(Words::tr("&Save"), QMessageBox::AcceptRole) : nullptr;
   QPushButton* discard =
-      box.addButton(Words::tr("&Go on without saving"), QMessageBox::DestructiveRole);
+      box.addButton(mayBeSaved ? Words::tr("&Go on without saving") : Words::tr("&Leave"),
+                    QMessageBox::DestructiveRole);
   QPushButton* stay = box.addButton(Words::tr("&Cancel"), QMessageBox::RejectRole);
   box.setDefaultButton(save ? save : stay);
   box.setEscapeButton(stay);

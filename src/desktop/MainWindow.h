@@ -64,6 +64,7 @@ class MainWindow final : public QMainWindow {
   // What the tool bar does.
   void Open();
   void OpenPath(const std::string& path);
+  void Opened();
   /// False when it was left, or when writing failed.
   bool Save();
   void AskLanguage();

@@ -90,13 +90,13 @@ void MainWindow::Retranslate() {
   name(traceSwitch_, Words::tr("Trace"), Words::tr("Show what goes over the line"));
   tree_->Retranslate();
   trace_->Retranslate();
+  link_->Retranslate();
 }
 
 void MainWindow::Open() {
   if (!MayLeave()) return;
   navigation_.CommitFront();
-  if (!configurator_.AskAndOpen()) return;
-  if (FileDifferences()) WorkOn(configurator_.ConfFilePath);
+  if (configurator_.AskAndOpen()) Opened();
 }
 
 void MainWindow::OpenPath(const std::string& path) {
@@ -108,7 +108,13 @@ void MainWindow::OpenPath(const std::string& path) {
   if (!MayLeave()) return;
   navigation_.CommitFront();
   configurator_.OpenFile(path);
-  if (FileDifferences()) WorkOn(path);
+  Opened();
+}
+
+void MainWindow::Opened() {
+  if (FileDifferences()) WorkOn(configurator_.ConfFilePath);
+  // The file may be of a model that has not the channel in front.
+  if (!tree_->Has(shownNode_)) GoTo("General");
 }
 
 bool MainWindow::Save() {

@@ -109,12 +109,12 @@ bool TreePane::eventFilter(QObject* watched, QEvent* event) {
     return true;
   }
   if (key != Qt::Key_Return && key != Qt::Key_Enter) return false;
-  const QString text = filter_->text();
-  for (QTreeWidgetItemIterator it(tree_, QTreeWidgetItemIterator::NotHidden); *it; ++it) {
-    if (text.isEmpty() || !(*it)->text(0).contains(text, Qt::CaseInsensitive)) continue;
-    tree_->setCurrentItem(*it);
+  if (filter_->text().isEmpty()) return true;
+  // The first page that is left; most groups have none.
+  const auto shown = QTreeWidgetItemIterator::NotHidden | QTreeWidgetItemIterator::NoChildren;
+  if (QTreeWidgetItem* item = *QTreeWidgetItemIterator(tree_, shown); item && item->parent()) {
+    tree_->setCurrentItem(item);
     tree_->setFocus();
-    break;
   }
   return true;
 }

@@ -22,6 +22,7 @@ class TreePane final : public QWidget {
   void SetNodes(const std::vector<TreeNode>& nodes);
   /// Marks a node as the one in front. Nothing is clicked by that.
   void Select(std::string_view key);
+  bool Has(std::string_view key) const { return Find(key) != nullptr; }
   /// The window's own words anew.
   void Retranslate();
   QTreeWidget& Tree() { return *tree_; }

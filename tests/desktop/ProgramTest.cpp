@@ -39,6 +39,8 @@ TEST(Program, InstallsAndRunsFromAnEmptyFolder) {
     EXPECT_TRUE(QFileInfo(folder.filePath(file)).isFile()) << file;
   const QString program = folder.filePath("bin/ostrel-configurator");
   EXPECT_TRUE(RunProgram(program, {"--version"}).contains("1.0"));
+  EXPECT_TRUE(RunProgram(folder.filePath("bin/ostrelctl"), {"--port", "sim:KA1", "info"})
+                  .contains("Ostrel KA1"));
   const QString picture = folder.filePath("page.png");
   RunProgram(program, {"--target", "VR200", "--page", "E_Analog_0", "--language", "2", "--size",
                        "1100x700", "--screenshot", picture});

@@ -112,6 +112,10 @@
         <translation>La configuración actual y el archivo son iguales.</translation>
     </message>
     <message>
+        <source>&amp;Leave</source>
+        <translation>&amp;Salir</translation>
+    </message>
+    <message>
         <source>%1 does not exist any more.</source>
         <translation>%1 ya no existe.</translation>
     </message>
