@@ -1,7 +1,10 @@
-# What an installation holds beside the command line's programs, and the Debian package.
+# What an installation holds, and the Debian package.
 include(GNUInstallDirs)
 
-install(TARGETS ostrel-configurator RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+install(TARGETS ostrelctl ostrel-sim ostrel-configurator
+        RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+install(FILES ${CMAKE_SOURCE_DIR}/data/Lang.txt
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/ostrel-configurator)
 install(FILES ${CMAKE_SOURCE_DIR}/data/desktop/ostrel-configurator.desktop
         DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
 install(FILES ${CMAKE_SOURCE_DIR}/data/desktop/ostrel-configurator.xml

@@ -1,8 +1,8 @@
 #include <array>
 #include <map>
 
+#include "base/Channels.h"
 #include "cli/CheckRules.h"
-#include "lang/Channels.h"
 #include "model/Features.h"
 
 namespace ostrel::cli {

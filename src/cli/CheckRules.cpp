@@ -4,7 +4,7 @@
 #include <array>
 #include <set>
 
-#include "lang/Channels.h"
+#include "base/Channels.h"
 #include "model/Features.h"
 #include "pages/ActionCatalogue.h"
 

@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <charconv>
 
-#include "cli/SimulatedLoggers.h"
-#include "lang/Scope.h"
-#include "shell/LangSeed.h"
+#include "base/Scope.h"
+#include "host/LangSeed.h"
+#include "host/SimulatedLoggers.h"
 
 namespace ostrel::cli {
 namespace {

@@ -4,13 +4,10 @@
 #include <string>
 #include <string_view>
 
-#include "cli/ExitCode.h"
+#include "base/Printable.h"
+#include "host/ExitCode.h"
 
 namespace ostrel::cli {
-
-/// A text as a terminal may show it: control characters, which a logger's or a file's text can
-/// hold, are written as "\x1b".
-std::string Printable(std::string_view text);
 
 /// Where a command writes: results to the output, words about its work to the other stream.
 class Console {

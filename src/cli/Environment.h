@@ -7,6 +7,7 @@
 #include <string>
 #include <string_view>
 
+#include "host/SimulatedLoggers.h"
 #include "platform/Clock.h"
 #include "platform/EventLoop.h"
 #include "platform/Files.h"
@@ -15,8 +16,6 @@
 #include "platform/Settings.h"
 
 namespace ostrel::cli {
-
-class SimulatedLoggers;
 
 /// All that a command has of the world, so that it runs in a test as it does in a shell.
 struct Environment {

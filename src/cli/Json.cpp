@@ -1,6 +1,6 @@
 #include "cli/Json.h"
 
-#include "lang/Utf8.h"
+#include "base/Utf8.h"
 
 namespace ostrel::cli {
 namespace {

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "cli/SimulatedLoggers.h"
+#include "host/SimulatedLoggers.h"
 #include "shell/RecordCounts.h"
 
 namespace ostrel::cli {

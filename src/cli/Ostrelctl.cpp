@@ -2,9 +2,9 @@
 
 #include <vector>
 
-#include "cli/Commands.h"
-#include "cli/LoggerText.h"
-#include "cli/SimulatedLoggers.h"
+#include "cli/commands/Commands.h"
+#include "host/LoggerText.h"
+#include "host/SimulatedLoggers.h"
 
 namespace ostrel::cli {
 namespace {

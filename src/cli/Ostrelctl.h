@@ -4,7 +4,7 @@
 #include <string>
 
 #include "cli/Environment.h"
-#include "cli/ExitCode.h"
+#include "host/ExitCode.h"
 
 namespace ostrel::cli {
 

@@ -1,6 +1,6 @@
 #include "cli/UploadPlan.h"
 
-#include "lang/Utf8.h"
+#include "base/Utf8.h"
 #include "model/Features.h"
 
 namespace ostrel::cli {

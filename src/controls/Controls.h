@@ -6,8 +6,8 @@
 #include <string_view>
 #include <vector>
 
+#include "base/Values.h"
 #include "controls/Face.h"
-#include "lang/Values.h"
 #include "platform/EventLoop.h"
 
 namespace ostrel {

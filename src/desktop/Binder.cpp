@@ -15,9 +15,9 @@
 #include <QTimeEdit>
 #include <algorithm>
 
+#include "base/Values.h"
 #include "desktop/AccessKeys.h"
 #include "desktop/Words.h"
-#include "lang/Values.h"
 
 namespace ostrel {
 namespace {

@@ -2,9 +2,9 @@
 
 #include <QLocale>
 
+#include "base/Scope.h"
 #include "desktop/Language.h"
 #include "desktop/Words.h"
-#include "lang/Scope.h"
 
 namespace ostrel {
 

@@ -5,7 +5,7 @@
 #include <functional>
 #include <map>
 
-#include "desktop/Layouts.h"
+#include "desktop/layouts/Layouts.h"
 
 class QLabel;
 

@@ -4,7 +4,7 @@
 #include <QStringList>
 #include <functional>
 
-#include "desktop/Layouts.h"
+#include "desktop/layouts/Layouts.h"
 #include "platform/Dialogs.h"
 
 class QWidget;

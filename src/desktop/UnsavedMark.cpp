@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "lang/Scope.h"
+#include "base/Scope.h"
 #include "shell/Configurator.h"
 #include "shell/Navigation.h"
 

@@ -7,7 +7,7 @@
 #include <unordered_map>
 #include <vector>
 
-#include "lang/Bounded.h"
+#include "base/Bounded.h"
 #include "platform/Files.h"
 
 namespace ostrel {

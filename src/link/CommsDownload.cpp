@@ -1,5 +1,5 @@
-#include "lang/BoundFailure.h"
-#include "lang/Scope.h"
+#include "base/BoundFailure.h"
+#include "base/Scope.h"
 #include "link/Comms.h"
 #include "link/WireText.h"
 

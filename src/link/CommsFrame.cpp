@@ -1,6 +1,6 @@
 #include <limits>
 
-#include "lang/CodePage.h"
+#include "base/CodePage.h"
 #include "link/Comms.h"
 #include "link/Frame.h"
 

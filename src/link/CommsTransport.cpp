@@ -1,4 +1,4 @@
-#include "lang/Scope.h"
+#include "base/Scope.h"
 #include "link/Comms.h"
 
 namespace ostrel {

@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "lang/Values.h"
+#include "base/Values.h"
 
 namespace ostrel {
 

@@ -4,7 +4,7 @@
 #include <string_view>
 #include <vector>
 
-#include "lang/Values.h"
+#include "base/Values.h"
 #include "model/ActionList.h"
 
 namespace ostrel {

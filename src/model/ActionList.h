@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-#include "lang/Bounded.h"
+#include "base/Bounded.h"
 
 namespace ostrel {
 

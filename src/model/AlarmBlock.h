@@ -3,8 +3,8 @@
 #include <cstdint>
 #include <string>
 
-#include "lang/Bounded.h"
-#include "lang/Values.h"
+#include "base/Bounded.h"
+#include "base/Values.h"
 #include "model/ActionList.h"
 #include "model/Describe.h"
 

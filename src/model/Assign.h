@@ -4,7 +4,7 @@
 #include <concepts>
 #include <limits>
 
-#include "lang/Values.h"
+#include "base/Values.h"
 
 namespace ostrel {
 

@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <string>
 
-#include "lang/Bounded.h"
+#include "base/Bounded.h"
 #include "model/AlarmBlock.h"
 #include "model/Describe.h"
 

@@ -6,7 +6,7 @@
 #include <string_view>
 #include <variant>
 
-#include "lang/Values.h"
+#include "base/Values.h"
 #include "model/DeviceConf.h"
 
 namespace ostrel {

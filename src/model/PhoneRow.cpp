@@ -1,7 +1,7 @@
 #include "model/PhoneRow.h"
 
-#include "lang/Channels.h"
-#include "lang/Values.h"
+#include "base/Channels.h"
+#include "base/Values.h"
 
 namespace ostrel {
 namespace {

@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <string>
 
-#include "lang/Bounded.h"
+#include "base/Bounded.h"
 #include "platform/DateTime.h"
 
 namespace ostrel {

@@ -1,8 +1,8 @@
 #include <array>
 #include <cstdint>
 
-#include "lang/Channels.h"
-#include "lang/Utf8.h"
+#include "base/Channels.h"
+#include "base/Utf8.h"
 #include "model/Assign.h"
 #include "model/Features.h"
 #include "pages/General.h"

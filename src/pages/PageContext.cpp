@@ -1,8 +1,8 @@
 #include "pages/PageContext.h"
 
+#include "base/BoundFailure.h"
+#include "base/Help.h"
 #include "controls/Form.h"
-#include "lang/BoundFailure.h"
-#include "lang/Help.h"
 #include "lang/Lang.h"
 #include "store/IniTool.h"
 

@@ -1,7 +1,7 @@
 #include <array>
 #include <utility>
 
-#include "lang/Scope.h"
+#include "base/Scope.h"
 #include "platform/Dialogs.h"
 #include "shell/Configurator.h"
 #include "shell/Orders.h"

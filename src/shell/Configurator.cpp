@@ -3,11 +3,11 @@
 #include <algorithm>
 #include <stdexcept>
 
-#include "lang/Scope.h"
-#include "pages/E_Analog.h"
-#include "pages/E_Digital.h"
-#include "pages/Flags.h"
-#include "pages/Grupos.h"
+#include "base/Scope.h"
+#include "pages/inputs/E_Analog.h"
+#include "pages/inputs/E_Digital.h"
+#include "pages/inputs/Flags.h"
+#include "pages/inputs/Grupos.h"
 #include "platform/Dialogs.h"
 #include "platform/EventLoop.h"
 #include "platform/Files.h"

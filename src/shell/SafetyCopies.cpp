@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "lang/Scope.h"
+#include "base/Scope.h"
 #include "shell/Configurator.h"
 
 namespace ostrel {

@@ -2,7 +2,7 @@
 
 #include <cstdlib>
 
-#include "lang/Scope.h"
+#include "base/Scope.h"
 #include "platform/Clock.h"
 #include "platform/Dialogs.h"
 

@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <charconv>
 
-#include "lang/CodePage.h"
-#include "lang/Utf8.h"
+#include "base/CodePage.h"
+#include "base/Utf8.h"
 
 namespace ostrel {
 namespace {

@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "lang/OrderedMap.h"
+#include "base/OrderedMap.h"
 #include "platform/Files.h"
 
 namespace ostrel {

@@ -1,6 +1,6 @@
 #include "store/IniTool.h"
 
-#include "lang/CodePage.h"
+#include "base/CodePage.h"
 
 namespace ostrel {
 namespace {

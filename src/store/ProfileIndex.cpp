@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "lang/CodePage.h"
+#include "base/CodePage.h"
 
 namespace ostrel {
 namespace {

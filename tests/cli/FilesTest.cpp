@@ -1,5 +1,5 @@
+#include "base/CodePage.h"
 #include "cli/World.h"
-#include "lang/CodePage.h"
 
 namespace ostrel::cli {
 namespace {

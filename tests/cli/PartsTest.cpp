@@ -3,9 +3,9 @@
 #include "cli/Console.h"
 #include "cli/Fields.h"
 #include "cli/Json.h"
-#include "cli/LoggerText.h"
-#include "cli/SimOptions.h"
 #include "cli/World.h"
+#include "host/LoggerText.h"
+#include "simulator/SimOptions.h"
 
 namespace ostrel::cli {
 namespace {

@@ -14,7 +14,7 @@
 #include <vector>
 
 #include "cli/Ostrelctl.h"
-#include "cli/SimulatedLoggers.h"
+#include "host/SimulatedLoggers.h"
 #include "platform/virtual/VirtualClock.h"
 #include "platform/virtual/VirtualFiles.h"
 #include "platform/virtual/VirtualLoop.h"

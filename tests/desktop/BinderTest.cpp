@@ -15,8 +15,8 @@
 #include "controls/NumberBox.h"
 #include "desktop/AccessKeys.h"
 #include "desktop/FormView.h"
-#include "desktop/LayoutParts.h"
 #include "desktop/Words.h"
+#include "desktop/layouts/LayoutParts.h"
 #include "platform/virtual/VirtualLoop.h"
 
 namespace ostrel {

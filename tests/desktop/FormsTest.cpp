@@ -14,7 +14,7 @@
 
 #include "WindowWorld.h"
 #include "desktop/Language.h"
-#include "desktop/Layouts.h"
+#include "desktop/layouts/Layouts.h"
 
 namespace ostrel {
 namespace {

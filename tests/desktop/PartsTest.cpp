@@ -3,6 +3,7 @@
 
 #include <set>
 
+#include "base/Help.h"
 #include "desktop/Demo.h"
 #include "desktop/FaultWords.h"
 #include "desktop/HelpProcesses.h"
@@ -11,7 +12,6 @@
 #include "desktop/QtDialogs.h"
 #include "desktop/RecentFiles.h"
 #include "desktop/Words.h"
-#include "lang/Help.h"
 #include "platform/virtual/VirtualClock.h"
 #include "platform/virtual/VirtualDialogs.h"
 #include "platform/virtual/VirtualLoop.h"

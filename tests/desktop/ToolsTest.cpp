@@ -15,10 +15,10 @@
 
 #include "Input.h"
 #include "WindowWorld.h"
+#include "base/CodePage.h"
 #include "desktop/ConfigurationReader.h"
 #include "desktop/FaultDetails.h"
 #include "desktop/Language.h"
-#include "lang/CodePage.h"
 
 namespace ostrel {
 namespace {

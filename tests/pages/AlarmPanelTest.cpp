@@ -4,7 +4,7 @@
 #include "link/Wire.h"
 #include "pages/AlarmChannelPage.h"
 #include "pages/AlarmWire.h"
-#include "pages/E_Analog.h"
+#include "pages/inputs/E_Analog.h"
 
 namespace ostrel {
 namespace {

@@ -1,10 +1,10 @@
 #include <gtest/gtest.h>
 
 #include "PageFixture.h"
-#include "pages/E_Analog.h"
-#include "pages/E_Digital.h"
-#include "pages/Flags.h"
-#include "pages/Grupos.h"
+#include "pages/inputs/E_Analog.h"
+#include "pages/inputs/E_Digital.h"
+#include "pages/inputs/Flags.h"
+#include "pages/inputs/Grupos.h"
 
 namespace ostrel {
 namespace {

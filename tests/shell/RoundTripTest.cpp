@@ -3,7 +3,7 @@
 #include <random>
 
 #include "SimWorld.h"
-#include "lang/CodePage.h"
+#include "base/CodePage.h"
 
 namespace ostrel {
 namespace {

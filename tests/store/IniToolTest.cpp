@@ -2,8 +2,8 @@
 
 #include <random>
 
-#include "lang/CodePage.h"
-#include "lang/Values.h"
+#include "base/CodePage.h"
+#include "base/Values.h"
 #include "platform/virtual/VirtualFiles.h"
 #include "store/IniTool.h"
 

@@ -9,9 +9,9 @@
 #include <iostream>
 #include <vector>
 
-#include "cli/SignalPipe.h"
-#include "cli/SimulatedLoggers.h"
 #include "cli/Terminal.h"
+#include "host/SignalPipe.h"
+#include "host/SimulatedLoggers.h"
 #include "platform/qt/PortMap.h"
 #include "platform/qt/QtClock.h"
 #include "platform/qt/QtFiles.h"

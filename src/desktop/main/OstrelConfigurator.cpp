@@ -12,6 +12,7 @@
 #include "desktop/Icons.h"
 #include "desktop/Screenshot.h"
 #include "desktop/Words.h"
+#include "host/LangSeed.h"
 #include "platform/qt/PortMap.h"
 #include "platform/qt/QtClock.h"
 #include "platform/qt/QtEventLoop.h"
@@ -20,7 +21,6 @@
 #include "platform/qt/QtSerialPort.h"
 #include "platform/qt/QtSettings.h"
 #include "platform/virtual/PortSwitch.h"
-#include "shell/LangSeed.h"
 
 namespace {
 

@@ -1,0 +1,80 @@
+#include "base/CodePage.h"
+
+#include <algorithm>
+#include <array>
+
+#include "base/Utf8.h"
+
+namespace ostrel {
+namespace {
+
+/// The characters of the octets 0x80 to 0x9F; all other octets equal their character.
+constexpr std::array<char16_t, 32> kMiddle = {
+    0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,  //
+    0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0x008D, 0x017D, 0x008F,  //
+    0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,  //
+    0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
+
+char OctetOf(char32_t character) {
+  if (character < 0x80 || (character >= 0xA0 && character <= 0xFF))
+    return static_cast<char>(character);
+  const auto* const found = std::find(kMiddle.begin(), kMiddle.end(), character);
+  return found == kMiddle.end() ? '?' : static_cast<char>(0x80 + (found - kMiddle.begin()));
+}
+
+constexpr std::uint8_t FoldedOctet(unsigned octet) {
+  const bool isAscii = octet >= 'A' && octet <= 'Z';
+  const bool isLatin = octet >= 0xC0 && octet <= 0xDE && octet != 0xD7;
+  if (isAscii || isLatin) return static_cast<std::uint8_t>(octet + 0x20);
+  if (octet == 0x8A || octet == 0x8C || octet == 0x8E)
+    return static_cast<std::uint8_t>(octet + 0x10);
+  return static_cast<std::uint8_t>(octet == 0x9F ? 0xFF : octet);
+}
+
+constexpr std::array<std::uint8_t, 256> kFolded = [] {
+  std::array<std::uint8_t, 256> table{};
+  for (unsigned octet = 0; octet < table.size(); ++octet) table[octet] = FoldedOctet(octet);
+  return table;
+}();
+
+}  // namespace
+
+std::string ToCodePage(std::string_view utf8) {
+  std::string octets;
+  octets.reserve(utf8.size());
+  for (std::size_t position = 0; position < utf8.size();)
+    octets += OctetOf(NextCharacter(utf8, position));
+  return octets;
+}
+
+std::string FromCodePage(std::string_view octets) {
+  std::string utf8;
+  utf8.reserve(octets.size() + octets.size() / 8);
+  for (const char octet : octets) {
+    const auto value = static_cast<std::uint8_t>(octet);
+    if (value < 0x80)
+      utf8 += octet;
+    else
+      AppendCharacter(value < 0xA0 ? kMiddle[value - 0x80U] : value, utf8);
+  }
+  return utf8;
+}
+
+std::uint8_t FoldOctet(char octet) { return kFolded[static_cast<std::uint8_t>(octet)]; }
+
+char32_t FoldCharacter(char32_t character) {
+  if (character < 0x80 || (character >= 0xA0 && character <= 0xFF))
+    return FoldedOctet(static_cast<unsigned>(character));
+  switch (character) {
+    case 0x0160:
+    case 0x0152:
+    case 0x017D:
+      return character + 1;
+    case 0x0178:
+      return 0xFF;
+    default:
+      return character;
+  }
+}
+
+}  // namespace ostrel

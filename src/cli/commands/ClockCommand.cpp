@@ -1,0 +1,58 @@
+#include "cli/Json.h"
+#include "cli/commands/Commands.h"
+#include "cli/commands/OnlineCommand.h"
+#include "host/LoggerText.h"
+
+namespace ostrel::cli {
+namespace {
+
+ExitCode ReadClock(Online& online) {
+  return online.session.Run([&] {
+    DateTime& clock = online.configurator.live.DeviceClock;
+    clock = DateTime{};
+    online.configurator.comms.ReadDeviceRTC();
+    return clock != DateTime{};
+  });
+}
+
+ExitCode RunClock(Online& online, bool set) {
+  if (set) {
+    const ExitCode written =
+        online.session.Run([&] { return online.configurator.comms.WriteDeviceRTC(); });
+    if (written != ExitCode::Done) return written;
+  }
+  const ExitCode read = ReadClock(online);
+  if (read != ExitCode::Done) return read;
+  const DateTime& logger = online.configurator.live.DeviceClock;
+  const DateTime computer = online.context.environment.clock.LocalNow();
+  const std::int64_t ahead = ToSeconds(logger) - ToSeconds(computer);
+  std::ostream& out = online.context.console.Out();
+  if (online.context.options.json) {
+    JsonWriter json(out);
+    json.Object([&] {
+      json.Member("logger", ClockText(logger));
+      json.Member("computer", ClockText(computer));
+      json.Member("secondsAhead", ahead);
+      json.Member("set", set);
+    });
+    json.End();
+  } else {
+    out << "logger     " << ClockText(logger) << '\n'
+        << "computer   " << ClockText(computer) << '\n'
+        << "difference " << ahead << " s\n";
+  }
+  return ExitCode::Done;
+}
+
+}  // namespace
+
+Command AddClock(CLI::App& app) {
+  CLI::App* parser = app.add_subcommand("clock", "Show the logger's clock, or set it");
+  const auto set = std::make_shared<bool>(false);
+  parser->add_flag("--set", *set, "Set it to the computer's time");
+  return {parser, [set](CommandContext& context) {
+            return RunOnline(context, "", [&](Online& online) { return RunClock(online, *set); });
+          }};
+}
+
+}  // namespace ostrel::cli

@@ -1,0 +1,88 @@
+#include "cli/Comparison.h"
+#include "cli/Json.h"
+#include "cli/commands/Commands.h"
+#include "cli/commands/OnlineCommand.h"
+#include "host/LoggerText.h"
+
+namespace ostrel::cli {
+namespace {
+
+constexpr std::string_view kPort = "port";
+
+struct DiffOptions {
+  std::string a, b;
+};
+
+ExitCode Report(CommandContext& context, const DiffOptions& options, const Comparison& comparison,
+                std::optional<std::int32_t> features) {
+  Console& console = context.console;
+  if (context.options.json) {
+    JsonWriter json(console.Out());
+    json.Object([&] {
+      json.Member("a", options.a);
+      json.Member("b", options.b);
+      json.Key("features");
+      features ? json.Value(FeaturesText(*features)) : json.Value(nullptr);
+      json.Member("same", comparison.isSame);
+      WriteDifferences(json, comparison);
+    });
+    json.End();
+  } else {
+    PrintDifferences(console, comparison);
+    if (comparison.isSame)
+      console.Note(features ? "the same to a logger of these features" : "the same");
+  }
+  return comparison.isSame ? ExitCode::Done : ExitCode::Differences;
+}
+
+ExitCode DiffFiles(CommandContext& context, const DiffOptions& options) {
+  const auto a = context.OpenOffline(options.a);
+  const auto b = a ? context.OpenOffline(options.b) : nullptr;
+  if (!b) return ExitCode::BadFile;
+  const auto features = context.options.features;
+  const Comparison comparison = a->profile.TargetName == b->profile.TargetName
+                                    ? Compare(*a, a->conf, b->conf, features)
+                                    : CompareModels(*a, *b);
+  return Report(context, options, comparison, features);
+}
+
+ExitCode DiffWithPort(CommandContext& context, const DiffOptions& options, const std::string& file,
+                      bool isPortFirst) {
+  const auto other = context.OpenOffline(file);
+  if (!other) return ExitCode::BadFile;
+  return RunOnline(context, file, [&](Online& online) {
+    const ExitCode downloaded = online.session.Download();
+    if (downloaded != ExitCode::Done) return downloaded;
+    Configurator& logger = online.configurator;
+    const std::int32_t features = context.options.features.value_or(logger.info.Features);
+    if (logger.profile.TargetName != other->profile.TargetName)
+      return Report(context, options,
+                    isPortFirst ? CompareModels(logger, *other) : CompareModels(*other, logger),
+                    features);
+    return Report(context, options,
+                  isPortFirst ? Compare(logger, logger.conf, other->conf, features)
+                              : Compare(logger, other->conf, logger.conf, features),
+                  features);
+  });
+}
+
+ExitCode RunDiff(CommandContext& context, const DiffOptions& options) {
+  if (options.a == kPort && options.b == kPort)
+    return context.console.Fail(ExitCode::Usage, "a logger is compared with a file");
+  if (options.a == kPort) return DiffWithPort(context, options, options.b, true);
+  if (options.b == kPort) return DiffWithPort(context, options, options.a, false);
+  return DiffFiles(context, options);
+}
+
+}  // namespace
+
+Command AddDiff(CLI::App& app) {
+  CLI::App* parser = app.add_subcommand(
+      "diff", "Compare two configurations; with known features, as a logger of these takes them");
+  const auto options = std::make_shared<DiffOptions>();
+  parser->add_option("A", options->a, "File, or \"port\" for what the logger holds")->required();
+  parser->add_option("B", options->b, "File, or \"port\"")->required();
+  return {parser, [options](CommandContext& context) { return RunDiff(context, *options); }};
+}
+
+}  // namespace ostrel::cli

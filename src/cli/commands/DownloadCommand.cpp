@@ -1,0 +1,46 @@
+#include "cli/ConfFile.h"
+#include "cli/Json.h"
+#include "cli/commands/Commands.h"
+#include "cli/commands/OnlineCommand.h"
+#include "host/LoggerText.h"
+
+namespace ostrel::cli {
+namespace {
+
+ExitCode RunDownload(Online& online, const std::string& file) {
+  CommandContext& context = online.context;
+  const ExitCode downloaded = online.session.Download();
+  if (downloaded != ExitCode::Done) return downloaded;
+  const ExitCode saved = SaveTo(context, online.configurator, file);
+  if (saved != ExitCode::Done) return saved;
+  if (!context.options.json) {
+    context.console.Note("configuration of " + online.configurator.info.SerialNumber +
+                         " saved to " + file);
+    return ExitCode::Done;
+  }
+  JsonWriter json(context.console.Out());
+  json.Object([&] {
+    json.Member("file", file);
+    json.Member("model", online.configurator.profile.TargetName);
+    json.Member("serial", online.configurator.info.SerialNumber);
+    json.Member("features", FeaturesText(online.configurator.info.Features));
+  });
+  json.End();
+  return ExitCode::Done;
+}
+
+}  // namespace
+
+Command AddDownload(CLI::App& app) {
+  CLI::App* parser = app.add_subcommand("download", "Read the logger's configuration into a file");
+  const auto file = std::make_shared<std::string>();
+  parser->add_option("FILE", *file, "File to write; one that stands is replaced")->required();
+  return {parser, [file](CommandContext& context) {
+            const ExitCode writable = TryToWrite(context, *file);
+            if (writable != ExitCode::Done) return writable;
+            return RunOnline(context, "",
+                             [&](Online& online) { return RunDownload(online, *file); });
+          }};
+}
+
+}  // namespace ostrel::cli

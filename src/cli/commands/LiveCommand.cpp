@@ -1,0 +1,152 @@
+#include <variant>
+
+#include "cli/Json.h"
+#include "cli/commands/Commands.h"
+#include "cli/commands/OnlineCommand.h"
+#include "host/LoggerText.h"
+#include "model/Features.h"
+
+namespace ostrel::cli {
+namespace {
+
+constexpr Duration kWatchInterval = std::chrono::seconds(1);
+
+/// One measured channel, ready to be shown.
+struct Measure {
+  int index;
+  std::variant<float, std::int32_t> value;
+  std::string name, unit;
+};
+
+/// The channels of one kind.
+struct Group {
+  std::string_view key;
+  std::string_view title;
+  std::vector<Measure> measures;
+};
+
+/// States told by the bits of a mask.
+struct States {
+  std::string_view key;
+  std::string_view title;
+  std::uint32_t mask;
+  int count;
+};
+
+template <class Values, class Names, class Units>
+Group MakeGroup(std::string_view key, std::string_view title, int count, const Values& values,
+                const Names& names, const Units& units) {
+  Group group{key, title, {}};
+  for (int i = 0; i < count; ++i) group.measures.push_back({i, values[i], names[i], units[i]});
+  return group;
+}
+
+std::vector<Group> GroupsOf(const Configurator& configurator) {
+  const TargetProfile& model = configurator.profile;
+  const RealTimeData& live = configurator.live;
+  const Bounded<std::string, 10> noUnits;
+  const int aux = model.IsKA1 || model.IsKA2 ? 4 : 0;
+  const int math = Has(configurator.info.Features, Feature::Math) ? model.MathCount : 0;
+  return {
+      MakeGroup("analog", "analog input", model.AnalogCount, live.AnalogValue, live.AnalogName,
+                live.AnalogUnit),
+      MakeGroup("counters", "counter", model.CaudalCount, live.CounterValue, live.CounterName,
+                noUnits),
+      MakeGroup("flows", "flow meter", model.CaudalCount, live.FlowValue, live.FlowName,
+                live.FlowUnit),
+      MakeGroup("math", "math channel", math, live.MathValue, live.MathName, live.MathUnit),
+      MakeGroup("modbus", "MODBUS channel", model.IsVR200 ? model.ModbusCount : 0, live.ModbusValue,
+                live.ModbusName, live.ModbusUnit),
+      MakeGroup("aux", "auxiliary input", aux, live.AuxValue, live.AuxName, live.AuxUnit),
+      MakeGroup("modules", "expansion input", model.ModuloCount, live.ModuloValue, live.ModuloName,
+                live.ModuloUnit),
+  };
+}
+
+std::vector<States> StatesOf(const Configurator& configurator) {
+  const RealTimeData& live = configurator.live;
+  return {{"digital", "digital inputs", static_cast<std::uint16_t>(live.DigitalMask),
+           configurator.profile.DigitalCount},
+          {"outputs", "outputs", static_cast<std::uint16_t>(live.OutputMask),
+           configurator.profile.OutputCount},
+          {"flags", "flags", static_cast<std::uint32_t>(live.FlagMask), 16}};
+}
+
+void WriteLive(std::ostream& out, const Online& online, bool watch) {
+  JsonWriter json(out, watch ? JsonWriter::Layout::OneLine : JsonWriter::Layout::Indented);
+  json.Object([&] {
+    json.Member("time", ClockText(online.context.environment.clock.LocalNow()));
+    for (const States& states : StatesOf(online.configurator))
+      json.ArrayMember(states.key, [&] {
+        for (int i = 0; i < states.count; ++i) json.Value((states.mask >> i & 1U) != 0);
+      });
+    for (const Group& group : GroupsOf(online.configurator))
+      json.ArrayMember(group.key, [&] {
+        for (const Measure& measure : group.measures)
+          json.Object([&] {
+            json.Member("index", measure.index);
+            json.Member("name", measure.name);
+            std::visit([&](auto value) { json.Member("value", value); }, measure.value);
+            json.Member("unit", measure.unit);
+          });
+      });
+  });
+  json.End();
+}
+
+void PrintLive(std::ostream& out, const Online& online) {
+  out << ClockText(online.context.environment.clock.LocalNow()) << '\n';
+  for (const States& states : StatesOf(online.configurator)) {
+    if (states.count == 0) continue;
+    out << states.title << ' ';
+    for (int i = 0; i < states.count; ++i) out << ((states.mask >> i & 1U) != 0 ? '1' : '0');
+    out << '\n';
+  }
+  for (const Group& group : GroupsOf(online.configurator))
+    for (const Measure& measure : group.measures) {
+      const auto* number = std::get_if<float>(&measure.value);
+      const std::string value =
+          number ? DecText(*number) : std::to_string(std::get<std::int32_t>(measure.value));
+      out << group.title << ' ' << measure.index << ' ' << value;
+      if (!measure.unit.empty()) out << ' ' << Printable(measure.unit);
+      if (!measure.name.empty()) out << "  " << Printable(measure.name);
+      out << '\n';
+    }
+}
+
+void Show(const Online& online, bool watch) {
+  std::ostream& out = online.context.console.Out();
+  if (online.context.options.json)
+    WriteLive(out, online, watch);
+  else
+    PrintLive(out, online);
+  out.flush();
+}
+
+ExitCode RunLive(Online& online, bool watch) {
+  EventLoop& loop = online.context.environment.loop;
+  const auto interrupted = [&] { return online.session.Interrupted(); };
+  for (;;) {
+    const TimePoint next = loop.Now() + kWatchInterval;
+    const bool isRead = online.configurator.comms.ReadRealTime();
+    // Watching is ended by an interrupt, which is no failure then.
+    if (watch && interrupted()) return ExitCode::Done;
+    if (!isRead) return online.session.Failed();
+    Show(online, watch);
+    if (!online.context.console.Out()) return ExitCode::BadFile;
+    if (!watch || loop.RunUntil(interrupted, next)) return ExitCode::Done;
+  }
+}
+
+}  // namespace
+
+Command AddLive(CLI::App& app) {
+  CLI::App* parser = app.add_subcommand("live", "Show the live values of the logger");
+  const auto watch = std::make_shared<bool>(false);
+  parser->add_flag("--watch", *watch, "Again each second, until interrupted");
+  return {parser, [watch](CommandContext& context) {
+            return RunOnline(context, "", [&](Online& online) { return RunLive(online, *watch); });
+          }};
+}
+
+}  // namespace ostrel::cli

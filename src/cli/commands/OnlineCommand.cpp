@@ -1,0 +1,20 @@
+#include "cli/commands/OnlineCommand.h"
+
+namespace ostrel::cli {
+
+ExitCode RunOnline(CommandContext& context, const std::string& file,
+                   const std::function<ExitCode(Online&)>& work) {
+  PortChoice port;
+  const ExitCode chosen = context.ChoosePort(port);
+  if (chosen != ExitCode::Done) return chosen;
+  const auto model = context.ChooseModel(port, file);
+  if (!model) return ExitCode::Usage;
+  const auto configurator = context.MakeOnline(*model);
+  LoggerSession session(context, *configurator, port);
+  const ExitCode opened = session.Open();
+  if (opened != ExitCode::Done) return opened;
+  Online online{context, *configurator, session};
+  return work(online);
+}
+
+}  // namespace ostrel::cli

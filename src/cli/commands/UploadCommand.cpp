@@ -1,0 +1,168 @@
+#include "cli/Comparison.h"
+#include "cli/ConfFile.h"
+#include "cli/Json.h"
+#include "cli/UploadPlan.h"
+#include "cli/commands/Commands.h"
+#include "cli/commands/OnlineCommand.h"
+#include "host/LoggerText.h"
+
+namespace ostrel::cli {
+namespace {
+
+struct UploadOptions {
+  std::string file;
+  bool noVerify = false;
+  bool noBackup = false;
+  bool dryRun = false;
+};
+
+/// What an upload came to.
+struct UploadResult {
+  std::string backup;                    ///< path of the safety copy; empty without one
+  std::optional<Comparison> comparison;  ///< with what was read back; nothing when not verified
+};
+
+std::string PlanText(std::size_t statements, std::int32_t features, const UploadPlan& plan) {
+  return std::to_string(statements) + " statements for features " + FeaturesText(features) + ", " +
+         std::to_string(plan.octets) + " octets, about " + DurationText(plan.duration) +
+         " on the line";
+}
+
+void WritePlan(JsonWriter& json, const Configurator& configurator, std::int32_t features,
+               const std::vector<std::string>& statements) {
+  const UploadPlan plan = PlanUpload(statements, features);
+  json.Member("model", configurator.profile.TargetName);
+  json.Member("features", FeaturesText(features));
+  json.Member("statements", statements.size());
+  json.Member("octets", plan.octets);
+  json.Member("seconds", std::chrono::duration<double>(plan.duration).count());
+}
+
+ExitCode ShowPlan(CommandContext& context, Configurator& configurator, std::int32_t features) {
+  const DeviceConf conf = configurator.conf;
+  const auto statements = configurator.StatementsOf(conf, features);
+  std::ostream& out = context.console.Out();
+  if (context.options.json) {
+    JsonWriter json(out);
+    json.Object([&] {
+      WritePlan(json, configurator, features, statements);
+      json.ArrayMember("statementTexts", [&] {
+        for (const std::string& statement : statements) json.Value(statement);
+      });
+    });
+    json.End();
+    return ExitCode::Done;
+  }
+  for (const std::string& statement : statements) out << Printable(statement) << '\n';
+  out << PlanText(statements.size(), features, PlanUpload(statements, features)) << '\n';
+  return ExitCode::Done;
+}
+
+/// Keeps what the logger holds now, then brings the configuration to upload back into the model.
+ExitCode KeepFormer(Online& online, const DeviceConf& toSend, std::string& path) {
+  ExitCode code = online.session.Download();
+  if (code == ExitCode::Done) code = SaveBackup(online.context, online.configurator, path);
+  online.configurator.conf = toSend;
+  if (code == ExitCode::Done) online.context.console.Note("former configuration kept in " + path);
+  return code;
+}
+
+ExitCode Report(Online& online, const UploadOptions& options, const DeviceConf& sent,
+                const UploadResult& result) {
+  CommandContext& context = online.context;
+  Configurator& configurator = online.configurator;
+  const std::int32_t features = configurator.info.Features;
+  const bool isSame = !result.comparison || result.comparison->isSame;
+  if (context.options.json) {
+    JsonWriter json(context.console.Out());
+    json.Object([&] {
+      json.Member("file", options.file);
+      json.Member("serial", configurator.info.SerialNumber);
+      WritePlan(json, configurator, features, configurator.StatementsOf(sent, features));
+      json.Key("backup");
+      result.backup.empty() ? json.Value(nullptr) : json.Value(result.backup);
+      json.Key("verified");
+      result.comparison ? json.Value(isSame) : json.Value(nullptr);
+      if (result.comparison) WriteDifferences(json, *result.comparison);
+    });
+    json.End();
+  } else if (!isSame) {
+    PrintDifferences(context.console, *result.comparison);
+  }
+  if (!isSame)
+    return context.console.Fail(ExitCode::Differences,
+                                "the logger holds another configuration than was sent");
+  context.console.Note(result.comparison ? "configuration written and verified"
+                                         : "configuration written");
+  return ExitCode::Done;
+}
+
+ExitCode Send(Online& online, const UploadOptions& options) {
+  Configurator& configurator = online.configurator;
+  const DeviceConf toSend = configurator.conf;
+  UploadResult result;
+  if (!options.noBackup) {
+    const ExitCode kept = KeepFormer(online, toSend, result.backup);
+    if (kept != ExitCode::Done) return kept;
+  }
+  const ExitCode sent = online.session.Upload();
+  if (sent != ExitCode::Done) return sent;
+  if (!options.noVerify) {
+    const ExitCode read = online.session.Download();
+    if (read != ExitCode::Done) return read;
+    result.comparison =
+        Compare(configurator, toSend, configurator.conf, configurator.info.Features);
+  }
+  return Report(online, options, toSend, result);
+}
+
+/// Loads the file into the configurator of a session. A file of another model than the logger's is
+/// for another logger, most likely.
+ExitCode LoadFile(CommandContext& context, Configurator& configurator, const std::string& file) {
+  const std::string model = configurator.profile.TargetName;
+  if (!context.Open(configurator, file)) return ExitCode::BadFile;
+  const std::string& fileModel = configurator.profile.TargetName;
+  if (fileModel == model ||
+      context.dialogs.Confirm(file + " is for the model " + fileModel +
+                              ", the logger is of the model " + model + ". Go on?"))
+    return ExitCode::Done;
+  if (context.dialogs.Left())
+    return context.console.Fail(ExitCode::DialogueFailed,
+                                "interrupted before a session stood: the logger is unchanged");
+  return context.console.Fail(ExitCode::BadFile,
+                              file + " is for another model: --yes sends it all the same");
+}
+
+ExitCode RunUpload(CommandContext& context, const UploadOptions& options) {
+  if (options.dryRun && !context.HasPort()) {
+    const auto configurator = context.OpenOffline(options.file);
+    if (!configurator) return ExitCode::BadFile;
+    return ShowPlan(context, *configurator, context.options.features.value_or(0));
+  }
+  PortChoice port;
+  const ExitCode chosen = context.ChoosePort(port);
+  if (chosen != ExitCode::Done) return chosen;
+  const auto configurator = context.MakeOnline(*context.ChooseModel(port, options.file));
+  const ExitCode loaded = LoadFile(context, *configurator, options.file);
+  if (loaded != ExitCode::Done) return loaded;
+  LoggerSession session(context, *configurator, port);
+  const ExitCode opened = session.Open();
+  if (opened != ExitCode::Done) return opened;
+  if (options.dryRun) return ShowPlan(context, *configurator, configurator->info.Features);
+  Online online{context, *configurator, session};
+  return Send(online, options);
+}
+
+}  // namespace
+
+Command AddUpload(CLI::App& app) {
+  CLI::App* parser = app.add_subcommand("upload", "Write a file's configuration into the logger");
+  const auto options = std::make_shared<UploadOptions>();
+  parser->add_option("FILE", options->file, "Configuration file")->required();
+  parser->add_flag("--no-verify", options->noVerify, "Do not read back and compare");
+  parser->add_flag("--no-backup", options->noBackup, "Keep no copy of the former configuration");
+  parser->add_flag("--dry-run", options->dryRun, "Show what would be sent, and how long it takes");
+  return {parser, [options](CommandContext& context) { return RunUpload(context, *options); }};
+}
+
+}  // namespace ostrel::cli

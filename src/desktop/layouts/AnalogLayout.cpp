@@ -1,0 +1,73 @@
+#include <QLabel>
+#include <QVBoxLayout>
+
+#include "desktop/Words.h"
+#include "desktop/layouts/AlarmPanelLayout.h"
+#include "desktop/layouts/LayoutParts.h"
+#include "desktop/layouts/Layouts.h"
+
+namespace ostrel {
+namespace {
+
+Card InputCard(FormView& view) {
+  const Card card = MakeCard(view, Words::tr("Input"));
+  AddField(card, view.LabelFor("Nombre", Words::tr("Name:")), view.Show("Nombre"));
+  AddField(card, view.LabelFor("Unidad", Words::tr("Unit:")), Narrow(view.Show("Unidad"), 12));
+  AddField(card, view.LabelFor("Grupo", Words::tr("Power group:")), Narrow(view.Show("Grupo"), 8));
+  card.grid->setColumnStretch(1, 1);
+  card.grid->setRowStretch(card.grid->rowCount(), 1);
+  return card;
+}
+
+Card InterfaceCard(FormView& view) {
+  const Card card = MakeCard(view, Words::tr("Interface"));
+  card.grid->addWidget(
+      OptionBox(view, {"Int_NoHabil", "Int_4_20", "Int_0_5", "Int_0_10", "Int_Press"}, 1), 0, 0, 2,
+      1);
+  card.grid->addWidget(view.Show("Label11"), 0, 1);
+  card.grid->addWidget(view.Show("Jumper"), 1, 1, Qt::AlignTop);
+  card.grid->setRowStretch(1, 1);
+  return card;
+}
+
+Card ScaleCard(FormView& view) {
+  const Card card = MakeCard(view, Words::tr("Scale"));
+  card.grid->addWidget(new QLabel(Words::tr("Signal"), &view), 0, 1);
+  card.grid->addWidget(new QLabel(Words::tr("Value in units"), &view), 0, 2);
+  card.grid->addWidget(view.LabelFor("IE", std::string_view("Label1")), 1, 0);
+  card.grid->addWidget(Narrow(view.Show("IE"), 10), 1, 1);
+  card.grid->addWidget(Narrow(view.ShowNamed("EqIE", Words::tr("Value at the start of scale")), 10),
+                       1, 2);
+  card.grid->addWidget(view.LabelFor("FE", std::string_view("Label2")), 2, 0);
+  card.grid->addWidget(Narrow(view.Show("FE"), 10), 2, 1);
+  card.grid->addWidget(Narrow(view.ShowNamed("EqFE", Words::tr("Value at full scale")), 10), 2, 2);
+  card.grid->setColumnStretch(3, 1);
+  card.grid->setRowStretch(3, 1);
+  return card;
+}
+
+}  // namespace
+
+void LayOutAnalog(FormView& view) {
+  auto* page = new QVBoxLayout(&view);
+  page->setContentsMargins(16, 12, 16, 16);
+  QWidget* heading = view.Heading({});
+  page->addWidget(heading);
+  auto* top = new QHBoxLayout;
+  top->addWidget(InputCard(view).box, 4);
+  top->addWidget(InterfaceCard(view).box, 4);
+  top->addWidget(ScaleCard(view).box, 4);
+  page->addLayout(top);
+  page->addWidget(LayOutAlarmPanel(view, {{"Minimo", Words::tr("Minimum:")},
+                                          {"Maximo", Words::tr("Maximum:")},
+                                          {"Histeresis", Words::tr("Hysteresis:")},
+                                          {"Persist", Words::tr("Persistence:"), "Asterisk"}}));
+  // The asterisk at the persistence is explained here.
+  auto* notice = view.Show<QLabel>("Notice");
+  notice->setWordWrap(true);
+  page->addWidget(notice);
+  page->addStretch(1);
+  heading->layout()->addWidget(HelpButton(view));
+}
+
+}  // namespace ostrel

@@ -1,0 +1,28 @@
+#include <QLabel>
+#include <QVBoxLayout>
+
+#include "desktop/Words.h"
+#include "desktop/layouts/AlarmPanelLayout.h"
+#include "desktop/layouts/LayoutParts.h"
+#include "desktop/layouts/Layouts.h"
+
+namespace ostrel {
+
+void LayOutDigital(FormView& view) {
+  auto* page = new QVBoxLayout(&view);
+  page->setContentsMargins(16, 12, 16, 16);
+  QWidget* heading = view.Heading({});
+  page->addWidget(heading);
+  const Card input = MakeCard(view, Words::tr("Input"));
+  AddField(input, view.LabelFor("Nombre", Words::tr("Name:")), view.Show("Nombre"));
+  view.Show("Nombre")->setMaximumWidth(360);
+  AddField(input, new QLabel(Words::tr("Contact at rest:"), &view),
+           OptionBox(view, {"Int_NA", "Int_NC"}, 2));
+  input.grid->setColumnStretch(1, 1);
+  page->addWidget(input.box);
+  page->addWidget(LayOutAlarmPanel(view, {{"Persist", {}}, {"Rearm", {}}}));
+  page->addStretch(1);
+  heading->layout()->addWidget(HelpButton(view));
+}
+
+}  // namespace ostrel

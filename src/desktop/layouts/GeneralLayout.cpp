@@ -1,0 +1,167 @@
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QProgressBar>
+#include <QVBoxLayout>
+
+#include "desktop/FaultDetails.h"
+#include "desktop/Words.h"
+#include "desktop/layouts/LayoutParts.h"
+#include "desktop/layouts/Layouts.h"
+
+namespace ostrel {
+namespace {
+
+Card SessionCard(FormView& view, const LayoutContext& context) {
+  const Card card = MakeCard(view, Words::tr("Session"));
+  view.SetRowText("Puerto", context.portText);
+  QLabel* port = view.LabelFor("Puerto", Words::tr("Port:"));
+  auto* ports = view.Show<QComboBox>("Puerto");
+  ports->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+  ports->setMinimumContentsLength(24);
+  card.grid->addWidget(port, 0, 0);
+  card.grid->addWidget(ports, 0, 1, 1, 2);
+  card.grid->addWidget(view.ShowWithWords("ModemCheck", Words::tr("By modem")), 1, 0);
+  card.grid->addWidget(view.ShowNamed("CallNum", Words::tr("Number to call")), 1, 1);
+  card.grid->addWidget(view.ShowWithWords("SearchBut", Words::tr("Search ports")), 1, 2);
+  view.Show<QLineEdit>("CallNum")->setPlaceholderText(Words::tr("Number to call"));
+  card.grid->addWidget(view.Show("IniCom"), 2, 0, 1, 3);
+  view.Show("IniCom")->setProperty("primary", true);
+  card.grid->addWidget(Joined(view, {view.ShowWithWords("Leer", Words::tr("Read")),
+                                     view.ShowWithWords("Escribir", Words::tr("Write"))}),
+                       3, 0, 1, 3);
+  auto* status = view.Show<QLabel>("ComStat");
+  status->setObjectName("Status");
+  status->setWordWrap(true);
+  auto* left = view.Own(new QLabel(&view));
+  left->setObjectName("TimeLeft");
+  auto* details = view.Own(new FaultDetails(&view));
+  view.ShowNamed("PBar", Words::tr("Progress"));
+  view.Show<QProgressBar>("PBar")->setTextVisible(false);
+  card.grid->addWidget(status, 4, 0, 1, 3);
+  card.grid->addWidget(details, 5, 0, 1, 3);
+  card.grid->addWidget(view.Show("PBar"), 6, 0, 1, 2);
+  card.grid->addWidget(left, 6, 2);
+  card.grid->setColumnStretch(1, 1);
+  card.grid->setRowStretch(7, 1);
+  return card;
+}
+
+Card DeviceCard(FormView& view) {
+  const Card card = MakeCard(view, Words::tr("Device information"));
+  const auto add = [&](std::string_view control, const QString& label) {
+    AddField(card, view.LabelFor(control, label), view.Show(control), 2);
+  };
+  add("FirmText", Words::tr("Firmware:"));
+  add("SerialText", Words::tr("Serial number:"));
+  add("VBatText", Words::tr("Battery:"));
+  add("MaxHText", Words::tr("Log depth:"));
+  add("UsedHText", Words::tr("Log in use:"));
+  auto* bar = view.Show<QProgressBar>("RSSIBar");
+  bar->setTextVisible(false);
+  AddField(card, view.LabelFor("RSSIBar", Words::tr("Signal:")), bar);
+  card.grid->addWidget(view.Show("LabelRSSI"), card.grid->rowCount() - 1, 2);
+  card.grid->setColumnMinimumWidth(2, 34);
+  card.grid->setColumnStretch(1, 1);
+  card.grid->setRowStretch(card.grid->rowCount(), 1);
+  return card;
+}
+
+Card LoggerCard(FormView& view) {
+  const Card card = MakeCard(view, Words::tr("Logger"));
+  AddField(card, view.LabelFor("NameBox", Words::tr("Name:")), view.Show("NameBox"));
+  AddField(card, view.LabelFor("PTLF", Words::tr("Own number:")), view.Show("PTLF"));
+  auto* centre = new QLabel(Words::tr("SMS centre:"), &view);
+  AddField(card, centre, OptionBox(view, {"CSMMovi", "CSMVoda", "CSMAmen", "CSMOtro"}, 2));
+  card.grid->addWidget(view.ShowNamed("SMSCBox", Words::tr("SMS centre")), card.grid->rowCount(),
+                       1);
+  AddField(card, view.LabelFor("RestoreText", Words::tr("Restoration text:")),
+           view.Show("RestoreText"));
+  const auto addCount = [&](std::string_view control, const QString& label, const QString& unit) {
+    QLabel* labelWidget = view.LabelFor(control, label);
+    AddField(card, labelWidget,
+             Joined(view, {Narrow(view.Show(control), 5), new QLabel(unit, &view)}, Qt::Horizontal,
+                    true));
+  };
+  addCount("RENVT", Words::tr("Resend every:"), Words::tr("minutes"));
+  addCount("RENVN", Words::tr("At most:"), Words::tr("times"));
+  card.grid->setColumnStretch(1, 1);
+  card.grid->setRowStretch(card.grid->rowCount(), 1);
+  return card;
+}
+
+/// The controls in which one telephone is entered.
+QGridLayout* PhoneEntry(FormView& view) {
+  auto* grid = new QGridLayout;
+  grid->setSpacing(6);
+  int row = 0;
+  const auto add = [&](std::string_view control, const QString& words) {
+    grid->addWidget(view.LabelFor(control, words), row, 0);
+    grid->addWidget(view.Show(control), row++, 1);
+  };
+  add("NewTlf", Words::tr("Number:"));
+  add("PrioBox", Words::tr("Priority:"));
+  add("Privilegios", Words::tr("Privilege:"));
+  grid->setColumnMinimumWidth(1, 150);
+  grid->setRowStretch(row, 1);
+  return grid;
+}
+
+QVBoxLayout* PhoneMask(FormView& view) {
+  auto* column = new QVBoxLayout;
+  column->setSpacing(6);
+  column->addWidget(view.Show("CheckMask"));
+  column->addWidget(OptionBox(view, {"MaskInclude", "MaskExclude"}, 2));
+  column->addWidget(view.ShowNamed("MaskSelection", Words::tr("Channels of the mask")), 1);
+  return column;
+}
+
+QVBoxLayout* PhoneList(FormView& view) {
+  auto* column = new QVBoxLayout;
+  column->setSpacing(6);
+  column->addWidget(view.LabelFor("ListaTlf", std::string_view("LabelEditar")));
+  column->addWidget(view.Show("ListaTlf"), 1);
+  auto* buttons = new QHBoxLayout;
+  buttons->setSpacing(6);
+  buttons->addWidget(view.Show("Anadir"));
+  buttons->addWidget(view.Show("Borrar"));
+  buttons->addStretch(1);
+  column->addLayout(buttons);
+  return column;
+}
+
+Card PhoneCard(FormView& view) {
+  const Card card = MakeCard(view, Words::tr("Authorised telephones"));
+  card.grid->setHorizontalSpacing(18);
+  card.grid->addLayout(PhoneEntry(view), 0, 0);
+  card.grid->addLayout(PhoneMask(view), 0, 1);
+  card.grid->addLayout(PhoneList(view), 0, 2);
+  card.grid->setColumnStretch(1, 2);
+  card.grid->setColumnStretch(2, 5);
+  for (const auto* list : {"MaskSelection", "ListaTlf"}) view.Show(list)->setMinimumHeight(80);
+  return card;
+}
+
+}  // namespace
+
+void LayOutGeneral(FormView& view, const LayoutContext& context) {
+  auto* page = new QVBoxLayout(&view);
+  page->setContentsMargins(16, 12, 16, 16);
+  auto* warning = view.Show<QLabel>("WarningText");
+  warning->setWordWrap(true);
+  auto* top = new QHBoxLayout;
+  auto* heading = view.Heading(Words::tr("General"));
+  top->addWidget(SessionCard(view, context).box, 7);
+  top->addWidget(DeviceCard(view).box, 4);
+  top->addWidget(LoggerCard(view).box, 5);
+  auto* notice = Joined(view, {view.Show("Warning"), warning});
+  static_cast<QBoxLayout*>(notice->layout())->setStretch(1, 1);
+  page->addWidget(heading);
+  page->addWidget(notice);
+  page->addLayout(top);
+  page->addWidget(PhoneCard(view).box, 1);
+  heading->layout()->addWidget(HelpButton(view));
+}
+
+}  // namespace ostrel

@@ -1,0 +1,90 @@
+#include "desktop/layouts/LayoutParts.h"
+
+#include <QAbstractButton>
+#include <QBoxLayout>
+#include <QFontMetrics>
+#include <QPushButton>
+
+#include "desktop/Words.h"
+
+namespace ostrel {
+namespace {
+
+constexpr int kFieldFrame = 26;  // what a field needs beside its characters, in pixels
+
+QGridLayout* MakeGrid(QWidget* box) {
+  auto* grid = new QGridLayout(box);
+  grid->setContentsMargins(12, 8, 12, 12);
+  grid->setHorizontalSpacing(10);
+  grid->setVerticalSpacing(6);
+  return grid;
+}
+
+}  // namespace
+
+Card MakeCard(FormView& view, const QString& title) {
+  auto* box = new QGroupBox(title, &view);
+  return {box, MakeGrid(box)};
+}
+
+Card MakeCard(FormView& view, std::string_view frame) {
+  auto* box = view.Show<QGroupBox>(frame);
+  return {box, MakeGrid(box)};
+}
+
+void AddField(const Card& card, QWidget* label, QWidget* field, int columns) {
+  const int row = card.grid->rowCount();
+  const bool isNarrow = field->minimumWidth() == field->maximumWidth();
+  card.grid->addWidget(label, row, 0);
+  card.grid->addWidget(field, row, 1, 1, columns, isNarrow ? Qt::AlignLeft : Qt::Alignment());
+}
+
+QWidget* OptionBox(FormView& view, std::initializer_list<std::string_view> options, int columns) {
+  auto* box = new QWidget(&view);
+  auto* grid = new QGridLayout(box);
+  grid->setContentsMargins(0, 0, 0, 0);
+  grid->setHorizontalSpacing(14);
+  grid->setVerticalSpacing(4);
+  int place = 0;
+  for (const std::string_view option : options) {
+    grid->addWidget(view.Show(option), place / columns, place % columns);
+    ++place;
+  }
+  grid->setColumnStretch(columns, 1);
+  return box;
+}
+
+QWidget* Joined(FormView& view, std::initializer_list<QWidget*> widgets,
+                Qt::Orientation orientation, bool stretchEnd) {
+  auto* box = new QWidget(&view);
+  auto* layout = new QBoxLayout(
+      orientation == Qt::Horizontal ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom, box);
+  layout->setContentsMargins(0, 0, 0, 0);
+  for (QWidget* widget : widgets) layout->addWidget(widget);
+  if (stretchEnd) layout->addStretch(1);
+  return box;
+}
+
+QWidget* HelpButton(FormView& view) {
+  auto* button = static_cast<QAbstractButton*>(view.ShowWithWords("Help", Words::tr("Help")));
+  button->setShortcut(QKeySequence::HelpContents);
+  button->setProperty("noAccessKey", true);
+  return button;
+}
+
+QHBoxLayout* EndButtons(QWidget* accept, QWidget* leave) {
+  auto* row = new QHBoxLayout;
+  row->addStretch(1);
+  row->addWidget(accept);
+  row->addWidget(leave);
+  static_cast<QPushButton*>(accept)->setDefault(true);
+  return row;
+}
+
+QWidget* Narrow(QWidget* field, int characters) {
+  field->setFixedWidth(field->fontMetrics().horizontalAdvance(QString(characters, u'0')) +
+                       kFieldFrame);
+  return field;
+}
+
+}  // namespace ostrel

@@ -1,0 +1,109 @@
+#include <QCoreApplication>
+#include <exception>
+#include <filesystem>
+#include <iostream>
+#include <memory>
+#include <vector>
+
+#include "host/SignalPipe.h"
+#include "platform/qt/PseudoTerminal.h"
+#include "platform/qt/QtClock.h"
+#include "platform/qt/QtFiles.h"
+#include "simulator/SimOptions.h"
+
+namespace {
+
+using namespace ostrel;
+
+int Fail(ExitCode code, const std::string& sentence) {
+  std::cerr << "ostrel-sim: " << sentence << std::endl;
+  return static_cast<int>(code);
+}
+
+/// A symbolic link that goes when the program ends. An older link in its place is replaced, any
+/// other file is not.
+class Link {
+ public:
+  Link(const std::string& path, const std::string& target) : path_(path) {
+    if (path.empty()) return;
+    std::error_code ignored;
+    if (std::filesystem::is_symlink(path, ignored)) std::filesystem::remove(path, ignored);
+    std::filesystem::create_symlink(target, path, error_);
+    if (error_) path_.clear();
+  }
+  ~Link() {
+    std::error_code ignored;
+    if (!path_.empty()) std::filesystem::remove(path_, ignored);
+  }
+  Link(const Link&) = delete;
+  Link& operator=(const Link&) = delete;
+
+  /// Why the link could not be made; empty when it stands.
+  std::string Error() const { return error_ ? error_.message() : std::string(); }
+
+ private:
+  std::error_code error_;
+  std::string path_;
+};
+
+int CannotKeep(const std::string& path, const FileResult& result) {
+  return Fail(ExitCode::BadFile, "cannot write " + path + ": " + result.error);
+}
+
+int Serve(QtEventLoop& loop, sim::Logger& logger, const std::string& path,
+          const SimOptions& options) {
+  bool isOver = false;
+  const SignalPipe watch(loop, [&] { isOver = true; });
+  const Link link(options.link, path);
+  if (!link.Error().empty())
+    return Fail(ExitCode::BadFile, "cannot make the link " + options.link + ": " + link.Error());
+  logger.OnExchange(
+      [](const sim::Exchange& exchange) { std::cout << ExchangeLine(exchange) << std::endl; });
+  std::cout << path << std::endl;
+  loop.RunUntil([&] { return isOver; }, kNever);
+  QtFiles files;
+  if (options.stateFile.empty()) return 0;
+  const FileResult saved = SaveWhole(files, options.stateFile, logger.SaveState());
+  return saved.Ok() ? 0 : CannotKeep(options.stateFile, saved);
+}
+
+int Run(SimOptions options) {
+  QtEventLoop loop;
+  QtFiles files;
+  options.logger.clockStart = QtClock().LocalNow();
+  sim::Logger* logger = nullptr;
+  const PseudoTerminal terminal(
+      loop,
+      [&](LineEnd& end) {
+        auto made = std::make_unique<sim::Logger>(loop, end, options.logger);
+        logger = made.get();
+        return made;
+      },
+      options.isPaced);
+  if (!options.isEmpty) logger->SetConf(sim::DemoConfiguration(options.logger.model));
+  const auto state = options.stateFile.empty() ? std::nullopt : files.Read(options.stateFile);
+  std::string error;
+  if (state && !logger->LoadState(*state, error))
+    return Fail(ExitCode::BadFile, options.stateFile + ": " + error);
+  // Found out now and not when a long session is to be kept.
+  if (!options.stateFile.empty())
+    if (const FileResult saved = SaveWhole(files, options.stateFile, logger->SaveState());
+        !saved.Ok())
+      return CannotKeep(options.stateFile, saved);
+  return Serve(loop, *logger, terminal.SlavePath(), options);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  const QCoreApplication application(argc, argv);
+  SimOptions options;
+  ExitCode code = ExitCode::Done;
+  const std::vector<std::string> args(argv + 1, argv + argc);
+  if (!ParseSimOptions(args, options, std::cout, std::cerr, code)) return static_cast<int>(code);
+  try {
+    return Run(std::move(options));
+  } catch (const std::exception& error) {
+    return Fail(ExitCode::NoSession, error.what());
+  }
+}
