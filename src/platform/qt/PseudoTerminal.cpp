@@ -3,6 +3,7 @@
 #include <fcntl.h>
 #include <poll.h>
 #include <stdlib.h>
+#include <sys/inotify.h>
 #include <termios.h>
 #include <unistd.h>
 
@@ -15,7 +16,6 @@
 namespace ostrel {
 namespace {
 
-constexpr Duration kLookInterval = std::chrono::milliseconds(20);
 /// Octets on the way to the device, beyond which the program is held up as a driver would do it.
 constexpr std::size_t kMostUnderway = 4096;
 /// Octets kept for a program that does not read; what comes on top is lost, as on a line.
@@ -40,7 +40,6 @@ PseudoTerminal::PseudoTerminal(QtEventLoop& loop, const Attach& attach, bool pac
     CloseMaster();
     throw;
   }
-  lookTimer_ = loop_.Every(kLookInterval, "terminal opening", [this] { LookForProgram(); });
 }
 
 PseudoTerminal::~PseudoTerminal() { CloseMaster(); }
@@ -56,10 +55,16 @@ void PseudoTerminal::MakeTerminal() {
   Require(slave >= 0, "pseudo-terminal");
   SetRaw();
   ::close(slave);
+  openings_ = ::inotify_init1(IN_NONBLOCK | IN_CLOEXEC);
+  Require(openings_ >= 0 && ::inotify_add_watch(openings_, slavePath_.c_str(), IN_OPEN) >= 0,
+          "watch of the pseudo-terminal");
+  opened_ = std::make_unique<QSocketNotifier>(openings_, QSocketNotifier::Read);
   readable_ = std::make_unique<QSocketNotifier>(master_, QSocketNotifier::Read);
   writable_ = std::make_unique<QSocketNotifier>(master_, QSocketNotifier::Write);
   readable_->setEnabled(false);
   writable_->setEnabled(false);
+  QObject::connect(opened_.get(), &QSocketNotifier::activated, opened_.get(),
+                   [this] { loop_.Guard([this] { LookForProgram(); }); });
   QObject::connect(readable_.get(), &QSocketNotifier::activated, readable_.get(),
                    [this] { loop_.Guard([this] { ReadAll(); }); });
   QObject::connect(writable_.get(), &QSocketNotifier::activated, writable_.get(),
@@ -81,11 +86,13 @@ bool PseudoTerminal::FarEndInUse() const {
   return (state.revents & POLLIN) != 0 || (state.revents & POLLHUP) == 0;
 }
 
-/// The system has no event for an opening, and a closed terminal would wake the loop without end:
-/// so the notifiers are off while no program is there, and this looks now and then.
+/// Some program has opened the terminal. A closed one would wake the loop without end, so the other
+/// notifiers are off until then.
 void PseudoTerminal::LookForProgram() {
-  if (!FarEndInUse()) return;
-  loop_.Cancel(std::exchange(lookTimer_, 0));
+  std::array<char, 4096> events;
+  while (::read(openings_, events.data(), events.size()) > 0) {
+  }
+  if (inUse_ || !FarEndInUse()) return;
   SetRaw();
   SetInUse(true);
 }
@@ -101,7 +108,6 @@ void PseudoTerminal::SetInUse(bool inUse) {
     toDevice_.Flush();
     Deliver();
     if (master_ < 0) return;
-    lookTimer_ = loop_.Every(kLookInterval, "terminal opening", [this] { LookForProgram(); });
   }
   device_->SetTerminalReady(inUse);
 }
@@ -155,11 +161,11 @@ void PseudoTerminal::Vanish() {
 }
 
 void PseudoTerminal::CloseMaster() {
-  loop_.Cancel(std::exchange(lookTimer_, 0));
   // A notifier may be calling: it is only switched off here.
-  if (readable_) readable_->setEnabled(false);
-  if (writable_) writable_->setEnabled(false);
-  if (master_ >= 0) ::close(std::exchange(master_, -1));
+  for (const auto& notifier : {opened_.get(), readable_.get(), writable_.get()})
+    if (notifier) notifier->setEnabled(false);
+  for (int* descriptor : {&openings_, &master_})
+    if (*descriptor >= 0) ::close(std::exchange(*descriptor, -1));
 }
 
 }  // namespace ostrel

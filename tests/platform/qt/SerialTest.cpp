@@ -123,6 +123,23 @@ TEST_F(SerialTest, HangUpIsNoticedAtOnceAndDoesNotSpin) {
   EXPECT_FALSE(port.LineLost());
 }
 
+TEST_F(SerialTest, WhileNoOctetMovesNothingWakesTheLoop) {
+  Start(true);
+  const auto wakings = [this] {
+    loop.PumpEvents();
+    int looks = 0;
+    loop.RunUntil([&] { return ++looks < 0; }, loop.Now() + milliseconds(200));
+    return looks - 3;  // at the start, at the deadline and at the end
+  };
+  EXPECT_LE(wakings(), 1) << "closed";
+  ASSERT_EQ(port.SetPortOpen(true), PortFault::None);
+  ASSERT_TRUE(AwaitInUse(true));
+  EXPECT_LE(wakings(), 1) << "open";
+  port.SetPortOpen(false);
+  ASSERT_TRUE(AwaitInUse(false));
+  EXPECT_LE(wakings(), 1) << "closed again";
+}
+
 TEST_F(SerialTest, PacedTerminalKeepsLineSpeedBothWays) {
   Start(true);
   ASSERT_EQ(port.SetPortOpen(true), PortFault::None);
