@@ -46,7 +46,7 @@ class QtEventLoop final : public EventLoop {
     std::shared_ptr<const Callback> callback;
   };
 
-  TimerId Add(Duration delay, Duration interval, Callback callback);
+  TimerId Add(TimePoint due, Duration interval, Callback callback);
   std::vector<Timer>::iterator Earliest();
   void SetAlarm();
   void ServeOne();
