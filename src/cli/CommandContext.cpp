@@ -41,29 +41,23 @@ CommandContext::CommandContext(Environment& world, GlobalOptions shared)
       options(std::move(shared)),
       console(world.out, world.err, options.quiet),
       dialogs(world, console, options),
-      langFile_(SeedLang(world.files, world.shippedLang, world.dataFolder + "/Lang.txt")),
-      noPorts_(world.loop) {}
+      platform(world.platform.With(dialogs)),
+      langFile_(SeedLang(platform.files, world.shippedLang, world.dataFolder + "/Lang.txt")),
+      noPorts_(platform.loop) {}
 
-std::unique_ptr<Configurator> CommandContext::Make(SerialPort& port, std::string_view model) {
-  const Platform platform{.loop = environment.loop,
-                          .port = port,
-                          .settings = environment.settings,
-                          .dialogs = dialogs,
-                          .files = environment.files,
-                          .processes = environment.processes,
-                          .clock = environment.clock};
+std::unique_ptr<Configurator> CommandContext::Make(const Platform& world, std::string_view model) {
   auto configurator = std::make_unique<Configurator>(
-      platform, ConfiguratorOptions{.programFolder = {}, .langFile = langFile_});
+      world, ConfiguratorOptions{.programFolder = {}, .langFile = langFile_});
   configurator->StartForCommand(model, options.lang);
   return configurator;
 }
 
 std::unique_ptr<Configurator> CommandContext::MakeOnline(std::string_view model) {
-  return Make(environment.port, model);
+  return Make(platform, model);
 }
 
 std::unique_ptr<Configurator> CommandContext::MakeOffline(std::string_view model) {
-  return Make(noPorts_, model);
+  return Make(platform.With(noPorts_), model);
 }
 
 std::unique_ptr<Configurator> CommandContext::OpenOffline(const std::string& path) {
@@ -74,7 +68,7 @@ std::unique_ptr<Configurator> CommandContext::OpenOffline(const std::string& pat
 }
 
 bool CommandContext::Open(Configurator& configurator, const std::string& path) {
-  if (!environment.files.Read(path)) {
+  if (!platform.files.Read(path)) {
     console.Fail(ExitCode::BadFile, "cannot read " + path);
     return false;
   }
@@ -91,7 +85,7 @@ bool CommandContext::Open(Configurator& configurator, const std::string& path) {
 }
 
 std::string CommandContext::ModelOfFile(const std::string& path) {
-  IniTool tool(environment.files);
+  IniTool tool(platform.files);
   const std::string stamp = tool.ProfileRead("General", "VERSION", path);
   for (const TargetModel& model : TargetModels())
     if (model.type == stamp) return std::string(model.name);
@@ -104,7 +98,7 @@ std::optional<std::string> CommandContext::ChooseModel(const PortChoice& port,
   if (!port.simulatedModel.empty()) return port.simulatedModel;
   if (!file.empty())
     if (std::string model = ModelOfFile(file); !model.empty()) return model;
-  const TargetModel* stored = FindModel(StoredSettings(environment.settings).Target());
+  const TargetModel* stored = FindModel(StoredSettings(platform.settings).Target());
   if (stored) return std::string(stored->name);
   // A file without a known stamp is refused in any case, whatever the model.
   if (!file.empty()) return std::string(TargetNamesOffered().front());
@@ -116,7 +110,7 @@ std::optional<std::string> CommandContext::ChooseModel(const PortChoice& port,
 PortChoice CommandContext::NumberedPort(std::int16_t number) {
   PortChoice choice{.number = number, .name = "COM" + std::to_string(number)};
   choice.simulatedModel = environment.simulated.ModelAt(number);
-  for (const PortEntry& entry : environment.port.Entries())
+  for (const PortEntry& entry : platform.port.Entries())
     if (entry.number == number && !entry.device.empty()) choice.name += " (" + entry.device + ")";
   return choice;
 }

@@ -30,7 +30,8 @@ class CommandContext {
   const GlobalOptions options;
   Console console;
   ConsoleDialogs dialogs;
-  bool traceLost = false;  ///< the trace could not be written whole
+  const Platform platform;  ///< that of the environment; the dialogs are those of the command line
+  bool traceLost = false;   ///< the trace could not be written whole
 
   /// A configurator with the ports of the environment, on a model by its display name.
   std::unique_ptr<Configurator> MakeOnline(std::string_view model);
@@ -51,7 +52,7 @@ class CommandContext {
   bool HasPort() const { return !options.port.empty(); }
 
  private:
-  std::unique_ptr<Configurator> Make(SerialPort& port, std::string_view model);
+  std::unique_ptr<Configurator> Make(const Platform& world, std::string_view model);
   PortChoice NumberedPort(std::int16_t number);
   /// Display name of the model that a file's stamp names; empty when it names none.
   std::string ModelOfFile(const std::string& path);

@@ -18,7 +18,7 @@ ExitCode SaveTo(CommandContext& context, Configurator& configurator, const std::
 }
 
 ExitCode TryToWrite(CommandContext& context, const std::string& path) {
-  Files& files = context.environment.files;
+  Files& files = context.platform.files;
   if (files.Exists(path) && !files.Read(path))
     return CannotWrite(context, path, {"what stands there is no file to replace"});
   const std::string trial = files.Resolve(path) + ".try";
@@ -30,8 +30,8 @@ ExitCode TryToWrite(CommandContext& context, const std::string& path) {
 }
 
 ExitCode SaveBackup(CommandContext& context, Configurator& configurator, std::string& path) {
-  const Environment& environment = context.environment;
-  SafetyCopies copies(environment.files, environment.clock, environment.dataFolder);
+  SafetyCopies copies(context.platform.files, context.platform.clock,
+                      context.environment.dataFolder);
   const SafetyCopies::Kept kept = copies.Keep(configurator, configurator.conf);
   path = kept.path;
   return kept.result.Ok() ? ExitCode::Done : CannotWrite(context, path, kept.result);

@@ -1,24 +1,11 @@
 #include "desktop/ConfigurationReader.h"
 
-#include "platform/Dialogs.h"
+#include "platform/SilentDialogs.h"
 #include "platform/virtual/LinePort.h"
 #include "platform/virtual/VirtualSettings.h"
 #include "shell/Configurator.h"
 
 namespace ostrel {
-namespace {
-
-/// Lets a second configurator work unseen.
-class SilentDialogs final : public Dialogs {
- public:
-  BoxAnswer ShowMessage(const MessageBox&) override { return BoxAnswer::Ok; }
-  std::optional<std::string> ChooseFile(const FileQuestion&) override { return {}; }
-  void ShowModal(Form&) override {}
-  void Beep() override {}
-};
-
-}  // namespace
-
 std::optional<FileContent> ReadConfiguration(const Platform& platform, const std::string& target,
                                              const std::string& path) {
   SilentDialogs dialogs;

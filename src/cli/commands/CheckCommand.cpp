@@ -34,7 +34,7 @@ std::vector<Found> Examine(CommandContext& context, Configurator& configurator,
   StatementProbe fullProbe(configurator, configurator.conf, kAllFeatures);
   const auto scratch = context.MakeOffline(configurator.profile.TargetName);
   const TextLimits limits = FindTextLimits(*scratch);
-  IniClass document(context.environment.files);
+  IniClass document(context.platform.files);
   document.OpenINI(options.file, false);
   const Examined examined{configurator, features,  fields, emptyFields,
                           probe,        fullProbe, limits, document};

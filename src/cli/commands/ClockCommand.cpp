@@ -24,7 +24,7 @@ ExitCode RunClock(Online& online, bool set) {
   const ExitCode read = ReadClock(online);
   if (read != ExitCode::Done) return read;
   const DateTime& logger = online.configurator.live.DeviceClock;
-  const DateTime computer = online.context.environment.clock.LocalNow();
+  const DateTime computer = online.context.platform.clock.LocalNow();
   const std::int64_t ahead = ToSeconds(logger) - ToSeconds(computer);
   std::ostream& out = online.context.console.Out();
   if (online.context.options.json) {

@@ -75,7 +75,7 @@ std::vector<States> StatesOf(const Configurator& configurator) {
 void WriteLive(std::ostream& out, const Online& online, bool watch) {
   JsonWriter json(out, watch ? JsonWriter::Layout::OneLine : JsonWriter::Layout::Indented);
   json.Object([&] {
-    json.Member("time", ClockText(online.context.environment.clock.LocalNow()));
+    json.Member("time", ClockText(online.context.platform.clock.LocalNow()));
     for (const States& states : StatesOf(online.configurator))
       json.ArrayMember(states.key, [&] {
         for (int i = 0; i < states.count; ++i) json.Value((states.mask >> i & 1U) != 0);
@@ -95,7 +95,7 @@ void WriteLive(std::ostream& out, const Online& online, bool watch) {
 }
 
 void PrintLive(std::ostream& out, const Online& online) {
-  out << ClockText(online.context.environment.clock.LocalNow()) << '\n';
+  out << ClockText(online.context.platform.clock.LocalNow()) << '\n';
   for (const States& states : StatesOf(online.configurator)) {
     if (states.count == 0) continue;
     out << states.title << ' ';
@@ -124,7 +124,7 @@ void Show(const Online& online, bool watch) {
 }
 
 ExitCode RunLive(Online& online, bool watch) {
-  EventLoop& loop = online.context.environment.loop;
+  EventLoop& loop = online.context.platform.loop;
   const auto interrupted = [&] { return online.session.Interrupted(); };
   for (;;) {
     const TimePoint next = loop.Now() + kWatchInterval;

@@ -5,7 +5,7 @@ namespace ostrel::cli {
 namespace {
 
 ExitCode RunPorts(CommandContext& context) {
-  const std::vector<PortEntry> entries = context.environment.port.Entries();
+  const std::vector<PortEntry> entries = context.platform.port.Entries();
   std::ostream& out = context.console.Out();
   if (context.options.json) {
     JsonWriter json(out);
