@@ -2,12 +2,12 @@
 
 #include <QString>
 
-#include "link/LinkFault.h"
+#include "shell/SessionState.h"
 
 namespace ostrel {
 
-/// What went wrong in a dialogue and what helps, in the window's words. `device` names what stands
-/// behind the port. Empty when nothing went wrong.
-QString FaultWords(const LinkFault& fault, const QString& device);
+/// What went wrong, what helps and how the logger stands, in sentences of the window's language.
+/// `device` names what stands behind the port.
+QString FaultText(const SessionFault& fault, const QString& device);
 
 }  // namespace ostrel

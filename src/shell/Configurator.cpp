@@ -72,10 +72,14 @@ LinkHooks Configurator::MakeHooks() {
       .clearPages = [this] { ForEach(kClearAtDownload, [](Page& page) { page.Clear(); }); },
       .loadPages = [this] { ForEach(kLoadAfterDownload, [](Page& page) { page.LoadData(); }); },
       .barMaximum = [&frame](int maximum) { frame.PBar.SetMaximum(maximum); },
-      .barValue = [&frame](int value) { frame.PBar.SetValue(value); },
+      .barValue =
+          [this, &frame](int value) {
+            frame.PBar.SetValue(value);
+            session.FollowBar(value);
+          },
       .composed = [this] { session.KeepSent(); },
       .infoChanged = [this](std::string_view key) { general.ShowInfo(key); },
-      .showPWForm = [this] { pwForm.ShowModal(comms.AccessCode); },
+      .showPWForm = [this] { AskCode(); },
       .carrierLost = [this] { ShowCarrierLost(); },
       .portFound = [&frame](std::string_view name) { frame.Puerto.Add(name); },
   };
@@ -97,6 +101,12 @@ void Configurator::RegisterWire() {
     if (block != found.end()) blocks.push_back(std::move(*block));
   }
   comms.SetWire(std::move(sections), std::move(blocks));
+}
+
+void Configurator::AskCode() {
+  std::string code = platform_.dialogs.AskCode(context.Translate("Introduzca la clave de acceso:"));
+  session.CodeAsked(!code.empty());
+  if (code.empty() || CheckCode(context, code)) comms.AccessCode = std::move(code);
 }
 
 void Configurator::ShowCarrierLost() {
@@ -202,7 +212,7 @@ void Configurator::ShutDown() {
 }
 
 void Configurator::AskLanguage() {
-  langForm.AskUser();
+  if (!langForm.AskUser()) return;
   keepsStoredLanguage_ = false;
   LoadText();
 }

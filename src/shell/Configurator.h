@@ -116,6 +116,7 @@ class Configurator {
   void RegisterWire();
   void LoadForms();
   void ShowCarrierLost();
+  void AskCode();
 
   Platform platform_;
   ConfiguratorOptions options_;

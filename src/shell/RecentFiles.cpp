@@ -1,4 +1,4 @@
-#include "desktop/RecentFiles.h"
+#include "shell/RecentFiles.h"
 
 #include <algorithm>
 #include <cstddef>

@@ -1,6 +1,4 @@
-#include "desktop/UnsavedMark.h"
-
-#include <utility>
+#include "shell/UnsavedMark.h"
 
 #include "base/Scope.h"
 #include "shell/Configurator.h"
@@ -16,17 +14,13 @@ DeviceConf UnsavedMark::WithFront() {
 
 void UnsavedMark::Keep(const DeviceConf& safe) {
   kept_ = FieldLines(configurator_, safe);
-  looked_.reset();
+  Touch();
 }
 
 bool UnsavedMark::Changed() {
-  if (configurator_.ComBusy) return changed_;
-  DeviceConf present = WithFront();
-  const std::string& model = configurator_.profile.TargetType;
-  if (present == looked_ && model == lookedModel_) return changed_;
-  looked_ = std::move(present);
-  lookedModel_ = model;
-  changed_ = FieldLines(configurator_, *looked_) != kept_;
+  if (configurator_.ComBusy || !touched_) return changed_;
+  changed_ = FieldLines(configurator_, WithFront()) != kept_;
+  touched_ = false;  // looking at the page in front touches it
   return changed_;
 }
 

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <optional>
-#include <string>
 #include <vector>
 
 #include "model/DeviceConf.h"
@@ -21,7 +19,10 @@ class UnsavedMark {
 
   /// A state is safe in a file or in a logger.
   void Keep(const DeviceConf& safe);
-  /// Whether anything is neither saved nor sent. While a download replaces the model, as before.
+  /// The configuration, the page in front or the model may have changed since the last look.
+  void Touch() { touched_ = true; }
+  /// Whether anything is neither saved nor sent. Looks only when something may have changed, and
+  /// not while a download replaces the model.
   bool Changed();
   /// The configuration as it would be if the page in front were committed.
   DeviceConf WithFront();
@@ -30,9 +31,7 @@ class UnsavedMark {
   Configurator& configurator_;
   Navigation& navigation_;
   std::vector<FieldLine> kept_;
-  /// What was looked at last, to spare looking twice; nothing when it has to be looked at anew.
-  std::optional<DeviceConf> looked_;
-  std::string lookedModel_;
+  bool touched_ = true;
   bool changed_ = false;
 };
 
