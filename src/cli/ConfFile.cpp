@@ -32,7 +32,8 @@ ExitCode TryToWrite(CommandContext& context, const std::string& path) {
 ExitCode SaveBackup(CommandContext& context, Configurator& configurator, std::string& path) {
   const Environment& environment = context.environment;
   SafetyCopies copies(environment.files, environment.clock, environment.dataFolder);
-  const SafetyCopies::Kept kept = copies.Keep(configurator, configurator.conf);
+  const SafetyCopies::Kept kept =
+      copies.Keep(configurator.conf, configurator.profile, configurator.info.SerialNumber);
   path = kept.path;
   return kept.result.Ok() ? ExitCode::Done : CannotWrite(context, path, kept.result);
 }

@@ -7,7 +7,6 @@
 #include <QSplitter>
 #include <QStatusBar>
 
-#include "desktop/ConfigurationReader.h"
 #include "desktop/FaultDetails.h"
 #include "desktop/FaultWords.h"
 #include "desktop/Icons.h"
@@ -202,18 +201,24 @@ void MainWindow::TransferEnded(const TransferEnd& end) {
   if (!end.done) return;
   unsaved_.Keep(end.held);
   if (end.kind == TransferKind::Reading) shownFile_.clear();
-  const FileResult kept = copies_.Keep(configurator_, end.held).result;
+  const FileResult kept =
+      copies_.Keep(end.held, configurator_.profile, configurator_.info.SerialNumber).result;
   if (!kept.Ok())
     statusBar()->showMessage(Words::tr("No safety copy could be kept: %1").arg(ToQt(kept.error)),
                              kMessageTime);
   ShowTitle();
 }
 
-std::optional<std::vector<FieldDifference>> MainWindow::FileDifferences() const {
-  const auto file = ReadConfiguration(parts_.platform, configurator_.profile.TargetName,
-                                      configurator_.ConfFilePath);
-  if (!file || file->model != configurator_.profile.TargetName) return {};
-  return CompareFields(FieldLines(configurator_, configurator_.conf), file->lines);
+std::optional<ModelConfiguration> MainWindow::ReadFile(const std::string& path) const {
+  return ReadConfiguration(
+      parts_.platform.files, path, configurator_.profile,
+      [this](std::string_view text) { return configurator_.context.Translate(text); });
+}
+
+std::optional<Comparison> MainWindow::FileDifferences() const {
+  const auto file = ReadFile(configurator_.ConfFilePath);
+  if (!file || file->profile.TargetName != configurator_.profile.TargetName) return {};
+  return ostrel::Compare({configurator_.profile, configurator_.conf}, *file);
 }
 
 bool MainWindow::MayLeave() {

@@ -1,10 +1,10 @@
 #include <fstream>
 
 #include "cli/Console.h"
-#include "cli/Fields.h"
 #include "cli/Json.h"
 #include "cli/World.h"
 #include "host/LoggerText.h"
+#include "model/DeviceInfo.h"
 #include "simulator/SimOptions.h"
 
 namespace ostrel::cli {
@@ -45,13 +45,6 @@ TEST(Texts, OfNumbersAndNames) {
     EXPECT_EQ(ReadFeatures(wrong), std::nullopt) << wrong;
   EXPECT_EQ(ClockText({2026, 3, 2, 9, 5, 7}), "2026-03-02 09:05:07");
   EXPECT_EQ(Printable("a\x1B\xC3\xB3\xFF"), "a\\x1b\xC3\xB3\\xff");
-  const NumberedName list = SplitName("ACTHI( 1 12)");
-  EXPECT_EQ(list.word, "ACTHI");
-  EXPECT_EQ(list.numbers, (std::vector<int>{1, 12}));
-  EXPECT_EQ(SplitName("1WIRE 3").word, "1WIRE");
-  EXPECT_EQ(SplitName("GENERAL").numbers.size(), 0U);
-  EXPECT_EQ(SectionWords("NUEVO 3"), "NUEVO 3") << "a record needs no words of its own";
-  EXPECT_EQ(KeyWords("NUEVO( 0)"), "");
 }
 
 TEST(SimOptions, AreReadOrRefusedInOneLine) {
