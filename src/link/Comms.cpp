@@ -33,6 +33,7 @@ Duration Comms::SilentFor() const {
 }
 
 bool Comms::Fail(LinkFault::Kind kind, int number, std::string text) {
+  if (heldOut_) kind = LinkFault::Kind::LineHeld;
   if (platform_.port.LineLost()) kind = LinkFault::Kind::LineLost;
   if (!PortOpen()) kind = LinkFault::Kind::PortClosed;
   fault_ = {kind, number, std::move(text)};
@@ -54,7 +55,13 @@ void Comms::Note(std::string_view what, std::string_view text) const {
 Comms::Dialogue::Dialogue(Comms& comms)
     : comms_(comms), wasBusy_(comms.LinkBusy), wasOpen_(comms.PortOpen()) {
   comms.LinkBusy = true;
+  comms.heldOut_ = false;
   comms.awaitedSince_ = comms.platform_.loop.Now();
+}
+
+Comms::Dialogue::~Dialogue() {
+  comms_.LinkBusy = wasBusy_;
+  comms_.heldOut_ = false;
 }
 
 }  // namespace ostrel

@@ -164,7 +164,7 @@ class Comms {
   void AskAccessCode();
   bool Handshake();
   void HangUp();
-  /// True while characters can come and go.
+  /// True while characters can come and go, as far as the present dialogue waits for that.
   bool Alive() const;
   bool HasInput() const;
 
@@ -174,8 +174,10 @@ class Comms {
   /// Swallows stale lines until none comes for `quietMs`. A source that never stops ends it too.
   void Drain(bool (Comms::*receive)(int timeout), int quietMs);
   void Put(std::string_view octets);
-  /// Waits until what was written is on the line. What flow control holds back for too long is
-  /// discarded, so that it never reaches a logger late; the result is then false.
+  void EndTornMessage();
+  /// Waits until what was written is on the line, however long that takes as long as it moves. A
+  /// line that flow control holds for too long is given up: the rest is discarded, so that it never
+  /// reaches a logger late, and the result is false.
   bool AwaitSent();
   /// Sends a message and awaits the answer; false when there is none.
   bool Ask(std::string message);
@@ -209,15 +211,17 @@ class Comms {
   bool boundFailed_ = false;  ///< a line of this download had an index beyond its array
   std::int16_t RecordExpected_ = 0;
   std::int16_t RecordReceived_ = 0;
-  bool opened_ = false;                    ///< the open port is ours to close
-  bool damaged_ = false;                   ///< a bad frame has come since this was last cleared
+  bool opened_ = false;   ///< the open port is ours to close
+  bool damaged_ = false;  ///< a bad frame has come since this was last cleared
+  bool heldOut_ = false;  ///< flow control has held the line for so long that the dialogue ends
+  bool torn_ = false;     ///< the last message may have left in part, without its end
   std::optional<TimePoint> awaitedSince_;  ///< last sign of the logger; none while none is due
 };
 
 class Comms::Dialogue {
  public:
   explicit Dialogue(Comms& comms);
-  ~Dialogue() { comms_.LinkBusy = wasBusy_; }
+  ~Dialogue();
   Dialogue(const Dialogue&) = delete;
   Dialogue& operator=(const Dialogue&) = delete;
 

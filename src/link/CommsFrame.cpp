@@ -1,4 +1,5 @@
 #include <limits>
+#include <utility>
 
 #include "base/CodePage.h"
 #include "link/Comms.h"
@@ -14,7 +15,9 @@ constexpr int kAttempts = 3;
 constexpr std::size_t kLongestLine = 64 * 1024;
 /// More than any stream has.
 constexpr int kMostStaleLines = 2000;
-constexpr Duration kSendingExtra = std::chrono::milliseconds(500);
+/// A line on which nothing has moved for so long is given up. Longer than any wait for a reply, so
+/// that a busy logger or modem may hold the line as long as it may think.
+constexpr Duration kLongestHold = std::chrono::seconds(10);
 
 bool StartsFrame(char c) { return c == '#'; }
 /// The first of a plain line: blanks, line ends and control characters before it are passed over.
@@ -41,7 +44,7 @@ void Comms::TxSer(std::string& message, int timeout) {
   damaged_ = false;
   for (int attempt = 0; attempt < kAttempts && Alive(); ++attempt) {
     send();
-    if (AwaitSent() && RxSer(timeout)) return;
+    if (!AwaitSent() || RxSer(timeout)) return;
   }
 }
 
@@ -69,7 +72,7 @@ void Comms::TxGsm(std::string_view command, int timeout) {
     Put(ToCodePage(command) + kEndOfLine);
     Note("TxGsm: ", command);
     if (timeout <= 0) return;
-    if (AwaitSent() && RxGsm(timeout) && RxLine != "+CME ERROR: 515") return;
+    if (!AwaitSent() || (RxGsm(timeout) && RxLine != "+CME ERROR: 515")) return;
   }
 }
 
@@ -122,21 +125,33 @@ void Comms::Drain(bool (Comms::*receive)(int), int quietMs) {
   }
 }
 
-void Comms::Put(std::string_view octets) { platform_.port.Output(octets); }
+void Comms::Put(std::string_view octets) {
+  EndTornMessage();
+  platform_.port.Output(octets);
+}
+
+/// What was left of a message lies at the other end as the start of a line. A carriage return makes
+/// it a damaged line, which is ignored, so that it does not swallow the next message.
+void Comms::EndTornMessage() {
+  if (std::exchange(torn_, false)) platform_.port.Output(std::string_view(&kEndOfLine, 1));
+}
 
 bool Comms::AwaitSent() {
   SerialPort& port = platform_.port;
-  const std::size_t queued = port.OutBufferCount();
-  if (queued == 0) return true;
-  const bool sent =
-      platform_.loop.RunUntil([&] { return port.OutBufferCount() == 0 || !Alive(); },
-                              platform_.loop.Now() + 2 * LineTime(queued) + kSendingExtra);
-  if (!sent) {
+  for (std::size_t queued = port.OutBufferCount(); queued > 0; queued = port.OutBufferCount()) {
+    const bool moved =
+        platform_.loop.RunUntil([&] { return port.OutBufferCount() < queued || !Alive(); },
+                                platform_.loop.Now() + LineTime(queued) + kLongestHold);
+    if (!Alive()) return false;
+    if (moved) continue;
     port.DiscardOutput();
+    torn_ = true;
+    heldOut_ = LinkBusy;
     RxLine.clear();
     Note("Line held, not sent");
+    return false;
   }
-  return sent;
+  return true;
 }
 
 bool Comms::Ask(std::string message) {

@@ -67,6 +67,7 @@ bool Comms::OpenPort(std::int16_t number) {
   port.SetRTSEnable(false);
   port.SetDTREnable(true);
   const PortFault opened = port.SetPortOpen(true);
+  torn_ = false;
   if (opened != PortFault::None) fault_ = {KindOf(opened), number, PortName(number)};
   return opened == PortFault::None;
 }
@@ -117,6 +118,7 @@ void Comms::CloseComs(bool modem) {
 
 void Comms::HangUp() {
   constexpr int kPlusSigns = 3;
+  EndTornMessage();  // ahead of the guard time
   for (int sign = 0; sign < kPlusSigns; ++sign) {
     Delay(sign == 0 ? kGuardMs : kBetweenPlusMs);
     if (!Alive()) return;
@@ -146,7 +148,7 @@ void Comms::PumpEvents() { platform_.loop.PumpEvents(); }
 
 bool Comms::PortOpen() const { return platform_.port.PortOpen(); }
 
-bool Comms::Alive() const { return PortOpen() && !platform_.port.LineLost(); }
+bool Comms::Alive() const { return PortOpen() && !platform_.port.LineLost() && !heldOut_; }
 
 bool Comms::HasInput() const { return platform_.port.InBufferCount() > 0; }
 

@@ -68,6 +68,10 @@ void LineQueue::Schedule() {
     const std::size_t count = std::min(next.find('\r'), next.size() - 1) + 1;
     delay = start_ + LineTime(settled_ + count) - loop_.Now();
   }
+  WakeIn(delay);
+}
+
+void LineQueue::WakeIn(Duration delay) {
   wake_ = loop_.After(delay, name_, [this] { Wake(); });
 }
 
@@ -104,6 +108,14 @@ void LineQueue::Hold(bool hold) {
   Settle();
   hold_ = hold;
   Restart();
+  if (hold && ready_ > 0) WakeIn(Duration::zero());
+}
+
+void LineQueue::Discard() {
+  Settle();
+  octets_.resize(first_ + ready_);
+  Schedule();
+  if (ready_ > 0) WakeIn(Duration::zero());
 }
 
 void LineQueue::Flush() {

@@ -36,6 +36,8 @@ class LineQueue {
   /// Stops the line, like a low CTS, or starts it again; the octet on the line starts anew.
   void Hold(bool hold);
   bool OnHold() const { return hold_; }
+  /// Forgets the octets that have not arrived.
+  void Discard();
   /// Lets everything arrive at once.
   void Flush();
   /// Forgets all octets.
@@ -47,6 +49,7 @@ class LineQueue {
   void Settle();
   void Restart();
   void Schedule();
+  void WakeIn(Duration delay);
   void Wake();
 
   EventLoop& loop_;

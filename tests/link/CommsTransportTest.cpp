@@ -29,14 +29,6 @@ TEST_F(CommsRecorded, PropertiesAreSetInOrder) {
                           "Handshaking 2", "RTSEnable 0", "DTREnable 1", "PortOpen 1"));
 }
 
-TEST_F(CommsRecorded, BlockedLineCostsItsDeadlineAndSendsNothingLate) {
-  OpenPort();
-  recording.stuck = 960;
-  std::string message = "#40";
-  link.TxSer(message, 1000);
-  EXPECT_EQ(loop.Now(), milliseconds(100 + 3 * (2 * 1000 + 500)));
-}
-
 TEST_F(CommsTransport, ScanFindsPortsWithoutDisturbingTheSession) {
   ScriptedDevice other;
   for (const int number : {1, 3, 256, 300}) port.AddDevice(number, "other", "", other);

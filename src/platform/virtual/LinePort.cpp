@@ -179,7 +179,7 @@ std::size_t LinePort::OutBufferCount() const {
 }
 
 void LinePort::DiscardOutput() {
-  if (open_) open_->toDevice.Clear();
+  if (open_) open_->toDevice.Discard();
 }
 
 std::size_t LinePort::Room() const {
