@@ -32,16 +32,25 @@ Duration Comms::SilentFor() const {
   return platform_.loop.Now() - *awaitedSince_;
 }
 
-bool Comms::Fail(LinkFault::Kind kind, int number, std::string text) {
+LinkFault Comms::FaultNow(LinkFault::Kind kind, int number, std::string text) const {
   if (heldOut_) kind = LinkFault::Kind::LineHeld;
   if (platform_.port.LineLost()) kind = LinkFault::Kind::LineLost;
   if (!PortOpen()) kind = LinkFault::Kind::PortClosed;
-  fault_ = {kind, number, std::move(text)};
+  return {kind, number, std::move(text)};
+}
+
+LinkFault Comms::WaitFault(int number) const {
+  return FaultNow(damaged_ ? LinkFault::Kind::BadChecksum : LinkFault::Kind::Silence, number);
+}
+
+bool Comms::Fail(LinkFault::Kind kind, int number, std::string text) {
+  fault_ = FaultNow(kind, number, std::move(text));
   return false;
 }
 
 bool Comms::FailWaiting(int number) {
-  return Fail(damaged_ ? LinkFault::Kind::BadChecksum : LinkFault::Kind::Silence, number);
+  fault_ = WaitFault(number);
+  return false;
 }
 
 void Comms::Note(std::string_view what, std::string_view text) const {

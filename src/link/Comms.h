@@ -107,9 +107,9 @@ class Comms {
   bool SendStatement(std::string_view statement, const std::function<void(int)>& bar);
   /// Asks the logger who it is. Always false; the values stand in the records.
   bool ReadInfo();
-  /// True when the last `ReadInfo` got the stream to its end. A damaged line ends it early, and the
-  /// values behind that line stay as they were.
-  bool InfoComplete() const { return infoComplete_; }
+  /// What the last `ReadInfo` came to: no fault when it got the stream to its end. A damaged line
+  /// ends it early, and the values behind that line stay as they were.
+  const LinkFault& InfoFault() const { return infoFault_; }
   /// Brings the logger's clock into `DeviceClock`, which stays as it was on failure.
   void ReadDeviceRTC();
   /// Sets the logger's clock to the computer's.
@@ -184,7 +184,10 @@ class Comms {
   void AskModem(std::string_view command, int timeout);
   void Note(std::string_view what, std::string_view text = {}) const;
 
-  // Failures; all give false. A closed or lost line is told before anything else.
+  // Failures. A closed, lost or held line is told before anything else.
+  LinkFault FaultNow(LinkFault::Kind kind, int number = 0, std::string text = {}) const;
+  LinkFault WaitFault(int number) const;
+  // These keep the fault and give false.
   bool Fail(LinkFault::Kind kind, int number = 0, std::string text = {});
   bool FailWaiting(int number);
 
@@ -192,6 +195,8 @@ class Comms {
   bool DownloadOnce();
   bool ParseConfLine();
   bool ReadSection(const std::function<void(LineReader&)>& section);
+  /// One attempt; `taken` tells whether the last line that came was good.
+  LinkFault ReadInfoOnce(bool& taken);
   bool ParseInfoLine();
   void ParseClock();
   bool UploadOnce();
@@ -207,7 +212,7 @@ class Comms {
   std::unordered_map<std::string, std::function<void(LineReader&)>> sections_;
   std::vector<WireBlock> blocks_;
   LinkFault fault_;
-  bool infoComplete_ = false;
+  LinkFault infoFault_{.kind = LinkFault::Kind::Silence};
   bool boundFailed_ = false;  ///< a line of this download had an index beyond its array
   std::int16_t RecordExpected_ = 0;
   std::int16_t RecordReceived_ = 0;

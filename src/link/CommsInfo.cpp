@@ -37,18 +37,21 @@ bool Comms::ReadInfo() {
   if (LinkBusy || !PortOpen()) return false;
   const Dialogue dialogue(*this);
   bool taken = false;
-  infoComplete_ = false;
-  for (int attempt = 0; attempt < kAttempts && !taken && Alive(); ++attempt) {
-    RecordExpected_ = 0;
-    Ask("#44");
-    if (!RxLine.starts_with(kStreamHead)) continue;
-    while (RxLine != kStreamHead) {
-      taken = ParseInfoLine();
-      if (!taken || !RxSer(ReplyTimeout)) break;
-    }
-    infoComplete_ = taken && RxLine == kStreamHead;
-  }
+  for (int attempt = 0; attempt < kAttempts && !taken && Alive(); ++attempt)
+    infoFault_ = ReadInfoOnce(taken);
   return false;
+}
+
+LinkFault Comms::ReadInfoOnce(bool& taken) {
+  RecordExpected_ = 0;
+  if (!Ask("#44")) return WaitFault(RecordExpected_);
+  if (RxLine == kStreamHead) return FaultNow(LinkFault::Kind::EmptyStream);
+  while (RxLine != kStreamHead) {
+    taken = ParseInfoLine();
+    if (!taken) return FaultNow(LinkFault::Kind::OutOfSequence, RecordExpected_, RxLine);
+    if (!RxSer(ReplyTimeout)) return WaitFault(RecordExpected_);
+  }
+  return {};
 }
 
 bool Comms::ParseInfoLine() {

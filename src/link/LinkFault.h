@@ -27,7 +27,11 @@ struct LinkFault {
     PortClosed,       ///< the port was closed in the middle
   } kind = Kind::None;
   int number = 0;
-  std::string text;
+  std::string text{};
+
+  /// True when lines came and were not what they should be, or not all came: asking again may help
+  /// at once. A logger that said nothing at all is not damage.
+  bool IsDamage() const;
 };
 
 }  // namespace ostrel

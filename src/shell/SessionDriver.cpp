@@ -66,8 +66,8 @@ bool SessionDriver::Open(std::int16_t port, const std::string& phone) {
 
 bool SessionDriver::CompleteInfo() {
   constexpr int kTries = 2;
-  for (int i = 0; i < kTries && !comms_.InfoComplete(); ++i) comms_.ReadInfo();
-  return comms_.InfoComplete();
+  for (int i = 0; i < kTries && comms_.InfoFault().IsDamage(); ++i) comms_.ReadInfo();
+  return comms_.InfoFault().kind == LinkFault::Kind::None;
 }
 
 void SessionDriver::Close(bool modem) {

@@ -36,7 +36,8 @@ class SessionDriver {
   /// Number of the port that a session was last asked on; 0 before.
   std::int16_t Port() const { return port_; }
   /// Asks for the information again where a damaged line has cut it short: what a firmware can do
-  /// decides how a configuration is read and written. False when it stays unknown.
+  /// decides how a configuration is read and written. A logger that is silent is not asked again:
+  /// the dialogue that follows finds that out by itself. False when it stays unknown.
   bool CompleteInfo();
   /// Closes the session, hanging up when `modem` is set.
   void Close(bool modem);
