@@ -173,6 +173,9 @@ class Comms {
   void TakeWaiting(TakenLine& line, Starts starts);
   /// Swallows stale lines until none comes for `quietMs`. A source that never stops ends it too.
   void Drain(bool (Comms::*receive)(int timeout), int quietMs);
+  /// Ignores what arrives until nothing has arrived for a while.
+  void AwaitQuiet();
+  std::size_t IgnoreWaiting();
   void Put(std::string_view octets);
   void EndTornMessage();
   /// Waits until what was written is on the line, however long that takes as long as it moves. A
@@ -216,6 +219,7 @@ class Comms {
   bool boundFailed_ = false;  ///< a line of this download had an index beyond its array
   std::int16_t RecordExpected_ = 0;
   std::int16_t RecordReceived_ = 0;
+  TimePoint heardAt_{};                    ///< when characters were last taken
   bool opened_ = false;   ///< the open port is ours to close
   bool damaged_ = false;  ///< a bad frame has come since this was last cleared
   bool heldOut_ = false;  ///< flow control has held the line for so long that the dialogue ends

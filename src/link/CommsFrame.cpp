@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <limits>
 #include <utility>
 
@@ -11,6 +12,9 @@ namespace {
 constexpr char kEndOfLine = '\r';
 constexpr int kDrainMs = 100;
 constexpr int kAttempts = 3;
+/// A stream has ended when nothing of it has come for so long, or is not waited for any longer.
+constexpr Duration kQuiet = std::chrono::milliseconds(300);
+constexpr Duration kLongestUnquiet = std::chrono::seconds(10);
 /// Far above the longest answer of any logger.
 constexpr std::size_t kLongestLine = 64 * 1024;
 /// More than any stream has.
@@ -106,6 +110,7 @@ Comms::TakenLine Comms::TakeLine(int timeout, Starts starts) {
 /// countdown has ended while something else held the loop up.
 void Comms::TakeWaiting(TakenLine& line, Starts starts) {
   while (!line.complete && HasInput()) {
+    heardAt_ = platform_.loop.Now();
     for (const char c : platform_.port.Input()) {
       if (line.text.empty()) {
         if (starts(c)) line.text = c;
@@ -123,6 +128,25 @@ void Comms::TakeWaiting(TakenLine& line, Starts starts) {
 void Comms::Drain(bool (Comms::*receive)(int), int quietMs) {
   for (int stale = 0; stale < kMostStaleLines && (this->*receive)(quietMs); ++stale) {
   }
+}
+
+void Comms::AwaitQuiet() {
+  const TimePoint giveUp = platform_.loop.Now() + kLongestUnquiet;
+  std::size_t ignored = IgnoreWaiting();
+  while (platform_.loop.RunUntil([this] { return HasInput() || !Alive(); },
+                                 std::min(heardAt_ + kQuiet, giveUp)) &&
+         Alive() && platform_.loop.Now() < giveUp)
+    ignored += IgnoreWaiting();
+  if (ignored > 0) Note("Rest of a stream ignored, octets: ", std::to_string(ignored));
+}
+
+std::size_t Comms::IgnoreWaiting() {
+  std::size_t ignored = 0;
+  while (HasInput()) {
+    heardAt_ = platform_.loop.Now();
+    ignored += platform_.port.Input().size();
+  }
+  return ignored;
 }
 
 void Comms::Put(std::string_view octets) {

@@ -98,6 +98,32 @@ TEST_F(CommsTransfer, FailedAttemptsStartOver) {
   }
 }
 
+/// The lines are so long that the drain ahead of a request ends within one of them.
+TEST_F(CommsTransfer, TheRestOfAFailedStreamDoesNotMeetTheNextAttempt) {
+  port.SetPaced(true);
+  const auto stream = [](int lines, const std::string& damaged) {
+    std::string octets;
+    for (int n = 0; n < lines; ++n)
+      octets += n == 1 ? damaged
+                       : Frames("#BD0" + std::to_string(n + 100).substr(1) + "NAME," +
+                                std::string(140, 'x'));
+    return octets + Frames("#BD");
+  };
+  logger.Next("#42", stream(30, "#00;BD001NAME,damaged\r"));
+  logger.Always("#42", stream(30, Frames("#BD001NAME,good")));
+  EXPECT_TRUE(comms.ReadConf());
+  EXPECT_EQ(logger.lines.size(), 2U);
+
+  logger.Forget();
+  const std::string endless(96'000, 'x');
+  logger.Next("#42", Frames("#BD000NAME,a", "#BD002NAME,b") + endless);
+  logger.Always("#42", Frames("#BD000NAME,c", "#BD"));
+  const TimePoint start = loop.Now();
+  comms.ReadConf();
+  EXPECT_GE(logger.lines.size(), 2U);
+  EXPECT_LE(loop.Now() - start, std::chrono::seconds(45)) << "a line that is never quiet";
+}
+
 TEST_F(CommsTransfer, IndexOutsideItsArrayEndsTheDownload) {
   for (const std::string index : {"3", "-1", "1e9", "99999999999"}) {
     SCOPED_TRACE(index);
