@@ -170,6 +170,7 @@ class Comms {
 
   // Lines.
   TakenLine TakeLine(int timeout, Starts starts);
+  void NoteLostOctets();
   void TakeWaiting(TakenLine& line, Starts starts);
   /// Swallows stale lines until none comes for `quietMs`. A source that never stops ends it too.
   void Drain(bool (Comms::*receive)(int timeout), int quietMs);
@@ -219,9 +220,10 @@ class Comms {
   bool boundFailed_ = false;  ///< a line of this download had an index beyond its array
   std::int16_t RecordExpected_ = 0;
   std::int16_t RecordReceived_ = 0;
-  TimePoint heardAt_{};                    ///< when characters were last taken
-  bool opened_ = false;   ///< the open port is ours to close
-  bool damaged_ = false;  ///< a bad frame has come since this was last cleared
+  TimePoint heardAt_{};         ///< when characters were last taken
+  std::uint64_t lostTold_ = 0;  ///< lost octets that the trace has been told of
+  bool opened_ = false;         ///< the open port is ours to close
+  bool damaged_ = false;        ///< a bad frame has come since this was last cleared
   bool heldOut_ = false;  ///< flow control has held the line for so long that the dialogue ends
   bool torn_ = false;     ///< the last message may have left in part, without its end
   std::optional<TimePoint> awaitedSince_;  ///< last sign of the logger; none while none is due

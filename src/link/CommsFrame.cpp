@@ -98,12 +98,21 @@ std::string Comms::GetField1(int n) const { return std::string(BracedFieldOfLine
 Comms::TakenLine Comms::TakeLine(int timeout, Starts starts) {
   TakenLine line;
   MainTimer_.Start(timeout);
-  PumpEvents();
+  NoteLostOctets();
+  if (!HasInput()) PumpEvents();  // else what waits comes first, so that the buffer keeps its room
   for (;;) {
     TakeWaiting(line, starts);
     if (line.complete || !MainTimer_.Running() || !Alive()) return line;
     platform_.loop.RunUntil([this] { return HasInput() || !Alive(); }, MainTimer_.Deadline());
   }
+}
+
+/// Tells the trace of octets that came while nobody took any.
+void Comms::NoteLostOctets() {
+  const std::uint64_t lost = platform_.port.LostOctets();
+  if (lost > lostTold_)
+    Note("Receive buffer full, octets lost: ", std::to_string(lost - lostTold_));
+  lostTold_ = lost;
 }
 
 /// Takes the characters that have arrived, up to the end of the line: they count even when the

@@ -7,6 +7,7 @@ namespace ostrel {
 namespace {
 
 constexpr std::size_t kWakeOctets = 16;
+constexpr std::size_t kBurstOctets = 4096;
 
 /// How many octets a line time is enough for: the reverse of `LineTime`.
 std::size_t OctetsIn(Duration span) {
@@ -80,7 +81,7 @@ void LineQueue::Wake() {
   if (paced_) {
     Settle();
   } else {
-    ready_ = Held();
+    ready_ = std::min(Held(), ready_ + kBurstOctets);
   }
   // Scheduled before the call, so that the line moves on in waits within it.
   Schedule();

@@ -31,6 +31,7 @@ class RecordingPort final : public SerialPort {
   void DiscardOutput() override { port_.DiscardOutput(); }
   std::string Input() override { return port_.Input(); }
   std::size_t InBufferCount() const override { return port_.InBufferCount(); }
+  std::uint64_t LostOctets() const override { return port_.LostOctets(); }
   bool CDHolding() const override { return port_.CDHolding(); }
   int CommEvent() const override { return port_.CommEvent(); }
   void SetOnComm(std::function<void()> handler) override { port_.SetOnComm(std::move(handler)); }

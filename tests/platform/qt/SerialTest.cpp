@@ -106,6 +106,18 @@ TEST_F(SerialTest, LargeTransfersPassWhole) {
   EXPECT_EQ(got.size(), text.size() + 5);
 }
 
+TEST_F(SerialTest, WhatNobodyReadsIsBounded) {
+  Start(false);
+  port.SetInBufferSize(8192);
+  ASSERT_EQ(port.SetPortOpen(true), PortFault::None);
+  ASSERT_TRUE(AwaitInUse(true));
+  static_cast<LineEnd&>(*terminal).Send(std::string(100'000, 'x') + "the end");
+  EXPECT_TRUE(Await([&] { return port.LostOctets() + port.InBufferCount() == 100'007; }));
+  EXPECT_EQ(port.InBufferCount(), 8192u);
+  port.SetInputLen(0);
+  EXPECT_TRUE(port.Input().ends_with("xthe end"));
+}
+
 TEST_F(SerialTest, HangUpIsNoticedAtOnceAndDoesNotSpin) {
   Start(false);
   ASSERT_EQ(port.SetPortOpen(true), PortFault::None);
