@@ -1,5 +1,6 @@
 #include "link/Comms.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "link/WireText.h"
@@ -40,6 +41,7 @@ LinkFault Comms::FaultNow(LinkFault::Kind kind, int number, std::string text) co
 }
 
 LinkFault Comms::WaitFault(int number) const {
+  if (platform_.loop.Now() >= limit_) return FaultNow(LinkFault::Kind::OutOfTime, number);
   return FaultNow(damaged_ ? LinkFault::Kind::BadChecksum : LinkFault::Kind::Silence, number);
 }
 
@@ -59,6 +61,18 @@ void Comms::Note(std::string_view what, std::string_view text) const {
   std::string line = std::to_string(platform_.loop.Now() / std::chrono::milliseconds(1));
   if (line.size() < kStampWidth) line.insert(0, kStampWidth - line.size(), ' ');
   Trace(line.append(" ").append(what).append(MaskCode(text)));
+}
+
+Comms::Limit::Limit(Comms& comms, Duration span)
+    : comms_(comms),
+      former_(
+          std::exchange(comms.limit_, std::min(comms.limit_, comms.platform_.loop.Now() + span))) {}
+
+Duration Comms::TimeFor(std::size_t messages) const {
+  constexpr int kAttempts = 3;
+  constexpr Duration kLongestHold = std::chrono::seconds(10);
+  return static_cast<int>(messages) * kAttempts * std::chrono::milliseconds(ReplyTimeout) +
+         kLongestHold;
 }
 
 Comms::Dialogue::Dialogue(Comms& comms)

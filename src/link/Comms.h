@@ -70,7 +70,8 @@ class Comms {
   bool StartComs(std::int16_t port, const std::string& phone);
   /// Closes the port; hangs a data call up first when `modem` is set.
   void CloseComs(bool modem);
-  /// Closes the port at once, without any dialogue: a running wait ends.
+  /// Closes the port at once, without any dialogue: a running wait ends, and with it the dialogue,
+  /// which fails.
   void Abort();
   /// One received character as an octet in a text, or empty after `timeout`.
   std::string GetChar(int timeout);
@@ -156,6 +157,9 @@ class Comms {
     bool tooLong = false;
   };
   using Starts = bool (*)(char c);
+  /// Ends a phase of a dialogue after a span, as silence would. A limit within another one cannot
+  /// outlast it.
+  class Limit;
 
   // Port.
   bool OpenPort(std::int16_t number);
@@ -164,7 +168,11 @@ class Comms {
   void AskAccessCode();
   bool Handshake();
   void HangUp();
-  /// True while characters can come and go, as far as the present dialogue waits for that.
+  /// The longest that a dialogue of some messages may take: as long as asking each in vain, and
+  /// flow control may hold the line once besides.
+  Duration TimeFor(std::size_t messages) const;
+  /// True while characters can come and go, as far and as long as the present dialogue waits for
+  /// that.
   bool Alive() const;
   bool HasInput() const;
 
@@ -172,8 +180,8 @@ class Comms {
   TakenLine TakeLine(int timeout, Starts starts);
   void NoteLostOctets();
   void TakeWaiting(TakenLine& line, Starts starts);
-  /// Swallows stale lines until none comes for `quietMs`. A source that never stops ends it too.
-  void Drain(bool (Comms::*receive)(int timeout), int quietMs);
+  /// Swallows stale lines until none comes for `quietMs`, or for `longest` at the most.
+  void Drain(bool (Comms::*receive)(int timeout), int quietMs, Duration longest);
   /// Ignores what arrives until nothing has arrived for a while.
   void AwaitQuiet();
   std::size_t IgnoreWaiting();
@@ -183,6 +191,7 @@ class Comms {
   /// line that flow control holds for too long is given up: the rest is discarded, so that it never
   /// reaches a logger late, and the result is false.
   bool AwaitSent();
+  void GiveUpSending(bool held);
   /// Sends a message and awaits the answer; false when there is none.
   bool Ask(std::string message);
   void AskModem(std::string_view command, int timeout);
@@ -221,12 +230,25 @@ class Comms {
   std::int16_t RecordExpected_ = 0;
   std::int16_t RecordReceived_ = 0;
   TimePoint heardAt_{};         ///< when characters were last taken
+  TimePoint limit_ = kNever;    ///< when the present phase ends at the latest
   std::uint64_t lostTold_ = 0;  ///< lost octets that the trace has been told of
   bool opened_ = false;         ///< the open port is ours to close
   bool damaged_ = false;        ///< a bad frame has come since this was last cleared
   bool heldOut_ = false;  ///< flow control has held the line for so long that the dialogue ends
   bool torn_ = false;     ///< the last message may have left in part, without its end
   std::optional<TimePoint> awaitedSince_;  ///< last sign of the logger; none while none is due
+};
+
+class Comms::Limit {
+ public:
+  Limit(Comms& comms, Duration span);
+  ~Limit() { comms_.limit_ = former_; }
+  Limit(const Limit&) = delete;
+  Limit& operator=(const Limit&) = delete;
+
+ private:
+  Comms& comms_;
+  TimePoint former_;
 };
 
 class Comms::Dialogue {

@@ -17,8 +17,8 @@ constexpr Duration kQuiet = std::chrono::milliseconds(300);
 constexpr Duration kLongestUnquiet = std::chrono::seconds(10);
 /// Far above the longest answer of any logger.
 constexpr std::size_t kLongestLine = 64 * 1024;
-/// More than any stream has.
-constexpr int kMostStaleLines = 2000;
+/// How long a source that never stops is listened to ahead of a message.
+constexpr Duration kLongestDrain = std::chrono::seconds(10);
 /// A line on which nothing has moved for so long is given up. Longer than any wait for a reply, so
 /// that a busy logger or modem may hold the line as long as it may think.
 constexpr Duration kLongestHold = std::chrono::seconds(10);
@@ -44,7 +44,7 @@ void Comms::TxSer(std::string& message, int timeout) {
     Note("TxSer: ", plain);
   };
   if (timeout <= 0) return send();
-  Drain(&Comms::RxSer, kDrainMs);
+  Drain(&Comms::RxSer, kDrainMs, kLongestDrain);
   damaged_ = false;
   for (int attempt = 0; attempt < kAttempts && Alive(); ++attempt) {
     send();
@@ -71,7 +71,7 @@ bool Comms::RxSer(int timeout) {
 
 void Comms::TxGsm(std::string_view command, int timeout) {
   if (!PortOpen()) return;
-  Drain(&Comms::RxGsm, kDrainMs);
+  Drain(&Comms::RxGsm, kDrainMs, kLongestDrain);
   for (int attempt = 0; attempt < kAttempts && Alive(); ++attempt) {
     Put(ToCodePage(command) + kEndOfLine);
     Note("TxGsm: ", command);
@@ -103,7 +103,8 @@ Comms::TakenLine Comms::TakeLine(int timeout, Starts starts) {
   for (;;) {
     TakeWaiting(line, starts);
     if (line.complete || !MainTimer_.Running() || !Alive()) return line;
-    platform_.loop.RunUntil([this] { return HasInput() || !Alive(); }, MainTimer_.Deadline());
+    platform_.loop.RunUntil([this] { return HasInput() || !Alive(); },
+                            std::min(MainTimer_.Deadline(), limit_));
   }
 }
 
@@ -134,8 +135,9 @@ void Comms::TakeWaiting(TakenLine& line, Starts starts) {
   }
 }
 
-void Comms::Drain(bool (Comms::*receive)(int), int quietMs) {
-  for (int stale = 0; stale < kMostStaleLines && (this->*receive)(quietMs); ++stale) {
+void Comms::Drain(bool (Comms::*receive)(int), int quietMs, Duration longest) {
+  const Limit limit(*this, longest);
+  while ((this->*receive)(quietMs) && Alive()) {
   }
 }
 
@@ -172,19 +174,23 @@ void Comms::EndTornMessage() {
 bool Comms::AwaitSent() {
   SerialPort& port = platform_.port;
   for (std::size_t queued = port.OutBufferCount(); queued > 0; queued = port.OutBufferCount()) {
-    const bool moved =
-        platform_.loop.RunUntil([&] { return port.OutBufferCount() < queued || !Alive(); },
-                                platform_.loop.Now() + LineTime(queued) + kLongestHold);
-    if (!Alive()) return false;
-    if (moved) continue;
-    port.DiscardOutput();
-    torn_ = true;
-    heldOut_ = LinkBusy;
-    RxLine.clear();
-    Note("Line held, not sent");
+    const TimePoint giveUp = platform_.loop.Now() + LineTime(queued) + kLongestHold;
+    const bool moved = platform_.loop.RunUntil(
+        [&] { return port.OutBufferCount() < queued || !Alive(); }, std::min(giveUp, limit_));
+    if (moved && Alive()) continue;
+    GiveUpSending(!moved);
     return false;
   }
   return true;
+}
+
+/// What is left must not reach the logger late.
+void Comms::GiveUpSending(bool held) {
+  platform_.port.DiscardOutput();
+  torn_ = true;
+  heldOut_ = held && LinkBusy;
+  RxLine.clear();
+  Note("Not sent to its end");
 }
 
 bool Comms::Ask(std::string message) {

@@ -36,6 +36,7 @@ constexpr std::array<InfoValue, 7> kInfoValues{{
 bool Comms::ReadInfo() {
   if (LinkBusy || !PortOpen()) return false;
   const Dialogue dialogue(*this);
+  const Limit limit(*this, TimeFor(kAttempts));
   bool taken = false;
   for (int attempt = 0; attempt < kAttempts && !taken && Alive(); ++attempt)
     infoFault_ = ReadInfoOnce(taken);
@@ -69,6 +70,7 @@ bool Comms::ParseInfoLine() {
 void Comms::ReadDeviceRTC() {
   if (LinkBusy) return;
   const Dialogue dialogue(*this);
+  const Limit limit(*this, TimeFor(kAttempts));
   for (int attempt = 0; attempt < kAttempts && Alive(); ++attempt) {
     Ask("#5D");
     if (!RxLine.starts_with(kClockHead)) continue;
@@ -100,6 +102,7 @@ bool Comms::Confirm(std::string message, std::string_view answer) {
   if (LinkBusy) return false;
   fault_ = {};
   const Dialogue dialogue(*this);
+  const Limit limit(*this, TimeFor(1));
   if (!Ask(std::move(message))) return FailWaiting(0);
   return RxLine == answer || Fail(LinkFault::Kind::NotTakenOver, 0, RxLine);
 }

@@ -22,6 +22,7 @@ struct LinkFault {
     IndexOutOfRange,  ///< `number` is the record, `text` the line
     Refused,          ///< `number` is the statement last sent, `text` its text
     NotTakenOver,     ///< wrong answer to a closing message or a setting; `text` is the answer
+    OutOfTime,        ///< the dialogue came to no end in its time; `number` as for Silence
     LineHeld,         ///< flow control held the line for too long; `number` as for Silence
     LineLost,         ///< the port's device has gone
     PortClosed,       ///< the port was closed in the middle

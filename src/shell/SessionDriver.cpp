@@ -60,6 +60,8 @@ bool SessionDriver::Open(std::int16_t port, const std::string& phone) {
       "", context_.Translate("Detectando ") + context_.profile.TargetName + "...");
   Connected_ = comms_.StartComs(port, phone);
   if (Connected_) ReadAfterConnect();
+  // Whoever breaks the opening off closes the port.
+  Connected_ = comms_.PortOpen();
   ShowState();
   return Connected_;
 }
@@ -81,7 +83,7 @@ void SessionDriver::ReadAfterConnect() {
   comms_.ReadTotalCount();
   comms_.ReadIOParameter();
   comms_.ReadDeviceRTC();
-  CompareClocks();
+  if (comms_.PortOpen()) CompareClocks();
 }
 
 void SessionDriver::CompareClocks() {

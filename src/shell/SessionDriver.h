@@ -32,6 +32,7 @@ class SessionDriver {
   /// that the outer tick runs must not be disturbed.
   void Tick();
   /// Opens a session on a port, through a modem when there is a phone number. True when it stands.
+  /// `Comms::Abort` breaks it off at any point.
   bool Open(std::int16_t port, const std::string& phone);
   /// Number of the port that a session was last asked on; 0 before.
   std::int16_t Port() const { return port_; }

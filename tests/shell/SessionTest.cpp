@@ -205,6 +205,24 @@ TEST_F(Session, ASilentLoggerCostsNineWaits) {
   }
 }
 
+/// Breaking off closes the port: whatever the session is doing then, it ends in the idle state and
+/// asks nothing.
+TEST_F(Session, AnOpeningIsBrokenOffAtAnyPoint) {
+  const std::vector<std::string> phases = {"#40", "#44", "#20", "#26", "#5D"};
+  for (const std::string& phase : phases) {
+    SCOPED_TRACE(phase);
+    world.logger->OnExchange([&](const sim::Exchange& e) {
+      if (e.request == phase) program.comms.Abort();
+    });
+    Click("IniCom");
+    world.loop.RunFor(seconds(1));
+    EXPECT_EQ(Status(), "Comunicacion no iniciada");
+    EXPECT_FALSE(program.Connected || world.port.PortOpen() || frame.Leer.face.Enabled());
+    EXPECT_EQ(program.general.GetForm().MousePointer(), Pointer::Default);
+    EXPECT_TRUE(world.dialogs.boxes.empty());
+  }
+}
+
 /// While a download replaces the model, moving between pages must not write the emptied controls
 /// into it.
 TEST_F(Session, MovingAboutDuringADownloadCommitsNothing) {

@@ -8,10 +8,7 @@
 
 #include <QSerialPortInfo>
 #include <algorithm>
-#include <array>
 #include <cerrno>
-#include <charconv>
-#include <limits>
 #include <map>
 
 #include "platform/Time.h"

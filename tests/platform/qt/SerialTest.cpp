@@ -46,6 +46,7 @@ class SerialTest : public testing::Test {
     map = PortMap({{200, terminal->SlavePath()}});
     port.SetCommPort(200);
     port.SetSettings("9600,N,8,1");
+    port.SetInBufferSize(8192);
     port.SetHandshaking(PortHandshaking::RtsCts);
     port.SetRTSEnable(false);
     port.SetDTREnable(true);
@@ -108,7 +109,6 @@ TEST_F(SerialTest, LargeTransfersPassWhole) {
 
 TEST_F(SerialTest, WhatNobodyReadsIsBounded) {
   Start(false);
-  port.SetInBufferSize(8192);
   ASSERT_EQ(port.SetPortOpen(true), PortFault::None);
   ASSERT_TRUE(AwaitInUse(true));
   static_cast<LineEnd&>(*terminal).Send(std::string(100'000, 'x') + "the end");
