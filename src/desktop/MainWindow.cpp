@@ -136,13 +136,11 @@ void MainWindow::ShowFront() {
 }
 
 void MainWindow::Look() {
-  const auto now = parts_.platform.loop.Now();
   const LinkState state = LinkStateOf(configurator_);
   link_->ShowState(state);
   const SessionFrame& session = configurator_.general.Session();
   Rest(configurator_.session.Running() != TransferKind::None || session.ReadRequest ||
        session.WriteRequest);
-  transfer_.Look(now);
   ShowTransfer();
   ShowFault();
   if (looks_++ % kLooksPerSecond == 0) ShowTitle();
