@@ -40,6 +40,7 @@ class Session : public testing::Test {
 TEST_F(Session, OpensReadsAndCloses) {
   EXPECT_EQ(Status(), "Comunicacion no iniciada");
   EXPECT_FALSE(frame.Leer.face.Enabled());
+  frame.CallNum.SetText("600111222");  // without the modem it is not called
   Click("IniCom");
   EXPECT_EQ(program.general.GetForm().MousePointer(), Pointer::Hourglass);
   std::vector<std::string> texts;
@@ -295,6 +296,15 @@ TEST_F(ModemSession, DialsAsksTheCodeAndHangsUp) {
   world.loop.RunFor(seconds(10));
   EXPECT_FALSE(program.Connected);
   EXPECT_EQ(requests.back(), "ATH");
+
+  world.dialogs.OnModal(Type("4321"));
+  Click("IniCom");
+  world.loop.RunFor(seconds(60));
+  ASSERT_TRUE(program.Connected);
+  const TimePoint start = world.loop.Now();
+  program.ShutDown();
+  EXPECT_EQ(world.loop.Now(), start) << "the end of the program hangs nothing up politely";
+  EXPECT_FALSE(world.port.PortOpen());
 }
 
 TEST_F(ModemSession, CancellingTheCodeThreeTimesFailsTheHandshake) {
