@@ -50,7 +50,6 @@ void Comms::ScanPorts() {
 }
 
 LinkResult Comms::StartComs(std::int16_t port, const std::string& phone) {
-  infoFault_ = {LinkFault::Kind::Silence};
   const LinkResult result = Keep(Opening(line_, AccessCode, hooks_.showPWForm).Run(port, phone));
   opened_ = result;
   // A flag left behind by whatever ran before must not block the session.

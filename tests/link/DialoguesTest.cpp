@@ -76,6 +76,8 @@ TEST_F(EveryDialogue, IsTurnedAwayByABusyLinkOrAClosedPort) {
     EXPECT_TRUE(comms.LinkBusy);
   }
   comms.ReadInfo();
+  EXPECT_EQ(comms.Fault().kind, Kind::None) << "what runs keeps its own fault";
+  EXPECT_EQ(comms.InfoFault().kind, Kind::Silence);
   EXPECT_EQ(logger.raw, "");
   comms.LinkBusy = false;
   port.SetPortOpen(false);

@@ -81,7 +81,7 @@ TEST_F(OpeningTest, ModemPath) {
       {ok, ok, con, {"", "9", "1234"}, {ifc, "ATD6", "#119", "#111234", "#40"}, Kind::None, 3},
       {ok, ok, con, {}, {ifc, "ATD6", "#40"}, Kind::None, 3},
       {"NOT OK\r", ok, con, {}, {}, Kind::NoModem, 0},
-      {ok, ok, "BUSY\r", {}, {ifc, "ATD6"}, Kind::NoConnect, 0},
+      {ok, ok, "CONNEXION\r", {}, {ifc, "ATD6"}, Kind::NoConnect, 0},
       {ok, ok, "NO CONNECT\r", {}, {ifc, "ATD6"}, Kind::NoConnect, 0},
   };
   logger.Always("#119", Frames("#PassWord=10"));

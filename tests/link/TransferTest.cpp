@@ -35,7 +35,8 @@ TEST_F(TransferTest, DownloadReadsEveryRecord) {
   std::string stream = Frames("#BD000NAME,Pozo \xE9 {x", "#BD001FUTURE,1", "#BD002CELL,2,77");
   for (int record = 3; record < 310; ++record) {
     const std::string number = std::to_string(record);
-    stream += Frames("#BD" + std::string(3 - number.size(), '0') + number + "CELL,0," + number);
+    stream += Frames("#BD" + std::string(3 - number.size(), '0') + number + "CELL,0," + number +
+                     std::string(50, ' '));  // far more than the receive buffer holds
   }
   logger.Always("#42", stream + Frames("#BD"));
   bool comBusy = false;
@@ -310,6 +311,14 @@ TEST_F(HeldLine, ALineHeldForGoodIsGivenUpAndHalfAMessageHarmsNoLaterOne) {
     ASSERT_EQ(logger.lines.size(), 6U);
     EXPECT_EQ(logger.lines[1], "#45000ID=Pozo") << "the first of the next upload is whole";
   }
+  At(milliseconds(5), [this] { port.HoldOutput(kPort, true); });
+  EXPECT_FALSE(comms.WriteConf());
+  port.HoldOutput(kPort, false);
+  logger.raw.clear();
+  At(milliseconds(900), [this] { EXPECT_EQ(logger.raw, "\r"); });
+  comms.CloseComs(true);
+  EXPECT_EQ(logger.raw, "\r+++ATH\rATH\rATH\r<down>")
+      << "what was torn ends ahead of the guard time";
 }
 
 }  // namespace
