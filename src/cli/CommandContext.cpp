@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <charconv>
 
+#include "host/Folders.h"
 #include "host/LangSeed.h"
 #include "host/SimulatedLoggers.h"
 
@@ -41,7 +42,7 @@ CommandContext::CommandContext(Environment& world, GlobalOptions shared)
       console(world.out, world.err, options.quiet),
       dialogs(world, console, options),
       platform(world.platform.With(dialogs)),
-      langFile_(SeedLang(platform.files, world.shippedLang, world.dataFolder + "/Lang.txt")),
+      langFile_(SeedLang(platform.files, world.shippedLang, LangIn(world.dataFolder))),
       lang_(platform.files, langFile_) {
   lang_.Init();
   lang_.SetSelectedLang(options.lang);

@@ -4,10 +4,11 @@
 #include <QCursor>
 #include <QPixmap>
 #include <algorithm>
+#include <optional>
 
-#include "desktop/Demo.h"
 #include "desktop/Desktop.h"
 #include "desktop/Words.h"
+#include "host/SimulatedLoggers.h"
 #include "platform/qt/QtEventLoop.h"
 #include "platform/qt/QtFiles.h"
 #include "platform/virtual/VirtualClock.h"
@@ -80,10 +81,11 @@ std::string TakeScreenshot(const CommandLine& line, const std::string& langFile)
   VirtualClock clock;
   VirtualDialogs dialogs;
   VirtualProcesses processes;
-  LinePort port(loop);
-  if (line.demo) AddDemoLoggers(port, loop, clock);
+  LinePort noPort(loop);
+  std::optional<SimulatedLoggers> simulated;
+  if (line.demo) simulated.emplace(loop, clock);
   Desktop desktop({.loop = loop,
-                   .port = port,
+                   .port = simulated ? simulated->Port() : noPort,
                    .settings = settings,
                    .dialogs = dialogs,
                    .files = files,

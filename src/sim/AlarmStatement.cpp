@@ -29,7 +29,7 @@ Alarm& ReadIndex(StatementCursor& in, std::span<Alarm> row) {
   return row[static_cast<std::size_t>(in.Whole(0, static_cast<int>(row.size()) - 1))];
 }
 
-float ReadNumber(StatementCursor& in, std::string_view token) {
+float ReadDecimal(StatementCursor& in, std::string_view token) {
   in.Expect(token);
   return in.Decimal();
 }
@@ -59,8 +59,8 @@ void ReadContactAlarm(StatementCursor& in, std::span<Alarm> row) {
   Alarm alarm;
   alarm.text = ReadText(in);
   Alarm& held = ReadIndex(in, row);
-  alarm.persistence = ReadNumber(in, ",PC=");
-  alarm.rearm = ReadNumber(in, ",PO=");
+  alarm.persistence = ReadDecimal(in, ",PC=");
+  alarm.rearm = ReadDecimal(in, ",PO=");
   ReadNotification(in, alarm);
   ReadRange(in, alarm);
   alarm.flag = ReadFlag(in);
@@ -74,10 +74,10 @@ void ReadLevelAlarm(StatementCursor& in, std::span<Alarm> row, Persistence persi
   Alarm alarm;
   alarm.text = ReadText(in);
   Alarm& held = ReadIndex(in, row);
-  alarm.maximum = ReadNumber(in, ",MAX=");
-  alarm.minimum = ReadNumber(in, ",MIN=");
-  alarm.hysteresis = ReadNumber(in, ",HIST=");
-  alarm.persistence = persistence == Persistence::Told ? ReadNumber(in, ",P=") : held.persistence;
+  alarm.maximum = ReadDecimal(in, ",MAX=");
+  alarm.minimum = ReadDecimal(in, ",MIN=");
+  alarm.hysteresis = ReadDecimal(in, ",HIST=");
+  alarm.persistence = persistence == Persistence::Told ? ReadDecimal(in, ",P=") : held.persistence;
   ReadNotification(in, alarm);
   ReadRange(in, alarm);
   alarm.flag = ReadFlag(in);

@@ -11,7 +11,7 @@
 namespace ostrel::sim {
 namespace {
 
-constexpr std::string_view kHexDigits = "0123456789abcdef";
+constexpr std::string_view kLowerHexDigits = "0123456789abcdef";
 
 bool IsEscaped(char c) { return c == '\\' || static_cast<unsigned char>(c) < 0x20; }
 
@@ -20,7 +20,7 @@ std::string Escape(std::string_view octets) {
   std::string text;
   for (const char c : octets) {
     if (IsEscaped(c))
-      text.append({'\\', kHexDigits[static_cast<std::size_t>(c) >> 4], kHexDigits[c & 15]});
+      text.append({'\\', kLowerHexDigits[static_cast<std::size_t>(c) >> 4], kLowerHexDigits[c & 15]});
     else
       text += c;
   }
@@ -35,8 +35,8 @@ std::optional<std::string> Unescape(std::string_view text) {
       continue;
     }
     if (i + 2 >= text.size()) return std::nullopt;
-    const std::size_t high = kHexDigits.find(text[i + 1]);
-    const std::size_t low = kHexDigits.find(text[i + 2]);
+    const std::size_t high = kLowerHexDigits.find(text[i + 1]);
+    const std::size_t low = kLowerHexDigits.find(text[i + 2]);
     if (high >= 8 || low >= 16) return std::nullopt;
     octets += static_cast<char>(high * 16 + low);
     i += 2;

@@ -5,7 +5,6 @@
 
 #include "base/Help.h"
 #include "controls/Form.h"
-#include "desktop/Demo.h"
 #include "desktop/FaultText.h"
 #include "desktop/HelpProcesses.h"
 #include "desktop/Language.h"
@@ -144,18 +143,6 @@ TEST_F(Ports, KeepAnotherChoiceWhenTheFormerOneComesBack) {
   port.Restore(3);
   watch.Refresh();
   EXPECT_EQ(list.Text(), "COM5");
-}
-
-TEST_F(Ports, OfTheDemonstrationAreTheSixLoggers) {
-  AddDemoLoggers(port, loop, VirtualClock());
-  std::vector<int> numbers;
-  for (const PortEntry& entry : port.Entries()) numbers.push_back(entry.number);
-  EXPECT_THAT(numbers, ElementsAre(251, 252, 253, 254, 255, 256));
-  port.SetCommPort(255);
-  ASSERT_EQ(port.SetPortOpen(true), PortFault::None);
-  port.Output("#64;40\r");
-  loop.RunFor(seconds(1));
-  EXPECT_NE(port.Input().find("Tavro BP"), std::string::npos);
 }
 
 }  // namespace

@@ -1,74 +1,43 @@
 #include <QApplication>
 #include <QDesktopServices>
-#include <QStandardPaths>
 #include <QUrl>
 #include <exception>
 #include <iostream>
 
 #include "desktop/CommandLine.h"
-#include "desktop/Demo.h"
 #include "desktop/Desktop.h"
 #include "desktop/HelpProcesses.h"
 #include "desktop/Icons.h"
 #include "desktop/QtDialogs.h"
 #include "desktop/Screenshot.h"
 #include "desktop/Words.h"
+#include "host/Folders.h"
 #include "host/LangSeed.h"
-#include "platform/qt/PortMap.h"
-#include "platform/qt/QtClock.h"
-#include "platform/qt/QtEventLoop.h"
-#include "platform/qt/QtFiles.h"
+#include "host/Machine.h"
 #include "platform/qt/QtProcesses.h"
-#include "platform/qt/QtSerialPort.h"
-#include "platform/qt/QtSettings.h"
-#include "platform/virtual/PortSwitch.h"
 
 namespace {
 
 using namespace ostrel;
-
-std::string ShippedFolder() {
-  return FromQt(QCoreApplication::applicationDirPath()) + "/../share/ostrel-configurator";
-}
-
-std::string UserDataFolder() {
-  return FromQt(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation)) +
-         "/ostrel-configurator";
-}
 
 bool ShowDocument(const std::string& path) {
   return QDesktopServices::openUrl(QUrl::fromLocalFile(ToQt(path)));
 }
 
 int RunWindow(const CommandLine& line) {
-  QtEventLoop loop;
-  QtSettings settings;
-  QtFiles files;
+  Machine machine;
+  if (line.demo) machine.AddSimulatedLoggers().Port().SetPaced(true);
   QtProcesses realProcesses(ShowDocument);
   QtDialogs dialogs;
   HelpProcesses processes(realProcesses, dialogs);
-  QtClock clock;
-  const PortMap map = PortMap::FromSettings(settings);
-  QtSerialPort serialPort(loop, map);
-  LinePort demoPort(loop);
-  if (line.demo) AddDemoLoggers(demoPort, loop, clock);
-  PortSwitch ports;
-  ports.AddRange(kFirstPort, kFirstDemoPort - 1, serialPort);
-  ports.AddRange(kFirstDemoPort, kLastDemoPort, demoPort);
-  files.MakeFolder(UserDataFolder());
+  machine.files.MakeFolder(UserDataFolder());
   const std::string langFile =
-      SeedLang(files, ShippedFolder() + "/Lang.txt", UserDataFolder() + "/Lang.txt");
-  Desktop desktop({.loop = loop,
-                   .port = ports,
-                   .settings = settings,
-                   .dialogs = dialogs,
-                   .files = files,
-                   .processes = processes,
-                   .clock = clock},
+      SeedLang(machine.files, LangIn(ShippedFolder()), LangIn(UserDataFolder()));
+  Desktop desktop(machine.With(dialogs, processes),
                   {.programFolder = ShippedFolder(), .langFile = langFile, .ticking = true},
                   UserDataFolder());
   dialogs.StandBefore(desktop.Window());
-  loop.SetFaultHandler([&](std::exception_ptr fault) { desktop.ShowFault(fault); });
+  machine.loop.SetFaultHandler([&](std::exception_ptr fault) { desktop.ShowFault(fault); });
   desktop.Start(line.file);
   desktop.Window().show();
   return QApplication::exec();
@@ -83,7 +52,7 @@ int Run(int argc, char** argv) {
   const CommandLine line = ReadCommandLine(QApplication::arguments());
   ApplyScheme(line.scheme);
   if (line.screenshot.empty()) return RunWindow(line);
-  const std::string wrong = TakeScreenshot(line, ShippedFolder() + "/Lang.txt");
+  const std::string wrong = TakeScreenshot(line, LangIn(ShippedFolder()));
   if (wrong.empty()) return 0;
   std::cerr << "ostrel-configurator: " << wrong << std::endl;
   return 1;

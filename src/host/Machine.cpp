@@ -1,0 +1,25 @@
+#include "host/Machine.h"
+
+namespace ostrel {
+
+Machine::Machine() : map_(PortMap::FromSettings(settings_)), serialPort_(loop, map_) {
+  ports_.AddRange(kFirstPort, kFirstSimulatedPort - 1, serialPort_);
+}
+
+SimulatedLoggers& Machine::AddSimulatedLoggers() {
+  simulated_ = std::make_unique<SimulatedLoggers>(loop, clock);
+  ports_.AddRange(kFirstSimulatedPort, kLastPort, simulated_->Port());
+  return *simulated_;
+}
+
+Platform Machine::With(Dialogs& dialogs, Processes& processes) {
+  return {.loop = loop,
+          .port = ports_,
+          .settings = settings_,
+          .dialogs = dialogs,
+          .files = files,
+          .processes = processes,
+          .clock = clock};
+}
+
+}  // namespace ostrel
