@@ -11,6 +11,7 @@
 #include "desktop/PortWatch.h"
 #include "desktop/QtDialogs.h"
 #include "desktop/Words.h"
+#include "platform/virtual/LinePort.h"
 #include "platform/virtual/VirtualClock.h"
 #include "platform/virtual/VirtualDialogs.h"
 #include "platform/virtual/VirtualLoop.h"

@@ -184,8 +184,8 @@ TEST_F(SerialTest, ACarrierChangeWakesTheLoopAndNothingElseDoes) {
       loop, CarrierLine{[&carrier] { return std::optional(carrier); }, await},
       [&seen](std::optional<bool> now) { seen.push_back(now.value_or(false)); });
   int looks = 0;
-  loop.RunUntil([&] { return ++looks < 0; }, loop.Now() + milliseconds(300));
-  EXPECT_LE(looks, 3);
+  loop.RunUntil([&] { return ++looks < 0; }, loop.Now() + seconds(1));
+  EXPECT_LE(looks, 6) << "a look each 100 ms would be ten";
   carrier = false;
   const TimePoint start = loop.Now();
   ASSERT_EQ(::write(ends[1], "x", 1), 1);
