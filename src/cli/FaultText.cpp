@@ -64,6 +64,11 @@ std::string FaultText(const LinkFault& fault, std::string_view port, Transfer tr
       return fault.text.empty()
                  ? "the logger did not say that it took the configuration over"
                  : "the logger did not take the configuration over: " + Quote(fault.text);
+    case Kind::OutOfTime:
+      return "the logger came to no end" + Place(fault, transfer);
+    case Kind::LineHeld:
+      return "the line at " + name + " was held" + Place(fault, transfer) +
+             ": check that the logger is switched on and that the cable has RTS and CTS";
     case Kind::LineLost:
       return name + " has gone in the middle of the dialogue";
     case Kind::PortClosed:

@@ -51,6 +51,12 @@ QString FaultWords(const LinkFault& fault, const QString& device) {
                  "The logger did not take the configuration over. It keeps the former one. %1")
           .arg(text)
           .trimmed();
+    case Kind::OutOfTime:
+      return Words::tr("The logger talks without coming to an end.");
+    case Kind::LineHeld:
+      return Words::
+          tr("The line at %1 is held. Is the logger switched on, and has the cable RTS and CTS?")
+              .arg(device);
     case Kind::LineLost:
       return Words::tr("%1 has gone. Was the adapter unplugged?").arg(device);
     case Kind::PortClosed:

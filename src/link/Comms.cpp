@@ -1,5 +1,6 @@
 #include "link/Comms.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "link/WireText.h"
@@ -32,15 +33,26 @@ Duration Comms::SilentFor() const {
   return platform_.loop.Now() - *awaitedSince_;
 }
 
-bool Comms::Fail(LinkFault::Kind kind, int number, std::string text) {
+LinkFault Comms::FaultNow(LinkFault::Kind kind, int number, std::string text) const {
+  if (heldOut_) kind = LinkFault::Kind::LineHeld;
   if (platform_.port.LineLost()) kind = LinkFault::Kind::LineLost;
   if (!PortOpen()) kind = LinkFault::Kind::PortClosed;
-  fault_ = {kind, number, std::move(text)};
+  return {kind, number, std::move(text)};
+}
+
+LinkFault Comms::WaitFault(int number) const {
+  if (platform_.loop.Now() >= limit_) return FaultNow(LinkFault::Kind::OutOfTime, number);
+  return FaultNow(damaged_ ? LinkFault::Kind::BadChecksum : LinkFault::Kind::Silence, number);
+}
+
+bool Comms::Fail(LinkFault::Kind kind, int number, std::string text) {
+  fault_ = FaultNow(kind, number, std::move(text));
   return false;
 }
 
 bool Comms::FailWaiting(int number) {
-  return Fail(damaged_ ? LinkFault::Kind::BadChecksum : LinkFault::Kind::Silence, number);
+  fault_ = WaitFault(number);
+  return false;
 }
 
 void Comms::Note(std::string_view what, std::string_view text) const {
@@ -51,10 +63,28 @@ void Comms::Note(std::string_view what, std::string_view text) const {
   Trace(line.append(" ").append(what).append(MaskCode(text)));
 }
 
+Comms::Limit::Limit(Comms& comms, Duration span)
+    : comms_(comms),
+      former_(
+          std::exchange(comms.limit_, std::min(comms.limit_, comms.platform_.loop.Now() + span))) {}
+
+Duration Comms::TimeFor(std::size_t messages) const {
+  constexpr int kAttempts = 3;
+  constexpr Duration kLongestHold = std::chrono::seconds(10);
+  return static_cast<int>(messages) * kAttempts * std::chrono::milliseconds(ReplyTimeout) +
+         kLongestHold;
+}
+
 Comms::Dialogue::Dialogue(Comms& comms)
     : comms_(comms), wasBusy_(comms.LinkBusy), wasOpen_(comms.PortOpen()) {
   comms.LinkBusy = true;
+  comms.heldOut_ = false;
   comms.awaitedSince_ = comms.platform_.loop.Now();
+}
+
+Comms::Dialogue::~Dialogue() {
+  comms_.LinkBusy = wasBusy_;
+  comms_.heldOut_ = false;
 }
 
 }  // namespace ostrel

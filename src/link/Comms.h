@@ -70,7 +70,8 @@ class Comms {
   bool StartComs(std::int16_t port, const std::string& phone);
   /// Closes the port; hangs a data call up first when `modem` is set.
   void CloseComs(bool modem);
-  /// Closes the port at once, without any dialogue: a running wait ends.
+  /// Closes the port at once, without any dialogue: a running wait ends, and with it the dialogue,
+  /// which fails.
   void Abort();
   /// One received character as an octet in a text, or empty after `timeout`.
   std::string GetChar(int timeout);
@@ -107,9 +108,9 @@ class Comms {
   bool SendStatement(std::string_view statement, const std::function<void(int)>& bar);
   /// Asks the logger who it is. Always false; the values stand in the records.
   bool ReadInfo();
-  /// True when the last `ReadInfo` got the stream to its end. A damaged line ends it early, and the
-  /// values behind that line stay as they were.
-  bool InfoComplete() const { return infoComplete_; }
+  /// What the last `ReadInfo` came to: no fault when it got the stream to its end. A damaged line
+  /// ends it early, and the values behind that line stay as they were.
+  const LinkFault& InfoFault() const { return infoFault_; }
   /// Brings the logger's clock into `DeviceClock`, which stays as it was on failure.
   void ReadDeviceRTC();
   /// Sets the logger's clock to the computer's.
@@ -156,6 +157,9 @@ class Comms {
     bool tooLong = false;
   };
   using Starts = bool (*)(char c);
+  /// Ends a phase of a dialogue after a span, as silence would. A limit within another one cannot
+  /// outlast it.
+  class Limit;
 
   // Port.
   bool OpenPort(std::int16_t number);
@@ -164,25 +168,39 @@ class Comms {
   void AskAccessCode();
   bool Handshake();
   void HangUp();
-  /// True while characters can come and go.
+  /// The longest that a dialogue of some messages may take: as long as asking each in vain, and
+  /// flow control may hold the line once besides.
+  Duration TimeFor(std::size_t messages) const;
+  /// True while characters can come and go, as far and as long as the present dialogue waits for
+  /// that.
   bool Alive() const;
   bool HasInput() const;
 
   // Lines.
   TakenLine TakeLine(int timeout, Starts starts);
+  void NoteLostOctets();
   void TakeWaiting(TakenLine& line, Starts starts);
-  /// Swallows stale lines until none comes for `quietMs`. A source that never stops ends it too.
-  void Drain(bool (Comms::*receive)(int timeout), int quietMs);
+  /// Swallows stale lines until none comes for `quietMs`, or for `longest` at the most.
+  void Drain(bool (Comms::*receive)(int timeout), int quietMs, Duration longest);
+  /// Ignores what arrives until nothing has arrived for a while.
+  void AwaitQuiet();
+  std::size_t IgnoreWaiting();
   void Put(std::string_view octets);
-  /// Waits until what was written is on the line. What flow control holds back for too long is
-  /// discarded, so that it never reaches a logger late; the result is then false.
+  void EndTornMessage();
+  /// Waits until what was written is on the line, however long that takes as long as it moves. A
+  /// line that flow control holds for too long is given up: the rest is discarded, so that it never
+  /// reaches a logger late, and the result is false.
   bool AwaitSent();
+  void GiveUpSending(bool held);
   /// Sends a message and awaits the answer; false when there is none.
   bool Ask(std::string message);
   void AskModem(std::string_view command, int timeout);
   void Note(std::string_view what, std::string_view text = {}) const;
 
-  // Failures; all give false. A closed or lost line is told before anything else.
+  // Failures. A closed, lost or held line is told before anything else.
+  LinkFault FaultNow(LinkFault::Kind kind, int number = 0, std::string text = {}) const;
+  LinkFault WaitFault(int number) const;
+  // These keep the fault and give false.
   bool Fail(LinkFault::Kind kind, int number = 0, std::string text = {});
   bool FailWaiting(int number);
 
@@ -190,6 +208,8 @@ class Comms {
   bool DownloadOnce();
   bool ParseConfLine();
   bool ReadSection(const std::function<void(LineReader&)>& section);
+  /// One attempt; `taken` tells whether the last line that came was good.
+  LinkFault ReadInfoOnce(bool& taken);
   bool ParseInfoLine();
   void ParseClock();
   bool UploadOnce();
@@ -205,19 +225,36 @@ class Comms {
   std::unordered_map<std::string, std::function<void(LineReader&)>> sections_;
   std::vector<WireBlock> blocks_;
   LinkFault fault_;
-  bool infoComplete_ = false;
+  LinkFault infoFault_{.kind = LinkFault::Kind::Silence};
   bool boundFailed_ = false;  ///< a line of this download had an index beyond its array
   std::int16_t RecordExpected_ = 0;
   std::int16_t RecordReceived_ = 0;
-  bool opened_ = false;                    ///< the open port is ours to close
-  bool damaged_ = false;                   ///< a bad frame has come since this was last cleared
+  TimePoint heardAt_{};         ///< when characters were last taken
+  TimePoint limit_ = kNever;    ///< when the present phase ends at the latest
+  std::uint64_t lostTold_ = 0;  ///< lost octets that the trace has been told of
+  bool opened_ = false;         ///< the open port is ours to close
+  bool damaged_ = false;        ///< a bad frame has come since this was last cleared
+  bool heldOut_ = false;  ///< flow control has held the line for so long that the dialogue ends
+  bool torn_ = false;     ///< the last message may have left in part, without its end
   std::optional<TimePoint> awaitedSince_;  ///< last sign of the logger; none while none is due
+};
+
+class Comms::Limit {
+ public:
+  Limit(Comms& comms, Duration span);
+  ~Limit() { comms_.limit_ = former_; }
+  Limit(const Limit&) = delete;
+  Limit& operator=(const Limit&) = delete;
+
+ private:
+  Comms& comms_;
+  TimePoint former_;
 };
 
 class Comms::Dialogue {
  public:
   explicit Dialogue(Comms& comms);
-  ~Dialogue() { comms_.LinkBusy = wasBusy_; }
+  ~Dialogue();
   Dialogue(const Dialogue&) = delete;
   Dialogue& operator=(const Dialogue&) = delete;
 

@@ -28,6 +28,7 @@ bool Comms::ReadConf() {
   bool done = false;
   boundFailed_ = false;
   for (int attempt = 0; attempt < kAttempts && !done; ++attempt) {
+    if (attempt > 0) AwaitQuiet();  // the stream that failed may still be running
     done = DownloadOnce();
     if (boundFailed_ || !Alive()) break;
   }

@@ -36,19 +36,23 @@ constexpr std::array<InfoValue, 7> kInfoValues{{
 bool Comms::ReadInfo() {
   if (LinkBusy || !PortOpen()) return false;
   const Dialogue dialogue(*this);
+  const Limit limit(*this, TimeFor(kAttempts));
   bool taken = false;
-  infoComplete_ = false;
-  for (int attempt = 0; attempt < kAttempts && !taken && Alive(); ++attempt) {
-    RecordExpected_ = 0;
-    Ask("#44");
-    if (!RxLine.starts_with(kStreamHead)) continue;
-    while (RxLine != kStreamHead) {
-      taken = ParseInfoLine();
-      if (!taken || !RxSer(ReplyTimeout)) break;
-    }
-    infoComplete_ = taken && RxLine == kStreamHead;
-  }
+  for (int attempt = 0; attempt < kAttempts && !taken && Alive(); ++attempt)
+    infoFault_ = ReadInfoOnce(taken);
   return false;
+}
+
+LinkFault Comms::ReadInfoOnce(bool& taken) {
+  RecordExpected_ = 0;
+  if (!Ask("#44")) return WaitFault(RecordExpected_);
+  if (RxLine == kStreamHead) return FaultNow(LinkFault::Kind::EmptyStream);
+  while (RxLine != kStreamHead) {
+    taken = ParseInfoLine();
+    if (!taken) return FaultNow(LinkFault::Kind::OutOfSequence, RecordExpected_, RxLine);
+    if (!RxSer(ReplyTimeout)) return WaitFault(RecordExpected_);
+  }
+  return {};
 }
 
 bool Comms::ParseInfoLine() {
@@ -66,6 +70,7 @@ bool Comms::ParseInfoLine() {
 void Comms::ReadDeviceRTC() {
   if (LinkBusy) return;
   const Dialogue dialogue(*this);
+  const Limit limit(*this, TimeFor(kAttempts));
   for (int attempt = 0; attempt < kAttempts && Alive(); ++attempt) {
     Ask("#5D");
     if (!RxLine.starts_with(kClockHead)) continue;
@@ -97,6 +102,7 @@ bool Comms::Confirm(std::string message, std::string_view answer) {
   if (LinkBusy) return false;
   fault_ = {};
   const Dialogue dialogue(*this);
+  const Limit limit(*this, TimeFor(1));
   if (!Ask(std::move(message))) return FailWaiting(0);
   return RxLine == answer || Fail(LinkFault::Kind::NotTakenOver, 0, RxLine);
 }

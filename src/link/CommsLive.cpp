@@ -28,6 +28,7 @@ bool Comms::Fetch(const LiveRequest& request) {
 bool Comms::ReadTotalCount() {
   if (LinkBusy) return false;
   const Dialogue dialogue(*this);
+  const Limit limit(*this, TimeFor(kAttempts));
   const LiveRequest request = TotalsRequest(records_.totals);
   for (int attempt = 0; attempt < kAttempts && Alive(); ++attempt)
     if (Fetch(request)) return true;
@@ -37,16 +38,19 @@ bool Comms::ReadTotalCount() {
 bool Comms::ReadIOParameter() {
   if (LinkBusy) return false;
   const Dialogue dialogue(*this);
-  for (const LiveRequest& request : NameRequests(records_.live, records_.profile, records_.info))
-    Fetch(request);
+  const auto requests = NameRequests(records_.live, records_.profile, records_.info);
+  const Limit limit(*this, TimeFor(requests.size()));
+  for (const LiveRequest& request : requests) Fetch(request);
   return !dialogue.Cut();
 }
 
 bool Comms::ReadRealTime() {
   if (LinkBusy) return false;
   const Dialogue dialogue(*this);
+  const auto requests = ValueRequests(records_.live, records_.profile, records_.info);
+  const Limit limit(*this, TimeFor(requests.size()));
   bool hasMasks = false;
-  for (const LiveRequest& request : ValueRequests(records_.live, records_.profile, records_.info))
+  for (const LiveRequest& request : requests)
     if (Fetch(request) && request.message == kMasksRequest) hasMasks = true;
   return hasMasks && !dialogue.Cut();
 }
@@ -54,6 +58,7 @@ bool Comms::ReadRealTime() {
 bool Comms::SetOutput(std::int16_t mask) {
   if (LinkBusy) return false;
   const Dialogue dialogue(*this);
+  const Limit limit(*this, TimeFor(static_cast<std::size_t>(kMaskBits)));
   const auto bits = static_cast<std::uint16_t>(mask);
   for (int i = 0; i < records_.profile.OutputCount && i < kMaskBits; ++i)
     Ask(OutputMessage(i, (bits >> i & 1) != 0));
@@ -63,6 +68,7 @@ bool Comms::SetOutput(std::int16_t mask) {
 bool Comms::SetSingleOutput(std::int16_t index, bool on) {
   if (LinkBusy) return false;
   const Dialogue dialogue(*this);
+  const Limit limit(*this, TimeFor(1));
   Ask(OutputMessage(index, on));
   return !dialogue.Cut();
 }

@@ -7,6 +7,11 @@ namespace {
 constexpr int kCableReplyMs = 1000;
 constexpr int kModemReplyMs = 10'000;
 constexpr int kQuietLineMs = 1000;
+/// Long enough for the rest of most downloads that a former session has broken off.
+constexpr Duration kLongestOpeningDrain = std::chrono::seconds(20);
+/// From the first command to the modem to the connection. A modem that says nothing at all is
+/// through with all its commands and their repeats in 130 s.
+constexpr Duration kLongestDialling = std::chrono::seconds(150);
 constexpr int kModemAnswerMs = 1000;
 constexpr int kDialExtraMs = 30'000;
 constexpr int kHangUpMs = 5000;
@@ -67,6 +72,7 @@ bool Comms::OpenPort(std::int16_t number) {
   port.SetRTSEnable(false);
   port.SetDTREnable(true);
   const PortFault opened = port.SetPortOpen(true);
+  torn_ = false;
   if (opened != PortFault::None) fault_ = {KindOf(opened), number, PortName(number)};
   return opened == PortFault::None;
 }
@@ -74,20 +80,24 @@ bool Comms::OpenPort(std::int16_t number) {
 bool Comms::Connect(const std::string& phone) {
   if (phone.empty()) {
     ReplyTimeout = kCableReplyMs;
-    Drain(&Comms::RxSer, kQuietLineMs);
+    Drain(&Comms::RxSer, kQuietLineMs, kLongestOpeningDrain);
   }
-  return (phone.empty() || Dial(phone)) && Handshake();
+  if (!phone.empty()) {
+    if (!Dial(phone)) return false;
+    AskAccessCode();
+  }
+  return Handshake();
 }
 
 bool Comms::Dial(const std::string& phone) {
   ReplyTimeout = kModemReplyMs;
+  const Limit limit(*this, kLongestDialling);
   AskModem("ATE0", kModemAnswerMs);
   AskModem("AT", kModemAnswerMs);
   if (!RxLine.starts_with("OK")) return Fail(LinkFault::Kind::NoModem, 0, RxLine);
   AskModem("AT+IFC=2,2", kModemAnswerMs);
   AskModem("ATD" + phone, ReplyTimeout + kDialExtraMs);
   if (!RxLine.starts_with("CONNECT")) return Fail(LinkFault::Kind::NoConnect, 0, RxLine);
-  AskAccessCode();
   return true;
 }
 
@@ -98,12 +108,14 @@ void Comms::AskAccessCode() {
     if (hooks_.showPWForm) hooks_.showPWForm();
     awaitedSince_ = platform_.loop.Now();
     if (AccessCode.empty()) continue;
+    const Limit limit(*this, TimeFor(1));
     Ask("#11" + AccessCode);
     if (RxLine == "#PassWord=1") return;
   }
 }
 
 bool Comms::Handshake() {
+  const Limit limit(*this, TimeFor(1));
   Ask("#40");
   return RxLine.starts_with("#BF") || Fail(LinkFault::Kind::NoHandshake, 0, RxLine);
 }
@@ -117,6 +129,7 @@ void Comms::CloseComs(bool modem) {
 
 void Comms::HangUp() {
   constexpr int kPlusSigns = 3;
+  EndTornMessage();  // ahead of the guard time
   for (int sign = 0; sign < kPlusSigns; ++sign) {
     Delay(sign == 0 ? kGuardMs : kBetweenPlusMs);
     if (!Alive()) return;
@@ -146,7 +159,9 @@ void Comms::PumpEvents() { platform_.loop.PumpEvents(); }
 
 bool Comms::PortOpen() const { return platform_.port.PortOpen(); }
 
-bool Comms::Alive() const { return PortOpen() && !platform_.port.LineLost(); }
+bool Comms::Alive() const {
+  return PortOpen() && !platform_.port.LineLost() && !heldOut_ && platform_.loop.Now() < limit_;
+}
 
 bool Comms::HasInput() const { return platform_.port.InBufferCount() > 0; }
 

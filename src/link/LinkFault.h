@@ -22,11 +22,17 @@ struct LinkFault {
     IndexOutOfRange,  ///< `number` is the record, `text` the line
     Refused,          ///< `number` is the statement last sent, `text` its text
     NotTakenOver,     ///< wrong answer to a closing message or a setting; `text` is the answer
+    OutOfTime,        ///< the dialogue came to no end in its time; `number` as for Silence
+    LineHeld,         ///< flow control held the line for too long; `number` as for Silence
     LineLost,         ///< the port's device has gone
     PortClosed,       ///< the port was closed in the middle
   } kind = Kind::None;
   int number = 0;
-  std::string text;
+  std::string text{};
+
+  /// True when lines came and were not what they should be, or not all came: asking again may help
+  /// at once. A logger that said nothing at all is not damage.
+  bool IsDamage() const;
 };
 
 }  // namespace ostrel

@@ -60,14 +60,16 @@ bool SessionDriver::Open(std::int16_t port, const std::string& phone) {
       "", context_.Translate("Detectando ") + context_.profile.TargetName + "...");
   Connected_ = comms_.StartComs(port, phone);
   if (Connected_) ReadAfterConnect();
+  // Whoever breaks the opening off closes the port.
+  Connected_ = comms_.PortOpen();
   ShowState();
   return Connected_;
 }
 
 bool SessionDriver::CompleteInfo() {
   constexpr int kTries = 2;
-  for (int i = 0; i < kTries && !comms_.InfoComplete(); ++i) comms_.ReadInfo();
-  return comms_.InfoComplete();
+  for (int i = 0; i < kTries && comms_.InfoFault().IsDamage(); ++i) comms_.ReadInfo();
+  return comms_.InfoFault().kind == LinkFault::Kind::None;
 }
 
 void SessionDriver::Close(bool modem) {
@@ -81,7 +83,7 @@ void SessionDriver::ReadAfterConnect() {
   comms_.ReadTotalCount();
   comms_.ReadIOParameter();
   comms_.ReadDeviceRTC();
-  CompareClocks();
+  if (comms_.PortOpen()) CompareClocks();
 }
 
 void SessionDriver::CompareClocks() {

@@ -32,11 +32,13 @@ class SessionDriver {
   /// that the outer tick runs must not be disturbed.
   void Tick();
   /// Opens a session on a port, through a modem when there is a phone number. True when it stands.
+  /// `Comms::Abort` breaks it off at any point.
   bool Open(std::int16_t port, const std::string& phone);
   /// Number of the port that a session was last asked on; 0 before.
   std::int16_t Port() const { return port_; }
   /// Asks for the information again where a damaged line has cut it short: what a firmware can do
-  /// decides how a configuration is read and written. False when it stays unknown.
+  /// decides how a configuration is read and written. A logger that is silent is not asked again:
+  /// the dialogue that follows finds that out by itself. False when it stays unknown.
   bool CompleteInfo();
   /// Closes the session, hanging up when `modem` is set.
   void Close(bool modem);

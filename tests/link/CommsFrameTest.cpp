@@ -178,6 +178,20 @@ TEST_F(CommsFrame, TraceShowsMessagesWithTheirTimeAndNoCode) {
                          "      100 TxSer: #11****", "      200 TxGsm: AT", "      200 RxGsm: OK"));
 }
 
+TEST_F(CommsFrame, TraceTellsOfOctetsThatNobodyTook) {
+  Texts trace;
+  comms.Trace = [&trace](const std::string& line) { trace.push_back(line); };
+  for (int second = 0; second < 3; ++second) {
+    logger.end->Send(std::string(10'000, 'x'));
+    comms.Delay(1000);
+  }
+  logger.end->Send(Frames("#BF"));
+  comms.Delay(1);
+  EXPECT_TRUE(comms.RxSer(100)) << "the latest is there";
+  EXPECT_THAT(trace, ElementsAre("     3001 Receive buffer full, octets lost: 21815",
+                                 "     3001 RxSer: #BF"));
+}
+
 TEST_F(CommsFrame, SilenceIsCountedWhileADialogueRuns) {
   EXPECT_EQ(comms.SilentFor(), Duration::zero());
   {

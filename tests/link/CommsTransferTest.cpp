@@ -98,6 +98,32 @@ TEST_F(CommsTransfer, FailedAttemptsStartOver) {
   }
 }
 
+/// The lines are so long that the drain ahead of a request ends within one of them.
+TEST_F(CommsTransfer, TheRestOfAFailedStreamDoesNotMeetTheNextAttempt) {
+  port.SetPaced(true);
+  const auto stream = [](int lines, const std::string& damaged) {
+    std::string octets;
+    for (int n = 0; n < lines; ++n)
+      octets += n == 1 ? damaged
+                       : Frames("#BD0" + std::to_string(n + 100).substr(1) + "NAME," +
+                                std::string(140, 'x'));
+    return octets + Frames("#BD");
+  };
+  logger.Next("#42", stream(30, "#00;BD001NAME,damaged\r"));
+  logger.Always("#42", stream(30, Frames("#BD001NAME,good")));
+  EXPECT_TRUE(comms.ReadConf());
+  EXPECT_EQ(logger.lines.size(), 2U);
+
+  logger.Forget();
+  const std::string endless(96'000, 'x');
+  logger.Next("#42", Frames("#BD000NAME,a", "#BD002NAME,b") + endless);
+  logger.Always("#42", Frames("#BD000NAME,c", "#BD"));
+  const TimePoint start = loop.Now();
+  comms.ReadConf();
+  EXPECT_GE(logger.lines.size(), 2U);
+  EXPECT_LE(loop.Now() - start, std::chrono::seconds(45)) << "a line that is never quiet";
+}
+
 TEST_F(CommsTransfer, IndexOutsideItsArrayEndsTheDownload) {
   for (const std::string index : {"3", "-1", "1e9", "99999999999"}) {
     SCOPED_TRACE(index);
@@ -229,6 +255,60 @@ TEST_F(CommsTransfer, EachAttemptSendsTheModelAsItIsThen) {
   EXPECT_TRUE(comms.WriteConf());
   EXPECT_EQ(logger.lines[0], "#45000ID=before");
   EXPECT_EQ(logger.lines[3], "#45000ID=after");
+}
+
+/// A line that flow control holds is a slow line, wherever in a message it stops.
+class CommsHeld : public CommsTransfer {
+ protected:
+  CommsHeld() {
+    port.SetPaced(true);
+    logger.Always("#42", Frames("#BD000NAME,b", "#BD"));
+    logger.Always("#46004", Frames("#B91"));
+    logger.Always("#41CNT1=2", Frames("#BE1"));
+  }
+  /// Holds the line towards the logger from `after` on.
+  void Hold(Duration after, Duration span) {
+    At(after, [this] { port.HoldOutput(kPort, true); });
+    At(after + span, [this] { port.HoldOutput(kPort, false); });
+  }
+  const std::vector<std::function<bool()>> dialogues = {[this] { return comms.ReadConf(); },
+                                                        [this] { return comms.WriteConf(); },
+                                                        [this] { return comms.SetTotalCNT(1, 2); }};
+};
+
+TEST_F(CommsHeld, AHoldIsWaitedFor) {
+  for (const int hold : {400, 700, 1500, 5000, 9000}) {
+    comms.ReplyTimeout = hold == 9000 ? 10'000 : 1000;
+    for (const auto& dialogue : dialogues) {
+      for (const int after : {0, 105, 230}) {
+        SCOPED_TRACE(testing::Message() << hold << " ms, " << after << " ms into the dialogue");
+        logger.lines.clear();
+        Hold(milliseconds(after), milliseconds(hold));
+        EXPECT_TRUE(dialogue());
+        EXPECT_LE(logger.lines.size(), 5U) << "no message is sent again";
+        loop.RunFor(std::chrono::seconds(10));
+      }
+    }
+  }
+}
+
+TEST_F(CommsHeld, ALineHeldForGoodIsGivenUpAndHalfAMessageHarmsNoLaterOne) {
+  name = "Pozo";
+  for (const auto& dialogue : dialogues) {
+    logger.Forget();
+    const TimePoint start = loop.Now();
+    for (const int after : {5, 105})
+      At(milliseconds(after), [this] { port.HoldOutput(kPort, port.OutBufferCount() > 0); });
+    EXPECT_FALSE(dialogue());
+    EXPECT_EQ(comms.Fault().kind, Kind::LineHeld);
+    EXPECT_LE(loop.Now() - start, milliseconds(10'150));
+    EXPECT_NE(logger.raw.back(), '\r') << "the message was held in the middle";
+    port.HoldOutput(kPort, false);
+    logger.Always("#46004", Frames("#B91"));
+    EXPECT_TRUE(comms.WriteConf());
+    ASSERT_EQ(logger.lines.size(), 6U);
+    EXPECT_EQ(logger.lines[1], "#45000ID=Pozo") << "the first of the next upload is whole";
+  }
 }
 
 }  // namespace

@@ -29,14 +29,6 @@ TEST_F(CommsRecorded, PropertiesAreSetInOrder) {
                           "Handshaking 2", "RTSEnable 0", "DTREnable 1", "PortOpen 1"));
 }
 
-TEST_F(CommsRecorded, BlockedLineCostsItsDeadlineAndSendsNothingLate) {
-  OpenPort();
-  recording.stuck = 960;
-  std::string message = "#40";
-  link.TxSer(message, 1000);
-  EXPECT_EQ(loop.Now(), milliseconds(100 + 3 * (2 * 1000 + 500)));
-}
-
 TEST_F(CommsTransport, ScanFindsPortsWithoutDisturbingTheSession) {
   ScriptedDevice other;
   for (const int number : {1, 3, 256, 300}) port.AddDevice(number, "other", "", other);
@@ -243,6 +235,56 @@ TEST_F(CommsCut, LostLineEndsEveryWaitAtOnce) {
     port.SetPortOpen(false);
     port.Restore(kPort);
   }
+}
+
+/// Abort at each step of the opening, within the wait for the answer to what was sent last.
+TEST_F(CommsCut, AbortEndsEachPhaseOfTheOpeningAtOnce) {
+  for (const char* command : {"ATE0", "AT", "AT+IFC=2,2"}) logger.Always(command, "OK\r");
+  logger.Always("ATD1", "CONNECT\r");
+  codes = {"12", "12", "12", "12", "12", "12"};
+  for (const std::string phase : {"", "ATE0", "AT", "AT+IFC=2,2", "ATD1", "#1112", "#40"}) {
+    SCOPED_TRACE(phase);
+    TimePoint aborted{};
+    const auto abort = [&] {
+      aborted = loop.Now();
+      comms.Abort();
+    };
+    logger.onLine = [&](const std::string& line) {
+      if (line == phase) At(milliseconds(phase == "#40" ? 999 : 15), abort);
+    };
+    if (phase.empty()) At(milliseconds(900), abort);
+    EXPECT_FALSE(comms.StartComs(kPort, phase.empty() || phase == "#40" ? "" : "1"));
+    EXPECT_EQ(loop.Now(), aborted);
+    EXPECT_EQ(FaultKind(), Kind::PortClosed);
+    EXPECT_FALSE(comms.PortOpen() || comms.LinkBusy);
+    EXPECT_TRUE(logger.raw.ends_with("<down>"));
+  }
+}
+
+/// A source that never stops, in good order: each phase has its total time all the same.
+TEST_F(CommsCut, NoPhaseOfASessionOutlastsItsTime) {
+  std::string talk;
+  int number = 0;
+  const TimerId talking = loop.Every(milliseconds(900), "talk", [&] {
+    const std::string digits = std::to_string(number++ + 1000).substr(1);
+    logger.end->Send(talk == "#BB" ? Frames("#BB" + digits + "X,1") : talk);
+  });
+  const auto took = [&](const std::string& name, const std::string& what) {
+    talk = what;
+    Start();
+    number = 0;
+    logger.onLine = [&](const std::string&) { number = 0; };
+    const TimePoint start = loop.Now();
+    Run(name);
+    return loop.Now() - start;
+  };
+  using std::chrono::seconds;
+  EXPECT_LE(took("StartComs", Frames("#trace")), seconds(20 + 13));
+  EXPECT_LE(took("ReadInfo", "#BB"), seconds(19));
+  EXPECT_EQ(comms.InfoFault().kind, Kind::OutOfTime);
+  loop.Cancel(talking);
+  loop.Every(milliseconds(90), "ringing", [&] { logger.end->Send("RING\r"); });
+  EXPECT_LE(took("Dial", ""), seconds(150));
 }
 
 TEST_F(CommsCut, BusyLinkTurnsEveryDialogueAway) {

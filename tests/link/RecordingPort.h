@@ -1,6 +1,5 @@
 #pragma once
 
-#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -9,7 +8,7 @@
 
 namespace ostrel {
 
-/// Hands everything on to another port and notes what is set, in order. Its output can be stuck.
+/// Hands everything on to another port and notes what is set, in order.
 class RecordingPort final : public SerialPort {
  public:
   explicit RecordingPort(SerialPort& port) : port_(port) {}
@@ -28,10 +27,11 @@ class RecordingPort final : public SerialPort {
   bool PortOpen() const override { return port_.PortOpen(); }
   bool LineLost() const override { return port_.LineLost(); }
   void Output(std::string_view octets) override { port_.Output(octets); }
-  std::size_t OutBufferCount() const override { return stuck.value_or(port_.OutBufferCount()); }
+  std::size_t OutBufferCount() const override { return port_.OutBufferCount(); }
   void DiscardOutput() override { port_.DiscardOutput(); }
   std::string Input() override { return port_.Input(); }
   std::size_t InBufferCount() const override { return port_.InBufferCount(); }
+  std::uint64_t LostOctets() const override { return port_.LostOctets(); }
   bool CDHolding() const override { return port_.CDHolding(); }
   int CommEvent() const override { return port_.CommEvent(); }
   void SetOnComm(std::function<void()> handler) override { port_.SetOnComm(std::move(handler)); }
@@ -39,7 +39,6 @@ class RecordingPort final : public SerialPort {
   std::vector<PortEntry> Entries() override { return port_.Entries(); }
 
   std::vector<std::string> log;
-  std::optional<std::size_t> stuck;  ///< octets that never leave
 
  private:
   template <class Value>

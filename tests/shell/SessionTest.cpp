@@ -176,13 +176,51 @@ TEST_F(Session, AHeldLineEndsSoonAndSendsNothingLate) {
   Click("Escribir");
   world.loop.RunFor(seconds(1));
   EXPECT_EQ(Status(), "Error!");
-  EXPECT_LT(world.loop.Now() - start, seconds(20));
-  EXPECT_EQ(program.comms.Fault().kind, LinkFault::Kind::Silence);
+  EXPECT_LT(world.loop.Now() - start, seconds(22)) << "ten for the upload, ten for the refresh";
+  EXPECT_EQ(program.comms.Fault().kind, LinkFault::Kind::LineHeld);
   world.loop.RunFor(seconds(60));
   world.port.HoldOutput(SimWorld::kPort, false);
   world.loop.RunFor(seconds(5));
   for (const std::string& request : requests) EXPECT_EQ(request, "#44");
   EXPECT_FALSE(requests.empty());
+}
+
+/// Three times three waits for an answer and the drains ahead of them, even when the refresh of the
+/// information has found the logger silent already.
+TEST_F(Session, ASilentLoggerCostsNineWaits) {
+  struct Mute final : LineDevice {
+    void Receive(std::string_view) override {}
+    void SetTerminalReady(bool) override {}
+  } mute;
+  world.port.AddDevice(8, "mute", "", mute);
+  world.port.SetCommPort(8);
+  ASSERT_EQ(world.port.SetPortOpen(true), PortFault::None);
+  for (const int reply : {1000, 10'000}) {
+    program.comms.ReplyTimeout = reply;
+    program.comms.ReadInfo();
+    const TimePoint start = world.loop.Now();
+    EXPECT_FALSE(program.session.Download());
+    EXPECT_EQ(Status(), "Error!");
+    EXPECT_EQ(world.loop.Now() - start, milliseconds(9 * reply + 300));
+  }
+}
+
+/// Breaking off closes the port: whatever the session is doing then, it ends in the idle state and
+/// asks nothing.
+TEST_F(Session, AnOpeningIsBrokenOffAtAnyPoint) {
+  const std::vector<std::string> phases = {"#40", "#44", "#20", "#26", "#5D"};
+  for (const std::string& phase : phases) {
+    SCOPED_TRACE(phase);
+    world.logger->OnExchange([&](const sim::Exchange& e) {
+      if (e.request == phase) program.comms.Abort();
+    });
+    Click("IniCom");
+    world.loop.RunFor(seconds(1));
+    EXPECT_EQ(Status(), "Comunicacion no iniciada");
+    EXPECT_FALSE(program.Connected || world.port.PortOpen() || frame.Leer.face.Enabled());
+    EXPECT_EQ(program.general.GetForm().MousePointer(), Pointer::Default);
+    EXPECT_TRUE(world.dialogs.boxes.empty());
+  }
 }
 
 /// While a download replaces the model, moving between pages must not write the emptied controls

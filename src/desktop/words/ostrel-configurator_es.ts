@@ -204,6 +204,14 @@
         <translation>El equipo no ha aceptado la configuración. Conserva la anterior. %1</translation>
     </message>
     <message>
+        <source>The logger talks without coming to an end.</source>
+        <translation>El equipo habla sin llegar al final.</translation>
+    </message>
+    <message>
+        <source>The line at %1 is held. Is the logger switched on, and has the cable RTS and CTS?</source>
+        <translation>La línea de %1 está retenida. ¿Está encendido el equipo y tiene el cable RTS y CTS?</translation>
+    </message>
+    <message>
         <source>%1 has gone. Was the adapter unplugged?</source>
         <translation>%1 ha desaparecido. ¿Se ha desconectado el adaptador?</translation>
     </message>

@@ -8,10 +8,7 @@
 
 #include <QSerialPortInfo>
 #include <algorithm>
-#include <array>
 #include <cerrno>
-#include <charconv>
-#include <limits>
 #include <map>
 
 #include "platform/Time.h"
@@ -21,6 +18,8 @@ namespace {
 
 using std::chrono::milliseconds;
 
+/// Octets taken from the driver with one event: a reader that keeps up loses none.
+constexpr qint64 kMostAtOnce = 4096;
 constexpr Duration kCarrierInterval = milliseconds(100);
 /// Shortest pause between two looks at an output queue that flow control may be holding.
 constexpr Duration kShortestDrainWait = milliseconds(20);
@@ -143,6 +142,7 @@ PortFault QtSerialPort::OpenDevice(const std::string& path) {
   if (::access(path.c_str(), F_OK) != 0) return PortFault::NoSuchPort;
   device_ = std::make_unique<QSerialPort>();
   device_->setPortName(QString::fromStdString(path));
+  device_->setReadBufferSize(kMostAtOnce);
   ApplySettings(*device_);
   bool opened = device_->open(QIODevice::ReadWrite);
   if (!opened && device_->error() == QSerialPort::UnsupportedOperationError) {
@@ -190,18 +190,13 @@ void QtSerialPort::Close() {
   open_ = false;
   lost_ = false;
   carrier_ = false;
-  received_.clear();
-  taken_ = 0;
+  received_.Clear();
   lineFree_ = {};
 }
 
 void QtSerialPort::TakeIn() {
   const QByteArray octets = device_->readAll();
-  if (taken_ > received_.size() / 2) {
-    received_.erase(0, taken_);
-    taken_ = 0;
-  }
-  received_.append(octets.constData(), static_cast<std::size_t>(octets.size()));
+  received_.Put({octets.constData(), static_cast<std::size_t>(octets.size())});
 }
 
 /// The device has gone. It is put away from the loop, because its own code is calling.
@@ -262,18 +257,6 @@ void QtSerialPort::WatchDrain() {
   if (queued == 0) return;
   drainTimer_ = loop_.After(std::max(LineTime(queued), kShortestDrainWait), "output queue",
                             [this] { WatchDrain(); });
-}
-
-std::string QtSerialPort::Input() {
-  const std::size_t most =
-      inputLen_ > 0 ? static_cast<std::size_t>(inputLen_) : std::numeric_limits<std::size_t>::max();
-  std::string input = received_.substr(taken_, most);
-  taken_ += input.size();
-  if (taken_ == received_.size()) {
-    received_.clear();
-    taken_ = 0;
-  }
-  return input;
 }
 
 PortFault QtSerialPort::Probe(int number) {

@@ -46,6 +46,7 @@ class SerialTest : public testing::Test {
     map = PortMap({{200, terminal->SlavePath()}});
     port.SetCommPort(200);
     port.SetSettings("9600,N,8,1");
+    port.SetInBufferSize(8192);
     port.SetHandshaking(PortHandshaking::RtsCts);
     port.SetRTSEnable(false);
     port.SetDTREnable(true);
@@ -104,6 +105,17 @@ TEST_F(SerialTest, LargeTransfersPassWhole) {
     return got.size() >= text.size() + 5;
   });
   EXPECT_EQ(got.size(), text.size() + 5);
+}
+
+TEST_F(SerialTest, WhatNobodyReadsIsBounded) {
+  Start(false);
+  ASSERT_EQ(port.SetPortOpen(true), PortFault::None);
+  ASSERT_TRUE(AwaitInUse(true));
+  static_cast<LineEnd&>(*terminal).Send(std::string(100'000, 'x') + "the end");
+  EXPECT_TRUE(Await([&] { return port.LostOctets() + port.InBufferCount() == 100'007; }));
+  EXPECT_EQ(port.InBufferCount(), 8192u);
+  port.SetInputLen(0);
+  EXPECT_TRUE(port.Input().ends_with("xthe end"));
 }
 
 TEST_F(SerialTest, HangUpIsNoticedAtOnceAndDoesNotSpin) {
