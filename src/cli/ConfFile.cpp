@@ -1,5 +1,6 @@
 #include "cli/ConfFile.h"
 
+#include "shell/ForeignKeys.h"
 #include "shell/SafetyCopies.h"
 
 namespace ostrel::cli {
@@ -27,6 +28,16 @@ ExitCode TryToWrite(CommandContext& context, const std::string& path) {
   if (!made.Ok()) return CannotWrite(context, path, made);
   files.Remove(trial);
   return ExitCode::Done;
+}
+
+ExitCode MayReplace(CommandContext& context, const std::string& path,
+                    const TargetProfile& profile) {
+  const auto foreign = ForeignKeys(context.environment.files, path, profile);
+  if (foreign.empty()) return ExitCode::Done;
+  const std::string lost =
+      path + " holds what this program does not write and would lose: " + ForeignKeysText(foreign);
+  if (context.dialogs.Confirm(lost + ". Replace it?")) return ExitCode::Done;
+  return context.console.Fail(ExitCode::BadFile, lost + ". --yes replaces it all the same");
 }
 
 ExitCode SaveBackup(CommandContext& context, Configurator& configurator, std::string& path) {

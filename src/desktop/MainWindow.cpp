@@ -13,6 +13,7 @@
 #include "desktop/Words.h"
 #include "platform/Settings.h"
 #include "shell/Configurator.h"
+#include "shell/ForeignKeys.h"
 
 namespace ostrel {
 namespace {
@@ -68,6 +69,10 @@ MainWindow::MainWindow(const WindowParts& parts)
     BuildTree();
     shownFile_.clear();  // it is of the former model
   };
+  configurator_.OnForeignKeys = [this](const std::string& path,
+                                       const std::vector<std::string>& lost) {
+    return MayLose(path, lost);
+  };
   navigation_.OnFrontChanged = [this] {
     if (following_) ShowFront();
   };
@@ -77,6 +82,7 @@ MainWindow::MainWindow(const WindowParts& parts)
 MainWindow::~MainWindow() {
   parts_.platform.loop.Cancel(lookTimer_);
   configurator_.OnTargetChanged = nullptr;
+  configurator_.OnForeignKeys = nullptr;
   configurator_.comms.Trace = nullptr;
   configurator_.session.OnTransferEnded = nullptr;
   navigation_.OnFrontChanged = nullptr;
@@ -219,6 +225,17 @@ std::optional<Comparison> MainWindow::FileDifferences() const {
   const auto file = ReadFile(configurator_.ConfFilePath);
   if (!file || file->profile.TargetName != configurator_.profile.TargetName) return {};
   return ostrel::Compare({configurator_.profile, configurator_.conf}, *file);
+}
+
+bool MainWindow::MayLose(const std::string& path, const std::vector<std::string>& lost) {
+  const BoxAnswer answer = parts_.platform.dialogs.ShowMessage(
+      {.text = FromQt(Words::tr("%1 holds what this program does not write and would lose: %2. "
+                                "Replace it?")
+                          .arg(ToQt(path), ToQt(ForeignKeysText(lost)))),
+       .title = configurator_.profile.TargetName,
+       .icon = BoxIcon::Question,
+       .buttons = BoxButtons::YesNo});
+  return answer == BoxAnswer::Yes;
 }
 
 bool MainWindow::MayLeave() {

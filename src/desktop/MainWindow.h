@@ -94,6 +94,8 @@ class MainWindow final : public QMainWindow {
   void WorkOn(const std::string& path);
   void RestorePlace();
   void KeepPlace();
+  /// Whether a file may be replaced that holds what this program does not write.
+  bool MayLose(const std::string& path, const std::vector<std::string>& lost);
   /// True when the present configuration may go: nothing is unsaved, or the operator says so.
   bool MayLeave();
 
