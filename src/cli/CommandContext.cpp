@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <charconv>
 
-#include "base/Scope.h"
 #include "host/LangSeed.h"
 #include "host/SimulatedLoggers.h"
 
@@ -42,11 +41,14 @@ CommandContext::CommandContext(Environment& world, GlobalOptions shared)
       console(world.out, world.err, options.quiet),
       dialogs(world, console, options),
       langFile_(SeedLang(world.files, world.shippedLang, world.dataFolder + "/Lang.txt")),
-      noPorts_(world.loop) {}
+      lang_(world.files, langFile_) {
+  lang_.Init();
+  lang_.SetSelectedLang(options.lang);
+}
 
-std::unique_ptr<Configurator> CommandContext::Make(SerialPort& port, std::string_view model) {
+std::unique_ptr<Configurator> CommandContext::MakeOnline(std::string_view model) {
   const Platform platform{.loop = environment.loop,
-                          .port = port,
+                          .port = environment.port,
                           .settings = environment.settings,
                           .dialogs = dialogs,
                           .files = environment.files,
@@ -58,36 +60,22 @@ std::unique_ptr<Configurator> CommandContext::Make(SerialPort& port, std::string
   return configurator;
 }
 
-std::unique_ptr<Configurator> CommandContext::MakeOnline(std::string_view model) {
-  return Make(environment.port, model);
-}
-
-std::unique_ptr<Configurator> CommandContext::MakeOffline(std::string_view model) {
-  return Make(noPorts_, model);
-}
-
-std::unique_ptr<Configurator> CommandContext::OpenOffline(const std::string& path) {
-  const auto model = ChooseModel({}, path);
-  if (!model) return nullptr;
-  auto configurator = MakeOffline(*model);
-  return Open(*configurator, path) ? std::move(configurator) : nullptr;
-}
-
-bool CommandContext::Open(Configurator& configurator, const std::string& path) {
+std::optional<ModelConfiguration> CommandContext::OpenFile(const std::string& path) {
   if (!environment.files.Read(path)) {
     console.Fail(ExitCode::BadFile, "cannot read " + path);
-    return false;
+    return {};
   }
-  const Lent muted(dialogs.mute, true);
-  const std::string model = configurator.profile.TargetName;
-  if (configurator.OpenFile(path) == RestoreResult::Loaded) {
-    if (!options.target.empty() && configurator.profile.TargetName != model)
-      console.Note(path + " is for the model " + configurator.profile.TargetName + ", not " +
-                   model);
-    return true;
+  TargetProfile present;
+  if (const auto model = ChooseModel({}, path)) SelectTarget(present, *model);
+  auto read = ReadConfiguration(environment.files, path, present, Translator());
+  if (!read) {
+    console.Fail(ExitCode::BadFile, path + " is no configuration of any of the six models");
+    return {};
   }
-  console.Fail(ExitCode::BadFile, path + " is no configuration of any of the six models");
-  return false;
+  if (!options.target.empty() && read->profile.TargetName != present.TargetName)
+    console.Note(path + " is for the model " + read->profile.TargetName + ", not " +
+                 present.TargetName);
+  return read;
 }
 
 std::string CommandContext::ModelOfFile(const std::string& path) {
@@ -145,10 +133,6 @@ ExitCode CommandContext::ChoosePort(PortChoice& choice) {
   if (number == 0) return console.Fail(ExitCode::NoSession, "there is no port " + options.port);
   choice = {.number = static_cast<std::int16_t>(number), .name = options.port};
   return ExitCode::Done;
-}
-
-DeviceConf EmptyConf(CommandContext& context, const Configurator& configurator) {
-  return context.MakeOffline(configurator.profile.TargetName)->conf;
 }
 
 }  // namespace ostrel::cli

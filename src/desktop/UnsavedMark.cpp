@@ -2,20 +2,20 @@
 
 #include <utility>
 
-#include "base/Scope.h"
+#include "blocks/Configuration.h"
 #include "shell/Configurator.h"
 #include "shell/Navigation.h"
 
 namespace ostrel {
 
-DeviceConf UnsavedMark::WithFront() {
-  const Lent untouched(configurator_.conf, DeviceConf(configurator_.conf));
-  navigation_.CommitFront();
-  return configurator_.conf;
+DeviceConf UnsavedMark::WithFront() const {
+  DeviceConf present = configurator_.conf;
+  if (const Page* front = navigation_.FrontPage()) front->SaveInto(present);
+  return present;
 }
 
 void UnsavedMark::Keep(const DeviceConf& safe) {
-  kept_ = FieldLines(configurator_, safe);
+  kept_ = Texts(safe);
   looked_.reset();
 }
 
@@ -26,8 +26,15 @@ bool UnsavedMark::Changed() {
   if (present == looked_ && model == lookedModel_) return changed_;
   looked_ = std::move(present);
   lookedModel_ = model;
-  changed_ = FieldLines(configurator_, *looked_) != kept_;
+  changed_ = Texts(*looked_) != kept_;
   return changed_;
+}
+
+std::vector<std::string> UnsavedMark::Texts(const DeviceConf& conf) const {
+  std::vector<std::string> texts;
+  for (const ConstField& field : FieldsOf(conf, configurator_.profile))
+    texts.push_back(FieldText(field.value, configurator_.profile.IsS100));
+  return texts;
 }
 
 }  // namespace ostrel

@@ -5,7 +5,6 @@
 #include <vector>
 
 #include "model/DeviceConf.h"
-#include "shell/Comparison.h"
 
 namespace ostrel {
 
@@ -24,12 +23,15 @@ class UnsavedMark {
   /// Whether anything is neither saved nor sent. While a download replaces the model, as before.
   bool Changed();
   /// The configuration as it would be if the page in front were committed.
-  DeviceConf WithFront();
+  DeviceConf WithFront() const;
 
  private:
+  /// What a file of the selected model would hold.
+  std::vector<std::string> Texts(const DeviceConf& conf) const;
+
   Configurator& configurator_;
   Navigation& navigation_;
-  std::vector<FieldLine> kept_;
+  std::vector<std::string> kept_;
   /// What was looked at last, to spare looking twice; nothing when it has to be looked at anew.
   std::optional<DeviceConf> looked_;
   std::string lookedModel_;

@@ -1,4 +1,4 @@
-#include "cli/Comparison.h"
+#include "cli/DifferenceText.h"
 #include "cli/Json.h"
 #include "cli/commands/Commands.h"
 #include "cli/commands/OnlineCommand.h"
@@ -36,32 +36,25 @@ ExitCode Report(CommandContext& context, const DiffOptions& options, const Compa
 }
 
 ExitCode DiffFiles(CommandContext& context, const DiffOptions& options) {
-  const auto a = context.OpenOffline(options.a);
-  const auto b = a ? context.OpenOffline(options.b) : nullptr;
+  const auto a = context.OpenFile(options.a);
+  const auto b = a ? context.OpenFile(options.b) : std::nullopt;
   if (!b) return ExitCode::BadFile;
   const auto features = context.options.features;
-  const Comparison comparison = a->profile.TargetName == b->profile.TargetName
-                                    ? Compare(*a, a->conf, b->conf, features)
-                                    : CompareModels(*a, *b);
-  return Report(context, options, comparison, features);
+  return Report(context, options, Compare(*a, *b, features), features);
 }
 
 ExitCode DiffWithPort(CommandContext& context, const DiffOptions& options, const std::string& file,
                       bool isPortFirst) {
-  const auto other = context.OpenOffline(file);
+  const auto other = context.OpenFile(file);
   if (!other) return ExitCode::BadFile;
   return RunOnline(context, file, [&](Online& online) {
     const ExitCode downloaded = online.session.Download();
     if (downloaded != ExitCode::Done) return downloaded;
-    Configurator& logger = online.configurator;
+    const Configurator& logger = online.configurator;
     const std::int32_t features = context.options.features.value_or(logger.info.Features);
-    if (logger.profile.TargetName != other->profile.TargetName)
-      return Report(context, options,
-                    isPortFirst ? CompareModels(logger, *other) : CompareModels(*other, logger),
-                    features);
+    const ModelConfiguration held{logger.profile, logger.conf};
     return Report(context, options,
-                  isPortFirst ? Compare(logger, logger.conf, other->conf, features)
-                              : Compare(logger, other->conf, logger.conf, features),
+                  isPortFirst ? Compare(held, *other, features) : Compare(*other, held, features),
                   features);
   });
 }

@@ -9,6 +9,8 @@ namespace {
 
 ExitCode RunDownload(Online& online, const std::string& file) {
   CommandContext& context = online.context;
+  const ExitCode mayReplace = MayReplace(context, file, online.configurator.profile);
+  if (mayReplace != ExitCode::Done) return mayReplace;
   const ExitCode downloaded = online.session.Download();
   if (downloaded != ExitCode::Done) return downloaded;
   const ExitCode saved = SaveTo(context, online.configurator, file);

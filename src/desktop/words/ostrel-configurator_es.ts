@@ -4,6 +4,10 @@
 <context>
     <name>Words</name>
     <message>
+        <source>%1 holds what this program does not write and would lose: %2. Replace it?</source>
+        <translation>%1 contiene datos que este programa no escribe y que se perderían: %2. ¿Reemplazarlo?</translation>
+    </message>
+    <message>
         <source>Alarm</source>
         <translation>Alarma</translation>
     </message>
