@@ -64,6 +64,10 @@ std::string FaultText(const LinkFault& fault, std::string_view port, Transfer tr
       return fault.text.empty()
                  ? "the logger did not say that it took the configuration over"
                  : "the logger did not take the configuration over: " + Quote(fault.text);
+    case Kind::WrongAnswer:
+      return "the logger answered something else: " + Quote(fault.text);
+    case Kind::Busy:
+      return "another dialogue with the logger is under way";
     case Kind::OutOfTime:
       return "the logger came to no end" + Place(fault, transfer);
     case Kind::LineHeld:

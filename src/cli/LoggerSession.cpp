@@ -74,8 +74,7 @@ ExitCode LoggerSession::Run(const std::function<bool()>& dialogue) {
 
 bool LoggerSession::Move(std::string_view label, int steps, bool (SessionDriver::*transfer)(),
                          int& farthest) {
-  Progress progress(context_.console, context_.environment.loop,
-                    configurator_.general.Session().PBar, label, steps,
+  Progress progress(context_.console, context_.environment.loop, configurator_.comms, label, steps,
                     context_.environment.errIsTerminal);
   const bool done = (configurator_.session.*transfer)();
   farthest = progress.Farthest();
@@ -88,7 +87,7 @@ ExitCode LoggerSession::Download() {
   RecordCounts records(context_.environment.settings);
   const std::string& type = configurator_.profile.TargetType;
   const bool done = Move("download", records.Expected(type), &SessionDriver::Download, farthest);
-  if (done) records.Keep(type, farthest + 1);
+  if (done) records.Keep(type, farthest);
   return done && !interrupted_ ? ExitCode::Done : Fault(Transfer::Download);
 }
 

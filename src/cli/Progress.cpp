@@ -9,29 +9,21 @@ constexpr int kBarWidth = 30;
 
 }  // namespace
 
-Progress::Progress(Console& console, EventLoop& loop, ProgressBar& bar, std::string_view label,
+Progress::Progress(Console& console, EventLoop& loop, Comms& comms, std::string_view label,
                    int steps, bool isShown)
-    : console_(console),
-      loop_(loop),
-      bar_(bar),
-      label_(label),
-      isShown_(isShown && !console.Quiet()) {
+    : console_(console), loop_(loop), label_(label), isShown_(isShown && !console.Quiet()) {
   time_.Start(loop.Now(), steps);
-  bar_.SetValue(0);
-  bar_.face.OnChanged = [this] { Follow(); };
+  subscription_ = comms.OnProgress([this](const auto& progress) { Follow(progress); });
 }
 
 Progress::~Progress() {
-  bar_.face.OnChanged = nullptr;
   if (!drawn_.empty()) console_.Err() << "\r\x1b[K" << std::flush;
 }
 
-void Progress::Follow() {
-  // A full bar says that the transfer is over, not how many steps it had.
-  const int step = bar_.Value();
-  if (step >= bar_.Maximum() && step != farthest_ + 1) return;
-  time_.Step(loop_.Now(), step);
-  farthest_ = std::max(farthest_, step);
+void Progress::Follow(const ostrel::Progress& progress) {
+  if (progress.stage != ostrel::Progress::Stage::Step) return;
+  time_.Step(loop_.Now(), progress.step);
+  farthest_ = std::max(farthest_, progress.step);
   if (isShown_) Draw();
 }
 

@@ -51,6 +51,10 @@ QString FaultWords(const LinkFault& fault, const QString& device) {
                  "The logger did not take the configuration over. It keeps the former one. %1")
           .arg(text)
           .trimmed();
+    case Kind::WrongAnswer:
+      return Words::tr("The logger answered something else: %1").arg(text);
+    case Kind::Busy:
+      return Words::tr("Another dialogue with the logger is under way.");
     case Kind::OutOfTime:
       return Words::tr("The logger talks without coming to an end.");
     case Kind::LineHeld:

@@ -18,8 +18,9 @@
 namespace ostrel {
 namespace {
 
-constexpr Duration kLookInterval = std::chrono::milliseconds(200);
-constexpr int kLooksPerSecond = 5;
+constexpr Duration kLivelyLook = std::chrono::milliseconds(200);
+constexpr Duration kIdleLook = std::chrono::seconds(1);
+constexpr int kLooksPerTitle = 5;
 constexpr int kTreeWidth = 230;
 constexpr int kMessageTime = 10'000;  // ms
 constexpr QSize kFirstSize{1280, 720};
@@ -64,6 +65,7 @@ MainWindow::MainWindow(const WindowParts& parts)
       setCursor(Qt::BusyCursor);
     else
       unsetCursor();
+    if (IsLively() && lookInterval_ == kIdleLook) Look();
   };
   configurator_.OnTargetChanged = [this] {
     BuildTree();
@@ -106,8 +108,6 @@ void MainWindow::Follow() {
   if (FileDifferences()) WorkOn(configurator_.ConfFilePath);
   configurator_.session.OnTransferEnded = [this](const TransferEnd& end) { TransferEnded(end); };
   Look();
-  lookTimer_ = parts_.platform.loop.Every(kLookInterval, "window",
-                                          [this] { parts_.guard([this] { Look(); }); });
 }
 
 void MainWindow::BuildTree() {
@@ -141,16 +141,33 @@ void MainWindow::ShowFront() {
 }
 
 void MainWindow::Look() {
-  const auto now = parts_.platform.loop.Now();
   const LinkState state = LinkStateOf(configurator_);
   link_->ShowState(state);
-  const SessionFrame& session = configurator_.general.Session();
-  Rest(configurator_.session.Running() != TransferKind::None || session.ReadRequest ||
-       session.WriteRequest);
-  transfer_.Look(now);
+  Rest(TransferIsDue());
   ShowTransfer();
   ShowFault();
-  if (looks_++ % kLooksPerSecond == 0) ShowTitle();
+  if (!IsLively() || looks_++ % kLooksPerTitle == 0) ShowTitle();
+  LookEach(IsLively() ? kLivelyLook : kIdleLook);
+}
+
+bool MainWindow::TransferIsDue() const {
+  const SessionFrame& session = configurator_.general.Session();
+  return configurator_.session.Running() != TransferKind::None || session.ReadRequest ||
+         session.WriteRequest;
+}
+
+/// While something goes on, what the window shows of it changes all the time.
+bool MainWindow::IsLively() const {
+  return TransferIsDue() || configurator_.comms.LinkBusy ||
+         configurator_.general.Session().IniRequest;
+}
+
+void MainWindow::LookEach(Duration interval) {
+  if (interval == lookInterval_) return;
+  lookInterval_ = interval;
+  EventLoop& loop = parts_.platform.loop;
+  loop.Cancel(lookTimer_);
+  lookTimer_ = loop.Every(interval, "window", [this] { parts_.guard([this] { Look(); }); });
 }
 
 /// A transfer owns the model: nothing may be edited, opened, saved or compared under it, and a

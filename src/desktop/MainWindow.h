@@ -83,6 +83,9 @@ class MainWindow final : public QMainWindow {
   void ShowTitle();
   void ShowFault();
   void Rest(bool rests);
+  bool TransferIsDue() const;
+  bool IsLively() const;
+  void LookEach(Duration interval);
   void ShowMissing();
   void ShowTransfer();
   void TransferEnded(const TransferEnd& end);
@@ -117,6 +120,7 @@ class MainWindow final : public QMainWindow {
   QAction *open_ = nullptr, *save_ = nullptr, *language_ = nullptr, *recentFiles_ = nullptr,
           *safetyCopies_ = nullptr, *compare_ = nullptr, *traceSwitch_ = nullptr;
   TimerId lookTimer_ = 0;
+  Duration lookInterval_{};
   int looks_ = 0;
   bool following_ = false;
   bool traceShown_ = false;

@@ -2,22 +2,29 @@
 
 #include <utility>
 
+#include "platform/EventLoop.h"
+
 namespace ostrel {
 
-void TransferWatch::Look(TimePoint now) {
-  const TransferKind kind = configurator_.session.Running();
-  if (kind != running_) Begin(now, kind);
-  const ProgressBar& bar = configurator_.general.Session().PBar;
-  // A full bar says that the transfer is over, not how many steps it had.
-  if (Running() && bar.Value() < bar.Maximum() && bar.Value() != time_.Done())
-    time_.Step(now, bar.Value());
+TransferWatch::TransferWatch(Configurator& configurator, Settings& settings)
+    : configurator_(configurator),
+      records_(settings),
+      subscription_(configurator.comms.OnProgress([this](const auto& told) { Follow(told); })) {}
+
+void TransferWatch::Follow(const Progress& progress) {
+  const TimePoint now = configurator_.context.platform.loop.Now();
+  if (progress.stage == Progress::Stage::Begun) {
+    running_ = configurator_.session.Running();
+    time_.Start(now, Expected(running_));
+  } else if (progress.stage == Progress::Stage::Step) {
+    time_.Step(now, progress.step);
+  }
 }
 
-void TransferWatch::Begin(TimePoint now, TransferKind kind) {
-  running_ = kind;
-  time_.Start(now, kind == TransferKind::Writing
-                       ? static_cast<int>(configurator_.comms.ComposeStatements().size())
-                       : records_.Expected(configurator_.profile.TargetType));
+int TransferWatch::Expected(TransferKind kind) const {
+  return kind == TransferKind::Writing
+             ? static_cast<int>(configurator_.comms.ComposeStatements().size())
+             : records_.Expected(configurator_.profile.TargetType);
 }
 
 void TransferWatch::Ended(const TransferEnd& end) {

@@ -10,23 +10,22 @@ namespace ostrel {
 /// Follows a download or an upload: how many steps it will have, how far it is, what is left.
 class TransferWatch {
  public:
-  TransferWatch(Configurator& configurator, Settings& settings)
-      : configurator_(configurator), records_(settings) {}
+  TransferWatch(Configurator& configurator, Settings& settings);
 
-  /// Looks how far a transfer is. Runs several times a second.
-  void Look(TimePoint now);
   /// A transfer has ended: remembers how long it was.
   void Ended(const TransferEnd& end);
   bool Running() const { return running_ != TransferKind::None; }
   const RemainingTime& Time() const { return time_; }
 
  private:
-  void Begin(TimePoint now, TransferKind kind);
+  void Follow(const Progress& progress);
+  int Expected(TransferKind kind) const;
 
   Configurator& configurator_;
   RecordCounts records_;
   TransferKind running_ = TransferKind::None;
   RemainingTime time_;
+  ProgressFeed::Subscription subscription_;
 };
 
 }  // namespace ostrel

@@ -129,6 +129,11 @@ class Configurator {
  public:
   General& general;
   Comms comms;
+
+ private:
+  ProgressFeed::Subscription bar_;  ///< of the general page
+
+ public:
   SessionDriver session;
   ActEdit actEdit;
   PWForm pwForm;

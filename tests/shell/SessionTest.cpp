@@ -40,11 +40,13 @@ class Session : public testing::Test {
 TEST_F(Session, OpensReadsAndCloses) {
   EXPECT_EQ(Status(), "Comunicacion no iniciada");
   EXPECT_FALSE(frame.Leer.face.Enabled());
+  frame.CallNum.SetText("600111222");  // without the modem it is not called
   Click("IniCom");
   EXPECT_EQ(program.general.GetForm().MousePointer(), Pointer::Hourglass);
   std::vector<std::string> texts;
   frame.ComStat.face.OnChanged = [&] { texts.push_back(Status()); };
   world.loop.RunFor(seconds(15));
+  ASSERT_TRUE(program.Connected);
   EXPECT_EQ(texts,
             (std::vector<std::string>{"Detectando Ostrel VR200...", "Comunicacion iniciada"}));
   EXPECT_EQ(frame.IniCom.face.Caption(), "Cerrar comunicacion");
@@ -68,15 +70,18 @@ TEST_F(Session, AsksAboutAClockMoreThanTenMinutesOff) {
   struct Case {
     int secondsOff;
     bool asked;
+    BoxAnswer answer = BoxAnswer::Yes;
   };
-  for (const Case& c : {Case{540, false}, Case{-540, false}, Case{660, true}, Case{-660, true}}) {
+  for (const Case& c : {Case{590, false}, Case{-590, false}, Case{615, true}, Case{-615, true},
+                        Case{660, true, BoxAnswer::No}}) {
     world.dialogs.boxes.clear();
+    world.dialogs.defaultAnswer = c.answer;
     world.clock.SetNow(FromSeconds(ToSeconds(world.logger->Clock()) + c.secondsOff));
     Connect();
     EXPECT_EQ(world.dialogs.boxes.size(), c.asked ? 1U : 0U) << c.secondsOff;
     const auto left =
         std::abs(ToSeconds(world.clock.LocalNow()) - ToSeconds(world.logger->Clock()));
-    EXPECT_EQ(left < 5, c.asked) << "a yes sets the logger's clock";
+    EXPECT_EQ(left < 5, c.asked && c.answer == BoxAnswer::Yes) << "only a yes sets the clock";
     Click("IniCom");
     world.loop.RunFor(seconds(3));
   }
@@ -295,6 +300,15 @@ TEST_F(ModemSession, DialsAsksTheCodeAndHangsUp) {
   world.loop.RunFor(seconds(10));
   EXPECT_FALSE(program.Connected);
   EXPECT_EQ(requests.back(), "ATH");
+
+  world.dialogs.OnModal(Type("4321"));
+  Click("IniCom");
+  world.loop.RunFor(seconds(60));
+  ASSERT_TRUE(program.Connected);
+  const TimePoint start = world.loop.Now();
+  program.ShutDown();
+  EXPECT_EQ(world.loop.Now(), start) << "the end of the program hangs nothing up politely";
+  EXPECT_FALSE(world.port.PortOpen());
 }
 
 TEST_F(ModemSession, CancellingTheCodeThreeTimesFailsTheHandshake) {

@@ -208,6 +208,14 @@
         <translation>El equipo no ha aceptado la configuración. Conserva la anterior. %1</translation>
     </message>
     <message>
+        <source>The logger answered something else: %1</source>
+        <translation>El equipo ha respondido otra cosa: %1</translation>
+    </message>
+    <message>
+        <source>Another dialogue with the logger is under way.</source>
+        <translation>Hay otro diálogo con el equipo en curso.</translation>
+    </message>
+    <message>
         <source>The logger talks without coming to an end.</source>
         <translation>El equipo habla sin llegar al final.</translation>
     </message>

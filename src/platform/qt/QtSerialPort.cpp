@@ -20,7 +20,6 @@ using std::chrono::milliseconds;
 
 /// Octets taken from the driver with one event: a reader that keeps up loses none.
 constexpr qint64 kMostAtOnce = 4096;
-constexpr Duration kCarrierInterval = milliseconds(100);
 /// Shortest pause between two looks at an output queue that flow control may be holding.
 constexpr Duration kShortestDrainWait = milliseconds(20);
 
@@ -130,12 +129,27 @@ PortFault QtSerialPort::Open() {
                        Lose();
                      }
                    });
-  int lines = 0;
-  if (::ioctl(device_->handle(), TIOCMGET, &lines) == 0) {
-    carrier_ = (lines & TIOCM_CD) != 0;
-    carrierTimer_ = loop_.Every(kCarrierInterval, "carrier watch", [this] { WatchCarrier(); });
-  }
+  WatchDevice(path);
   return PortFault::None;
+}
+
+/// A hang-up comes as an event of reading. This is for what has none there: a node that is taken
+/// away, and the carrier line where the device has one.
+void QtSerialPort::WatchDevice(const std::string& path) {
+  nodeWatch_ = std::make_unique<NodeWatch>(loop_, path, [this] { Lose(); });
+  const int handle = device_->handle();
+  CarrierLine line{
+      .look = [handle]() -> std::optional<bool> {
+        int lines = 0;
+        if (::ioctl(handle, TIOCMGET, &lines) != 0) return {};
+        return (lines & TIOCM_CD) != 0;
+      },
+      .await = [handle] { return ::ioctl(handle, TIOCMIWAIT, TIOCM_CD) == 0 || errno == EINTR; }};
+  const std::optional<bool> carrier = line.look();
+  if (!carrier) return;
+  carrier_ = *carrier;
+  carrierWatch_ = std::make_unique<CarrierWatch>(
+      loop_, std::move(line), [this](std::optional<bool> now) { SeeCarrier(now); });
 }
 
 PortFault QtSerialPort::OpenDevice(const std::string& path) {
@@ -174,9 +188,9 @@ void QtSerialPort::ApplySettings(QSerialPort& device) const {
 }
 
 void QtSerialPort::Close() {
-  for (TimerId* timer : {&carrierTimer_, &drainTimer_, &loseTimer_}) {
-    loop_.Cancel(std::exchange(*timer, 0));
-  }
+  for (TimerId* timer : {&drainTimer_, &loseTimer_}) loop_.Cancel(std::exchange(*timer, 0));
+  carrierWatch_.reset();
+  nodeWatch_.reset();
   if (device_ && !lost_) {
     device_->disconnect();
     device_->flush();
@@ -204,19 +218,17 @@ void QtSerialPort::Lose() {
   if (lost_) return;
   lost_ = true;
   carrier_ = false;
-  loop_.Cancel(carrierTimer_);
-  loseTimer_ = loop_.After(Duration::zero(), "lost port", [this] { device_.reset(); });
+  loseTimer_ = loop_.After(Duration::zero(), "lost port", [this] {
+    carrierWatch_.reset();
+    nodeWatch_.reset();
+    device_.reset();
+  });
 }
 
-void QtSerialPort::WatchCarrier() {
-  int lines = 0;
-  if (::ioctl(device_->handle(), TIOCMGET, &lines) != 0) {
-    Lose();
-    return;
-  }
-  const bool carrier = (lines & TIOCM_CD) != 0;
-  if (carrier == carrier_) return;
-  carrier_ = carrier;
+void QtSerialPort::SeeCarrier(std::optional<bool> carrier) {
+  if (!carrier) return Lose();
+  if (*carrier == carrier_ || lost_) return;
+  carrier_ = *carrier;
   commEvent_ = kCommEventCarrier;
   if (onComm_) onComm_();
 }

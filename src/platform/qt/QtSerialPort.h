@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -13,6 +14,8 @@
 
 #include "platform/ReceiveBuffer.h"
 #include "platform/SerialPort.h"
+#include "platform/qt/CarrierWatch.h"
+#include "platform/qt/NodeWatch.h"
 #include "platform/qt/PortMap.h"
 #include "platform/qt/QtEventLoop.h"
 
@@ -59,7 +62,8 @@ class QtSerialPort final : public SerialPort {
   void ApplySettings(QSerialPort& device) const;
   void ApplyModemLine(int line, bool on) const;
   void TakeIn();
-  void WatchCarrier();
+  void WatchDevice(const std::string& path);
+  void SeeCarrier(std::optional<bool> carrier);
   void WatchDrain();
   std::size_t OctetsUnderWay() const;
   void Lose();
@@ -80,7 +84,8 @@ class QtSerialPort final : public SerialPort {
   bool carrier_ = false;
   int commEvent_ = 0;
   std::function<void()> onComm_;
-  TimerId carrierTimer_ = 0;
+  std::unique_ptr<CarrierWatch> carrierWatch_;
+  std::unique_ptr<NodeWatch> nodeWatch_;
   TimerId drainTimer_ = 0;
   TimerId loseTimer_ = 0;
 };

@@ -7,16 +7,16 @@ using testing::ElementsAre;
 using testing::ElementsAreArray;
 
 /// Information, clock and live dialogues of a session.
-class CommsSession : public LinkTest {
+class SessionTest : public LinkTest {
  protected:
-  CommsSession() { OpenPort(); }
+  SessionTest() { OpenPort(); }
   void Select(std::string_view model, std::int32_t features = 0) {
     SelectTarget(profile, model);
     info.Features = features;
   }
 };
 
-TEST_F(CommsSession, InfoStreamFillsTheRecord) {
+TEST_F(SessionTest, InfoStreamFillsTheRecord) {
   logger.Always("#44", Frames("#BB000VERSION,123", "#BB001FEATURES,1088", "#BB002SERIAL,A\xD1o 7,x",
                               "#BB003VBAT,3.61", "#BB004RSSI,-17", "#BB005LOG.SIZE,4000000000",
                               "#BB006LOG.USE,", "#BB007NEWER,1", "#BB"));
@@ -29,43 +29,45 @@ TEST_F(CommsSession, InfoStreamFillsTheRecord) {
   EXPECT_FALSE(comms.LinkBusy);
 }
 
-TEST_F(CommsSession, InfoFaults) {
+TEST_F(SessionTest, InfoFaults) {
   struct Case {
     const char* name;
     std::string first, then;  ///< answers to the first and to all further requests
     float version;
     std::size_t requests;
     int cost;  ///< ms
+    Kind kind;
+    bool isDamage;
   };
-  const std::string good = Frames("#BB000VERSION,5", "#BB");
+  const std::string good = Frames("#BB000VERSION,5", "#BB"), line = Frames("#BB000VERSION,7");
   const Case cases[] = {
-      {"dead line", "", "", 1, 9, 9300},
-      {"out of sequence", Frames("#BB001VERSION,7"), good, 5, 2, 200},
-      {"broken off by another line", Frames("#BB000VERSION,7", "#BD001X"), good, 5, 2, 200},
-      {"empty stream", Frames("#BB"), Frames("#BB"), 1, 3, 300},
-      {"wrong answer", Frames("#BE0"), good, 5, 2, 200},
-      {"stops in the middle", Frames("#BB000VERSION,7"), good, 7, 1, 1100},
-      {"too wide a number", Frames("#BB000VERSION,1e39", "#BB"), good, 1, 1, 100},
+      {"dead line", "", "", 1, 9, 9300, Kind::Silence, false},
+      {"out of sequence", Frames("#BB001VERSION,7"), good, 5, 2, 200, Kind::None, false},
+      {"broken off", line + Frames("#BD001X"), good, 5, 2, 200, Kind::None, false},
+      {"empty stream", Frames("#BB"), Frames("#BB"), 1, 3, 300, Kind::EmptyStream, true},
+      {"wrong answer", Frames("#BE0"), Frames("#BE0"), 1, 3, 300, Kind::OutOfSequence, true},
+      {"stops in the middle", line, good, 7, 1, 1100, Kind::Silence, true},
+      {"damaged line", line + "#00;BB001\r", good, 7, 1, 100, Kind::BadChecksum, true},
+      {"all damaged", "#00;BB000\r", "#00;BB000\r", 1, 9, 300, Kind::BadChecksum, true},
+      {"too wide a number", Frames("#BB000VERSION,1e39", "#BB"), good, 1, 1, 100, Kind::None,
+       false},
   };
-  comms.WriteConf();
-  const Kind before = comms.Fault().kind;
-  EXPECT_NE(before, Kind::None);
   for (const Case& c : cases) {
     SCOPED_TRACE(c.name);
     logger.Forget();
     if (!c.first.empty()) logger.Next("#44", c.first);
     logger.Always("#44", c.then);
     info.FirmwareVersion = 1;
-    const TimePoint start = loop.Now();
-    EXPECT_FALSE(comms.ReadInfo());
+    EXPECT_EQ(Took([&] { EXPECT_FALSE(comms.ReadInfo()); }), milliseconds(c.cost));
     EXPECT_EQ(info.FirmwareVersion, c.version);
     EXPECT_EQ(logger.lines.size(), c.requests);
-    EXPECT_EQ(loop.Now() - start, milliseconds(c.cost));
-    EXPECT_EQ(comms.Fault().kind, before) << "the refresh does not hide a failure";
+    EXPECT_EQ(comms.InfoFault().kind, c.kind);
+    EXPECT_EQ(comms.InfoFault().IsDamage(), c.isDamage);
+    EXPECT_EQ(comms.Fault().kind, Kind::None) << "the refresh does not hide a failure";
   }
 }
 
-TEST_F(CommsSession, ClockCountsOnFromARealDate) {
+TEST_F(SessionTest, ClockCountsOnFromARealDate) {
   const DateTime former{2020, 1, 1, 0, 0, 0}, good{2026, 1, 15, 8, 30, 5};
   struct Case {
     Texts answers;
@@ -92,7 +94,7 @@ TEST_F(CommsSession, ClockCountsOnFromARealDate) {
   }
 }
 
-TEST_F(CommsSession, SettingsAreConfirmed) {
+TEST_F(SessionTest, SettingsAreConfirmed) {
   struct Case {
     std::function<bool()> set;
     std::string message, answer;
@@ -120,7 +122,7 @@ TEST_F(CommsSession, SettingsAreConfirmed) {
   }
 }
 
-TEST_F(CommsSession, OutputsAreSetOneByOne) {
+TEST_F(SessionTest, OutputsAreSetOneByOne) {
   profile.OutputCount = 4;
   for (const char* line : {"#470", "#481", "#472", "#483", "#473"})
     logger.Always(line, Frames("#whatever"));
@@ -134,7 +136,7 @@ TEST_F(CommsSession, OutputsAreSetOneByOne) {
   EXPECT_EQ(logger.lines.size(), 3U);
 }
 
-TEST_F(CommsSession, EachModelIsAskedWhatItKnows) {
+TEST_F(SessionTest, EachModelIsAskedWhatItKnows) {
   constexpr std::int32_t kMath = 0x40;
   struct Case {
     std::string_view model;
@@ -181,7 +183,7 @@ std::string Numbered(const std::string& head, int last) {
   return Frames(line);
 }
 
-TEST_F(CommsSession, ValuesComeFromTheirFields) {
+TEST_F(SessionTest, ValuesComeFromTheirFields) {
   const std::pair<const char*, std::string> answers[] = {
       {"#20", Numbered("#DF", 20)},     {"#22", Numbered("#DD", 20)},
       {"#23", Numbered("#DC", 20)},     {"#29", Numbered("#D6", 20)},
@@ -211,7 +213,7 @@ TEST_F(CommsSession, ValuesComeFromTheirFields) {
   }
 }
 
-TEST_F(CommsSession, NamesComeFromTheirFields) {
+TEST_F(SessionTest, NamesComeFromTheirFields) {
   const std::pair<const char*, const char*> answers[] = {
       {"#2C", "#D3"}, {"#35", "#CA"}, {"#26", "#D9"},     {"#27", "#D8"},
       {"#25", "#DA"}, {"#2A", "#D5"}, {"#2B1D24", "#D4"}, {"#2BADB4", "#D4"}};
@@ -239,7 +241,7 @@ TEST_F(CommsSession, NamesComeFromTheirFields) {
               ElementsAre("2", "3", "4", "5", "6", "7", "8", "9", "10", ""));
 }
 
-TEST_F(CommsSession, TotalsAreCutToWholeNumbers) {
+TEST_F(SessionTest, TotalsAreCutToWholeNumbers) {
   logger.Next("#20", Frames("#DD,9"));
   logger.Next("#20", Frames("#DF,7.9,-7.9,3000000000,4"));
   totals[2] = 5;
@@ -250,14 +252,6 @@ TEST_F(CommsSession, TotalsAreCutToWholeNumbers) {
   logger.Always("#20", Frames("#DD,9"));
   EXPECT_FALSE(comms.ReadTotalCount());
   EXPECT_EQ(logger.lines.size(), 5U);
-}
-
-TEST_F(CommsSession, TicksDuringADialogueAreTurnedAway) {
-  int refused = 0;
-  loop.Every(milliseconds(100), "monitor", [&] { refused += comms.ReadRealTime() ? 0 : 1; });
-  comms.ReadInfo();
-  EXPECT_EQ(refused, 93);
-  EXPECT_THAT(logger.lines, testing::Each("#44"));
 }
 
 }  // namespace
