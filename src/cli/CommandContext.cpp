@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <charconv>
 
-#include "base/Scope.h"
 #include "host/LangSeed.h"
 #include "host/SimulatedLoggers.h"
 
@@ -43,45 +42,34 @@ CommandContext::CommandContext(Environment& world, GlobalOptions shared)
       dialogs(world, console, options),
       platform(world.platform.With(dialogs)),
       langFile_(SeedLang(platform.files, world.shippedLang, world.dataFolder + "/Lang.txt")),
-      noPorts_(platform.loop) {}
+      lang_(platform.files, langFile_) {
+  lang_.Init();
+  lang_.SetSelectedLang(options.lang);
+}
 
-std::unique_ptr<Configurator> CommandContext::Make(const Platform& world, std::string_view model) {
+std::unique_ptr<Configurator> CommandContext::MakeOnline(std::string_view model) {
   auto configurator = std::make_unique<Configurator>(
-      world, ConfiguratorOptions{.programFolder = {}, .langFile = langFile_});
+      platform, ConfiguratorOptions{.programFolder = {}, .langFile = langFile_});
   configurator->StartForCommand(model, options.lang);
   return configurator;
 }
 
-std::unique_ptr<Configurator> CommandContext::MakeOnline(std::string_view model) {
-  return Make(platform, model);
-}
-
-std::unique_ptr<Configurator> CommandContext::MakeOffline(std::string_view model) {
-  return Make(platform.With(noPorts_), model);
-}
-
-std::unique_ptr<Configurator> CommandContext::OpenOffline(const std::string& path) {
-  const auto model = ChooseModel({}, path);
-  if (!model) return nullptr;
-  auto configurator = MakeOffline(*model);
-  return Open(*configurator, path) ? std::move(configurator) : nullptr;
-}
-
-bool CommandContext::Open(Configurator& configurator, const std::string& path) {
+std::optional<ModelConfiguration> CommandContext::OpenFile(const std::string& path) {
   if (!platform.files.Read(path)) {
     console.Fail(ExitCode::BadFile, "cannot read " + path);
-    return false;
+    return {};
   }
-  const Lent muted(dialogs.mute, true);
-  const std::string model = configurator.profile.TargetName;
-  if (configurator.OpenFile(path) == RestoreResult::Loaded) {
-    if (!options.target.empty() && configurator.profile.TargetName != model)
-      console.Note(path + " is for the model " + configurator.profile.TargetName + ", not " +
-                   model);
-    return true;
+  TargetProfile present;
+  if (const auto model = ChooseModel({}, path)) SelectTarget(present, *model);
+  auto read = ReadConfiguration(platform.files, path, present, Translator());
+  if (!read) {
+    console.Fail(ExitCode::BadFile, path + " is no configuration of any of the six models");
+    return {};
   }
-  console.Fail(ExitCode::BadFile, path + " is no configuration of any of the six models");
-  return false;
+  if (!options.target.empty() && read->profile.TargetName != present.TargetName)
+    console.Note(path + " is for the model " + read->profile.TargetName + ", not " +
+                 present.TargetName);
+  return read;
 }
 
 std::string CommandContext::ModelOfFile(const std::string& path) {
@@ -141,8 +129,12 @@ ExitCode CommandContext::ChoosePort(PortChoice& choice) {
   return ExitCode::Done;
 }
 
-DeviceConf EmptyConf(CommandContext& context, const Configurator& configurator) {
-  return context.MakeOffline(configurator.profile.TargetName)->conf;
+ExitCode CommandContext::Show(const Result& result, JsonLayout layout) {
+  if (options.json)
+    WriteJson(console.Out(), result.json(), layout);
+  else
+    result.text(console.Out());
+  return ExitCode::Done;
 }
 
 }  // namespace ostrel::cli

@@ -7,13 +7,13 @@
 #include <QSplitter>
 #include <QStatusBar>
 
-#include "desktop/ConfigurationReader.h"
 #include "desktop/FaultDetails.h"
 #include "desktop/FaultText.h"
 #include "desktop/Icons.h"
 #include "desktop/Words.h"
 #include "platform/Settings.h"
 #include "shell/Configurator.h"
+#include "shell/ForeignKeys.h"
 
 namespace ostrel {
 namespace {
@@ -69,6 +69,10 @@ MainWindow::MainWindow(const WindowParts& parts)
     shownFile_.clear();  // it is of the former model
     unsaved_.Touch();
   };
+  configurator_.OnForeignKeys = [this](const std::string& path,
+                                       const std::vector<std::string>& lost) {
+    return MayLose(path, lost);
+  };
   navigation_.OnFrontChanged = Following(&MainWindow::ShowFront);
   configurator_.session.OnStateChanged = Following(&MainWindow::ShowSession);
   configurator_.session.OnTick = Following(&MainWindow::Look);
@@ -92,6 +96,7 @@ void MainWindow::LetGo() {
   session.OnStateChanged = session.OnTick = session.Watch().OnStep = nullptr;
   session.OnTransferEnded = nullptr;
   configurator_.comms.Trace = nullptr;
+  configurator_.OnForeignKeys = nullptr;
   navigation_.OnTargetChanged = navigation_.OnFrontChanged = nullptr;
 }
 
@@ -212,18 +217,35 @@ void MainWindow::TransferEnded(const TransferEnd& end) {
   if (!end.done) return;
   unsaved_.Keep(end.held);
   if (end.kind == SessionPhase::Reading) shownFile_.clear();
-  const FileResult kept = copies_.Keep(configurator_, end.held).result;
+  const FileResult kept =
+      copies_.Keep(end.held, configurator_.profile, configurator_.info.SerialNumber).result;
   if (!kept.Ok())
     statusBar()->showMessage(Words::tr("No safety copy could be kept: %1").arg(ToQt(kept.error)),
                              kMessageTime);
   ShowTitle();
 }
 
-std::optional<std::vector<FieldDifference>> MainWindow::FileDifferences() const {
-  const auto file = ReadConfiguration(parts_.platform, configurator_.profile.TargetName,
-                                      configurator_.ConfFilePath);
-  if (!file || file->model != configurator_.profile.TargetName) return {};
-  return CompareFields(FieldLines(configurator_, configurator_.conf), file->lines);
+std::optional<ModelConfiguration> MainWindow::ReadFile(const std::string& path) const {
+  return ReadConfiguration(
+      parts_.platform.files, path, configurator_.profile,
+      [this](std::string_view text) { return configurator_.context.Translate(text); });
+}
+
+std::optional<Comparison> MainWindow::FileDifferences() const {
+  const auto file = ReadFile(configurator_.ConfFilePath);
+  if (!file || file->profile.TargetName != configurator_.profile.TargetName) return {};
+  return ostrel::Compare({configurator_.profile, configurator_.conf}, *file);
+}
+
+bool MainWindow::MayLose(const std::string& path, const std::vector<std::string>& lost) {
+  const BoxAnswer answer = parts_.platform.dialogs.ShowMessage(
+      {.text = FromQt(Words::tr("%1 holds what this program does not write and would lose: %2. "
+                                "Replace it?")
+                          .arg(ToQt(path), ToQt(ForeignKeysText(lost)))),
+       .title = configurator_.profile.TargetName,
+       .icon = BoxIcon::Question,
+       .buttons = BoxButtons::YesNo});
+  return answer == BoxAnswer::Yes;
 }
 
 bool MainWindow::MayLeave() {

@@ -13,6 +13,7 @@
 #include "desktop/TreePane.h"
 #include "platform/Platform.h"
 #include "shell/Comparison.h"
+#include "shell/ConfigurationFile.h"
 #include "shell/Navigation.h"
 #include "shell/RecentFiles.h"
 #include "shell/SafetyCopies.h"
@@ -93,11 +94,15 @@ class MainWindow final : public QMainWindow {
   void LetGo();
   void TransferEnded(const TransferEnd& end);
   /// What the file at `ConfFilePath` holds otherwise than the program; nothing when it is refused.
-  std::optional<std::vector<FieldDifference>> FileDifferences() const;
+  std::optional<Comparison> FileDifferences() const;
+  /// Reads a configuration file beside the present configuration.
+  std::optional<ModelConfiguration> ReadFile(const std::string& path) const;
   /// Notes a file as the one worked on.
   void WorkOn(const std::string& path);
   void RestorePlace();
   void KeepPlace();
+  /// Whether a file may be replaced that holds what this program does not write.
+  bool MayLose(const std::string& path, const std::vector<std::string>& lost);
   /// True when the present configuration may go: nothing is unsaved, or the operator says so.
   bool MayLeave();
 

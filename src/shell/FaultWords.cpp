@@ -87,6 +87,19 @@ FaultWords LinkWords(const SessionFault& fault, const std::string& port) {
       return {{"the logger refused statement %1: \"%2\"", {number, link.text}}, {}, {}};
     case Kind::NotTakenOver:
       return NotTakenOver(fault);
+    case Kind::WrongAnswer:
+      return {{"the logger answered something else: \"%1\"", {link.text}}, {}, {}};
+    case Kind::Busy:
+      return {{"another dialogue with the logger is under way"}, {}, {}};
+    case Kind::OutOfTime:
+      return {AtPlace(fault, "the logger came to no end", "the logger came to no end at record %1",
+                      "the logger came to no end at statement %1"),
+              {},
+              {}};
+    case Kind::LineHeld:
+      return {{"the line at %1 was held", {port}},
+              {"check that the logger is switched on and that the cable has RTS and CTS"},
+              {}};
     case Kind::LineLost:
       return {{"%1 has gone in the middle of the dialogue", {port}}, {kPlugIn}, {}};
     case Kind::PortClosed:

@@ -62,8 +62,9 @@ class Navigation {
 
   /// The form in front; null when there is none.
   Form* Front() const;
-  /// The page in front; null when there is none or the front is not a page.
+  /// The page in front; null when there is none, or another form has the front.
   Page* FrontPage() const;
+  /// The page in front; null when there is none or the front is not a page.
 
   /// Runs after another form is in front, or none. Set by the window.
   std::function<void()> OnFrontChanged;

@@ -43,7 +43,8 @@ SessionDriver::SessionDriver(PageContext& context, Comms& comms, General& genera
       general_(general),
       session_(general.Session()),
       Connected_(Connected),
-      watch_(context.platform.loop, context.platform.settings) {
+      watch_(context.platform.loop, context.platform.settings),
+      progress_(comms.OnProgress([this](const Progress& progress) { watch_.Follow(progress); })) {
   session_.TimerComms.OnTimer = [this] {
     Tick();
     if (OnTick) OnTick();
@@ -93,7 +94,8 @@ bool SessionDriver::Open(std::int16_t port, const std::string& phone) {
       "", context_.Translate("Detectando ") + context_.profile.TargetName + "...");
   Connected_ = comms_.StartComs(port, phone);
   if (Connected_) ReadAfterConnect();
-  if (brokenOff_) Connected_ = false;
+  // Whoever breaks the opening off closes the port.
+  Connected_ = comms_.PortOpen();
   ShowState();
   opening.Ended(Connected_);
   return Connected_;
@@ -110,8 +112,8 @@ void SessionDriver::BreakOff() {
 
 bool SessionDriver::CompleteInfo() {
   constexpr int kTries = 2;
-  for (int i = 0; i < kTries && !comms_.InfoComplete(); ++i) comms_.ReadInfo();
-  return comms_.InfoComplete();
+  for (int i = 0; i < kTries && comms_.InfoFault().IsDamage(); ++i) comms_.ReadInfo();
+  return comms_.InfoFault().kind == LinkFault::Kind::None;
 }
 
 void SessionDriver::Close(bool modem) {
@@ -127,7 +129,7 @@ void SessionDriver::ReadAfterConnect() {
   comms_.ReadTotalCount();
   comms_.ReadIOParameter();
   comms_.ReadDeviceRTC();
-  if (!brokenOff_) CompareClocks();
+  if (comms_.PortOpen()) CompareClocks();
 }
 
 void SessionDriver::CompareClocks() {
@@ -172,7 +174,7 @@ bool SessionDriver::Transfer(SessionPhase kind, std::string_view status, std::st
       session_.EnableTransfers(Connected_);
       form.SetEnabled(true);
       form.SetMousePointer(Pointer::Default);
-      watch_.End(end.done);
+      watch_.End();
     });
     SetStatus(status);
     // Goes on without, too: a logger that never ends its information may still give the rest.
@@ -197,14 +199,6 @@ void SessionDriver::BeginWatch(SessionPhase kind) {
     watch_.BeginReading(context_.profile.TargetType);
   else
     watch_.BeginWriting(static_cast<int>(comms_.ComposeStatements().size()));
-}
-
-void SessionDriver::FollowBar(int value) {
-  // A full bar says that the transfer is over, not how many steps it had.
-  const bool isFull = value >= session_.PBar.Maximum();
-  if (state_.phase == SessionPhase::Reading && !isFull) watch_.Step(value + 1);
-  if (state_.phase == SessionPhase::Writing && (!isFull || value == comms_.StatementNo))
-    watch_.Step(value);
 }
 
 bool SessionDriver::OwnsModel() const {

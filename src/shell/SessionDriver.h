@@ -31,11 +31,13 @@ class SessionDriver {
   /// that the outer tick runs must not be disturbed.
   void Tick();
   /// Opens a session on a port, through a modem when there is a phone number. True when it stands.
+  /// `Comms::Abort` breaks it off at any point.
   bool Open(std::int16_t port, const std::string& phone);
   /// Ends what is under way by closing the port at once; the session is closed by that.
   void BreakOff();
   /// Asks for the information again where a damaged line has cut it short: what a firmware can do
-  /// decides how a configuration is read and written. False when it stays unknown.
+  /// decides how a configuration is read and written. A logger that is silent is not asked again:
+  /// the dialogue that follows finds that out by itself. False when it stays unknown.
   bool CompleteInfo();
   /// Closes the session, hanging up when `modem` is set.
   void Close(bool modem);
@@ -61,8 +63,6 @@ class SessionDriver {
   // What the link tells.
   /// An attempt of an upload has taken its state from the model.
   void KeepSent() { sent_ = context_.conf; }
-  /// The progress bar of a transfer has been set.
-  void FollowBar(int value);
   /// The operator was asked for an access code.
   void CodeAsked(bool given);
 
@@ -95,6 +95,7 @@ class SessionDriver {
   SessionFrame& session_;
   bool& Connected_;
   TransferWatch watch_;
+  ProgressFeed::Subscription progress_;  ///< of the watch
   SessionState state_;
   std::int16_t port_ = 0;
   bool ticking_ = false;

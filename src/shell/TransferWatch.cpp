@@ -17,16 +17,21 @@ void TransferWatch::Begin(std::string readFrom, int steps) {
   time_.Start(loop_.Now(), steps);
 }
 
-void TransferWatch::Step(int done) {
-  if (!running_) return;
-  time_.Step(loop_.Now(), done);
-  reachedEnd_ = reachedEnd_ || done >= time_.Steps();
+void TransferWatch::Follow(const Progress& progress) {
+  switch (progress.stage) {
+    case Progress::Stage::Begun:
+      break;
+    case Progress::Stage::Step:
+      time_.Step(loop_.Now(), progress.step);
+      reachedEnd_ = reachedEnd_ || progress.step >= time_.Steps();
+      break;
+    case Progress::Stage::Done:
+      if (!readFrom_.empty()) counts_.Keep(readFrom_, time_.Done());
+      break;
+    case Progress::Stage::Failed:
+      break;
+  }
   if (OnStep) OnStep();
-}
-
-void TransferWatch::End(bool complete) {
-  running_ = false;
-  if (complete && !readFrom_.empty()) counts_.Keep(readFrom_, time_.Done());
 }
 
 }  // namespace ostrel

@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 
+#include "link/Progress.h"
 #include "platform/EventLoop.h"
 #include "shell/RecordCounts.h"
 #include "shell/RemainingTime.h"
@@ -16,14 +17,15 @@ class TransferWatch {
  public:
   TransferWatch(const EventLoop& loop, Settings& settings) : loop_(loop), counts_(settings) {}
 
-  /// A download from a logger of a model begins; it is expected to be as long as the last one.
+  /// A download from a logger of a model comes next; it is expected to be as long as the last one.
   void BeginReading(const std::string& targetType);
-  /// An upload of so many statements begins.
+  /// An upload of so many statements comes next.
   void BeginWriting(int statements);
-  /// So many records have come, or statements have been sent. A number that falls is a new attempt.
-  void Step(int done);
-  /// The transfer has ended. A download that has brought everything tells how long the next one is.
-  void End(bool complete);
+  /// Takes how far the transfer is. A number that falls is a new attempt. A download that has
+  /// brought everything tells how long the next one is expected to be.
+  void Follow(const Progress& progress);
+  /// The transfer has ended, whether it had begun or not.
+  void End() { running_ = false; }
 
   bool Running() const { return running_; }
   int Done() const { return time_.Done(); }

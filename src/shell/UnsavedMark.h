@@ -1,9 +1,9 @@
 #pragma once
 
+#include <string>
 #include <vector>
 
 #include "model/DeviceConf.h"
-#include "shell/Comparison.h"
 
 namespace ostrel {
 
@@ -25,12 +25,15 @@ class UnsavedMark {
   /// not while a download replaces the model.
   bool Changed();
   /// The configuration as it would be if the page in front were committed.
-  DeviceConf WithFront();
+  DeviceConf WithFront() const;
 
  private:
+  /// What a file of the selected model would hold.
+  std::vector<std::string> Texts(const DeviceConf& conf) const;
+
   Configurator& configurator_;
   Navigation& navigation_;
-  std::vector<FieldLine> kept_;
+  std::vector<std::string> kept_;
   bool touched_ = true;
   bool changed_ = false;
 };

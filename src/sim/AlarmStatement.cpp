@@ -1,10 +1,8 @@
 #include "sim/AlarmStatement.h"
 
 #include <cstddef>
-#include <cstdint>
-#include <limits>
+#include <string>
 #include <string_view>
-#include <utility>
 
 namespace ostrel::sim {
 namespace {
@@ -21,96 +19,91 @@ void ReadNotification(StatementCursor& in, Alarm& alarm) {
   if (!voice && !gprs && !nobody) alarm.notify |= kNotifySms;
 }
 
-void ReadValidity(StatementCursor& in, Alarm& alarm) {
-  alarm.start = 0;
-  alarm.stop = kWholeDay;
-  alarm.week = kEveryDay;
-  if (!in.Has(",START=")) return;
-  alarm.start = in.TimeOfDay();
-  in.Expect(",STOP=");
-  alarm.stop = in.TimeOfDay();
-  in.Expect(",WEEK=");
-  alarm.week = in.Week();
-}
-
-void ReadFlag(StatementCursor& in, Alarm& alarm) {
-  in.Expect(",EQ=");
-  alarm.flag = in.Whole(0, kFlags);
-}
-
-void ReadActions(StatementCursor& in, std::string_view token, Actions& actions) {
-  in.Expect(token);
-  std::size_t place = 0;
-  while (!in.Rest().empty() && in.Rest().front() != ',') {
-    if (place == actions.size()) return in.Fail("more than 8 actions");
-    actions[place++] = in.Whole(1, std::numeric_limits<std::int16_t>::max());
-  }
-}
-
 std::string ReadText(StatementCursor& in) {
   in.Expect("=");
   return in.Text();
 }
 
+Alarm& ReadIndex(StatementCursor& in, std::span<Alarm> row) {
+  in.Expect(",INDEX=");
+  return row[static_cast<std::size_t>(in.Whole(0, static_cast<int>(row.size()) - 1))];
+}
+
+float ReadNumber(StatementCursor& in, std::string_view token) {
+  in.Expect(token);
+  return in.Decimal();
+}
+
 }  // namespace
 
-int ReadAlarmIndex(StatementCursor& in, int alarms) {
-  in.Expect(",INDEX=");
-  return in.Whole(0, alarms - 1);
+int ReadFlag(StatementCursor& in) {
+  in.Expect(",EQ=");
+  return in.Whole(0, kFlags);
 }
 
-void ReadDigitalAlarm(StatementCursor& in, AlarmRow& row) {
-  Alarm alarm;
-  alarm.text = ReadText(in);
-  const int index = ReadAlarmIndex(in, kAlarms);
-  in.Expect(",PC=");
-  alarm.persistence = in.Decimal();
-  in.Expect(",PO=");
-  alarm.rearm = in.Decimal();
-  ReadNotification(in, alarm);
-  ReadValidity(in, alarm);
-  ReadFlag(in, alarm);
-  ReadActions(in, ",ACTCLOSE=", alarm.high);
-  ReadActions(in, ",ACTOPEN=", alarm.low);
-  in.End();
-  row[static_cast<std::size_t>(index)] = std::move(alarm);
-}
-
-void ReadAnalogAlarm(StatementCursor& in, AlarmRow& row, bool withPersistence) {
-  Alarm alarm;
-  alarm.text = ReadText(in);
-  Alarm& held = row[static_cast<std::size_t>(ReadAlarmIndex(in, kAlarms))];
-  in.Expect(",MAX=");
-  alarm.maximum = in.Decimal();
-  in.Expect(",MIN=");
-  alarm.minimum = in.Decimal();
-  in.Expect(",HIST=");
-  alarm.hysteresis = in.Decimal();
-  alarm.persistence = held.persistence;
-  if (withPersistence) {
-    in.Expect(",P=");
-    alarm.persistence = in.Decimal();
+Actions ReadActions(StatementCursor& in, std::string_view token) {
+  Actions actions{};
+  in.Expect(token);
+  std::size_t place = 0;
+  while (!in.Rest().empty() && in.Rest().front() != ',') {
+    if (place == actions.size()) {
+      in.Fail("more than 8 actions");
+      break;
+    }
+    actions[place++] = in.Whole(1, kMost16);
   }
+  return actions;
+}
+
+void ReadContactAlarm(StatementCursor& in, std::span<Alarm> row) {
+  Alarm alarm;
+  alarm.text = ReadText(in);
+  Alarm& held = ReadIndex(in, row);
+  alarm.persistence = ReadNumber(in, ",PC=");
+  alarm.rearm = ReadNumber(in, ",PO=");
   ReadNotification(in, alarm);
-  ReadValidity(in, alarm);
-  ReadFlag(in, alarm);
-  ReadActions(in, ",ACTHI=", alarm.high);
-  ReadActions(in, ",ACTLO=", alarm.low);
-  ReadActions(in, ",ACTNOM=", alarm.normal);
+  ReadRange(in, alarm);
+  alarm.flag = ReadFlag(in);
+  alarm.high = ReadActions(in, ",ACTCLOSE=");
+  alarm.low = ReadActions(in, ",ACTOPEN=");
   in.End();
   held = std::move(alarm);
 }
 
-void ReadFlagAlarm(StatementCursor& in, Alarm& held) {
+void ReadLevelAlarm(StatementCursor& in, std::span<Alarm> row, Persistence persistence) {
   Alarm alarm;
   alarm.text = ReadText(in);
-  ReadAlarmIndex(in, 1);
+  Alarm& held = ReadIndex(in, row);
+  alarm.maximum = ReadNumber(in, ",MAX=");
+  alarm.minimum = ReadNumber(in, ",MIN=");
+  alarm.hysteresis = ReadNumber(in, ",HIST=");
+  alarm.persistence = persistence == Persistence::Told ? ReadNumber(in, ",P=") : held.persistence;
   ReadNotification(in, alarm);
-  ReadValidity(in, alarm);
-  ReadActions(in, ",ACTHI=", alarm.high);
-  ReadActions(in, ",ACTLO=", alarm.low);
+  ReadRange(in, alarm);
+  alarm.flag = ReadFlag(in);
+  alarm.high = ReadActions(in, ",ACTHI=");
+  alarm.low = ReadActions(in, ",ACTLO=");
+  alarm.normal = ReadActions(in, ",ACTNOM=");
   in.End();
   held = std::move(alarm);
+}
+
+void ReadFlagAlarm(StatementCursor& in, std::span<Alarm> row) {
+  Alarm alarm;
+  alarm.text = ReadText(in);
+  Alarm& held = ReadIndex(in, row);
+  ReadNotification(in, alarm);
+  ReadRange(in, alarm);
+  alarm.high = ReadActions(in, ",ACTHI=");
+  alarm.low = ReadActions(in, ",ACTLO=");
+  in.End();
+  held = std::move(alarm);
+}
+
+void RemoveAlarm(StatementCursor& in, std::span<Alarm> row) {
+  Alarm& held = ReadIndex(in, row);
+  in.End();
+  held = {};
 }
 
 }  // namespace ostrel::sim

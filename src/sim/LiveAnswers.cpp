@@ -61,13 +61,12 @@ class Answers {
   }
   std::string AnalogNames() {
     for (const AnalogInput& input : conf_.analogs) {
-      const AnalogScale& scale = input.scale;
-      Add(static_cast<int>(scale.interface));
-      Add(scale.group);
-      Add(scale.valueAtStart);
-      Add(scale.valueAtEnd);
-      Add(scale.name);
-      Add(scale.unit);
+      Add(static_cast<int>(input.interface));
+      Add(input.group);
+      Add(input.scale.valueAtStart);
+      Add(input.scale.valueAtEnd);
+      Add(input.name);
+      Add(input.unit);
     }
     return text_;
   }

@@ -52,9 +52,9 @@ int LiveValues::Grown(const Count& count, Kind kind, int index, std::int64_t now
 }
 
 float LiveValues::Analog(const Configuration& conf, int index, std::int64_t now) const {
-  const AnalogScale& scale = conf.analogs.at(static_cast<std::size_t>(index)).scale;
-  if (index >= self_.Traits().analogs || scale.interface == Interface::Off) return 0;
-  return Between(scale.valueAtStart, scale.valueAtEnd, Wave(Kind::Analog, index, now));
+  const AnalogInput& input = conf.analogs.at(static_cast<std::size_t>(index));
+  if (index >= self_.Traits().analogs || input.interface == Interface::Off) return 0;
+  return Between(input.scale.valueAtStart, input.scale.valueAtEnd, Wave(Kind::Analog, index, now));
 }
 
 unsigned LiveValues::DigitalMask(std::int64_t now) const {

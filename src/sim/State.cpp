@@ -5,6 +5,7 @@
 #include "sim/Logger.h"
 #include "sim/NumberText.h"
 #include "sim/StateText.h"
+#include "sim/blocks/Block.h"
 
 namespace ostrel::sim {
 namespace {
@@ -68,7 +69,7 @@ std::string Logger::SaveState() const {
     out("total." + std::to_string(i), std::int64_t{Total(i)});
   for (const auto& [index, value] : live_.ModulesSet(Seconds()))
     out("module." + std::to_string(index), std::int64_t{value});
-  VisitConfiguration(conf_, out);
+  for (const Block* block : Blocks()) block->save(conf_, out);
   for (const auto& [slot, statement] : conf_.kept) out("kept." + slot, statement);
   int macros = 0;
   for (const std::string& macro : conf_.macros) out("macro." + OrderedNumber(macros++), macro);
@@ -88,7 +89,7 @@ bool Logger::LoadState(std::string_view text, std::string& error) {
   in("outputs", outputs);
   const auto totals = ReadIndexed(in, "total.");
   const auto modules = ReadIndexed(in, "module.");
-  VisitConfiguration(conf, in);
+  for (const Block* block : Blocks()) block->load(conf, in);
   conf.kept = in.TakeAll("kept.");
   for (auto& [number, macro] : in.TakeAll("macro.")) conf.macros.push_back(std::move(macro));
 

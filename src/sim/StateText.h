@@ -8,7 +8,7 @@
 #include <string_view>
 #include <utility>
 
-#include "sim/Configuration.h"
+#include "sim/Scale.h"
 
 namespace ostrel::sim {
 
@@ -81,68 +81,45 @@ class StateReader {
   std::string error_;
 };
 
-/// Visits all of a configuration but the kept statements and the macros.
-template <class Conf, class Visitor>
-void VisitConfiguration(Conf& conf, Visitor& visit) {
-  const auto each = [&visit](const std::string& kind, auto& items, auto visitItem) {
-    for (std::size_t i = 0; i < items.size(); ++i) {
-      const std::string prefix = kind + "." + std::to_string(i) + ".";
-      if (!visit.Skips(prefix, items[i])) visitItem(prefix, items[i]);
-    }
-  };
-  const auto alarm = [&visit](const std::string& prefix, auto& a) {
-    visit(prefix + "text", a.text);
-    visit(prefix + "minimum", a.minimum);
-    visit(prefix + "maximum", a.maximum);
-    visit(prefix + "hysteresis", a.hysteresis);
-    visit(prefix + "persistence", a.persistence);
-    visit(prefix + "rearm", a.rearm);
-    visit(prefix + "start", a.start);
-    visit(prefix + "stop", a.stop);
-    visit(prefix + "week", a.week);
-    visit(prefix + "notify", a.notify);
-    visit(prefix + "flag", a.flag);
-    visit(prefix + "actions.high", a.high);
-    visit(prefix + "actions.low", a.low);
-    visit(prefix + "actions.normal", a.normal);
-  };
-  visit("name", conf.name);
-  visit("sms-centre", conf.smsCentre);
-  visit("own-number", conf.ownNumber);
-  visit("restored-text", conf.restoredText);
-  visit("resend-seconds", conf.resendSeconds);
-  visit("resend-count", conf.resendCount);
-  visit("sample-rate", conf.sampleRate);
-  each("phone", conf.phones, [&](const std::string& prefix, auto& phone) {
-    visit(prefix + "number", phone.number);
-    visit(prefix + "priority", phone.priority);
-    visit(prefix + "privilege", phone.privilege);
-    visit(prefix + "mask-mode", phone.maskMode);
-    visit(prefix + "channels", phone.channels);
-  });
-  each("digital", conf.digitals, [&](const std::string& prefix, auto& input) {
-    visit(prefix + "name", input.name);
-    visit(prefix + "normally-closed", input.normallyClosed);
-    each(prefix + "alarm", input.alarms, alarm);
-  });
-  each("analog", conf.analogs, [&](const std::string& prefix, auto& input) {
-    auto& scale = input.scale;
-    visit(prefix + "name", scale.name);
-    visit(prefix + "unit", scale.unit);
-    visit(prefix + "interface", scale.interface);
-    visit(prefix + "signal-start", scale.signalStart);
-    visit(prefix + "signal-end", scale.signalEnd);
-    visit(prefix + "value-at-start", scale.valueAtStart);
-    visit(prefix + "value-at-end", scale.valueAtEnd);
-    visit(prefix + "group", scale.group);
-    each(prefix + "alarm", input.alarms, alarm);
-  });
-  each("group", conf.groups, [&](const std::string& prefix, auto& group) {
-    visit(prefix + "output", group.output);
-    visit(prefix + "volts", group.volts);
-    visit(prefix + "period", group.period);
-  });
-  each("flag", conf.flagAlarms, alarm);
+/// Visits the items of an array with `visitItem`, but those at their default.
+template <class Items, class Visitor, class VisitItem>
+void VisitEach(const std::string& kind, Items& items, Visitor& visit, VisitItem visitItem) {
+  for (std::size_t i = 0; i < items.size(); ++i) {
+    const std::string prefix = kind + "." + std::to_string(i) + ".";
+    if (!visit.Skips(prefix, items[i])) visitItem(prefix, items[i]);
+  }
+}
+
+template <class AnyAlarm, class Visitor>
+void VisitAlarm(const std::string& prefix, AnyAlarm& alarm, Visitor& visit) {
+  visit(prefix + "text", alarm.text);
+  visit(prefix + "minimum", alarm.minimum);
+  visit(prefix + "maximum", alarm.maximum);
+  visit(prefix + "hysteresis", alarm.hysteresis);
+  visit(prefix + "persistence", alarm.persistence);
+  visit(prefix + "rearm", alarm.rearm);
+  visit(prefix + "start", alarm.start);
+  visit(prefix + "stop", alarm.stop);
+  visit(prefix + "week", alarm.week);
+  visit(prefix + "notify", alarm.notify);
+  visit(prefix + "flag", alarm.flag);
+  visit(prefix + "actions.high", alarm.high);
+  visit(prefix + "actions.low", alarm.low);
+  visit(prefix + "actions.normal", alarm.normal);
+}
+
+template <class Row, class Visitor>
+void VisitAlarms(const std::string& prefix, Row& row, Visitor& visit) {
+  VisitEach(prefix + "alarm", row, visit,
+            [&](const std::string& within, auto& alarm) { VisitAlarm(within, alarm, visit); });
+}
+
+template <class AnyScale, class Visitor>
+void VisitScale(const std::string& prefix, AnyScale& scale, Visitor& visit) {
+  visit(prefix + "signal-start", scale.signalStart);
+  visit(prefix + "signal-end", scale.signalEnd);
+  visit(prefix + "value-at-start", scale.valueAtStart);
+  visit(prefix + "value-at-end", scale.valueAtEnd);
 }
 
 }  // namespace ostrel::sim

@@ -103,6 +103,19 @@ float StatementCursor::Decimal() {
   return negative ? -value : value;
 }
 
+Scale StatementCursor::TwoPoints() {
+  Scale scale;
+  Expect(",BSVAL=");
+  scale.signalStart = Decimal();
+  Expect(",FSVAL=");
+  scale.signalEnd = Decimal();
+  Expect(",BSUNIT=");
+  scale.valueAtStart = Decimal();
+  Expect(",FSUNIT=");
+  scale.valueAtEnd = Decimal();
+  return scale;
+}
+
 int StatementCursor::TimeOfDay() {
   const int hours = Plain(0, 23);
   int seconds = hours * 3600;

@@ -1,9 +1,18 @@
 #pragma once
 
+#include <cstdint>
+#include <limits>
 #include <string>
 #include <string_view>
 
+#include "sim/Scale.h"
+
 namespace ostrel::sim {
+
+// What numbers of 16 and 32 bits can hold.
+inline constexpr int kLeast16 = std::numeric_limits<std::int16_t>::min();
+inline constexpr int kMost16 = std::numeric_limits<std::int16_t>::max();
+inline constexpr int kMost32 = std::numeric_limits<std::int32_t>::max();
 
 /// Walks along a statement. The first thing that is not as it must be is kept as `Why`; from then
 /// on every step does nothing and gives 0, so a grammar reads as a straight list of steps.
@@ -34,6 +43,8 @@ class StatementCursor {
   int Whole(int first, int last);
   /// A decimal number with its place for the sign and no zero in front of the point.
   float Decimal();
+  /// ",BSVAL=", ",FSVAL=", ",BSUNIT=" and ",FSUNIT=" with their numbers.
+  Scale TwoPoints();
   /// A time of day "h:mm:ss" as seconds since midnight.
   int TimeOfDay();
   /// Seven digits 0 or 1, Monday first.

@@ -116,9 +116,9 @@ std::set<QString> WordsInSources(const QString& folder) {
   std::set<QString> words;
   const QRegularExpression call(R"x(Words::tr\(\s*((?:"(?:[^"\\]|\\.)*"\s*)+))x");
   const QRegularExpression literal(R"x("((?:[^"\\]|\\.)*)")x");
-  for (QDirIterator paths(folder, {"*.cpp", "*.h"}, QDir::Files, QDirIterator::Subdirectories);
-       paths.hasNext();) {
-    QFile file(paths.next());
+  for (QDirIterator files(folder, {"*.cpp", "*.h"}, QDir::Files, QDirIterator::Subdirectories);
+       files.hasNext();) {
+    QFile file(files.next());
     if (!file.open(QIODevice::ReadOnly)) continue;
     const QString text = QString::fromUtf8(file.readAll());
     for (auto it = call.globalMatch(text); it.hasNext();) {

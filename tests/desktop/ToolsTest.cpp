@@ -17,7 +17,6 @@
 #include "Input.h"
 #include "WindowWorld.h"
 #include "base/CodePage.h"
-#include "desktop/ConfigurationReader.h"
 #include "desktop/FaultDetails.h"
 #include "desktop/Language.h"
 
@@ -54,20 +53,6 @@ class WindowTools : public testing::Test, protected WindowWorld<VirtualLoop> {
   VirtualDialogs dialogs;
   std::unique_ptr<Desktop> desktop;
 };
-
-TEST_F(WindowTools, ReadsAFileBesideThePresentConfiguration) {
-  Core().conf.Digital[1].NOMBRE = "door";
-  Core().ConfFilePath = Path("a.ocf");
-  ASSERT_TRUE(Core().SaveConf().Ok());
-  const auto present = FieldLines(Core(), Core().conf);
-  const Platform& platform = Core().context.platform;
-  const auto file = ReadConfiguration(platform, "Ostrel KA1", Path("a.ocf"));
-  ASSERT_TRUE(file);
-  EXPECT_EQ(file->model, "Tavro BP");
-  EXPECT_EQ(file->lines, present);
-  EXPECT_EQ(FieldLines(Core(), Core().conf), present);
-  EXPECT_FALSE(ReadConfiguration(platform, "Tavro BP", Path("none.ocf")));
-}
 
 TEST_F(WindowTools, MarksWhatIsNotSavedWithoutCommittingIt) {
   const auto isMarked = [this] {

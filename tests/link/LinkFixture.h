@@ -23,6 +23,7 @@
 namespace ostrel {
 
 using std::chrono::milliseconds;
+using std::chrono::seconds;
 using Texts = std::vector<std::string>;
 
 /// The octets of messages on the line, one after the other.
@@ -101,6 +102,29 @@ class ScriptedDevice final : public LineDevice {
   std::map<std::string, std::deque<std::string>> queued_;
 };
 
+/// A virtual port that notes what is set, in order.
+class NotingPort final : public LinePort {
+ public:
+  using LinePort::LinePort;
+  void SetCommPort(int n) override { LinePort::SetCommPort(Noted("CommPort ", n)); }
+  void SetSettings(std::string_view s) override { log.push_back("Settings " + std::string(s)); }
+  void SetInputLen(int n) override { LinePort::SetInputLen(Noted("InputLen ", n)); }
+  void SetInBufferSize(int n) override { LinePort::SetInBufferSize(Noted("InBufferSize ", n)); }
+  void SetHandshaking(PortHandshaking h) override { Noted("Handshaking ", static_cast<int>(h)); }
+  void SetRTSEnable(bool on) override { Noted("RTSEnable ", on); }
+  void SetDTREnable(bool on) override { LinePort::SetDTREnable(Noted("DTREnable ", on)); }
+  PortFault SetPortOpen(bool on) override { return LinePort::SetPortOpen(Noted("PortOpen ", on)); }
+
+  std::vector<std::string> log;
+
+ private:
+  template <class Value>
+  Value Noted(const char* what, Value value) {
+    log.push_back(what + std::to_string(value));
+    return value;
+  }
+};
+
 class LinkTest : public testing::Test {
  protected:
   static constexpr int kPort = 7;
@@ -112,25 +136,27 @@ class LinkTest : public testing::Test {
     port.SetCommPort(kPort);
     port.SetInputLen(1);
     port.SetInBufferSize(8192);
-    port.SetHandshaking(PortHandshaking::RtsCts);
     ASSERT_EQ(port.SetPortOpen(true), PortFault::None);
     logger.raw.clear();
   }
   void At(Duration delay, EventLoop::Callback action) {
     loop.After(delay, "test", std::move(action));
   }
+  Duration Took(const std::function<void()>& work) {
+    const TimePoint start = loop.Now();
+    work();
+    return loop.Now() - start;
+  }
   LinkHooks Hooks() {
     const auto note = [this](std::string what) { return [this, what] { hooked.push_back(what); }; };
     return {.clearPages = note("clear"),
             .loadPages = note("load"),
-            .barMaximum = [this](int n) { hooked.push_back("max " + std::to_string(n)); },
-            .barValue = [this](int n) { hooked.push_back("bar " + std::to_string(n)); },
             .composed = {},
             .infoChanged = [this](std::string_view key) { hooked.emplace_back(key); },
             .showPWForm =
                 [this] {
                   hooked.emplace_back("form");
-                  loop.RunFor(std::chrono::seconds(1));
+                  loop.RunFor(seconds(1));
                   EXPECT_EQ(comms.SilentFor(), Duration::zero()) << "the operator takes the time";
                   if (codes.empty()) return;
                   comms.AccessCode = codes.front();
@@ -141,7 +167,7 @@ class LinkTest : public testing::Test {
   }
 
   VirtualLoop loop;
-  LinePort port{loop};
+  NotingPort port{loop};
   VirtualSettings settings;
   VirtualDialogs dialogs;
   VirtualFiles files;

@@ -239,17 +239,5 @@ TEST_F(NavigationFixture, CommitsTheFrontOnDemand) {
   EXPECT_EQ(core.conf.Digital[2].NOMBRE, "door");
 }
 
-TEST_F(NavigationFixture, ComparesByFieldAndIgnoresFreeTelephones) {
-  DeviceConf changed = core.conf;
-  changed.Digital[1].NOMBRE = "door";
-  changed.Phone[3].Prio = 5;
-  changed.Phone[4].TLF = "600";
-  const auto differences = CompareFields(FieldLines(core, core.conf), FieldLines(core, changed));
-  ASSERT_EQ(differences.size(), 2u);
-  EXPECT_EQ(differences[0], (FieldDifference{"DIGITAL 1", "NOMBRE", "", "door"}));
-  EXPECT_EQ(differences[1].section + differences[1].key, "GENERALTLFM 4");
-  EXPECT_EQ(CompareFields(FieldLines(core, changed), FieldLines(core, core.conf)).size(), 2u);
-}
-
 }  // namespace
 }  // namespace ostrel

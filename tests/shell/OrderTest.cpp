@@ -41,7 +41,8 @@ TEST(Orders, AnUploadSendsItsBlocksInTheOrderThatLoggersExpect) {
     Configurator program(world.platform, world.Options(false));
     program.StartForCommand(model, 1);
     program.conf.Phone[0].TLF = program.conf.Phone[7].TLF = "600";
-    EXPECT_EQ(Heads(program.StatementsOf(program.conf, -1)), start + rest) << model;
+    program.info.Features = -1;
+    EXPECT_EQ(Heads(program.comms.ComposeStatements()), start + rest) << model;
   }
 }
 

@@ -8,27 +8,37 @@
 namespace ostrel {
 namespace {
 
-using std::chrono::seconds;
+using Stage = Progress::Stage;
 
-TEST(TransferWatch, CountsBeyondThePrescribedBarAndRemembersHowLongADownloadWas) {
+class TransferWatches : public testing::Test {
+ protected:
+  /// So many steps of a transfer, a tenth of a second each.
+  void Steps(int from, int to) {
+    for (int step = from; step <= to; ++step) {
+      loop.RunFor(std::chrono::milliseconds(100));
+      watch.Follow({DialogueKind::Download, Stage::Step, step, 0});
+    }
+  }
+  void Ends(Stage stage) {
+    watch.Follow({DialogueKind::Download, stage, watch.Done(), 0});
+    watch.End();
+  }
+
   VirtualLoop loop;
   VirtualSettings settings;
-  TransferWatch watch(loop, settings);
+  TransferWatch watch{loop, settings};
+};
+
+TEST_F(TransferWatches, CountBeyondThePrescribedBarAndRememberHowLongADownloadWas) {
   watch.BeginReading("VR200");
   EXPECT_EQ(watch.Steps(), 150) << "as is usual";
-  for (int record = 1; record <= 420; ++record) {
-    loop.RunFor(std::chrono::milliseconds(100));
-    watch.Step(record);
-  }
-  watch.End(true);
+  Steps(1, 420);
+  Ends(Stage::Done);
   watch.BeginReading("VR200");
   EXPECT_EQ(watch.Steps(), 420);
-  for (int record = 1; record <= 300; ++record) {
-    loop.RunFor(std::chrono::milliseconds(100));
-    watch.Step(record);
-  }
+  Steps(1, 300);
   EXPECT_NEAR(std::chrono::duration<double>(*watch.Left()).count(), 12, 0.2);
-  watch.End(false);
+  Ends(Stage::Failed);
   watch.BeginReading("VR200");
   EXPECT_EQ(watch.Steps(), 420) << "one that failed tells nothing";
   watch.BeginReading("TAVRO");
@@ -36,14 +46,12 @@ TEST(TransferWatch, CountsBeyondThePrescribedBarAndRemembersHowLongADownloadWas)
 }
 
 /// A later attempt does not undo that the logger may have got the whole of an earlier one.
-TEST(TransferWatch, KnowsThatAnAttemptHasReachedTheEnd) {
-  VirtualLoop loop;
-  VirtualSettings settings;
-  TransferWatch watch(loop, settings);
+TEST_F(TransferWatches, KnowThatAnAttemptHasReachedTheEnd) {
   watch.BeginWriting(3);
-  watch.Step(2);
+  Steps(1, 2);
   EXPECT_FALSE(watch.ReachedEnd());
-  for (const int done : {3, 1}) watch.Step(done);
+  Steps(3, 3);
+  Steps(1, 1);
   EXPECT_TRUE(watch.ReachedEnd());
   watch.BeginWriting(3);
   EXPECT_FALSE(watch.ReachedEnd());

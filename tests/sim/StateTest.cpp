@@ -45,7 +45,7 @@ TEST(SimConfiguration, TheDemoSuitsEveryModel) {
     for (int i = 0; i < traits.digitals; ++i)
       EXPECT_NE(demo.digitals[static_cast<std::size_t>(i)].name, "");
     for (int i = 0; i < kAnalogs; ++i)
-      EXPECT_EQ(demo.analogs[static_cast<std::size_t>(i)].scale.name.empty(), i >= traits.analogs);
+      EXPECT_EQ(demo.analogs[static_cast<std::size_t>(i)].name.empty(), i >= traits.analogs);
     EXPECT_EQ(NameOfKept(demo, "FLOWCONF0").unit, "m\xB3/h");
   }
 }

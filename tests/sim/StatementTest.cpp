@@ -87,7 +87,9 @@ TEST(SimStatement, TakingOutAlarmsAndInputs) {
   Configuration conf;
   conf.digitals[1].name = "kept";
   conf.digitals[1].alarms[2] = {.text = "gone", .week = 127};
-  conf.analogs[3].scale = {.name = "gone", .unit = "m", .interface = Interface::Volts5};
+  conf.analogs[3].name = "gone";
+  conf.analogs[3].interface = Interface::Volts5;
+  conf.analogs[3].scale.valueAtEnd = 5;
   conf.analogs[3].alarms[0] = {.text = "kept", .week = 1};
   conf.analogs[3].alarms[3] = {.text = "gone", .week = 1};
   conf.flagAlarms[4] = {.text = "gone", .week = 1};
@@ -248,14 +250,14 @@ TEST(SimStatement, WhatTheFirmwareCannotSayKeepsItsValue) {
   Configuration conf;
   conf.digitals[0].normallyClosed = true;
   conf.analogs[0].alarms[1].persistence = 7;
-  conf.analogs[0].scale.interface = Interface::Volts10;
+  conf.analogs[0].interface = Interface::Volts10;
   for (const char* statement :
        {"DINAME0=x", "+ALMA0=y,INDEX= 1,MAX= 0,MIN= 0,HIST= 0,EQ= 0,ACTHI=,ACTLO=,ACTNOM=",
         "AICONF0=z,UNIT=,BSVAL= 0,FSVAL= 0,BSUNIT= 0,FSUNIT= 0,GROUP= 0"})
     EXPECT_EQ(ApplyStatement(statement, old, conf), "") << statement;
   EXPECT_TRUE(conf.digitals[0].normallyClosed);
   EXPECT_EQ(conf.analogs[0].alarms[1].persistence, 7);
-  EXPECT_EQ(conf.analogs[0].scale.interface, Interface::Volts10);
+  EXPECT_EQ(conf.analogs[0].interface, Interface::Volts10);
 }
 
 TEST(SimStatement, OtherBlocksAreKeptByWhatTheySet) {

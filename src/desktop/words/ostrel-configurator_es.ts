@@ -4,6 +4,10 @@
 <context>
     <name>Words</name>
     <message>
+        <source>%1 holds what this program does not write and would lose: %2. Replace it?</source>
+        <translation>%1 contiene datos que este programa no escribe y que se perderían: %2. ¿Reemplazarlo?</translation>
+    </message>
+    <message>
         <source>Alarm</source>
         <translation>Alarma</translation>
     </message>
@@ -254,6 +258,34 @@
     <message>
         <source>the logger did not take the configuration over: &quot;%1&quot;</source>
         <translation>el equipo no ha aceptado la configuración: &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>the logger answered something else: &quot;%1&quot;</source>
+        <translation>el equipo ha respondido otra cosa: &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>another dialogue with the logger is under way</source>
+        <translation>hay otro diálogo con el equipo en curso</translation>
+    </message>
+    <message>
+        <source>the logger came to no end</source>
+        <translation>el equipo no llegó al final</translation>
+    </message>
+    <message>
+        <source>the logger came to no end at record %1</source>
+        <translation>el equipo no llegó al final en el registro %1</translation>
+    </message>
+    <message>
+        <source>the logger came to no end at statement %1</source>
+        <translation>el equipo no llegó al final en la sentencia %1</translation>
+    </message>
+    <message>
+        <source>the line at %1 was held</source>
+        <translation>la línea de %1 estaba retenida</translation>
+    </message>
+    <message>
+        <source>check that the logger is switched on and that the cable has RTS and CTS</source>
+        <translation>compruebe que el equipo está encendido y que el cable tiene RTS y CTS</translation>
     </message>
     <message>
         <source>%1 has gone in the middle of the dialogue</source>

@@ -35,18 +35,17 @@ TimePoint QtEventLoop::Now() const {
 }
 
 TimerId QtEventLoop::After(Duration delay, std::string_view, Callback callback) {
-  return Add(Sum(Now(), std::max(delay, Duration::zero())), Duration::zero(), std::move(callback));
+  return Add(delay, Duration::zero(), std::move(callback));
 }
 
 TimerId QtEventLoop::Every(Duration interval, std::string_view, Callback callback) {
   interval = std::max<Duration>(interval, std::chrono::milliseconds(1));
-  const auto running = std::ranges::find(timers_, interval, &Timer::interval);
-  TimePoint due = running == timers_.end() ? Sum(Now(), interval) : running->due;
-  if (due <= Now()) due += interval;  // the one that runs is late itself
-  return Add(due, interval, std::move(callback));
+  return Add(interval, interval, std::move(callback));
 }
 
-TimerId QtEventLoop::Add(TimePoint due, Duration interval, Callback callback) {
+TimerId QtEventLoop::Add(Duration delay, Duration interval, Callback callback) {
+  TimePoint due = Sum(Now(), std::max(delay, Duration::zero()));
+  if (interval > Duration::zero()) due -= due % interval;
   timers_.push_back(
       {++lastId_, due, interval, std::make_shared<const Callback>(std::move(callback))});
   SetAlarm();

@@ -121,7 +121,7 @@ PortFault LinePort::FaultOf(int number) const {
 }
 
 void LinePort::SetInBufferSize(int octets) {
-  inBufferSize_ = static_cast<std::size_t>(std::max(octets, 1));
+  received_.SetSize(static_cast<std::size_t>(std::max(octets, 1)));
 }
 
 void LinePort::SetDTREnable(bool on) {
@@ -149,7 +149,6 @@ void LinePort::Close() {
   const std::shared_ptr<Wire> wire = std::move(open_);
   open_ = nullptr;
   Forget();
-  wire->toProgram.Hold(false);
   if (wire->vanished) return;
   // An unpaced line counts as having taken all that was written.
   if (!wire->toDevice.Paced() && !wire->toDevice.OnHold()) wire->toDevice.Flush();
@@ -160,8 +159,7 @@ void LinePort::Close() {
 
 /// Empties the near end: nothing that came before is seen any more.
 void LinePort::Forget() {
-  received_.clear();
-  taken_ = 0;
+  received_.Clear();
   carrier_ = false;
   carrierChanges_.clear();
 }
@@ -179,53 +177,22 @@ std::size_t LinePort::OutBufferCount() const {
 }
 
 void LinePort::DiscardOutput() {
-  if (open_) open_->toDevice.Clear();
-}
-
-std::size_t LinePort::Room() const {
-  const std::size_t held = received_.size() - taken_;
-  return inBufferSize_ > held ? inBufferSize_ - held : 0;
+  if (open_) open_->toDevice.Discard();
 }
 
 /// Moves arrived octets into the receive buffer.
 void LinePort::TakeIn() {
-  if (!open_) return;
-  if (taken_ > received_.size() / 2) {
-    received_.erase(0, taken_);
-    taken_ = 0;
-  }
-  LineQueue& line = open_->toProgram;
-  const std::size_t room = Room();
-  if (handshaking_ == PortHandshaking::None) {
-    received_ += line.Take(std::numeric_limits<std::size_t>::max()).substr(0, room);
-  } else {
-    received_ += line.Take(room);
-    if (Room() == 0) line.Hold(true);
-  }
+  if (open_) received_.Put(open_->toProgram.Take(std::numeric_limits<std::size_t>::max()));
 }
 
 std::size_t LinePort::InBufferCount() const {
   if (!open_) return 0;
-  return received_.size() - taken_ + std::min(Room(), open_->toProgram.Arrived());
+  return std::min(received_.Size(), received_.Count() + open_->toProgram.Arrived());
 }
 
 std::string LinePort::Input() {
-  if (!open_) return {};
   TakeIn();
-  const std::size_t most =
-      inputLen_ > 0 ? static_cast<std::size_t>(inputLen_) : std::numeric_limits<std::size_t>::max();
-  std::string input = received_.substr(taken_, most);
-  taken_ += input.size();
-  if (taken_ == received_.size()) {
-    received_.clear();
-    taken_ = 0;
-  }
-  // The line starts again when half of the buffer is free, as drivers do it.
-  if (open_->toProgram.OnHold() && Room() >= (inBufferSize_ + 1) / 2) {
-    TakeIn();
-    open_->toProgram.Hold(false);
-  }
-  return input;
+  return received_.Take(inputLen_);
 }
 
 /// Lets the program see a carrier change with the next event.
