@@ -135,4 +135,12 @@ ExitCode CommandContext::ChoosePort(PortChoice& choice) {
   return ExitCode::Done;
 }
 
+ExitCode CommandContext::Show(const Result& result, JsonLayout layout) {
+  if (options.json)
+    WriteJson(console.Out(), result.json(), layout);
+  else
+    result.text(console.Out());
+  return ExitCode::Done;
+}
+
 }  // namespace ostrel::cli

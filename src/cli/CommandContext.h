@@ -9,6 +9,7 @@
 #include "cli/ConsoleDialogs.h"
 #include "cli/Environment.h"
 #include "cli/GlobalOptions.h"
+#include "cli/Result.h"
 #include "lang/Lang.h"
 #include "shell/ConfigurationFile.h"
 #include "shell/Configurator.h"
@@ -49,6 +50,10 @@ class CommandContext {
   /// Finds the port of the options. Anything but Done after saying why there is none.
   ExitCode ChoosePort(PortChoice& choice);
   bool HasPort() const { return !options.port.empty(); }
+
+  /// Writes a result to the output, in the form that the options ask for. Done, so that a command
+  /// can end with it.
+  ExitCode Show(const Result& result, JsonLayout layout = JsonLayout::Indented);
 
  private:
   PortChoice NumberedPort(std::int16_t number);
