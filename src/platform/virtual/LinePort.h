@@ -24,7 +24,7 @@ namespace ostrel {
 /// Nothing passes from one end to the other within a call: octets and carrier changes travel
 /// through the loop, at once or, when paced, at 960 octets/s each way. DTR is told to the device
 /// within the call that changes it. The loop and the devices must outlive the port.
-class LinePort : public SerialPort {
+class LinePort final : public SerialPort {
  public:
   /// Makes the device for a line; it may keep the reference for its life.
   using Attach = std::function<std::unique_ptr<LineDevice>(LineEnd& end)>;
