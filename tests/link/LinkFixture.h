@@ -102,29 +102,6 @@ class ScriptedDevice final : public LineDevice {
   std::map<std::string, std::deque<std::string>> queued_;
 };
 
-/// A virtual port that notes what is set, in order.
-class NotingPort final : public LinePort {
- public:
-  using LinePort::LinePort;
-  void SetCommPort(int n) override { LinePort::SetCommPort(Noted("CommPort ", n)); }
-  void SetSettings(std::string_view s) override { log.push_back("Settings " + std::string(s)); }
-  void SetInputLen(int n) override { LinePort::SetInputLen(Noted("InputLen ", n)); }
-  void SetInBufferSize(int n) override { LinePort::SetInBufferSize(Noted("InBufferSize ", n)); }
-  void SetHandshaking(PortHandshaking h) override { Noted("Handshaking ", static_cast<int>(h)); }
-  void SetRTSEnable(bool on) override { Noted("RTSEnable ", on); }
-  void SetDTREnable(bool on) override { LinePort::SetDTREnable(Noted("DTREnable ", on)); }
-  PortFault SetPortOpen(bool on) override { return LinePort::SetPortOpen(Noted("PortOpen ", on)); }
-
-  std::vector<std::string> log;
-
- private:
-  template <class Value>
-  Value Noted(const char* what, Value value) {
-    log.push_back(what + std::to_string(value));
-    return value;
-  }
-};
-
 class LinkTest : public testing::Test {
  protected:
   static constexpr int kPort = 7;
@@ -141,6 +118,12 @@ class LinkTest : public testing::Test {
   }
   void At(Duration delay, EventLoop::Callback action) {
     loop.After(delay, "test", std::move(action));
+  }
+  /// Answers a line some ms after it was heard.
+  void AnswerLater(const std::string& heard, int ms, const std::string& octets) {
+    logger.onLine = [=, this](const std::string& line) {
+      if (line == heard) At(milliseconds(ms), [=, this] { logger.end->Send(octets); });
+    };
   }
   Duration Took(const std::function<void()>& work) {
     const TimePoint start = loop.Now();
@@ -167,7 +150,7 @@ class LinkTest : public testing::Test {
   }
 
   VirtualLoop loop;
-  NotingPort port{loop};
+  LinePort port{loop};
   VirtualSettings settings;
   VirtualDialogs dialogs;
   VirtualFiles files;

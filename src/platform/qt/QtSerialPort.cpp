@@ -20,6 +20,7 @@ using std::chrono::milliseconds;
 
 /// Octets taken from the driver with one event: a reader that keeps up loses none.
 constexpr qint64 kMostAtOnce = 4096;
+constexpr Duration kReaderPatience = milliseconds(500);
 /// Shortest pause between two looks at an output queue that flow control may be holding.
 constexpr Duration kShortestDrainWait = milliseconds(20);
 
@@ -119,6 +120,7 @@ PortFault QtSerialPort::Open() {
   }
   open_ = true;
   lost_ = false;
+  readAt_ = loop_.Now();
   ApplyModemLine(TIOCM_DTR, dtr_);
   if (handshaking_ != PortHandshaking::RtsCts) ApplyModemLine(TIOCM_RTS, rts_);
   QObject::connect(device_.get(), &QSerialPort::readyRead, device_.get(), [this] { TakeIn(); });
@@ -188,7 +190,8 @@ void QtSerialPort::ApplySettings(QSerialPort& device) const {
 }
 
 void QtSerialPort::Close() {
-  for (TimerId* timer : {&drainTimer_, &loseTimer_}) loop_.Cancel(std::exchange(*timer, 0));
+  for (TimerId* timer : {&drainTimer_, &loseTimer_, &takeTimer_})
+    loop_.Cancel(std::exchange(*timer, 0));
   carrierWatch_.reset();
   nodeWatch_.reset();
   if (device_ && !lost_) {
@@ -209,8 +212,21 @@ void QtSerialPort::Close() {
 }
 
 void QtSerialPort::TakeIn() {
-  const QByteArray octets = device_->readAll();
+  loop_.Cancel(std::exchange(takeTimer_, 0));
+  const bool isRead = loop_.Now() - readAt_ < kReaderPatience;
+  const auto room = static_cast<qint64>(received_.Size() - received_.Count());
+  const QByteArray octets = device_->read(isRead ? room : kMostAtOnce);
   received_.Put({octets.constData(), static_cast<std::size_t>(octets.size())});
+  if (device_->bytesAvailable() > 0)
+    takeTimer_ = loop_.After(kReaderPatience, "receive buffer", [this] { TakeIn(); });
+}
+
+std::string QtSerialPort::Input() {
+  std::string input = received_.Take(inputLen_);
+  readAt_ = loop_.Now();
+  // A buffer that was full is filled up again when half of it is free.
+  if (takeTimer_ != 0 && device_ && !lost_ && received_.Count() <= received_.Size() / 2) TakeIn();
+  return input;
 }
 
 /// The device has gone. It is put away from the loop, because its own code is calling.
@@ -218,6 +234,7 @@ void QtSerialPort::Lose() {
   if (lost_) return;
   lost_ = true;
   carrier_ = false;
+  loop_.Cancel(std::exchange(takeTimer_, 0));
   loseTimer_ = loop_.After(Duration::zero(), "lost port", [this] {
     carrierWatch_.reset();
     nodeWatch_.reset();

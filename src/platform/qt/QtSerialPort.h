@@ -23,6 +23,10 @@ namespace ostrel {
 
 /// The serial ports of the machine, pseudo-terminals among them. What a device does not have, such
 /// as the modem lines of a pseudo-terminal, is passed over. Loop and map must outlive the port.
+///
+/// While somebody reads, a full receive buffer leaves the rest to the driver, which holds the
+/// device up by flow control. When nobody has read for half a second, the device may talk on, and
+/// the oldest octets go.
 class QtSerialPort final : public SerialPort {
  public:
   QtSerialPort(QtEventLoop& loop, const PortMap& map);
@@ -46,7 +50,7 @@ class QtSerialPort final : public SerialPort {
   /// Counts what the driver holds, and what the line has not had the time to carry.
   std::size_t OutBufferCount() const override;
   void DiscardOutput() override;
-  std::string Input() override { return received_.Take(inputLen_); }
+  std::string Input() override;
   std::size_t InBufferCount() const override { return received_.Count(); }
   std::uint64_t LostOctets() const override { return received_.Lost(); }
   bool CDHolding() const override { return carrier_; }
@@ -80,6 +84,7 @@ class QtSerialPort final : public SerialPort {
   bool open_ = false;
   bool lost_ = false;
   ReceiveBuffer received_;
+  TimePoint readAt_{};    ///< when somebody last took octets
   TimePoint lineFree_{};  ///< when the last octet sent can have left
   bool carrier_ = false;
   int commEvent_ = 0;
@@ -88,6 +93,7 @@ class QtSerialPort final : public SerialPort {
   std::unique_ptr<NodeWatch> nodeWatch_;
   TimerId drainTimer_ = 0;
   TimerId loseTimer_ = 0;
+  TimerId takeTimer_ = 0;  ///< for octets left to the driver
 };
 
 }  // namespace ostrel

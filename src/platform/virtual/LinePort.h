@@ -24,7 +24,7 @@ namespace ostrel {
 /// Nothing passes from one end to the other within a call: octets and carrier changes travel
 /// through the loop, at once or, when paced, at 960 octets/s each way. DTR is told to the device
 /// within the call that changes it. The loop and the devices must outlive the port.
-class LinePort : public SerialPort {
+class LinePort final : public SerialPort {
  public:
   /// Makes the device for a line; it may keep the reference for its life.
   using Attach = std::function<std::unique_ptr<LineDevice>(LineEnd& end)>;
@@ -93,6 +93,7 @@ class LinePort : public SerialPort {
   bool dtr_ = true;
   std::shared_ptr<Wire> open_;
   ReceiveBuffer received_;
+  bool isTaken_ = false;  ///< the program has taken octets since some last arrived
   bool carrier_ = false;
   std::deque<bool> carrierChanges_;  ///< seen on the line, not told yet
   TimerId carrierTimer_ = 0;
