@@ -5,52 +5,27 @@
 
 #include <string>
 #include <unordered_map>
-#include <vector>
 
 #include "BenchWorld.h"
+#include "LargeFile.h"
 #include "store/IniClass.h"
 
 namespace ostrel {
 namespace {
 
-constexpr int kKeys = 23'000;
 constexpr const char* kPath = "/large.ocf";
-
-struct LargeFile {
-  std::string text;
-  std::vector<std::pair<std::string, std::string>> keys;  ///< section and key
-};
-
-/// As many sections and keys as the largest configuration has, in the shapes that pages write.
-const LargeFile& Large() {
-  static const LargeFile file = [] {
-    LargeFile made;
-    made.text = "[General]\r\nVERSION=OSTREL_S100";
-    for (int section = 0; static_cast<int>(made.keys.size()) < kKeys; ++section) {
-      const std::string name = "MINPUT.A" + NumText(section);
-      made.text += "\r\n[" + name + "]";
-      for (int n = 0; n < 160 && static_cast<int>(made.keys.size()) < kKeys; ++n) {
-        const std::string key = "ACTHI(" + NumText(n % 4) + NumText(n / 4) + ")";
-        made.text += "\r\n" + key + "=" + NumText(n);
-        made.keys.emplace_back(name, key);
-      }
-    }
-    return made;
-  }();
-  return file;
-}
 
 void CountKeys(benchmark::State& state) {
   state.counters["per_key"] = benchmark::Counter(
-      kKeys, benchmark::Counter::kIsIterationInvariantRate | benchmark::Counter::kInvert);
+      kLargeFileKeys, benchmark::Counter::kIsIterationInvariantRate | benchmark::Counter::kInvert);
 }
 
 void OpenByProfileRead(benchmark::State& state) {
   VirtualFiles files;
-  files.contents[kPath] = Large().text;
+  files.contents[kPath] = LargeFile::Get().text;
   for ([[maybe_unused]] const auto _ : state) {
     IniTool tool(files);
-    for (const auto& [section, key] : Large().keys)
+    for (const auto& [section, key] : LargeFile::Get().keys)
       benchmark::DoNotOptimize(tool.ProfileRead(section, key, kPath));
   }
   CountKeys(state);
@@ -59,7 +34,7 @@ BENCHMARK(OpenByProfileRead)->Unit(benchmark::kMillisecond);
 
 void OpenByPlainReader(benchmark::State& state) {
   VirtualFiles files;
-  files.contents[kPath] = Large().text;
+  files.contents[kPath] = LargeFile::Get().text;
   for ([[maybe_unused]] const auto _ : state) {
     const std::string text = *files.Read(kPath);
     std::unordered_map<std::string, std::string> values;
@@ -75,7 +50,7 @@ void OpenByPlainReader(benchmark::State& state) {
       }
       at = end + 1;
     }
-    for (const auto& [name, key] : Large().keys)
+    for (const auto& [name, key] : LargeFile::Get().keys)
       benchmark::DoNotOptimize(values.at(name + '\n' + key));
   }
   CountKeys(state);

@@ -22,6 +22,12 @@ char OctetOf(char32_t character) {
   return found == kMiddle.end() ? '?' : static_cast<char>(0x80 + (found - kMiddle.begin()));
 }
 
+/// The head of a text that is the same in the code page and in UTF-8.
+std::string_view AsciiHead(std::string_view text) {
+  const auto isBeyond = [](char octet) { return static_cast<std::uint8_t>(octet) >= 0x80; };
+  return {text.begin(), std::find_if(text.begin(), text.end(), isBeyond)};
+}
+
 constexpr std::uint8_t FoldedOctet(unsigned octet) {
   const bool isAscii = octet >= 'A' && octet <= 'Z';
   const bool isLatin = octet >= 0xC0 && octet <= 0xDE && octet != 0xD7;
@@ -31,38 +37,14 @@ constexpr std::uint8_t FoldedOctet(unsigned octet) {
   return static_cast<std::uint8_t>(octet == 0x9F ? 0xFF : octet);
 }
 
-constexpr std::array<std::uint8_t, 256> kFolded = [] {
-  std::array<std::uint8_t, 256> table{};
-  for (unsigned octet = 0; octet < table.size(); ++octet) table[octet] = FoldedOctet(octet);
+constexpr std::array<char, 256> kFolded = [] {
+  std::array<char, 256> table{};
+  for (unsigned octet = 0; octet < table.size(); ++octet)
+    table[octet] = static_cast<char>(FoldedOctet(octet));
   return table;
 }();
 
-}  // namespace
-
-std::string ToCodePage(std::string_view utf8) {
-  std::string octets;
-  octets.reserve(utf8.size());
-  for (std::size_t position = 0; position < utf8.size();)
-    octets += OctetOf(NextCharacter(utf8, position));
-  return octets;
-}
-
-std::string FromCodePage(std::string_view octets) {
-  std::string utf8;
-  utf8.reserve(octets.size() + octets.size() / 8);
-  for (const char octet : octets) {
-    const auto value = static_cast<std::uint8_t>(octet);
-    if (value < 0x80)
-      utf8 += octet;
-    else
-      AppendCharacter(value < 0xA0 ? kMiddle[value - 0x80U] : value, utf8);
-  }
-  return utf8;
-}
-
-std::uint8_t FoldOctet(char octet) { return kFolded[static_cast<std::uint8_t>(octet)]; }
-
-char32_t FoldCharacter(char32_t character) {
+char32_t FoldedCharacter(char32_t character) {
   if (character < 0x80 || (character >= 0xA0 && character <= 0xFF))
     return FoldedOctet(static_cast<unsigned>(character));
   switch (character) {
@@ -75,6 +57,44 @@ char32_t FoldCharacter(char32_t character) {
     default:
       return character;
   }
+}
+
+}  // namespace
+
+std::string ToCodePage(std::string_view utf8) {
+  std::string octets(AsciiHead(utf8));
+  for (std::size_t position = octets.size(); position < utf8.size();)
+    octets += OctetOf(NextCharacter(utf8, position));
+  return octets;
+}
+
+std::string FromCodePage(std::string_view octets) {
+  std::string utf8(AsciiHead(octets));
+  for (const char octet : octets.substr(utf8.size())) {
+    const auto value = static_cast<std::uint8_t>(octet);
+    if (value < 0x80)
+      utf8 += octet;
+    else
+      AppendCharacter(value < 0xA0 ? kMiddle[value - 0x80U] : value, utf8);
+  }
+  return utf8;
+}
+
+void FoldOctets(std::span<char> octets) {
+  for (char& octet : octets) octet = kFolded[static_cast<std::uint8_t>(octet)];
+}
+
+std::string FoldText(std::string_view utf8) {
+  std::string folded;
+  folded.reserve(utf8.size());
+  for (std::size_t position = 0; position < utf8.size();) {
+    const char32_t character = NextCharacter(utf8, position);
+    if (character == kMalformed)
+      folded += '\xFF';
+    else
+      AppendCharacter(FoldedCharacter(character), folded);
+  }
+  return folded;
 }
 
 }  // namespace ostrel

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <cstdint>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -14,11 +14,12 @@ std::string ToCodePage(std::string_view utf8);
 /// character of the same value, so that every octet comes back as itself.
 std::string FromCodePage(std::string_view octets);
 
-/// An octet of the code page with the letter case taken away, for comparing names: capital letters
-/// become small ones, everything else stays.
-std::uint8_t FoldOctet(char octet);
+/// Takes the letter case off octets of the code page, for comparing names: capital letters become
+/// small ones, everything else stays.
+void FoldOctets(std::span<char> octets);
 
-/// The same for a character: the letters of the code page fold, all others stay.
-char32_t FoldCharacter(char32_t character);
+/// A text in UTF-8 without letter case: the letters of the code page fold, all other characters
+/// stay. Malformed octets all become the same one, which no well-formed text holds.
+std::string FoldText(std::string_view utf8);
 
 }  // namespace ostrel

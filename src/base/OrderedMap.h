@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstddef>
-#include <cstdint>
 #include <functional>
 #include <iterator>
 #include <list>
@@ -11,7 +10,6 @@
 #include <utility>
 
 #include "base/CodePage.h"
-#include "base/Utf8.h"
 
 namespace ostrel {
 
@@ -28,36 +26,35 @@ class OrderedMap {
     Value value;
   };
 
-  explicit OrderedMap(CaseMode mode = CaseMode::Exact) : index_(0, Hash{mode}, Equal{mode}) {}
+  OrderedMap() = default;
   OrderedMap(OrderedMap&&) noexcept = default;
   OrderedMap& operator=(OrderedMap&&) noexcept = default;
 
   Value* Find(std::string_view key) {
-    const auto found = index_.find(key);
+    const auto found = Indexed(key);
     return found == index_.end() ? nullptr : &found->second->value;
   }
   const Value* Find(std::string_view key) const {
-    const auto found = index_.find(key);
+    const auto found = Indexed(key);
     return found == index_.end() ? nullptr : &found->second->value;
   }
 
   /// Adds a key that the map does not hold at the end of the order.
   Value& Add(std::string_view key, Value value) {
     entries_.push_back({std::string(key), std::move(value)});
-    const auto last = std::prev(entries_.end());
-    index_.emplace(last->key, last);
-    return last->value;
+    AddToIndex(std::prev(entries_.end()));
+    return entries_.back().value;
   }
 
   /// False when the key is absent.
   bool Remove(std::string_view key) {
-    const auto found = index_.find(key);
+    const auto found = Indexed(key);
     if (found == index_.end()) return false;
     const auto entry = found->second;
     index_.erase(found);
     entries_.erase(entry);
     // A change of mode may have hidden a later key behind this one.
-    if (index_.size() != entries_.size()) SetMode(index_.hash_function().mode);
+    if (index_.size() != entries_.size()) SetMode(mode_);
     return true;
   }
 
@@ -68,9 +65,9 @@ class OrderedMap {
 
   /// Changes how keys compare. Where keys become equal, the first in order is the one found.
   void SetMode(CaseMode mode) {
-    index_ = Index(entries_.size(), Hash{mode}, Equal{mode});
-    for (auto entry = entries_.begin(); entry != entries_.end(); ++entry)
-      index_.emplace(entry->key, entry);
+    mode_ = mode;
+    index_.clear();
+    for (auto entry = entries_.begin(); entry != entries_.end(); ++entry) AddToIndex(entry);
   }
 
   auto begin() const { return entries_.begin(); }
@@ -78,35 +75,23 @@ class OrderedMap {
   std::size_t size() const { return entries_.size(); }
 
  private:
-  struct Hash {
-    CaseMode mode;
-
-    std::size_t operator()(std::string_view text) const {
-      if (mode == CaseMode::Exact) return std::hash<std::string_view>()(text);
-      std::uint64_t hash = 0xCBF29CE484222325U;
-      for (std::size_t position = 0; position < text.size();)
-        hash = (hash ^ FoldCharacter(NextCharacter(text, position))) * 0x100000001B3U;
-      return static_cast<std::size_t>(hash);
-    }
-  };
-  struct Equal {
-    CaseMode mode;
-
-    bool operator()(std::string_view a, std::string_view b) const {
-      if (mode == CaseMode::Exact) return a == b;
-      std::size_t inA = 0;
-      std::size_t inB = 0;
-      while (inA < a.size() && inB < b.size())
-        if (FoldCharacter(NextCharacter(a, inA)) != FoldCharacter(NextCharacter(b, inB)))
-          return false;
-      return inA == a.size() && inB == b.size();
-    }
+  struct Hash : std::hash<std::string_view> {
+    using is_transparent = void;
   };
   using Entries = std::list<Entry>;
-  using Index = std::unordered_map<std::string_view, typename Entries::iterator, Hash, Equal>;
+  using Index = std::unordered_map<std::string, typename Entries::iterator, Hash, std::equal_to<>>;
 
+  typename Index::const_iterator Indexed(std::string_view key) const {
+    return mode_ == CaseMode::Exact ? index_.find(key) : index_.find(FoldText(key));
+  }
+
+  void AddToIndex(typename Entries::iterator entry) {
+    index_.emplace(mode_ == CaseMode::Exact ? entry->key : FoldText(entry->key), entry);
+  }
+
+  CaseMode mode_ = CaseMode::Exact;
   Entries entries_;
-  Index index_;  ///< views into the keys of `entries_`
+  Index index_;  ///< by the keys as they compare
 };
 
 }  // namespace ostrel

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <charconv>
 
-#include "base/Scope.h"
 #include "host/LangSeed.h"
 #include "host/SimulatedLoggers.h"
 
@@ -41,57 +40,40 @@ CommandContext::CommandContext(Environment& world, GlobalOptions shared)
       options(std::move(shared)),
       console(world.out, world.err, options.quiet),
       dialogs(world, console, options),
-      langFile_(SeedLang(world.files, world.shippedLang, world.dataFolder + "/Lang.txt")),
-      noPorts_(world.loop) {}
+      platform(world.platform.With(dialogs)),
+      langFile_(SeedLang(platform.files, world.shippedLang, world.dataFolder + "/Lang.txt")),
+      lang_(platform.files, langFile_) {
+  lang_.Init();
+  lang_.SetSelectedLang(options.lang);
+}
 
-std::unique_ptr<Configurator> CommandContext::Make(SerialPort& port, std::string_view model) {
-  const Platform platform{.loop = environment.loop,
-                          .port = port,
-                          .settings = environment.settings,
-                          .dialogs = dialogs,
-                          .files = environment.files,
-                          .processes = environment.processes,
-                          .clock = environment.clock};
+std::unique_ptr<Configurator> CommandContext::MakeOnline(std::string_view model) {
   auto configurator = std::make_unique<Configurator>(
       platform, ConfiguratorOptions{.programFolder = {}, .langFile = langFile_});
   configurator->StartForCommand(model, options.lang);
   return configurator;
 }
 
-std::unique_ptr<Configurator> CommandContext::MakeOnline(std::string_view model) {
-  return Make(environment.port, model);
-}
-
-std::unique_ptr<Configurator> CommandContext::MakeOffline(std::string_view model) {
-  return Make(noPorts_, model);
-}
-
-std::unique_ptr<Configurator> CommandContext::OpenOffline(const std::string& path) {
-  const auto model = ChooseModel({}, path);
-  if (!model) return nullptr;
-  auto configurator = MakeOffline(*model);
-  return Open(*configurator, path) ? std::move(configurator) : nullptr;
-}
-
-bool CommandContext::Open(Configurator& configurator, const std::string& path) {
-  if (!environment.files.Read(path)) {
+std::optional<ModelConfiguration> CommandContext::OpenFile(const std::string& path) {
+  if (!platform.files.Read(path)) {
     console.Fail(ExitCode::BadFile, "cannot read " + path);
-    return false;
+    return {};
   }
-  const Lent muted(dialogs.mute, true);
-  const std::string model = configurator.profile.TargetName;
-  if (configurator.OpenFile(path) == RestoreResult::Loaded) {
-    if (!options.target.empty() && configurator.profile.TargetName != model)
-      console.Note(path + " is for the model " + configurator.profile.TargetName + ", not " +
-                   model);
-    return true;
+  TargetProfile present;
+  if (const auto model = ChooseModel({}, path)) SelectTarget(present, *model);
+  auto read = ReadConfiguration(platform.files, path, present, Translator());
+  if (!read) {
+    console.Fail(ExitCode::BadFile, path + " is no configuration of any of the six models");
+    return {};
   }
-  console.Fail(ExitCode::BadFile, path + " is no configuration of any of the six models");
-  return false;
+  if (!options.target.empty() && read->profile.TargetName != present.TargetName)
+    console.Note(path + " is for the model " + read->profile.TargetName + ", not " +
+                 present.TargetName);
+  return read;
 }
 
 std::string CommandContext::ModelOfFile(const std::string& path) {
-  IniTool tool(environment.files);
+  IniTool tool(platform.files);
   const std::string stamp = tool.ProfileRead("General", "VERSION", path);
   for (const TargetModel& model : TargetModels())
     if (model.type == stamp) return std::string(model.name);
@@ -104,7 +86,7 @@ std::optional<std::string> CommandContext::ChooseModel(const PortChoice& port,
   if (!port.simulatedModel.empty()) return port.simulatedModel;
   if (!file.empty())
     if (std::string model = ModelOfFile(file); !model.empty()) return model;
-  const TargetModel* stored = FindModel(StoredSettings(environment.settings).Target());
+  const TargetModel* stored = FindModel(StoredSettings(platform.settings).Target());
   if (stored) return std::string(stored->name);
   // A file without a known stamp is refused in any case, whatever the model.
   if (!file.empty()) return std::string(TargetNamesOffered().front());
@@ -116,7 +98,7 @@ std::optional<std::string> CommandContext::ChooseModel(const PortChoice& port,
 PortChoice CommandContext::NumberedPort(std::int16_t number) {
   PortChoice choice{.number = number, .name = "COM" + std::to_string(number)};
   choice.simulatedModel = environment.simulated.ModelAt(number);
-  for (const PortEntry& entry : environment.port.Entries())
+  for (const PortEntry& entry : platform.port.Entries())
     if (entry.number == number && !entry.device.empty()) choice.name += " (" + entry.device + ")";
   return choice;
 }
@@ -147,8 +129,12 @@ ExitCode CommandContext::ChoosePort(PortChoice& choice) {
   return ExitCode::Done;
 }
 
-DeviceConf EmptyConf(CommandContext& context, const Configurator& configurator) {
-  return context.MakeOffline(configurator.profile.TargetName)->conf;
+ExitCode CommandContext::Show(const Result& result, JsonLayout layout) {
+  if (options.json)
+    WriteJson(console.Out(), result.json(), layout);
+  else
+    result.text(console.Out());
+  return ExitCode::Done;
 }
 
 }  // namespace ostrel::cli

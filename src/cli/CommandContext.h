@@ -9,7 +9,9 @@
 #include "cli/ConsoleDialogs.h"
 #include "cli/Environment.h"
 #include "cli/GlobalOptions.h"
-#include "platform/virtual/LinePort.h"
+#include "cli/Result.h"
+#include "lang/Lang.h"
+#include "shell/ConfigurationFile.h"
 #include "shell/Configurator.h"
 
 namespace ostrel::cli {
@@ -30,17 +32,17 @@ class CommandContext {
   const GlobalOptions options;
   Console console;
   ConsoleDialogs dialogs;
+  const Platform platform;  ///< that of the environment; the dialogs are those of the command line
   bool traceLost = false;  ///< the trace could not be written whole
 
   /// A configurator with the ports of the environment, on a model by its display name.
   std::unique_ptr<Configurator> MakeOnline(std::string_view model);
-  /// One without any port, for work on files.
-  std::unique_ptr<Configurator> MakeOffline(std::string_view model);
-  /// The configuration of a file in a configurator of its own; null, after saying why, when it is
-  /// refused.
-  std::unique_ptr<Configurator> OpenOffline(const std::string& path);
-  /// Reads a file into a configurator. False, after saying why, when it is refused.
-  bool Open(Configurator& configurator, const std::string& path);
+  /// The configuration of a file, with its model. Nothing, after saying why, when it is refused.
+  std::optional<ModelConfiguration> OpenFile(const std::string& path);
+  /// Gives texts in the language of the options.
+  Translation Translator() {
+    return [this](std::string_view text) { return lang_.Translate(text); };
+  }
 
   /// The model to work with, by its display name: that of the options, else that of the simulated
   /// logger, else that of the file's stamp, else the stored one. Nothing, after saying why, when
@@ -50,20 +52,20 @@ class CommandContext {
   ExitCode ChoosePort(PortChoice& choice);
   bool HasPort() const { return !options.port.empty(); }
 
+  /// Writes a result to the output, in the form that the options ask for. Done, so that a command
+  /// can end with it.
+  ExitCode Show(const Result& result, JsonLayout layout = JsonLayout::Indented);
+
  private:
-  std::unique_ptr<Configurator> Make(SerialPort& port, std::string_view model);
   PortChoice NumberedPort(std::int16_t number);
   /// Display name of the model that a file's stamp names; empty when it names none.
   std::string ModelOfFile(const std::string& path);
 
   std::string langFile_;
-  LinePort noPorts_;
+  Lang lang_;
 };
 
 /// The model that any of its names means, letter case aside; null when there is none.
 const TargetModel* FindModel(std::string_view anyName);
-
-/// An empty configuration of the model that a configurator is set to.
-DeviceConf EmptyConf(CommandContext& context, const Configurator& configurator);
 
 }  // namespace ostrel::cli

@@ -92,6 +92,7 @@ class TextBox {
   /// What a user's edit does: the text is cut at the length limit.
   void Type(std::string_view text);
   int MaxLength() const { return maxLength_; }
+  void SetMaxLength(int maxLength) { maxLength_ = maxLength; }
 
   Face face;
 

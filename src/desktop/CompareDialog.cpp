@@ -12,17 +12,17 @@
 namespace ostrel {
 namespace {
 
-QTableWidget* MakeTable(const std::vector<FieldDifference>& differences, QWidget* parent) {
+QTableWidget* MakeTable(const std::vector<Difference>& differences, QWidget* parent) {
   auto* table = new QTableWidget(static_cast<int>(differences.size()), 4, parent);
   table->setHorizontalHeaderLabels(
       {Words::tr("Section"), Words::tr("Field"), Words::tr("Present"), Words::tr("In the file")});
   table->setAccessibleName(Words::tr("Differences"));
   int row = 0;
-  for (const FieldDifference& difference : differences) {
+  for (const Difference& difference : differences) {
     int column = 0;
-    for (const std::string* text :
-         {&difference.section, &difference.key, &difference.left, &difference.right})
-      table->setItem(row, column++, new QTableWidgetItem(ToQt(*text).trimmed()));
+    for (const std::string& text :
+         {difference.Section(), difference.Key(), difference.before, difference.after})
+      table->setItem(row, column++, new QTableWidgetItem(ToQt(text).trimmed()));
     ++row;
   }
   table->setEditTriggers(QAbstractItemView::NoEditTriggers);
@@ -39,7 +39,7 @@ QTableWidget* MakeTable(const std::vector<FieldDifference>& differences, QWidget
 }  // namespace
 
 CompareDialog::CompareDialog(const QString& file, const QString& note,
-                             const std::vector<FieldDifference>& differences, QWidget* parent)
+                             const std::vector<Difference>& differences, QWidget* parent)
     : QDialog(parent) {
   setWindowTitle(Words::tr("Comparison with %1").arg(file));
   auto* column = new QVBoxLayout(this);

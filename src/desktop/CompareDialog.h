@@ -12,7 +12,7 @@ namespace ostrel {
 class CompareDialog final : public QDialog {
  public:
   CompareDialog(const QString& file, const QString& note,
-                const std::vector<FieldDifference>& differences, QWidget* parent);
+                const std::vector<Difference>& differences, QWidget* parent);
 };
 
 }  // namespace ostrel

@@ -10,7 +10,6 @@
 #include <algorithm>
 
 #include "desktop/CompareDialog.h"
-#include "desktop/ConfigurationReader.h"
 #include "desktop/Icons.h"
 #include "desktop/Language.h"
 #include "desktop/MainWindow.h"
@@ -129,13 +128,13 @@ bool MainWindow::Save() {
   WorkOn(path);
   // Blanks around a text, and letters that the file has no code for, do not come back.
   const auto differences = FileDifferences();
-  if (differences && !differences->empty()) {
-    const FieldDifference& first = differences->front();
+  if (differences && !differences->isSame) {
+    const Difference& first = differences->differences.front();
     Tell(
         Words::tr("The file cannot keep %n text(s) as they are, the first of them %1 in %2: \"%3\" "
                   "reads back as \"%4\".",
-                  nullptr, static_cast<int>(differences->size()))
-            .arg(ToQt(first.key), ToQt(first.section), ToQt(first.left), ToQt(first.right)));
+                  nullptr, static_cast<int>(differences->differences.size()))
+            .arg(ToQt(first.Key()), ToQt(first.Section()), ToQt(first.before), ToQt(first.after)));
   }
   return true;
 }
@@ -196,17 +195,18 @@ void MainWindow::Compare() {
       FromQt(Words::tr("Configuration files") + "|*.ocf|" + Words::tr("All files") + "|*.*");
   const auto path = parts_.platform.dialogs.ChooseFile({.filter = filter});
   if (!path) return;
-  const auto file = ReadConfiguration(parts_.platform, configurator_.profile.TargetName, *path);
+  const auto file = ReadFile(*path);
   if (!file) {
     Tell(Words::tr("The file holds no configuration."));
     return;
   }
-  const QString note = file->model == configurator_.profile.TargetName
-                           ? QString()
-                           : Words::tr("The file is of another model: %1").arg(ToQt(file->model));
-  const auto present = FieldLines(configurator_, unsaved_.WithFront());
-  CompareDialog dialog(QFileInfo(ToQt(*path)).fileName(), note, CompareFields(present, file->lines),
-                       this);
+  const QString note =
+      file->profile.TargetName == configurator_.profile.TargetName
+          ? QString()
+          : Words::tr("The file is of another model: %1").arg(ToQt(file->profile.TargetName));
+  const ModelConfiguration present{configurator_.profile, unsaved_.WithFront()};
+  CompareDialog dialog(QFileInfo(ToQt(*path)).fileName(), note,
+                       ostrel::Compare(present, *file).differences, this);
   dialog.exec();
 }
 

@@ -5,7 +5,6 @@
 #include <QPixmap>
 #include <algorithm>
 
-#include "desktop/ConfigurationReader.h"
 #include "desktop/Demo.h"
 #include "desktop/Desktop.h"
 #include "desktop/Words.h"
@@ -86,15 +85,16 @@ std::string TakeScreenshot(const CommandLine& line, const std::string& langFile)
   Desktop desktop({.loop = loop,
                    .port = port,
                    .settings = settings,
+                   .dialogs = dialogs,
                    .files = files,
                    .processes = processes,
-                   .clock = clock,
-                   .dialogs = &dialogs},
+                   .clock = clock},
                   {.programFolder = {}, .langFile = kTable, .ticking = true}, {});
   desktop.Start(line.file.empty() ? "" : kConfiguration);
   const Configurator& core = desktop.Core();
   if (!line.file.empty() &&
-      !ReadConfiguration(core.context.platform, core.profile.TargetName, kConfiguration))
+      !ReadConfiguration(files, kConfiguration, core.profile,
+                         [](std::string_view text) { return std::string(text); }))
     return line.file + " is no configuration file";
   QPixmap picture = DialogPicture(desktop, dialogs, line.page);
   if (picture.isNull()) {

@@ -17,14 +17,26 @@ struct AlarmShape {
   bool hasNormal;  ///< ACTNO exists
 };
 
+/// When something is valid: at all times, or in a range of the day on some days.
+struct ValidityRange {
+  Bool16 SIEMPRE;
+  TimeOfDay INICIO, FINAL;
+  std::uint8_t SEMANA = 0;  ///< valid days, bit 0 Monday to bit 6 Sunday
+
+  bool operator==(const ValidityRange&) const = default;
+};
+
+/// All days of a week.
+inline constexpr std::uint8_t kAllDays = 127;
+/// What emptying leaves: valid at all times.
+inline constexpr ValidityRange kAlways{kTrue, {}, {}, kAllDays};
+
 /// The fields that all alarms share, for one alarm configuration of one channel.
 struct AlarmBlock {
   Bool16 HABIL, REST, RENV, SMS, VOZ, GPRS;
   std::string TEXTO;
-  Bool16 SIEMPRE = kTrue;
-  TimeOfDay INICIO, FINAL;
-  std::uint8_t SEMANA = 127;  ///< valid days, bit 0 Monday to bit 6 Sunday
-  std::int16_t FLAG = 0;      ///< 0 the constant "TRUE", n flag F(n-1)
+  ValidityRange valid;
+  std::int16_t FLAG = 0;  ///< 0 the constant "TRUE", n flag F(n-1)
   ActionList ACTHI, ACTLO, ACTNO;
 
   bool operator==(const AlarmBlock&) const = default;
@@ -61,49 +73,58 @@ struct Alarm {
 template <Is<LevelThresholds> T, class Visit>
 void Describe(T& t, Visit&& visit) {
   auto& [minimo, maximo, histeresis, persistencia] = t;
-  visit("MINIMO", minimo);
-  visit("MAXIMO", maximo);
-  visit("HISTERESIS", histeresis);
-  visit("PERSISTENCIA", persistencia);
+  visit(FieldMeta{"MINIMO", "minimum"}, minimo);
+  visit(FieldMeta{"MAXIMO", "maximum"}, maximo);
+  visit(FieldMeta{"HISTERESIS", "hysteresis"}, histeresis);
+  visit(FieldMeta{"PERSISTENCIA", "persistence"}, persistencia);
 }
 
 template <Is<ContactThresholds> T, class Visit>
 void Describe(T& t, Visit&& visit) {
   auto& [persist, rearm] = t;
-  visit("PERSIST", persist);
-  visit("REARM", rearm);
+  visit(FieldMeta{"PERSIST", "persistence"}, persist);
+  visit(FieldMeta{"REARM", "rearming"}, rearm);
 }
 
 template <Is<NoThresholds> T, class Visit>
 void Describe(T&, Visit&&) {}
 
-/// Visits the file keys of one alarm configuration: "HABIL( 0)" ... "ACTHI( 0 7)".
+template <Is<ValidityRange> T, class Visit>
+void Describe(T& t, Visit&& visit) {
+  auto& [siempre, inicio, final, semana] = t;
+  visit(FieldMeta{"SIEMPRE", "always valid"}, siempre);
+  visit(FieldMeta{"INICIO", "valid from"}, inicio);
+  visit(FieldMeta{"FINAL", "valid until"}, final);
+  visit(FieldMeta{"SEMANA", "valid days", FieldSense::Week}, semana);
+}
+
+/// Most characters of an alarm text that an operator may type.
+inline constexpr int kAlarmTextLength = 49;
+
+/// Visits one alarm configuration in file order.
 template <class AlarmCell, class Visit>
 void DescribeAlarm(AlarmCell& cell, int config, AlarmShape shape, Visit&& visit) {
-  auto& [habil, rest, renv, sms, voz, gprs, texto, siempre, inicio, final, semana, flag, acthi,
-         actlo, actno] = cell.common;
-  const std::string open = "(" + NumText(config);
-  const auto one = [&](std::string_view word, auto& field) {
-    visit(std::string(word) + open + ")", field);
+  auto& [habil, rest, renv, sms, voz, gprs, texto, valid, flag, acthi, actlo, actno] = cell.common;
+  const auto one = [&](const FieldMeta& meta, auto& field) {
+    visit(meta, field, FieldSlot{.config = config});
   };
-  one("HABIL", habil);
-  one("REST", rest);
-  one("RENV", renv);
-  one("SMS", sms);
-  one("VOZ", voz);
-  one("GPRS", gprs);
-  one("TEXTO", texto);
+  one(FieldMeta{"HABIL", "enabled", FieldSense::Enabled}, habil);
+  one(FieldMeta{"REST", "restoration message"}, rest);
+  one(FieldMeta{"RENV", "resend"}, renv);
+  one(FieldMeta{"SMS", "notify by SMS"}, sms);
+  one(FieldMeta{"VOZ", "notify by SMS and voice"}, voz);
+  one(FieldMeta{"GPRS", "notify by GPRS"}, gprs);
+  one(TextMeta("TEXTO", "text", kAlarmTextLength), texto);
   Describe(cell.thresholds, one);
-  one("SIEMPRE", siempre);
-  one("INICIO", inicio);
-  one("FINAL", final);
-  one("SEMANA", semana);
-  if (shape.hasFlag) one("FLAG", flag);
+  Describe(valid, one);
+  if (shape.hasFlag) one(FieldMeta{"FLAG", "condition flag", FieldSense::Condition}, flag);
   for (int place = 0; place < kActionPlaces; ++place) {
-    const std::string at = open + NumText(place) + ")";
-    visit("ACTHI" + at, acthi[place]);
-    visit("ACTLO" + at, actlo[place]);
-    if (shape.hasNormal) visit("ACTNO" + at, actno[place]);
+    const auto action = [&](std::string_view word, std::string_view words, auto& list) {
+      visit(FieldMeta{word, words, FieldSense::Action}, list[place], FieldSlot{config, place});
+    };
+    action("ACTHI", "actions, high", acthi);
+    action("ACTLO", "actions, low", actlo);
+    if (shape.hasNormal) action("ACTNO", "actions, normal", actno);
   }
 }
 
@@ -112,17 +133,6 @@ template <class AlarmCells, class Visit>
 void DescribeAlarms(AlarmCells& cells, AlarmShape shape, Visit&& visit) {
   for (int config = 0; config < shape.configs; ++config)
     DescribeAlarm(cells[config], config, shape, visit);
-}
-
-/// Resets what clearing a page resets of an alarm: all but GPRS and the action lists, which keep
-/// their values on purpose.
-void ClearAlarm(AlarmBlock& alarm);
-
-/// Resets an alarm configuration with its thresholds.
-template <class Thresholds>
-void ClearAlarm(Alarm<Thresholds>& cell) {
-  ClearAlarm(cell.common);
-  cell.thresholds = {};
 }
 
 }  // namespace ostrel

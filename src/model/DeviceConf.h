@@ -9,27 +9,33 @@
 
 namespace ostrel {
 
+// An initialiser here is what the memory of a fresh program holds; what emptying sets stands with
+// the blocks.
+
 /// What a logger has only once.
 struct ConfGeneral {
-  std::string DNAME;        ///< name of the logger
-  std::string CSM;          ///< SMS service centre
-  std::int32_t RENVT = 10;  ///< minutes between alarm resends
-  std::int16_t RENVN = 3;   ///< resends at the most
-  std::string PTLF;         ///< the logger's own number
-  std::string REST;         ///< text appended when an alarm ends
+  std::string DNAME;       ///< name of the logger
+  std::string CSM;         ///< SMS service centre
+  std::int32_t RENVT = 0;  ///< minutes between alarm resends
+  std::int16_t RENVN = 0;  ///< resends at the most
+  std::string PTLF;        ///< the logger's own number
+  std::string REST;        ///< text appended when an alarm ends
 
   bool operator==(const ConfGeneral&) const = default;
 };
 
+/// Most characters of a telephone number that an operator may type.
+inline constexpr int kNumberLength = 16;
+
 template <Is<ConfGeneral> R, class Visit>
 void Describe(R& r, Visit&& visit) {
   auto& [dname, csm, renvt, renvn, ptlf, rest] = r;
-  visit("NOMBRE", dname);
-  visit("CSM", csm);
-  visit("RENVT", renvt);
-  visit("RENVN", renvn);
-  visit("PTLF", ptlf);
-  visit("RESTORE", rest);
+  visit(TextMeta("NOMBRE", "name", 50), dname);
+  visit(TextMeta("CSM", "SMS centre", kNumberLength), csm);
+  visit(TextMeta("RENVT", "minutes between resends", 3), renvt);
+  visit(TextMeta("RENVN", "resends", 3), renvn);
+  visit(TextMeta("PTLF", "own number", kNumberLength), ptlf);
+  visit(TextMeta("RESTORE", "text of a restoration", 19), rest);
 }
 
 /// Mask places of a telephone in use; a further one exists and stays untouched.
@@ -65,8 +71,8 @@ struct ConfDigital {
 template <Is<ConfDigital> R, class Visit>
 void Describe(R& r, Visit&& visit) {
   auto& [nombre, nc, alarm] = r;
-  visit("NOMBRE", nombre);
-  visit("NC", nc);
+  visit(TextMeta("NOMBRE", "name", 19), nombre);
+  visit(FieldMeta{"NC", "normally closed"}, nc);
   DescribeAlarms(alarm, ConfDigital::kShape, visit);
 }
 
@@ -87,14 +93,14 @@ struct ConfAnalog {
 template <Is<ConfAnalog> R, class Visit>
 void Describe(R& r, Visit&& visit) {
   auto& [nombre, unidad, interfaz, ie, fe, eqIe, eqFe, grupo, alarm] = r;
-  visit("NOMBRE", nombre);
-  visit("UNIDAD", unidad);
-  visit("INTERFAZ", interfaz);
-  visit("IE", ie);
-  visit("FE", fe);
-  visit("EqIE", eqIe);
-  visit("EqFE", eqFe);
-  visit("GRUPO", grupo);
+  visit(TextMeta("NOMBRE", "name", 19), nombre);
+  visit(TextMeta("UNIDAD", "unit", 9), unidad);
+  visit(FieldMeta{"INTERFAZ", "interface"}, interfaz);
+  visit(FieldMeta{"IE", "start of scale"}, ie);
+  visit(FieldMeta{"FE", "full scale"}, fe);
+  visit(FieldMeta{"EqIE", "value at start of scale"}, eqIe);
+  visit(FieldMeta{"EqFE", "value at full scale"}, eqFe);
+  visit(FieldMeta{"GRUPO", "group"}, grupo);
   DescribeAlarms(alarm, ConfAnalog::kShape, visit);
 }
 
@@ -110,9 +116,9 @@ struct ConfGrupo {
 template <Is<ConfGrupo> R, class Visit>
 void Describe(R& r, Visit&& visit) {
   auto& [salida, voltaje, period] = r;
-  visit("SALIDA", salida);
-  visit("VOLTAJE", voltaje);
-  visit("PERIOD", period);
+  visit(FieldMeta{"SALIDA", "output"}, salida);
+  visit(FieldMeta{"VOLTAJE", "voltage"}, voltaje);
+  visit(TextMeta("PERIOD", "period", 5), period);
 }
 
 /// A flag of the logger, with the alarm that its change can raise.

@@ -27,7 +27,7 @@ void SetText(Number& field, std::string_view text) {
 
 }  // namespace
 
-std::string FieldText(const FieldRef& field, bool isS100) {
+std::string FieldText(const FieldView& field, bool isS100) {
   return std::visit(
       [&](const auto* typed) -> std::string {
         if constexpr (std::same_as<decltype(typed), const ConfPhone*>)
@@ -42,14 +42,19 @@ void SetFieldText(const FieldRef& field, std::string_view text) {
   std::visit([&](auto* typed) { SetText(*typed, text); }, field);
 }
 
-void CopyField(const FieldRef& from, const FieldRef& to) {
+void CopyField(const FieldView& from, const FieldRef& to) {
   std::visit(
-      [&](auto* source) {
-        auto* const* target = std::get_if<decltype(source)>(&to);
-        if (target == nullptr) throw std::logic_error("fields of different kinds");
-        **target = *source;
+      [&](auto* target) {
+        const auto* const* source =
+            std::get_if<const std::remove_pointer_t<decltype(target)>*>(&from);
+        if (source == nullptr) throw std::logic_error("fields of different kinds");
+        *target = **source;
       },
-      from);
+      to);
+}
+
+FieldView ViewOf(const FieldRef& field) {
+  return std::visit([](auto* typed) { return FieldView(typed); }, field);
 }
 
 }  // namespace ostrel

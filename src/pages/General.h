@@ -6,6 +6,8 @@
 #include "pages/PageContext.h"
 #include "pages/PhoneFrame.h"
 #include "pages/SessionFrame.h"
+#include "pages/parts/BoundFields.h"
+#include "pages/parts/FirmwareNotice.h"
 
 namespace ostrel {
 
@@ -15,6 +17,7 @@ class General final : public Page {
  public:
   explicit General(PageContext& context);
 
+  PageId Id() const override { return PageId::General; }
   Form& GetForm() override { return form_; }
   void LoadText() override;
   void ChangeIndex(std::int16_t index) override;
@@ -23,12 +26,10 @@ class General final : public Page {
   void SaveConf(IniClass& document) override;
   void RestoreConf() override;
   void SavePage() override;
+  void SaveInto(DeviceConf& conf) const override;
   void Form_Load() override;
   void Form_Activate() override { PageActive = true; }
   void Form_Deactivate() override { PageActive = false; }
-  void VisitFields(DeviceConf& conf, const FieldVisitor& visit) const override;
-  std::vector<WireSection> WireSections() override;
-  std::vector<WireBlock> WireBlocks() override;
 
   /// Refills the list of channels of a telephone's mask from the model's counts.
   void LoadMaskSelection() { phones_.LoadMaskSelection(); }
@@ -49,10 +50,10 @@ class General final : public Page {
 
  private:
   void SelectCentre(std::string_view number);
-  void ShowWarning();
 
   PageContext& context_;
   Form form_{"General", ""};
+  BoundFields<ConfGeneral> fields_;
   TextBox NameBox;
   OptionGroup centre_;
   OptionButton CSMMovi, CSMVoda, CSMAmen, CSMOtro;
@@ -62,8 +63,7 @@ class General final : public Page {
   Label FirmText, SerialText, VBatText, MaxHText, UsedHText;
   ProgressBar RSSIBar;
   Label LabelRSSI;
-  Picture Warning;
-  Label WarningText;
+  FirmwareNotice notice_;
   Button help_;
   Timer Timer1_;
 };

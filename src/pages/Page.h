@@ -1,23 +1,22 @@
 #pragma once
 
 #include <cstdint>
-#include <string_view>
-#include <vector>
 
+#include "blocks/PageId.h"
 #include "controls/Form.h"
-#include "link/Wire.h"
-#include "model/Field.h"
 
 namespace ostrel {
 
 class IniClass;
+struct DeviceConf;
 
-/// A page: logic over named fields of the model and named controls of its form. It edits its part
-/// of the model, and knows how that part travels on the wire and stands in the file.
+/// A page: logic over named fields of the model and named controls of its form. What its part of
+/// the model is on the wire and in the file stands with its block.
 class Page {
  public:
   virtual ~Page() = default;
 
+  virtual PageId Id() const = 0;
   virtual Form& GetForm() = 0;
   /// Sets every caption and the title in the language in use.
   virtual void LoadText() = 0;
@@ -33,17 +32,12 @@ class Page {
   virtual void RestoreConf() = 0;
   /// Commits the controls to the model.
   virtual void SavePage() = 0;
+  /// What `SavePage` would leave in a model, put into another one; nothing else changes.
+  virtual void SaveInto(DeviceConf& conf) const = 0;
 
   virtual void Form_Load() = 0;
   virtual void Form_Activate() = 0;
   virtual void Form_Deactivate() = 0;
-
-  /// Visits every field of the page's part of a model that a file holds, in file order.
-  virtual void VisitFields(DeviceConf& conf, const FieldVisitor& visit) const = 0;
-  /// How the lines of the page's keys are read from a logger.
-  virtual std::vector<WireSection> WireSections() = 0;
-  /// The page's blocks of an upload, by the names under which the order of sending knows them.
-  virtual std::vector<WireBlock> WireBlocks() = 0;
 };
 
 }  // namespace ostrel

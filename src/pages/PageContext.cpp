@@ -20,6 +20,12 @@ std::string PageContext::ConfReadKey(std::string_view section, std::string_view 
   return std::string(iniTool.ProfileRead(section, key, ConfFilePath));
 }
 
+void PageContext::EditActions(ActionList& actions) const {
+  CopyActions(actions, ActionBuffer);
+  showActEdit();
+  CopyActions(ActionBuffer, actions);
+}
+
 void PageContext::ShowHelp(std::string_view word) const {
   ostrel::ShowHelp(platform.processes, programFolder, word);
 }

@@ -40,6 +40,8 @@ struct PageContext {
   std::string Translate(std::string_view text) const;
   /// Reads a key of the file at `ConfFilePath`; empty when it is absent.
   std::string ConfReadKey(std::string_view section, std::string_view key) const;
+  /// Lets the operator edit an action list.
+  void EditActions(ActionList& actions) const;
   /// Opens the help page of a word.
   void ShowHelp(std::string_view word) const;
   /// Shows a form until its logic closes it or the operator dismisses it.

@@ -12,7 +12,7 @@ namespace {
 constexpr int kPriorities = 8;
 constexpr int kDefaultPrivilege = 1;            // position of "Administrador"
 constexpr std::size_t kMostRows = kPhones + 1;  // one more than is kept
-constexpr int kFlags = 16;
+constexpr int kMaskFlags = 16;
 
 /// The privilege levels in the order of their list.
 constexpr std::array<std::pair<std::string_view, std::int32_t>, 4> kPrivileges{
@@ -23,7 +23,7 @@ constexpr std::array<std::pair<std::string_view, std::int32_t>, 4> kPrivileges{
 PhoneFrame::PhoneFrame(Form& form, PageContext& context)
     : form_(form),
       context_(context),
-      NewTlf(form, "NewTlf", 16),
+      NewTlf(form, "NewTlf", kNumberLength),
       PrioBox(form, "PrioBox"),
       Privilegios(form, "Privilegios"),
       CheckMask(form, "CheckMask", "Habilitar mascara"),
@@ -53,7 +53,7 @@ void PhoneFrame::LoadMaskSelection() {
       {"MB", model.ModbusCount, ", MODBUS"},
       {"EX", model.ModuloCount, ", Expansion"},
       {"PB", model.OneWireCount, ", Temp/Hum"},
-      {"FG", kFlags, ", Flag"},
+      {"FG", kMaskFlags, ", Flag"},
   }};
   MaskSelection.Clear();
   for (const auto& [token, count, words] : groups)
@@ -163,9 +163,9 @@ void PhoneFrame::LoadList() {
   }
 }
 
-void PhoneFrame::SaveList() {
+void PhoneFrame::SaveList(DeviceConf& conf) const {
   for (int slot = 0; slot < kPhones; ++slot)
-    ReadPhoneRow(ListaTlf.RowText(slot), context_.conf.Phone[slot]);
+    ReadPhoneRow(ListaTlf.RowText(slot), conf.Phone[slot]);
 }
 
 }  // namespace ostrel

@@ -13,8 +13,8 @@ class PhoneFrame {
   void LoadMaskSelection();
   /// Shows the telephones of the model, one row each.
   void LoadList();
-  /// Commits the rows of the list to the slots in use.
-  void SaveList();
+  /// Commits the rows of the list to the slots in use of a model.
+  void SaveList(DeviceConf& conf) const;
   /// Applies the state of `CheckMask` and starts the entry controls.
   void Start();
   void SelectFirst();

@@ -7,6 +7,7 @@ namespace ostrel {
 namespace {
 
 constexpr std::size_t kWakeOctets = 16;
+constexpr std::size_t kBurstOctets = 4096;
 
 /// How many octets a line time is enough for: the reverse of `LineTime`.
 std::size_t OctetsIn(Duration span) {
@@ -68,6 +69,10 @@ void LineQueue::Schedule() {
     const std::size_t count = std::min(next.find('\r'), next.size() - 1) + 1;
     delay = start_ + LineTime(settled_ + count) - loop_.Now();
   }
+  WakeIn(delay);
+}
+
+void LineQueue::WakeIn(Duration delay) {
   wake_ = loop_.After(delay, name_, [this] { Wake(); });
 }
 
@@ -76,7 +81,7 @@ void LineQueue::Wake() {
   if (paced_) {
     Settle();
   } else {
-    ready_ = Held();
+    ready_ = std::min(Held(), ready_ + kBurstOctets);
   }
   // Scheduled before the call, so that the line moves on in waits within it.
   Schedule();
@@ -104,6 +109,14 @@ void LineQueue::Hold(bool hold) {
   Settle();
   hold_ = hold;
   Restart();
+  if (hold && ready_ > 0) WakeIn(Duration::zero());
+}
+
+void LineQueue::Discard() {
+  Settle();
+  octets_.resize(first_ + ready_);
+  Schedule();
+  if (ready_ > 0) WakeIn(Duration::zero());
 }
 
 void LineQueue::Flush() {

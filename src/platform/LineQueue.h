@@ -13,8 +13,8 @@ namespace ostrel {
 ///
 /// Paced, an octet needs its line time: how many have arrived follows from the clock, to the octet.
 /// The wake-up comes after a carriage return, after 16 octets and after the last octet, so a long
-/// stream costs a fraction of an event an octet. Unpaced, all that was put arrives together with
-/// the next event of the loop, never within `Put`.
+/// stream costs a fraction of an event an octet. Unpaced, what was put arrives with the next events
+/// of the loop, 4,096 octets at a time as a driver hands them over, never within `Put`.
 class LineQueue {
  public:
   /// `onArrival` is called from the loop, to take what has arrived.
@@ -36,6 +36,8 @@ class LineQueue {
   /// Stops the line, like a low CTS, or starts it again; the octet on the line starts anew.
   void Hold(bool hold);
   bool OnHold() const { return hold_; }
+  /// Forgets the octets that have not arrived.
+  void Discard();
   /// Lets everything arrive at once.
   void Flush();
   /// Forgets all octets.
@@ -47,6 +49,7 @@ class LineQueue {
   void Settle();
   void Restart();
   void Schedule();
+  void WakeIn(Duration delay);
   void Wake();
 
   EventLoop& loop_;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <functional>
 #include <string>
 #include <string_view>
@@ -40,7 +41,7 @@ class SerialPort {
   virtual void SetSettings(std::string_view settings) = 0;
   /// Octets that one `Input` takes at the most; 0 takes all.
   virtual void SetInputLen(int octets) = 0;
-  /// Size of the receive buffer in octets.
+  /// Size of the receive buffer in octets. When it is full the oldest octets go.
   virtual void SetInBufferSize(int octets) = 0;
   virtual void SetHandshaking(PortHandshaking handshaking) = 0;
   virtual void SetRTSEnable(bool on) = 0;
@@ -61,6 +62,8 @@ class SerialPort {
   /// Takes up to `InputLen` received octets.
   virtual std::string Input() = 0;
   virtual std::size_t InBufferCount() const = 0;
+  /// Received octets that have gone unread from a full receive buffer since the opening.
+  virtual std::uint64_t LostOctets() const = 0;
 
   /// Carrier detect as last seen.
   virtual bool CDHolding() const = 0;

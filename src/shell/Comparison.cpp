@@ -1,41 +1,105 @@
 #include "shell/Comparison.h"
 
-#include <map>
-#include <utility>
+#include <unordered_map>
 
-#include "shell/Configurator.h"
+#include "base/Printable.h"
+#include "shell/FieldWords.h"
+#include "shell/SentProbe.h"
 
 namespace ostrel {
+namespace {
 
-std::vector<FieldLine> FieldLines(const Configurator& configurator, const DeviceConf& conf) {
-  std::vector<FieldLine> lines;
-  DeviceConf copy = conf;
-  const bool isS100 = configurator.profile.IsS100;
-  configurator.VisitFields(
-      copy, [&](const std::string& section, const std::string& key, FieldRef field) {
-        if (const auto* phone = std::get_if<ConfPhone*>(&field); phone && (*phone)->TLF.empty())
-          return;
-        lines.push_back({section, key, FieldText(field, isS100)});
-      });
-  return lines;
+/// Words for a field that one side lacks.
+constexpr std::string_view kAbsent = "-";
+constexpr FieldMeta kModelMeta{.word = kStampKey, .words = "model"};
+
+std::string Address(const ConstField& field) { return field.Section() + "/" + field.Key(); }
+
+/// The same for all to whom a free telephone slot is nothing.
+bool IsNothing(const ConstField& field) {
+  const auto* phone = std::get_if<const ConfPhone*>(&field.value);
+  return phone && (*phone)->TLF.empty();
 }
 
-std::vector<FieldDifference> CompareFields(const std::vector<FieldLine>& left,
-                                           const std::vector<FieldLine>& right) {
-  using Address = std::pair<std::string_view, std::string_view>;
-  std::map<Address, std::string_view> others;
-  for (const FieldLine& line : right) others[{line.section, line.key}] = line.text;
-  std::vector<FieldDifference> differences;
-  for (const FieldLine& line : left) {
-    const auto other = others.find({line.section, line.key});
-    const std::string text(other == others.end() ? std::string_view() : other->second);
-    if (text != line.text) differences.push_back({line.section, line.key, line.text, text});
+Difference DifferenceOf(const ConstField& field, const std::string& before,
+                        const std::string& after) {
+  return {.id = field.id, .meta = field.meta, .before = before, .after = after};
+}
+
+Comparison CompareModels(const ModelConfiguration& before, const ModelConfiguration& after) {
+  Comparison comparison{.isSame = false};
+  const std::string &nameBefore = before.profile.TargetName, &nameAfter = after.profile.TargetName;
+  comparison.differences.push_back({.id = {&GeneralParameters::kSection, -1, kStampKey, {}},
+                                    .meta = kModelMeta,
+                                    .before = nameBefore,
+                                    .after = nameAfter,
+                                    .beforeWords = nameBefore,
+                                    .afterWords = nameAfter});
+  const auto words = [](const ConstField& field, bool isS100) {
+    return ReadableValue(field.value, field.meta, isS100);
+  };
+  const auto fieldsBefore = FieldsOf(before.conf, before.profile);
+  const auto fieldsAfter = FieldsOf(after.conf, after.profile);
+  std::unordered_map<std::string, const ConstField*> others;
+  for (const ConstField& field : fieldsAfter)
+    if (!IsNothing(field)) others[Address(field)] = &field;
+  for (const ConstField& field : fieldsBefore) {
+    if (IsNothing(field)) continue;
+    const auto other = others.find(Address(field));
+    const std::string text = FieldText(field.value, before.profile.IsS100);
+    const std::string otherText = other == others.end()
+                                      ? std::string()
+                                      : FieldText(other->second->value, after.profile.IsS100);
+    if (text != otherText) {
+      Difference difference = DifferenceOf(field, text, otherText);
+      difference.beforeWords = words(field, before.profile.IsS100);
+      difference.afterWords =
+          other == others.end() ? kAbsent : words(*other->second, after.profile.IsS100);
+      comparison.differences.push_back(std::move(difference));
+    }
     if (other != others.end()) others.erase(other);
   }
-  for (const FieldLine& line : right)
-    if (others.contains({line.section, line.key}) && !line.text.empty())
-      differences.push_back({line.section, line.key, "", line.text});
-  return differences;
+  for (const ConstField& field : fieldsAfter) {
+    const std::string text = FieldText(field.value, after.profile.IsS100);
+    if (text.empty() || !others.contains(Address(field))) continue;
+    Difference difference = DifferenceOf(field, "", text);
+    difference.beforeWords = kAbsent;
+    difference.afterWords = words(field, after.profile.IsS100);
+    comparison.differences.push_back(std::move(difference));
+  }
+  return comparison;
+}
+
+}  // namespace
+
+Comparison Compare(const ModelConfiguration& before, const ModelConfiguration& after,
+                   std::optional<std::int32_t> features) {
+  const TargetProfile& profile = before.profile;
+  if (profile.TargetName != after.profile.TargetName) return CompareModels(before, after);
+  const auto fieldsBefore = FieldsOf(before.conf, profile);
+  const auto fieldsAfter = FieldsOf(after.conf, profile);
+  std::optional<SentProbe> probeBefore, probeAfter;
+  if (features) {
+    probeBefore.emplace(before.conf, Receiver{profile, *features});
+    probeAfter.emplace(after.conf, Receiver{profile, *features});
+  }
+  Comparison comparison;
+  for (std::size_t i = 0; i < fieldsBefore.size(); ++i) {
+    const ConstField &one = fieldsBefore[i], &other = fieldsAfter[i];
+    const std::string text = FieldText(one.value, profile.IsS100);
+    const std::string otherText = FieldText(other.value, profile.IsS100);
+    if (text == otherText) continue;
+    Difference difference = DifferenceOf(one, text, otherText);
+    difference.beforeWords = ReadableValue(one.value, one.meta, profile.IsS100);
+    difference.afterWords = ReadableValue(other.value, other.meta, profile.IsS100);
+    difference.isSent =
+        !features || probeBefore->Changes(i, other.value) || probeAfter->Changes(i, one.value);
+    comparison.differences.push_back(std::move(difference));
+  }
+  comparison.isSame = features ? ComposeStatements(before.conf, {profile, *features}) ==
+                                     ComposeStatements(after.conf, {profile, *features})
+                               : comparison.differences.empty();
+  return comparison;
 }
 
 }  // namespace ostrel

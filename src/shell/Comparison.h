@@ -1,34 +1,40 @@
 #pragma once
 
+#include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
-#include "model/DeviceConf.h"
+#include "blocks/Configuration.h"
+#include "shell/ConfigurationFile.h"
 
 namespace ostrel {
 
-class Configurator;
+/// One field in which two configurations differ.
+struct Difference {
+  FieldId id;
+  FieldMeta meta;
+  std::string before{}, after{};  ///< as a file holds them; empty for a side that lacks the field
+  std::string beforeWords{}, afterWords{};  ///< as a person reads them
+  bool isSent = true;  ///< a statement carries it under the features in question
 
-/// One field of a configuration as a file holds it.
-struct FieldLine {
-  std::string section, key, text;
-
-  bool operator==(const FieldLine&) const = default;
+  std::string Section() const { return SectionName(id); }
+  std::string Key() const { return KeyName(id, meta.placeForm); }
 };
 
-/// All fields of a configuration that a file of the configurator's model holds, in file order. Free
-/// telephone slots are left out: nothing of them is shown, sent or saved.
-std::vector<FieldLine> FieldLines(const Configurator& configurator, const DeviceConf& conf);
-
-/// A field in which two configurations differ. A side that lacks the field has an empty text.
-struct FieldDifference {
-  std::string section, key, left, right;
-
-  bool operator==(const FieldDifference&) const = default;
+/// How two configurations differ.
+struct Comparison {
+  std::vector<Difference> differences{};  ///< in file order
+  /// Whether they are the same to a logger; when its features are not known, whether all fields are
+  /// the same.
+  bool isSame = true;
 };
 
-/// What differs, in the order of the left side; fields that only the right side has come last.
-std::vector<FieldDifference> CompareFields(const std::vector<FieldLine>& left,
-                                           const std::vector<FieldLine>& right);
+/// Compares two configurations. With features they are the same when they give the same statements,
+/// and a difference counts as sent when copying that one field from either to the other changes a
+/// statement. Configurations of different models differ in the model too, and are compared field by
+/// field.
+Comparison Compare(const ModelConfiguration& before, const ModelConfiguration& after,
+                   std::optional<std::int32_t> features = {});
 
 }  // namespace ostrel

@@ -1,17 +1,19 @@
+#include "shell/ConfigurationFile.h"
+
 #include <array>
 #include <utility>
 
 #include "base/Scope.h"
+#include "blocks/Configuration.h"
+#include "blocks/Orders.h"
 #include "platform/Dialogs.h"
 #include "shell/Configurator.h"
-#include "shell/Orders.h"
+#include "shell/ForeignKeys.h"
 #include "store/IniClass.h"
 
 namespace ostrel {
 namespace {
 
-constexpr std::string_view kStampSection = "General";
-constexpr std::string_view kStampKey = "VERSION";
 constexpr std::string_view kFileFilter =
     "Archivo de configuracion OCF (*.ocf)|*.ocf|Todos los ficheros (*.*)|*.*";
 
@@ -54,14 +56,36 @@ class Hourglass {
 
 }  // namespace
 
+std::optional<ModelConfiguration> ReadConfiguration(Files& files, const std::string& path,
+                                                    const TargetProfile& present,
+                                                    const Translation& translate) {
+  IniTool tool(files);
+  ModelConfiguration read{present, {}};
+  const std::string stamp = tool.ProfileRead(kStampSection, kStampKey, path);
+  if (stamp != read.profile.TargetType) SelectTarget(read.profile, ModelOfStamp(stamp));
+  if (stamp.empty() || stamp != read.profile.TargetType) return {};
+  read.conf = EmptyConfiguration(read.profile, translate);
+  RestoreConfiguration(read.conf, read.profile, translate,
+                       [&](const std::string& section, const std::string& key) {
+                         return tool.ProfileRead(section, key, path);
+                       });
+  return read;
+}
+
+FileResult WriteConfiguration(Files& files, const std::string& path, const DeviceConf& conf,
+                              const TargetProfile& profile) {
+  IniClass document(files);
+  SaveConfiguration(conf, profile, document);
+  return document.SaveINI(path);
+}
+
 FileResult Configurator::SaveConf() {
   const Hourglass hourglass(general.GetForm());
   IniClass document(platform_.files);
   document.NewINI();
   document.WriteKey(kStampSection, kStampKey, profile.TargetType);
   for (const FileTurn& turn : kFileOrder)
-    if (Page* page = PageNamed(turn.page); page && turn.takesPart(profile))
-      page->SaveConf(document);
+    if (Page* page = PageOf(turn.page); page && turn.takesPart(profile)) page->SaveConf(document);
   FileResult result = document.SaveINI(ConfFilePath);
   iniTool.Forget();
   return result;
@@ -90,7 +114,7 @@ RestoreResult Configurator::RestoreConf() {
     return RestoreResult::NotAConfiguration;
   }
   for (const FileTurn& turn : kFileOrder)
-    if (Page* page = PageNamed(turn.page); page && turn.takesPart(profile)) page->RestoreConf();
+    if (Page* page = PageOf(turn.page); page && turn.takesPart(profile)) page->RestoreConf();
   return RestoreResult::Loaded;
 }
 
@@ -116,6 +140,10 @@ std::optional<FileResult> Configurator::AskAndSave() {
                                                   .overwritePrompt = true,
                                                   .suggested = ConfFilePath});
   if (!path) return {};
+  if (OnForeignKeys) {
+    const auto lost = ForeignKeys(platform_.files, *path, profile);
+    if (!lost.empty() && !OnForeignKeys(*path, lost)) return {};
+  }
   ConfFilePath = *path;
   return ConfFilePath.empty() ? FileResult{} : SaveConf();
 }

@@ -1,9 +1,8 @@
 #include "shell/Configurator.h"
 
-#include <algorithm>
-#include <stdexcept>
-
 #include "base/Scope.h"
+#include "blocks/Blocks.h"
+#include "blocks/Orders.h"
 #include "pages/inputs/E_Analog.h"
 #include "pages/inputs/E_Digital.h"
 #include "pages/inputs/Flags.h"
@@ -11,7 +10,7 @@
 #include "platform/Dialogs.h"
 #include "platform/EventLoop.h"
 #include "platform/Files.h"
-#include "shell/Orders.h"
+#include "shell/TransferBar.h"
 
 namespace ostrel {
 namespace {
@@ -54,6 +53,8 @@ Configurator::Configurator(const Platform& platform, ConfiguratorOptions options
       pages_(MakePages(context)),
       general(static_cast<General&>(*pages_.front())),
       comms(platform_, {profile, info, live, totals, ComBusy}, MakeHooks()),
+      bar_(comms.OnProgress(
+          [&bar = general.Session().PBar](const Progress& progress) { ShowOnBar(progress, bar); })),
       session(context, comms, general, Connected),
       actEdit(context),
       pwForm(context),
@@ -69,13 +70,11 @@ Configurator::~Configurator() = default;
 LinkHooks Configurator::MakeHooks() {
   SessionFrame& frame = general.Session();
   return {
-      .clearPages = [this] { ForEach(kClearAtDownload, [](Page& page) { page.Clear(); }); },
-      .loadPages = [this] { ForEach(kLoadAfterDownload, [](Page& page) { page.LoadData(); }); },
-      .barMaximum = [&frame](int maximum) { frame.PBar.SetMaximum(maximum); },
-      .barValue = [&frame](int value) { frame.PBar.SetValue(value); },
+      .clearPages = [this] { ForEach(kClearAtDownload, &Page::Clear); },
+      .loadPages = [this] { ForEach(kLoadAfterDownload, &Page::LoadData); },
       .composed = [this] { session.KeepSent(); },
       .infoChanged = [this](std::string_view key) { general.ShowInfo(key); },
-      .showPWForm = [this] { pwForm.ShowModal(comms.AccessCode); },
+      .showPWForm = [this] { AskCode(); },
       .carrierLost = [this] { ShowCarrierLost(); },
       .portFound = [&frame](std::string_view name) { frame.Puerto.Add(name); },
   };
@@ -83,20 +82,24 @@ LinkHooks Configurator::MakeHooks() {
 
 void Configurator::RegisterWire() {
   std::vector<WireSection> sections;
-  std::vector<WireBlock> found;
-  for (const auto& page : pages_) {
-    std::ranges::move(page->WireSections(), std::back_inserter(sections));
-    std::ranges::move(page->WireBlocks(), std::back_inserter(found));
-  }
-  for (const WireBlock& block : found)
-    if (std::ranges::find(kUploadOrder, block.name) == kUploadOrder.end())
-      throw std::logic_error("no place in an upload for " + std::string(block.name));
+  for (const Block& block : Blocks())
+    for (const LineSection& line : block.lines)
+      sections.push_back(
+          {line.key, [this, read = line.read](LineReader& reader) { read(reader, conf, info); }});
   std::vector<WireBlock> blocks;
-  for (const std::string_view name : kUploadOrder) {
-    const auto block = std::ranges::find(found, name, &WireBlock::name);
-    if (block != found.end()) blocks.push_back(std::move(*block));
-  }
+  for (const UploadStep& step : UploadOrder())
+    blocks.push_back({step.name, [this, &step](StatementList& out) {
+                        const Receiver receiver{profile, info.Features};
+                        for (int channel = 0; channel < step.count(receiver); ++channel)
+                          step.compose(conf, receiver, channel, out);
+                      }});
   comms.SetWire(std::move(sections), std::move(blocks));
+}
+
+void Configurator::AskCode() {
+  std::string code = platform_.dialogs.AskCode(context.Translate("Introduzca la clave de acceso:"));
+  session.CodeAsked(!code.empty());
+  if (code.empty() || CheckCode(context, code)) comms.AccessCode = std::move(code);
 }
 
 void Configurator::ShowCarrierLost() {
@@ -106,10 +109,15 @@ void Configurator::ShowCarrierLost() {
       {.text = context.Translate("Se corto la comunicacion"), .title = profile.TargetName});
 }
 
-template <class Names, class Action>
-void Configurator::ForEach(const Names& names, Action action) {
-  for (const std::string_view name : names)
-    if (Page* page = PageNamed(name)) action(*page);
+void Configurator::ForEach(std::span<const PageId> order, void (Page::*action)()) {
+  for (const PageId id : order)
+    if (Page* page = PageOf(id)) (page->*action)();
+}
+
+Page* Configurator::PageOf(PageId id) const {
+  for (const auto& page : pages_)
+    if (page->Id() == id) return page.get();
+  return nullptr;
 }
 
 Page* Configurator::PageNamed(std::string_view name) const {
@@ -125,19 +133,6 @@ std::vector<Form*> Configurator::Forms() {
        {&actEdit.GetForm(), &pwForm.GetForm(), &langForm.GetForm(), &targetSelect.GetForm()})
     forms.push_back(form);
   return forms;
-}
-
-void Configurator::VisitFields(DeviceConf& target, const FieldVisitor& visit) const {
-  for (const FileTurn& turn : kFileOrder)
-    if (const Page* page = PageNamed(turn.page); page && turn.takesPart(profile))
-      page->VisitFields(target, visit);
-}
-
-std::vector<std::string> Configurator::StatementsOf(const DeviceConf& source,
-                                                    std::int32_t features) {
-  const Lent lentConf(conf, source);
-  const Lent lentFeatures(info.Features, features);
-  return comms.ComposeStatements();
 }
 
 void Configurator::TargetDeviceChange(const std::string& name) {
@@ -178,7 +173,7 @@ void Configurator::Start(const std::string& commandLine) {
   }
   TargetDeviceChange(target);
   LoadForms();
-  ForEach(kClearAtStart, [](Page& page) { page.Clear(); });
+  ForEach(kClearAtStart, &Page::Clear);
   if (!commandLine.empty()) {
     ConfFilePath = commandLine.size() > 2 ? commandLine.substr(1, commandLine.size() - 2) : "";
     RestoreConf();
@@ -191,7 +186,7 @@ void Configurator::StartForCommand(std::string_view target, std::int16_t languag
   const TargetModel* model = FindTarget(target);
   TargetDeviceChange(std::string(model ? model->name : target));
   LoadForms();
-  ForEach(kClearAtStart, [](Page& page) { page.Clear(); });
+  ForEach(kClearAtStart, &Page::Clear);
 }
 
 void Configurator::ShutDown() {
@@ -202,7 +197,7 @@ void Configurator::ShutDown() {
 }
 
 void Configurator::AskLanguage() {
-  langForm.AskUser();
+  if (!langForm.AskUser()) return;
   keepsStoredLanguage_ = false;
   LoadText();
 }

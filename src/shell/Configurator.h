@@ -2,6 +2,7 @@
 
 #include <memory>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -73,9 +74,12 @@ class Configurator {
   RestoreResult OpenFile(const std::string& path);
   /// The tool bar's "Abrir": asks for a path; false when the operator cancels.
   bool AskAndOpen();
-  /// The tool bar's "Guardar": asks for a path. Nothing when the operator cancels, else what
-  /// writing came to, for those who show it.
+  /// The tool bar's "Guardar": asks for a path. Nothing when the operator cancels, or declines to
+  /// lose what only the file holds; else what writing came to, for those who show it.
   std::optional<FileResult> AskAndSave();
+  /// Asks whether a file may be saved over that holds what this program does not write. True when
+  /// nothing of it would be lost. Set by a face; without one nobody is asked.
+  std::function<bool(const std::string& path, const std::vector<std::string>& lost)> OnForeignKeys;
 
   // Language.
   /// The tool bar's "Idioma": asks, then shows every caption in the language chosen.
@@ -83,17 +87,13 @@ class Configurator {
   /// Sets all captions of all pages and forms.
   void LoadText();
 
+  /// The page; null when this build has none.
+  Page* PageOf(PageId id) const;
   /// The page of a name; null when this build has none.
   Page* PageNamed(std::string_view name) const;
   const std::vector<std::unique_ptr<Page>>& Pages() const { return pages_; }
   /// Every form of the program: the pages' and the dialogs'.
   std::vector<Form*> Forms();
-  /// Visits every field of a configuration that a file of the selected model holds, in file order.
-  void VisitFields(DeviceConf& conf, const FieldVisitor& visit) const;
-  /// The statements that an upload of a configuration would send to a logger of the selected model
-  /// and these features.
-  std::vector<std::string> StatementsOf(const DeviceConf& conf, std::int32_t features);
-
   DeviceConf conf;
   TargetProfile profile;
   DeviceInfo info;
@@ -110,12 +110,13 @@ class Configurator {
   PageContext context;
 
  private:
-  template <class Names, class Action>
-  void ForEach(const Names& names, Action action);
+  /// Runs an action on the pages of a fixed order.
+  void ForEach(std::span<const PageId> order, void (Page::*action)());
   LinkHooks MakeHooks();
   void RegisterWire();
   void LoadForms();
   void ShowCarrierLost();
+  void AskCode();
 
   Platform platform_;
   ConfiguratorOptions options_;
@@ -129,6 +130,11 @@ class Configurator {
  public:
   General& general;
   Comms comms;
+
+ private:
+  ProgressFeed::Subscription bar_;  ///< of the general page
+
+ public:
   SessionDriver session;
   ActEdit actEdit;
   PWForm pwForm;

@@ -2,8 +2,7 @@
 
 #include <algorithm>
 
-#include "base/Scope.h"
-#include "shell/Configurator.h"
+#include "shell/ConfigurationFile.h"
 
 namespace ostrel {
 namespace {
@@ -29,15 +28,13 @@ std::string StampOf(const DateTime& time) {
 
 }  // namespace
 
-SafetyCopies::Kept SafetyCopies::Keep(Configurator& configurator, const DeviceConf& held) {
+SafetyCopies::Kept SafetyCopies::Keep(const DeviceConf& held, const TargetProfile& profile,
+                                      std::string_view serialNumber) {
   if (const FileResult made = files_.MakeFolder(folder_); !made.Ok()) return {made, folder_};
-  const std::string name =
-      folder_ + "/" + NameOf(configurator.info.SerialNumber) + "-" + StampOf(clock_.LocalNow());
+  const std::string name = folder_ + "/" + NameOf(serialNumber) + "-" + StampOf(clock_.LocalNow());
   std::string path = name + ".ocf";
   for (int next = 2; files_.Exists(path); ++next) path = name + "-" + std::to_string(next) + ".ocf";
-  const Lent lentPath(configurator.ConfFilePath, path);
-  const Lent lentConf(configurator.conf, held);
-  return {configurator.SaveConf(), path};
+  return {WriteConfiguration(files_, path, held, profile), path};
 }
 
 }  // namespace ostrel

@@ -1,14 +1,14 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
+#include "model/DeviceConf.h"
+#include "model/TargetProfile.h"
 #include "platform/Clock.h"
 #include "platform/Files.h"
 
 namespace ostrel {
-
-class Configurator;
-struct DeviceConf;
 
 /// The folder of the configurations that loggers were known to hold, named by serial number and
 /// time: "Q1234567-20260302-090507.ocf".
@@ -23,9 +23,9 @@ class SafetyCopies {
   SafetyCopies(Files& files, const Clock& clock, const std::string& dataFolder)
       : files_(files), clock_(clock), folder_(dataFolder + "/backups") {}
 
-  /// Keeps a configuration as what the logger named by the information holds. A copy that stands is
-  /// never overwritten; configuration and path of the configurator stay as they are.
-  Kept Keep(Configurator& configurator, const DeviceConf& held);
+  /// Keeps a configuration as what the logger of a serial number holds. A copy that stands is never
+  /// overwritten.
+  Kept Keep(const DeviceConf& held, const TargetProfile& profile, std::string_view serialNumber);
   const std::string& Folder() const { return folder_; }
 
  private:

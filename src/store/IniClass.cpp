@@ -195,9 +195,13 @@ void IniClass::RemoveSection(std::string_view section) {
   if (!root_.Remove(section)) Raise("no section", section);
 }
 
-bool IniClass::KeyExists(std::string_view section, std::string_view key) const {
+const std::string* IniClass::Find(std::string_view section, std::string_view key) const {
   const Section* const found = root_.Find(section);
-  return found != nullptr && found->has_value() && (*found)->Find(key) != nullptr;
+  return found != nullptr && found->has_value() ? (*found)->Find(key) : nullptr;
+}
+
+bool IniClass::KeyExists(std::string_view section, std::string_view key) const {
+  return Find(section, key) != nullptr;
 }
 
 void IniClass::SetKeyExists(std::string_view section, std::string_view key, bool exists) {

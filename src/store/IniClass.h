@@ -78,6 +78,8 @@ class IniClass {
   /// Raises `IniError` when the section is absent.
   void RemoveSection(std::string_view section);
 
+  /// The value of a key that stands; null where section or key is absent.
+  const std::string* Find(std::string_view section, std::string_view key) const;
   bool KeyExists(std::string_view section, std::string_view key) const;
   /// True adds the key with an empty value unless it stands; false removes it where it stands. A
   /// section that this adds has no key table, so `IniError` is raised and the key not added.

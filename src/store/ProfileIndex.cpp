@@ -7,10 +7,6 @@
 namespace ostrel {
 namespace {
 
-/// The owner of keys that stand in no section, or in a later occurrence of one.
-constexpr std::uint32_t kNoOwner = 0xFFFFFFFF;
-constexpr std::size_t kFirstSlots = 1024;
-
 bool IsBlank(char c) { return c == ' ' || c == '\t'; }
 
 std::string_view Trimmed(std::string_view text) {
@@ -27,79 +23,58 @@ std::string_view TakeUntil(char end, std::string_view& rest) {
   return taken;
 }
 
-bool SameName(std::string_view a, std::string_view b) {
-  return a.size() == b.size() && std::equal(a.begin(), a.end(), b.begin(), [](char x, char y) {
-           return FoldOctet(x) == FoldOctet(y);
-         });
+std::string Folded(std::string_view name) {
+  std::string folded(name);
+  FoldOctets(folded);
+  return folded;
 }
 
 }  // namespace
 
-ProfileIndex::ProfileIndex(std::string octets) : text_(std::move(octets)), slots_(kFirstSlots) {
-  std::uint32_t owner = kNoOwner;
+ProfileIndex::ProfileIndex(std::string octets) : text_(std::move(octets)) {
   std::string_view rest = text_;
   while (!rest.empty()) {
     std::string_view lines = TakeUntil('\n', rest);
-    while (!lines.empty()) AddLine(Trimmed(TakeUntil('\r', lines)), owner);
+    while (!lines.empty()) AddLine(Trimmed(TakeUntil('\r', lines)));
   }
 }
 
-void ProfileIndex::AddLine(std::string_view line, std::uint32_t& owner) {
-  const std::size_t close = line.rfind(']');
-  if (line.starts_with('[') && close != std::string_view::npos) {
-    const bool isFirst = Add(0, Trimmed(line.substr(1, close - 1)), {});
-    owner = isFirst ? static_cast<std::uint32_t>(entries_.size()) : kNoOwner;
+void ProfileIndex::AddLine(std::string_view line) {
+  const std::size_t close = line.starts_with('[') ? line.rfind(']') : std::string_view::npos;
+  if (close != std::string_view::npos) {
+    const std::string_view name = FoldInPlace(Trimmed(line.substr(1, close - 1)));
+    const auto [section, isFirst] = sections_.try_emplace(name);
+    open_ = isFirst ? &section->second : nullptr;
     return;
   }
   const std::size_t equals = line.find('=');
-  if (owner == kNoOwner || equals == std::string_view::npos) return;
-  Add(owner, Trimmed(line.substr(0, equals)), Trimmed(line.substr(equals + 1)));
+  if (open_ == nullptr || equals == std::string_view::npos) return;
+  const std::string_view name = FoldInPlace(Trimmed(line.substr(0, equals)));
+  open_->try_emplace(name, Trimmed(line.substr(equals + 1)));
 }
 
-std::uint32_t ProfileIndex::HashOf(std::uint32_t owner, std::string_view name) {
-  std::uint32_t hash = 0x811C9DC5U ^ (owner * 0x9E3779B1U);
-  for (const char c : name) hash = (hash ^ FoldOctet(c)) * 0x01000193U;
-  return hash ^ hash >> 15U;
+/// Takes the letter case off a name where it stands in the text.
+std::string_view ProfileIndex::FoldInPlace(std::string_view name) {
+  const auto start = static_cast<std::size_t>(name.data() - text_.data());
+  FoldOctets({text_.data() + start, name.size()});
+  return name;
 }
 
-/// The slot of an entry, or the free one where it belongs. There always is a free one.
-std::size_t ProfileIndex::SlotOf(std::uint32_t owner, std::uint32_t hash,
-                                 std::string_view name) const {
-  std::size_t slot = hash & (slots_.size() - 1);
-  for (; slots_[slot] != 0; slot = (slot + 1) & (slots_.size() - 1)) {
-    const Entry& entry = entries_[slots_[slot] - 1];
-    if (entry.hash == hash && entry.owner == owner && SameName(entry.name, name)) break;
+/// The keys of a section; null when there is none of the name.
+ProfileIndex::Keys* ProfileIndex::KeysOf(std::string_view section) {
+  if (askedSection_ != section) {
+    askedSection_ = section;
+    const auto found = sections_.find(Folded(Trimmed(section)));
+    askedKeys_ = found == sections_.end() ? nullptr : &found->second;
   }
-  return slot;
+  return askedKeys_;
 }
 
-/// Adds an entry; false when one of that name stands.
-bool ProfileIndex::Add(std::uint32_t owner, std::string_view name, std::string_view value) {
-  if (entries_.size() * 2 >= slots_.size()) Grow();
-  const std::uint32_t hash = HashOf(owner, name);
-  std::uint32_t& slot = slots_[SlotOf(owner, hash, name)];
-  if (slot != 0) return false;
-  entries_.push_back({owner, hash, name, value});
-  slot = static_cast<std::uint32_t>(entries_.size());
-  return true;
-}
-
-void ProfileIndex::Grow() {
-  slots_.assign(slots_.size() * 4, 0);
-  for (std::size_t i = 0; i < entries_.size(); ++i) {
-    std::size_t slot = entries_[i].hash & (slots_.size() - 1);
-    while (slots_[slot] != 0) slot = (slot + 1) & (slots_.size() - 1);
-    slots_[slot] = static_cast<std::uint32_t>(i + 1);
-  }
-}
-
-std::string_view ProfileIndex::Find(std::string_view section, std::string_view key) const {
-  section = Trimmed(section);
-  key = Trimmed(key);
-  const std::uint32_t owner = slots_[SlotOf(0, HashOf(0, section), section)];
-  if (owner == 0) return {};
-  const std::uint32_t found = slots_[SlotOf(owner, HashOf(owner, key), key)];
-  return found == 0 ? std::string_view() : entries_[found - 1].value;
+std::string_view ProfileIndex::Find(std::string_view section, std::string_view key) {
+  const Keys* const keys = KeysOf(section);
+  if (keys == nullptr) return {};
+  const auto found = keys->find(Folded(Trimmed(key)));
+  return found == keys->end() ? std::string_view() : found->second;
 }
 
 }  // namespace ostrel

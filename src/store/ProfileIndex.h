@@ -1,9 +1,9 @@
 #pragma once
 
-#include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
-#include <vector>
+#include <unordered_map>
 
 namespace ostrel {
 
@@ -19,26 +19,23 @@ class ProfileIndex {
   ProfileIndex(const ProfileIndex&) = delete;
   ProfileIndex& operator=(const ProfileIndex&) = delete;
 
-  /// The value of a key; empty when there is none. The view lives as long as the index.
-  std::string_view Find(std::string_view section, std::string_view key) const;
+  /// The value of a key; empty when there is none. The view lives as long as the index. Asking all
+  /// keys of one section in a row is fastest: it is looked up once.
+  std::string_view Find(std::string_view section, std::string_view key);
 
  private:
-  /// A section, or a key of one.
-  struct Entry {
-    std::uint32_t owner;  ///< 0 for a section, else 1 + the entry number of the key's section
-    std::uint32_t hash;
-    std::string_view name, value;
-  };
+  /// By names without letter case.
+  using Keys = std::unordered_map<std::string_view, std::string_view>;
 
-  static std::uint32_t HashOf(std::uint32_t owner, std::string_view name);
-  std::size_t SlotOf(std::uint32_t owner, std::uint32_t hash, std::string_view name) const;
-  bool Add(std::uint32_t owner, std::string_view name, std::string_view value);
-  void Grow();
-  void AddLine(std::string_view line, std::uint32_t& owner);
+  void AddLine(std::string_view line);
+  std::string_view FoldInPlace(std::string_view name);
+  Keys* KeysOf(std::string_view section);
 
-  const std::string text_;
-  std::vector<Entry> entries_;
-  std::vector<std::uint32_t> slots_;  ///< open addressing: 1 + entry number, 0 when free
+  std::string text_;
+  std::unordered_map<std::string_view, Keys> sections_;
+  Keys* open_ = nullptr;  ///< of the section that the next line's key belongs to
+  std::optional<std::string> askedSection_;
+  Keys* askedKeys_ = nullptr;
 };
 
 }  // namespace ostrel

@@ -1,5 +1,5 @@
-#include "cli/UploadPlan.h"
 #include "cli/World.h"
+#include "shell/UploadPlan.h"
 
 namespace ostrel::cli {
 namespace {

@@ -22,11 +22,6 @@ class GeneralPage : public PageFixture {
     Get<TextBox>("NewTlf").SetText(number);
     Get<Button>("Anadir").Click();
   }
-  std::vector<std::string> PhoneStatements() {
-    auto all = Statements(page);
-    all.erase(all.begin(), std::find(all.begin(), all.end(), "CLRTLF") + 1);
-    return all;
-  }
 
   General page{context};
   Form& form = page.GetForm();
@@ -199,103 +194,6 @@ TEST_F(GeneralPage, TheServiceCentreFollowsItsOptionAndBack) {
     page.CSMCheck();
     EXPECT_TRUE(Get<OptionButton>(option).Selected()) << number;
   }
-}
-
-TEST_F(GeneralPage, ReadsItsLines) {
-  for (const char* line : {"DNAME,Depósito", "SMC,+34609090909", "PTLF,600", "RENVT,90", "RENVN,7",
-                           "REST,Fin de alarma"})
-    Receive(page, line);
-  EXPECT_EQ(conf.General, (ConfGeneral{"Depósito", "+34609090909", 2, 7, "600", "Fin de alarma"}));
-  Receive(page, "RENVN,40000");
-  EXPECT_EQ(conf.General.RENVN, 7);
-}
-
-TEST_F(GeneralPage, ReadsTelephonesOfOlderFirmware) {
-  struct Case {
-    std::int32_t features;
-    const char* mask;
-    int mode;
-    std::vector<int> channels;
-  };
-  const std::vector<int> twelve{21, 22, 23, 24, 25, 26, 27, 28, 0, 1, 2, 3};
-  for (const Case& c : {Case{0, "65535", 0, {}}, Case{0, "-1", 1, twelve}, Case{0x100, "-1", 0, {}},
-                        Case{0x100, "65535", 1, twelve}, Case{0, "99999999999", 1, {}},
-                        Case{0, "2305", 1, {21, 0, 3}}, Case{0, "0", 1, {}}}) {
-    info.Features = c.features;
-    Receive(page, std::string("TLF,4,600111222,3,2,") + c.mask);
-    const ConfPhone& phone = conf.Phone[4];
-    EXPECT_EQ(phone.MASKMODE, c.mode) << c.mask;
-    for (int place = 0; place < kMaskPlaces; ++place) {
-      const auto at = static_cast<std::size_t>(place);
-      EXPECT_EQ(phone.ListaMask[place], at < c.channels.size() ? c.channels[at] : kNoChannel);
-    }
-    EXPECT_EQ(phone.Prio, 3);
-    EXPECT_EQ(phone.PRV, 2);
-  }
-}
-
-TEST_F(GeneralPage, ReadsTelephonesOfNewFirmwareAndFreeSlots) {
-  info.Features = 0x10000;
-  Receive(page, "TLF,20,600111222,3,2,ignored,2,21,255,61");
-  EXPECT_EQ(conf.Phone[20].MASKMODE, 2);
-  EXPECT_EQ(conf.Phone[20].ListaMask[0], 21);
-  EXPECT_EQ(conf.Phone[20].ListaMask[1], 255);
-  EXPECT_EQ(conf.Phone[20].ListaMask[2], 61);
-  EXPECT_EQ(conf.Phone[20].ListaMask[3], 0) << "a missing field is 0";
-  const auto before = conf;
-  for (const char* line : {"TLF,20,60,1,1", "TLF,3,", "TLF,99,"}) Receive(page, line);
-  EXPECT_EQ(conf, before) << "a number of less than three characters is a free slot";
-  for (const char* line : {"TLF,21,600", "TLF,-1,600"})
-    EXPECT_THROW(Receive(page, line), BoundFailure) << line;
-}
-
-TEST_F(GeneralPage, ComposesItsStatements) {
-  conf.General = {"Nombre", "+34609", 2, 7, "600", "Fin"};
-  EXPECT_EQ(Statements(page), (std::vector<std::string>{"ID=Nombre", "CSM=+34609", "PTLF=600",
-                                                        "REST=Fin", "CLRTLF"}));
-  info.Features = 0x1;
-  EXPECT_EQ(Statements(page)[4], "RETRYMAX= 7");
-  EXPECT_EQ(Statements(page)[5], "RETRYTIME= 120");
-}
-
-TEST_F(GeneralPage, ComposesTelephonesForEachFirmware) {
-  PutFile(
-      "[GENERAL]\r\nTLFM 0=600,Prio=1,PRV0,MASKMODE0\r\n"
-      "TLFM 19=611,Prio=8,PRV3,MASKMODE2,DI7,AI3,FG3,DI8,DI0");
-  page.RestoreConf();
-  EXPECT_EQ(PhoneStatements(),
-            (std::vector<std::string>{"+TLF=600,Prio=1,PRV0", "+TLF=611,Prio=8,PRV3,D7,A3,D0"}));
-  info.Features = 0x10000;
-  EXPECT_EQ(PhoneStatements(),
-            (std::vector<std::string>{"+TLF=600,Prio=1,PRV0,MASKMODE0",
-                                      "+TLF=611,Prio=8,PRV3,MASK= 28 3 64 97 21 255 255 255 255 "
-                                      "255 255 255 255 255 255 255,MASKMODE2"}));
-}
-
-TEST_F(GeneralPage, FilesOfBothFormsAreRead) {
-  PutFile(
-      "[General]\r\nNOMBRE=Pozo\r\nRENVT= 15\r\nTLF 0=600,Prio=2,PRV1,D1,A0\r\n"
-      "TLF 1=601,Prio=1,PRV0");
-  page.RestoreConf();
-  EXPECT_EQ(conf.General.DNAME, "Pozo");
-  EXPECT_EQ(conf.General.RENVT, 15);
-  EXPECT_EQ(conf.General.RENVN, 0) << "a missing number reads as 0";
-  EXPECT_EQ(list.RowText(0), "600,Prio=2,PRV1,MASKMODE1,DI1,AI0");
-  EXPECT_EQ(list.RowText(1), "601,Prio=1,PRV0,MASKMODE0");
-  PutFile("[GENERAL]\r\nTLF 0=600,Prio=2,PRV1\r\nTLFM 5=605,Prio=0,PRV3,MASKMODE0");
-  page.RestoreConf();
-  ASSERT_EQ(list.Rows().size(), 1U) << "one present key leaves the earlier form unread";
-  EXPECT_EQ(list.RowText(0), "605,Prio=0,PRV3,MASKMODE0");
-  EXPECT_TRUE(FileText(page).ends_with("RESTORE=\r\nTLFM 5=605,Prio=0,PRV3,MASKMODE0"))
-      << FileText(page);
-}
-
-TEST_F(GeneralPage, ClearingKeepsAllOfASlotButItsNumber) {
-  conf.Phone[20] = {.TLF = "600", .Prio = 4, .PRV = 3, .MASKMODE = 2, .ListaMask = {}};
-  page.Clear();
-  EXPECT_EQ(conf.Phone[20].TLF, "");
-  EXPECT_EQ(conf.Phone[20].Prio, 4);
-  EXPECT_EQ(conf.General.RENVT, 10);
 }
 
 TEST_F(GeneralPage, ShowsWhatALoggerSaysOfItself) {

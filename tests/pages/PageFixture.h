@@ -4,7 +4,6 @@
 
 #include "controls/Form.h"
 #include "lang/Lang.h"
-#include "link/Statement.h"
 #include "pages/ActEdit.h"
 #include "pages/Page.h"
 #include "pages/PageContext.h"
@@ -15,7 +14,6 @@
 #include "platform/virtual/VirtualLoop.h"
 #include "platform/virtual/VirtualProcesses.h"
 #include "platform/virtual/VirtualSettings.h"
-#include "store/IniClass.h"
 #include "store/IniTool.h"
 
 namespace ostrel {
@@ -24,33 +22,6 @@ namespace ostrel {
 class PageFixture : public testing::Test {
  protected:
   void SelectModel(std::string_view name) { SelectTarget(profile, name); }
-
-  /// Feeds a line of the configuration stream, given from its key on, to the page.
-  void Receive(Page& page, const std::string& line) {
-    const std::string whole = "#BD000" + line;
-    const std::string key = line.substr(0, line.find(','));
-    for (const WireSection& section : page.WireSections()) {
-      if (section.key != key) continue;
-      LineReader reader(whole);
-      return section.read(reader);
-    }
-    FAIL() << "no section for " << key;
-  }
-
-  /// The statements of all blocks of a page.
-  std::vector<std::string> Statements(Page& page) {
-    StatementList list;
-    for (const WireBlock& block : page.WireBlocks()) block.compose(list);
-    return list.All();
-  }
-
-  /// The page's keys as the text of a file.
-  std::string FileText(Page& page) {
-    IniClass document(files);
-    document.NewINI();
-    page.SaveConf(document);
-    return document.OutputINI();
-  }
 
   /// Makes a text the file that pages restore from.
   void PutFile(const std::string& text) {

@@ -25,20 +25,6 @@ sim::LoggerOptions SmallLogger(const std::string& fault) {
   return options;
 }
 
-/// A configuration whose lines are short: none takes longer on the line than the drain ahead of a
-/// request waits, so that a retry finds the line quiet.
-sim::Configuration ShortLines(const sim::LoggerOptions& options) {
-  sim::Configuration conf = sim::RandomConfiguration(options.model, options.features, 7, 0.5);
-  const auto shorten = [](sim::Alarm& alarm) {
-    alarm.text.resize(std::min<std::size_t>(alarm.text.size(), 8));
-    for (sim::Actions* actions : {&alarm.high, &alarm.low, &alarm.normal})
-      std::fill(actions->begin() + 2, actions->end(), 0);
-  };
-  for (sim::DigitalInput& input : conf.digitals) std::ranges::for_each(input.alarms, shorten);
-  for (sim::AnalogInput& input : conf.analogs) std::ranges::for_each(input.alarms, shorten);
-  return conf;
-}
-
 /// What one session came to: open, download, save, edit, upload, close.
 struct Outcome {
   bool opened = false, downloaded = false, uploaded = false;
@@ -55,7 +41,7 @@ class Road {
  public:
   explicit Road(const sim::LoggerOptions& options) : world_(options) {
     world_.port.SetPaced(true);
-    world_.logger->SetConf(ShortLines(options));
+    world_.logger->SetConf(sim::RandomConfiguration(options.model, options.features, 7, 0.5));
     program_.StartForCommand(world_.TargetName(), 1);
   }
 

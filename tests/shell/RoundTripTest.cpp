@@ -4,6 +4,7 @@
 
 #include "SimWorld.h"
 #include "base/CodePage.h"
+#include "blocks/Configuration.h"
 
 namespace ostrel {
 namespace {
@@ -47,8 +48,7 @@ class Filler {
   Filler(Filling filling, std::uint32_t seed) : filling_(filling), random_(seed) {}
 
   void Fill(Configurator& program) {
-    program.VisitFields(program.conf, [&](const std::string& section, const std::string& key,
-                                          FieldRef field) { Set(section, key, field); });
+    for (const Field& field : FieldsOf(program.conf, program.profile)) Set(field);
   }
 
  private:
@@ -57,35 +57,39 @@ class Filler {
     return static_cast<int>(random_() % static_cast<unsigned>(last + 1));
   }
 
-  static std::size_t LengthOf(const std::string& section, const std::string& key) {
-    if (key.starts_with("TEXTO")) return 49;
-    if (key == "UNIDAD") return 9;
-    if (section == "GENERAL") return key == "NOMBRE" ? 50 : key == "RESTORE" ? 19 : 16;
-    return 19;
+  void Set(const Field& field) {
+    const auto longest = static_cast<std::size_t>(field.meta.longest);
+    std::visit(
+        [&](auto* value) {
+          using Kind = std::remove_cvref_t<decltype(*value)>;
+          if constexpr (std::same_as<Kind, std::string>)
+            *value = Text(filling_, random_, longest);
+          else if constexpr (std::same_as<Kind, Bool16>)
+            *value = Bool16(filling_ != Filling::Empty &&
+                            (filling_ == Filling::Dense || Number(1) == 1));
+          else if constexpr (std::same_as<Kind, float>)
+            *value = static_cast<float>(Number(100000)) / 16 - (Number(3) == 0 ? 1000.F : 0.F);
+          else if constexpr (std::same_as<Kind, TimeOfDay>)
+            value->seconds = Number(86399);
+          else if constexpr (std::same_as<Kind, std::uint8_t>)
+            *value = static_cast<std::uint8_t>(1 + Number(126));
+          else if constexpr (std::same_as<Kind, std::int16_t>)
+            *value = Small(field);
+          else if constexpr (std::same_as<Kind, std::int32_t>)
+            *value = Number(999);
+          else
+            SetPhone(*value);
+        },
+        field.value);
   }
 
-  void Set(const std::string& section, const std::string& key, FieldRef field) {
-    if (auto* text = std::get_if<std::string*>(&field))
-      **text = Text(filling_, random_, LengthOf(section, key));
-    if (auto* flag = std::get_if<Bool16*>(&field))
-      **flag = Bool16(filling_ != Filling::Empty && (filling_ == Filling::Dense || Number(1) == 1));
-    if (auto* real = std::get_if<float*>(&field))
-      **real = static_cast<float>(Number(100000)) / 16 - (Number(3) == 0 ? 1000.F : 0.F);
-    if (auto* time = std::get_if<TimeOfDay*>(&field)) (*time)->seconds = Number(86399);
-    if (auto* week = std::get_if<std::uint8_t*>(&field))
-      **week = static_cast<std::uint8_t>(1 + Number(126));
-    if (auto* number = std::get_if<std::int16_t*>(&field)) **number = Small(key);
-    if (auto* number = std::get_if<std::int32_t*>(&field)) **number = Number(999);
-    if (auto* phone = std::get_if<ConfPhone*>(&field)) SetPhone(**phone);
-  }
-
-  std::int16_t Small(const std::string& key) {
+  std::int16_t Small(const Field& field) {
     constexpr std::array<std::int16_t, 5> kInterfaces{0, 1, 2, 3, 7};
     constexpr std::array<std::int16_t, 3> kVolts{0, 12, 24};
-    if (key == "INTERFAZ") return kInterfaces[static_cast<std::size_t>(Number(4))];
-    if (key == "VOLTAJE") return kVolts[static_cast<std::size_t>(Number(2))];
-    if (key.starts_with("ACT")) return static_cast<std::int16_t>(Number(125));
-    return static_cast<std::int16_t>(Number(key.starts_with("FLAG") ? 16 : 3));
+    if (field.id.word == "INTERFAZ") return kInterfaces[static_cast<std::size_t>(Number(4))];
+    if (field.id.word == "VOLTAJE") return kVolts[static_cast<std::size_t>(Number(2))];
+    if (field.meta.sense == FieldSense::Action) return static_cast<std::int16_t>(Number(125));
+    return static_cast<std::int16_t>(Number(field.meta.sense == FieldSense::Condition ? 16 : 3));
   }
 
   void SetPhone(ConfPhone& phone) {

@@ -1,79 +1,41 @@
 #include <algorithm>
 
-#include "cli/CheckRules.h"
-#include "cli/Json.h"
 #include "cli/commands/Commands.h"
+#include "shell/check/CheckRules.h"
 
 namespace ostrel::cli {
 namespace {
-
-constexpr std::int32_t kAllFeatures = -1;
 
 struct CheckOptions {
   std::string file;
   std::vector<std::string> silenced;
 };
 
-/// A finding with the rule that made it.
-struct Found {
-  const Rule* rule;
-  Finding finding;
-};
-
 std::string_view SeverityText(Severity severity) {
   return severity == Severity::Error ? "error" : "warning";
 }
 
-std::vector<Found> Examine(CommandContext& context, Configurator& configurator,
-                           const CheckOptions& options) {
-  const auto features = context.options.features;
-  const auto fields = FieldsOf(configurator, configurator.conf);
-  DeviceConf emptyConf = EmptyConf(context, configurator);
-  const auto emptyFields = FieldsOf(configurator, emptyConf);
-  StatementProbe probe(configurator, configurator.conf, features.value_or(kAllFeatures));
-  StatementProbe fullProbe(configurator, configurator.conf, kAllFeatures);
-  const auto scratch = context.MakeOffline(configurator.profile.TargetName);
-  const TextLimits limits = FindTextLimits(*scratch);
-  IniClass document(context.environment.files);
-  document.OpenINI(options.file, false);
-  const Examined examined{configurator, features,  fields, emptyFields,
-                          probe,        fullProbe, limits, document};
-  std::vector<Found> found;
-  for (const Rule& rule : Rules()) {
-    if (std::ranges::find(options.silenced, rule.id) != options.silenced.end()) continue;
-    for (Finding& finding : rule.examine(examined)) found.push_back({&rule, std::move(finding)});
-  }
-  return found;
+Json FoundJson(const std::string& file, const std::vector<FoundByRule>& found, std::size_t errors) {
+  Json list = Json::array();
+  for (const auto& [rule, finding] : found)
+    list.push_back({{"rule", rule->id},
+                    {"severity", SeverityText(rule->severity)},
+                    {"section", finding.section},
+                    {"key", finding.key},
+                    {"sentence", finding.sentence}});
+  return {{"file", file},
+          {"errors", errors},
+          {"warnings", found.size() - errors},
+          {"findings", std::move(list)}};
 }
 
-void WriteFound(CommandContext& context, const std::string& file, const std::vector<Found>& found,
-                std::size_t errors) {
-  JsonWriter json(context.console.Out());
-  json.Object([&] {
-    json.Member("file", file);
-    json.Member("errors", errors);
-    json.Member("warnings", found.size() - errors);
-    json.ArrayMember("findings", [&] {
-      for (const auto& [rule, finding] : found)
-        json.Object([&] {
-          json.Member("rule", rule->id);
-          json.Member("severity", SeverityText(rule->severity));
-          json.Member("section", finding.section);
-          json.Member("key", finding.key);
-          json.Member("sentence", finding.sentence);
-        });
-    });
-  });
-  json.End();
-}
-
-void PrintFound(Console& console, const std::vector<Found>& found) {
+void PrintFound(std::ostream& out, const std::vector<FoundByRule>& found) {
   for (const auto& [rule, finding] : found) {
-    console.Out() << SeverityText(rule->severity) << ": ";
+    out << SeverityText(rule->severity) << ": ";
     if (!finding.section.empty())
-      console.Out() << '[' << Printable(finding.section) << ']' << (finding.key.empty() ? "" : " ")
-                    << Printable(finding.key) << ": ";
-    console.Out() << Printable(finding.sentence) << " (" << rule->id << ")\n";
+      out << '[' << Printable(finding.section) << ']' << (finding.key.empty() ? "" : " ")
+          << Printable(finding.key) << ": ";
+    out << Printable(finding.sentence) << " (" << rule->id << ")\n";
   }
 }
 
@@ -81,15 +43,16 @@ ExitCode RunCheck(CommandContext& context, const CheckOptions& options) {
   for (const std::string& id : options.silenced)
     if (std::ranges::find(Rules(), id, &Rule::id) == Rules().end())
       return context.console.Fail(ExitCode::Usage, "there is no rule " + id);
-  const auto configurator = context.OpenOffline(options.file);
-  if (!configurator) return ExitCode::BadFile;
-  const std::vector<Found> found = Examine(context, *configurator, options);
+  const auto configuration = context.OpenFile(options.file);
+  if (!configuration) return ExitCode::BadFile;
+  IniClass document(context.platform.files);
+  document.OpenINI(options.file, false);
+  const Examined file(*configuration, context.options.features, document, context.Translator());
+  const std::vector<FoundByRule> found = Examine(file, options.silenced);
   const auto errors = static_cast<std::size_t>(std::ranges::count_if(
-      found, [](const Found& one) { return one.rule->severity == Severity::Error; }));
-  if (context.options.json)
-    WriteFound(context, options.file, found, errors);
-  else
-    PrintFound(context.console, found);
+      found, [](const FoundByRule& one) { return one.rule->severity == Severity::Error; }));
+  context.Show({[&] { return FoundJson(options.file, found, errors); },
+                [&](std::ostream& out) { PrintFound(out, found); }});
   if (found.empty()) context.console.Note(options.file + ": nothing found");
   return errors > 0 ? ExitCode::Differences : ExitCode::Done;
 }

@@ -1,5 +1,4 @@
-#include "cli/Comparison.h"
-#include "cli/Json.h"
+#include "cli/DifferenceText.h"
 #include "cli/commands/Commands.h"
 #include "cli/commands/OnlineCommand.h"
 #include "host/LoggerText.h"
@@ -15,53 +14,39 @@ struct DiffOptions {
 
 ExitCode Report(CommandContext& context, const DiffOptions& options, const Comparison& comparison,
                 std::optional<std::int32_t> features) {
-  Console& console = context.console;
-  if (context.options.json) {
-    JsonWriter json(console.Out());
-    json.Object([&] {
-      json.Member("a", options.a);
-      json.Member("b", options.b);
-      json.Key("features");
-      features ? json.Value(FeaturesText(*features)) : json.Value(nullptr);
-      json.Member("same", comparison.isSame);
-      WriteDifferences(json, comparison);
-    });
-    json.End();
-  } else {
-    PrintDifferences(console, comparison);
-    if (comparison.isSame)
-      console.Note(features ? "the same to a logger of these features" : "the same");
-  }
+  context.Show({[&] {
+                  return Json{{"a", options.a},
+                              {"b", options.b},
+                              {"features", features ? Json(FeaturesText(*features)) : Json()},
+                              {"same", comparison.isSame},
+                              {"differences", DifferencesJson(comparison)}};
+                },
+                [&](std::ostream& out) { PrintDifferences(out, comparison); }});
+  if (comparison.isSame && !context.options.json)
+    context.console.Note(features ? "the same to a logger of these features" : "the same");
   return comparison.isSame ? ExitCode::Done : ExitCode::Differences;
 }
 
 ExitCode DiffFiles(CommandContext& context, const DiffOptions& options) {
-  const auto a = context.OpenOffline(options.a);
-  const auto b = a ? context.OpenOffline(options.b) : nullptr;
+  const auto a = context.OpenFile(options.a);
+  const auto b = a ? context.OpenFile(options.b) : std::nullopt;
   if (!b) return ExitCode::BadFile;
   const auto features = context.options.features;
-  const Comparison comparison = a->profile.TargetName == b->profile.TargetName
-                                    ? Compare(*a, a->conf, b->conf, features)
-                                    : CompareModels(*a, *b);
-  return Report(context, options, comparison, features);
+  return Report(context, options, Compare(*a, *b, features), features);
 }
 
 ExitCode DiffWithPort(CommandContext& context, const DiffOptions& options, const std::string& file,
                       bool isPortFirst) {
-  const auto other = context.OpenOffline(file);
+  const auto other = context.OpenFile(file);
   if (!other) return ExitCode::BadFile;
   return RunOnline(context, file, [&](Online& online) {
     const ExitCode downloaded = online.session.Download();
     if (downloaded != ExitCode::Done) return downloaded;
-    Configurator& logger = online.configurator;
+    const Configurator& logger = online.configurator;
     const std::int32_t features = context.options.features.value_or(logger.info.Features);
-    if (logger.profile.TargetName != other->profile.TargetName)
-      return Report(context, options,
-                    isPortFirst ? CompareModels(logger, *other) : CompareModels(*other, logger),
-                    features);
+    const ModelConfiguration held{logger.profile, logger.conf};
     return Report(context, options,
-                  isPortFirst ? Compare(logger, logger.conf, other->conf, features)
-                              : Compare(logger, other->conf, logger.conf, features),
+                  isPortFirst ? Compare(held, *other, features) : Compare(*other, held, features),
                   features);
   });
 }

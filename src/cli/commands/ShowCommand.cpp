@@ -1,7 +1,9 @@
+#include <algorithm>
+#include <unordered_map>
+
 #include "base/Channels.h"
-#include "cli/Fields.h"
-#include "cli/Json.h"
 #include "cli/commands/Commands.h"
+#include "shell/FieldWords.h"
 
 namespace ostrel::cli {
 namespace {
@@ -11,122 +13,133 @@ struct ShowOptions {
   bool all = false;
 };
 
-void WritePhone(JsonWriter& json, const ConfPhone& phone, bool isS100) {
-  if (phone.TLF.empty()) return json.Value(nullptr);
-  json.Object([&] {
-    json.Member("number", phone.TLF);
-    json.Member("priority", phone.Prio);
-    json.Member("privilege", phone.PRV);
-    json.Member("maskMode", phone.MASKMODE);
-    json.ArrayMember("mask", [&] {
-      for (int place = 0; place < kMaskPlaces; ++place)
-        if (const std::string token = ChannelToToken(phone.ListaMask[place], isS100);
-            !token.empty())
-          json.Value(token);
-    });
-  });
+Json PhoneJson(const ConfPhone& phone, bool isS100) {
+  if (phone.TLF.empty()) return nullptr;
+  Json mask = Json::array();
+  for (int place = 0; place < kMaskPlaces; ++place)
+    if (const std::string token = ChannelToToken(phone.ListaMask[place], isS100); !token.empty())
+      mask.push_back(token);
+  return {{"number", phone.TLF},
+          {"priority", phone.Prio},
+          {"privilege", phone.PRV},
+          {"maskMode", phone.MASKMODE},
+          {"mask", std::move(mask)}};
 }
 
 /// One field as the kind of JSON value that fits its kind.
-void WriteField(JsonWriter& json, const FieldRef& field, bool isS100) {
-  if (const auto* phone = std::get_if<ConfPhone*>(&field))
-    WritePhone(json, **phone, isS100);
-  else if (const auto* text = std::get_if<std::string*>(&field))
-    json.Value(**text);
-  else if (const auto* flag = std::get_if<Bool16*>(&field))
-    json.Value(bool(**flag));
-  else if (const auto* time = std::get_if<TimeOfDay*>(&field))
-    json.Value(TimeText(**time));
-  else if (const auto* fraction = std::get_if<float*>(&field))
-    json.Value(**fraction);
-  else if (const auto* small = std::get_if<std::int16_t*>(&field))
-    json.Value(**small);
-  else if (const auto* number = std::get_if<std::int32_t*>(&field))
-    json.Value(**number);
-  else
-    json.Value(static_cast<int>(*std::get<std::uint8_t*>(field)));
+struct FieldJson {
+  bool isS100;
+
+  Json operator()(const ConfPhone* phone) const { return PhoneJson(*phone, isS100); }
+  Json operator()(const Bool16* flag) const { return bool(*flag); }
+  Json operator()(const TimeOfDay* time) const { return TimeText(*time); }
+  Json operator()(const float* number) const { return JsonNumber(*number); }
+  template <class Plain>
+  Json operator()(const Plain* value) const {
+    return *value;
+  }
+};
+
+/// The fields of one section.
+struct Section {
+  std::string name;
+  std::vector<const ConstField*> fields;
+};
+
+/// Sections in the order in which they first appear, each with all of its fields.
+std::vector<Section> BySection(const std::vector<ConstField>& fields) {
+  std::vector<Section> sections;
+  std::unordered_map<std::string, std::size_t> places;
+  for (const ConstField& field : fields) {
+    const auto [place, isNew] = places.try_emplace(field.Section(), sections.size());
+    if (isNew) sections.push_back({place->first, {}});
+    sections[place->second].fields.push_back(&field);
+  }
+  return sections;
 }
 
-void WriteJson(Console& console, Configurator& configurator, const std::string& file) {
-  JsonWriter json(console.Out());
-  json.Object([&] {
-    json.Member("file", file);
-    json.Member("model", configurator.profile.TargetName);
-    json.Member("type", configurator.profile.TargetType);
-    json.ObjectMember("sections", [&] {
-      for (const SectionFields& section : BySection(FieldsOf(configurator, configurator.conf)))
-        json.ObjectMember(section.name, [&] {
-          for (const FieldEntry& entry : section.fields) {
-            json.Key(entry.key);
-            WriteField(json, entry.field, configurator.profile.IsS100);
-          }
-        });
-    });
-  });
-  json.End();
+Json ConfigurationJson(const ModelConfiguration& configuration, const std::string& file) {
+  const auto& [profile, conf] = configuration;
+  const auto fields = FieldsOf(conf, profile);
+  Json sections = Json::object();
+  for (const Section& section : BySection(fields)) {
+    Json& keys = sections[section.name] = Json::object();
+    for (const ConstField* field : section.fields)
+      keys[field->Key()] = std::visit(FieldJson{profile.IsS100}, field->value);
+  }
+  return {{"file", file},
+          {"model", profile.TargetName},
+          {"type", profile.TargetType},
+          {"sections", std::move(sections)}};
 }
 
-/// A line of the readable form: keys of a list are joined into one line.
+/// A line of the readable form.
 struct Line {
-  std::string key;
+  FieldId id;
+  std::string key, words;
   std::string value;
 };
 
-/// The key of the list that an element belongs to: "ACTHI( 0 7)" is an element of "ACTHI( 0)".
-std::string ListKey(const std::string& key) {
-  const NumberedName split = SplitName(key);
-  if (split.numbers.size() != 2 || key.find('(') == std::string::npos) return {};
-  return std::string(split.word) + "(" + NumText(split.numbers[0]) + ")";
-}
-
-std::vector<Line> LinesOf(const SectionFields& section, const SectionFields& empty, bool isS100,
-                          bool all) {
+/// The lines of a section: the places of a list of actions are joined into one line.
+std::vector<Line> LinesOf(const Section& section, bool isS100) {
   std::vector<Line> lines;
-  for (std::size_t i = 0; i < section.fields.size(); ++i) {
-    const FieldEntry& entry = section.fields[i];
-    const bool isDefault =
-        FieldText(entry.field, isS100) == FieldText(empty.fields[i].field, isS100);
-    if (isDefault && !all) continue;
-    const std::string value = ReadableValue(entry, isS100);
-    const std::string list = ListKey(entry.key);
-    const auto same = std::ranges::find(lines, list, &Line::key);
-    if (list.empty())
-      lines.push_back({entry.key, value});
-    else if (same == lines.end())
-      lines.push_back({list, value});
+  for (const ConstField* field : section.fields) {
+    FieldId id = field->id;
+    const bool isListed = field->meta.sense == FieldSense::Action && id.slot.place >= 0;
+    if (isListed) id.slot.place = -1;
+    const std::string value = ReadableValue(field->value, field->meta, isS100);
+    const auto same = isListed ? std::ranges::find(lines, id, &Line::id) : lines.end();
+    if (same == lines.end())
+      lines.push_back({id, KeyName(id, field->meta.placeForm), KeyWords(id, field->meta), value});
     else
       same->value += " " + value;
   }
   return lines;
 }
 
-void PrintReadable(CommandContext& context, Configurator& configurator, bool all) {
-  std::ostream& out = context.console.Out();
-  const bool isS100 = configurator.profile.IsS100;
-  DeviceConf emptyConf = EmptyConf(context, configurator);
-  const auto sections = BySection(FieldsOf(configurator, configurator.conf));
-  const auto empty = BySection(FieldsOf(configurator, emptyConf));
-  out << configurator.profile.TargetName << '\n';
-  for (std::size_t i = 0; i < sections.size(); ++i) {
-    const std::vector<Line> lines = LinesOf(sections[i], empty[i], isS100, all);
-    if (lines.empty()) continue;
-    out << '\n' << sections[i].name << " (" << SectionWords(sections[i].name) << ")\n";
-    for (const Line& line : lines) {
-      const std::string words = KeyWords(line.key);
-      out << "  " << line.key << (words.empty() ? "" : " (" + words + ")") << ": " << line.value
-          << '\n';
-    }
+/// The fields to show: all, or those that say something beyond an empty configuration. Of an alarm
+/// that is off nothing is said.
+std::vector<ConstField> Shown(const ModelConfiguration& configuration, const DeviceConf& empty,
+                              bool all) {
+  const auto& [profile, conf] = configuration;
+  const auto fields = FieldsOf(conf, profile);
+  if (all) return fields;
+  const auto emptyFields = FieldsOf(empty, profile);
+  std::vector<ConstField> shown;
+  bool isOff = false;
+  for (std::size_t i = 0; i < fields.size(); ++i) {
+    const ConstField& field = fields[i];
+    if (field.id.slot.config < 0) isOff = false;
+    if (field.meta.sense == FieldSense::Enabled)
+      isOff = field.id.slot.config >= 0 && !bool(*std::get<const Bool16*>(field.value));
+    if (!isOff &&
+        FieldText(field.value, profile.IsS100) != FieldText(emptyFields[i].value, profile.IsS100))
+      shown.push_back(field);
+  }
+  return shown;
+}
+
+void PrintReadable(std::ostream& out, const ModelConfiguration& configuration,
+                   const DeviceConf& empty, bool all) {
+  const TargetProfile& profile = configuration.profile;
+  const std::vector<ConstField> fields = Shown(configuration, empty, all);
+  out << profile.TargetName << '\n';
+  for (const Section& section : BySection(fields)) {
+    out << '\n' << section.name << " (" << SectionWords(section.fields.front()->id) << ")\n";
+    for (const Line& line : LinesOf(section, profile.IsS100))
+      out << "  " << line.key << " (" << line.words << "): " << line.value << '\n';
   }
 }
 
 ExitCode RunShow(CommandContext& context, const ShowOptions& options) {
-  const auto configurator = context.OpenOffline(options.file);
-  if (!configurator) return ExitCode::BadFile;
-  if (context.options.json)
-    WriteJson(context.console, *configurator, options.file);
-  else
-    PrintReadable(context, *configurator, options.all);
-  return ExitCode::Done;
+  const auto configuration = context.OpenFile(options.file);
+  if (!configuration) return ExitCode::BadFile;
+  return context.Show({[&] { return ConfigurationJson(*configuration, options.file); },
+                       [&](std::ostream& out) {
+                         const DeviceConf empty =
+                             EmptyConfiguration(configuration->profile, context.Translator());
+                         PrintReadable(out, *configuration, empty, options.all);
+                       }});
 }
 
 }  // namespace

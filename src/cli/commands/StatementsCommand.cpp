@@ -1,4 +1,4 @@
-#include "cli/Json.h"
+#include "blocks/Configuration.h"
 #include "cli/commands/Commands.h"
 #include "host/LoggerText.h"
 
@@ -6,27 +6,21 @@ namespace ostrel::cli {
 namespace {
 
 ExitCode RunStatements(CommandContext& context, const std::string& file) {
-  const auto configurator = context.OpenOffline(file);
-  if (!configurator) return ExitCode::BadFile;
+  const auto configuration = context.OpenFile(file);
+  if (!configuration) return ExitCode::BadFile;
   const std::int32_t features = context.options.features.value_or(0);
-  const DeviceConf conf = configurator->conf;
-  const auto statements = configurator->StatementsOf(conf, features);
-  std::ostream& out = context.console.Out();
-  if (!context.options.json) {
-    for (const std::string& statement : statements) out << Printable(statement) << '\n';
-    return ExitCode::Done;
-  }
-  JsonWriter json(out);
-  json.Object([&] {
-    json.Member("file", file);
-    json.Member("model", configurator->profile.TargetName);
-    json.Member("features", FeaturesText(features));
-    json.ArrayMember("statements", [&] {
-      for (const std::string& statement : statements) json.Value(statement);
-    });
-  });
-  json.End();
-  return ExitCode::Done;
+  const auto statements =
+      ComposeStatements(configuration->conf, {configuration->profile, features});
+  return context.Show({[&] {
+                         return Json{{"file", file},
+                                     {"model", configuration->profile.TargetName},
+                                     {"features", FeaturesText(features)},
+                                     {"statements", statements}};
+                       },
+                       [&](std::ostream& out) {
+                         for (const std::string& statement : statements)
+                           out << Printable(statement) << '\n';
+                       }});
 }
 
 }  // namespace

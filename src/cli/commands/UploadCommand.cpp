@@ -1,10 +1,9 @@
-#include "cli/Comparison.h"
 #include "cli/ConfFile.h"
-#include "cli/Json.h"
-#include "cli/UploadPlan.h"
+#include "cli/DifferenceText.h"
 #include "cli/commands/Commands.h"
 #include "cli/commands/OnlineCommand.h"
 #include "host/LoggerText.h"
+#include "shell/UploadPlan.h"
 
 namespace ostrel::cli {
 namespace {
@@ -28,34 +27,29 @@ std::string PlanText(std::size_t statements, std::int32_t features, const Upload
          " on the line";
 }
 
-void WritePlan(JsonWriter& json, const Configurator& configurator, std::int32_t features,
-               const std::vector<std::string>& statements) {
+Json PlanJson(const TargetProfile& profile, std::int32_t features,
+              const std::vector<std::string>& statements) {
   const UploadPlan plan = PlanUpload(statements, features);
-  json.Member("model", configurator.profile.TargetName);
-  json.Member("features", FeaturesText(features));
-  json.Member("statements", statements.size());
-  json.Member("octets", plan.octets);
-  json.Member("seconds", std::chrono::duration<double>(plan.duration).count());
+  return {{"model", profile.TargetName},
+          {"features", FeaturesText(features)},
+          {"statements", statements.size()},
+          {"octets", plan.octets},
+          {"seconds", std::chrono::duration<double>(plan.duration).count()}};
 }
 
-ExitCode ShowPlan(CommandContext& context, Configurator& configurator, std::int32_t features) {
-  const DeviceConf conf = configurator.conf;
-  const auto statements = configurator.StatementsOf(conf, features);
-  std::ostream& out = context.console.Out();
-  if (context.options.json) {
-    JsonWriter json(out);
-    json.Object([&] {
-      WritePlan(json, configurator, features, statements);
-      json.ArrayMember("statementTexts", [&] {
-        for (const std::string& statement : statements) json.Value(statement);
-      });
-    });
-    json.End();
-    return ExitCode::Done;
-  }
-  for (const std::string& statement : statements) out << Printable(statement) << '\n';
-  out << PlanText(statements.size(), features, PlanUpload(statements, features)) << '\n';
-  return ExitCode::Done;
+ExitCode ShowPlan(CommandContext& context, const ModelConfiguration& configuration,
+                  std::int32_t features) {
+  const auto statements = ComposeStatements(configuration.conf, {configuration.profile, features});
+  return context.Show(
+      {[&] {
+         Json plan = PlanJson(configuration.profile, features, statements);
+         plan["statementTexts"] = statements;
+         return plan;
+       },
+       [&](std::ostream& out) {
+         for (const std::string& statement : statements) out << Printable(statement) << '\n';
+         out << PlanText(statements.size(), features, PlanUpload(statements, features)) << '\n';
+       }});
 }
 
 /// Keeps what the logger holds now, then brings the configuration to upload back into the model.
@@ -73,22 +67,18 @@ ExitCode Report(Online& online, const UploadOptions& options, const DeviceConf& 
   Configurator& configurator = online.configurator;
   const std::int32_t features = configurator.info.Features;
   const bool isSame = !result.comparison || result.comparison->isSame;
-  if (context.options.json) {
-    JsonWriter json(context.console.Out());
-    json.Object([&] {
-      json.Member("file", options.file);
-      json.Member("serial", configurator.info.SerialNumber);
-      WritePlan(json, configurator, features, configurator.StatementsOf(sent, features));
-      json.Key("backup");
-      result.backup.empty() ? json.Value(nullptr) : json.Value(result.backup);
-      json.Key("verified");
-      result.comparison ? json.Value(isSame) : json.Value(nullptr);
-      if (result.comparison) WriteDifferences(json, *result.comparison);
-    });
-    json.End();
-  } else if (!isSame) {
-    PrintDifferences(context.console, *result.comparison);
-  }
+  context.Show({[&] {
+                  Json json{{"file", options.file}, {"serial", configurator.info.SerialNumber}};
+                  json.update(PlanJson(configurator.profile, features,
+                                       ComposeStatements(sent, {configurator.profile, features})));
+                  json["backup"] = result.backup.empty() ? Json() : Json(result.backup);
+                  json["verified"] = result.comparison ? Json(isSame) : Json();
+                  if (result.comparison) json["differences"] = DifferencesJson(*result.comparison);
+                  return json;
+                },
+                [&](std::ostream& out) {
+                  if (!isSame) PrintDifferences(out, *result.comparison);
+                }});
   if (!isSame)
     return context.console.Fail(ExitCode::Differences,
                                 "the logger holds another configuration than was sent");
@@ -111,7 +101,8 @@ ExitCode Send(Online& online, const UploadOptions& options) {
     const ExitCode read = online.session.Download();
     if (read != ExitCode::Done) return read;
     result.comparison =
-        Compare(configurator, toSend, configurator.conf, configurator.info.Features);
+        Compare({configurator.profile, toSend}, {configurator.profile, configurator.conf},
+                configurator.info.Features);
   }
   return Report(online, options, toSend, result);
 }
@@ -120,8 +111,11 @@ ExitCode Send(Online& online, const UploadOptions& options) {
 /// for another logger, most likely.
 ExitCode LoadFile(CommandContext& context, Configurator& configurator, const std::string& file) {
   const std::string model = configurator.profile.TargetName;
-  if (!context.Open(configurator, file)) return ExitCode::BadFile;
-  const std::string& fileModel = configurator.profile.TargetName;
+  const auto read = context.OpenFile(file);
+  if (!read) return ExitCode::BadFile;
+  const std::string& fileModel = read->profile.TargetName;
+  if (fileModel != model) configurator.TargetDeviceChange(fileModel);
+  configurator.conf = read->conf;
   if (fileModel == model ||
       context.dialogs.Confirm(file + " is for the model " + fileModel +
                               ", the logger is of the model " + model + ". Go on?"))
@@ -135,9 +129,9 @@ ExitCode LoadFile(CommandContext& context, Configurator& configurator, const std
 
 ExitCode RunUpload(CommandContext& context, const UploadOptions& options) {
   if (options.dryRun && !context.HasPort()) {
-    const auto configurator = context.OpenOffline(options.file);
-    if (!configurator) return ExitCode::BadFile;
-    return ShowPlan(context, *configurator, context.options.features.value_or(0));
+    const auto configuration = context.OpenFile(options.file);
+    if (!configuration) return ExitCode::BadFile;
+    return ShowPlan(context, *configuration, context.options.features.value_or(0));
   }
   PortChoice port;
   const ExitCode chosen = context.ChoosePort(port);
@@ -148,7 +142,9 @@ ExitCode RunUpload(CommandContext& context, const UploadOptions& options) {
   LoggerSession session(context, *configurator, port);
   const ExitCode opened = session.Open();
   if (opened != ExitCode::Done) return opened;
-  if (options.dryRun) return ShowPlan(context, *configurator, configurator->info.Features);
+  if (options.dryRun)
+    return ShowPlan(context, {configurator->profile, configurator->conf},
+                    configurator->info.Features);
   Online online{context, *configurator, session};
   return Send(online, options);
 }

@@ -1,6 +1,9 @@
 #pragma once
 
-#include "pages/AlarmChannelPage.h"
+#include <array>
+
+#include "pages/ChannelPage.h"
+#include "pages/parts/BoundFields.h"
 
 namespace ostrel {
 
@@ -8,25 +11,21 @@ namespace ostrel {
 class AnalogChannel {
  public:
   using Record = ConfAnalog;
-  static constexpr std::string_view kForm = "E_Analog";
-  static constexpr std::string_view kTitle = "Configuracion entrada analogica ";
-  static constexpr std::string_view kHelp = "Analog";
-  static constexpr std::string_view kSection = "ANALOG";
-  static constexpr int kChannels = 4;
-  static constexpr int kConfigsShown = 4;
+  static constexpr ChannelTraits kTraits{.page = PageId::E_Analog,
+                                         .form = "E_Analog",
+                                         .title = "Configuracion entrada analogica ",
+                                         .help = "Analog",
+                                         .channels = 4};
+  static constexpr std::array kThresholds{ThresholdBox{"Minimo"}, ThresholdBox{"Maximo"},
+                                          ThresholdBox{"Histeresis"}, ThresholdBox{"Persist"}};
 
   AnalogChannel(Form& form, const PageContext& context);
 
-  static ThresholdBoxes Thresholds();
   static auto& Records(DeviceConf& conf) { return conf.Analog; }
-  static void ClearFields(ConfAnalog& record);
   void Load(const ConfAnalog& record);
   void Save(ConfAnalog& record) const;
-  void AfterClear();
   bool Activate();
-  void CheckNumbers();
-  std::vector<WireSection> WireSections();
-  std::vector<WireBlock> WireBlocks();
+  void CheckNumbers() { fields_.CheckNumbers(); }
 
  private:
   /// Selects the option of an interface code; a code without an option selects nothing.
@@ -34,6 +33,7 @@ class AnalogChannel {
   void ClickInterface(std::int16_t code);
 
   const PageContext& context_;
+  BoundFields<ConfAnalog> fields_;
   TextBox Nombre, Unidad;
   OptionGroup interface_;
   OptionButton Int_NoHabil, Int_4_20, Int_0_5, Int_0_10, Int_Press;
@@ -49,6 +49,6 @@ class AnalogChannel {
   std::int16_t CurrentInterface_ = 0;
 };
 
-using E_Analog = AlarmChannelPage<AnalogChannel>;
+using E_Analog = ChannelPage<AnalogChannel>;
 
 }  // namespace ostrel

@@ -1,6 +1,9 @@
 #pragma once
 
-#include "pages/AlarmChannelPage.h"
+#include <array>
+
+#include "pages/ChannelPage.h"
+#include "pages/parts/BoundFields.h"
 
 namespace ostrel {
 
@@ -8,34 +11,30 @@ namespace ostrel {
 class DigitalChannel {
  public:
   using Record = ConfDigital;
-  static constexpr std::string_view kForm = "E_Digital";
-  static constexpr std::string_view kTitle = "Configuracion entrada digital ";
-  static constexpr std::string_view kHelp = "Digital";
-  static constexpr std::string_view kSection = "DIGITAL";
-  static constexpr int kChannels = 9;
-  static constexpr int kConfigsShown = 4;
+  static constexpr ChannelTraits kTraits{.page = PageId::E_Digital,
+                                         .form = "E_Digital",
+                                         .title = "Configuracion entrada digital ",
+                                         .help = "Digital",
+                                         .channels = 9,
+                                         .thresholds = NumberForm::Num};
+  static constexpr std::array kThresholds{ThresholdBox{"Persist", "Persist:"},
+                                          ThresholdBox{"Rearm", "Rearme:"}};
 
   DigitalChannel(Form& form, const PageContext& context);
 
-  static ThresholdBoxes Thresholds();
   static auto& Records(DeviceConf& conf) { return conf.Digital; }
-  static void ClearFields(ConfDigital& record);
   void Load(const ConfDigital& record);
   void Save(ConfDigital& record) const;
-  void AfterClear() {}
-  bool Activate() { return false; }
   void CheckNumbers() {}
-  std::vector<WireSection> WireSections();
-  std::vector<WireBlock> WireBlocks();
 
  private:
-  const PageContext& context_;
+  BoundFields<ConfDigital> fields_;
   TextBox Nombre;
   OptionGroup contact_;
   OptionButton Int_NA, Int_NC;
   bool CurrentNC_ = false;
 };
 
-using E_Digital = AlarmChannelPage<DigitalChannel>;
+using E_Digital = ChannelPage<DigitalChannel>;
 
 }  // namespace ostrel

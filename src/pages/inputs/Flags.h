@@ -1,6 +1,8 @@
 #pragma once
 
-#include "pages/AlarmChannelPage.h"
+#include <array>
+
+#include "pages/ChannelPage.h"
 
 namespace ostrel {
 
@@ -8,30 +10,21 @@ namespace ostrel {
 class FlagChannel {
  public:
   using Record = ConfFlag;
-  static constexpr std::string_view kForm = "Flags";
-  static constexpr std::string_view kTitle = "Alarma en flag ";
-  static constexpr std::string_view kHelp = "Flag";
-  static constexpr std::string_view kSection = "FLAG";
-  static constexpr int kChannels = 16;
-  static constexpr int kConfigsShown = 1;
+  static constexpr ChannelTraits kTraits{.page = PageId::Flags,
+                                         .form = "Flags",
+                                         .title = "Alarma en flag ",
+                                         .help = "Flag",
+                                         .channels = 16};
+  static constexpr std::array<ThresholdBox, 0> kThresholds{};
 
-  FlagChannel(Form&, const PageContext& context) : context_(context) {}
+  FlagChannel(Form&, const PageContext&) {}
 
-  static ThresholdBoxes Thresholds() { return {}; }
   static auto& Records(DeviceConf& conf) { return conf.Flag; }
-  static void ClearFields(ConfFlag&) {}
   void Load(const ConfFlag&) {}
   void Save(ConfFlag&) const {}
-  void AfterClear() {}
-  bool Activate() { return false; }
   void CheckNumbers() {}
-  std::vector<WireSection> WireSections();
-  std::vector<WireBlock> WireBlocks();
-
- private:
-  const PageContext& context_;
 };
 
-using Flags = AlarmChannelPage<FlagChannel>;
+using Flags = ChannelPage<FlagChannel>;
 
 }  // namespace ostrel

@@ -1,33 +1,25 @@
 #pragma once
 
 #include <array>
-#include <memory>
-#include <vector>
 
-#include "pages/Page.h"
-#include "pages/PageContext.h"
+#include "pages/PlainPage.h"
+#include "pages/parts/BoundFields.h"
 
 namespace ostrel {
 
-/// The page of the four power groups of analog inputs, all at once.
-class Grupos final : public Page {
+/// The four power groups of analog inputs, all at once.
+class AnalogGroupControls {
  public:
-  explicit Grupos(PageContext& context);
+  static constexpr PlainTraits kTraits{.page = PageId::Grupos,
+                                       .form = "Grupos",
+                                       .title = "Configuracion de grupos de canales analogicos",
+                                       .help = "Group"};
 
-  Form& GetForm() override { return form_; }
-  void LoadText() override;
-  void ChangeIndex(std::int16_t index) override;
-  void Clear() override;
-  void LoadData() override;
-  void SaveConf(IniClass& document) override;
-  void RestoreConf() override;
-  void SavePage() override;
-  void Form_Load() override;
-  void Form_Activate() override {}
-  void Form_Deactivate() override;
-  void VisitFields(DeviceConf& conf, const FieldVisitor& visit) const override;
-  std::vector<WireSection> WireSections() override;
-  std::vector<WireBlock> WireBlocks() override;
+  AnalogGroupControls(Form& form, PageContext& context);
+
+  void LoadData();
+  void Save(DeviceConf& conf) const;
+  void CheckNumbers();
 
  private:
   static constexpr int kGroups = 4;
@@ -36,19 +28,20 @@ class Grupos final : public Page {
   struct GroupControls {
     GroupControls(Form& form, int group);
 
+    void Load(const ConfGrupo& record);
+    void Save(ConfGrupo& record) const;
+
     Frame frame;
     ComboBox ComboSalida;
     ComboBox ComboTension;
     TextBox Period;
+    BoundFields<ConfGrupo> fields;
   };
 
-  void CheckNumbers();
-
   PageContext& context_;
-  Form form_{"Grupos", "Configuracion de grupos de canales analogicos"};
   std::array<GroupControls, kGroups> groups_;
-  Button help_;
-  Timer Timer1_;
 };
+
+using Grupos = PlainPage<AnalogGroupControls>;
 
 }  // namespace ostrel

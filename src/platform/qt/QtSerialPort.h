@@ -1,15 +1,21 @@
 #pragma once
 
 #include <QSerialPort>
+#include <algorithm>
 #include <cstddef>
+#include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
 #include <vector>
 
+#include "platform/ReceiveBuffer.h"
 #include "platform/SerialPort.h"
+#include "platform/qt/CarrierWatch.h"
+#include "platform/qt/NodeWatch.h"
 #include "platform/qt/PortMap.h"
 #include "platform/qt/QtEventLoop.h"
 
@@ -17,6 +23,10 @@ namespace ostrel {
 
 /// The serial ports of the machine, pseudo-terminals among them. What a device does not have, such
 /// as the modem lines of a pseudo-terminal, is passed over. Loop and map must outlive the port.
+///
+/// While somebody reads, a full receive buffer leaves the rest to the driver, which holds the
+/// device up by flow control. When nobody has read for half a second, the device may talk on, and
+/// the oldest octets go.
 class QtSerialPort final : public SerialPort {
  public:
   QtSerialPort(QtEventLoop& loop, const PortMap& map);
@@ -24,9 +34,12 @@ class QtSerialPort final : public SerialPort {
 
   void SetCommPort(int number) override { commPort_ = number; }
   void SetSettings(std::string_view settings) override { settings_ = settings; }
-  void SetInputLen(int octets) override { inputLen_ = octets; }
-  /// Kept for nothing: whatever the driver has is taken and held, however much it is.
-  void SetInBufferSize(int) override {}
+  void SetInputLen(int octets) override {
+    inputLen_ = static_cast<std::size_t>(std::max(octets, 0));
+  }
+  void SetInBufferSize(int octets) override {
+    received_.SetSize(static_cast<std::size_t>(std::max(octets, 1)));
+  }
   void SetHandshaking(PortHandshaking handshaking) override { handshaking_ = handshaking; }
   void SetRTSEnable(bool on) override;
   void SetDTREnable(bool on) override;
@@ -38,7 +51,8 @@ class QtSerialPort final : public SerialPort {
   std::size_t OutBufferCount() const override;
   void DiscardOutput() override;
   std::string Input() override;
-  std::size_t InBufferCount() const override { return received_.size() - taken_; }
+  std::size_t InBufferCount() const override { return received_.Count(); }
+  std::uint64_t LostOctets() const override { return received_.Lost(); }
   bool CDHolding() const override { return carrier_; }
   int CommEvent() const override { return commEvent_; }
   void SetOnComm(std::function<void()> handler) override { onComm_ = std::move(handler); }
@@ -52,7 +66,8 @@ class QtSerialPort final : public SerialPort {
   void ApplySettings(QSerialPort& device) const;
   void ApplyModemLine(int line, bool on) const;
   void TakeIn();
-  void WatchCarrier();
+  void WatchDevice(const std::string& path);
+  void SeeCarrier(std::optional<bool> carrier);
   void WatchDrain();
   std::size_t OctetsUnderWay() const;
   void Lose();
@@ -61,22 +76,24 @@ class QtSerialPort final : public SerialPort {
   const PortMap& map_;
   int commPort_ = 1;
   std::string settings_ = "9600,N,8,1";
-  int inputLen_ = 0;
+  std::size_t inputLen_ = 0;
   PortHandshaking handshaking_ = PortHandshaking::None;
   bool rts_ = true;
   bool dtr_ = true;
   std::unique_ptr<QSerialPort> device_;
   bool open_ = false;
   bool lost_ = false;
-  std::string received_;  ///< up to `taken_` already read
-  std::size_t taken_ = 0;
+  ReceiveBuffer received_;
+  TimePoint readAt_{};    ///< when somebody last took octets
   TimePoint lineFree_{};  ///< when the last octet sent can have left
   bool carrier_ = false;
   int commEvent_ = 0;
   std::function<void()> onComm_;
-  TimerId carrierTimer_ = 0;
+  std::unique_ptr<CarrierWatch> carrierWatch_;
+  std::unique_ptr<NodeWatch> nodeWatch_;
   TimerId drainTimer_ = 0;
   TimerId loseTimer_ = 0;
+  TimerId takeTimer_ = 0;  ///< for octets left to the driver
 };
 
 }  // namespace ostrel

@@ -7,6 +7,12 @@
 #include "platform/LineQueue.h"
 
 namespace ostrel {
+namespace {
+
+/// Octets beyond which flow control holds a sender no longer: one that does not heed it.
+constexpr std::size_t kMostWaiting = 1U << 20U;
+
+}  // namespace
 
 /// A number's device and the line between it and the port.
 class LinePort::Wire final : public LineEnd {
@@ -121,7 +127,7 @@ PortFault LinePort::FaultOf(int number) const {
 }
 
 void LinePort::SetInBufferSize(int octets) {
-  inBufferSize_ = static_cast<std::size_t>(std::max(octets, 1));
+  received_.SetSize(static_cast<std::size_t>(std::max(octets, 1)));
 }
 
 void LinePort::SetDTREnable(bool on) {
@@ -149,7 +155,6 @@ void LinePort::Close() {
   const std::shared_ptr<Wire> wire = std::move(open_);
   open_ = nullptr;
   Forget();
-  wire->toProgram.Hold(false);
   if (wire->vanished) return;
   // An unpaced line counts as having taken all that was written.
   if (!wire->toDevice.Paced() && !wire->toDevice.OnHold()) wire->toDevice.Flush();
@@ -160,8 +165,7 @@ void LinePort::Close() {
 
 /// Empties the near end: nothing that came before is seen any more.
 void LinePort::Forget() {
-  received_.clear();
-  taken_ = 0;
+  received_.Clear();
   carrier_ = false;
   carrierChanges_.clear();
 }
@@ -179,53 +183,28 @@ std::size_t LinePort::OutBufferCount() const {
 }
 
 void LinePort::DiscardOutput() {
-  if (open_) open_->toDevice.Clear();
+  if (open_) open_->toDevice.Discard();
 }
 
-std::size_t LinePort::Room() const {
-  const std::size_t held = received_.size() - taken_;
-  return inBufferSize_ > held ? inBufferSize_ - held : 0;
-}
-
-/// Moves arrived octets into the receive buffer.
+/// Moves arrived octets into the receive buffer. While the program takes what comes, the sender
+/// waits for room, as flow control makes it wait; a talker that nobody listens to is not held.
 void LinePort::TakeIn() {
   if (!open_) return;
-  if (taken_ > received_.size() / 2) {
-    received_.erase(0, taken_);
-    taken_ = 0;
-  }
   LineQueue& line = open_->toProgram;
-  const std::size_t room = Room();
-  if (handshaking_ == PortHandshaking::None) {
-    received_ += line.Take(std::numeric_limits<std::size_t>::max()).substr(0, room);
-  } else {
-    received_ += line.Take(room);
-    if (Room() == 0) line.Hold(true);
-  }
+  const bool waits = std::exchange(isTaken_, false) && line.Arrived() < kMostWaiting;
+  received_.Put(line.Take(waits ? received_.Room() : std::numeric_limits<std::size_t>::max()));
 }
 
 std::size_t LinePort::InBufferCount() const {
   if (!open_) return 0;
-  return received_.size() - taken_ + std::min(Room(), open_->toProgram.Arrived());
+  return std::min(received_.Size(), received_.Count() + open_->toProgram.Arrived());
 }
 
 std::string LinePort::Input() {
-  if (!open_) return {};
+  isTaken_ = true;
   TakeIn();
-  const std::size_t most =
-      inputLen_ > 0 ? static_cast<std::size_t>(inputLen_) : std::numeric_limits<std::size_t>::max();
-  std::string input = received_.substr(taken_, most);
-  taken_ += input.size();
-  if (taken_ == received_.size()) {
-    received_.clear();
-    taken_ = 0;
-  }
-  // The line starts again when half of the buffer is free, as drivers do it.
-  if (open_->toProgram.OnHold() && Room() >= (inBufferSize_ + 1) / 2) {
-    TakeIn();
-    open_->toProgram.Hold(false);
-  }
-  return input;
+  isTaken_ = true;
+  return received_.Take(inputLen_);
 }
 
 /// Lets the program see a carrier change with the next event.

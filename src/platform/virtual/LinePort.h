@@ -1,6 +1,8 @@
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
+#include <cstdint>
 #include <deque>
 #include <functional>
 #include <map>
@@ -12,6 +14,7 @@
 
 #include "platform/EventLoop.h"
 #include "platform/Line.h"
+#include "platform/ReceiveBuffer.h"
 #include "platform/SerialPort.h"
 
 namespace ostrel {
@@ -43,12 +46,14 @@ class LinePort final : public SerialPort {
   void SetPaced(bool paced);
 
   void SetCommPort(int number) override { commPort_ = number; }
-  /// Kept for nothing: the lines know one speed.
+  /// Ignored: the lines know one speed.
   void SetSettings(std::string_view) override {}
-  void SetInputLen(int octets) override { inputLen_ = octets; }
+  void SetInputLen(int octets) override {
+    inputLen_ = static_cast<std::size_t>(std::max(octets, 0));
+  }
   void SetInBufferSize(int octets) override;
-  /// With any flow control a full receive buffer holds the line; without, octets are lost.
-  void SetHandshaking(PortHandshaking handshaking) override { handshaking_ = handshaking; }
+  /// Ignored: the program holds no device up, and a device holds the line by `HoldOutput`.
+  void SetHandshaking(PortHandshaking) override {}
   void SetRTSEnable(bool) override {}
   void SetDTREnable(bool on) override;
   PortFault SetPortOpen(bool open) override;
@@ -60,6 +65,7 @@ class LinePort final : public SerialPort {
   void DiscardOutput() override;
   std::string Input() override;
   std::size_t InBufferCount() const override;
+  std::uint64_t LostOctets() const override { return received_.Lost(); }
   bool CDHolding() const override { return carrier_; }
   int CommEvent() const override { return commEvent_; }
   void SetOnComm(std::function<void()> handler) override { onComm_ = std::move(handler); }
@@ -75,7 +81,6 @@ class LinePort final : public SerialPort {
   PortFault Open();
   void Close();
   void Forget();
-  std::size_t Room() const;
   void TakeIn();
   void PostCarrier(bool on);
   void TellCarrier();
@@ -84,13 +89,11 @@ class LinePort final : public SerialPort {
   std::map<int, std::shared_ptr<Wire>> wires_;
   bool paced_ = false;
   int commPort_ = 1;
-  int inputLen_ = 0;
-  std::size_t inBufferSize_ = 1024;
-  PortHandshaking handshaking_ = PortHandshaking::None;
+  std::size_t inputLen_ = 0;
   bool dtr_ = true;
   std::shared_ptr<Wire> open_;
-  std::string received_;  ///< the receive buffer, up to `taken_` already read
-  std::size_t taken_ = 0;
+  ReceiveBuffer received_;
+  bool isTaken_ = false;  ///< the program has taken octets since some last arrived
   bool carrier_ = false;
   std::deque<bool> carrierChanges_;  ///< seen on the line, not told yet
   TimerId carrierTimer_ = 0;

@@ -33,6 +33,7 @@ class PortSwitch final : public SerialPort {
   void DiscardOutput() override;
   std::string Input() override { return open_ ? open_->Input() : std::string(); }
   std::size_t InBufferCount() const override { return open_ ? open_->InBufferCount() : 0; }
+  std::uint64_t LostOctets() const override { return open_ ? open_->LostOctets() : 0; }
   bool CDHolding() const override { return open_ && open_->CDHolding(); }
   int CommEvent() const override { return open_ ? open_->CommEvent() : 0; }
   void SetOnComm(std::function<void()> handler) override { onComm_ = std::move(handler); }

@@ -1,0 +1,93 @@
+#include "blocks/Blocks.h"
+
+#include <algorithm>
+#include <array>
+
+#include "blocks/AnalogInputs.h"
+#include "blocks/DigitalInputs.h"
+#include "blocks/FileKeys.h"
+#include "blocks/FlagAlarms.h"
+#include "store/IniTool.h"
+
+namespace ostrel {
+namespace {
+
+template <class Kind>
+void VisitFields(DeviceConf& conf, const TargetProfile& profile, const FieldVisitor& visit) {
+  const auto each = [&](const FieldId& id, const FieldMeta& meta, auto& field) {
+    visit(id, meta, FieldRef(&field));
+  };
+  Kind::Fields(conf, profile, each);
+}
+
+template <class Kind>
+void ViewFields(const DeviceConf& conf, const TargetProfile& profile, const FieldViewer& view) {
+  const auto each = [&](const FieldId& id, const FieldMeta& meta, const auto& field) {
+    view(id, meta, FieldView(&field));
+  };
+  Kind::Fields(conf, profile, each);
+}
+
+template <class Kind>
+void RestoreFields(DeviceConf& conf, const TargetProfile& profile, const KeyReader& read) {
+  if constexpr (requires { Kind::Restore(conf, profile, read); }) {
+    Kind::Restore(conf, profile, read);
+  } else {
+    const auto each = [&](const FieldId& id, const FieldMeta& meta, auto& field) {
+      SetFieldText(FieldRef(&field), read(SectionName(id), KeyName(id, meta.placeForm)));
+    };
+    Kind::Fields(conf, profile, each);
+  }
+}
+
+template <class Kind>
+constexpr auto AlarmsOf() -> decltype(Block::alarms) {
+  if constexpr (requires { &Kind::Alarms; })
+    return &Kind::Alarms;
+  else
+    return nullptr;
+}
+
+template <class Kind>
+Block MakeBlock(PageId page) {
+  return {.page = page,
+          .clear = &Kind::Clear,
+          .visit = &VisitFields<Kind>,
+          .view = &ViewFields<Kind>,
+          .restore = &RestoreFields<Kind>,
+          .alarms = AlarmsOf<Kind>(),
+          .lines = Kind::kLines};
+}
+
+}  // namespace
+
+std::span<const Block> Blocks() {
+  static const std::array blocks{
+      MakeBlock<GeneralParameters>(PageId::General), MakeBlock<DigitalInputs>(PageId::E_Digital),
+      MakeBlock<AnalogInputs>(PageId::E_Analog),     MakeBlock<AnalogGroups>(PageId::Grupos),
+      MakeBlock<FlagAlarms>(PageId::Flags),
+  };
+  return blocks;
+}
+
+const Block* FindBlock(PageId page) {
+  const auto found = std::ranges::find(Blocks(), page, &Block::page);
+  return found == Blocks().end() ? nullptr : &*found;
+}
+
+void SaveBlock(const Block& block, const DeviceConf& conf, const TargetProfile& profile,
+               IniClass& document) {
+  block.view(conf, profile, [&](const FieldId& id, const FieldMeta& meta, FieldView field) {
+    const std::string text = FieldText(field, profile.IsS100);
+    if (std::holds_alternative<const ConfPhone*>(field) && text.empty()) return;
+    ConfWriteKey(text, SectionName(id), KeyName(id, meta.placeForm), document);
+  });
+}
+
+void RestoreBlock(const Block& block, DeviceConf& conf, const TargetProfile& profile,
+                  const Translation& translate, const KeyReader& read) {
+  block.clear(conf, profile, translate);
+  block.restore(conf, profile, read);
+}
+
+}  // namespace ostrel

@@ -1,0 +1,71 @@
+#include "blocks/Configuration.h"
+
+#include "blocks/Orders.h"
+#include "store/IniClass.h"
+
+namespace ostrel {
+namespace {
+
+/// Runs `work` on each block that takes part in a file of the model, in file order.
+template <class Work>
+void InFileOrder(const TargetProfile& profile, const Work& work) {
+  for (const FileTurn& turn : kFileOrder)
+    if (const Block* block = FindBlock(turn.page); block && turn.takesPart(profile)) work(*block);
+}
+
+}  // namespace
+
+DeviceConf EmptyConfiguration(const TargetProfile& profile, const Translation& translate) {
+  DeviceConf conf;
+  for (const PageId page : kClearAtStart)
+    if (const Block* block = FindBlock(page)) block->clear(conf, profile, translate);
+  return conf;
+}
+
+std::vector<Field> FieldsOf(DeviceConf& conf, const TargetProfile& profile) {
+  std::vector<Field> fields;
+  InFileOrder(profile, [&](const Block& block) {
+    block.visit(conf, profile, [&](const FieldId& id, const FieldMeta& meta, FieldRef value) {
+      fields.push_back({block.page, id, meta, value});
+    });
+  });
+  return fields;
+}
+
+std::vector<ConstField> FieldsOf(const DeviceConf& conf, const TargetProfile& profile) {
+  std::vector<ConstField> fields;
+  InFileOrder(profile, [&](const Block& block) {
+    block.view(conf, profile, [&](const FieldId& id, const FieldMeta& meta, FieldView value) {
+      fields.push_back({block.page, id, meta, value});
+    });
+  });
+  return fields;
+}
+
+void VisitAlarms(const DeviceConf& conf, const Receiver& receiver, const AlarmVisitor& visit) {
+  InFileOrder(receiver.profile, [&](const Block& block) {
+    if (block.alarms) block.alarms(conf, receiver, visit);
+  });
+}
+
+std::vector<std::string> ComposeStatements(const DeviceConf& conf, const Receiver& receiver) {
+  StatementList statements;
+  for (const UploadStep& step : UploadOrder())
+    for (int channel = 0; channel < step.count(receiver); ++channel)
+      step.compose(conf, receiver, channel, statements);
+  return statements.All();
+}
+
+void SaveConfiguration(const DeviceConf& conf, const TargetProfile& profile, IniClass& document) {
+  document.NewINI();
+  document.WriteKey(kStampSection, kStampKey, profile.TargetType);
+  InFileOrder(profile, [&](const Block& block) { SaveBlock(block, conf, profile, document); });
+}
+
+void RestoreConfiguration(DeviceConf& conf, const TargetProfile& profile,
+                          const Translation& translate, const KeyReader& read) {
+  InFileOrder(profile,
+              [&](const Block& block) { RestoreBlock(block, conf, profile, translate, read); });
+}
+
+}  // namespace ostrel

@@ -1,0 +1,42 @@
+#include "blocks/Orders.h"
+
+#include "blocks/AnalogInputs.h"
+#include "blocks/DigitalInputs.h"
+#include "blocks/FlagAlarms.h"
+#include "blocks/GeneralParameters.h"
+
+namespace ostrel {
+namespace {
+
+int Once(const Receiver&) { return 1; }
+
+template <Feature kFeature>
+int OnceWith(const Receiver& receiver) {
+  return receiver.Has(kFeature) ? 1 : 0;
+}
+
+template <class Kind>
+UploadStep StepOf(std::string_view name, PageId page) {
+  return {name, {page}, &Kind::Count, &Kind::Compose};
+}
+
+}  // namespace
+
+std::span<const UploadStep> UploadOrder() {
+  using enum PageId;
+  static const std::array steps{
+      UploadStep{"Identity", {General}, Once, &GeneralParameters::ComposeIdentity},
+      UploadStep{"Resend rules",
+                 {General},
+                 OnceWith<Feature::RetryRules>,
+                 &GeneralParameters::ComposeResendRules},
+      UploadStep{"Telephones", {General}, Once, &GeneralParameters::ComposeTelephones},
+      StepOf<DigitalInputs>("Digital inputs", E_Digital),
+      StepOf<AnalogInputs>("Analog inputs", E_Analog),
+      StepOf<AnalogGroups>("Analog groups", Grupos),
+      StepOf<FlagAlarms>("Flags", Flags),
+  };
+  return steps;
+}
+
+}  // namespace ostrel

@@ -1,0 +1,45 @@
+#include "shell/FieldWords.h"
+
+#include <array>
+
+#include "base/Printable.h"
+
+namespace ostrel {
+namespace {
+
+std::string WeekDays(std::uint8_t week) {
+  constexpr std::array<std::string_view, 7> names{"Mo", "Tu", "We", "Th", "Fr", "Sa", "Su"};
+  std::string days;
+  for (std::size_t day = 0; day < names.size(); ++day)
+    if ((week >> day & 1U) != 0) days += (days.empty() ? "" : " ") + std::string(names[day]);
+  return days.empty() ? "no day" : days;
+}
+
+}  // namespace
+
+std::string SectionWords(const FieldId& id) {
+  std::string words(id.section->words);
+  if (id.channel >= 0) words += " " + std::to_string(id.channel);
+  return words;
+}
+
+std::string KeyWords(const FieldId& id, const FieldMeta& meta) {
+  const auto& [config, place] = id.slot;
+  std::string words;
+  if (config >= 0) words = "alarm " + std::to_string(config) + ", ";
+  words += meta.words;
+  if (place < 0) return words;
+  return words + (config >= 0 ? ", place " : " ") + std::to_string(place);
+}
+
+std::string ReadableValue(const FieldView& value, const FieldMeta& meta, bool isS100) {
+  const std::string text = Printable(FieldText(value, isS100));
+  if (std::holds_alternative<const std::string*>(value)) return '"' + text + '"';
+  if (const auto* flag = std::get_if<const Bool16*>(&value)) return bool(**flag) ? "yes" : "no";
+  if (std::holds_alternative<const ConfPhone*>(value)) return text.empty() ? "free" : text;
+  const auto* week = std::get_if<const std::uint8_t*>(&value);
+  if (week && meta.sense == FieldSense::Week) return WeekDays(**week);
+  return text.starts_with(' ') ? text.substr(1) : text;
+}
+
+}  // namespace ostrel

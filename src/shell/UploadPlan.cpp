@@ -1,0 +1,25 @@
+#include "shell/UploadPlan.h"
+
+#include "base/Utf8.h"
+#include "link/LinkTimes.h"
+#include "model/Features.h"
+
+namespace ostrel {
+namespace {
+
+/// "#", two digits of checksum, ";", the command, three digits of number, carriage return.
+constexpr std::size_t kFrameOctets = 4 + 2 + 3 + 1;
+
+}  // namespace
+
+UploadPlan PlanUpload(const std::vector<std::string>& statements, std::int32_t features) {
+  UploadPlan plan{.octets = kFrameOctets};
+  for (const std::string& statement : statements)
+    plan.octets += kFrameOctets + CharacterCount(statement);
+  const std::chrono::milliseconds window{Has(features, Feature::FastRefusal) ? kFastRefusalMs
+                                                                             : kRefusalMs};
+  plan.duration = LineTime(plan.octets) + window * static_cast<std::int64_t>(statements.size());
+  return plan;
+}
+
+}  // namespace ostrel

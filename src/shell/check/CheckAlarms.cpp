@@ -1,0 +1,82 @@
+#include <functional>
+
+#include "base/Channels.h"
+#include "blocks/TelephoneWire.h"
+#include "model/Features.h"
+#include "shell/check/CheckRules.h"
+
+namespace ostrel {
+namespace {
+
+/// The token of a channel in the masks of telephones; empty for what no mask can name.
+std::string TokenOf(const AlarmPlace& place, bool isS100) {
+  if (place.section->maskPrefix.empty()) return {};
+  std::string token = std::string(place.section->maskPrefix) + std::to_string(place.channel);
+  return ChannelToToken(TokenToChannel(token), isS100) == token ? token : std::string();
+}
+
+/// Whether a telephone gets the alarms of a channel, as the firmware in question keeps its mask.
+bool Admits(const ConfPhone& phone, const std::string& token, const Examined& file) {
+  const bool isShort = file.Features() && !Has(*file.Features(), Feature::ExtendedMasks);
+  if (phone.MASKMODE == 0 && !isShort) return true;
+  bool isNamed = false;
+  bool isEmpty = true;
+  for (int place = 0; place < kMaskPlaces; ++place) {
+    const std::string named = ChannelToToken(phone.ListaMask[place], file.Model().IsS100);
+    if (named.empty() || (isShort && !IsShortMaskToken(named))) continue;
+    isEmpty = false;
+    isNamed = isNamed || named == token;
+  }
+  if (isShort) return isEmpty || isNamed;
+  return phone.MASKMODE == 1 ? isNamed : !isNamed;
+}
+
+bool AnyAdmits(const Examined& file, const std::string& token) {
+  for (int slot = 0; slot < kPhones; ++slot)
+    if (const ConfPhone& phone = file.Conf().Phone[slot];
+        !phone.TLF.empty() && Admits(phone, token, file))
+      return true;
+  return false;
+}
+
+/// Visits the alarms that are enabled and that the logger gets to know.
+void VisitEnabled(const Examined& file, const AlarmVisitor& visit) {
+  const Receiver receiver{file.Model(), file.Features().value_or(kEveryFeature)};
+  VisitAlarms(file.Conf(), receiver, [&](const AlarmPlace& place, const AlarmBlock& alarm) {
+    if (alarm.HABIL) visit(place, alarm);
+  });
+}
+
+/// A finding at one field of an alarm.
+Finding AtAlarm(const AlarmPlace& place, std::string_view word, std::string sentence) {
+  const FieldId id{place.section, place.channel, word, {.config = place.config}};
+  return {SectionName(id), KeyName(id, PlaceForm::InBrackets), std::move(sentence)};
+}
+
+}  // namespace
+
+std::vector<Finding> AlarmsForNobody(const Examined& file) {
+  std::vector<Finding> found;
+  VisitEnabled(file, [&](const AlarmPlace& place, const AlarmBlock& alarm) {
+    if (!alarm.SMS && !alarm.VOZ) return;
+    const std::string token = TokenOf(place, file.Model().IsS100);
+    if (token.empty() || AnyAdmits(file, token)) return;
+    found.push_back(AtAlarm(place, "HABIL",
+                            "the alarm notifies, but no telephone's mask admits " + token +
+                                ": add a telephone or widen a mask"));
+  });
+  return found;
+}
+
+std::vector<Finding> AlarmsNeverValid(const Examined& file) {
+  std::vector<Finding> found;
+  VisitEnabled(file, [&](const AlarmPlace& place, const AlarmBlock& alarm) {
+    if (alarm.valid.SIEMPRE || (alarm.valid.SEMANA & kAllDays) != 0) return;
+    found.push_back(AtAlarm(place, "SEMANA",
+                            "the alarm is enabled but valid on no day, which a logger takes for "
+                            "disabled: choose days"));
+  });
+  return found;
+}
+
+}  // namespace ostrel

@@ -1,0 +1,264 @@
+#include "shell/check/CheckRules.h"
+
+#include <algorithm>
+#include <array>
+#include <set>
+
+#include "base/Channels.h"
+#include "blocks/TelephoneWire.h"
+#include "model/Features.h"
+#include "pages/ActionCatalogue.h"
+#include "store/IniTool.h"
+
+namespace ostrel {
+namespace {
+
+constexpr std::size_t kMostStatements = 999;
+constexpr std::size_t kShortestNumber = 3;
+
+/// The text of a field that is one or has one; null for others.
+const std::string* TextOf(const FieldView& field) {
+  if (const auto* text = std::get_if<const std::string*>(&field)) return *text;
+  if (const auto* phone = std::get_if<const ConfPhone*>(&field)) return &(*phone)->TLF;
+  return nullptr;
+}
+
+bool HasControl(std::string_view text) {
+  return std::ranges::any_of(
+      text, [](char c) { return static_cast<unsigned char>(c) < 0x20 || c == 0x7F; });
+}
+
+/// Whether an upload to the logger would carry the text of a field.
+bool IsTextSent(const Examined& file, std::size_t index) {
+  const std::string other = "x";
+  return std::holds_alternative<const ConfPhone*>(file.Fields()[index].value) ||
+         file.IsSent(index, &other);
+}
+
+std::vector<Finding> BrokenTexts(const Examined& file) {
+  std::vector<Finding> found;
+  for (std::size_t i = 0; i < file.Fields().size(); ++i) {
+    const ConstField& field = file.Fields()[i];
+    const std::string* text = TextOf(field.value);
+    if (!text || text->empty()) continue;
+    const bool hasComma = text->find(',') != std::string::npos;
+    if ((!hasComma && !HasControl(*text)) || !IsTextSent(file, i)) continue;
+    found.push_back({field.Section(), field.Key(),
+                     hasComma ? "a comma ends the text on the line: write something else for it"
+                              : "a control character breaks the line: remove it"});
+  }
+  return found;
+}
+
+std::vector<Finding> TooManyStatements(const Examined& file) {
+  const std::size_t count = file.StatementCount();
+  if (count <= kMostStatements) return {};
+  return {{"", "",
+           std::to_string(count) + " statements, and their numbers have three digits: "
+                                   "set up less"}};
+}
+
+std::vector<Finding> LongTexts(const Examined& file) {
+  std::vector<Finding> found;
+  for (const ConstField& field : file.Fields()) {
+    const std::string* text = TextOf(field.value);
+    if (!text || field.meta.longest == 0) continue;
+    const auto length = static_cast<int>(CharacterCount(*text));
+    if (length > field.meta.longest)
+      found.push_back({field.Section(), field.Key(),
+                       std::to_string(length) + " characters, and its box takes " +
+                           std::to_string(field.meta.longest) + ": shorten it"});
+  }
+  return found;
+}
+
+std::vector<Finding> CutValues(const Examined& file) {
+  std::vector<Finding> found;
+  std::string section;
+  file.Document().Visit([&](std::string_view name) { section = name; },
+                        [&](std::string_view key, std::string_view value) {
+                          if (CharacterCount(value) <= kProfileValueLimit) return;
+                          found.push_back({section, std::string(key),
+                                           std::to_string(CharacterCount(value)) +
+                                               " characters, of which only the first 254 are read: "
+                                               "shorten it"});
+                        });
+  return found;
+}
+
+/// A value without the blanks around it.
+std::string_view Trimmed(std::string_view text) {
+  const std::size_t first = text.find_first_not_of(' ');
+  return first == std::string_view::npos
+             ? std::string_view()
+             : text.substr(first, text.find_last_not_of(' ') - first + 1);
+}
+
+/// Whether a field holds what its text in the file says. Texts and telephones are taken as they
+/// are.
+bool IsReadRight(const FieldView& field, std::string_view value, bool isS100) {
+  const std::string_view text = Trimmed(value);
+  const std::string read = FieldText(field, isS100);
+  if (text.empty() || text == Trimmed(read) || TextOf(field)) return true;
+  if (const auto* time = std::get_if<const TimeOfDay*>(&field)) return TextTime(text) == **time;
+  return IsFloatText(text) && NumVal(text) == NumVal(read);
+}
+
+std::vector<Finding> MisreadValues(const Examined& file) {
+  std::vector<Finding> found;
+  for (const ConstField& field : file.Fields()) {
+    const std::string* value = file.Document().Find(field.Section(), field.Key());
+    if (!value || IsReadRight(field.value, *value, file.Model().IsS100)) continue;
+    found.push_back({field.Section(), field.Key(),
+                     *value + " is no value for this: it is read as " +
+                         std::string(Trimmed(file.ValueText(field)))});
+  }
+  return found;
+}
+
+std::vector<Finding> MissingSections(const Examined& file) {
+  std::vector<std::string> missing;
+  for (const ConstField& field : file.Fields()) {
+    std::string section = field.Section();
+    if (!missing.empty() && missing.back() == section) continue;
+    if (!file.Document().SectionExists("", section)) missing.push_back(std::move(section));
+  }
+  if (missing.empty()) return {};
+  return {{missing.front(), "",
+           missing.size() == 1 ? "the section is missing, and is read as empty"
+                               : "this section and " + std::to_string(missing.size() - 1) +
+                                     " more are missing, and are read as empty"}};
+}
+
+std::vector<Finding> UnknownActions(const Examined& file) {
+  std::set<std::int16_t> offered;
+  for (const ActionItem& item :
+       OfferedActions(file.Model(), [](std::string_view name) { return std::string(name); }))
+    offered.insert(item.number);
+  std::vector<Finding> found;
+  for (const ConstField& field : file.Fields()) {
+    const auto* number = std::get_if<const std::int16_t*>(&field.value);
+    if (!number || field.meta.sense != FieldSense::Action || **number <= 0) continue;
+    if (!offered.contains(**number))
+      found.push_back({field.Section(), field.Key(),
+                       "the " + file.Model().TargetName + " has no action " +
+                           std::to_string(**number) + ": choose another one or 0"});
+  }
+  return found;
+}
+
+std::vector<Finding> UnsentSettings(const Examined& file) {
+  std::vector<Finding> found;
+  if (!file.Features()) return found;
+  for (std::size_t i = 0; i < file.Fields().size(); ++i) {
+    if (!file.IsSet(i) || !file.IsUnknownToFirmware(i)) continue;
+    const ConstField& field = file.Fields()[i];
+    found.push_back({field.Section(), field.Key(),
+                     "this firmware does not take the setting: it is left out of an upload"});
+  }
+  return found;
+}
+
+std::vector<Finding> UnsentMasks(const Examined& file) {
+  std::vector<Finding> found;
+  if (!file.Features() || Has(*file.Features(), Feature::ExtendedMasks)) return found;
+  for (const ConstField& field : file.Fields()) {
+    const auto* phone = std::get_if<const ConfPhone*>(&field.value);
+    if (!phone || (*phone)->TLF.empty() || (*phone)->MASKMODE == 0) continue;
+    std::string dropped;
+    for (int place = 0; place < kMaskPlaces; ++place) {
+      const std::string token = ChannelToToken((*phone)->ListaMask[place], file.Model().IsS100);
+      if (!token.empty() && !IsShortMaskToken(token)) dropped += " " + token;
+    }
+    if (!dropped.empty())
+      found.push_back({field.Section(), field.Key(),
+                       "this firmware knows masks of DI0 to DI7 and AI0 to AI3 alone, so these "
+                       "are left out:" +
+                           dropped});
+    if ((*phone)->MASKMODE == 2)
+      found.push_back({field.Section(), field.Key(),
+                       "this firmware takes a mask as the channels to include, never to exclude"});
+  }
+  return found;
+}
+
+std::vector<Finding> BadNumbers(const Examined& file) {
+  std::vector<Finding> found;
+  for (const ConstField& field : file.Fields()) {
+    const auto* phone = std::get_if<const ConfPhone*>(&field.value);
+    if (!phone || (*phone)->TLF.empty()) continue;
+    const std::string& number = (*phone)->TLF;
+    if (!IsIntText(number))
+      found.push_back({field.Section(), field.Key(), number + " is no telephone number"});
+    else if (CharacterCount(number) < kShortestNumber)
+      found.push_back({field.Section(), field.Key(),
+                       "a number of fewer than 3 digits does not read back from a logger"});
+  }
+  return found;
+}
+
+constexpr std::array<Rule, 12> kRules{{
+    {"text-breaks-statement", Severity::Error,
+     "a comma or a control character in a text that is sent", BrokenTexts},
+    {"too-many-statements", Severity::Error, "more statements than an upload can number",
+     TooManyStatements},
+    {"text-too-long", Severity::Warning, "a text longer than its box takes", LongTexts},
+    {"value-cut", Severity::Warning, "a value of which the file's reader takes only a part",
+     CutValues},
+    {"value-misread", Severity::Warning, "a value that is none of its kind", MisreadValues},
+    {"section-missing", Severity::Warning, "a section of the model that is not in the file",
+     MissingSections},
+    {"action-not-offered", Severity::Warning, "an action that the model does not have",
+     UnknownActions},
+    {"alarm-for-nobody", Severity::Warning, "an alarm that no telephone is to get",
+     AlarmsForNobody},
+    {"alarm-never-valid", Severity::Warning, "an enabled alarm that is valid on no day",
+     AlarmsNeverValid},
+    {"setting-not-sent", Severity::Warning, "a setting that the firmware does not take",
+     UnsentSettings},
+    {"mask-not-sent", Severity::Warning, "a telephone's mask that the firmware cannot hold",
+     UnsentMasks},
+    {"bad-telephone", Severity::Warning, "a telephone number that is none", BadNumbers},
+}};
+
+}  // namespace
+
+Examined::Examined(const ModelConfiguration& configuration, std::optional<std::int32_t> features,
+                   const IniClass& document, const Translation& translate)
+    : configuration_(configuration),
+      features_(features),
+      document_(document),
+      empty_(EmptyConfiguration(configuration.profile, translate)),
+      fields_(FieldsOf(configuration.conf, configuration.profile)),
+      emptyFields_(FieldsOf(std::as_const(empty_), configuration.profile)),
+      statements_(ComposeStatements(configuration.conf,
+                                    {configuration.profile, features.value_or(kEveryFeature)})
+                      .size()),
+      probe_(configuration.conf, {configuration.profile, features.value_or(kEveryFeature)}),
+      fullProbe_(configuration.conf, {configuration.profile, kEveryFeature}) {}
+
+bool Examined::IsSet(std::size_t index) const {
+  return ValueText(fields_[index]) != ValueText(emptyFields_[index]);
+}
+
+bool Examined::IsUnknownToFirmware(std::size_t index) const {
+  const FieldView& empty = emptyFields_[index].value;
+  return !probe_.Changes(index, empty) && fullProbe_.Changes(index, empty);
+}
+
+std::string Examined::ValueText(const ConstField& field) const {
+  return FieldText(field.value, Model().IsS100);
+}
+
+std::span<const Rule> Rules() { return kRules; }
+
+std::vector<FoundByRule> Examine(const Examined& file, std::span<const std::string> silenced) {
+  std::vector<FoundByRule> found;
+  for (const Rule& rule : Rules()) {
+    if (std::ranges::find(silenced, rule.id) != silenced.end()) continue;
+    for (Finding& finding : rule.examine(file)) found.push_back({&rule, std::move(finding)});
+  }
+  return found;
+}
+
+}  // namespace ostrel

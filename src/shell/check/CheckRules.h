@@ -1,0 +1,84 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "shell/ConfigurationFile.h"
+#include "shell/SentProbe.h"
+#include "store/IniClass.h"
+
+namespace ostrel {
+
+/// What no logger can hold is an error, all else a warning.
+enum class Severity { Error, Warning };
+
+/// Something that a rule has found, with a sentence that helps.
+struct Finding {
+  std::string section, key;  ///< as a file names them; empty where it is about none
+  std::string sentence;
+};
+
+/// A configuration under examination, with what the rules ask of it.
+class Examined {
+ public:
+  /// `document` is the file as it stands. Without features those rules that depend on a firmware
+  /// take it for one that can do everything.
+  Examined(const ModelConfiguration& configuration, std::optional<std::int32_t> features,
+           const IniClass& document, const Translation& translate);
+
+  const TargetProfile& Model() const { return configuration_.profile; }
+  const DeviceConf& Conf() const { return configuration_.conf; }
+  const std::optional<std::int32_t>& Features() const { return features_; }
+  const IniClass& Document() const { return document_; }
+  const std::vector<ConstField>& Fields() const { return fields_; }
+
+  /// Whether a field holds something else than in an empty configuration.
+  bool IsSet(std::size_t index) const;
+  /// Whether the logger gets to know that field `index` takes another value.
+  bool IsSent(std::size_t index, const FieldView& other) const {
+    return probe_.Changes(index, other);
+  }
+  /// Whether a setting is known to other firmware, but not to this one.
+  bool IsUnknownToFirmware(std::size_t index) const;
+  std::size_t StatementCount() const { return statements_; }
+  std::string ValueText(const ConstField& field) const;
+
+ private:
+  const ModelConfiguration& configuration_;
+  std::optional<std::int32_t> features_;
+  const IniClass& document_;
+  DeviceConf empty_;
+  std::vector<ConstField> fields_, emptyFields_;
+  std::size_t statements_;
+  mutable SentProbe probe_;      ///< under the features, or under all where they are not known
+  mutable SentProbe fullProbe_;  ///< under all features
+};
+
+struct Rule {
+  std::string_view id;
+  Severity severity;
+  std::string_view summary;
+  std::vector<Finding> (*examine)(const Examined& file);
+};
+
+/// All rules, errors first.
+std::span<const Rule> Rules();
+
+/// A finding with the rule that made it.
+struct FoundByRule {
+  const Rule* rule;
+  Finding finding;
+};
+
+/// Runs all rules but the silenced ones, which are named by their ids.
+std::vector<FoundByRule> Examine(const Examined& file, std::span<const std::string> silenced);
+
+// The rules on alarms, which stand in a file of their own.
+std::vector<Finding> AlarmsForNobody(const Examined& file);
+std::vector<Finding> AlarmsNeverValid(const Examined& file);
+
+}  // namespace ostrel

@@ -1,0 +1,80 @@
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+#include "base/CodePage.h"
+#include "blocks/Configuration.h"
+#include "blocks/Orders.h"
+#include "platform/virtual/VirtualFiles.h"
+#include "store/IniClass.h"
+#include "store/IniTool.h"
+
+namespace ostrel {
+
+/// One configuration, without a page.
+class BlockFixture : public testing::Test {
+ protected:
+  BlockFixture() { Use("Tavro BP"); }
+
+  /// Selects a model and empties the configuration.
+  void Use(std::string_view model) {
+    SelectTarget(profile, model);
+    conf = EmptyConfiguration(profile, translate);
+  }
+
+  /// Reads a line of the configuration stream, given from its key on.
+  void Receive(const std::string& line) {
+    const std::string whole = "#BD000" + line;
+    const std::string key = line.substr(0, line.find(','));
+    for (const Block& block : Blocks()) {
+      for (const LineSection& section : block.lines) {
+        if (section.key != key) continue;
+        LineReader reader(whole);
+        return section.read(reader, conf, info);
+      }
+    }
+    FAIL() << "no section for " << key;
+  }
+
+  /// The statements that carry the fields of a page.
+  std::vector<std::string> Statements(PageId page) const {
+    StatementList list;
+    const Receiver receiver{profile, info.Features};
+    for (const UploadStep& step : UploadOrder()) {
+      if (std::ranges::find(step.pages, page) == step.pages.end()) continue;
+      for (int channel = 0; channel < step.count(receiver); ++channel)
+        step.compose(conf, receiver, channel, list);
+    }
+    return list.All();
+  }
+
+  /// The keys of a page's block as the text of a file.
+  std::string FileText(PageId page) {
+    IniClass document(files);
+    document.NewINI();
+    SaveBlock(*FindBlock(page), conf, profile, document);
+    return document.OutputINI();
+  }
+
+  /// Reads a page's block from the text of a file.
+  void Restore(PageId page, const std::string& text) {
+    files.contents["conf.ocf"] = ToCodePage(text);
+    IniTool tool(files);
+    RestoreBlock(*FindBlock(page), conf, profile, translate,
+                 [&](const std::string& section, const std::string& key) {
+                   return tool.ProfileRead(section, key, "conf.ocf");
+                 });
+  }
+
+  VirtualFiles files;
+  Translation translate = [](std::string_view text) { return std::string(text); };
+  TargetProfile profile;
+  DeviceInfo info;
+  DeviceConf conf;
+};
+
+}  // namespace ostrel

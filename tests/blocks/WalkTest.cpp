@@ -1,0 +1,141 @@
+#include <map>
+#include <set>
+
+#include "BlockFixture.h"
+
+namespace ostrel {
+namespace {
+
+/// Gives a field another value than it has, within every bound.
+struct Altered {
+  void operator()(std::string* field) const { *field += "x"; }
+  void operator()(Bool16* field) const { *field = Bool16(!*field); }
+  void operator()(TimeOfDay* field) const { field->seconds += 61; }
+  void operator()(ConfPhone* field) const {
+    field->TLF = field->TLF.empty() ? "600111222" : "";
+    for (int place = 0; place < kMaskPlaces; ++place) field->ListaMask[place] = kNoChannel;
+  }
+  template <class Number>
+  void operator()(Number* field) const {
+    *field = static_cast<Number>(*field + 3);
+  }
+};
+
+/// Walks over every field of every block, on each model.
+class FieldWalk : public BlockFixture, public testing::WithParamInterface<std::string_view> {
+ protected:
+  FieldWalk() { Use(GetParam()); }
+};
+
+INSTANTIATE_TEST_SUITE_P(Models, FieldWalk,
+                         testing::ValuesIn(TargetNamesOffered().begin(),
+                                           TargetNamesOffered().end()));
+
+TEST_P(FieldWalk, AddressesAreUniqueAndEveryFieldHasWords) {
+  std::set<std::string> addresses;
+  for (const Field& field : FieldsOf(conf, profile)) {
+    EXPECT_TRUE(addresses.insert(field.Section() + "/" + field.Key()).second) << field.Key();
+    EXPECT_FALSE(field.meta.words.empty() || field.id.section->words.empty()) << field.Key();
+  }
+  EXPECT_GT(addresses.size(), 500U);
+}
+
+TEST_P(FieldWalk, EveryFieldStandsInTheFileAndComesBack) {
+  const DeviceConf empty = conf;
+  for (const Field& field : FieldsOf(conf, profile)) std::visit(Altered{}, field.value);
+  const DeviceConf saved = conf;
+  IniClass document(files);
+  SaveConfiguration(conf, profile, document);
+  conf = empty;
+  for (const Field& field : FieldsOf(conf, profile)) {
+    const std::string* text = document.Find(field.Section(), field.Key());
+    ASSERT_NE(text, nullptr) << field.Section() << " " << field.Key();
+    const std::string before = FieldText(ViewOf(field.value), profile.IsS100);
+    EXPECT_NE(*text, before) << field.Section() << " " << field.Key();
+    SetFieldText(field.value, *text);
+    EXPECT_EQ(FieldText(ViewOf(field.value), profile.IsS100), *text) << field.Key();
+    EXPECT_FALSE(conf == empty) << field.Key() << " is not compared";
+  }
+  EXPECT_EQ(conf, saved);
+  conf = empty;
+  const std::string file = document.OutputINI();
+  for (const Block& block : Blocks()) Restore(block.page, file);
+  EXPECT_EQ(conf, saved);
+}
+
+/// With every feature, each field of the channels that a model has changes a statement, once its
+/// channel and its alarm are in force and its range is not "always".
+TEST_P(FieldWalk, EveryFieldOfTheModelIsSent) {
+  const Receiver receiver{profile, kEveryFeature};
+  for (const Field& field : FieldsOf(conf, profile)) {
+    const bool isOn = field.meta.sense == FieldSense::Enabled;
+    if (isOn || field.id.word == "GPRS") *std::get<Bool16*>(field.value) = kTrue;
+    if (field.id.word == "SIEMPRE") *std::get<Bool16*>(field.value) = kFalse;
+    if (field.id.word == "INTERFAZ") *std::get<std::int16_t*>(field.value) = 1;
+  }
+  std::size_t sent = 0;
+  for (const Field& field : FieldsOf(conf, profile)) {
+    int channels = 0;
+    const auto statements = [&] {
+      StatementList list;
+      for (const UploadStep& step : UploadOrder()) {
+        const int count = step.count(receiver), channel = std::max(field.id.channel, 0);
+        if (std::ranges::find(step.pages, field.page) == step.pages.end()) continue;
+        channels = std::max(channels, count);
+        if (channel < count) step.compose(conf, receiver, channel, list);
+      }
+      return list.All();
+    };
+    const auto former = statements();
+    // SMS is what a statement means that names no other way.
+    if (field.id.channel >= channels || field.id.word == "SMS") continue;
+    std::visit(
+        [&](auto* value) {
+          const auto kept = *value;
+          Altered{}(value);
+          EXPECT_NE(statements(), former) << field.Section() << " " << field.Key();
+          *value = kept;
+        },
+        field.value);
+    ++sent;
+  }
+  EXPECT_GT(sent, 100U);
+}
+
+/// Emptying leaves of every field what a fresh program holds, save for what is kept on purpose.
+TEST_P(FieldWalk, EmptyingResetsEveryField) {
+  const DeviceConf empty = conf;
+  for (const Field& field : FieldsOf(conf, profile)) std::visit(Altered{}, field.value);
+  for (const PageId page : kClearAtStart)
+    if (const Block* block = FindBlock(page)) block->clear(conf, profile, translate);
+  const auto emptied = FieldsOf(std::as_const(conf), profile), fresh = FieldsOf(empty, profile);
+  for (std::size_t i = 0; i < emptied.size(); ++i) {
+    const bool isKept = emptied[i].meta.sense == FieldSense::Action || emptied[i].id.word == "GPRS";
+    EXPECT_EQ(FieldText(emptied[i].value, false) == FieldText(fresh[i].value, false), !isKept)
+        << emptied[i].Section() << " " << emptied[i].Key();
+  }
+}
+
+/// How many records a file holds of each kind, whatever the model has.
+TEST_P(FieldWalk, FilesHoldTheirFixedCounts) {
+  std::map<std::string, std::set<int>> records;
+  for (const Field& field : FieldsOf(conf, profile))
+    records[std::string(field.id.section->word)].insert(field.id.channel);
+  for (const auto& [section, count] :
+       {std::pair{"GENERAL", 1U}, {"DIGITAL", 9U}, {"ANALOG", 4U}, {"GRUPO", 4U}, {"FLAG", 16U}})
+    EXPECT_EQ(records[section].size(), count) << section;
+}
+
+TEST(Orders, EveryBlockHasItsPlaces) {
+  std::set<PageId> filed, sent;
+  for (const FileTurn& turn : kFileOrder) EXPECT_TRUE(filed.insert(turn.page).second);
+  for (const UploadStep& step : UploadOrder()) sent.insert(step.pages.begin(), step.pages.end());
+  for (const Block& block : Blocks()) {
+    EXPECT_EQ(std::ranges::count(kClearAtDownload, block.page), 1);
+    EXPECT_TRUE(filed.contains(block.page));
+    EXPECT_TRUE(sent.contains(block.page));
+  }
+}
+
+}  // namespace
+}  // namespace ostrel

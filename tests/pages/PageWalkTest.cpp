@@ -1,0 +1,167 @@
+#include <gtest/gtest.h>
+
+#include <memory>
+
+#include "PageFixture.h"
+#include "blocks/Configuration.h"
+#include "pages/General.h"
+#include "pages/inputs/E_Analog.h"
+#include "pages/inputs/E_Digital.h"
+#include "pages/inputs/Flags.h"
+#include "pages/inputs/Grupos.h"
+
+namespace ostrel {
+namespace {
+
+/// One page, and what of the model it shows at a time.
+struct Walked {
+  std::string_view name;
+  std::unique_ptr<Page> (*make)(PageContext& context);
+  int lastChannel;  ///< -1 for a page without channels
+  int configs;      ///< alarm configurations; 0 for none
+};
+
+template <class Kind>
+std::unique_ptr<Page> Make(PageContext& context) {
+  return std::make_unique<Kind>(context);
+}
+
+const Walked kWalked[] = {
+    {"General", Make<General>, -1, 0},  {"E_Digital", Make<E_Digital>, 8, 4},
+    {"E_Analog", Make<E_Analog>, 3, 4}, {"Grupos", Make<Grupos>, -1, 0},
+    {"Flags", Make<Flags>, 15, 1},
+};
+
+/// Values that a field may be tried with: the controls of some take only a few.
+std::vector<std::string> Candidates(const Field& field) {
+  if (std::holds_alternative<std::string*>(field.value)) return {"abc", "d"};
+  if (std::holds_alternative<Bool16*>(field.value)) return {"True", "False"};
+  if (std::holds_alternative<TimeOfDay*>(field.value)) return {"7:08:09", "23:59:59"};
+  if (std::holds_alternative<ConfPhone*>(field.value))
+    return {"600111222,Prio=3,PRV2,MASKMODE1,DI0", "611,Prio=0,PRV0,MASKMODE0"};
+  return {"1", "2", "3", "12", "24"};  // 12 and 24 are voltages
+}
+
+/// Every page: what is shown is what is committed, field by field, and rubbish in a number box
+/// turns red.
+class PageWalk : public PageFixture, public testing::WithParamInterface<Walked> {
+ protected:
+  PageWalk() {
+    SelectModel("Tavro BP");
+    page = GetParam().make(context);
+    page->Form_Load();
+    page->Clear();
+  }
+
+  /// The fields that the page shows now. Action lists are left out: they have an editor.
+  std::vector<Field> Shown(DeviceConf& in, int channel, int config) {
+    std::vector<Field> shown;
+    for (const Field& field : FieldsOf(in, profile)) {
+      if (field.page != page->Id() || field.meta.sense == FieldSense::Action) continue;
+      // The rows of a list close up: only the first telephone stays where it was.
+      if (std::holds_alternative<ConfPhone*>(field.value) && field.id.slot.place > 0) continue;
+      if (channel >= 0 && field.id.channel != channel) continue;
+      if (field.id.slot.config >= 0 && field.id.slot.config != config) continue;
+      shown.push_back(field);
+    }
+    return shown;
+  }
+
+  std::string Text(const Field& field) { return FieldText(ViewOf(field.value), false); }
+
+  /// Shows a model with one field set to a value, wipes the model, commits, and compares.
+  bool Survives(std::size_t index, const std::string& value, int channel, int config) {
+    conf = start_;
+    SetFieldText(Shown(conf, channel, config)[index].value, value);
+    DeviceConf expected = conf;
+    page->LoadData();
+    conf = DeviceConf{};
+    page->SavePage();
+    const auto wanted = Shown(expected, channel, config), got = Shown(conf, channel, config);
+    for (std::size_t i = 0; i < wanted.size(); ++i)
+      if (Text(wanted[i]) != Text(got[i])) return false;
+    return true;
+  }
+
+  void Walk(int channel, int config) {
+    // What a page makes of an empty model is its ground: some lists show their first row.
+    page->LoadData();
+    page->SavePage();
+    start_ = conf;
+    const auto fields = Shown(start_, channel, config);
+    for (std::size_t i = 0; i < fields.size(); ++i) {
+      int survived = 0;
+      for (const std::string& value : Candidates(fields[i]))
+        survived += Survives(i, value, channel, config) ? 1 : 0;
+      EXPECT_GE(survived, 2) << fields[i].Section() << " " << fields[i].Key();
+    }
+    conf = start_;
+    page->LoadData();
+  }
+
+  std::vector<TextBox*> Boxes() {
+    std::vector<TextBox*> boxes;
+    for (const ControlRef& control : page->GetForm().Controls())
+      if (auto* const* box = std::get_if<TextBox*>(&control)) boxes.push_back(*box);
+    return boxes;
+  }
+
+  std::unique_ptr<Page> page;
+  DeviceConf start_;
+};
+
+INSTANTIATE_TEST_SUITE_P(Pages, PageWalk, testing::ValuesIn(kWalked),
+                         [](const auto& walked) { return std::string(walked.param.name); });
+
+TEST_P(PageWalk, WhatIsShownIsWhatIsCommitted) {
+  const Walked& walked = GetParam();
+  for (const int channel : {0, walked.lastChannel}) {
+    if (walked.lastChannel >= 0) page->ChangeIndex(static_cast<std::int16_t>(channel));
+    for (int config = 0; config < std::max(walked.configs, 1); config += 3) {
+      if (config > 0)
+        page->GetForm().Get<OptionButton>("Config" + std::to_string(config)).SetSelected(true);
+      SCOPED_TRACE(testing::Message() << channel << " " << config);
+      Walk(walked.lastChannel < 0 ? -1 : channel, config);
+    }
+  }
+}
+
+TEST_P(PageWalk, RubbishInANumberBoxTurnsRed) {
+  page->LoadData();
+  page->SavePage();
+  start_ = conf;
+  for (std::size_t i = 0; i < Shown(start_, GetParam().lastChannel < 0 ? -1 : 0, 0).size(); ++i) {
+    conf = start_;
+    const Field field = Shown(conf, GetParam().lastChannel < 0 ? -1 : 0, 0)[i];
+    const bool isText = std::holds_alternative<std::string*>(field.value);
+    if (isText || std::holds_alternative<ConfPhone*>(field.value)) continue;
+    page->LoadData();
+    std::vector<std::string> before;
+    for (const TextBox* box : Boxes()) before.push_back(box->Text());
+    SetFieldText(field.value, "2");
+    page->LoadData();
+    const auto boxes = Boxes();
+    for (std::size_t b = 0; b < boxes.size(); ++b) {
+      if (boxes[b]->Text() == before[b]) continue;
+      boxes[b]->Type("1,5");
+      loop.RunFor(std::chrono::seconds(1));
+      EXPECT_EQ(boxes[b]->face.Colour(), BackColour::Red) << field.Key();
+      boxes[b]->Type("7");
+      loop.RunFor(std::chrono::seconds(1));
+      EXPECT_EQ(boxes[b]->face.Colour(), BackColour::Window) << field.Key();
+    }
+  }
+}
+
+/// A box takes as many characters as its field may have.
+TEST_P(PageWalk, BoxesAreAsLongAsTheirFields) {
+  for (const Field& field : Shown(conf, GetParam().lastChannel < 0 ? -1 : 0, 0)) {
+    if (field.meta.longest == 0 || std::holds_alternative<ConfPhone*>(field.value)) continue;
+    bool isFound = false;
+    for (const TextBox* box : Boxes()) isFound = isFound || box->MaxLength() == field.meta.longest;
+    EXPECT_TRUE(isFound) << field.Key();
+  }
+}
+
+}  // namespace
+}  // namespace ostrel
