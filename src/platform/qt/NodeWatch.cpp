@@ -8,14 +8,17 @@
 
 namespace ostrel {
 
-NodeWatch::NodeWatch(QtEventLoop& loop, std::string path, std::function<void()> onGone)
+NodeWatch::NodeWatch(QtEventLoop& loop, std::string path, std::function<void()> onEvent,
+                     NodeEvent event)
     : loop_(loop),
       path_(std::move(path)),
-      onGone_(std::move(onGone)),
+      onEvent_(std::move(onEvent)),
+      event_(event),
       events_(::inotify_init1(IN_NONBLOCK | IN_CLOEXEC)) {
   // An open node that is removed changes its count of names, and goes only when it is closed.
-  constexpr unsigned kEvents = IN_ATTRIB | IN_DELETE_SELF | IN_MOVE_SELF;
-  if (events_ < 0 || ::inotify_add_watch(events_, path_.c_str(), kEvents) < 0) return;
+  constexpr unsigned kGone = IN_ATTRIB | IN_DELETE_SELF | IN_MOVE_SELF;
+  const unsigned watched = event == NodeEvent::Gone ? kGone : IN_OPEN;
+  if (events_ < 0 || ::inotify_add_watch(events_, path_.c_str(), watched) < 0) return;
   arrived_ = std::make_unique<QSocketNotifier>(events_, QSocketNotifier::Read);
   QObject::connect(arrived_.get(), &QSocketNotifier::activated, arrived_.get(),
                    [this] { loop_.Guard([this] { TakeEvents(); }); });
@@ -30,9 +33,11 @@ void NodeWatch::TakeEvents() {
   std::array<char, 4096> events;
   while (::read(events_, events.data(), events.size()) > 0) {
   }
-  if (::access(path_.c_str(), F_OK) == 0) return;
-  arrived_->setEnabled(false);
-  onGone_();
+  if (event_ == NodeEvent::Gone) {
+    if (::access(path_.c_str(), F_OK) == 0) return;
+    arrived_->setEnabled(false);
+  }
+  onEvent_();
 }
 
 }  // namespace ostrel

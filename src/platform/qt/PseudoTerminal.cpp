@@ -3,7 +3,6 @@
 #include <fcntl.h>
 #include <poll.h>
 #include <stdlib.h>
-#include <sys/inotify.h>
 #include <termios.h>
 #include <unistd.h>
 
@@ -55,16 +54,13 @@ void PseudoTerminal::MakeTerminal() {
   Require(slave >= 0, "pseudo-terminal");
   SetRaw();
   ::close(slave);
-  openings_ = ::inotify_init1(IN_NONBLOCK | IN_CLOEXEC);
-  Require(openings_ >= 0 && ::inotify_add_watch(openings_, slavePath_.c_str(), IN_OPEN) >= 0,
-          "watch of the pseudo-terminal");
-  opened_ = std::make_unique<QSocketNotifier>(openings_, QSocketNotifier::Read);
+  openings_ = std::make_unique<NodeWatch>(
+      loop_, slavePath_, [this] { LookForProgram(); }, NodeEvent::Opened);
+  Require(openings_->Watches(), "watch of the pseudo-terminal");
   readable_ = std::make_unique<QSocketNotifier>(master_, QSocketNotifier::Read);
   writable_ = std::make_unique<QSocketNotifier>(master_, QSocketNotifier::Write);
   readable_->setEnabled(false);
   writable_->setEnabled(false);
-  QObject::connect(opened_.get(), &QSocketNotifier::activated, opened_.get(),
-                   [this] { loop_.Guard([this] { LookForProgram(); }); });
   QObject::connect(readable_.get(), &QSocketNotifier::activated, readable_.get(),
                    [this] { loop_.Guard([this] { ReadAll(); }); });
   QObject::connect(writable_.get(), &QSocketNotifier::activated, writable_.get(),
@@ -89,10 +85,7 @@ bool PseudoTerminal::FarEndInUse() const {
 /// Some program has opened the terminal. A closed one would wake the loop without end, so the other
 /// notifiers are off until then.
 void PseudoTerminal::LookForProgram() {
-  std::array<char, 4096> events;
-  while (::read(openings_, events.data(), events.size()) > 0) {
-  }
-  if (inUse_ || !FarEndInUse()) return;
+  if (inUse_ || master_ < 0 || !FarEndInUse()) return;
   SetRaw();
   SetInUse(true);
 }
@@ -162,10 +155,9 @@ void PseudoTerminal::Vanish() {
 
 void PseudoTerminal::CloseMaster() {
   // A notifier may be calling: it is only switched off here.
-  for (const auto& notifier : {opened_.get(), readable_.get(), writable_.get()})
-    if (notifier) notifier->setEnabled(false);
-  for (int* descriptor : {&openings_, &master_})
-    if (*descriptor >= 0) ::close(std::exchange(*descriptor, -1));
+  if (readable_) readable_->setEnabled(false);
+  if (writable_) writable_->setEnabled(false);
+  if (master_ >= 0) ::close(std::exchange(master_, -1));
 }
 
 }  // namespace ostrel

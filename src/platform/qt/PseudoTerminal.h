@@ -8,6 +8,7 @@
 
 #include "platform/Line.h"
 #include "platform/LineQueue.h"
+#include "platform/qt/NodeWatch.h"
 #include "platform/qt/QtEventLoop.h"
 
 namespace ostrel {
@@ -51,9 +52,8 @@ class PseudoTerminal final : public LineEnd {
 
   QtEventLoop& loop_;
   int master_ = -1;
-  int openings_ = -1;  ///< tells of each opening of the far end
   std::string slavePath_;
-  std::unique_ptr<QSocketNotifier> opened_;
+  std::unique_ptr<NodeWatch> openings_;
   std::unique_ptr<QSocketNotifier> readable_;
   std::unique_ptr<QSocketNotifier> writable_;
   LineQueue toProgram_;
