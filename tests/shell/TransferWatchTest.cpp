@@ -58,9 +58,9 @@ TEST_F(TransferWatches, KnowThatAnAttemptHasReachedTheEnd) {
 }
 
 TEST(TransferWatch, FollowsTheTransfersOfASession) {
-  sim::LoggerOptions options = sim::MakeDefaultOptions(sim::Model::VR200);
+  sim::LoggerOptions options = sim::MakeDefaultOptions(sim::Model::S100);
   SimWorld world(options);
-  world.logger->SetConf(sim::DemoConfiguration(options.model));
+  world.logger->SetConf(sim::RandomConfiguration(options.model, options.features, 3, 1.0));
   Configurator program(world.platform, world.Options(false));
   program.StartForCommand(world.TargetName(), 1);
   ASSERT_TRUE(program.session.Open(SimWorld::kPort, ""));
@@ -69,6 +69,7 @@ TEST(TransferWatch, FollowsTheTransfersOfASession) {
   watch.OnStep = [&] { ++steps; };
   ASSERT_TRUE(program.session.Download());
   const auto records = sim::ConfigurationRecords(world.logger->Conf(), world.logger->Self()).size();
+  EXPECT_GT(records, 300U);
   EXPECT_EQ(watch.Done(), static_cast<int>(records));
   EXPECT_GE(steps, watch.Done());
   watch.BeginReading(program.profile.TargetType);
