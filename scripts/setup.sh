@@ -15,6 +15,7 @@ qt6-tools-dev
 qt6-l10n-tools
 libgl-dev libgl1-mesa-dev
 libcli11-dev
+nlohmann-json3-dev
 libgtest-dev
 libgmock-dev
 libbenchmark-dev

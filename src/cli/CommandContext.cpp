@@ -40,20 +40,14 @@ CommandContext::CommandContext(Environment& world, GlobalOptions shared)
       options(std::move(shared)),
       console(world.out, world.err, options.quiet),
       dialogs(world, console, options),
-      langFile_(SeedLang(world.files, world.shippedLang, world.dataFolder + "/Lang.txt")),
-      lang_(world.files, langFile_) {
+      platform(world.platform.With(dialogs)),
+      langFile_(SeedLang(platform.files, world.shippedLang, world.dataFolder + "/Lang.txt")),
+      lang_(platform.files, langFile_) {
   lang_.Init();
   lang_.SetSelectedLang(options.lang);
 }
 
 std::unique_ptr<Configurator> CommandContext::MakeOnline(std::string_view model) {
-  const Platform platform{.loop = environment.loop,
-                          .port = environment.port,
-                          .settings = environment.settings,
-                          .dialogs = dialogs,
-                          .files = environment.files,
-                          .processes = environment.processes,
-                          .clock = environment.clock};
   auto configurator = std::make_unique<Configurator>(
       platform, ConfiguratorOptions{.programFolder = {}, .langFile = langFile_});
   configurator->StartForCommand(model, options.lang);
@@ -61,13 +55,13 @@ std::unique_ptr<Configurator> CommandContext::MakeOnline(std::string_view model)
 }
 
 std::optional<ModelConfiguration> CommandContext::OpenFile(const std::string& path) {
-  if (!environment.files.Read(path)) {
+  if (!platform.files.Read(path)) {
     console.Fail(ExitCode::BadFile, "cannot read " + path);
     return {};
   }
   TargetProfile present;
   if (const auto model = ChooseModel({}, path)) SelectTarget(present, *model);
-  auto read = ReadConfiguration(environment.files, path, present, Translator());
+  auto read = ReadConfiguration(platform.files, path, present, Translator());
   if (!read) {
     console.Fail(ExitCode::BadFile, path + " is no configuration of any of the six models");
     return {};
@@ -79,7 +73,7 @@ std::optional<ModelConfiguration> CommandContext::OpenFile(const std::string& pa
 }
 
 std::string CommandContext::ModelOfFile(const std::string& path) {
-  IniTool tool(environment.files);
+  IniTool tool(platform.files);
   const std::string stamp = tool.ProfileRead("General", "VERSION", path);
   for (const TargetModel& model : TargetModels())
     if (model.type == stamp) return std::string(model.name);
@@ -92,7 +86,7 @@ std::optional<std::string> CommandContext::ChooseModel(const PortChoice& port,
   if (!port.simulatedModel.empty()) return port.simulatedModel;
   if (!file.empty())
     if (std::string model = ModelOfFile(file); !model.empty()) return model;
-  const TargetModel* stored = FindModel(StoredSettings(environment.settings).Target());
+  const TargetModel* stored = FindModel(StoredSettings(platform.settings).Target());
   if (stored) return std::string(stored->name);
   // A file without a known stamp is refused in any case, whatever the model.
   if (!file.empty()) return std::string(TargetNamesOffered().front());
@@ -104,7 +98,7 @@ std::optional<std::string> CommandContext::ChooseModel(const PortChoice& port,
 PortChoice CommandContext::NumberedPort(std::int16_t number) {
   PortChoice choice{.number = number, .name = "COM" + std::to_string(number)};
   choice.simulatedModel = environment.simulated.ModelAt(number);
-  for (const PortEntry& entry : environment.port.Entries())
+  for (const PortEntry& entry : platform.port.Entries())
     if (entry.number == number && !entry.device.empty()) choice.name += " (" + entry.device + ")";
   return choice;
 }
@@ -132,6 +126,14 @@ ExitCode CommandContext::ChoosePort(PortChoice& choice) {
   const int number = environment.numberOfDevice ? environment.numberOfDevice(options.port) : 0;
   if (number == 0) return console.Fail(ExitCode::NoSession, "there is no port " + options.port);
   choice = {.number = static_cast<std::int16_t>(number), .name = options.port};
+  return ExitCode::Done;
+}
+
+ExitCode CommandContext::Show(const Result& result, JsonLayout layout) {
+  if (options.json)
+    WriteJson(console.Out(), result.json(), layout);
+  else
+    result.text(console.Out());
   return ExitCode::Done;
 }
 

@@ -9,6 +9,7 @@
 #include "cli/ConsoleDialogs.h"
 #include "cli/Environment.h"
 #include "cli/GlobalOptions.h"
+#include "cli/Result.h"
 #include "lang/Lang.h"
 #include "shell/ConfigurationFile.h"
 #include "shell/Configurator.h"
@@ -31,6 +32,7 @@ class CommandContext {
   const GlobalOptions options;
   Console console;
   ConsoleDialogs dialogs;
+  const Platform platform;  ///< that of the environment; the dialogs are those of the command line
   bool traceLost = false;  ///< the trace could not be written whole
 
   /// A configurator with the ports of the environment, on a model by its display name.
@@ -49,6 +51,10 @@ class CommandContext {
   /// Finds the port of the options. Anything but Done after saying why there is none.
   ExitCode ChoosePort(PortChoice& choice);
   bool HasPort() const { return !options.port.empty(); }
+
+  /// Writes a result to the output, in the form that the options ask for. Done, so that a command
+  /// can end with it.
+  ExitCode Show(const Result& result, JsonLayout layout = JsonLayout::Indented);
 
  private:
   PortChoice NumberedPort(std::int16_t number);

@@ -1,5 +1,6 @@
 #include "cli/ConfFile.h"
 
+#include "shell/ForeignKeys.h"
 #include "shell/SafetyCopies.h"
 
 namespace ostrel::cli {
@@ -18,7 +19,7 @@ ExitCode SaveTo(CommandContext& context, Configurator& configurator, const std::
 }
 
 ExitCode TryToWrite(CommandContext& context, const std::string& path) {
-  Files& files = context.environment.files;
+  Files& files = context.platform.files;
   if (files.Exists(path) && !files.Read(path))
     return CannotWrite(context, path, {"what stands there is no file to replace"});
   const std::string trial = files.Resolve(path) + ".try";
@@ -29,9 +30,19 @@ ExitCode TryToWrite(CommandContext& context, const std::string& path) {
   return ExitCode::Done;
 }
 
+ExitCode MayReplace(CommandContext& context, const std::string& path,
+                    const TargetProfile& profile) {
+  const auto foreign = ForeignKeys(context.platform.files, path, profile);
+  if (foreign.empty()) return ExitCode::Done;
+  const std::string lost =
+      path + " holds what this program does not write and would lose: " + ForeignKeysText(foreign);
+  if (context.dialogs.Confirm(lost + ". Replace it?")) return ExitCode::Done;
+  return context.console.Fail(ExitCode::BadFile, lost + ". --yes replaces it all the same");
+}
+
 ExitCode SaveBackup(CommandContext& context, Configurator& configurator, std::string& path) {
-  const Environment& environment = context.environment;
-  SafetyCopies copies(environment.files, environment.clock, environment.dataFolder);
+  SafetyCopies copies(context.platform.files, context.platform.clock,
+                      context.environment.dataFolder);
   const SafetyCopies::Kept kept =
       copies.Keep(configurator.conf, configurator.profile, configurator.info.SerialNumber);
   path = kept.path;

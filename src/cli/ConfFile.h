@@ -13,6 +13,10 @@ ExitCode SaveTo(CommandContext& context, Configurator& configurator, const std::
 /// Makes sure that a file can be made at a path before a logger is kept busy for it.
 ExitCode TryToWrite(CommandContext& context, const std::string& path);
 
+/// Asks before a file is replaced that holds what a configuration of the model does not write.
+/// Anything but Done after saying what would be lost.
+ExitCode MayReplace(CommandContext& context, const std::string& path, const TargetProfile& profile);
+
 /// Keeps the configuration that a configurator holds as a safety copy in the user's data folder,
 /// named by serial number and time. `path` tells where.
 ExitCode SaveBackup(CommandContext& context, Configurator& configurator, std::string& path);

@@ -2,8 +2,6 @@
 
 #include <utility>
 
-#include "controls/Form.h"
-
 namespace ostrel::cli {
 
 BoxAnswer ConsoleDialogs::ShowMessage(const MessageBox& box) {
@@ -31,25 +29,11 @@ std::string ConsoleDialogs::Ask(const std::string& prompt, bool echo) {
   return std::move(answer).value_or("");
 }
 
-void ConsoleDialogs::ShowModal(Form& form) {
-  if (form.Name() != "PWForm") return;
-  const std::string code = NextCode(form.Get<Label>("LabelPrompt").face.Caption());
-  if (code.empty()) return form.Get<Button>("Cancelar").Click();
-  form.Get<TextBox>("PWText").SetText(code);
-  form.Get<Button>("Aceptar").Click();
-}
-
-std::string ConsoleDialogs::NextCode(const std::string& prompt) {
-  ++codesAsked_;
-  std::string code;
-  if (!options_.code.empty()) {
-    // A code that was refused once is refused again: it is not repeated.
-    if (codesAsked_ == 1) code = options_.code;
-  } else if (environment_.ask) {
-    code = Ask(Printable(prompt) + " ", false);
-  }
-  if (!code.empty()) ++codesGiven_;
-  return code;
+std::string ConsoleDialogs::AskCode(const std::string& prompt) {
+  if (options_.code.empty())
+    return environment_.ask ? Ask(Printable(prompt) + " ", false) : std::string();
+  // A code that was refused once is refused again: it is not repeated.
+  return std::exchange(codeUsed_, true) ? std::string() : options_.code;
 }
 
 }  // namespace ostrel::cli

@@ -20,16 +20,14 @@ class ConsoleDialogs final : public Dialogs {
   BoxAnswer ShowMessage(const MessageBox& box) override;
   /// A command names its files itself: always a cancel.
   std::optional<std::string> ChooseFile(const FileQuestion&) override { return std::nullopt; }
-  /// Answers the form that asks an access code; any other form is dismissed.
-  void ShowModal(Form& form) override;
+  /// Gives the code of the options once, or asks for one on the terminal.
+  std::string AskCode(const std::string& prompt) override;
+  /// Forms are for a face that draws: always dismissed.
+  void ShowModal(Form&) override {}
   void Beep() override {}
 
   /// Asks a question of the command line itself.
   bool Confirm(const std::string& question);
-  /// How often an access code was asked for, and how often one was given.
-  int CodesAsked() const { return codesAsked_; }
-  int CodesGiven() const { return codesGiven_; }
-
   /// Whether a question was left by an interrupt, or by the end of the input.
   bool Left() const { return left_; }
   /// While this is set, message boxes are not written: the command says itself what happened.
@@ -38,13 +36,11 @@ class ConsoleDialogs final : public Dialogs {
  private:
   /// Asks for a line; leaves the whole command where none comes.
   std::string Ask(const std::string& prompt, bool echo);
-  std::string NextCode(const std::string& prompt);
 
   Environment& environment_;
   Console& console_;
   const GlobalOptions& options_;
-  int codesAsked_ = 0;
-  int codesGiven_ = 0;
+  bool codeUsed_ = false;  ///< the code of the options has been given
   bool left_ = false;
 };
 

@@ -1,13 +1,13 @@
 #pragma once
 
-#include "cli/Console.h"
-#include "cli/Json.h"
+#include "cli/Result.h"
 #include "shell/Comparison.h"
 
 namespace ostrel::cli {
 
 /// Lists differences by section; those that no statement carries come last.
-void PrintDifferences(Console& console, const Comparison& comparison);
-void WriteDifferences(JsonWriter& json, const Comparison& comparison);
+void PrintDifferences(std::ostream& out, const Comparison& comparison);
+/// The same for programs.
+Json DifferencesJson(const Comparison& comparison);
 
 }  // namespace ostrel::cli

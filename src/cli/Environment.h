@@ -8,12 +8,7 @@
 #include <string_view>
 
 #include "host/SimulatedLoggers.h"
-#include "platform/Clock.h"
-#include "platform/EventLoop.h"
-#include "platform/Files.h"
-#include "platform/Processes.h"
-#include "platform/SerialPort.h"
-#include "platform/Settings.h"
+#include "platform/Platform.h"
 
 namespace ostrel::cli {
 
@@ -22,12 +17,7 @@ struct Environment {
   /// Asks the operator for one line, without echo when `echo` is false; nothing when it ends.
   using Ask = std::function<std::optional<std::string>(std::string_view prompt, bool echo)>;
 
-  EventLoop& loop;
-  SerialPort& port;  ///< with the simulated loggers at their numbers
-  Settings& settings;
-  Files& files;
-  Processes& processes;
-  Clock& clock;
+  Platform platform;  ///< ports with the simulated loggers at their numbers; dialogs ask nobody
   SimulatedLoggers& simulated;
   std::ostream& out;
   std::ostream& err;

@@ -1,16 +1,12 @@
 #pragma once
 
 #include <string>
-#include <string_view>
 
-#include "link/LinkFault.h"
+#include "shell/FaultWords.h"
 
 namespace ostrel::cli {
 
-/// What a dialogue moves: the numbers of its faults count these.
-enum class Transfer { None, Download, Upload };
-
-/// One sentence on what went wrong on a link, with what helps where something does.
-std::string FaultText(const LinkFault& fault, std::string_view port, Transfer transfer);
+/// The words for a fault in one line: "what: what helps; how the logger stands".
+std::string FaultText(const FaultWords& words);
 
 }  // namespace ostrel::cli

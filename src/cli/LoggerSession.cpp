@@ -2,8 +2,9 @@
 
 #include <utility>
 
+#include "cli/FaultText.h"
+#include "cli/Progress.h"
 #include "host/SimulatedLoggers.h"
-#include "shell/RecordCounts.h"
 
 namespace ostrel::cli {
 
@@ -11,7 +12,7 @@ LoggerSession::LoggerSession(CommandContext& context, Configurator& configurator
     : context_(context), configurator_(configurator), port_(std::move(port)) {
   context_.environment.onInterrupt = [this] {
     interrupted_ = true;
-    configurator_.comms.Abort();
+    configurator_.session.BreakOff();
   };
 }
 
@@ -39,12 +40,13 @@ ExitCode LoggerSession::Open() {
   if (traceFailed_)
     return context_.console.Fail(ExitCode::BadFile, "cannot write " + context_.options.trace);
   if (!port_.simulatedModel.empty() && !context_.options.simState.empty() &&
-      !context_.environment.simulated.UseStateFile(context_.environment.files, port_.simulatedModel,
+      !context_.environment.simulated.UseStateFile(context_.platform.files, port_.simulatedModel,
                                                    context_.options.simState))
     return context_.console.Fail(ExitCode::BadFile,
                                  context_.options.simState + " holds no simulated logger");
-  if (!configurator_.session.Open(port_.number, context_.options.phone)) return OpenFault();
-  if (interrupted_) return Failed();
+  if (!configurator_.session.Open(port_.number, context_.options.phone))
+    return Fault(interrupted_ ? ExitCode::DialogueFailed : ExitCode::NoSession,
+                 *configurator_.session.State().failed);
   // What is sent depends on what the firmware can do: without knowing it nothing may start.
   const bool isKnown = configurator_.session.CompleteInfo();
   if (interrupted_) return Failed();
@@ -54,65 +56,35 @@ ExitCode LoggerSession::Open() {
                                "damaged. Check cable and earthing");
 }
 
-ExitCode LoggerSession::OpenFault() {
-  Console& console = context_.console;
-  if (interrupted_)
-    return console.Fail(ExitCode::DialogueFailed,
-                        "interrupted before a session stood: the logger is unchanged");
-  std::string sentence = FaultText(configurator_.comms.Fault(), port_.name, Transfer::None);
-  if (configurator_.comms.Fault().kind == LinkFault::Kind::NoHandshake &&
-      context_.dialogs.CodesAsked() > 0)
-    sentence = context_.dialogs.CodesGiven() > 0
-                   ? "the logger did not accept the access code"
-                   : "the logger wants an access code: --code gives one";
-  return console.Fail(ExitCode::NoSession, sentence);
-}
-
 ExitCode LoggerSession::Run(const std::function<bool()>& dialogue) {
   return dialogue() && !interrupted_ ? ExitCode::Done : Failed();
 }
 
-bool LoggerSession::Move(std::string_view label, int steps, bool (SessionDriver::*transfer)(),
-                         int& farthest) {
-  Progress progress(context_.console, context_.environment.loop,
-                    configurator_.general.Session().PBar, label, steps,
-                    context_.environment.errIsTerminal);
-  const bool done = (configurator_.session.*transfer)();
-  farthest = progress.Farthest();
-  return done;
+bool LoggerSession::Move(std::string_view label, bool (SessionDriver::*transfer)()) {
+  const Progress progress(context_.console, configurator_.session.Watch(), label,
+                          context_.environment.errIsTerminal);
+  return (configurator_.session.*transfer)();
 }
 
 ExitCode LoggerSession::Download() {
   configurator_.conf = DeviceConf{};
-  int farthest = 0;
-  RecordCounts records(context_.environment.settings);
-  const std::string& type = configurator_.profile.TargetType;
-  const bool done = Move("download", records.Expected(type), &SessionDriver::Download, farthest);
-  if (done) records.Keep(type, farthest + 1);
-  return done && !interrupted_ ? ExitCode::Done : Fault(Transfer::Download);
+  const bool done = Move("download", &SessionDriver::Download);
+  if (done && !interrupted_) return ExitCode::Done;
+  return Fault(ExitCode::DialogueFailed, configurator_.session.FaultDuring(SessionPhase::Reading));
 }
 
 ExitCode LoggerSession::Upload() {
-  const auto statements = static_cast<int>(configurator_.comms.ComposeStatements().size());
-  int farthest = 0;
-  written_ = Move("upload", statements, &SessionDriver::Upload, farthest);
+  written_ = Move("upload", &SessionDriver::Upload);
   if (written_) return ExitCode::Done;
-  return Fault(Transfer::Upload, farthest >= statements);
+  return Fault(ExitCode::DialogueFailed, *configurator_.session.State().failed);
 }
 
-ExitCode LoggerSession::Fault(Transfer transfer, bool mayHaveClosed) {
-  std::string sentence =
-      interrupted_ ? "interrupted" : FaultText(configurator_.comms.Fault(), port_.name, transfer);
-  if (transfer == Transfer::Upload)
-    sentence += mayHaveClosed
-                    ? "; whether the logger has taken the configuration over is not known: read "
-                      "it back"
-                    : "; the logger's former configuration stays in force";
-  else if (written_)
-    sentence += "; the logger has taken the new configuration over, which is not verified";
-  else if (transfer == Transfer::Download || interrupted_)
-    sentence += "; the logger's configuration is unchanged";
-  return context_.console.Fail(ExitCode::DialogueFailed, sentence);
+ExitCode LoggerSession::Fault(ExitCode code, const SessionFault& fault) {
+  FaultWords words = WordsOf(fault, port_.name);
+  if (fault.code == CodeAnswer::NotGiven) words.remedy = {"--code gives one"};
+  if (written_)
+    words.outcome = {"the logger has taken the new configuration over, which is not verified"};
+  return context_.console.Fail(code, FaultText(words));
 }
 
 }  // namespace ostrel::cli

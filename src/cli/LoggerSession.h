@@ -6,8 +6,6 @@
 #include <string_view>
 
 #include "cli/CommandContext.h"
-#include "cli/FaultText.h"
-#include "cli/Progress.h"
 
 namespace ostrel::cli {
 
@@ -30,17 +28,18 @@ class LoggerSession {
   /// Runs a short dialogue, which says whether it succeeded.
   ExitCode Run(const std::function<bool()>& dialogue);
   /// Says why the last short dialogue failed.
-  ExitCode Failed() { return Fault(Transfer::None); }
+  ExitCode Failed() {
+    return Fault(ExitCode::DialogueFailed, configurator_.session.FaultDuring(SessionPhase::Open));
+  }
   void Close();
 
   bool Interrupted() const { return interrupted_; }
   const PortChoice& Port() const { return port_; }
 
  private:
-  /// Runs a transfer with its progress shown; `farthest` is the last step that was seen.
-  bool Move(std::string_view label, int steps, bool (SessionDriver::*transfer)(), int& farthest);
-  ExitCode OpenFault();
-  ExitCode Fault(Transfer transfer, bool mayHaveClosed = false);
+  /// Runs a transfer with its progress shown.
+  bool Move(std::string_view label, bool (SessionDriver::*transfer)());
+  ExitCode Fault(ExitCode code, const SessionFault& fault);
   void StartTrace();
 
   CommandContext& context_;

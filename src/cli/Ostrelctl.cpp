@@ -80,7 +80,7 @@ ExitCode RunChosen(const std::vector<Command>& commands, Environment& environmen
     if (!command.parser->parsed()) continue;
     CommandContext context(environment, options);
     const ExitCode result = command.run(context);
-    const FileResult kept = environment.simulated.SaveState(environment.files);
+    const FileResult kept = environment.simulated.SaveState(environment.platform.files);
     environment.out.flush();
     if (!kept.Ok())
       return context.console.Fail(ExitCode::BadFile,

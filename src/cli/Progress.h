@@ -1,41 +1,28 @@
 #pragma once
 
-#include <optional>
 #include <string>
 #include <string_view>
 
 #include "cli/Console.h"
-#include "controls/Controls.h"
-#include "platform/EventLoop.h"
-#include "shell/RemainingTime.h"
+#include "shell/TransferWatch.h"
 
 namespace ostrel::cli {
 
-/// Shows on a terminal how far a transfer is, with the time that remains, by following the progress
-/// bar of the session. It takes its line away at its end.
+/// Shows on a terminal how far a transfer is, with the time that remains. It takes its line away at
+/// its end.
 class Progress {
  public:
-  /// `steps` is how many records or statements there will be, as far as known.
-  Progress(Console& console, EventLoop& loop, ProgressBar& bar, std::string_view label, int steps,
-           bool isShown);
+  Progress(Console& console, TransferWatch& watch, std::string_view label, bool isShown);
   ~Progress();
   Progress(const Progress&) = delete;
   Progress& operator=(const Progress&) = delete;
 
-  /// The farthest step seen.
-  int Farthest() const { return farthest_; }
-
  private:
-  void Follow();
   void Draw();
 
   Console& console_;
-  EventLoop& loop_;
-  ProgressBar& bar_;
+  TransferWatch& watch_;
   std::string label_;
-  bool isShown_;
-  RemainingTime time_;
-  int farthest_ = 0;
   std::string drawn_;
 };
 

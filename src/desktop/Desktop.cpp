@@ -8,13 +8,9 @@
 
 namespace ostrel {
 
-Desktop::Desktop(const DesktopWorld& world, const ConfiguratorOptions& options,
+Desktop::Desktop(const Platform& platform, const ConfiguratorOptions& options,
                  const std::string& dataFolder)
-    : qtDialogs_([this]() -> QWidget* { return window_.isVisible() ? &window_ : nullptr; },
-                 [this] { return window_.Context(); }),
-      platform_{
-          world.loop,  world.port,      world.settings, world.dialogs ? *world.dialogs : qtDialogs_,
-          world.files, world.processes, world.clock},
+    : platform_(platform),
       configurator_(platform_, options),
       navigation_(configurator_),
       window_({.configurator = configurator_,

@@ -6,27 +6,16 @@
 #include <string>
 
 #include "desktop/MainWindow.h"
-#include "desktop/QtDialogs.h"
 #include "shell/Configurator.h"
 #include "shell/Navigation.h"
 
 namespace ostrel {
 
-/// The outside world of the window. Dialogs are its own affair.
-struct DesktopWorld {
-  EventLoop& loop;
-  SerialPort& port;
-  Settings& settings;
-  Files& files;
-  Processes& processes;
-  Clock& clock;
-  Dialogs* dialogs = nullptr;  ///< asks instead of the window's own dialogs, if set
-};
-
 /// One whole program with its window. It needs an application object.
 class Desktop {
  public:
-  Desktop(const DesktopWorld& world, const ConfiguratorOptions& options,
+  /// `dataFolder` is the user's own.
+  Desktop(const Platform& platform, const ConfiguratorOptions& options,
           const std::string& dataFolder);
 
   /// Starts in the order that the product gives: settings, questions, model, pages, the file. Then
@@ -36,8 +25,6 @@ class Desktop {
   /// Shows what was thrown where an event came in, and goes on.
   void ShowFault(std::exception_ptr fault);
 
-  /// What asks the operator.
-  Dialogs& Asking() { return platform_.dialogs; }
   Configurator& Core() { return configurator_; }
   Navigation& Navigator() { return navigation_; }
   MainWindow& Window() { return window_; }
@@ -45,7 +32,6 @@ class Desktop {
  private:
   void Guarded(const std::function<void()>& run);
 
-  QtDialogs qtDialogs_;
   Platform platform_;
   Configurator configurator_;
   Navigation navigation_;

@@ -37,7 +37,10 @@ QWidget* FormView::Show(std::string_view control) {
   const ControlRef ref = form_[control];
   const Bound bound = Bind(ref, options, this);
   bound_.emplace(control, bound);
-  FaceOf(ref).OnChanged = [this, name = std::string(control)] { Follow(name); };
+  FaceOf(ref).OnChanged = [this, name = std::string(control)] {
+    Follow(name);
+    if (OnControlChanged) OnControlChanged();
+  };
   if (qobject_cast<QComboBox*>(bound.widget) || qobject_cast<QTimeEdit*>(bound.widget)) {
     bound.widget->setFocusPolicy(Qt::StrongFocus);
     bound.widget->installEventFilter(this);

@@ -67,6 +67,8 @@ class FormView final : public QWidget {
 
   /// Runs after title, visibility, enabled state, pointer or focus of the form changed.
   std::function<void()> OnFormChanged;
+  /// Runs after anything that a control shows has changed.
+  std::function<void()> OnControlChanged;
 
  protected:
   /// Keeps a turn of the wheel over a box that has not the focus from changing it unseen.

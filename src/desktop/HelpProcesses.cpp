@@ -6,8 +6,8 @@ namespace ostrel {
 
 bool HelpProcesses::Start(std::string_view commandLine) {
   if (real_.Start(commandLine)) return true;
-  if (dialogs && commandLine.starts_with("Explorer "))
-    dialogs->ShowMessage({.text = FromQt(Words::tr("This installation has no help pages.")),
+  if (commandLine.starts_with("Explorer "))
+    dialogs_.ShowMessage({.text = FromQt(Words::tr("This installation has no help pages.")),
                           .title = FromQt(Words::tr("Help")),
                           .icon = BoxIcon::Information});
   return false;

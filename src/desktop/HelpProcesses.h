@@ -8,16 +8,14 @@ namespace ostrel {
 /// Starts programs; where a help page is asked for that the installation does not have, says so.
 class HelpProcesses final : public Processes {
  public:
-  /// `real` starts what is there.
-  explicit HelpProcesses(Processes& real) : real_(real) {}
+  /// `real` starts what is there; `dialogs` only tells.
+  HelpProcesses(Processes& real, Dialogs& dialogs) : real_(real), dialogs_(dialogs) {}
 
   bool Start(std::string_view commandLine) override;
 
-  /// Asks nothing, only tells; set when the dialogs stand.
-  Dialogs* dialogs = nullptr;
-
  private:
   Processes& real_;
+  Dialogs& dialogs_;
 };
 
 }  // namespace ostrel

@@ -9,15 +9,15 @@ namespace {
 
 const char* ColourOf(const LinkState& state) {
   if (state.silentSeconds > 0) return "#f59f00";
-  switch (state.kind) {
-    case LinkState::Kind::Idle:
+  switch (state.phase) {
+    case SessionPhase::Closed:
       return "#868e96";
-    case LinkState::Kind::Detecting:
-      return "#1c7ed6";
-    case LinkState::Kind::Open:
+    case SessionPhase::Open:
       return "#2f9e44";
-    case LinkState::Kind::Reading:
-    case LinkState::Kind::Writing:
+    case SessionPhase::Opening:
+    case SessionPhase::Reading:
+    case SessionPhase::Writing:
+    case SessionPhase::Closing:
       return "#1c7ed6";
   }
   return "";
@@ -29,20 +29,29 @@ LinkPanel::LinkPanel(QWidget* parent)
     : QWidget(parent),
       lamp_(new QLabel(this)),
       words_(new QLabel(this)),
+      breakOff_(new QToolButton(this)),
       bar_(new QProgressBar(this)),
       left_(new QLabel(this)) {
   auto* row = new QHBoxLayout(this);
   row->setContentsMargins(8, 0, 8, 0);
   lamp_->setFixedSize(12, 12);
   words_->setObjectName("LinkState");
+  breakOff_->setObjectName("BreakOff");
+  breakOff_->setAutoRaise(true);
+  connect(breakOff_, &QToolButton::clicked, this, [this] {
+    if (OnBreakOff) OnBreakOff();
+  });
   bar_->setFixedWidth(200);
-  QSizePolicy policy = bar_->sizePolicy();
-  policy.setRetainSizeWhenHidden(true);  // the page above is not to jump
-  bar_->setSizePolicy(policy);
+  for (QWidget* comesAndGoes : {static_cast<QWidget*>(bar_), static_cast<QWidget*>(breakOff_)}) {
+    QSizePolicy policy = comesAndGoes->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);  // the page above is not to jump
+    comesAndGoes->setSizePolicy(policy);
+  }
   bar_->setTextVisible(false);
   row->addWidget(lamp_);
   row->addWidget(words_);
   row->addSpacing(12);
+  row->addWidget(breakOff_);
   row->addWidget(bar_);
   row->addWidget(left_);
   row->addStretch(1);
@@ -50,9 +59,14 @@ LinkPanel::LinkPanel(QWidget* parent)
   ShowState({});
 }
 
-void LinkPanel::Retranslate() { bar_->setAccessibleName(Words::tr("Progress")); }
+void LinkPanel::Retranslate() {
+  bar_->setAccessibleName(Words::tr("Progress"));
+  breakOff_->setText(Words::tr("Break off"));
+  breakOff_->setToolTip(Words::tr("Give up opening the session"));
+}
 
 void LinkPanel::ShowState(const LinkState& state) {
+  breakOff_->setVisible(state.phase == SessionPhase::Opening);
   const QString words = LinkStateWords(state);
   if (words == words_->text()) return;
   words_->setText(words);

@@ -2,13 +2,16 @@
 
 #include <QLabel>
 #include <QProgressBar>
+#include <QToolButton>
 #include <QWidget>
+#include <functional>
 
 #include "desktop/LinkState.h"
 
 namespace ostrel {
 
-/// The link's part of the status bar: a lamp, the state in words, and how far a transfer is.
+/// The link's part of the status bar: a lamp, the state in words, a way to break off a session that
+/// is being opened, and how far a transfer is.
 class LinkPanel final : public QWidget {
  public:
   explicit LinkPanel(QWidget* parent);
@@ -20,9 +23,13 @@ class LinkPanel final : public QWidget {
   void ShowProgress(int done, int steps, const QString& left);
   void HideProgress();
 
+  /// Runs when the operator breaks the opening of a session off. Set by the window.
+  std::function<void()> OnBreakOff;
+
  private:
   QLabel* lamp_;
   QLabel* words_;
+  QToolButton* breakOff_;
   QProgressBar* bar_;
   QLabel* left_;
 };

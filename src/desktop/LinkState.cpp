@@ -8,34 +8,39 @@ namespace {
 
 constexpr int kWorthTelling = 2;  // seconds
 
-LinkState::Kind KindOf(Configurator& configurator) {
-  if (!configurator.Connected)
-    return configurator.comms.PortOpen() ? LinkState::Kind::Detecting : LinkState::Kind::Idle;
-  switch (configurator.session.Running()) {
-    case TransferKind::Reading:
-      return LinkState::Kind::Reading;
-    case TransferKind::Writing:
-      return LinkState::Kind::Writing;
-    case TransferKind::None:
-      break;
-  }
-  return LinkState::Kind::Open;
-}
-
-QString KindWords(LinkState::Kind kind) {
-  switch (kind) {
-    case LinkState::Kind::Idle:
+QString PhaseWords(SessionPhase phase) {
+  switch (phase) {
+    case SessionPhase::Closed:
       return Words::tr("Idle");
-    case LinkState::Kind::Detecting:
+    case SessionPhase::Opening:
       return Words::tr("Detecting");
-    case LinkState::Kind::Open:
+    case SessionPhase::Open:
       return Words::tr("Open", "the state of the link");
-    case LinkState::Kind::Reading:
+    case SessionPhase::Reading:
       return Words::tr("Reading");
-    case LinkState::Kind::Writing:
+    case SessionPhase::Writing:
       return Words::tr("Writing");
+    case SessionPhase::Closing:
+      return Words::tr("Closing");
   }
   return {};
+}
+
+RequestWait WaitOf(const Configurator& configurator) {
+  if (!configurator.session.RequestWaits()) return RequestWait::None;
+  return configurator.Connected ? RequestWait::GeneralPage : RequestWait::Session;
+}
+
+QString WithWait(const QString& words, RequestWait wait) {
+  switch (wait) {
+    case RequestWait::None:
+      break;
+    case RequestWait::Session:
+      return Words::tr("%1, a transfer waits for a session").arg(words);
+    case RequestWait::GeneralPage:
+      return Words::tr("%1, a transfer waits for the general page").arg(words);
+  }
+  return words;
 }
 
 }  // namespace
@@ -43,11 +48,13 @@ QString KindWords(LinkState::Kind kind) {
 LinkState LinkStateOf(Configurator& configurator) {
   const auto silent =
       std::chrono::duration_cast<std::chrono::seconds>(configurator.comms.SilentFor()).count();
-  return {KindOf(configurator), silent >= kWorthTelling ? static_cast<int>(silent) : 0};
+  return {.phase = configurator.session.State().phase,
+          .silentSeconds = silent >= kWorthTelling ? static_cast<int>(silent) : 0,
+          .wait = WaitOf(configurator)};
 }
 
 QString LinkStateWords(const LinkState& state) {
-  const QString words = KindWords(state.kind);
+  const QString words = WithWait(PhaseWords(state.phase), state.wait);
   if (state.silentSeconds == 0) return words;
   return Words::tr("%1, silent for %2 s").arg(words).arg(state.silentSeconds);
 }

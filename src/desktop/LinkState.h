@@ -2,23 +2,27 @@
 
 #include <QString>
 
-#include "platform/Time.h"
+#include "shell/SessionState.h"
 
 namespace ostrel {
 
 class Configurator;
 
+/// What a transfer that has been asked for still waits for.
+enum class RequestWait { None, Session, GeneralPage };
+
 /// What the link is doing, as the status bar tells it.
 struct LinkState {
-  enum class Kind { Idle, Detecting, Open, Reading, Writing } kind = Kind::Idle;
+  SessionPhase phase = SessionPhase::Closed;
   int silentSeconds = 0;  ///< how long an answer has been awaited in vain; 0 below 2 s
+  RequestWait wait = RequestWait::None;
 
   bool operator==(const LinkState&) const = default;
 };
 
 LinkState LinkStateOf(Configurator& configurator);
 
-/// "reading", "reading, silent for 4 s".
+/// "Reading", "Reading, silent for 4 s".
 QString LinkStateWords(const LinkState& state);
 
 }  // namespace ostrel

@@ -8,17 +8,16 @@
 #include <QStatusBar>
 
 #include "desktop/FaultDetails.h"
-#include "desktop/FaultWords.h"
+#include "desktop/FaultText.h"
 #include "desktop/Icons.h"
 #include "desktop/Words.h"
 #include "platform/Settings.h"
 #include "shell/Configurator.h"
+#include "shell/ForeignKeys.h"
 
 namespace ostrel {
 namespace {
 
-constexpr Duration kLookInterval = std::chrono::milliseconds(200);
-constexpr int kLooksPerSecond = 5;
 constexpr int kTreeWidth = 230;
 constexpr int kMessageTime = 10'000;  // ms
 constexpr QSize kFirstSize{1280, 720};
@@ -35,7 +34,6 @@ MainWindow::MainWindow(const WindowParts& parts)
       recent_(parts.platform.settings),
       copies_(parts.platform.files, parts.platform.clock, parts.dataFolder),
       unsaved_(configurator_, navigation_),
-      transfer_(configurator_, parts.platform.settings),
       ports_(configurator_.general.Session().Puerto, parts.platform.port, parts.platform.loop,
              parts.guard),
       tree_(new TreePane(this)),
@@ -64,26 +62,50 @@ MainWindow::MainWindow(const WindowParts& parts)
     else
       unsetCursor();
   };
-  configurator_.OnTargetChanged = [this] {
+  pages_->OnControlChanged = [this] { unsaved_.Touch(); };
+  link_->OnBreakOff = [this] { parts_.guard([this] { configurator_.session.BreakOff(); }); };
+  navigation_.OnTargetChanged = [this] {
     BuildTree();
     shownFile_.clear();  // it is of the former model
+    unsaved_.Touch();
   };
-  navigation_.OnFrontChanged = [this] {
-    if (following_) ShowFront();
+  configurator_.OnForeignKeys = [this](const std::string& path,
+                                       const std::vector<std::string>& lost) {
+    return MayLose(path, lost);
+  };
+  navigation_.OnFrontChanged = Following(&MainWindow::ShowFront);
+  configurator_.session.OnStateChanged = Following(&MainWindow::ShowSession);
+  configurator_.session.OnTick = Following(&MainWindow::Look);
+  configurator_.session.Watch().OnStep = Following(&MainWindow::ShowTransfer);
+  configurator_.session.OnTransferEnded = [this](const TransferEnd& end) {
+    if (following_) parts_.guard([&] { TransferEnded(end); });
   };
   Retranslate();
 }
 
-MainWindow::~MainWindow() {
-  parts_.platform.loop.Cancel(lookTimer_);
-  configurator_.OnTargetChanged = nullptr;
-  configurator_.comms.Trace = nullptr;
-  configurator_.session.OnTransferEnded = nullptr;
-  navigation_.OnFrontChanged = nullptr;
+MainWindow::~MainWindow() { LetGo(); }
+
+std::function<void()> MainWindow::Following(void (MainWindow::*react)()) {
+  return [this, react] {
+    if (following_) parts_.guard([&] { (this->*react)(); });
+  };
 }
 
-LayoutContext MainWindow::Context() const {
-  return {.guard = parts_.guard,
+void MainWindow::LetGo() {
+  SessionDriver& session = configurator_.session;
+  session.OnStateChanged = session.OnTick = session.Watch().OnStep = nullptr;
+  session.OnTransferEnded = nullptr;
+  configurator_.comms.Trace = nullptr;
+  configurator_.OnForeignKeys = nullptr;
+  navigation_.OnTargetChanged = navigation_.OnFrontChanged = nullptr;
+}
+
+LayoutContext MainWindow::Context() {
+  return {.guard =
+              [this](const std::function<void()>& run) {
+                parts_.guard(run);
+                unsaved_.Touch();
+              },
           .portText = [this](const ListRow& row) { return ports_.RowText(row); }};
 }
 
@@ -98,10 +120,7 @@ void MainWindow::Follow() {
   tree_->Tree().setFocus();
   unsaved_.Keep(unsaved_.WithFront());
   if (FileDifferences()) WorkOn(configurator_.ConfFilePath);
-  configurator_.session.OnTransferEnded = [this](const TransferEnd& end) { TransferEnded(end); };
   Look();
-  lookTimer_ = parts_.platform.loop.Every(kLookInterval, "window",
-                                          [this] { parts_.guard([this] { Look(); }); });
 }
 
 void MainWindow::BuildTree() {
@@ -125,26 +144,29 @@ void MainWindow::ShowMissing() {
 }
 
 void MainWindow::ShowFront() {
-  Form* front = navigation_.Front();
-  // Pages that stay open come back into sight when nothing else is in front.
-  for (const auto& page : configurator_.Pages())
-    if (!front && page->GetForm().Visible()) front = &page->GetForm();
-  if (!front) return pages_->ShowEmpty({});
-  pages_->ShowForm(*front);
+  unsaved_.Touch();
+  if (Form* front = navigation_.Front())
+    pages_->ShowForm(*front);
+  else
+    pages_->ShowEmpty({});
+  ShowLink();
   ShowFault();
 }
 
 void MainWindow::Look() {
-  const auto now = parts_.platform.loop.Now();
-  const LinkState state = LinkStateOf(configurator_);
-  link_->ShowState(state);
-  const SessionFrame& session = configurator_.general.Session();
-  Rest(configurator_.session.Running() != TransferKind::None || session.ReadRequest ||
-       session.WriteRequest);
-  transfer_.Look(now);
+  ShowSession();
+  ShowTitle();
+}
+
+void MainWindow::ShowSession() {
+  ShowLink();
   ShowTransfer();
   ShowFault();
-  if (looks_++ % kLooksPerSecond == 0) ShowTitle();
+}
+
+void MainWindow::ShowLink() {
+  link_->ShowState(LinkStateOf(configurator_));
+  Rest(configurator_.session.OwnsModel());
 }
 
 /// A transfer owns the model: nothing may be edited, opened, saved or compared under it, and a
@@ -157,15 +179,15 @@ void MainWindow::Rest(bool rests) {
 
 void MainWindow::ShowTransfer() {
   QString words;
-  if (transfer_.Running()) {
-    const RemainingTime& time = transfer_.Time();
-    if (const auto left = time.Left(parts_.platform.loop.Now()))
+  const TransferWatch& transfer = configurator_.session.Watch();
+  if (transfer.Running()) {
+    if (const auto left = transfer.Left())
       words = Words::tr("%1 left").arg(ToQt(DurationText(*left)));
     // The general page has a bar of its own.
     if (shownNode_ == "General")
       link_->HideProgress();
     else
-      link_->ShowProgress(time.Done(), time.Steps(), words);
+      link_->ShowProgress(transfer.Done(), transfer.Steps(), words);
   } else {
     link_->HideProgress();
   }
@@ -178,14 +200,9 @@ void MainWindow::ShowFault() {
   const FormView* front = pages_->Front();
   auto* details = front ? front->findChild<FaultDetails*>("FaultDetails") : nullptr;
   if (!details) return;
-  const SessionFrame& session = configurator_.general.Session();
-  const LinkFault& fault = configurator_.comms.Fault();
-  // A session that was closed tells no more of a transfer that failed in it.
-  const std::string& status = session.ComStat.face.Key();
-  const bool failed = status == "Error!" || (status == "Comunicacion no iniciada" &&
-                                             fault.kind <= LinkFault::Kind::NoHandshake);
+  const auto& failed = configurator_.session.State().failed;
   const QString device = ports_.DeviceOf("COM" + std::to_string(configurator_.session.Port()));
-  details->SetText(failed ? FaultWords(fault, device) : QString());
+  details->SetText(failed ? FaultText(*failed, device) : QString());
 }
 
 void MainWindow::ShowTitle() {
@@ -197,10 +214,9 @@ void MainWindow::ShowTitle() {
 }
 
 void MainWindow::TransferEnded(const TransferEnd& end) {
-  transfer_.Ended(end);
   if (!end.done) return;
   unsaved_.Keep(end.held);
-  if (end.kind == TransferKind::Reading) shownFile_.clear();
+  if (end.kind == SessionPhase::Reading) shownFile_.clear();
   const FileResult kept =
       copies_.Keep(end.held, configurator_.profile, configurator_.info.SerialNumber).result;
   if (!kept.Ok())
@@ -221,11 +237,23 @@ std::optional<Comparison> MainWindow::FileDifferences() const {
   return ostrel::Compare({configurator_.profile, configurator_.conf}, *file);
 }
 
+bool MainWindow::MayLose(const std::string& path, const std::vector<std::string>& lost) {
+  const BoxAnswer answer = parts_.platform.dialogs.ShowMessage(
+      {.text = FromQt(Words::tr("%1 holds what this program does not write and would lose: %2. "
+                                "Replace it?")
+                          .arg(ToQt(path), ToQt(ForeignKeysText(lost)))),
+       .title = configurator_.profile.TargetName,
+       .icon = BoxIcon::Question,
+       .buttons = BoxButtons::YesNo});
+  return answer == BoxAnswer::Yes;
+}
+
 bool MainWindow::MayLeave() {
-  const TransferKind running = configurator_.session.Running();
-  if (!unsaved_.Changed() && running != TransferKind::Writing) return true;
+  const SessionPhase phase = configurator_.session.State().phase;
+  unsaved_.Touch();
+  if (!unsaved_.Changed() && phase != SessionPhase::Writing) return true;
   // A transfer owns the model: what stands there now is no state to save.
-  const bool mayBeSaved = running == TransferKind::None;
+  const bool mayBeSaved = !IsTransfer(phase);
   QMessageBox box(QMessageBox::NoIcon, ToQt(configurator_.profile.TargetName),
                   mayBeSaved ? Words::tr("The configuration has changes that are neither saved "
                                          "nor sent.")
@@ -244,7 +272,13 @@ bool MainWindow::MayLeave() {
   box.exec();
   if (box.clickedButton() == discard) return true;
   if (!save || box.clickedButton() != save) return false;
-  return configurator_.session.Running() == TransferKind::None && Save();
+  return !IsTransfer(configurator_.session.State().phase) && Save();
+}
+
+std::string MainWindow::AskCode() {
+  std::string code;
+  configurator_.pwForm.ShowModal(code);
+  return code;
 }
 
 void MainWindow::RestorePlace() {

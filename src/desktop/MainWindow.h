@@ -9,17 +9,16 @@
 #include "desktop/LinkPanel.h"
 #include "desktop/PageArea.h"
 #include "desktop/PortWatch.h"
-#include "desktop/QtDialogs.h"
-#include "desktop/RecentFiles.h"
 #include "desktop/TraceView.h"
-#include "desktop/TransferWatch.h"
 #include "desktop/TreePane.h"
-#include "desktop/UnsavedMark.h"
 #include "platform/Platform.h"
 #include "shell/Comparison.h"
 #include "shell/ConfigurationFile.h"
 #include "shell/Navigation.h"
+#include "shell/RecentFiles.h"
 #include "shell/SafetyCopies.h"
+#include "shell/SessionDriver.h"
+#include "shell/UnsavedMark.h"
 
 class QAction;
 class QMenu;
@@ -37,7 +36,8 @@ struct WindowParts {
 };
 
 /// The window: tool bar, tree, the page in front, and the state of the link. It draws and asks; all
-/// rules are the configurator's.
+/// rules are the configurator's. It follows what the session, the transfer, the pages and the ports
+/// tell, and what changes with time at the session's own tick: it has no timer.
 class MainWindow final : public QMainWindow {
  public:
   explicit MainWindow(const WindowParts& parts);
@@ -47,11 +47,13 @@ class MainWindow final : public QMainWindow {
   void Follow();
   /// Goes to a node, as a click on it does.
   void GoTo(const std::string& key);
-  LayoutContext Context() const;
+  LayoutContext Context();
   PageArea& Pages() { return *pages_; }
   TreePane& Tree() { return *tree_; }
-  /// Looks at all that changes by itself: link, transfer, title. Runs several times a second.
+  /// Brings link, transfer, faults and title up to the configurator.
   void Look();
+  /// Asks for an access code.
+  std::string AskCode();
 
  protected:
   void closeEvent(QCloseEvent* event) override;
@@ -81,10 +83,15 @@ class MainWindow final : public QMainWindow {
   void BuildTree();
   void ShowFront();
   void ShowTitle();
+  void ShowLink();
   void ShowFault();
   void Rest(bool rests);
   void ShowMissing();
   void ShowTransfer();
+  void ShowSession();
+  /// What an event of the configurator does, once the window follows it.
+  std::function<void()> Following(void (MainWindow::*react)());
+  void LetGo();
   void TransferEnded(const TransferEnd& end);
   /// What the file at `ConfFilePath` holds otherwise than the program; nothing when it is refused.
   std::optional<Comparison> FileDifferences() const;
@@ -94,6 +101,8 @@ class MainWindow final : public QMainWindow {
   void WorkOn(const std::string& path);
   void RestorePlace();
   void KeepPlace();
+  /// Whether a file may be replaced that holds what this program does not write.
+  bool MayLose(const std::string& path, const std::vector<std::string>& lost);
   /// True when the present configuration may go: nothing is unsaved, or the operator says so.
   bool MayLeave();
 
@@ -103,7 +112,6 @@ class MainWindow final : public QMainWindow {
   RecentFiles recent_;
   SafetyCopies copies_;
   UnsavedMark unsaved_;
-  TransferWatch transfer_;
   PortWatch ports_;
   TreePane* tree_;
   std::string shownNode_;  ///< key of the node in front
@@ -114,8 +122,6 @@ class MainWindow final : public QMainWindow {
   QToolBar* bar_ = nullptr;
   QAction *open_ = nullptr, *save_ = nullptr, *language_ = nullptr, *recentFiles_ = nullptr,
           *safetyCopies_ = nullptr, *compare_ = nullptr, *traceSwitch_ = nullptr;
-  TimerId lookTimer_ = 0;
-  int looks_ = 0;
   bool following_ = false;
   bool traceShown_ = false;
   bool isMissing_ = false;  ///< the node in front has no page in this build

@@ -24,6 +24,9 @@ PageArea::Sheet& PageArea::SheetOf(Form& form) {
   view->OnFormChanged = [this] {
     if (OnChanged) OnChanged();
   };
+  view->OnControlChanged = [this] {
+    if (OnControlChanged) OnControlChanged();
+  };
   addWidget(scroll);
   return sheets_.emplace(&form, Sheet{scroll, view}).first->second;
 }

@@ -27,6 +27,8 @@ class PageArea final : public QStackedWidget {
 
   /// Runs after the form in front, or what it shows of itself, has changed. Set by the window.
   std::function<void()> OnChanged;
+  /// Runs after a control of any form has changed. Set by the window.
+  std::function<void()> OnControlChanged;
 
  private:
   struct Sheet {

@@ -9,6 +9,7 @@
 #include <QVBoxLayout>
 
 #include "desktop/Icons.h"
+#include "desktop/MainWindow.h"
 #include "desktop/Words.h"
 
 namespace ostrel {
@@ -35,9 +36,14 @@ QStringList NameFilters(const QString& filter) {
   return filters;
 }
 
+QtDialogs::QtDialogs() = default;
+QtDialogs::~QtDialogs() = default;
+
+void QtDialogs::StandBefore(MainWindow& window) { window_ = &window; }
+
 QWidget* QtDialogs::Parent() const {
-  QWidget* modal = QApplication::activeModalWidget();
-  return modal ? modal : parent_();
+  if (QWidget* modal = QApplication::activeModalWidget()) return modal;
+  return window_ && window_->isVisible() ? window_.data() : nullptr;
 }
 
 BoxAnswer QtDialogs::ShowMessage(const MessageBox& box) {
@@ -78,10 +84,13 @@ std::optional<std::string> QtDialogs::ChooseFile(const FileQuestion& question) {
   return FromQt(path);
 }
 
+/// The form of the window asks by itself; it has a prompt of its own.
+std::string QtDialogs::AskCode(const std::string&) { return window_ ? window_->AskCode() : ""; }
+
 void QtDialogs::ShowModal(Form& form) {
   QDialog dialog(Parent());
   auto* layout = new QVBoxLayout(&dialog);
-  FormView* view = MakeView(form, context_(), &dialog);
+  FormView* view = MakeView(form, window_ ? window_->Context() : LayoutContext{}, &dialog);
   layout->addWidget(view);
   dialog.setWindowTitle(ToQt(form.Title()));
   form.Show();

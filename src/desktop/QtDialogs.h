@@ -1,25 +1,29 @@
 #pragma once
 
+#include <QPointer>
 #include <QString>
 #include <QStringList>
-#include <functional>
 
-#include "desktop/layouts/Layouts.h"
 #include "platform/Dialogs.h"
 
 class QWidget;
 
 namespace ostrel {
 
+class MainWindow;
+
 /// Asks the operator with boxes and dialogs of the window system.
 class QtDialogs final : public Dialogs {
  public:
-  /// `parent` gives the window to stand before, or null; `context` is that of modal forms.
-  QtDialogs(std::function<QWidget*()> parent, std::function<LayoutContext()> context)
-      : parent_(std::move(parent)), context_(std::move(context)) {}
+  QtDialogs();
+  ~QtDialogs() override;
+
+  /// From now on all stands before a window, once that is visible, and forms are drawn as there.
+  void StandBefore(MainWindow& window);
 
   BoxAnswer ShowMessage(const MessageBox& box) override;
   std::optional<std::string> ChooseFile(const FileQuestion& question) override;
+  std::string AskCode(const std::string& prompt) override;
   void ShowModal(Form& form) override;
   void Beep() override;
 
@@ -29,8 +33,7 @@ class QtDialogs final : public Dialogs {
  private:
   QWidget* Parent() const;
 
-  std::function<QWidget*()> parent_;
-  std::function<LayoutContext()> context_;
+  QPointer<MainWindow> window_;
 };
 
 /// The name filters of a file dialog, from description and pattern pairs joined by "|".

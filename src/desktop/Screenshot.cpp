@@ -85,10 +85,10 @@ std::string TakeScreenshot(const CommandLine& line, const std::string& langFile)
   Desktop desktop({.loop = loop,
                    .port = port,
                    .settings = settings,
+                   .dialogs = dialogs,
                    .files = files,
                    .processes = processes,
-                   .clock = clock,
-                   .dialogs = &dialogs},
+                   .clock = clock},
                   {.programFolder = {}, .langFile = kTable, .ticking = true}, {});
   desktop.Start(line.file.empty() ? "" : kConfiguration);
   const Configurator& core = desktop.Core();

@@ -48,17 +48,29 @@ void TreePane::SetNodes(const std::vector<TreeNode>& nodes) {
   const bool wasQuiet = std::exchange(quiet_, true);
   const QTreeWidgetItem* current = tree_->currentItem();
   const std::string key = current ? FromQt(current->data(0, kKeyRole).toString()) : "";
+  const std::set<QString> open = OpenKeys();
   tree_->clear();
   for (const TreeNode& node : nodes) {
     QTreeWidgetItem* parent = Find(node.parent);
     auto* item = parent ? new QTreeWidgetItem(parent) : new QTreeWidgetItem(tree_);
     item->setText(0, ToQt(node.text));
     item->setData(0, kKeyRole, ToQt(node.key));
-    item->setExpanded(node.expanded);
+    item->setExpanded(node.expanded || open.contains(ToQt(node.key)));
   }
   Filter(filter_->text());
   Select(key);
   quiet_ = wasQuiet;
+}
+
+/// Keys of the groups that are open, or will be when the filter is taken away.
+std::set<QString> TreePane::OpenKeys() const {
+  std::set<QString> keys;
+  for (QTreeWidgetItemIterator it(tree_); *it; ++it) {
+    const QVariant unfiltered = (*it)->data(0, kOpenRole);
+    if (unfiltered.isValid() ? unfiltered.toBool() : (*it)->isExpanded())
+      keys.insert((*it)->data(0, kKeyRole).toString());
+  }
+  return keys;
 }
 
 void TreePane::Select(std::string_view key) {

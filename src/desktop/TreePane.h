@@ -3,6 +3,7 @@
 #include <QTreeWidget>
 #include <QWidget>
 #include <functional>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -37,6 +38,7 @@ class TreePane final : public QWidget {
  private:
   void Filter(const QString& text);
   bool FilterItem(QTreeWidgetItem& item, const QString& text, bool parentMatches);
+  std::set<QString> OpenKeys() const;
   QTreeWidgetItem* Find(std::string_view key) const;
 
   QLineEdit* filter_;

@@ -3,12 +3,30 @@
 #include <algorithm>
 #include <utility>
 
-#include "link/WireText.h"
+#include "base/Scope.h"
+#include "link/Information.h"
+#include "link/LinkTimes.h"
+#include "link/LiveCommands.h"
+#include "link/Modem.h"
+#include "link/Opening.h"
+#include "platform/Clock.h"
 
 namespace ostrel {
+namespace {
+
+constexpr std::int32_t kLastSecondOfDay = 86'399;
+constexpr unsigned kAllDays = 0x7F;
+constexpr int kMaskBits = 16;
+
+}  // namespace
 
 Comms::Comms(const Platform& platform, const LinkRecords& records, LinkHooks hooks)
-    : platform_(platform), records_(records), hooks_(std::move(hooks)), MainTimer_(platform.loop) {
+    : platform_(platform),
+      records_(records),
+      hooks_(std::move(hooks)),
+      line_(platform.loop, platform.port),
+      download_(line_, progress_, {hooks_.clearPages, hooks_.loadPages, records.ComBusy}),
+      upload_(line_, progress_, records.info, hooks_.composed) {
   platform_.port.SetOnComm([this] {
     const bool changed = platform_.port.CommEvent() == kCommEventCarrier;
     if (changed && !platform_.port.CDHolding() && hooks_.carrierLost) hooks_.carrierLost();
@@ -17,74 +35,109 @@ Comms::Comms(const Platform& platform, const LinkRecords& records, LinkHooks hoo
 
 Comms::~Comms() {
   platform_.port.SetOnComm({});
-  if (opened_) platform_.port.SetPortOpen(false);
+  if (opened_) line_.Close();
 }
 
 void Comms::SetWire(std::vector<WireSection> sections, std::vector<WireBlock> blocks) {
-  sections_.clear();
-  // The first one of a key counts.
-  for (WireSection& section : sections)
-    sections_.try_emplace(std::string(section.key), std::move(section.read));
-  blocks_ = std::move(blocks);
+  download_.SetSections(std::move(sections));
+  upload_.SetBlocks(std::move(blocks));
 }
 
-Duration Comms::SilentFor() const {
-  if (!LinkBusy || !awaitedSince_) return Duration::zero();
-  return platform_.loop.Now() - *awaitedSince_;
+void Comms::ScanPorts() {
+  for (int number = kFirstPort; number <= kLastPort; ++number)
+    if (platform_.port.Probe(number) == PortFault::None && hooks_.portFound)
+      hooks_.portFound(PortName(number));
 }
 
-LinkFault Comms::FaultNow(LinkFault::Kind kind, int number, std::string text) const {
-  if (heldOut_) kind = LinkFault::Kind::LineHeld;
-  if (platform_.port.LineLost()) kind = LinkFault::Kind::LineLost;
-  if (!PortOpen()) kind = LinkFault::Kind::PortClosed;
-  return {kind, number, std::move(text)};
+LinkResult Comms::StartComs(std::int16_t port, const std::string& phone) {
+  const LinkResult result = Keep(Opening(line_, AccessCode, hooks_.showPWForm).Run(port, phone));
+  opened_ = result;
+  // A flag left behind by whatever ran before must not block the session.
+  if (result) LinkBusy = false;
+  return result;
 }
 
-LinkFault Comms::WaitFault(int number) const {
-  if (platform_.loop.Now() >= limit_) return FaultNow(LinkFault::Kind::OutOfTime, number);
-  return FaultNow(damaged_ ? LinkFault::Kind::BadChecksum : LinkFault::Kind::Silence, number);
+void Comms::CloseComs(bool modem) {
+  const Line::Dialogue dialogue(line_);
+  const AtEnd closed([this] { line_.Close(); });
+  if (modem && line_.GoesOn()) HangUp(line_);
+  if (line_.GoesOn()) line_.AwaitSent();
 }
 
-bool Comms::Fail(LinkFault::Kind kind, int number, std::string text) {
-  fault_ = FaultNow(kind, number, std::move(text));
+std::string Comms::GetField(int n) const { return std::string(FieldOfLine(RxLine, n)); }
+
+std::string Comms::GetField1(int n) const { return std::string(BracedFieldOfLine(RxLine, n)); }
+
+/// A dialogue that was turned away leaves the fault of the one that runs to that one.
+LinkResult Comms::Keep(LinkResult result) {
+  if (result.Fault().kind != LinkFault::Kind::Busy) fault_ = result.Fault();
+  return result;
+}
+
+LinkResult Comms::ReadConf() {
+  return Keep(line_.Converse(kAnyTime, [this] { return download_.Run(); }));
+}
+
+LinkResult Comms::WriteConf() {
+  return Keep(line_.Converse(kAnyTime, [this] { return upload_.Run(); }));
+}
+
+bool Comms::ReadInfo() {
+  const LinkResult result = line_.Converse(line_.TimeFor(kLinkAttempts), [this] {
+    return ReadInformation(line_, records_.info, hooks_.infoChanged);
+  });
+  if (result.Fault().kind != LinkFault::Kind::Busy) infoFault_ = result.Fault();
   return false;
 }
 
-bool Comms::FailWaiting(int number) {
-  fault_ = WaitFault(number);
-  return false;
+LinkResult Comms::ReadDeviceRTC() {
+  return line_.Converse(line_.TimeFor(kLinkAttempts),
+                        [this] { return ReadClock(line_, records_.live.DeviceClock); });
 }
 
-void Comms::Note(std::string_view what, std::string_view text) const {
-  if (!Trace) return;
-  constexpr std::size_t kStampWidth = 9;
-  std::string line = std::to_string(platform_.loop.Now() / std::chrono::milliseconds(1));
-  if (line.size() < kStampWidth) line.insert(0, kStampWidth - line.size(), ' ');
-  Trace(line.append(" ").append(what).append(MaskCode(text)));
+LinkResult Comms::WriteDeviceRTC() { return Set(ClockMessage(platform_.clock.LocalNow()), "#A3"); }
+
+LinkResult Comms::ReadTotalCount() {
+  return line_.Converse(line_.TimeFor(kLinkAttempts),
+                        [this] { return FetchTotals(line_, records_.totals); });
 }
 
-Comms::Limit::Limit(Comms& comms, Duration span)
-    : comms_(comms),
-      former_(
-          std::exchange(comms.limit_, std::min(comms.limit_, comms.platform_.loop.Now() + span))) {}
-
-Duration Comms::TimeFor(std::size_t messages) const {
-  constexpr int kAttempts = 3;
-  constexpr Duration kLongestHold = std::chrono::seconds(10);
-  return static_cast<int>(messages) * kAttempts * std::chrono::milliseconds(ReplyTimeout) +
-         kLongestHold;
+LinkResult Comms::ReadIOParameter() {
+  const auto requests = NameRequests(records_.live, records_.profile, records_.info);
+  return line_.Converse(line_.TimeFor(requests.size()), [&] { return FetchEach(line_, requests); });
 }
 
-Comms::Dialogue::Dialogue(Comms& comms)
-    : comms_(comms), wasBusy_(comms.LinkBusy), wasOpen_(comms.PortOpen()) {
-  comms.LinkBusy = true;
-  comms.heldOut_ = false;
-  comms.awaitedSince_ = comms.platform_.loop.Now();
+LinkResult Comms::ReadRealTime() {
+  const auto requests = ValueRequests(records_.live, records_.profile, records_.info);
+  return line_.Converse(line_.TimeFor(requests.size()), [&] { return FetchLive(line_, requests); });
 }
 
-Comms::Dialogue::~Dialogue() {
-  comms_.LinkBusy = wasBusy_;
-  comms_.heldOut_ = false;
+LinkResult Comms::SetOutput(std::int16_t mask) {
+  const int count = std::clamp<int>(records_.profile.OutputCount, 0, kMaskBits);
+  return line_.Converse(line_.TimeFor(static_cast<std::size_t>(count)), [&] {
+    return SwitchOutputs(line_, static_cast<std::uint16_t>(mask), count);
+  });
+}
+
+LinkResult Comms::SetSingleOutput(std::int16_t index, bool on) {
+  return line_.Converse(line_.TimeFor(1), [&] { return SwitchOutput(line_, index, on); });
+}
+
+LinkResult Comms::SetTotalCNT(std::int16_t index, std::int32_t value) {
+  return Set(TotalMessage("#41CNT", index, value), "#BE1");
+}
+
+LinkResult Comms::SetExpValue(std::int16_t index, std::int32_t value) {
+  return Set(TotalMessage("#41EXP", index, value), "#BE1");
+}
+
+LinkResult Comms::Set(std::string message, std::string_view answer) {
+  return Keep(
+      line_.Converse(line_.TimeFor(1), [&] { return Confirm(line_, std::move(message), answer); }));
+}
+
+bool CheckSiempre(std::int32_t start, std::int32_t stop, std::uint8_t days) {
+  return (days & kAllDays) == kAllDays && start == 0 && stop >= kLastSecondOfDay;
 }
 
 }  // namespace ostrel

@@ -1,10 +1,11 @@
 #pragma once
 
 #include <string>
+#include <utility>
 
 namespace ostrel {
 
-/// What went wrong in the last dialogue, in more words than its boolean result has.
+/// What went wrong in a dialogue, in more words than its boolean result has.
 struct LinkFault {
   enum class Kind {
     None,
@@ -22,6 +23,8 @@ struct LinkFault {
     IndexOutOfRange,  ///< `number` is the record, `text` the line
     Refused,          ///< `number` is the statement last sent, `text` its text
     NotTakenOver,     ///< wrong answer to a closing message or a setting; `text` is the answer
+    WrongAnswer,      ///< an answer to something else; `text` is the answer
+    Busy,             ///< another dialogue is running, and goes on
     OutOfTime,        ///< the dialogue came to no end in its time; `number` as for Silence
     LineHeld,         ///< flow control held the line for too long; `number` as for Silence
     LineLost,         ///< the port's device has gone
@@ -30,9 +33,23 @@ struct LinkFault {
   int number = 0;
   std::string text{};
 
+  bool Ok() const { return kind == Kind::None; }
   /// True when lines came and were not what they should be, or not all came: asking again may help
   /// at once. A logger that said nothing at all is not damage.
   bool IsDamage() const;
+};
+
+/// What a dialogue came to: true when it did what it is for; else its fault tells why it did not.
+class LinkResult {
+ public:
+  LinkResult() = default;
+  LinkResult(LinkFault fault) : fault_(std::move(fault)) {}
+
+  operator bool() const { return fault_.Ok(); }
+  const LinkFault& Fault() const { return fault_; }
+
+ private:
+  LinkFault fault_;
 };
 
 }  // namespace ostrel

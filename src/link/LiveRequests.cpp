@@ -71,6 +71,11 @@ std::string ModuleRange(int index) {
   return HexOctet(static_cast<std::uint8_t>(first)) + HexOctet(static_cast<std::uint8_t>(last));
 }
 
+std::vector<LiveRequest> Applying(std::vector<LiveRequest> requests) {
+  std::erase_if(requests, [](const LiveRequest& request) { return !request.applies; });
+  return requests;
+}
+
 }  // namespace
 
 LiveRequest TotalsRequest(TotalCounts& totals) {
@@ -100,7 +105,7 @@ std::vector<LiveRequest> NameRequests(RealTimeData& live, const TargetProfile& p
   add("#27", "#D8", true, NamesInto(live.FlowName, live.FlowUnit, {2, 2, kFlows}));
   add("#25", "#DA", true, NamesInto(live.AnalogName, live.AnalogUnit, {6, 6, kAnalogs}));
   add("#2A", "#D5", hasMath, NamesInto(live.MathName, live.MathUnit, {4, 4, profile.MathCount}));
-  return requests;
+  return Applying(std::move(requests));
 }
 
 std::vector<LiveRequest> ValueRequests(RealTimeData& live, const TargetProfile& profile,
@@ -110,7 +115,7 @@ std::vector<LiveRequest> ValueRequests(RealTimeData& live, const TargetProfile& 
   const auto modules = [&live](int first) {
     return FieldsInto(live.ModuloValue, kModulesAValue, first);
   };
-  return {
+  return Applying({
       {"#2F1D3D", "#D0", profile.IsS100, modules(0)},
       {"#2F7595", "#D0", profile.IsS100, modules(32)},
       {"#2F95B5", "#D0", profile.IsS100, modules(64)},
@@ -121,7 +126,7 @@ std::vector<LiveRequest> ValueRequests(RealTimeData& live, const TargetProfile& 
       {"#29", "#D6", hasMath, FieldsInto(live.MathValue, profile.MathCount)},
       {"#28", "#D7", hasMath, RawMathInto(live)},
       {"#36", "#C9", hasAux, FieldsInto(live.AuxValue, kAuxInputs)},
-  };
+  });
 }
 
 }  // namespace ostrel

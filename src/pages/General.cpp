@@ -1,5 +1,8 @@
 #include "pages/General.h"
 
+#include <exception>
+
+#include "base/Scope.h"
 #include "pages/PageBlock.h"
 
 namespace ostrel {
@@ -86,10 +89,14 @@ void General::ChangeIndex(std::int16_t) {
 void General::SearchPorts() {
   Button& search = session_.SearchBut;
   search.face.SetEnabled(false);
+  const AtEnd enabled([&] { search.face.SetEnabled(true); });
   session_.Puerto.Clear();
-  if (OnScanPorts) OnScanPorts();
+  try {
+    if (OnScanPorts) OnScanPorts();
+  } catch (const std::exception&) {
+    // What has been found until then is offered.
+  }
   session_.Puerto.SetPosition(0);
-  search.face.SetEnabled(true);
 }
 
 void General::Clear() {

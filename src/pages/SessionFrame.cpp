@@ -16,21 +16,20 @@ SessionFrame::SessionFrame(Form& form, EventLoop& loop)
       PBar(form, "PBar"),
       TimerComms(form, "TimerComms", loop, std::chrono::seconds(1)),
       form_(form) {
-  const auto request = [this](bool& flag) {
-    form_.SetMousePointer(Pointer::Hourglass);
-    flag = true;
-  };
   IniCom.OnClick = [this] { IniCom_Click(); };
-  Leer.OnClick = [this, request] { request(ReadRequest); };
-  Escribir.OnClick = [this, request] { request(WriteRequest); };
+  Leer.OnClick = [this] { Raise(ReadRequest); };
+  Escribir.OnClick = [this] { Raise(WriteRequest); };
   ModemCheck.OnClick = [this] { CallNum.face.SetEnabled(ModemCheck.Checked()); };
   CallNum.face.SetEnabled(false);
   EnableTransfers(false);
 }
 
-void SessionFrame::IniCom_Click() {
+void SessionFrame::IniCom_Click() { Raise(IniRequest); }
+
+void SessionFrame::Raise(bool& request) {
   form_.SetMousePointer(Pointer::Hourglass);
-  IniRequest = true;
+  request = true;
+  if (OnRequest) OnRequest();
 }
 
 void SessionFrame::EnableTransfers(bool enabled) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 #include "controls/Form.h"
 
 namespace ostrel {
@@ -14,6 +16,8 @@ class SessionFrame {
   void IniCom_Click();
   /// Sets `Leer` and `Escribir`.
   void EnableTransfers(bool enabled);
+  /// Runs after a request has been raised. Set by the shell.
+  std::function<void()> OnRequest;
   /// The port number that the selected text of `Puerto` names in its characters 4 to 6; 0 for none.
   std::int16_t SelectedPort() const;
 
@@ -30,6 +34,8 @@ class SessionFrame {
   Timer TimerComms;
 
  private:
+  void Raise(bool& request);
+
   Form& form_;
 };
 

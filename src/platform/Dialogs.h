@@ -36,6 +36,9 @@ class Dialogs {
   virtual BoxAnswer ShowMessage(const MessageBox& box) = 0;
   /// The chosen path, or nothing when the operator cancels.
   virtual std::optional<std::string> ChooseFile(const FileQuestion& question) = 0;
+  /// Asks for the access code of a logger; `prompt` is translated. Empty when the operator gives
+  /// none.
+  virtual std::string AskCode(const std::string& prompt) = 0;
   /// Shows a form until its logic closes it (`Form::Close`) or the operator dismisses it.
   virtual void ShowModal(Form& form) = 0;
   virtual void Beep() = 0;

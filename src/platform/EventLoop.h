@@ -27,6 +27,8 @@ class EventLoop {
 
   /// Calls `callback` each `interval`. A tick that falls due while the loop was held up is served
   /// once; missed ticks do not pile up. A tick may arrive inside a wait of an earlier tick.
+  /// Timers of one interval tick at the same time, so that they cost one waking: a new one joins
+  /// those that run, and its first tick may come early.
   virtual TimerId Every(Duration interval, std::string_view name, Callback callback) = 0;
 
   /// Stops a timer. An unknown or expired number is harmless.

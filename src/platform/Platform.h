@@ -19,6 +19,15 @@ struct Platform {
   Files& files;
   Processes& processes;
   Clock& clock;
+
+  /// The same world where others ask the operator.
+  Platform With(Dialogs& others) const {
+    return {loop, port, settings, others, files, processes, clock};
+  }
+  /// The same world with other ports.
+  Platform With(SerialPort& other) const {
+    return {loop, other, settings, dialogs, files, processes, clock};
+  }
 };
 
 }  // namespace ostrel

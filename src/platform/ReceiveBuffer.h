@@ -18,6 +18,8 @@ class ReceiveBuffer {
   /// Takes up to `most` octets, or all for 0.
   std::string Take(std::size_t most);
   std::size_t Count() const { return octets_.size() - taken_; }
+  /// How many octets it takes before one has to go.
+  std::size_t Room() const { return size_ - Count(); }
   /// Octets that had to go since the buffer was last cleared.
   std::uint64_t Lost() const { return lost_; }
   void Clear();

@@ -8,6 +8,7 @@
 #include "blocks/Orders.h"
 #include "platform/Dialogs.h"
 #include "shell/Configurator.h"
+#include "shell/ForeignKeys.h"
 #include "store/IniClass.h"
 
 namespace ostrel {
@@ -139,6 +140,10 @@ std::optional<FileResult> Configurator::AskAndSave() {
                                                   .overwritePrompt = true,
                                                   .suggested = ConfFilePath});
   if (!path) return {};
+  if (OnForeignKeys) {
+    const auto lost = ForeignKeys(platform_.files, *path, profile);
+    if (!lost.empty() && !OnForeignKeys(*path, lost)) return {};
+  }
   ConfFilePath = *path;
   return ConfFilePath.empty() ? FileResult{} : SaveConf();
 }

@@ -10,6 +10,7 @@
 #include "platform/Dialogs.h"
 #include "platform/EventLoop.h"
 #include "platform/Files.h"
+#include "shell/TransferBar.h"
 
 namespace ostrel {
 namespace {
@@ -52,6 +53,8 @@ Configurator::Configurator(const Platform& platform, ConfiguratorOptions options
       pages_(MakePages(context)),
       general(static_cast<General&>(*pages_.front())),
       comms(platform_, {profile, info, live, totals, ComBusy}, MakeHooks()),
+      bar_(comms.OnProgress(
+          [&bar = general.Session().PBar](const Progress& progress) { ShowOnBar(progress, bar); })),
       session(context, comms, general, Connected),
       actEdit(context),
       pwForm(context),
@@ -69,11 +72,9 @@ LinkHooks Configurator::MakeHooks() {
   return {
       .clearPages = [this] { ForEach(kClearAtDownload, &Page::Clear); },
       .loadPages = [this] { ForEach(kLoadAfterDownload, &Page::LoadData); },
-      .barMaximum = [&frame](int maximum) { frame.PBar.SetMaximum(maximum); },
-      .barValue = [&frame](int value) { frame.PBar.SetValue(value); },
       .composed = [this] { session.KeepSent(); },
       .infoChanged = [this](std::string_view key) { general.ShowInfo(key); },
-      .showPWForm = [this] { pwForm.ShowModal(comms.AccessCode); },
+      .showPWForm = [this] { AskCode(); },
       .carrierLost = [this] { ShowCarrierLost(); },
       .portFound = [&frame](std::string_view name) { frame.Puerto.Add(name); },
   };
@@ -93,6 +94,12 @@ void Configurator::RegisterWire() {
                           step.compose(conf, receiver, channel, out);
                       }});
   comms.SetWire(std::move(sections), std::move(blocks));
+}
+
+void Configurator::AskCode() {
+  std::string code = platform_.dialogs.AskCode(context.Translate("Introduzca la clave de acceso:"));
+  session.CodeAsked(!code.empty());
+  if (code.empty() || CheckCode(context, code)) comms.AccessCode = std::move(code);
 }
 
 void Configurator::ShowCarrierLost() {
@@ -190,7 +197,7 @@ void Configurator::ShutDown() {
 }
 
 void Configurator::AskLanguage() {
-  langForm.AskUser();
+  if (!langForm.AskUser()) return;
   keepsStoredLanguage_ = false;
   LoadText();
 }

@@ -74,9 +74,12 @@ class Configurator {
   RestoreResult OpenFile(const std::string& path);
   /// The tool bar's "Abrir": asks for a path; false when the operator cancels.
   bool AskAndOpen();
-  /// The tool bar's "Guardar": asks for a path. Nothing when the operator cancels, else what
-  /// writing came to, for those who show it.
+  /// The tool bar's "Guardar": asks for a path. Nothing when the operator cancels, or declines to
+  /// lose what only the file holds; else what writing came to, for those who show it.
   std::optional<FileResult> AskAndSave();
+  /// Asks whether a file may be saved over that holds what this program does not write. True when
+  /// nothing of it would be lost. Set by a face; without one nobody is asked.
+  std::function<bool(const std::string& path, const std::vector<std::string>& lost)> OnForeignKeys;
 
   // Language.
   /// The tool bar's "Idioma": asks, then shows every caption in the language chosen.
@@ -113,6 +116,7 @@ class Configurator {
   void RegisterWire();
   void LoadForms();
   void ShowCarrierLost();
+  void AskCode();
 
   Platform platform_;
   ConfiguratorOptions options_;
@@ -126,6 +130,11 @@ class Configurator {
  public:
   General& general;
   Comms comms;
+
+ private:
+  ProgressFeed::Subscription bar_;  ///< of the general page
+
+ public:
   SessionDriver session;
   ActEdit actEdit;
   PWForm pwForm;

@@ -12,16 +12,19 @@ LangForm::LangForm(PageContext& context)
   form_.SetTitle("Select Language");
   CommandOk.OnClick = [this] {
     context_.lang.SetSelectedLang(static_cast<std::int16_t>(ComboLang.Position() + 1));
+    accepted_ = true;
     form_.Hide();
   };
   CommandCancel.OnClick = [this] { form_.Hide(); };
 }
 
-void LangForm::AskUser() {
+bool LangForm::AskUser() {
+  accepted_ = false;
   ComboLang.Clear();
   for (const std::string& name : context_.lang.OfferedNames()) ComboLang.Add(name);
   ComboLang.SetPosition(0);
   context_.ShowModal(form_);
+  return accepted_;
 }
 
 }  // namespace ostrel

@@ -1,5 +1,6 @@
 #include "shell/Navigation.h"
 
+#include <algorithm>
 #include <array>
 
 #include "shell/Configurator.h"
@@ -8,14 +9,6 @@ namespace ostrel {
 namespace {
 
 constexpr std::string_view kTargetSelect = "TargetSelect";
-
-/// The pages that a click hides, in order. Those of single MODBUS channels, of expansion inputs and
-/// of one test stay open: the page shown next covers them.
-constexpr std::array<std::string_view, 25> kHidden{
-    "E_Analog", "E_Math",      "Caudal",     "E_Digital",   "CTimer",       "WTimer",  "MTimer",
-    "LTimer",   "General",     "Grupos",     "Macros",      "T_Real_Tavro", "Firm",    "Terminal",
-    "GPRS",     "Flags",       "Katodex",    "E_Aux",       "Test",         "TestKA2", "E_OneWire",
-    "Aut_Voz",  "CONF_MODBUS", "SampleRate", "TargetSelect"};
 
 /// Keys that stand for one page as they are.
 struct PlainRow {
@@ -107,35 +100,42 @@ std::optional<NodeTarget> FindNodeTarget(std::string_view key, const TargetProfi
   return FindByModel(key, model);
 }
 
+Navigation::Navigation(Configurator& configurator, std::span<const std::string_view> staysOpen)
+    : configurator_(configurator), staysOpen_(staysOpen) {
+  configurator_.OnTargetChanged = [this] {
+    if (OnTargetChanged) OnTargetChanged();
+    if (isActive_) Activate();
+  };
+}
+
+Navigation::~Navigation() { configurator_.OnTargetChanged = nullptr; }
+
 NodeResult Navigation::NodeClick(std::string_view key) {
-  HideAll();
+  Hide();
+  const NodeResult result = Open(key);
+  Settle();
+  return result;
+}
+
+NodeResult Navigation::Open(std::string_view key) {
   const auto target = FindNodeTarget(key, configurator_.profile, configurator_.Universal);
   if (!target) return NodeResult::Nothing;
   if (!FormNamed(target->page)) return NodeResult::NotBuilt;
   if (Page* page = configurator_.PageNamed(target->page); page && target->index)
     page->ChangeIndex(*target->index);
-  ShowForm(target->page);
+  Show(target->page);
   return NodeResult::Shown;
 }
 
 void Navigation::HideAll() {
-  Deactivate();
-  for (const std::string_view name : kHidden)
-    if (Form* form = FormNamed(name)) form->Hide();
-  if (OnFrontChanged) OnFrontChanged();
+  Hide();
+  Settle();
 }
 
 bool Navigation::ShowForm(std::string_view name) {
-  Form* form = FormNamed(name);
-  if (!form) return false;
-  if (front_ != name) Deactivate();
-  front_ = name;
-  form->Show();
-  if (Page* page = FrontPage())
-    page->Form_Activate();
-  else
-    configurator_.targetSelect.Form_Activate();
-  if (OnFrontChanged) OnFrontChanged();
+  if (!FormNamed(name)) return false;
+  Show(name);
+  Settle();
   return true;
 }
 
@@ -144,9 +144,11 @@ void Navigation::CommitFront() {
   if (page && !configurator_.ComBusy) page->SavePage();
 }
 
-Form* Navigation::Front() const { return FormNamed(front_); }
+Form* Navigation::Front() const { return open_.empty() ? nullptr : FormNamed(open_.back()); }
 
-Page* Navigation::FrontPage() const { return configurator_.PageNamed(front_); }
+Page* Navigation::FrontPage() const {
+  return open_.empty() ? nullptr : configurator_.PageNamed(open_.back());
+}
 
 Form* Navigation::FormNamed(std::string_view name) const {
   if (name == kTargetSelect) return &configurator_.targetSelect.GetForm();
@@ -154,10 +156,47 @@ Form* Navigation::FormNamed(std::string_view name) const {
   return page ? &page->GetForm() : nullptr;
 }
 
+bool Navigation::StaysOpen(std::string_view name) const {
+  return std::ranges::find(staysOpen_, name) != staysOpen_.end();
+}
+
+/// Hides what does not stay open. A page that stays keeps the front if it has it.
+void Navigation::Hide() {
+  if (!open_.empty() && !StaysOpen(open_.back())) Deactivate();
+  std::erase_if(open_, [this](const std::string& name) {
+    if (StaysOpen(name)) return false;
+    FormNamed(name)->Hide();
+    return true;
+  });
+}
+
+/// Puts a form above all others, without activating it.
+void Navigation::Show(std::string_view name) {
+  if (!open_.empty() && open_.back() != name) Deactivate();
+  std::erase(open_, name);
+  open_.emplace_back(name);
+  FormNamed(name)->Show();
+}
+
+/// Activates what has come to the front.
+void Navigation::Settle() {
+  if (!open_.empty() && !isActive_) Activate();
+  if (OnFrontChanged) OnFrontChanged();
+}
+
+void Navigation::Activate() {
+  isActive_ = true;
+  if (Page* page = FrontPage())
+    page->Form_Activate();
+  else
+    configurator_.targetSelect.Form_Activate();
+}
+
 /// Takes the front from the form that has it, which stays shown until it is hidden.
 void Navigation::Deactivate() {
+  if (!isActive_) return;
+  isActive_ = false;
   if (Page* page = FrontPage()) page->Form_Deactivate();
-  front_.clear();
 }
 
 }  // namespace ostrel

@@ -13,11 +13,7 @@ PWForm::PWForm(PageContext& context)
 
 void PWForm::ShowModal(std::string& AccessCode) {
   Aceptar.OnClick = [this, &AccessCode] {
-    if (!IsFloatText(PWText.Text())) {
-      context_.ShowMessage(context_.Translate("La clave de acceso debe ser un numero"),
-                           BoxIcon::Exclamation);
-      return;
-    }
+    if (!CheckCode(context_, PWText.Text())) return;
     AccessCode = PWText.Text();
     form_.Close();
   };
@@ -30,6 +26,13 @@ void PWForm::ShowModal(std::string& AccessCode) {
   context_.platform.dialogs.Beep();
   context_.ShowModal(form_);
   Aceptar.OnClick = Cancelar.OnClick = nullptr;
+}
+
+bool CheckCode(const PageContext& context, std::string_view code) {
+  if (IsFloatText(code)) return true;
+  context.ShowMessage(context.Translate("La clave de acceso debe ser un numero"),
+                      BoxIcon::Exclamation);
+  return false;
 }
 
 }  // namespace ostrel

@@ -1,13 +1,14 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "controls/Form.h"
 #include "pages/PageContext.h"
 
 namespace ostrel {
 
-/// Asks for the access code of a logger behind a modem.
+/// Asks for the access code of a logger behind a modem, where the face draws forms.
 class PWForm {
  public:
   explicit PWForm(PageContext& context);
@@ -24,5 +25,8 @@ class PWForm {
   TextBox PWText;
   Button Aceptar, Cancelar;
 };
+
+/// Whether a text can be an access code, which is a number. Says so in a box when it cannot.
+bool CheckCode(const PageContext& context, std::string_view code);
 
 }  // namespace ostrel

@@ -15,10 +15,10 @@ void RemainingTime::Start(TimePoint now, int steps) {
   done_ = 0;
 }
 
-void RemainingTime::Step(TimePoint now, int step) {
-  if (step == 0 || step < done_) start_ = now;
-  done_ = step;
-  steps_ = std::max(steps_, step);
+void RemainingTime::Step(TimePoint now, int done) {
+  if (done <= 1 || done < done_) start_ = now;
+  done_ = done;
+  steps_ = std::max(steps_, done);
   lastStep_ = now;
 }
 

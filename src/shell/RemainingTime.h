@@ -12,8 +12,8 @@ class RemainingTime {
  public:
   /// A transfer of about `steps` steps begins.
   void Start(TimePoint now, int steps);
-  /// The transfer has come to a step. One that goes back is a new attempt, timed anew.
-  void Step(TimePoint now, int step);
+  /// So many steps are done. A number that goes back is a new attempt, timed anew.
+  void Step(TimePoint now, int done);
   /// What is left, or nothing as long as no speed is known.
   std::optional<Duration> Left(TimePoint now) const;
   int Steps() const { return steps_; }

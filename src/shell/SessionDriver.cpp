@@ -1,6 +1,7 @@
 #include "shell/SessionDriver.h"
 
 #include <cstdlib>
+#include <utility>
 
 #include "base/Scope.h"
 #include "platform/Clock.h"
@@ -13,13 +14,42 @@ constexpr std::int64_t kToleratedClockSeconds = 10 * 60;
 
 }  // namespace
 
+class SessionDriver::Working {
+ public:
+  Working(SessionDriver& driver, SessionPhase phase) : driver_(driver), phase_(phase) {
+    driver_.brokenOff_ = false;
+    driver_.SetState({phase});
+  }
+  ~Working() {
+    SessionState after{driver_.Connected_ ? SessionPhase::Open : SessionPhase::Closed};
+    if (!done_) after.failed = driver_.FaultDuring(phase_);
+    driver_.SetState(std::move(after));
+  }
+  Working(const Working&) = delete;
+  Working& operator=(const Working&) = delete;
+
+  /// The work has succeeded, or not.
+  void Ended(bool done) { done_ = done; }
+
+ private:
+  SessionDriver& driver_;
+  SessionPhase phase_;
+  bool done_ = false;
+};
+
 SessionDriver::SessionDriver(PageContext& context, Comms& comms, General& general, bool& Connected)
     : context_(context),
       comms_(comms),
       general_(general),
       session_(general.Session()),
-      Connected_(Connected) {
-  session_.TimerComms.OnTimer = [this] { Tick(); };
+      Connected_(Connected),
+      watch_(context.platform.loop, context.platform.settings),
+      progress_(comms.OnProgress([this](const Progress& progress) { watch_.Follow(progress); })) {
+  session_.TimerComms.OnTimer = [this] {
+    Tick();
+    if (OnTick) OnTick();
+  };
+  session_.OnRequest = [this] { SetState(state_); };
 }
 
 void SessionDriver::Tick() {
@@ -28,14 +58,16 @@ void SessionDriver::Tick() {
   if (session_.IniRequest && !Connected_) comms_.LinkBusy = false;
   if (!comms_.LinkBusy && session_.IniRequest) OpenOrClose();
   if (!Connected_ || !general_.PageActive) return;
-  if (session_.WriteRequest) {
-    const AtEnd served([this] { session_.WriteRequest = false; });
-    Upload();
-  }
-  if (session_.ReadRequest) {
-    const AtEnd served([this] { session_.ReadRequest = false; });
-    Download();
-  }
+  const auto serve = [this](bool& request, bool (SessionDriver::*transfer)()) {
+    if (!request) return;
+    const AtEnd served([&] {
+      request = false;
+      SetState(state_);
+    });
+    (this->*transfer)();
+  };
+  serve(session_.WriteRequest, &SessionDriver::Upload);
+  serve(session_.ReadRequest, &SessionDriver::Download);
   comms_.ReadInfo();
 }
 
@@ -56,6 +88,8 @@ void SessionDriver::OpenOrClose() {
 
 bool SessionDriver::Open(std::int16_t port, const std::string& phone) {
   port_ = port;
+  code_ = CodeAnswer::NotAsked;
+  Working opening(*this, SessionPhase::Opening);
   session_.ComStat.face.SetCaption(
       "", context_.Translate("Detectando ") + context_.profile.TargetName + "...");
   Connected_ = comms_.StartComs(port, phone);
@@ -63,7 +97,17 @@ bool SessionDriver::Open(std::int16_t port, const std::string& phone) {
   // Whoever breaks the opening off closes the port.
   Connected_ = comms_.PortOpen();
   ShowState();
+  opening.Ended(Connected_);
   return Connected_;
+}
+
+void SessionDriver::BreakOff() {
+  brokenOff_ = true;
+  comms_.Abort();
+  if (state_.phase != SessionPhase::Open) return;  // what is under way ends by itself now
+  Connected_ = false;
+  ShowState();
+  SetState({SessionPhase::Closed});
 }
 
 bool SessionDriver::CompleteInfo() {
@@ -73,9 +117,11 @@ bool SessionDriver::CompleteInfo() {
 }
 
 void SessionDriver::Close(bool modem) {
+  Working closing(*this, SessionPhase::Closing);
   comms_.CloseComs(modem);
   Connected_ = false;
   ShowState();
+  closing.Ended(true);
 }
 
 void SessionDriver::ReadAfterConnect() {
@@ -107,42 +153,80 @@ void SessionDriver::ShowState() {
 }
 
 bool SessionDriver::Upload() {
-  return Transfer(TransferKind::Writing, "Escribiendo configuracion...",
+  return Transfer(SessionPhase::Writing, "Escribiendo configuracion...",
                   "Configuracion escrita con exito");
 }
 
 bool SessionDriver::Download() {
-  return Transfer(TransferKind::Reading, "Descargando configuracion...",
+  return Transfer(SessionPhase::Reading, "Descargando configuracion...",
                   "Configuracion descargada con exito");
 }
 
-bool SessionDriver::Transfer(TransferKind kind, std::string_view status, std::string_view success) {
-  TransferEnd end{kind, false, {}};
+bool SessionDriver::Transfer(SessionPhase kind, std::string_view status, std::string_view success) {
+  TransferEnd end{.kind = kind};
   {
-    const Lent running(running_, kind);
+    Working working(*this, kind);
     Form& form = general_.GetForm();
     form.SetMousePointer(Pointer::Hourglass);
     form.SetEnabled(false);
     session_.EnableTransfers(false);
     const AtEnd ended([&] {
-      session_.EnableTransfers(true);
+      session_.EnableTransfers(Connected_);
       form.SetEnabled(true);
       form.SetMousePointer(Pointer::Default);
+      watch_.End();
     });
     SetStatus(status);
     // Goes on without, too: a logger that never ends its information may still give the rest.
     CompleteInfo();
-    const bool reads = kind == TransferKind::Reading;
+    BeginWatch(kind);
+    const bool reads = kind == SessionPhase::Reading;
     end.done = reads ? comms_.ReadConf() : comms_.WriteConf();
     end.held = reads ? context_.conf : std::move(sent_);
     SetStatus(end.done ? success : "Error!");
+    if (brokenOff_) {
+      Connected_ = false;
+      ShowState();
+    }
+    working.Ended(end.done);
   }
   if (OnTransferEnded) OnTransferEnded(end);
   return end.done;
 }
 
+void SessionDriver::BeginWatch(SessionPhase kind) {
+  if (kind == SessionPhase::Reading)
+    watch_.BeginReading(context_.profile.TargetType);
+  else
+    watch_.BeginWriting(static_cast<int>(comms_.ComposeStatements().size()));
+}
+
+bool SessionDriver::OwnsModel() const {
+  return IsTransfer(state_.phase) || (HasRequest() && Connected_ && general_.PageActive);
+}
+
+bool SessionDriver::RequestWaits() const { return HasRequest() && !OwnsModel(); }
+
+SessionFault SessionDriver::FaultDuring(SessionPhase phase) const {
+  return {.during = phase,
+          .link = comms_.Fault(),
+          .brokenOff = brokenOff_,
+          .allSent = phase == SessionPhase::Writing && watch_.ReachedEnd(),
+          .code = phase == SessionPhase::Opening ? code_ : CodeAnswer::NotAsked};
+}
+
+void SessionDriver::CodeAsked(bool given) {
+  if (given) code_ = CodeAnswer::Given;
+  if (code_ == CodeAnswer::NotAsked) code_ = CodeAnswer::NotGiven;
+}
+
 void SessionDriver::SetStatus(std::string_view key) {
   session_.ComStat.face.SetCaption(key, context_.Translate(key));
+}
+
+void SessionDriver::SetState(SessionState state) {
+  state_ = std::move(state);
+  if (OnStateChanged) OnStateChanged();
 }
 
 }  // namespace ostrel

@@ -45,5 +45,7 @@ struct Alarm {
 };
 
 using AlarmRow = std::array<Alarm, kAlarms>;
+/// The row of a kind of channel that has one alarm.
+using SingleAlarm = std::array<Alarm, 1>;
 
 }  // namespace ostrel::sim

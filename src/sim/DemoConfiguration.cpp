@@ -31,22 +31,6 @@ Configuration DemoConfiguration(Model model) {
   for (const Block* block : Blocks()) {
     if (block->stands(self)) block->demonstrate(demo);
   }
-  // What is kept as text.
-  const ModelTraits& traits = self.Traits();
-  demo.SayEach({"FLOWCONF?=Caudal entrada,UNIT=m\xB3/h,TB= 60,REGDAYMIN,RATIO=0.1",
-                "FLOWCONF?=Caudal salida,UNIT=m\xB3/h,TB= 60,REGDAYMIN,RATIO=0.1",
-                "FLOWCONF?=Riego parque,UNIT=l/min,TB= 30,REGDAYMIN,RATIO=1"},
-               traits.flows);
-  demo.SayEach({"MCCONF?=Balance,UNIT=m\xB3/h,EQ=Q0-Q1"}, traits.maths);
-  demo.SayEach({"MBCONF?=Energ\xED"
-                "a bomba 1,UNIT=kWh",
-                "MBCONF?=Energ\xED"
-                "a bomba 2,UNIT=kWh",
-                "MBCONF?=Tensi\xF3n L1,UNIT=V"},
-               traits.modbus);
-  demo.SayEach({"EXPINPUTDCONF?=Puerta caseta", "EXPINPUTCCONF?=Contador barrio alto",
-                "EXPINPUTACONF?=Nivel pozo 3,UNIT=m"},
-               traits.modules);
   return conf;
 }
 

@@ -7,7 +7,7 @@
 namespace ostrel::sim {
 namespace {
 
-struct Row {
+struct FaultRow {
   FaultKind kind;
   std::string_view name;
   bool needsNumber;
@@ -18,7 +18,7 @@ struct Row {
 
 constexpr int kNeedsTime = 0;
 
-constexpr Row kRows[] = {
+constexpr FaultRow kFaultRows[] = {
     {FaultKind::DropOctet, "drop-octet", true, 1, -1, "loses each N-th octet that it sends"},
     {FaultKind::FlipBit, "flip-bit", true, 1, -1, "turns over one bit of each N-th octet"},
     {FaultKind::Duplicate, "duplicate", true, 1, -1, "sends each N-th frame twice"},
@@ -37,9 +37,17 @@ constexpr Row kRows[] = {
      "refuses statement N in two parts, ms apart"},
     {FaultKind::WrongClosing, "wrong-closing", false, 1, -1,
      "denies each N-th closing of an upload, or any"},
+    {FaultKind::RefuseCommand, "refuse-command", false, 1, -1,
+     "denies each N-th total or voice list order, or any"},
+    {FaultKind::SilentAfterNumber, "silent-after-number", true, 1, -1,
+     "ends the voice list behind its N-th number"},
+    {FaultKind::WrongSum, "wrong-sum", false, 1, -1,
+     "tells each N-th check sum of the voice list wrong, or any"},
 };
 
-const Row& RowOf(FaultKind kind) { return *std::ranges::find(kRows, kind, &Row::kind); }
+const FaultRow& RowOf(FaultKind kind) {
+  return *std::ranges::find(kFaultRows, kind, &FaultRow::kind);
+}
 
 /// Takes digits off the head of a text; nothing when there are none or far too many.
 std::optional<int> TakeNumber(std::string_view& text) {
@@ -56,7 +64,7 @@ bool TakeChar(std::string_view& text, char c) {
   return true;
 }
 
-std::string ReadNumbers(std::string_view& text, const Row& row, Fault& fault) {
+std::string ReadNumbers(std::string_view& text, const FaultRow& row, Fault& fault) {
   const auto first = TakeNumber(text);
   if (!first) return "a number belongs behind \"@\"";
   fault.first = fault.last = *first;
@@ -69,7 +77,7 @@ std::string ReadNumbers(std::string_view& text, const Row& row, Fault& fault) {
   return {};
 }
 
-std::string ReadDetails(std::string_view text, const Row& row, Fault& fault) {
+std::string ReadDetails(std::string_view text, const FaultRow& row, Fault& fault) {
   fault.first = fault.last = std::max(1, row.least);
   const bool numbered = TakeChar(text, '@');
   if (numbered) {
@@ -95,8 +103,8 @@ std::string ReadDetails(std::string_view text, const Row& row, Fault& fault) {
 std::optional<Fault> ParseFault(std::string_view text, std::string& error) {
   error.clear();
   const std::string_view name = text.substr(0, text.find_first_of("@:!"));
-  const auto* row = std::ranges::find(kRows, name, &Row::name);
-  if (row == std::ranges::end(kRows)) {
+  const auto* row = std::ranges::find(kFaultRows, name, &FaultRow::name);
+  if (row == std::ranges::end(kFaultRows)) {
     error = "no fault is called \"" + std::string(name) + "\"";
     return std::nullopt;
   }
@@ -108,7 +116,7 @@ std::optional<Fault> ParseFault(std::string_view text, std::string& error) {
 }
 
 std::string FaultText(const Fault& fault) {
-  const Row& row = RowOf(fault.kind);
+  const FaultRow& row = RowOf(fault.kind);
   std::string text(row.name);
   text += '@' + std::to_string(fault.first);
   if (fault.last > fault.first) text += '-' + std::to_string(fault.last);
@@ -119,7 +127,7 @@ std::string FaultText(const Fault& fault) {
 
 std::string FaultHelp() {
   std::string help;
-  for (const Row& row : kRows) {
+  for (const FaultRow& row : kFaultRows) {
     std::string usage(row.name);
     usage += row.needsNumber ? "@N" : "[@N]";
     if (row.milliseconds >= 0) usage += row.milliseconds == kNeedsTime ? ":ms" : "[:ms]";
@@ -127,10 +135,9 @@ std::string FaultHelp() {
     help.append(usage).append(row.help).append("\n");
   }
   return help +
-         "Octets, frames, requests and closings count from 1, records and statements by the "
-         "number\n"
-         "that they carry, from 0. N may be a range such as 10-90: the seed then picks. A switch\n"
-         "acts each time; with !once behind it, a single time.\n";
+         "Records and statements count by the number that they carry, from 0, all else from 1. N\n"
+         "may be a range such as 10-90: the seed then picks. A switch acts each time; with !once\n"
+         "behind it, a single time.\n";
 }
 
 FaultPlan::FaultPlan(const Faults& faults, std::uint64_t seed) : random_(seed) {

@@ -24,7 +24,10 @@ enum class FaultKind {
   SilentAfterStatement,
   RefuseStatement,
   TornRefusal,
-  WrongClosing
+  WrongClosing,
+  RefuseCommand,
+  SilentAfterNumber,
+  WrongSum
 };
 
 /// One fault switch. Where `last` is above `first`, each strike draws its number between the two.

@@ -8,10 +8,7 @@
 namespace ostrel::sim {
 namespace {
 
-constexpr int kFlowNames = 9;
-constexpr int kAnalogBlocks = 4;
 constexpr int kMathRaws = 8;
-constexpr int kAuxInputs = 4;
 
 /// Registers of the expansion inputs: 32 from 29 on, the further 64 from 117 on.
 int InputOfRegister(int reg) {
@@ -49,14 +46,14 @@ class Answers {
     return text_;
   }
   std::string Flows() {
-    for (int i = 0; i < kFlowNames; ++i) Add(live_.Flow(i, now_));
+    for (int i = 0; i < kFlows; ++i) Add(live_.Flow(i, now_));
     return text_;
   }
   std::string MasksAndAnalogs() {
     Add(live_.DigitalMask(now_));
     Add(outputs_);
     Add(live_.FlagMask(now_));
-    for (int i = 0; i < kAnalogBlocks; ++i) Add(live_.Analog(conf_, i, now_));
+    for (int i = 0; i < kAnalogs; ++i) Add(live_.Analog(conf_, i, now_));
     return text_;
   }
   std::string AnalogNames() {
@@ -71,11 +68,11 @@ class Answers {
     return text_;
   }
   std::string CounterNames() {
-    for (int i = 0; i < kCounters; ++i) Add(Named("FLOWCONF", i).name);
+    for (const FlowMeter& meter : conf_.flows) Add(meter.name);
     return text_;
   }
   std::string FlowNames() {
-    for (int i = 0; i < kFlowNames; ++i) AddNamed("FLOWCONF", i);
+    for (const FlowMeter& meter : conf_.flows) AddNames(meter);
     return text_;
   }
   std::string MathRaws() {
@@ -86,21 +83,21 @@ class Answers {
     for (int i = 0; i < self_.Traits().maths; ++i) Add(live_.Math(i, now_));
     return text_;
   }
-  std::string MathNames() { return Blocks("MCCONF", self_.Traits().maths); }
-  std::string ModbusNames() { return Blocks("MBCONF", self_.Traits().modbus); }
+  std::string MathNames() { return Channels(conf_.maths); }
+  std::string ModbusNames() { return Channels(conf_.modbus); }
   std::string ModbusValues() {
     for (int i = 0; i < self_.Traits().modbus; ++i) Add(live_.Modbus(i, now_));
     return text_;
   }
-  std::string AuxNames() { return Blocks("AUXCONF", kAuxInputs); }
+  std::string AuxNames() { return Channels(conf_.auxiliaries); }
   std::string AuxValues() {
-    for (int i = 0; i < kAuxInputs; ++i) Add(live_.Aux(i, now_));
+    for (int i = 0; i < kAuxiliaries; ++i) Add(live_.Aux(i, now_));
     return text_;
   }
   std::optional<std::string> ModuleNames(std::string_view range) {
     const int first = FirstInput(range, 7, 8);
     if (first < 0) return std::nullopt;
-    for (int i = first; i < first + 8; ++i) AddNamed("EXPINPUT", i);
+    for (int i = first; i < first + 8; ++i) AddNames(conf_.expansion[static_cast<std::size_t>(i)]);
     return text_;
   }
   std::optional<std::string> ModuleValues(std::string_view range) {
@@ -117,20 +114,19 @@ class Answers {
     text_ += ',';
     AppendNumber(text_, value);
   }
-  NameAndUnit Named(std::string_view slot, int index) const {
-    return NameOfKept(conf_, std::string(slot) + std::to_string(index));
+  template <class Channel>
+  void AddNames(const Channel& channel) {
+    Add(channel.name);
+    Add(channel.unit);
   }
-  void AddNamed(std::string_view slot, int index) {
-    const NameAndUnit named = Named(slot, index);
-    Add(named.name);
-    Add(named.unit);
-  }
-  /// Per channel its number and whether it is set up, then name and unit.
-  std::string Blocks(std::string_view slot, int count) {
-    for (int i = 0; i < count; ++i) {
-      Add(i);
-      Add(Named(slot, i).name.empty() ? 0 : 1);
-      AddNamed(slot, i);
+  /// Per channel its number and whether it has a name, then name and unit.
+  template <class AnyChannels>
+  std::string Channels(const AnyChannels& channels) {
+    int number = 0;
+    for (const auto& channel : channels) {
+      Add(number++);
+      Add(channel.name.empty() ? 0 : 1);
+      AddNames(channel);
     }
     return text_;
   }

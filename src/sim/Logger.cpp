@@ -1,12 +1,10 @@
 #include "sim/Logger.h"
 
 #include <algorithm>
-#include <limits>
 #include <utility>
 
 #include "sim/LineComposer.h"
 #include "sim/NumberText.h"
-#include "sim/StatementCursor.h"
 
 namespace ostrel::sim {
 
@@ -22,11 +20,12 @@ LoggerOptions MakeDefaultOptions(Model model) {
 
 const Logger::Command Logger::kCommands[] = {
     {"#11", &Logger::AnswerAccessCode},  {"#40", &Logger::AnswerHandshake},
-    {"#41", &Logger::AnswerSetTotal},    {"#42", &Logger::AnswerDownload},
+    {"#41", &Logger::AnswerOrder},       {"#42", &Logger::AnswerDownload},
     {"#44", &Logger::AnswerInformation}, {"#45", &Logger::AnswerStatement},
     {"#46", &Logger::AnswerClosing},     {"#47", &Logger::AnswerOutputOn},
-    {"#48", &Logger::AnswerOutputOff},   {"#5C", &Logger::AnswerSetClock},
-    {"#5D", &Logger::AnswerReadClock},
+    {"#48", &Logger::AnswerOutputOff},   {"#4E", &Logger::AnswerVoiceSum},
+    {"#4F", &Logger::AnswerVoiceList},   {"#5C", &Logger::AnswerSetClock},
+    {"#5D", &Logger::AnswerReadClock},   {"#FA", &Logger::AnswerProbeIdentity},
 };
 
 Logger::Logger(EventLoop& loop, LineEnd& line, LoggerOptions options)
@@ -233,29 +232,6 @@ bool Logger::AnswerClosing(std::string_view rest) {
     exchange_.note = upload_.Why();
     Reply("#B90");
   }
-  return true;
-}
-
-bool Logger::AnswerSetTotal(std::string_view rest) {
-  StatementCursor in(rest);
-  const bool counter = in.Has("CNT");
-  if (!counter && !in.Has("EXP")) return false;
-  const ModelTraits& traits = Self().Traits();
-  const int index = in.Plain(0, (counter ? traits.flows : traits.modules) - 1);
-  in.Expect("=");
-  const bool negative = in.Has("-");
-  const int value = in.Plain(0, std::numeric_limits<std::int32_t>::max());
-  in.End();
-  exchange_.note = in.Why();
-  if (in.Failed()) {
-    Reply("#BE0");
-    return true;
-  }
-  if (counter)
-    live_.SetCounter(index, negative ? -value : value, Seconds());
-  else
-    live_.SetModule(index, negative ? -value : value, Seconds());
-  Reply("#BE1");
   return true;
 }
 

@@ -16,6 +16,7 @@
 #include "sim/LiveValues.h"
 #include "sim/LoggerOptions.h"
 #include "sim/Sender.h"
+#include "sim/StatementCursor.h"
 #include "sim/Upload.h"
 
 namespace ostrel::sim {
@@ -76,6 +77,12 @@ class Logger final : public LineDevice {
     bool (Logger::*answer)(std::string_view rest);
   };
   static const Command kCommands[];
+  struct Order {
+    std::string_view word;
+    bool (*known)(const Identity& self);
+    void (Logger::*carryOut)(StatementCursor& in);
+  };
+  static const Order kOrders[];
 
   // The way of a request
   void TakeOctets(std::string_view octets);
@@ -97,11 +104,21 @@ class Logger final : public LineDevice {
   bool AnswerDownload(std::string_view rest);
   bool AnswerStatement(std::string_view rest);
   bool AnswerClosing(std::string_view rest);
-  bool AnswerSetTotal(std::string_view rest);
+  bool AnswerOrder(std::string_view rest);
   bool AnswerOutputOn(std::string_view rest);
   bool AnswerOutputOff(std::string_view rest);
   bool AnswerAccessCode(std::string_view rest);
+  bool AnswerProbeIdentity(std::string_view rest);
+  bool AnswerVoiceSum(std::string_view rest);
+  bool AnswerVoiceList(std::string_view rest);
   bool SwitchOutput(std::string_view rest, bool on);
+
+  // Orders; they tell `in` what is wrong
+  void SetTotal(StatementCursor& in);
+  void SetModuleTotal(StatementCursor& in);
+  void ClearVoiceNumbers(StatementCursor& in);
+  void SetVoiceMacro(StatementCursor& in);
+  void ClearVoiceMacro(StatementCursor& in);
 
   std::int64_t Seconds() const;
 

@@ -8,6 +8,7 @@
 #include "sim/Faults.h"
 #include "sim/Model.h"
 #include "sim/Modem.h"
+#include "sim/blocks/Probes.h"
 
 namespace ostrel::sim {
 
@@ -17,12 +18,14 @@ struct LoggerOptions {
   int version = 0;  ///< firmware, in hundredths
   std::uint32_t features = 0;
   std::string serial{};
-  std::uint64_t seed = 1;                              ///< of live values and faults
-  DateTime clockStart{2026, 1, 15, 8, 30, 5};          ///< its clock when it is made ...
-  std::int64_t clockOffsetSeconds = 0;                 ///< ... and what is added to that
-  Duration replyDelay = std::chrono::milliseconds{2};  ///< from a request to its answer
-  bool modem = false;                                  ///< behind a modem instead of a cable
-  std::string accessCode = "1234";                     ///< asked for in a data call
+  std::uint64_t seed = 1;                                ///< of live values and faults
+  DateTime clockStart{2026, 1, 15, 8, 30, 5};            ///< its clock when it is made ...
+  std::int64_t clockOffsetSeconds = 0;                   ///< ... and what is added to that
+  Duration replyDelay = std::chrono::milliseconds{2};    ///< from a request to its answer
+  Duration eraseTime = std::chrono::milliseconds{1500};  ///< to empty the voice list
+  ProbeIdentity probe{40, 113, 0, 0, 0, 0, 0, 11};       ///< that hangs on the bus
+  bool modem = false;                                    ///< behind a modem instead of a cable
+  std::string accessCode = "1234";                       ///< asked for in a data call
   ModemOptions modemOptions{};
   Faults faults{};
 };

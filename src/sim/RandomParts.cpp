@@ -78,13 +78,7 @@ Actions RandomParts::ActionList() {
 Alarm RandomParts::PlainAlarm() {
   Alarm alarm;
   alarm.text = Text(49);
-  alarm.stop = kWholeDay;
-  alarm.week = kEveryDay;
-  if (Chance(0.5)) {
-    alarm.start = Between(0, kWholeDay - 1);
-    alarm.stop = Between(0, kWholeDay - 1);
-    alarm.week = Between(1, kEveryDay);
-  }
+  Range(alarm);
   alarm.notify =
       Pick(kNotifications) + kNotifyRestored * Between(0, 1) + kNotifyAgain * Between(0, 1);
   alarm.flag = Between(0, kFlags);

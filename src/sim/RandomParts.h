@@ -36,6 +36,16 @@ class RandomParts {
   float Value(int first, int last);
   Scale TwoPoints();
   Actions ActionList();
+  /// `start`, `stop` and `week` of something that is on: always, or some hours of some days.
+  template <class AnyRange>
+  void Range(AnyRange& range) {
+    range.stop = kWholeDay;
+    range.week = kEveryDay;
+    if (Chance(0.5)) return;
+    range.start = Between(0, kWholeDay - 1);
+    range.stop = Between(0, kWholeDay - 1);
+    range.week = Between(1, kEveryDay);
+  }
 
   /// An alarm without thresholds and without actions on a return to normal.
   Alarm PlainAlarm();

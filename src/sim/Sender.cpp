@@ -34,12 +34,12 @@ void Sender::Frame(std::string_view message, Duration tear) {
   std::string frame = ComposeFrame(message);
   if (plan_.Count(FaultKind::BadChecksum)) frame[2] = frame[2] == '0' ? '1' : '0';
   if (const auto delay = plan_.Count(FaultKind::Delay))
-    pieces_.push_back({std::chrono::milliseconds{delay->milliseconds}, {}, End::None});
+    Wait(std::chrono::milliseconds{delay->milliseconds});
   const bool twice = plan_.Count(FaultKind::Duplicate).has_value();
   const std::size_t half = tear > Duration{} ? frame.size() / 2 : frame.size();
   Put(std::string_view(frame).substr(0, half));
   if (half < frame.size()) {
-    pieces_.push_back({tear, {}, End::None});
+    Wait(tear);
     Put(std::string_view(frame).substr(half));
   }
   if (twice) Put(frame);

@@ -22,6 +22,8 @@ class Sender {
 
   /// Queues a message as a frame; with a `tear`, its second half that much later than its first.
   void Frame(std::string_view message, Duration tear = {});
+  /// What is queued behind this leaves that much later.
+  void Wait(Duration wait) { pieces_.push_back({wait, {}, End::None}); }
   /// Sends what is queued.
   void Flush();
   /// Forgets what has not left.

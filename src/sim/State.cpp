@@ -3,8 +3,8 @@
 #include <system_error>
 
 #include "sim/Logger.h"
-#include "sim/NumberText.h"
 #include "sim/StateText.h"
+#include "sim/StatementParser.h"
 #include "sim/blocks/Block.h"
 
 namespace ostrel::sim {
@@ -26,13 +26,6 @@ DateTime ReadClockText(std::string_view text) {
     return value;
   };
   return {part(0, 4), part(5, 2), part(8, 2), part(11, 2), part(14, 2), part(17, 2)};
-}
-
-/// A number of four digits, so that keys stand in the order of their numbers.
-std::string OrderedNumber(int number) {
-  std::string text;
-  AppendPadded(text, number, 4);
-  return text;
 }
 
 std::optional<int> KeyNumber(const std::string& text) {
@@ -70,9 +63,6 @@ std::string Logger::SaveState() const {
   for (const auto& [index, value] : live_.ModulesSet(Seconds()))
     out("module." + std::to_string(index), std::int64_t{value});
   for (const Block* block : Blocks()) block->save(conf_, out);
-  for (const auto& [slot, statement] : conf_.kept) out("kept." + slot, statement);
-  int macros = 0;
-  for (const std::string& macro : conf_.macros) out("macro." + OrderedNumber(macros++), macro);
   return out.Take();
 }
 
@@ -90,8 +80,8 @@ bool Logger::LoadState(std::string_view text, std::string& error) {
   const auto totals = ReadIndexed(in, "total.");
   const auto modules = ReadIndexed(in, "module.");
   for (const Block* block : Blocks()) block->load(conf, in);
-  conf.kept = in.TakeAll("kept.");
-  for (auto& [number, macro] : in.TakeAll("macro.")) conf.macros.push_back(std::move(macro));
+  // States of former versions kept other blocks as statements; not all were what they are to be.
+  for (const auto& [slot, statement] : in.TakeAll("kept.")) ApplyStatement(statement, Self(), conf);
 
   const DateTime now = ReadClockText(clock);
   if (format != kFormat) in.Fail("this is no state of a simulated logger");

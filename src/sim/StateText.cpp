@@ -56,22 +56,28 @@ void StateWriter::Put(const std::string& key, std::string_view value) {
   text_.append(key).append(" = ").append(value).append("\n");
 }
 
-void StateWriter::operator()(const std::string& key, const std::string& text) {
-  if (!text.empty()) Put(key, ToUtf8(Escape(text)));
+void StateWriter::operator()(const std::string& key, std::string_view text,
+                             std::string_view standard) {
+  if (text != standard) Put(key, ToUtf8(Escape(text)));
 }
 
 void StateWriter::operator()(const std::string& key, std::int64_t number) {
   Put(key, std::to_string(number));
 }
 
-void StateWriter::operator()(const std::string& key, float number) {
+void StateWriter::operator()(const std::string& key, float number, float standard) {
   std::string digits;
   AppendNumber(digits, number);
-  if (number != 0) Put(key, digits);
+  if (number != standard) Put(key, digits);
 }
 
-void StateWriter::operator()(const std::string& key, Interface code) {
-  (*this)(key, static_cast<std::int64_t>(code));
+void StateWriter::operator()(const std::string& kind, const std::vector<std::string>& texts) {
+  int number = 0;
+  for (const std::string& text : texts) {
+    std::string key = kind + ".";
+    AppendPadded(key, number++, 4);  // so that keys stand in the order of their numbers
+    (*this)(key, text);
+  }
 }
 
 void StateWriter::PutNumbers(const std::string& key, const int* numbers, std::size_t count) {
@@ -119,13 +125,17 @@ void StateReader::TakeNumber(const std::string& key, Number& number) {
   if (TakeValue(key, value) && !ReadNumber(value, number)) Fail(key + " is no number");
 }
 
-void StateReader::operator()(const std::string& key, std::string& text) { TakeValue(key, text); }
+void StateReader::operator()(const std::string& key, std::string& text, std::string_view) {
+  TakeValue(key, text);
+}
 void StateReader::operator()(const std::string& key, int& number) { TakeNumber(key, number); }
 void StateReader::operator()(const std::string& key, std::int64_t& number) {
   TakeNumber(key, number);
 }
 
-void StateReader::operator()(const std::string& key, float& number) {
+void StateReader::operator()(const std::string& key, std::uint32_t& bits) { TakeNumber(key, bits); }
+
+void StateReader::operator()(const std::string& key, float& number, float) {
   TakeNumber(key, number);
   if (!std::isfinite(number)) Fail(key + " is no number");
 }
@@ -136,12 +146,8 @@ void StateReader::operator()(const std::string& key, bool& value) {
   value = number != 0;
 }
 
-void StateReader::operator()(const std::string& key, Interface& code) {
-  int number = static_cast<int>(code);
-  TakeNumber(key, number);
-  if (number < 0 || number > static_cast<int>(Interface::Pressure))
-    return Fail(key + " is no interface");
-  code = static_cast<Interface>(number);
+void StateReader::operator()(const std::string& kind, std::vector<std::string>& texts) {
+  for (auto& [number, text] : TakeAll(kind + ".")) texts.push_back(std::move(text));
 }
 
 void StateReader::TakeNumbers(const std::string& key, int* numbers, std::size_t count) {

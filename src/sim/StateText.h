@@ -7,21 +7,26 @@
 #include <string>
 #include <string_view>
 #include <utility>
-
-#include "sim/Scale.h"
+#include <vector>
 
 namespace ostrel::sim {
 
 // The saved state is text of lines "key = value". Both visitors below are called with a key and
-// the variable behind it; what stands at its default is not written.
+// the variable behind it. Texts and decimal numbers that stand at their standard are not written.
 
 class StateWriter {
  public:
-  void operator()(const std::string& key, const std::string& text);
+  void operator()(const std::string& key, std::string_view text, std::string_view standard = {});
   void operator()(const std::string& key, std::int64_t number);
+  void operator()(const std::string& key, std::uint32_t bits) { (*this)(key, std::int64_t{bits}); }
   void operator()(const std::string& key, int number) { (*this)(key, std::int64_t{number}); }
-  void operator()(const std::string& key, float number);
-  void operator()(const std::string& key, Interface code);
+  void operator()(const std::string& key, float number, float standard = 0);
+  /// A code of an enumeration that runs from 0 to `last`.
+  template <class Code>
+  void operator()(const std::string& key, Code code, Code) {
+    (*this)(key, static_cast<int>(code));
+  }
+  void operator()(const std::string& kind, const std::vector<std::string>& texts);
   template <std::size_t N>
   void operator()(const std::string& key, const std::array<int, N>& numbers) {
     PutNumbers(key, numbers.data(), N);
@@ -46,12 +51,20 @@ class StateReader {
   /// Splits the text; what is wrong with it is told by `Error`.
   explicit StateReader(std::string_view text);
 
-  void operator()(const std::string& key, std::string& text);
+  void operator()(const std::string& key, std::string& text, std::string_view standard = {});
   void operator()(const std::string& key, int& number);
   void operator()(const std::string& key, std::int64_t& number);
+  void operator()(const std::string& key, std::uint32_t& bits);
   void operator()(const std::string& key, bool& value);
-  void operator()(const std::string& key, float& number);
-  void operator()(const std::string& key, Interface& code);
+  void operator()(const std::string& key, float& number, float standard = 0);
+  template <class Code>
+  void operator()(const std::string& key, Code& code, Code last) {
+    int number = static_cast<int>(code);
+    (*this)(key, number);
+    if (number < 0 || number > static_cast<int>(last)) return Fail(key + " is no code");
+    code = static_cast<Code>(number);
+  }
+  void operator()(const std::string& kind, std::vector<std::string>& texts);
   template <std::size_t N>
   void operator()(const std::string& key, std::array<int, N>& numbers) {
     TakeNumbers(key, numbers.data(), N);

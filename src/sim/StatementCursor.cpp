@@ -58,7 +58,8 @@ std::string_view StatementCursor::TakeDigits() {
   return digits;
 }
 
-int StatementCursor::Bounded(std::string_view digits, bool negative, int first, int last) {
+std::int64_t StatementCursor::Bounded(std::string_view digits, bool negative, std::int64_t first,
+                                      std::int64_t last) {
   std::int64_t value = 0;
   const auto parsed = std::from_chars(digits.data(), digits.data() + digits.size(), value);
   if (parsed.ec != std::errc{} || (digits.size() > 1 && digits[0] == '0')) {
@@ -70,19 +71,39 @@ int StatementCursor::Bounded(std::string_view digits, bool negative, int first, 
     Fail("number " + std::to_string(value) + " out of range");
     return 0;
   }
-  return static_cast<int>(value);
+  return value;
 }
 
 int StatementCursor::Plain(int first, int last) {
   if (Failed()) return 0;
-  return Bounded(TakeDigits(), false, first, last);
+  return static_cast<int>(Bounded(TakeDigits(), false, first, last));
 }
 
 int StatementCursor::Whole(int first, int last) {
   if (Failed()) return 0;
   const bool negative = Has("-");
   if (!negative) Expect(" ");
-  return Failed() ? 0 : Bounded(TakeDigits(), negative, first, last);
+  return Failed() ? 0 : static_cast<int>(Bounded(TakeDigits(), negative, first, last));
+}
+
+std::uint32_t StatementCursor::Bits32() {
+  constexpr auto kMost = std::numeric_limits<std::uint32_t>::max();
+  Expect(" ");
+  return Failed() ? 0 : static_cast<std::uint32_t>(Bounded(TakeDigits(), false, 0, kMost));
+}
+
+/// Takes the whole token as the magnitude of a number.
+float StatementCursor::Finite(std::string_view token) {
+  float value = 0;
+  const auto parsed = std::from_chars(token.data(), token.data() + token.size(), value);
+  const bool number = !token.empty() && (IsDigit(token[0]) || token[0] == '.');
+  if (!number || parsed.ec != std::errc{} || parsed.ptr != token.data() + token.size() ||
+      !std::isfinite(value)) {
+    Fail("number expected");
+    return 0;
+  }
+  rest_.remove_prefix(token.size());
+  return value;
 }
 
 float StatementCursor::Decimal() {
@@ -90,16 +111,18 @@ float StatementCursor::Decimal() {
   const bool negative = Has("-");
   if (!negative) Expect(" ");
   const std::string_view token = rest_.substr(0, rest_.find(','));
-  const bool zeroInFront = token.size() > 1 && token[0] == '0';
-  float value = 0;
-  const auto parsed = std::from_chars(token.data(), token.data() + token.size(), value);
-  const bool number = !token.empty() && (IsDigit(token[0]) || token[0] == '.') && !zeroInFront;
-  if (!number || parsed.ec != std::errc{} || parsed.ptr != token.data() + token.size() ||
-      !std::isfinite(value)) {
-    Fail("number expected");
-    return 0;
-  }
-  rest_.remove_prefix(token.size());
+  if (token.size() > 1 && token[0] == '0') Fail("zero in front");
+  const float value = Failed() ? 0 : Finite(token);
+  return negative ? -value : value;
+}
+
+float StatementCursor::PlainDecimal() {
+  if (Failed()) return 0;
+  const bool negative = Has("-");
+  const std::string_view token = rest_.substr(0, rest_.find(','));
+  if (token.starts_with('.')) Fail("digit expected in front of the point");
+  if (token.size() > 1 && token[0] == '0' && token[1] != '.') Fail("zero in front");
+  const float value = Failed() ? 0 : Finite(token);
   return negative ? -value : value;
 }
 

@@ -12,6 +12,7 @@ namespace ostrel::sim {
 // What numbers of 16 and 32 bits can hold.
 inline constexpr int kLeast16 = std::numeric_limits<std::int16_t>::min();
 inline constexpr int kMost16 = std::numeric_limits<std::int16_t>::max();
+inline constexpr int kLeast32 = std::numeric_limits<std::int32_t>::min();
 inline constexpr int kMost32 = std::numeric_limits<std::int32_t>::max();
 
 /// Walks along a statement. The first thing that is not as it must be is kept as `Why`; from then
@@ -43,6 +44,10 @@ class StatementCursor {
   int Whole(int first, int last);
   /// A decimal number with its place for the sign and no zero in front of the point.
   float Decimal();
+  /// A decimal number without a place for the sign and with a digit in front of the point.
+  float PlainDecimal();
+  /// A whole number of up to 32 bits with its place for the sign, which is always blank.
+  std::uint32_t Bits32();
   /// ",BSVAL=", ",FSVAL=", ",BSUNIT=" and ",FSUNIT=" with their numbers.
   Scale TwoPoints();
   /// A time of day "h:mm:ss" as seconds since midnight.
@@ -52,7 +57,9 @@ class StatementCursor {
 
  private:
   std::string_view TakeDigits();
-  int Bounded(std::string_view digits, bool negative, int first, int last);
+  std::int64_t Bounded(std::string_view digits, bool negative, std::int64_t first,
+                       std::int64_t last);
+  float Finite(std::string_view token);
 
   std::string_view rest_;
   std::string why_;

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "sim/KeptStatements.h"
 #include "sim/blocks/Block.h"
 
 namespace ostrel::sim {
@@ -21,18 +20,25 @@ bool HasControls(std::string_view statement) {
       statement, [](char c) { return static_cast<unsigned char>(c) < 0x20 || c == 0x7F; });
 }
 
-/// Hands a statement to the block that knows its word. Returns whether there is one.
-bool ApplyByBlock(std::string_view word, const Work& w) {
+/// Programs keep the counts of MODBUS channels and probes when a Tavro is chosen behind another
+/// model, and then send it those blocks. It has neither, and passes over them.
+bool PassesOver(const Block& block, const Identity& self) {
+  const bool isTavro = self.model == Model::BP || self.model == Model::BQ;
+  return isTavro &&
+         (&block == &kModbusBusBlock || &block == &kModbusBlock || &block == &kProbeBlock);
+}
+
+/// Hands a statement to the block that knows its word.
+void ApplyByBlock(std::string_view word, const Work& w) {
   for (const Block* block : Blocks()) {
     const auto rule = std::ranges::find(block->rules, word, &StatementRule::word);
     if (rule == block->rules.end()) continue;
+    if (PassesOver(*block, w.self)) return;
     if (!block->stands(w.self) || !w.self.Has(rule->features))
-      w.in.Fail("unknown to this logger");
-    else
-      rule->apply(w);
-    return true;
+      return w.in.Fail("unknown to this logger");
+    return rule->apply(w);
   }
-  return false;
+  w.in.Fail("unknown statement");
 }
 
 }  // namespace
@@ -41,8 +47,7 @@ std::string ApplyStatement(std::string_view statement, const Identity& self, Con
   if (HasControls(statement)) return "control character in the statement";
   const std::string_view word = LeadingWord(statement);
   StatementCursor in(statement.substr(word.size()));
-  if (!ApplyByBlock(word, {in, self, conf}) && !KeepStatement(word, statement, in, self, conf))
-    in.Fail("unknown statement");
+  ApplyByBlock(word, {statement, in, self, conf});
   return in.Why();
 }
 

@@ -16,13 +16,15 @@ int ThreeDigits(std::string_view text) {
   return number;
 }
 
+void Upload::Begin(const Configuration& held) {
+  draft_ = held;
+  expected_ = 0;
+  why_.clear();
+}
+
 Verdict Upload::Take(std::string_view numbered, const Configuration& held) {
   const int number = ThreeDigits(numbered);
-  if (number == 0) {
-    draft_ = held;
-    expected_ = 0;
-    why_.clear();
-  }
+  if (number == 0) Begin(held);
   if (expected_ < 0) return Verdict::Ignored;
   if (number != expected_)
     Refuse("statement " + std::to_string(expected_) + " expected");
@@ -34,8 +36,8 @@ Verdict Upload::Take(std::string_view numbered, const Configuration& held) {
 }
 
 std::optional<Configuration> Upload::Close(std::string_view count) {
-  const bool right = expected_ > 0 && count.size() == 3 && ThreeDigits(count) == expected_;
-  if (expected_ > 0 && !right) why_ = std::to_string(expected_) + " statements were taken";
+  const bool right = expected_ >= 0 && count.size() == 3 && ThreeDigits(count) == expected_;
+  if (expected_ >= 0 && !right) why_ = std::to_string(expected_) + " statements were taken";
   expected_ = -1;
   if (!right) return std::nullopt;
   return std::move(draft_);

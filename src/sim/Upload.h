@@ -20,6 +20,8 @@ class Upload {
  public:
   explicit Upload(const Identity& self) : self_(self) {}
 
+  /// Starts over from the configuration in force, as an attempt without statements so far.
+  void Begin(const Configuration& held);
   /// Takes a statement with its number in front. `held` is the configuration in force.
   Verdict Take(std::string_view numbered, const Configuration& held);
   /// Ends the attempt. The new configuration, if the attempt is sound and the count is right.

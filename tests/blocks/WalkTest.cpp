@@ -1,3 +1,4 @@
+#include <map>
 #include <set>
 
 #include "BlockFixture.h"
@@ -99,6 +100,30 @@ TEST_P(FieldWalk, EveryFieldOfTheModelIsSent) {
     ++sent;
   }
   EXPECT_GT(sent, 100U);
+}
+
+/// Emptying leaves of every field what a fresh program holds, save for what is kept on purpose.
+TEST_P(FieldWalk, EmptyingResetsEveryField) {
+  const DeviceConf empty = conf;
+  for (const Field& field : FieldsOf(conf, profile)) std::visit(Altered{}, field.value);
+  for (const PageId page : kClearAtStart)
+    if (const Block* block = FindBlock(page)) block->clear(conf, profile, translate);
+  const auto emptied = FieldsOf(std::as_const(conf), profile), fresh = FieldsOf(empty, profile);
+  for (std::size_t i = 0; i < emptied.size(); ++i) {
+    const bool isKept = emptied[i].meta.sense == FieldSense::Action || emptied[i].id.word == "GPRS";
+    EXPECT_EQ(FieldText(emptied[i].value, false) == FieldText(fresh[i].value, false), !isKept)
+        << emptied[i].Section() << " " << emptied[i].Key();
+  }
+}
+
+/// How many records a file holds of each kind, whatever the model has.
+TEST_P(FieldWalk, FilesHoldTheirFixedCounts) {
+  std::map<std::string, std::set<int>> records;
+  for (const Field& field : FieldsOf(conf, profile))
+    records[std::string(field.id.section->word)].insert(field.id.channel);
+  for (const auto& [section, count] :
+       {std::pair{"GENERAL", 1U}, {"DIGITAL", 9U}, {"ANALOG", 4U}, {"GRUPO", 4U}, {"FLAG", 16U}})
+    EXPECT_EQ(records[section].size(), count) << section;
 }
 
 TEST(Orders, EveryBlockHasItsPlaces) {

@@ -50,6 +50,20 @@ TEST(Show, TellsOnlyWhatIsSetUnlessToldAll) {
   EXPECT_THAT(world.out, HasSubstr("TLFM 0 (telephone 0): free\n"));
 }
 
+TEST(Show, SaysNothingOfAlarmsThatAreOffUnlessAsked) {
+  World world;
+  world.HaveFile("/a.ocf");
+  world.SetKey("/a.ocf", "DIGITAL 7", "HABIL( 3)", "False");
+  world.SetKey("/a.ocf", "DIGITAL 7", "SIEMPRE( 3)", "False");
+  world.SetKey("/a.ocf", "DIGITAL 6", "HABIL( 2)", "True");
+  world.SetKey("/a.ocf", "DIGITAL 6", "SIEMPRE( 2)", "False");
+  EXPECT_EQ(world.Run("show /a.ocf"), 0);
+  EXPECT_EQ(world.out.find("( 3) (alarm 3"), std::string::npos) << world.out;
+  EXPECT_THAT(world.out, HasSubstr("SIEMPRE( 2) (alarm 2, always valid): no\n"));
+  EXPECT_EQ(world.Run("show /a.ocf --all"), 0);
+  EXPECT_THAT(world.out, HasSubstr("SIEMPRE( 3) (alarm 3, always valid): no\n"));
+}
+
 TEST(Show, GivesTypedJson) {
   World world;
   world.HaveFile("/a.ocf");
@@ -102,6 +116,18 @@ TEST(Diff, WithFeaturesOnlyWhatIsSentCounts) {
               difference.toObject()["key"].toString() != "RENVN");
 }
 
+TEST(Download, AsksBeforeItReplacesWhatItWouldLose) {
+  World world;
+  world.HaveFile("/a.ocf");
+  const std::string former = world.files.contents["/a.ocf"] + "\r\n[MINE]\r\nA=1";
+  world.files.contents["/a.ocf"] = former;
+  EXPECT_EQ(world.Run("download /a.ocf --port sim:VR200"), 5);
+  EXPECT_THAT(world.err, HasSubstr("would lose: [MINE] A"));
+  EXPECT_EQ(world.files.contents["/a.ocf"], former);
+  EXPECT_EQ(world.Run("download /a.ocf --port sim:VR200 --yes"), 0);
+  EXPECT_EQ(world.files.contents["/a.ocf"].find("MINE"), std::string::npos);
+}
+
 TEST(Diff, ComparesAFileWithWhatTheLoggerHolds) {
   World world;
   world.HaveFile("/a.ocf");
@@ -120,7 +146,8 @@ TEST(Diff, TellsFilesOfTwoModelsApart) {
   world.HaveFile("/a.ocf");
   world.HaveFile("/b.ocf", "KA1");
   EXPECT_EQ(world.Run("diff /a.ocf /b.ocf"), 1);
-  EXPECT_THAT(world.out, HasSubstr("GENERAL (general)\n  VERSION: Ostrel VR200 -> Ostrel KA1\n"));
+  EXPECT_THAT(world.out,
+              HasSubstr("GENERAL (general)\n  VERSION (model): Ostrel VR200 -> Ostrel KA1\n"));
 }
 
 /// A configuration of a VR200, in which nothing is wrong.

@@ -15,6 +15,7 @@
 
 #include "cli/Ostrelctl.h"
 #include "host/SimulatedLoggers.h"
+#include "platform/SilentDialogs.h"
 #include "platform/virtual/VirtualClock.h"
 #include "platform/virtual/VirtualFiles.h"
 #include "platform/virtual/VirtualLoop.h"
@@ -49,12 +50,14 @@ class World {
   VirtualProcesses processes;
   SimulatedLoggers simulated;
   std::ostringstream outStream, errStream;
-  Environment environment{.loop = loop,
-                          .port = simulated.Port(),
-                          .settings = settings,
-                          .files = files,
-                          .processes = processes,
-                          .clock = clock,
+  SilentDialogs nobody;
+  Environment environment{.platform = {.loop = loop,
+                                       .port = simulated.Port(),
+                                       .settings = settings,
+                                       .dialogs = nobody,
+                                       .files = files,
+                                       .processes = processes,
+                                       .clock = clock},
                           .simulated = simulated,
                           .out = outStream,
                           .err = errStream,

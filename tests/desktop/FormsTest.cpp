@@ -4,9 +4,8 @@
 #include <QAbstractItemView>
 #include <QAbstractSpinBox>
 #include <QComboBox>
-#include <QDir>
+#include <QDirIterator>
 #include <QFile>
-#include <QFileInfo>
 #include <QLabel>
 #include <QLineEdit>
 #include <QProgressBar>
@@ -117,8 +116,9 @@ std::set<QString> WordsInSources(const QString& folder) {
   std::set<QString> words;
   const QRegularExpression call(R"x(Words::tr\(\s*((?:"(?:[^"\\]|\\.)*"\s*)+))x");
   const QRegularExpression literal(R"x("((?:[^"\\]|\\.)*)")x");
-  for (const QFileInfo& info : QDir(folder).entryInfoList({"*.cpp", "*.h"})) {
-    QFile file(info.filePath());
+  for (QDirIterator files(folder, {"*.cpp", "*.h"}, QDir::Files, QDirIterator::Subdirectories);
+       files.hasNext();) {
+    QFile file(files.next());
     if (!file.open(QIODevice::ReadOnly)) continue;
     const QString text = QString::fromUtf8(file.readAll());
     for (auto it = call.globalMatch(text); it.hasNext();) {

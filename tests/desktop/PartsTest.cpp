@@ -4,19 +4,19 @@
 #include <set>
 
 #include "base/Help.h"
+#include "controls/Form.h"
 #include "desktop/Demo.h"
-#include "desktop/FaultWords.h"
+#include "desktop/FaultText.h"
 #include "desktop/HelpProcesses.h"
 #include "desktop/Language.h"
 #include "desktop/PortWatch.h"
 #include "desktop/QtDialogs.h"
-#include "desktop/RecentFiles.h"
 #include "desktop/Words.h"
 #include "platform/virtual/VirtualClock.h"
 #include "platform/virtual/VirtualDialogs.h"
 #include "platform/virtual/VirtualLoop.h"
 #include "platform/virtual/VirtualProcesses.h"
-#include "platform/virtual/VirtualSettings.h"
+#include "shell/FaultWords.h"
 
 namespace ostrel {
 namespace {
@@ -24,34 +24,49 @@ namespace {
 using std::chrono::seconds;
 using testing::ElementsAre;
 
-TEST(RecentFiles, KeepTheNewestFirstAndEachOnce) {
-  VirtualSettings settings;
-  RecentFiles recent(settings);
-  EXPECT_THAT(recent.Paths(), ElementsAre());
-  for (int i = 0; i < 10; ++i) recent.Add("/f" + std::to_string(i));
-  recent.Add("/f5");
-  EXPECT_THAT(recent.Paths(), ElementsAre("/f5", "/f9", "/f8", "/f7", "/f6", "/f4", "/f3", "/f2"));
+TEST(FaultText, IsSentencesOfTheWindowsLanguage) {
+  UseLanguage("en");
+  const SessionFault refused{.during = SessionPhase::Writing,
+                             .link = {LinkFault::Kind::Refused, 12, "+TLF=600"}};
+  EXPECT_EQ(FaultText(refused, ""),
+            "The logger refused statement 12: \"+TLF=600\". The logger's former configuration "
+            "stays in force.");
+  EXPECT_TRUE(FaultText({.link = {LinkFault::Kind::LineLost, 0, ""}}, "usb").startsWith("usb has"))
+      << "a name keeps its letters";
 }
 
-TEST(FaultWords, TellEachFaultDifferentlyWithItsNumberAndText) {
+TEST(FaultText, HasSpanishForEachPhrase) {
+  using enum SessionPhase;
+  UseLanguage("es");
+  std::set<std::string> phrases;
+  for (const SessionPhase during : {Opening, Open, Reading, Writing})
+    for (int kind = 0; kind <= static_cast<int>(LinkFault::Kind::PortClosed); ++kind)
+      for (const char* text : {"", "answer"})
+        for (int variant = 0; variant < 4; ++variant) {
+          const FaultWords words = WordsOf({.during = during,
+                                            .link = {static_cast<LinkFault::Kind>(kind), 1, text},
+                                            .brokenOff = variant == 3,
+                                            .allSent = variant == 1,
+                                            .code = static_cast<CodeAnswer>(variant % 3)},
+                                           "COM7");
+          for (const Phrase* phrase : {&words.what, &words.remedy, &words.outcome})
+            phrases.insert(phrase->text);
+        }
+  phrases.erase("");
+  EXPECT_GT(phrases.size(), 35u);
+  for (const std::string& phrase : phrases) {
+    const QString spanish = Words::tr(phrase.c_str());
+    EXPECT_NE(FromQt(spanish), phrase);
+    for (const auto* place : {"%1", "%2"})
+      EXPECT_EQ(spanish.contains(place), phrase.find(place) != std::string::npos) << phrase;
+  }
   UseLanguage("en");
-  std::set<QString> told;
-  for (int kind = 1; kind <= static_cast<int>(LinkFault::Kind::PortClosed); ++kind)
-    told.insert(FaultWords({static_cast<LinkFault::Kind>(kind), 12, "+TLF=600"}, "/dev/ttyUSB0"));
-  EXPECT_EQ(told.size(), static_cast<std::size_t>(LinkFault::Kind::PortClosed));
-  EXPECT_FALSE(told.contains(QString()));
-  EXPECT_EQ(FaultWords({LinkFault::Kind::Refused, 12, "+TLF=600"}, ""),
-            "The logger refused statement 12: +TLF=600");
-  EXPECT_TRUE(
-      FaultWords({LinkFault::Kind::NoPermission, 0, ""}, "/dev/ttyUSB0").contains("dialout"));
-  EXPECT_TRUE(FaultWords({}, "x").isEmpty());
 }
 
 TEST(Help, SaysBrieflyWhenThereIsNone) {
   VirtualProcesses real;
   VirtualDialogs dialogs;
-  HelpProcesses processes(real);
-  processes.dialogs = &dialogs;
+  HelpProcesses processes(real, dialogs);
   EXPECT_TRUE(ShowHelp(processes, "/opt", "General"));
   EXPECT_TRUE(dialogs.boxes.empty());
   real.fails = true;

@@ -10,6 +10,7 @@
 #include <QPushButton>
 #include <QTableWidget>
 #include <QToolBar>
+#include <QToolButton>
 #include <QTreeWidget>
 #include <QTreeWidgetItemIterator>
 
@@ -183,7 +184,7 @@ TEST_F(WindowTools, TellsWhereADownloadBrokeOffAndTracesTheLine) {
   EXPECT_EQ(state->text(), "Open");
   EXPECT_EQ(Core().general.Session().ComStat.face.Key(), "Error!");
   auto* details = Window().Pages().Front()->findChild<FaultDetails*>("FaultDetails");
-  EXPECT_TRUE(details->Text().contains("silent at step 10")) << FromQt(details->Text());
+  EXPECT_TRUE(details->Text().contains("silent at record 10")) << FromQt(details->Text());
   auto* lines = trace->findChild<QPlainTextEdit*>();
   EXPECT_TRUE(lines->toPlainText().contains("TxSer: "));
   const int count = lines->blockCount();
@@ -203,6 +204,70 @@ TEST_F(WindowTools, TellsHowLongALoggerHasBeenSilent) {
   EXPECT_TRUE(midway.startsWith("Detecting, silent for ")) << FromQt(midway);
   loop.RunFor(seconds(5));
   EXPECT_EQ(state->text(), "Idle");
+}
+
+TEST_F(WindowTools, BreaksOffASessionThatIsBeingOpened) {
+  UseLanguage("en");
+  std::string error;
+  AddLogger(sim::Model::BP, {*sim::ParseFault("silent", error)});
+  auto* button = Window().findChild<QToolButton*>("BreakOff");
+  EXPECT_TRUE(button->isHidden());
+  loop.After(seconds(3), "break off", [&] {
+    EXPECT_FALSE(button->isHidden());
+    button->click();
+  });
+  Connect();
+  EXPECT_TRUE(button->isHidden());
+  EXPECT_EQ(Window().findChild<QLabel*>("LinkState")->text(), "Idle");
+  auto* details = Window().Pages().Front()->findChild<FaultDetails*>("FaultDetails");
+  EXPECT_EQ(details->Text(),
+            "Interrupted before a session stood. The logger's configuration is unchanged.");
+}
+
+TEST_F(WindowTools, StaysFreeWhenARequestHasNoSession) {
+  UseLanguage("en");
+  AddLogger(sim::Model::BP);
+  Connect();
+  SessionFrame& session = Core().general.Session();
+  session.IniCom_Click();
+  session.Leer.Click();
+  EXPECT_FALSE(Window().Pages().isEnabled());
+  loop.RunFor(seconds(3));
+  EXPECT_TRUE(Tool("Guardar")->isEnabled() && Window().Pages().isEnabled());
+  EXPECT_EQ(Window().findChild<QLabel*>("LinkState")->text(),
+            "Idle, a transfer waits for a session");
+}
+
+/// Whatever has been shown, at whatever time.
+TEST_F(WindowTools, WakesOnceASecondWhileASessionIdles) {
+  AddLogger(sim::Model::BP);
+  Connect();
+  for (const auto* key : {"E_Digital_0", "E_Analog_1", "Grupos", "Flag_3"}) {
+    Window().GoTo(key);
+    loop.RunFor(std::chrono::milliseconds(137));
+  }
+  loop.RunFor(seconds(5));
+  const auto before = loop.Wakings();
+  loop.RunFor(seconds(60));
+  EXPECT_LE(loop.Wakings() - before, 60u) << loop.ListTimers();
+}
+
+TEST_F(WindowTools, KeepsItsGroupsOpenInAnotherLanguage) {
+  QTreeWidget& tree = Window().Tree().Tree();
+  const auto group = [&](const QString& text) -> QTreeWidgetItem* {
+    const auto found = tree.findItems(text, Qt::MatchExactly | Qt::MatchRecursive);
+    return found.isEmpty() ? nullptr : found.first();
+  };
+  group("Temporizadores")->setExpanded(true);
+  group("Semanales")->setExpanded(true);
+  group("Dispositivo")->setExpanded(true);
+  dialogs.OnModal([](Form& form) {
+    form.Get<ComboBox>("ComboLang").SetPosition(1);
+    form.Get<Button>("CommandOk").Click();
+  });
+  Tool("Idioma")->trigger();
+  EXPECT_TRUE(group("Timers")->isExpanded() && group("Weekly")->isExpanded());
+  EXPECT_FALSE(group("Cyclic")->isExpanded());
 }
 
 TEST_F(WindowTools, MayBeClosedInTheMidstOfADownload) {
@@ -237,7 +302,7 @@ TEST_F(WindowTools, CountsAnEditDuringAnUploadAsNotSent) {
   const std::string former = Core().conf.Digital[1].NOMBRE;
   Core().general.Session().Escribir.Click();
   loop.After(seconds(3), "edit", [&] {
-    EXPECT_EQ(Core().session.Running(), TransferKind::Writing);
+    EXPECT_EQ(Core().session.State().phase, SessionPhase::Writing);
     Window().GoTo("E_Digital_1");
     Core().PageNamed("E_Digital")->GetForm().Get<TextBox>("Nombre").Type("late");
     Window().GoTo("E_Digital_2");
@@ -321,7 +386,7 @@ TEST_F(WindowTools, OffersNoSavingInTheMidstOfATransfer) {
   AddLogger(sim::Model::BP);
   port.SetPaced(true);
   Connect();
-  Core().conf.Digital[1].NOMBRE = "door";
+  Core().general.GetForm().Get<TextBox>("NameBox").Type("door");
   loop.RunFor(seconds(2));
   ASSERT_TRUE(Window().isWindowModified());
   Core().general.Session().Leer.Click();

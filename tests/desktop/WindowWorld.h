@@ -7,6 +7,7 @@
 #include <memory>
 
 #include "desktop/Desktop.h"
+#include "desktop/QtDialogs.h"
 #include "desktop/Words.h"
 #include "platform/qt/QtFiles.h"
 #include "platform/virtual/LinePort.h"
@@ -54,18 +55,20 @@ struct WindowWorld {
     });
   }
   /// `asking` takes the place of the window's own dialogs, if set.
-  std::unique_ptr<Desktop> Make(Dialogs* asking = nullptr, bool ticking = true) {
-    return std::make_unique<Desktop>(
-        DesktopWorld{.loop = loop,
-                     .port = port,
-                     .settings = settings,
-                     .files = files,
-                     .processes = processes,
-                     .clock = clock,
-                     .dialogs = asking},
+  std::unique_ptr<Desktop> Make(Dialogs* asking = nullptr) {
+    auto made = std::make_unique<Desktop>(
+        Platform{.loop = loop,
+                 .port = port,
+                 .settings = settings,
+                 .dialogs = asking ? *asking : dialogsOfWindow,
+                 .files = files,
+                 .processes = processes,
+                 .clock = clock},
         ConfiguratorOptions{
-            .programFolder = "/nowhere", .langFile = Path("Lang.txt"), .ticking = ticking},
+            .programFolder = "/nowhere", .langFile = Path("Lang.txt"), .ticking = true},
         FromQt(folder.path()));
+    dialogsOfWindow.StandBefore(made->Window());
+    return made;
   }
 
   QTemporaryDir folder;
@@ -75,6 +78,7 @@ struct WindowWorld {
   QtFiles files;
   VirtualProcesses processes;
   VirtualClock clock;
+  QtDialogs dialogsOfWindow;
   sim::Logger* logger = nullptr;
 };
 

@@ -23,6 +23,7 @@
 namespace ostrel {
 
 using std::chrono::milliseconds;
+using std::chrono::seconds;
 using Texts = std::vector<std::string>;
 
 /// The octets of messages on the line, one after the other.
@@ -112,25 +113,33 @@ class LinkTest : public testing::Test {
     port.SetCommPort(kPort);
     port.SetInputLen(1);
     port.SetInBufferSize(8192);
-    port.SetHandshaking(PortHandshaking::RtsCts);
     ASSERT_EQ(port.SetPortOpen(true), PortFault::None);
     logger.raw.clear();
   }
   void At(Duration delay, EventLoop::Callback action) {
     loop.After(delay, "test", std::move(action));
   }
+  /// Answers a line some ms after it was heard.
+  void AnswerLater(const std::string& heard, int ms, const std::string& octets) {
+    logger.onLine = [=, this](const std::string& line) {
+      if (line == heard) At(milliseconds(ms), [=, this] { logger.end->Send(octets); });
+    };
+  }
+  Duration Took(const std::function<void()>& work) {
+    const TimePoint start = loop.Now();
+    work();
+    return loop.Now() - start;
+  }
   LinkHooks Hooks() {
     const auto note = [this](std::string what) { return [this, what] { hooked.push_back(what); }; };
     return {.clearPages = note("clear"),
             .loadPages = note("load"),
-            .barMaximum = [this](int n) { hooked.push_back("max " + std::to_string(n)); },
-            .barValue = [this](int n) { hooked.push_back("bar " + std::to_string(n)); },
             .composed = {},
             .infoChanged = [this](std::string_view key) { hooked.emplace_back(key); },
             .showPWForm =
                 [this] {
                   hooked.emplace_back("form");
-                  loop.RunFor(std::chrono::seconds(1));
+                  loop.RunFor(seconds(1));
                   EXPECT_EQ(comms.SilentFor(), Duration::zero()) << "the operator takes the time";
                   if (codes.empty()) return;
                   comms.AccessCode = codes.front();

@@ -62,6 +62,22 @@ TEST_F(VirtualLoopTest, TicksArriveInWaitsOfEarlierTicks) {
   EXPECT_THAT(notes, ElementsAre("tick0@100", "tick1@200", "tick1@300", "tick0@400"));
 }
 
+TEST_F(VirtualLoopTest, TimersOfOneIntervalWakeTogether) {
+  loop.Every(milliseconds(100), "first", Note("first"));
+  loop.HoldUp(milliseconds(30));
+  loop.Every(milliseconds(100), "second", Note("second"));
+  loop.Every(milliseconds(70), "other", Note("other"));
+  WaitFor(milliseconds(170));
+  EXPECT_THAT(notes, ElementsAre("first@100", "second@100", "other@100", "other@170", "first@200",
+                                 "second@200"));
+  EXPECT_EQ(loop.Wakings(), 3u);
+  loop.HoldUp(milliseconds(130));
+  loop.Every(milliseconds(100), "late", Note("late"));
+  notes.clear();
+  WaitFor(milliseconds(75));
+  EXPECT_THAT(notes, testing::Contains("late@400")) << "beside those that are late themselves";
+}
+
 TEST_F(VirtualLoopTest, MissedTicksDoNotPileUp) {
   loop.Every(milliseconds(100), "tick", Note("tick"));
   loop.HoldUp(milliseconds(350));

@@ -42,14 +42,25 @@ TEST_F(ConfigurationFile, StampsDecideWhatIsLoaded) {
   struct Case {
     const char* stamp;
     const char* model;  // afterwards
-    std::size_t boxes;  // shown
     bool loaded;
+    std::size_t boxes;  // shown
   };
-  for (const Case& c :
-       {Case{"TAVRO", "Tavro BP", 0, true}, Case{"OSTREL_KA1", "Ostrel KA1", 1, true},
-        Case{"VR200", "Ostrel VR200", 1, true}, Case{"PX240", "Tavro BP", 2, false},
-        Case{"PX PLUS", "Ostrel KA2", 2, false}, Case{"tavro", "Tavro BP", 1, false},
-        Case{"", "Tavro BP", 1, false}}) {
+  for (const Case& c : std::vector<Case>{{"TAVRO", "Tavro BP", true, 0},
+                                         {"VR200", "Ostrel VR200", true, 1},
+                                         {"OSTREL_KA2", "Ostrel KA2", true, 1},
+                                         {"OSTREL_KA1", "Ostrel KA1", true, 1},
+                                         {"TAVRO_BQ", "Tavro BQ", true, 1},
+                                         {"OSTREL_S100", "Ostrel S100", true, 1},
+                                         {"PX-6000", "Ostrel VR200", false, 2},
+                                         {"PX250", "Ostrel VR200", false, 2},
+                                         {"PX120-D", "Tavro BP", false, 2},
+                                         {"PX-8000", "Tavro BP", false, 2},
+                                         {"PX240", "Tavro BP", false, 2},
+                                         {"PX235", "Ostrel KA2", false, 2},
+                                         {"PX PLUS", "Ostrel KA2", false, 2},
+                                         {"PX220", "Ostrel KA1", false, 2},
+                                         {"tavro", "Tavro BP", false, 1},
+                                         {"", "Tavro BP", false, 1}}) {
     SCOPED_TRACE(c.stamp);
     program.TargetDeviceChange("Tavro BP");
     program.conf.General.DNAME = "before";

@@ -47,6 +47,38 @@ TEST_F(Lifecycle, TheFirstRunAsksForLanguageAndModel) {
   EXPECT_EQ(world.Stored("Idioma"), "2") << "the end of the run does not undo the choice";
 }
 
+TEST_F(Lifecycle, AFirstRunIsOneThatLacksEitherSetting) {
+  for (const char* lost : {"Idioma", "ComPort"}) {
+    KnowEverything();
+    world.Stored(lost).clear();
+    world.dialogs.modals = 0;
+    Configurator program(world.platform, world.Options(true));
+    program.Start("");
+    EXPECT_EQ(world.dialogs.modals, 1U) << lost;
+  }
+}
+
+/// The language of a first run waits for the next start. Until then only another choice replaces
+/// it.
+TEST_F(Lifecycle, ALanguageOfAFirstRunIsLostToAnotherChoiceOnly) {
+  const auto choose = [this](int row, const char* button) {
+    world.dialogs.OnModal([=](Form& form) {
+      form.Get<ComboBox>("ComboLang").SetPosition(row);
+      form.Get<Button>(button).Click();
+    });
+  };
+  for (const auto& [button, stored] : {std::pair{"CommandCancel", "2"}, {"CommandOk", "1"}}) {
+    world.settings.values.clear();
+    Configurator program(world.platform, world.Options(true));
+    choose(1, "CommandOk");
+    program.Start("");
+    choose(0, button);
+    program.AskLanguage();
+    program.ShutDown();
+    EXPECT_EQ(world.Stored("Idioma"), stored) << button;
+  }
+}
+
 TEST_F(Lifecycle, ALaterRunAsksNothing) {
   KnowEverything();
   Configurator program(world.platform, world.Options(true));

@@ -167,6 +167,70 @@ TEST_F(NavigationFixture, ActivatesWhatItShows) {
   EXPECT_FALSE(core.targetSelect.GetForm().Get<Button>("CommandChange").face.Enabled());
 }
 
+/// What a page offers hangs on the model, whatever changes it.
+TEST_F(NavigationFixture, ActivatesTheFrontAnewWhenTheModelChanges) {
+  files.contents["/bq.ocf"] = "[General]\r\nVERSION=TAVRO_BQ\r\n";
+  const auto offers = [this](std::string_view option) {
+    return On<OptionButton>("E_Analog", option).face.Enabled();
+  };
+  navigation.NodeClick("E_Analog_0");
+  EXPECT_TRUE(offers("Int_0_5") && !offers("Int_Press"));
+  EXPECT_EQ(core.OpenFile("/bq.ocf"), RestoreResult::Loaded);
+  EXPECT_TRUE(!offers("Int_0_5") && offers("Int_Press"));
+  navigation.NodeClick("CTimer");
+  core.TargetDeviceChange("Tavro BP");
+  EXPECT_FALSE(offers("Int_0_5")) << "a hidden page is left to its next showing";
+  navigation.NodeClick("E_Analog_0");
+  EXPECT_TRUE(offers("Int_0_5"));
+}
+
+TEST(Navigation, HidesAllPagesButThree) {
+  EXPECT_THAT(kPagesThatStayOpen, ElementsAre("E_MODBUS", "E_Modular", "TestBQ"));
+}
+
+/// Pages that stay open: two of this build stand for those.
+class StayingPages : public NavigationFixture {
+ protected:
+  void TypeName(std::string_view page, const char* name) { On<TextBox>(page, "Nombre").Type(name); }
+  std::string FrontName() {
+    const Form* front = staying.Front();
+    return front ? front->Name() : "";
+  }
+
+  static constexpr std::array<std::string_view, 2> kStaying{"E_Digital", "E_Analog"};
+  Navigation staying{core, kStaying};
+};
+
+TEST_F(StayingPages, KeepTheFrontWhenAClickOpensNothing) {
+  staying.NodeClick("E_Digital_0");
+  TypeName("E_Digital", "first");
+  EXPECT_EQ(staying.NodeClick("CTimer"), NodeResult::Nothing);
+  EXPECT_EQ(FrontName(), "E_Digital");
+  EXPECT_EQ(core.conf.Digital[0].NOMBRE, "") << "it has not been left";
+  staying.CommitFront();
+  EXPECT_EQ(core.conf.Digital[0].NOMBRE, "first");
+  TypeName("E_Digital", "again");
+  staying.NodeClick("E_Digital_1");
+  EXPECT_EQ(core.conf.Digital[0].NOMBRE, "again");
+}
+
+TEST_F(StayingPages, AreCoveredByTheNextPageAndComeBackBehindIt) {
+  staying.NodeClick("E_Analog_0");
+  staying.NodeClick("E_Digital_0");
+  TypeName("E_Digital", "covered");
+  staying.NodeClick("General");
+  EXPECT_EQ(core.conf.Digital[0].NOMBRE, "covered");
+  EXPECT_THAT(Visible(), ElementsAre("General", "E_Digital", "E_Analog"));
+  EXPECT_EQ(FrontName(), "General");
+  staying.NodeClick("Timer");
+  EXPECT_EQ(FrontName(), "E_Digital") << "the one that was shown last";
+  TypeName("E_Digital", "back");
+  core.TargetDeviceChange("Tavro BQ");
+  staying.NodeClick("E_Analog_0");
+  EXPECT_EQ(core.conf.Digital[0].NOMBRE, "back");
+  EXPECT_TRUE(On<OptionButton>("E_Analog", "Int_Press").face.Enabled());
+}
+
 TEST_F(NavigationFixture, CommitsTheFrontOnDemand) {
   navigation.NodeClick("E_Digital_2");
   On<TextBox>("E_Digital", "Nombre").Type("door");

@@ -24,6 +24,18 @@ class Session : public testing::Test {
   }
 
   void Click(std::string_view button) { program.general.GetForm().Get<Button>(button).Click(); }
+  /// Does something once, when the logger has got a request that starts in some way.
+  void Upon(std::string_view head, std::function<void()> act) {
+    world.logger->OnExchange([this, head, act, done = false](const sim::Exchange& e) mutable {
+      requests.push_back(e.request);
+      if (!e.request.starts_with(head) || std::exchange(done, true)) return;
+      act();
+    });
+  }
+  bool Sent(std::string_view head) const {
+    return std::ranges::any_of(requests, [&](auto& r) { return r.starts_with(head); });
+  }
+  SessionPhase Phase() const { return program.session.State().phase; }
   const std::string& Status() { return frame.ComStat.face.Caption(); }
   void Connect() {
     Click("IniCom");
@@ -40,11 +52,15 @@ class Session : public testing::Test {
 TEST_F(Session, OpensReadsAndCloses) {
   EXPECT_EQ(Status(), "Comunicacion no iniciada");
   EXPECT_FALSE(frame.Leer.face.Enabled());
+  frame.CallNum.SetText("600111222");  // without the modem it is not called
   Click("IniCom");
   EXPECT_EQ(program.general.GetForm().MousePointer(), Pointer::Hourglass);
+  std::vector<SessionPhase> phases;
+  program.session.OnStateChanged = [&] { phases.push_back(Phase()); };
   std::vector<std::string> texts;
   frame.ComStat.face.OnChanged = [&] { texts.push_back(Status()); };
   world.loop.RunFor(seconds(15));
+  ASSERT_TRUE(program.Connected);
   EXPECT_EQ(texts,
             (std::vector<std::string>{"Detectando Ostrel VR200...", "Comunicacion iniciada"}));
   EXPECT_EQ(frame.IniCom.face.Caption(), "Cerrar comunicacion");
@@ -62,21 +78,27 @@ TEST_F(Session, OpensReadsAndCloses) {
   EXPECT_EQ(Status(), "Comunicacion no iniciada");
   EXPECT_EQ(frame.IniCom.face.Caption(), "Iniciar comunicacion");
   EXPECT_FALSE(frame.Leer.face.Enabled());
+  using enum SessionPhase;
+  EXPECT_EQ(phases, (std::vector{Opening, Open, Open, Closing, Closed}))
+      << "and once for the request to close";
 }
 
 TEST_F(Session, AsksAboutAClockMoreThanTenMinutesOff) {
   struct Case {
     int secondsOff;
     bool asked;
+    BoxAnswer answer = BoxAnswer::Yes;
   };
-  for (const Case& c : {Case{540, false}, Case{-540, false}, Case{660, true}, Case{-660, true}}) {
+  for (const Case& c : {Case{590, false}, Case{-590, false}, Case{610, true}, Case{-610, true},
+                        Case{660, true, BoxAnswer::No}}) {
     world.dialogs.boxes.clear();
+    world.dialogs.defaultAnswer = c.answer;
     world.clock.SetNow(FromSeconds(ToSeconds(world.logger->Clock()) + c.secondsOff));
     Connect();
     EXPECT_EQ(world.dialogs.boxes.size(), c.asked ? 1U : 0U) << c.secondsOff;
     const auto left =
         std::abs(ToSeconds(world.clock.LocalNow()) - ToSeconds(world.logger->Clock()));
-    EXPECT_EQ(left < 5, c.asked) << "a yes sets the logger's clock";
+    EXPECT_EQ(left < 5, c.asked && c.answer == BoxAnswer::Yes) << "only a yes sets the clock";
     Click("IniCom");
     world.loop.RunFor(seconds(3));
   }
@@ -98,6 +120,106 @@ TEST_F(Session, RequestsWaitUntilThePageIsInFront) {
   EXPECT_EQ(program.conf.General.DNAME, world.logger->Conf().name);
   EXPECT_FALSE(frame.ReadRequest);
   EXPECT_EQ(program.general.GetForm().MousePointer(), Pointer::Default);
+}
+
+/// A request that no session serves holds nobody up, and waits for the next session.
+TEST_F(Session, ARequestOwnsTheModelOnlyAsLongAsItWillBeServed) {
+  const auto stands = [this] {
+    return std::pair(program.session.OwnsModel(), program.session.RequestWaits());
+  };
+  Connect();
+  EXPECT_EQ(stands(), std::pair(false, false));
+  Click("IniCom");
+  Click("Leer");
+  EXPECT_EQ(stands(), std::pair(true, false));
+  world.loop.RunFor(seconds(2));
+  ASSERT_FALSE(program.Connected);
+  EXPECT_EQ(stands(), std::pair(false, true));
+  world.port.SetOpenFault(SimWorld::kPort, PortFault::Busy);
+  Click("IniCom");
+  world.loop.RunFor(seconds(2));
+  EXPECT_EQ(stands(), std::pair(false, true)) << "a session that does not open";
+  world.port.SetOpenFault(SimWorld::kPort, PortFault::None);
+  program.general.Form_Deactivate();
+  Connect();
+  EXPECT_EQ(stands(), std::pair(false, true)) << "another page is in front";
+  EXPECT_FALSE(Sent("#42"));
+  program.general.Form_Activate();
+  EXPECT_EQ(stands(), std::pair(true, false));
+  world.loop.RunFor(seconds(60));
+  EXPECT_TRUE(Sent("#42"));
+  EXPECT_EQ(stands(), std::pair(false, false));
+}
+
+TEST_F(Session, ATransferHoldsThePageAndItsButtons) {
+  Connect();
+  for (const auto& [button, head] : {std::pair{"Leer", "#42"}, {"Escribir", "#45005"}}) {
+    bool looked = false;
+    Upon(head, [&] {
+      looked = true;
+      EXPECT_FALSE(program.general.GetForm().Enabled()) << button;
+      EXPECT_FALSE(frame.Leer.face.Enabled()) << button;
+      EXPECT_FALSE(frame.Escribir.face.Enabled()) << button;
+      EXPECT_TRUE(program.session.OwnsModel()) << button;
+    });
+    Click(button);
+    world.loop.RunFor(seconds(60));
+    EXPECT_TRUE(looked) << button;
+    EXPECT_TRUE(program.general.GetForm().Enabled() && frame.Leer.face.Enabled() &&
+                frame.Escribir.face.Enabled());
+  }
+}
+
+/// Until the pages show the downloaded model, their controls must not be committed into it.
+TEST_F(Session, AModelIsBeingReplacedUntilItIsShown) {
+  Connect();
+  std::vector<bool> busy;
+  auto& name = program.general.GetForm().Get<TextBox>("NameBox");
+  name.face.OnChanged = [&] { busy.push_back(program.ComBusy); };
+  Click("Leer");
+  world.loop.RunFor(seconds(60));
+  EXPECT_EQ(name.Text(), world.logger->Conf().name);
+  EXPECT_EQ(busy, std::vector<bool>{true});
+  EXPECT_FALSE(program.ComBusy);
+}
+
+/// However far the opening has come, and whatever was to follow.
+TEST_F(Session, CanBeBrokenOffWhileItIsOpened) {
+  for (const char* at : {"#40", "#44", "#20", "#26", "#5D"}) {
+    SCOPED_TRACE(at);
+    requests.clear();
+    TimePoint brokenOff{}, ended{};
+    Upon(at, [&] {
+      program.session.BreakOff();
+      brokenOff = world.loop.Now();
+      program.session.OnStateChanged = [&] { ended = world.loop.Now(); };
+    });
+    Click("IniCom");
+    world.loop.RunFor(seconds(5));
+    program.session.OnStateChanged = nullptr;
+    EXPECT_EQ(ended, brokenOff);
+    EXPECT_EQ(requests.back(), at);
+    EXPECT_FALSE(program.Connected || world.port.PortOpen() || frame.Leer.face.Enabled());
+    EXPECT_TRUE(world.dialogs.boxes.empty()) << "nobody is asked about a clock that was not read";
+    EXPECT_EQ(program.general.GetForm().MousePointer(), Pointer::Default);
+    EXPECT_EQ(Status(), "Comunicacion no iniciada");
+    const SessionState& state = program.session.State();
+    EXPECT_EQ(state.phase, SessionPhase::Closed);
+    ASSERT_TRUE(state.failed && state.failed->brokenOff);
+    EXPECT_EQ(state.failed->during, SessionPhase::Opening);
+  }
+  Connect();
+  EXPECT_FALSE(program.session.State().failed);
+}
+
+TEST_F(Session, ASearchForPortsEndsWhateverFails) {
+  program.general.OnScanPorts = [this] {
+    frame.Puerto.Add("COM3");
+    throw std::runtime_error("in the middle");
+  };
+  Click("SearchBut");
+  EXPECT_TRUE(frame.SearchBut.face.Enabled());
+  EXPECT_EQ(frame.Puerto.Text(), "COM3");
 }
 
 TEST_F(Session, UploadRunsAheadOfDownloadInOneTick) {
@@ -142,6 +264,12 @@ TEST_F(Session, AFailedTransferKeepsTheSession) {
   world.loop.RunFor(seconds(5));
   EXPECT_EQ(Status(), "Error!");
   EXPECT_TRUE(program.Connected && frame.Leer.face.Enabled() && frame.Escribir.face.Enabled());
+  ASSERT_TRUE(program.session.State().failed);
+  EXPECT_EQ(program.session.State().failed->link.kind, LinkFault::Kind::LineLost);
+  EXPECT_EQ(program.session.State().failed->during, SessionPhase::Reading);
+  Click("IniCom");
+  world.loop.RunFor(seconds(2));
+  EXPECT_FALSE(program.session.State().failed) << "of a session that was closed nothing is told";
 }
 
 TEST_F(Session, ACarrierLossIsToldOnceAndChangesNothing) {
@@ -205,24 +333,6 @@ TEST_F(Session, ASilentLoggerCostsNineWaits) {
   }
 }
 
-/// Breaking off closes the port: whatever the session is doing then, it ends in the idle state and
-/// asks nothing.
-TEST_F(Session, AnOpeningIsBrokenOffAtAnyPoint) {
-  const std::vector<std::string> phases = {"#40", "#44", "#20", "#26", "#5D"};
-  for (const std::string& phase : phases) {
-    SCOPED_TRACE(phase);
-    world.logger->OnExchange([&](const sim::Exchange& e) {
-      if (e.request == phase) program.comms.Abort();
-    });
-    Click("IniCom");
-    world.loop.RunFor(seconds(1));
-    EXPECT_EQ(Status(), "Comunicacion no iniciada");
-    EXPECT_FALSE(program.Connected || world.port.PortOpen() || frame.Leer.face.Enabled());
-    EXPECT_EQ(program.general.GetForm().MousePointer(), Pointer::Default);
-    EXPECT_TRUE(world.dialogs.boxes.empty());
-  }
-}
-
 /// While a download replaces the model, moving between pages must not write the emptied controls
 /// into it.
 TEST_F(Session, MovingAboutDuringADownloadCommitsNothing) {
@@ -268,44 +378,65 @@ class ModemSession : public Session {
     frame.CallNum.SetText("600111222");
   }
 
-  static std::function<void(Form&)> Type(const std::string& code) {
-    return [code](Form& form) {
-      form.Get<TextBox>("PWText").SetText(code);
-      form.Get<Button>("Aceptar").Click();
-    };
+  void Dial() {
+    Click("IniCom");
+    world.loop.RunFor(seconds(90));
   }
 };
 
 TEST_F(ModemSession, DialsAsksTheCodeAndHangsUp) {
-  world.dialogs.OnModal(Type("1111"));
-  world.dialogs.OnModal([](Form& form) {
-    EXPECT_EQ(form.Title(), "Clave de acceso");
-    form.Get<TextBox>("PWText").SetText("12a");
-    form.Get<Button>("Aceptar").Click();
-    EXPECT_TRUE(form.Visible()) << "a code has to be a number";
-    form.Get<TextBox>("PWText").SetText("4321");
-    form.Get<Button>("Aceptar").Click();
-  });
-  Click("IniCom");
-  world.loop.RunFor(seconds(60));
+  for (const char* code : {"1111", "12a", "4321"}) world.dialogs.GiveCode(code);
+  Dial();
   EXPECT_TRUE(program.Connected);
-  EXPECT_EQ(world.dialogs.beeps, 2U);
-  EXPECT_EQ(world.dialogs.boxes.size(), 1U);
+  EXPECT_EQ(world.dialogs.codesAsked, 3U);
+  ASSERT_EQ(world.dialogs.boxes.size(), 1U);
+  EXPECT_EQ(world.dialogs.boxes[0].text, "La clave de acceso debe ser un numero");
+  EXPECT_FALSE(Sent("#1112a"));
   Click("IniCom");
   world.loop.RunFor(seconds(10));
   EXPECT_FALSE(program.Connected);
   EXPECT_EQ(requests.back(), "ATH");
+
+  world.dialogs.GiveCode("4321");
+  Dial();
+  ASSERT_TRUE(program.Connected);
+  const TimePoint start = world.loop.Now();
+  program.ShutDown();
+  EXPECT_EQ(world.loop.Now(), start) << "the end of the program hangs nothing up politely";
+  EXPECT_FALSE(world.port.PortOpen());
 }
 
 TEST_F(ModemSession, CancellingTheCodeThreeTimesFailsTheHandshake) {
-  for (int pass = 0; pass < 3; ++pass)
-    world.dialogs.OnModal([](Form& form) { form.Get<Button>("Cancelar").Click(); });
-  Click("IniCom");
-  world.loop.RunFor(seconds(90));
+  Dial();
   EXPECT_FALSE(program.Connected);
-  EXPECT_EQ(world.dialogs.Unused(), 0U);
-  for (const std::string& request : requests) EXPECT_FALSE(request.starts_with("#11")) << request;
+  EXPECT_EQ(world.dialogs.codesAsked, 3U);
+  EXPECT_FALSE(Sent("#11"));
   EXPECT_EQ(std::ranges::count(requests, "#40"), 3) << "tried all the same";
+  EXPECT_EQ(program.session.State().failed->code, CodeAnswer::NotGiven);
+  world.dialogs.GiveCode("1111");
+  Dial();
+  EXPECT_EQ(program.session.State().failed->code, CodeAnswer::Given);
+}
+
+TEST_F(ModemSession, TheFormTakesNumbersOnly) {
+  std::string code = "former";
+  const auto ask = [&](std::vector<std::string> typed, const char* last) {
+    world.dialogs.OnModal([=](Form& form) {
+      EXPECT_EQ(form.Title(), "Clave de acceso");
+      for (const std::string& text : typed) {
+        form.Get<TextBox>("PWText").SetText(text);
+        form.Get<Button>("Aceptar").Click();
+      }
+      form.Get<Button>(last).Click();
+    });
+    program.pwForm.ShowModal(code);
+    return code;
+  };
+  EXPECT_EQ(ask({"12a", "4321"}, "Aceptar"), "4321");
+  EXPECT_EQ(world.dialogs.boxes.size(), 1U);
+  EXPECT_EQ(world.dialogs.boxes[0].icon, BoxIcon::Exclamation);
+  EXPECT_EQ(ask({}, "Cancelar"), "");
+  EXPECT_EQ(world.dialogs.beeps, 2U);
 }
 
 }  // namespace

@@ -118,8 +118,9 @@ TEST(SimLogger, AuxiliaryAndExpansionInputs) {
 
   SimBench bench(Model::S100);
   Configuration conf;
-  conf.kept["EXPINPUT8"] = "EXPINPUTACONF8=Nivel,UNIT=m";
-  conf.kept["EXPINPUT95"] = "EXPINPUTDCONF95=Puerta";
+  conf.expansion[8].name = "Nivel";
+  conf.expansion[8].unit = "m";
+  conf.expansion[95].name = "Puerta";
   bench.logger.SetConf(conf);
   EXPECT_EQ(bench.Ask("#2B252C"), "#D4,Nivel,m,,,,,,,,,,,,,,");
   EXPECT_EQ(bench.Ask("#2BADB4"), "#D4,,,,,,,,,,,,,,,Puerta,");
@@ -216,7 +217,7 @@ TEST(SimLogger, ExchangesAreTold) {
   bench.Ask("#42");
   bench.Ask("#45000ID");
   bench.Ask("#77");
-  EXPECT_THAT(told, ElementsAre("#5D|#A2260115083005|1|", "#42|#BD000DNAME,|131|",
+  EXPECT_THAT(told, ElementsAre("#5D|#A2260115083005|1|", "#42|#BD000DNAME,|425|",
                                 "#45000ID|#BA0000|1|= expected at \"\"", "#77||0|unknown request"));
 }
 

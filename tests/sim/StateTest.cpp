@@ -46,7 +46,6 @@ TEST(SimConfiguration, TheDemoSuitsEveryModel) {
       EXPECT_NE(demo.digitals[static_cast<std::size_t>(i)].name, "");
     for (int i = 0; i < kAnalogs; ++i)
       EXPECT_EQ(demo.analogs[static_cast<std::size_t>(i)].name.empty(), i >= traits.analogs);
-    EXPECT_EQ(NameOfKept(demo, "FLOWCONF0").unit, "m\xB3/h");
   }
 }
 
@@ -65,7 +64,16 @@ TEST(SimConfiguration, DamagedStatementsAreRefusedOrLeaveSomethingSound) {
       "AICONF1=Nivel,UNIT=m,5V,BSVAL= 0,FSVAL= 5,BSUNIT=-1.5,FSUNIT= 20,GROUP= 1",
       "+ALMA1=Alto,INDEX= 0,MAX= 10,MIN=-1,HIST= .25,P= 3,NOSEND,EQ= 0,ACTHI= 5,ACTLO=,ACTNOM= 42",
       "AGRP0= 1,T= 10,V= 12",
-      "+ALMF9=Flag,INDEX= 0,NOSEND,ACTHI= 1,ACTLO="};
+      "+ALMF9=Flag,INDEX= 0,NOSEND,ACTHI= 1,ACTLO=",
+      "CT3= 60,START=8:00:00,STOP=20:30:00,WEEK=1111100,EQ= 3,ACT= 5 42",
+      "MT0=6:00:00,MASK= 2147483649,ACT= 7",
+      "FLOWCONF1=Caudal,UNIT=m3/h,TB= 60,REGDAYMIN,RATIO=0.25",
+      "MCCONF3=Balance,UNIT=m3,EQ=Q0-Q1",
+      "BAUD= 9600",
+      "MBCONF31=Par,UNIT=Nm,SLAVE= 7,REGADD= 40001,FLOAT,CONST=-.5,MASK= 3,NEGATE,RATIO=0.1",
+      "MACRO7={S0=1,NAME=Bomba}",
+      "SERVERPORT= 2020",
+      "+TEL=+34600111222"};
   for (const std::string& statement : statements) {
     Configuration conf;
     ASSERT_EQ(ApplyStatement(statement, self, conf), "") << statement;
@@ -73,7 +81,7 @@ TEST(SimConfiguration, DamagedStatementsAreRefusedOrLeaveSomethingSound) {
   Random random(77);
   int taken = 0;
   int refused = 0;
-  for (int round = 0; round < 20'000; ++round) {
+  for (int round = 0; round < 6000; ++round) {
     std::string statement = random.Pick(statements);
     for (int hits = random.Between(1, 3); hits > 0 && !statement.empty(); --hits) {
       const auto at = static_cast<std::size_t>(random.Next() % statement.size());
@@ -91,8 +99,8 @@ TEST(SimConfiguration, DamagedStatementsAreRefusedOrLeaveSomethingSound) {
     for (const std::string& record : ConfigurationRecords(conf, self))
       ASSERT_EQ(record.find_first_of("\r\n"), std::string::npos) << "after " << statement;
   }
-  EXPECT_GT(taken, 1000);
-  EXPECT_GT(refused, 1000);
+  EXPECT_GT(taken, 500);
+  EXPECT_GT(refused, 500);
 }
 
 // ---- The saved state
@@ -103,8 +111,6 @@ TEST(SimState, EverythingComesBack) {
       SimBench bench(model);
       Configuration conf = RandomConfiguration(model, bench.logger.Self().features, seed);
       conf.restoredText = " \\ = \x01\x81\x80\xFF ";
-      conf.kept["ALMM1/0"] = "+ALMM1=a = b,INDEX= 0";
-      for (int i = 0; i < 40; ++i) conf.macros.push_back("MACRO" + std::to_string(i) + "={X}");
       bench.logger.SetConf(conf);
       bench.logger.SetClock({2031, 12, 31, 23, 59, 58});
       bench.Ask("#470");
@@ -140,6 +146,35 @@ TEST(SimState, IsReadableText) {
   EXPECT_THAT(state, Not(HasSubstr("digital.0")));
 }
 
+TEST(SimState, WhatStandsAtAStandardOtherThanZeroComesBack) {
+  SimBench bench(Model::S100);
+  Configuration conf;
+  conf.flows[1].ratio = 0;
+  conf.expansion[7].ratio = 0;
+  conf.gprs.server = "";
+  bench.logger.SetConf(conf);
+  std::string error;
+  SimBench other(Model::S100);
+  other.logger.SetConf(DemoConfiguration(Model::S100));
+  ASSERT_TRUE(other.logger.LoadState(bench.logger.SaveState(), error)) << error;
+  EXPECT_EQ(other.logger.Conf(), conf);
+}
+
+TEST(SimState, StatementsThatFormerVersionsKeptAreTaken) {
+  SimBench bench(Model::VR200);
+  std::string error;
+  const std::string state =
+      "ostrel-sim-state = 1\nmodel = VR200\nclock = 2026-01-15 08:30:05\n"
+      "kept.LT3 = LT3= 86400,ACT= 5\nkept.MBCONF0 = MBCONF0=Tensi\xC3\xB3n\n"
+      "kept.CT1 = -CT1\nmacro.0000 = MACRO7={X}\nmacro.0001 = rubbish\n";
+  ASSERT_TRUE(bench.logger.LoadState(state, error)) << error;
+  EXPECT_EQ(bench.logger.Conf().longTimers[3].seconds, 86'400);
+  EXPECT_EQ(bench.logger.Conf().modbus[0].unit, "") << "it was no whole statement";
+  const auto records = ConfigurationRecords(bench.logger.Conf(), bench.logger.Self());
+  EXPECT_THAT(records, testing::Contains("MACROS,7,{X}"));
+  EXPECT_THAT(records, Not(testing::Contains(HasSubstr("rubbish"))));
+}
+
 TEST(SimState, ABadStateChangesNothing) {
   SimBench bench(Model::BQ);
   bench.logger.SetConf(DemoConfiguration(Model::BQ));
@@ -157,8 +192,8 @@ TEST(SimState, ABadStateChangesNothing) {
         with("resend-count", "resend-cuont"), with("interface = 4", "interface = 5"),
         with("name = ", "name = \xFF"), with("name = ", "name = \\z0"),
         with("channels = 255 ", "channels = "), with("channels = 255 ", "channels = 255 255 "),
-        with("total.0 = ", "total.0 = x"), with("value-at-end = 10", "value-at-end = inf"),
-        state + "name = twice\n"}) {
+        with("total.0 = ", "total.0 = x"), with("days = 2147483649", "days = 4294967296"),
+        with("value-at-end = 10", "value-at-end = inf"), state + "name = twice\n"}) {
     std::string error;
     EXPECT_FALSE(bench.logger.LoadState(bad, error)) << bad;
     EXPECT_NE(error, "");

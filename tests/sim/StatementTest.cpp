@@ -35,7 +35,6 @@ TEST(SimStatement, GeneralStatementsAndTheirRecords) {
        {"REST=normal", "REST,normal"},
        {"RETRYMAX= 5", "RENVN,5"},
        {"RETRYTIME= 120", "RENVT,120"},
-       {"SAMPLERATE=1", "SRATE,1"},
        {"+TLF=600,Prio=8,PRV3,MASKMODE0",
         "TLF,0,600,8,3,-1,0,255,255,255,255,255,255,255,255,255,255,255,255,255,255,255,255"},
        {"+TLF=+34600,Prio=0,PRV0,MASK= 21 97 61 255 255 255 255 255 255 255 255 255 255 255 255 0,"
@@ -163,14 +162,7 @@ TEST(SimStatement, WhatIsMalformedIsRefused) {
       "+ALMF0=x,INDEX= 1,ACTHI=,ACTLO=",
       "+ALMF0=x,INDEX= 0,EQ= 0,ACTHI=,ACTLO=",
       "-ALMF0,INDEX= 1",
-      "LT16= 60,ACT=",
-      "LT= 60",
-      "LT3 60",
-      "MACRO56={X}",
-      "MACRO0={X",
-      "F16={X}",
-      "CLEARMACRO0",
-      "SAMPLERATE=1"};
+  };
   // The middle of an alarm that is sound at both ends.
   const char* const fields[] = {"PO= 0,PC= 0,EQ= 0",
                                 "PC= 0,EQ= 0",
@@ -219,7 +211,6 @@ TEST(SimStatement, TheFirmwareDecidesWhatIsKnown) {
   const Gate gates[] = {
       {kResendRules, Model::KA1, "RETRYMAX= 3", false},
       {kResendRules, Model::KA1, "RETRYTIME= 60", false},
-      {kSampleRate, Model::BQ, "SAMPLERATE=0", false},
       {kExtendedMasks, Model::BP, "+TLF=600,Prio=0,PRV0,MASKMODE0", false},
       {kExtendedMasks, Model::BP, "+TLF=600,Prio=0,PRV0,D0,A3", true},
       {kNormallyClosed, Model::S100, "DINAME1=x,NC", false},
@@ -229,12 +220,6 @@ TEST(SimStatement, TheFirmwareDecidesWhatIsKnown) {
        "+ALMA0=,INDEX= 0,MAX= 0,MIN= 0,HIST= 0,EQ= 0,ACTHI=,ACTLO=,ACTNOM=", true},
       {kFlagAlarms, Model::KA2, "-ALMF0,INDEX= 0", false},
       {kFlagAlarms, Model::KA2, "+ALMF0=,INDEX= 0,ACTHI=,ACTLO=", false},
-      {kMonthlyTimers, Model::KA2, "-MT0", false},
-      {kTotalRatio, Model::KA2, "TOTALRATIO0= 1", false},
-      {kModbusSlave, Model::VR200, "MBSLAVE=0", false},
-      {kMath, Model::VR200, "DISMC0", false},
-      {kGprs, Model::VR200, "APNSERVER=movistar.es", false},
-      {kFtp, Model::VR200, "FTPIP=10.0.0.1", false},
   };
   for (const Gate& gate : gates) {
     Configuration conf;
@@ -260,28 +245,6 @@ TEST(SimStatement, WhatTheFirmwareCannotSayKeepsItsValue) {
   EXPECT_EQ(conf.analogs[0].interface, Interface::Volts10);
 }
 
-TEST(SimStatement, OtherBlocksAreKeptByWhatTheySet) {
-  const Identity self{Model::S100, kAll};
-  Configuration conf;
-  for (const char* statement :
-       {"LT3= 86400,ACT= 5 42", "CT15= 60", "-CT15", "FLOWCONF0=Caudal,UNIT=m3/h,TB=0,RATIO=1",
-        "+ALMFLOW0=x,INDEX= 1,MAX= 1", "-ALMFLOW0,INDEX= 2", "EXPINPUTDCONF7=Puerta",
-        "DISEXPINPUT7", "BAUD= 9600", "GPRSDIS", "GPRSEN", "CLEARMACRO", "MACRO7={X,Y,NAME=z}",
-        "F0={D0}", "MACRO7={X}"})
-    EXPECT_EQ(ApplyStatement(statement, self, conf), "") << statement;
-  using Map = std::map<std::string, std::string>;
-  EXPECT_EQ(conf.kept, (Map{{"LT3", "LT3= 86400,ACT= 5 42"},
-                            {"CT15", "-CT15"},
-                            {"FLOWCONF0", "FLOWCONF0=Caudal,UNIT=m3/h,TB=0,RATIO=1"},
-                            {"ALMFLOW0/1", "+ALMFLOW0=x,INDEX= 1,MAX= 1"},
-                            {"ALMFLOW0/2", "-ALMFLOW0,INDEX= 2"},
-                            {"EXPINPUT7", "DISEXPINPUT7"},
-                            {"BAUD", "BAUD= 9600"},
-                            {"GPRS", "GPRSEN"}}));
-  EXPECT_EQ(conf.macros,
-            (std::vector<std::string>{"MACRO7={X,Y,NAME=z}", "F0={D0}", "MACRO7={X}"}));
-}
-
 TEST(SimStatement, TheListHasTwentySlots) {
   const Identity self{Model::KA1, 0};
   Configuration conf;
@@ -299,14 +262,15 @@ TEST(SimRecords, EveryModelReportsWhatItHas) {
   const auto count = [](Model model, std::uint32_t features) {
     return ConfigurationRecords({}, {model, features}).size();
   };
-  const std::size_t general = 6 + 20;
-  const std::size_t flags = 32;
-  EXPECT_EQ(count(Model::KA1, 0), general + 8 * 9);
-  EXPECT_EQ(count(Model::KA2, kFlagAlarms), general + 9 * 9 + flags);
-  EXPECT_EQ(count(Model::VR200, 0), general + 8 * 9 + 4 * 10);
-  EXPECT_EQ(count(Model::S100, 0), general + 2 * 9 + 2 * 10);
-  EXPECT_EQ(count(Model::BP, kFlagAlarms), general + 8 * 9 + 4 * 10 + flags);
-  EXPECT_EQ(count(Model::BQ, 0), general + 1 + 4 * 9 + 10);
+  // General, telephones, and the three kinds of timer that every firmware has.
+  const std::size_t always = 6 + 20 + 3 * 32;
+  const std::size_t probesAndAux = 4 * 9 + 4 * 9 + 1;
+  EXPECT_EQ(count(Model::KA1, 0), always + 8 * 9 + 8 * 9 + probesAndAux);
+  EXPECT_EQ(count(Model::KA2, kFlagAlarms), always + 9 * 9 + 8 * 9 + probesAndAux + 32);
+  EXPECT_EQ(count(Model::VR200, 0), always + 8 * 9 + 4 * 10 + 8 * 9 + 1 + 32 * 3);
+  EXPECT_EQ(count(Model::S100, 0), always + 2 * 9 + 2 * 10 + 2 * 9);
+  EXPECT_EQ(count(Model::BP, kMath | kGprs), always + 8 * 9 + 4 * 10 + 8 * 9 + 4 * 3 + 1);
+  EXPECT_EQ(count(Model::BQ, kTotalRatio), always + 4 * 9 + 10 + 1 + 2 * 10);
   const auto records = ConfigurationRecords({}, {Model::KA1, 0});
   EXPECT_EQ(records.front(), "DNAME,");
   EXPECT_EQ(records[6], "TLF,0,,0,0,65535");

@@ -1,6 +1,5 @@
 #include <algorithm>
 
-#include "cli/Json.h"
 #include "cli/commands/Commands.h"
 #include "shell/check/CheckRules.h"
 
@@ -16,34 +15,27 @@ std::string_view SeverityText(Severity severity) {
   return severity == Severity::Error ? "error" : "warning";
 }
 
-void WriteFound(CommandContext& context, const std::string& file,
-                const std::vector<FoundByRule>& found, std::size_t errors) {
-  JsonWriter json(context.console.Out());
-  json.Object([&] {
-    json.Member("file", file);
-    json.Member("errors", errors);
-    json.Member("warnings", found.size() - errors);
-    json.ArrayMember("findings", [&] {
-      for (const auto& [rule, finding] : found)
-        json.Object([&] {
-          json.Member("rule", rule->id);
-          json.Member("severity", SeverityText(rule->severity));
-          json.Member("section", finding.section);
-          json.Member("key", finding.key);
-          json.Member("sentence", finding.sentence);
-        });
-    });
-  });
-  json.End();
+Json FoundJson(const std::string& file, const std::vector<FoundByRule>& found, std::size_t errors) {
+  Json list = Json::array();
+  for (const auto& [rule, finding] : found)
+    list.push_back({{"rule", rule->id},
+                    {"severity", SeverityText(rule->severity)},
+                    {"section", finding.section},
+                    {"key", finding.key},
+                    {"sentence", finding.sentence}});
+  return {{"file", file},
+          {"errors", errors},
+          {"warnings", found.size() - errors},
+          {"findings", std::move(list)}};
 }
 
-void PrintFound(Console& console, const std::vector<FoundByRule>& found) {
+void PrintFound(std::ostream& out, const std::vector<FoundByRule>& found) {
   for (const auto& [rule, finding] : found) {
-    console.Out() << SeverityText(rule->severity) << ": ";
+    out << SeverityText(rule->severity) << ": ";
     if (!finding.section.empty())
-      console.Out() << '[' << Printable(finding.section) << ']' << (finding.key.empty() ? "" : " ")
-                    << Printable(finding.key) << ": ";
-    console.Out() << Printable(finding.sentence) << " (" << rule->id << ")\n";
+      out << '[' << Printable(finding.section) << ']' << (finding.key.empty() ? "" : " ")
+          << Printable(finding.key) << ": ";
+    out << Printable(finding.sentence) << " (" << rule->id << ")\n";
   }
 }
 
@@ -53,16 +45,14 @@ ExitCode RunCheck(CommandContext& context, const CheckOptions& options) {
       return context.console.Fail(ExitCode::Usage, "there is no rule " + id);
   const auto configuration = context.OpenFile(options.file);
   if (!configuration) return ExitCode::BadFile;
-  IniClass document(context.environment.files);
+  IniClass document(context.platform.files);
   document.OpenINI(options.file, false);
   const Examined file(*configuration, context.options.features, document, context.Translator());
   const std::vector<FoundByRule> found = Examine(file, options.silenced);
   const auto errors = static_cast<std::size_t>(std::ranges::count_if(
       found, [](const FoundByRule& one) { return one.rule->severity == Severity::Error; }));
-  if (context.options.json)
-    WriteFound(context, options.file, found, errors);
-  else
-    PrintFound(context.console, found);
+  context.Show({[&] { return FoundJson(options.file, found, errors); },
+                [&](std::ostream& out) { PrintFound(out, found); }});
   if (found.empty()) context.console.Note(options.file + ": nothing found");
   return errors > 0 ? ExitCode::Differences : ExitCode::Done;
 }

@@ -1,4 +1,3 @@
-#include "cli/Json.h"
 #include "cli/commands/Commands.h"
 #include "cli/commands/OnlineCommand.h"
 #include "host/LoggerText.h"
@@ -24,24 +23,19 @@ ExitCode RunClock(Online& online, bool set) {
   const ExitCode read = ReadClock(online);
   if (read != ExitCode::Done) return read;
   const DateTime& logger = online.configurator.live.DeviceClock;
-  const DateTime computer = online.context.environment.clock.LocalNow();
+  const DateTime computer = online.context.platform.clock.LocalNow();
   const std::int64_t ahead = ToSeconds(logger) - ToSeconds(computer);
-  std::ostream& out = online.context.console.Out();
-  if (online.context.options.json) {
-    JsonWriter json(out);
-    json.Object([&] {
-      json.Member("logger", ClockText(logger));
-      json.Member("computer", ClockText(computer));
-      json.Member("secondsAhead", ahead);
-      json.Member("set", set);
-    });
-    json.End();
-  } else {
-    out << "logger     " << ClockText(logger) << '\n'
-        << "computer   " << ClockText(computer) << '\n'
-        << "difference " << ahead << " s\n";
-  }
-  return ExitCode::Done;
+  return online.context.Show({[&] {
+                                return Json{{"logger", ClockText(logger)},
+                                            {"computer", ClockText(computer)},
+                                            {"secondsAhead", ahead},
+                                            {"set", set}};
+                              },
+                              [&](std::ostream& out) {
+                                out << "logger     " << ClockText(logger) << '\n'
+                                    << "computer   " << ClockText(computer) << '\n'
+                                    << "difference " << ahead << " s\n";
+                              }});
 }
 
 }  // namespace

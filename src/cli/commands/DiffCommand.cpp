@@ -1,5 +1,4 @@
 #include "cli/DifferenceText.h"
-#include "cli/Json.h"
 #include "cli/commands/Commands.h"
 #include "cli/commands/OnlineCommand.h"
 #include "host/LoggerText.h"
@@ -15,23 +14,16 @@ struct DiffOptions {
 
 ExitCode Report(CommandContext& context, const DiffOptions& options, const Comparison& comparison,
                 std::optional<std::int32_t> features) {
-  Console& console = context.console;
-  if (context.options.json) {
-    JsonWriter json(console.Out());
-    json.Object([&] {
-      json.Member("a", options.a);
-      json.Member("b", options.b);
-      json.Key("features");
-      features ? json.Value(FeaturesText(*features)) : json.Value(nullptr);
-      json.Member("same", comparison.isSame);
-      WriteDifferences(json, comparison);
-    });
-    json.End();
-  } else {
-    PrintDifferences(console, comparison);
-    if (comparison.isSame)
-      console.Note(features ? "the same to a logger of these features" : "the same");
-  }
+  context.Show({[&] {
+                  return Json{{"a", options.a},
+                              {"b", options.b},
+                              {"features", features ? Json(FeaturesText(*features)) : Json()},
+                              {"same", comparison.isSame},
+                              {"differences", DifferencesJson(comparison)}};
+                },
+                [&](std::ostream& out) { PrintDifferences(out, comparison); }});
+  if (comparison.isSame && !context.options.json)
+    context.console.Note(features ? "the same to a logger of these features" : "the same");
   return comparison.isSame ? ExitCode::Done : ExitCode::Differences;
 }
 

@@ -1,5 +1,4 @@
 #include "cli/ConfFile.h"
-#include "cli/Json.h"
 #include "cli/commands/Commands.h"
 #include "cli/commands/OnlineCommand.h"
 #include "host/LoggerText.h"
@@ -9,24 +8,22 @@ namespace {
 
 ExitCode RunDownload(Online& online, const std::string& file) {
   CommandContext& context = online.context;
+  const ExitCode mayReplace = MayReplace(context, file, online.configurator.profile);
+  if (mayReplace != ExitCode::Done) return mayReplace;
   const ExitCode downloaded = online.session.Download();
   if (downloaded != ExitCode::Done) return downloaded;
   const ExitCode saved = SaveTo(context, online.configurator, file);
   if (saved != ExitCode::Done) return saved;
-  if (!context.options.json) {
-    context.console.Note("configuration of " + online.configurator.info.SerialNumber +
-                         " saved to " + file);
-    return ExitCode::Done;
-  }
-  JsonWriter json(context.console.Out());
-  json.Object([&] {
-    json.Member("file", file);
-    json.Member("model", online.configurator.profile.TargetName);
-    json.Member("serial", online.configurator.info.SerialNumber);
-    json.Member("features", FeaturesText(online.configurator.info.Features));
-  });
-  json.End();
-  return ExitCode::Done;
+  const Configurator& configurator = online.configurator;
+  const std::string& serial = configurator.info.SerialNumber;
+  context.console.Note("configuration of " + serial + " saved to " + file);
+  return context.Show({[&] {
+                         return Json{{"file", file},
+                                     {"model", configurator.profile.TargetName},
+                                     {"serial", serial},
+                                     {"features", FeaturesText(configurator.info.Features)}};
+                       },
+                       [](std::ostream&) {}});
 }
 
 }  // namespace

@@ -1,4 +1,3 @@
-#include "cli/Json.h"
 #include "cli/commands/Commands.h"
 #include "cli/commands/OnlineCommand.h"
 #include "host/LoggerText.h"
@@ -6,21 +5,18 @@
 namespace ostrel::cli {
 namespace {
 
-void WriteInfo(JsonWriter& json, const Online& online) {
+Json InfoJson(const Online& online) {
   const DeviceInfo& info = online.configurator.info;
-  json.Object([&] {
-    json.Member("port", online.session.Port().name);
-    json.Member("model", online.configurator.profile.TargetName);
-    json.Member("firmware", VersionText(info.FirmwareVersion));
-    json.Member("features", FeaturesText(info.Features));
-    json.Member("serial", info.SerialNumber);
-    json.Member("battery", info.BatteryVoltage);
-    json.Member("rssi", info.Rssi);
-    json.Member("logSize", info.LogSize);
-    json.Member("logUsed", info.LogUsed);
-    json.Member("clock", ClockText(online.configurator.live.DeviceClock));
-  });
-  json.End();
+  return {{"port", online.session.Port().name},
+          {"model", online.configurator.profile.TargetName},
+          {"firmware", VersionText(info.FirmwareVersion)},
+          {"features", FeaturesText(info.Features)},
+          {"serial", info.SerialNumber},
+          {"battery", JsonNumber(info.BatteryVoltage)},
+          {"rssi", info.Rssi},
+          {"logSize", info.LogSize},
+          {"logUsed", info.LogUsed},
+          {"clock", ClockText(online.configurator.live.DeviceClock)}};
 }
 
 void PrintInfo(std::ostream& out, const Online& online) {
@@ -37,14 +33,8 @@ void PrintInfo(std::ostream& out, const Online& online) {
 }
 
 ExitCode RunInfo(Online& online) {
-  Console& console = online.context.console;
-  if (online.context.options.json) {
-    JsonWriter json(console.Out());
-    WriteInfo(json, online);
-  } else {
-    PrintInfo(console.Out(), online);
-  }
-  return ExitCode::Done;
+  return online.context.Show(
+      {[&] { return InfoJson(online); }, [&](std::ostream& out) { PrintInfo(out, online); }});
 }
 
 }  // namespace

@@ -1,6 +1,5 @@
 #include <variant>
 
-#include "cli/Json.h"
 #include "cli/commands/Commands.h"
 #include "cli/commands/OnlineCommand.h"
 #include "host/LoggerText.h"
@@ -72,30 +71,28 @@ std::vector<States> StatesOf(const Configurator& configurator) {
           {"flags", "flags", static_cast<std::uint32_t>(live.FlagMask), 16}};
 }
 
-void WriteLive(std::ostream& out, const Online& online, bool watch) {
-  JsonWriter json(out, watch ? JsonWriter::Layout::OneLine : JsonWriter::Layout::Indented);
-  json.Object([&] {
-    json.Member("time", ClockText(online.context.environment.clock.LocalNow()));
-    for (const States& states : StatesOf(online.configurator))
-      json.ArrayMember(states.key, [&] {
-        for (int i = 0; i < states.count; ++i) json.Value((states.mask >> i & 1U) != 0);
-      });
-    for (const Group& group : GroupsOf(online.configurator))
-      json.ArrayMember(group.key, [&] {
-        for (const Measure& measure : group.measures)
-          json.Object([&] {
-            json.Member("index", measure.index);
-            json.Member("name", measure.name);
-            std::visit([&](auto value) { json.Member("value", value); }, measure.value);
-            json.Member("unit", measure.unit);
-          });
-      });
-  });
-  json.End();
+Json LiveJson(const Online& online) {
+  Json live{{"time", ClockText(online.context.platform.clock.LocalNow())}};
+  for (const States& states : StatesOf(online.configurator)) {
+    Json& list = live[std::string(states.key)] = Json::array();
+    for (int i = 0; i < states.count; ++i) list.push_back((states.mask >> i & 1U) != 0);
+  }
+  for (const Group& group : GroupsOf(online.configurator)) {
+    Json& list = live[std::string(group.key)] = Json::array();
+    for (const Measure& measure : group.measures) {
+      const auto* number = std::get_if<float>(&measure.value);
+      list.push_back(
+          {{"index", measure.index},
+           {"name", measure.name},
+           {"value", number ? JsonNumber(*number) : Json(std::get<std::int32_t>(measure.value))},
+           {"unit", measure.unit}});
+    }
+  }
+  return live;
 }
 
 void PrintLive(std::ostream& out, const Online& online) {
-  out << ClockText(online.context.environment.clock.LocalNow()) << '\n';
+  out << ClockText(online.context.platform.clock.LocalNow()) << '\n';
   for (const States& states : StatesOf(online.configurator)) {
     if (states.count == 0) continue;
     out << states.title << ' ';
@@ -115,16 +112,14 @@ void PrintLive(std::ostream& out, const Online& online) {
 }
 
 void Show(const Online& online, bool watch) {
-  std::ostream& out = online.context.console.Out();
-  if (online.context.options.json)
-    WriteLive(out, online, watch);
-  else
-    PrintLive(out, online);
-  out.flush();
+  online.context.Show(
+      {[&] { return LiveJson(online); }, [&](std::ostream& out) { PrintLive(out, online); }},
+      watch ? JsonLayout::OneLine : JsonLayout::Indented);
+  online.context.console.Out().flush();
 }
 
 ExitCode RunLive(Online& online, bool watch) {
-  EventLoop& loop = online.context.environment.loop;
+  EventLoop& loop = online.context.platform.loop;
   const auto interrupted = [&] { return online.session.Interrupted(); };
   for (;;) {
     const TimePoint next = loop.Now() + kWatchInterval;

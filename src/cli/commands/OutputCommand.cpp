@@ -1,4 +1,3 @@
-#include "cli/Json.h"
 #include "cli/commands/Commands.h"
 #include "cli/commands/OnlineCommand.h"
 #include "host/LoggerText.h"
@@ -26,17 +25,13 @@ ExitCode RunOutput(Online& online, const OutputOptions& options) {
     return comms.SetSingleOutput(options.index, on) && !comms.RxLine.empty();
   });
   if (sent != ExitCode::Done) return sent;
-  if (online.context.options.json) {
-    JsonWriter json(console.Out());
-    json.Object([&] {
-      json.Member("output", options.index);
-      json.Member("on", on);
-    });
-    json.End();
-  } else {
-    console.Out() << "output " << options.index << " set " << options.state << '\n';
-  }
-  return ExitCode::Done;
+  return online.context.Show({[&] {
+                                return Json{{"output", options.index}, {"on", on}};
+                              },
+                              [&](std::ostream& out) {
+                                out << "output " << options.index << " set " << options.state
+                                    << '\n';
+                              }});
 }
 
 }  // namespace

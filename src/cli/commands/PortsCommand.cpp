@@ -1,32 +1,30 @@
-#include "cli/Json.h"
 #include "cli/commands/Commands.h"
 
 namespace ostrel::cli {
 namespace {
 
-ExitCode RunPorts(CommandContext& context) {
-  const std::vector<PortEntry> entries = context.environment.port.Entries();
-  std::ostream& out = context.console.Out();
-  if (context.options.json) {
-    JsonWriter json(out);
-    json.Array([&] {
-      for (const PortEntry& entry : entries)
-        json.Object([&] {
-          json.Member("number", entry.number);
-          json.Member("name", "COM" + std::to_string(entry.number));
-          json.Member("device", entry.device);
-          json.Member("description", entry.description);
-        });
-    });
-    json.End();
-    return ExitCode::Done;
-  }
+Json PortsJson(const std::vector<PortEntry>& entries) {
+  Json list = Json::array();
+  for (const PortEntry& entry : entries)
+    list.push_back({{"number", entry.number},
+                    {"name", "COM" + std::to_string(entry.number)},
+                    {"device", entry.device},
+                    {"description", entry.description}});
+  return list;
+}
+
+void PrintPorts(std::ostream& out, const std::vector<PortEntry>& entries) {
   for (const PortEntry& entry : entries) {
     out << "COM" << entry.number << "  " << Printable(entry.device);
     if (!entry.description.empty()) out << "  " << Printable(entry.description);
     out << '\n';
   }
-  return ExitCode::Done;
+}
+
+ExitCode RunPorts(CommandContext& context) {
+  const std::vector<PortEntry> entries = context.platform.port.Entries();
+  return context.Show(
+      {[&] { return PortsJson(entries); }, [&](std::ostream& out) { PrintPorts(out, entries); }});
 }
 
 }  // namespace

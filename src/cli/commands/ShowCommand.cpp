@@ -2,7 +2,6 @@
 #include <unordered_map>
 
 #include "base/Channels.h"
-#include "cli/Json.h"
 #include "cli/commands/Commands.h"
 #include "shell/FieldWords.h"
 
@@ -14,40 +13,32 @@ struct ShowOptions {
   bool all = false;
 };
 
-void WritePhone(JsonWriter& json, const ConfPhone& phone, bool isS100) {
-  if (phone.TLF.empty()) return json.Value(nullptr);
-  json.Object([&] {
-    json.Member("number", phone.TLF);
-    json.Member("priority", phone.Prio);
-    json.Member("privilege", phone.PRV);
-    json.Member("maskMode", phone.MASKMODE);
-    json.ArrayMember("mask", [&] {
-      for (int place = 0; place < kMaskPlaces; ++place)
-        if (const std::string token = ChannelToToken(phone.ListaMask[place], isS100);
-            !token.empty())
-          json.Value(token);
-    });
-  });
+Json PhoneJson(const ConfPhone& phone, bool isS100) {
+  if (phone.TLF.empty()) return nullptr;
+  Json mask = Json::array();
+  for (int place = 0; place < kMaskPlaces; ++place)
+    if (const std::string token = ChannelToToken(phone.ListaMask[place], isS100); !token.empty())
+      mask.push_back(token);
+  return {{"number", phone.TLF},
+          {"priority", phone.Prio},
+          {"privilege", phone.PRV},
+          {"maskMode", phone.MASKMODE},
+          {"mask", std::move(mask)}};
 }
 
 /// One field as the kind of JSON value that fits its kind.
-void WriteField(JsonWriter& json, const FieldView& field, bool isS100) {
-  std::visit(
-      [&](const auto* value) {
-        using Kind = std::remove_cvref_t<decltype(*value)>;
-        if constexpr (std::same_as<Kind, ConfPhone>)
-          WritePhone(json, *value, isS100);
-        else if constexpr (std::same_as<Kind, Bool16>)
-          json.Value(bool(*value));
-        else if constexpr (std::same_as<Kind, TimeOfDay>)
-          json.Value(TimeText(*value));
-        else if constexpr (std::same_as<Kind, std::uint8_t>)
-          json.Value(static_cast<int>(*value));
-        else
-          json.Value(*value);
-      },
-      field);
-}
+struct FieldJson {
+  bool isS100;
+
+  Json operator()(const ConfPhone* phone) const { return PhoneJson(*phone, isS100); }
+  Json operator()(const Bool16* flag) const { return bool(*flag); }
+  Json operator()(const TimeOfDay* time) const { return TimeText(*time); }
+  Json operator()(const float* number) const { return JsonNumber(*number); }
+  template <class Plain>
+  Json operator()(const Plain* value) const {
+    return *value;
+  }
+};
 
 /// The fields of one section.
 struct Section {
@@ -67,25 +58,19 @@ std::vector<Section> BySection(const std::vector<ConstField>& fields) {
   return sections;
 }
 
-void WriteJson(Console& console, const ModelConfiguration& configuration, const std::string& file) {
+Json ConfigurationJson(const ModelConfiguration& configuration, const std::string& file) {
   const auto& [profile, conf] = configuration;
   const auto fields = FieldsOf(conf, profile);
-  JsonWriter json(console.Out());
-  json.Object([&] {
-    json.Member("file", file);
-    json.Member("model", profile.TargetName);
-    json.Member("type", profile.TargetType);
-    json.ObjectMember("sections", [&] {
-      for (const Section& section : BySection(fields))
-        json.ObjectMember(section.name, [&] {
-          for (const ConstField* field : section.fields) {
-            json.Key(field->Key());
-            WriteField(json, field->value, profile.IsS100);
-          }
-        });
-    });
-  });
-  json.End();
+  Json sections = Json::object();
+  for (const Section& section : BySection(fields)) {
+    Json& keys = sections[section.name] = Json::object();
+    for (const ConstField* field : section.fields)
+      keys[field->Key()] = std::visit(FieldJson{profile.IsS100}, field->value);
+  }
+  return {{"file", file},
+          {"model", profile.TargetName},
+          {"type", profile.TargetType},
+          {"sections", std::move(sections)}};
 }
 
 /// A line of the readable form.
@@ -134,10 +119,9 @@ std::vector<ConstField> Shown(const ModelConfiguration& configuration, const Dev
   return shown;
 }
 
-void PrintReadable(CommandContext& context, const ModelConfiguration& configuration, bool all) {
-  std::ostream& out = context.console.Out();
+void PrintReadable(std::ostream& out, const ModelConfiguration& configuration,
+                   const DeviceConf& empty, bool all) {
   const TargetProfile& profile = configuration.profile;
-  const DeviceConf empty = EmptyConfiguration(profile, context.Translator());
   const std::vector<ConstField> fields = Shown(configuration, empty, all);
   out << profile.TargetName << '\n';
   for (const Section& section : BySection(fields)) {
@@ -150,11 +134,12 @@ void PrintReadable(CommandContext& context, const ModelConfiguration& configurat
 ExitCode RunShow(CommandContext& context, const ShowOptions& options) {
   const auto configuration = context.OpenFile(options.file);
   if (!configuration) return ExitCode::BadFile;
-  if (context.options.json)
-    WriteJson(context.console, *configuration, options.file);
-  else
-    PrintReadable(context, *configuration, options.all);
-  return ExitCode::Done;
+  return context.Show({[&] { return ConfigurationJson(*configuration, options.file); },
+                       [&](std::ostream& out) {
+                         const DeviceConf empty =
+                             EmptyConfiguration(configuration->profile, context.Translator());
+                         PrintReadable(out, *configuration, empty, options.all);
+                       }});
 }
 
 }  // namespace

@@ -1,5 +1,4 @@
 #include "blocks/Configuration.h"
-#include "cli/Json.h"
 #include "cli/commands/Commands.h"
 #include "host/LoggerText.h"
 
@@ -12,22 +11,16 @@ ExitCode RunStatements(CommandContext& context, const std::string& file) {
   const std::int32_t features = context.options.features.value_or(0);
   const auto statements =
       ComposeStatements(configuration->conf, {configuration->profile, features});
-  std::ostream& out = context.console.Out();
-  if (!context.options.json) {
-    for (const std::string& statement : statements) out << Printable(statement) << '\n';
-    return ExitCode::Done;
-  }
-  JsonWriter json(out);
-  json.Object([&] {
-    json.Member("file", file);
-    json.Member("model", configuration->profile.TargetName);
-    json.Member("features", FeaturesText(features));
-    json.ArrayMember("statements", [&] {
-      for (const std::string& statement : statements) json.Value(statement);
-    });
-  });
-  json.End();
-  return ExitCode::Done;
+  return context.Show({[&] {
+                         return Json{{"file", file},
+                                     {"model", configuration->profile.TargetName},
+                                     {"features", FeaturesText(features)},
+                                     {"statements", statements}};
+                       },
+                       [&](std::ostream& out) {
+                         for (const std::string& statement : statements)
+                           out << Printable(statement) << '\n';
+                       }});
 }
 
 }  // namespace

@@ -1,4 +1,3 @@
-#include "cli/Json.h"
 #include "cli/commands/Commands.h"
 #include "cli/commands/OnlineCommand.h"
 #include "host/LoggerText.h"
@@ -23,19 +22,12 @@ ExitCode RunTotal(Online& online, const TotalOptions& options) {
   const ExitCode read = online.session.Run([&] { return comms.ReadTotalCount(); });
   if (read != ExitCode::Done) return read;
   const std::int32_t total = online.configurator.totals[options.index];
-  std::ostream& out = online.context.console.Out();
-  if (online.context.options.json) {
-    JsonWriter json(out);
-    json.Object([&] {
-      json.Member("index", options.index);
-      json.Member("total", total);
-      json.Member("set", options.value.has_value());
-    });
-    json.End();
-  } else {
-    out << total << '\n';
-  }
-  return ExitCode::Done;
+  return online.context.Show({[&] {
+                                return Json{{"index", options.index},
+                                            {"total", total},
+                                            {"set", options.value.has_value()}};
+                              },
+                              [&](std::ostream& out) { out << total << '\n'; }});
 }
 
 }  // namespace

@@ -1,6 +1,5 @@
 #include "cli/ConfFile.h"
 #include "cli/DifferenceText.h"
-#include "cli/Json.h"
 #include "cli/commands/Commands.h"
 #include "cli/commands/OnlineCommand.h"
 #include "host/LoggerText.h"
@@ -28,34 +27,29 @@ std::string PlanText(std::size_t statements, std::int32_t features, const Upload
          " on the line";
 }
 
-void WritePlan(JsonWriter& json, const TargetProfile& profile, std::int32_t features,
-               const std::vector<std::string>& statements) {
+Json PlanJson(const TargetProfile& profile, std::int32_t features,
+              const std::vector<std::string>& statements) {
   const UploadPlan plan = PlanUpload(statements, features);
-  json.Member("model", profile.TargetName);
-  json.Member("features", FeaturesText(features));
-  json.Member("statements", statements.size());
-  json.Member("octets", plan.octets);
-  json.Member("seconds", std::chrono::duration<double>(plan.duration).count());
+  return {{"model", profile.TargetName},
+          {"features", FeaturesText(features)},
+          {"statements", statements.size()},
+          {"octets", plan.octets},
+          {"seconds", std::chrono::duration<double>(plan.duration).count()}};
 }
 
 ExitCode ShowPlan(CommandContext& context, const ModelConfiguration& configuration,
                   std::int32_t features) {
   const auto statements = ComposeStatements(configuration.conf, {configuration.profile, features});
-  std::ostream& out = context.console.Out();
-  if (context.options.json) {
-    JsonWriter json(out);
-    json.Object([&] {
-      WritePlan(json, configuration.profile, features, statements);
-      json.ArrayMember("statementTexts", [&] {
-        for (const std::string& statement : statements) json.Value(statement);
-      });
-    });
-    json.End();
-    return ExitCode::Done;
-  }
-  for (const std::string& statement : statements) out << Printable(statement) << '\n';
-  out << PlanText(statements.size(), features, PlanUpload(statements, features)) << '\n';
-  return ExitCode::Done;
+  return context.Show(
+      {[&] {
+         Json plan = PlanJson(configuration.profile, features, statements);
+         plan["statementTexts"] = statements;
+         return plan;
+       },
+       [&](std::ostream& out) {
+         for (const std::string& statement : statements) out << Printable(statement) << '\n';
+         out << PlanText(statements.size(), features, PlanUpload(statements, features)) << '\n';
+       }});
 }
 
 /// Keeps what the logger holds now, then brings the configuration to upload back into the model.
@@ -73,23 +67,18 @@ ExitCode Report(Online& online, const UploadOptions& options, const DeviceConf& 
   Configurator& configurator = online.configurator;
   const std::int32_t features = configurator.info.Features;
   const bool isSame = !result.comparison || result.comparison->isSame;
-  if (context.options.json) {
-    JsonWriter json(context.console.Out());
-    json.Object([&] {
-      json.Member("file", options.file);
-      json.Member("serial", configurator.info.SerialNumber);
-      WritePlan(json, configurator.profile, features,
-                ComposeStatements(sent, {configurator.profile, features}));
-      json.Key("backup");
-      result.backup.empty() ? json.Value(nullptr) : json.Value(result.backup);
-      json.Key("verified");
-      result.comparison ? json.Value(isSame) : json.Value(nullptr);
-      if (result.comparison) WriteDifferences(json, *result.comparison);
-    });
-    json.End();
-  } else if (!isSame) {
-    PrintDifferences(context.console, *result.comparison);
-  }
+  context.Show({[&] {
+                  Json json{{"file", options.file}, {"serial", configurator.info.SerialNumber}};
+                  json.update(PlanJson(configurator.profile, features,
+                                       ComposeStatements(sent, {configurator.profile, features})));
+                  json["backup"] = result.backup.empty() ? Json() : Json(result.backup);
+                  json["verified"] = result.comparison ? Json(isSame) : Json();
+                  if (result.comparison) json["differences"] = DifferencesJson(*result.comparison);
+                  return json;
+                },
+                [&](std::ostream& out) {
+                  if (!isSame) PrintDifferences(out, *result.comparison);
+                }});
   if (!isSame)
     return context.console.Fail(ExitCode::Differences,
                                 "the logger holds another configuration than was sent");

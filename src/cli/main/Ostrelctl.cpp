@@ -12,6 +12,7 @@
 #include "cli/Terminal.h"
 #include "host/SignalPipe.h"
 #include "host/SimulatedLoggers.h"
+#include "platform/SilentDialogs.h"
 #include "platform/qt/PortMap.h"
 #include "platform/qt/QtClock.h"
 #include "platform/qt/QtFiles.h"
@@ -49,6 +50,7 @@ int Run(const std::vector<std::string>& args) {
   QtFiles files;
   QtProcesses processes;
   QtClock clock;
+  SilentDialogs nobody;
   PortMap map = PortMap::FromSettings(settings);
   QtSerialPort serialPort(loop, map);
   SimulatedLoggers simulated(loop, clock);
@@ -56,12 +58,13 @@ int Run(const std::vector<std::string>& args) {
   ports.AddRange(kFirstPort, kFirstSimulatedPort - 1, serialPort);
   ports.AddRange(kFirstSimulatedPort, kLastPort, simulated.Port());
   Environment environment{
-      .loop = loop,
-      .port = ports,
-      .settings = settings,
-      .files = files,
-      .processes = processes,
-      .clock = clock,
+      .platform = {.loop = loop,
+                   .port = ports,
+                   .settings = settings,
+                   .dialogs = nobody,
+                   .files = files,
+                   .processes = processes,
+                   .clock = clock},
       .simulated = simulated,
       .out = std::cout,
       .err = std::cerr,

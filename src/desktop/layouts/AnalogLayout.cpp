@@ -49,10 +49,7 @@ Card ScaleCard(FormView& view) {
 }  // namespace
 
 void LayOutAnalog(FormView& view) {
-  auto* page = new QVBoxLayout(&view);
-  page->setContentsMargins(16, 12, 16, 16);
-  QWidget* heading = view.Heading({});
-  page->addWidget(heading);
+  QVBoxLayout* page = MakeSheet(view);
   auto* top = new QHBoxLayout;
   top->addWidget(InputCard(view).box, 4);
   top->addWidget(InterfaceCard(view).box, 4);
@@ -67,7 +64,6 @@ void LayOutAnalog(FormView& view) {
   notice->setWordWrap(true);
   page->addWidget(notice);
   page->addStretch(1);
-  heading->layout()->addWidget(HelpButton(view));
 }
 
 }  // namespace ostrel

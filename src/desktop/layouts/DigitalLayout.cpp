@@ -9,10 +9,7 @@
 namespace ostrel {
 
 void LayOutDigital(FormView& view) {
-  auto* page = new QVBoxLayout(&view);
-  page->setContentsMargins(16, 12, 16, 16);
-  QWidget* heading = view.Heading({});
-  page->addWidget(heading);
+  QVBoxLayout* page = MakeSheet(view);
   const Card input = MakeCard(view, Words::tr("Input"));
   AddField(input, view.LabelFor("Nombre", Words::tr("Name:")), view.Show("Nombre"));
   view.Show("Nombre")->setMaximumWidth(360);
@@ -22,7 +19,6 @@ void LayOutDigital(FormView& view) {
   page->addWidget(input.box);
   page->addWidget(LayOutAlarmPanel(view, {{"Persist", {}}, {"Rearm", {}}}));
   page->addStretch(1);
-  heading->layout()->addWidget(HelpButton(view));
 }
 
 }  // namespace ostrel

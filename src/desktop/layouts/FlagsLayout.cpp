@@ -7,13 +7,9 @@
 namespace ostrel {
 
 void LayOutFlags(FormView& view) {
-  auto* page = new QVBoxLayout(&view);
-  page->setContentsMargins(16, 12, 16, 16);
-  QWidget* heading = view.Heading({});
-  page->addWidget(heading);
+  QVBoxLayout* page = MakeSheet(view);
   page->addWidget(LayOutAlarmPanel(view, {}));
   page->addStretch(1);
-  heading->layout()->addWidget(HelpButton(view));
 }
 
 }  // namespace ostrel

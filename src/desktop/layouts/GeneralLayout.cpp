@@ -146,22 +146,18 @@ Card PhoneCard(FormView& view) {
 }  // namespace
 
 void LayOutGeneral(FormView& view, const LayoutContext& context) {
-  auto* page = new QVBoxLayout(&view);
-  page->setContentsMargins(16, 12, 16, 16);
+  QVBoxLayout* page = MakeSheet(view, Words::tr("General"));
   auto* warning = view.Show<QLabel>("WarningText");
   warning->setWordWrap(true);
   auto* top = new QHBoxLayout;
-  auto* heading = view.Heading(Words::tr("General"));
   top->addWidget(SessionCard(view, context).box, 7);
   top->addWidget(DeviceCard(view).box, 4);
   top->addWidget(LoggerCard(view).box, 5);
   auto* notice = Joined(view, {view.Show("Warning"), warning});
   static_cast<QBoxLayout*>(notice->layout())->setStretch(1, 1);
-  page->addWidget(heading);
   page->addWidget(notice);
   page->addLayout(top);
   page->addWidget(PhoneCard(view).box, 1);
-  heading->layout()->addWidget(HelpButton(view));
 }
 
 }  // namespace ostrel

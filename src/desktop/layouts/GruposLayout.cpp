@@ -26,16 +26,12 @@ Card GroupCard(FormView& view, int group) {
 }  // namespace
 
 void LayOutGrupos(FormView& view) {
-  auto* page = new QVBoxLayout(&view);
-  page->setContentsMargins(16, 12, 16, 16);
-  QWidget* heading = view.Heading({});
-  page->addWidget(heading);
+  QVBoxLayout* page = MakeSheet(view);
   auto* cards = new QGridLayout;
   for (int group = 0; group < kGroups; ++group)
     cards->addWidget(GroupCard(view, group).box, group / 2, group % 2);
   page->addLayout(cards);
   page->addStretch(1);
-  heading->layout()->addWidget(HelpButton(view));
 }
 
 }  // namespace ostrel

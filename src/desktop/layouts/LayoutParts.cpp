@@ -20,6 +20,14 @@ QGridLayout* MakeGrid(QWidget* box) {
   return grid;
 }
 
+/// The button that opens the help page.
+QWidget* HelpButton(FormView& view) {
+  auto* button = static_cast<QAbstractButton*>(view.ShowWithWords("Help", Words::tr("Help")));
+  button->setShortcut(QKeySequence::HelpContents);
+  button->setProperty("noAccessKey", true);
+  return button;
+}
+
 }  // namespace
 
 Card MakeCard(FormView& view, const QString& title) {
@@ -65,11 +73,13 @@ QWidget* Joined(FormView& view, std::initializer_list<QWidget*> widgets,
   return box;
 }
 
-QWidget* HelpButton(FormView& view) {
-  auto* button = static_cast<QAbstractButton*>(view.ShowWithWords("Help", Words::tr("Help")));
-  button->setShortcut(QKeySequence::HelpContents);
-  button->setProperty("noAccessKey", true);
-  return button;
+QVBoxLayout* MakeSheet(FormView& view, const QString& untitled) {
+  auto* page = new QVBoxLayout(&view);
+  page->setContentsMargins(16, 12, 16, 16);
+  QWidget* heading = view.Heading(untitled);
+  page->addWidget(heading);
+  if (view.Has("Help")) heading->layout()->addWidget(HelpButton(view));
+  return page;
 }
 
 QHBoxLayout* EndButtons(QWidget* accept, QWidget* leave) {

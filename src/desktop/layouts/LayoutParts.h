@@ -4,6 +4,7 @@
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QString>
+#include <QVBoxLayout>
 #include <initializer_list>
 #include <string_view>
 
@@ -32,8 +33,9 @@ QWidget* OptionBox(FormView& view, std::initializer_list<std::string_view> optio
 QWidget* Joined(FormView& view, std::initializer_list<QWidget*> widgets,
                 Qt::Orientation orientation = Qt::Horizontal, bool stretchEnd = false);
 
-/// The button that opens the help page.
-QWidget* HelpButton(FormView& view);
+/// The sheet of a page: its heading with the help button, and a column for the rest. `untitled` is
+/// the heading of a form without a title.
+QVBoxLayout* MakeSheet(FormView& view, const QString& untitled = {});
 
 /// The row that ends a dialog: the button that Return presses, and the one that leaves.
 QHBoxLayout* EndButtons(QWidget* accept, QWidget* leave);

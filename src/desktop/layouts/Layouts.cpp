@@ -1,7 +1,7 @@
 #include "desktop/layouts/Layouts.h"
 
+#include <algorithm>
 #include <array>
-#include <stdexcept>
 
 namespace ostrel {
 namespace {
@@ -31,14 +31,14 @@ constexpr std::array<LayoutOf, 9> kLayouts{{
 }  // namespace
 
 FormView* MakeView(Form& form, const LayoutContext& context, QWidget* parent) {
-  for (const auto& [name, layOut] : kLayouts) {
-    if (name != form.Name()) continue;
-    auto* view = new FormView(form, context.guard, parent);
-    layOut(*view, context);
-    view->Finish();
-    return view;
-  }
-  throw std::logic_error("form " + form.Name() + " has no layout");
+  auto* view = new FormView(form, context.guard, parent);
+  const auto found = std::ranges::find(kLayouts, form.Name(), &LayoutOf::form);
+  if (found == kLayouts.end())
+    LayOutInOrder(*view);
+  else
+    found->layOut(*view, context);
+  view->Finish();
+  return view;
 }
 
 }  // namespace ostrel

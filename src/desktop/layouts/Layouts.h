@@ -15,10 +15,12 @@ struct LayoutContext {
   std::function<QString(const ListRow&)> portText;
 };
 
-/// Draws any form of the program. A form that has no layout is a broken invariant.
+/// Draws any form of the program. One that has no layout is drawn from its controls in order.
 FormView* MakeView(Form& form, const LayoutContext& context, QWidget* parent = nullptr);
 
 // One layout a form, each in a file of its own. They put the widgets of all controls into `view`.
+/// The layout of forms that have none of their own.
+void LayOutInOrder(FormView& view);
 void LayOutGeneral(FormView& view, const LayoutContext& context);
 void LayOutDigital(FormView& view);
 void LayOutAnalog(FormView& view);

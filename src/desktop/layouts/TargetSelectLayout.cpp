@@ -9,9 +9,7 @@
 namespace ostrel {
 
 void LayOutTargetSelect(FormView& view) {
-  auto* page = new QVBoxLayout(&view);
-  page->setContentsMargins(16, 12, 16, 16);
-  page->addWidget(view.Heading(Words::tr("Model")));
+  QVBoxLayout* page = MakeSheet(view, Words::tr("Model"));
   const Card card = MakeCard(view, QString());
   auto* notice = view.Show<QLabel>("LabelNotice");
   notice->setWordWrap(true);

@@ -10,6 +10,7 @@
 #include "desktop/Desktop.h"
 #include "desktop/HelpProcesses.h"
 #include "desktop/Icons.h"
+#include "desktop/QtDialogs.h"
 #include "desktop/Screenshot.h"
 #include "desktop/Words.h"
 #include "host/LangSeed.h"
@@ -44,7 +45,8 @@ int RunWindow(const CommandLine& line) {
   QtSettings settings;
   QtFiles files;
   QtProcesses realProcesses(ShowDocument);
-  HelpProcesses processes(realProcesses);
+  QtDialogs dialogs;
+  HelpProcesses processes(realProcesses, dialogs);
   QtClock clock;
   const PortMap map = PortMap::FromSettings(settings);
   QtSerialPort serialPort(loop, map);
@@ -59,12 +61,13 @@ int RunWindow(const CommandLine& line) {
   Desktop desktop({.loop = loop,
                    .port = ports,
                    .settings = settings,
+                   .dialogs = dialogs,
                    .files = files,
                    .processes = processes,
                    .clock = clock},
                   {.programFolder = ShippedFolder(), .langFile = langFile, .ticking = true},
                   UserDataFolder());
-  processes.dialogs = &desktop.Asking();
+  dialogs.StandBefore(desktop.Window());
   loop.SetFaultHandler([&](std::exception_ptr fault) { desktop.ShowFault(fault); });
   desktop.Start(line.file);
   desktop.Window().show();

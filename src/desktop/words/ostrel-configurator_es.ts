@@ -4,6 +4,10 @@
 <context>
     <name>Words</name>
     <message>
+        <source>%1 holds what this program does not write and would lose: %2. Replace it?</source>
+        <translation>%1 contiene datos que este programa no escribe y que se perderían: %2. ¿Reemplazarlo?</translation>
+    </message>
+    <message>
         <source>Alarm</source>
         <translation>Alarma</translation>
     </message>
@@ -144,80 +148,176 @@
         <translation>Qué ha fallado</translation>
     </message>
     <message>
-        <source>There is no device at %1. Is the adapter plugged in?</source>
-        <translation>No hay ningún dispositivo en %1. ¿Está conectado el adaptador?</translation>
+        <source>there is no port %1</source>
+        <translation>no existe el puerto %1</translation>
     </message>
     <message>
-        <source>%1 is in use by another program. Close that program and try again.</source>
-        <translation>Otro programa está usando %1. Ciérrelo e inténtelo de nuevo.</translation>
+        <source>check that the adapter is plugged in</source>
+        <translation>compruebe que el adaptador está conectado</translation>
     </message>
     <message>
-        <source>You have no permission to open %1. Join the group of serial devices with &quot;sudo usermod -aG dialout $USER&quot;, then log out and in again.</source>
-        <translation>No tiene permiso para abrir %1. Únase al grupo de los dispositivos serie con &quot;sudo usermod -aG dialout $USER&quot;, cierre la sesión y vuelva a entrar.</translation>
+        <source>%1 is in use by another program</source>
+        <translation>otro programa está usando %1</translation>
     </message>
     <message>
-        <source>%1 could not be opened as a serial port.</source>
-        <translation>%1 no se ha podido abrir como puerto serie.</translation>
+        <source>close that program and try again</source>
+        <translation>ciérrelo e inténtelo de nuevo</translation>
     </message>
     <message>
-        <source>No modem answers at %1.</source>
-        <translation>No responde ningún módem en %1.</translation>
+        <source>there is no permission to open %1</source>
+        <translation>no hay permiso para abrir %1</translation>
     </message>
     <message>
-        <source>The call was not answered.</source>
-        <translation>Nadie ha contestado a la llamada.</translation>
+        <source>join the group of serial devices with &quot;sudo usermod -aG dialout $USER&quot;, then log out and in again</source>
+        <translation>únase al grupo de los dispositivos serie con &quot;sudo usermod -aG dialout $USER&quot;, cierre la sesión y vuelva a entrar</translation>
     </message>
     <message>
-        <source>The call failed. The modem says: %1</source>
-        <translation>La llamada ha fallado. El módem dice: %1</translation>
+        <source>%1 cannot be opened as a serial port</source>
+        <translation>%1 no se puede abrir como puerto serie</translation>
     </message>
     <message>
-        <source>The port works, but no logger answers at %1. Check cable and supply.</source>
-        <translation>El puerto funciona, pero ningún equipo responde en %1. Compruebe el cable y la alimentación.</translation>
+        <source>no modem answers at %1</source>
+        <translation>no responde ningún módem en %1</translation>
     </message>
     <message>
-        <source>The logger fell silent at step %1.</source>
-        <translation>El equipo dejó de responder en el paso %1.</translation>
+        <source>the call was not answered</source>
+        <translation>nadie ha contestado a la llamada</translation>
     </message>
     <message>
-        <source>Damaged lines arrived (bad checksums) at step %1. Check cable and earthing.</source>
-        <translation>Llegaron líneas dañadas (sumas erróneas) en el paso %1. Compruebe el cable y la toma de tierra.</translation>
+        <source>the call failed: the modem says &quot;%1&quot;</source>
+        <translation>la llamada ha fallado: el módem dice &quot;%1&quot;</translation>
     </message>
     <message>
-        <source>Record %1 was expected, and this arrived: %2</source>
-        <translation>Se esperaba el registro %1 y llegó esto: %2</translation>
+        <source>no logger answers at %1</source>
+        <translation>ningún equipo responde en %1</translation>
     </message>
     <message>
-        <source>The logger sent an empty configuration.</source>
-        <translation>El equipo envió una configuración vacía.</translation>
+        <source>check cable and supply</source>
+        <translation>compruebe el cable y la alimentación</translation>
     </message>
     <message>
-        <source>Record %1 is about a channel that does not exist: %2</source>
-        <translation>El registro %1 es de un canal que no existe: %2</translation>
+        <source>the logger wants an access code</source>
+        <translation>el equipo pide una clave de acceso</translation>
     </message>
     <message>
-        <source>The logger refused statement %1: %2</source>
-        <translation>El equipo rechazó la sentencia %1: %2</translation>
+        <source>the logger did not accept the access code</source>
+        <translation>el equipo no ha aceptado la clave de acceso</translation>
     </message>
     <message>
-        <source>The logger did not take the configuration over. It keeps the former one. %1</source>
-        <translation>El equipo no ha aceptado la configuración. Conserva la anterior. %1</translation>
+        <source>the logger fell silent</source>
+        <translation>el equipo dejó de responder</translation>
     </message>
     <message>
-        <source>The logger talks without coming to an end.</source>
-        <translation>El equipo habla sin llegar al final.</translation>
+        <source>the logger fell silent at record %1</source>
+        <translation>el equipo dejó de responder en el registro %1</translation>
     </message>
     <message>
-        <source>The line at %1 is held. Is the logger switched on, and has the cable RTS and CTS?</source>
-        <translation>La línea de %1 está retenida. ¿Está encendido el equipo y tiene el cable RTS y CTS?</translation>
+        <source>the logger fell silent at statement %1</source>
+        <translation>el equipo dejó de responder en la sentencia %1</translation>
     </message>
     <message>
-        <source>%1 has gone. Was the adapter unplugged?</source>
-        <translation>%1 ha desaparecido. ¿Se ha desconectado el adaptador?</translation>
+        <source>lines arrived damaged</source>
+        <translation>llegaron líneas dañadas</translation>
     </message>
     <message>
-        <source>The port was closed in the middle of the dialogue.</source>
-        <translation>El puerto se cerró en mitad del diálogo.</translation>
+        <source>lines arrived damaged at record %1</source>
+        <translation>llegaron líneas dañadas en el registro %1</translation>
+    </message>
+    <message>
+        <source>lines arrived damaged at statement %1</source>
+        <translation>llegaron líneas dañadas en la sentencia %1</translation>
+    </message>
+    <message>
+        <source>check cable and earthing</source>
+        <translation>compruebe el cable y la toma de tierra</translation>
+    </message>
+    <message>
+        <source>record %1 was expected and &quot;%2&quot; arrived</source>
+        <translation>se esperaba el registro %1 y llegó &quot;%2&quot;</translation>
+    </message>
+    <message>
+        <source>the logger sent an empty configuration</source>
+        <translation>el equipo envió una configuración vacía</translation>
+    </message>
+    <message>
+        <source>record %1 is about a channel that does not exist: &quot;%2&quot;</source>
+        <translation>el registro %1 es de un canal que no existe: &quot;%2&quot;</translation>
+    </message>
+    <message>
+        <source>the logger refused statement %1: &quot;%2&quot;</source>
+        <translation>el equipo rechazó la sentencia %1: &quot;%2&quot;</translation>
+    </message>
+    <message>
+        <source>the logger refused the setting: &quot;%1&quot;</source>
+        <translation>el equipo rechazó el ajuste: &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>the logger did not say that it took the configuration over</source>
+        <translation>el equipo no ha confirmado que acepta la configuración</translation>
+    </message>
+    <message>
+        <source>the logger did not take the configuration over: &quot;%1&quot;</source>
+        <translation>el equipo no ha aceptado la configuración: &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>the logger answered something else: &quot;%1&quot;</source>
+        <translation>el equipo ha respondido otra cosa: &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>another dialogue with the logger is under way</source>
+        <translation>hay otro diálogo con el equipo en curso</translation>
+    </message>
+    <message>
+        <source>the logger came to no end</source>
+        <translation>el equipo no llegó al final</translation>
+    </message>
+    <message>
+        <source>the logger came to no end at record %1</source>
+        <translation>el equipo no llegó al final en el registro %1</translation>
+    </message>
+    <message>
+        <source>the logger came to no end at statement %1</source>
+        <translation>el equipo no llegó al final en la sentencia %1</translation>
+    </message>
+    <message>
+        <source>the line at %1 was held</source>
+        <translation>la línea de %1 estaba retenida</translation>
+    </message>
+    <message>
+        <source>check that the logger is switched on and that the cable has RTS and CTS</source>
+        <translation>compruebe que el equipo está encendido y que el cable tiene RTS y CTS</translation>
+    </message>
+    <message>
+        <source>%1 has gone in the middle of the dialogue</source>
+        <translation>%1 ha desaparecido en mitad del diálogo</translation>
+    </message>
+    <message>
+        <source>%1 was closed in the middle of the dialogue</source>
+        <translation>%1 se cerró en mitad del diálogo</translation>
+    </message>
+    <message>
+        <source>the logger did not answer, or not as expected</source>
+        <translation>el equipo no respondió, o no como se esperaba</translation>
+    </message>
+    <message>
+        <source>interrupted</source>
+        <translation>interrumpido</translation>
+    </message>
+    <message>
+        <source>interrupted before a session stood</source>
+        <translation>interrumpido antes de abrir la sesión</translation>
+    </message>
+    <message>
+        <source>the logger's configuration is unchanged</source>
+        <translation>la configuración del equipo no ha cambiado</translation>
+    </message>
+    <message>
+        <source>the logger's former configuration stays in force</source>
+        <translation>sigue en vigor la configuración anterior del equipo</translation>
+    </message>
+    <message>
+        <source>whether the logger has taken the configuration over is not known: read it back</source>
+        <translation>no se sabe si el equipo ha aceptado la configuración: vuelva a leerla</translation>
     </message>
     <message>
         <source>Session</source>
@@ -394,6 +494,26 @@
     <message>
         <source>Writing</source>
         <translation>Escribiendo</translation>
+    </message>
+    <message>
+        <source>%1, a transfer waits for a session</source>
+        <translation>%1, una transferencia espera a que se abra la sesión</translation>
+    </message>
+    <message>
+        <source>%1, a transfer waits for the general page</source>
+        <translation>%1, una transferencia espera a la página general</translation>
+    </message>
+    <message>
+        <source>Break off</source>
+        <translation>Interrumpir</translation>
+    </message>
+    <message>
+        <source>Give up opening the session</source>
+        <translation>Dejar de abrir la sesión</translation>
+    </message>
+    <message>
+        <source>Closing</source>
+        <translation>Cerrando</translation>
     </message>
     <message>
         <source>%1, silent for %2 s</source>

@@ -15,7 +15,6 @@
 namespace ostrel {
 namespace {
 
-constexpr Duration kLookInterval = std::chrono::milliseconds(20);
 /// Octets on the way to the device, beyond which the program is held up as a driver would do it.
 constexpr std::size_t kMostUnderway = 4096;
 /// Octets kept for a program that does not read; what comes on top is lost, as on a line.
@@ -40,7 +39,6 @@ PseudoTerminal::PseudoTerminal(QtEventLoop& loop, const Attach& attach, bool pac
     CloseMaster();
     throw;
   }
-  lookTimer_ = loop_.Every(kLookInterval, "terminal opening", [this] { LookForProgram(); });
 }
 
 PseudoTerminal::~PseudoTerminal() { CloseMaster(); }
@@ -56,6 +54,9 @@ void PseudoTerminal::MakeTerminal() {
   Require(slave >= 0, "pseudo-terminal");
   SetRaw();
   ::close(slave);
+  openings_ = std::make_unique<NodeWatch>(
+      loop_, slavePath_, [this] { LookForProgram(); }, NodeEvent::Opened);
+  Require(openings_->Watches(), "watch of the pseudo-terminal");
   readable_ = std::make_unique<QSocketNotifier>(master_, QSocketNotifier::Read);
   writable_ = std::make_unique<QSocketNotifier>(master_, QSocketNotifier::Write);
   readable_->setEnabled(false);
@@ -81,11 +82,10 @@ bool PseudoTerminal::FarEndInUse() const {
   return (state.revents & POLLIN) != 0 || (state.revents & POLLHUP) == 0;
 }
 
-/// The system has no event for an opening, and a closed terminal would wake the loop without end:
-/// so the notifiers are off while no program is there, and this looks now and then.
+/// Some program has opened the terminal. A closed one would wake the loop without end, so the other
+/// notifiers are off until then.
 void PseudoTerminal::LookForProgram() {
-  if (!FarEndInUse()) return;
-  loop_.Cancel(std::exchange(lookTimer_, 0));
+  if (inUse_ || master_ < 0 || !FarEndInUse()) return;
   SetRaw();
   SetInUse(true);
 }
@@ -101,7 +101,6 @@ void PseudoTerminal::SetInUse(bool inUse) {
     toDevice_.Flush();
     Deliver();
     if (master_ < 0) return;
-    lookTimer_ = loop_.Every(kLookInterval, "terminal opening", [this] { LookForProgram(); });
   }
   device_->SetTerminalReady(inUse);
 }
@@ -155,7 +154,6 @@ void PseudoTerminal::Vanish() {
 }
 
 void PseudoTerminal::CloseMaster() {
-  loop_.Cancel(std::exchange(lookTimer_, 0));
   // A notifier may be calling: it is only switched off here.
   if (readable_) readable_->setEnabled(false);
   if (writable_) writable_->setEnabled(false);

@@ -8,6 +8,7 @@
 
 #include "platform/Line.h"
 #include "platform/LineQueue.h"
+#include "platform/qt/NodeWatch.h"
 #include "platform/qt/QtEventLoop.h"
 
 namespace ostrel {
@@ -15,8 +16,8 @@ namespace ostrel {
 /// A device of this process on a pseudo-terminal, where other programs open it like a serial port.
 ///
 /// What a pseudo-terminal cannot do: it has no carrier line, so `SetCarrier` is without effect. Its
-/// opening is seen within 20 ms, its closing at once; a program that closes and opens it between
-/// two turns of the loop is not noticed. The loop must outlive it.
+/// opening and closing are seen at once; a program that closes and opens it between two turns of
+/// the loop is not noticed. Nothing wakes the loop while no octet moves. The loop must outlive it.
 class PseudoTerminal final : public LineEnd {
  public:
   using Attach = std::function<std::unique_ptr<LineDevice>(LineEnd& end)>;
@@ -52,6 +53,7 @@ class PseudoTerminal final : public LineEnd {
   QtEventLoop& loop_;
   int master_ = -1;
   std::string slavePath_;
+  std::unique_ptr<NodeWatch> openings_;
   std::unique_ptr<QSocketNotifier> readable_;
   std::unique_ptr<QSocketNotifier> writable_;
   LineQueue toProgram_;
@@ -59,7 +61,6 @@ class PseudoTerminal final : public LineEnd {
   std::unique_ptr<LineDevice> device_;
   std::string unwritten_;  ///< off the line, waiting for room in the terminal
   bool inUse_ = false;
-  TimerId lookTimer_ = 0;
 };
 
 }  // namespace ostrel

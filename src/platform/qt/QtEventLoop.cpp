@@ -44,8 +44,10 @@ TimerId QtEventLoop::Every(Duration interval, std::string_view, Callback callbac
 }
 
 TimerId QtEventLoop::Add(Duration delay, Duration interval, Callback callback) {
-  timers_.push_back({++lastId_, Sum(Now(), std::max(delay, Duration::zero())), interval,
-                     std::make_shared<const Callback>(std::move(callback))});
+  TimePoint due = Sum(Now(), std::max(delay, Duration::zero()));
+  if (interval > Duration::zero()) due -= due % interval;
+  timers_.push_back(
+      {++lastId_, due, interval, std::make_shared<const Callback>(std::move(callback))});
   SetAlarm();
   return lastId_;
 }

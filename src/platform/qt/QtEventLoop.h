@@ -27,7 +27,8 @@ class QtEventLoop final : public EventLoop {
 
   TimePoint Now() const override;
   TimerId After(Duration delay, std::string_view name, Callback callback) override;
-  /// An interval below 1 ms counts as 1 ms.
+  /// An interval below 1 ms counts as 1 ms. Ticks fall on multiples of their interval, so that an
+  /// idle program wakes once for all that come as often: the first one may come early.
   TimerId Every(Duration interval, std::string_view name, Callback callback) override;
   void Cancel(TimerId timer) override;
   bool RunUntil(const Condition& condition, TimePoint deadline) override;

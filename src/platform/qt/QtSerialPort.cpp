@@ -20,7 +20,7 @@ using std::chrono::milliseconds;
 
 /// Octets taken from the driver with one event: a reader that keeps up loses none.
 constexpr qint64 kMostAtOnce = 4096;
-constexpr Duration kCarrierInterval = milliseconds(100);
+constexpr Duration kReaderPatience = milliseconds(500);
 /// Shortest pause between two looks at an output queue that flow control may be holding.
 constexpr Duration kShortestDrainWait = milliseconds(20);
 
@@ -120,6 +120,7 @@ PortFault QtSerialPort::Open() {
   }
   open_ = true;
   lost_ = false;
+  readAt_ = loop_.Now();
   ApplyModemLine(TIOCM_DTR, dtr_);
   if (handshaking_ != PortHandshaking::RtsCts) ApplyModemLine(TIOCM_RTS, rts_);
   QObject::connect(device_.get(), &QSerialPort::readyRead, device_.get(), [this] { TakeIn(); });
@@ -130,12 +131,27 @@ PortFault QtSerialPort::Open() {
                        Lose();
                      }
                    });
-  int lines = 0;
-  if (::ioctl(device_->handle(), TIOCMGET, &lines) == 0) {
-    carrier_ = (lines & TIOCM_CD) != 0;
-    carrierTimer_ = loop_.Every(kCarrierInterval, "carrier watch", [this] { WatchCarrier(); });
-  }
+  WatchDevice(path);
   return PortFault::None;
+}
+
+/// A hang-up comes as an event of reading. This is for what has none there: a node that is taken
+/// away, and the carrier line where the device has one.
+void QtSerialPort::WatchDevice(const std::string& path) {
+  nodeWatch_ = std::make_unique<NodeWatch>(loop_, path, [this] { Lose(); });
+  const int handle = device_->handle();
+  CarrierLine line{
+      .look = [handle]() -> std::optional<bool> {
+        int lines = 0;
+        if (::ioctl(handle, TIOCMGET, &lines) != 0) return {};
+        return (lines & TIOCM_CD) != 0;
+      },
+      .await = [handle] { return ::ioctl(handle, TIOCMIWAIT, TIOCM_CD) == 0 || errno == EINTR; }};
+  const std::optional<bool> carrier = line.look();
+  if (!carrier) return;
+  carrier_ = *carrier;
+  carrierWatch_ = std::make_unique<CarrierWatch>(
+      loop_, std::move(line), [this](std::optional<bool> now) { SeeCarrier(now); });
 }
 
 PortFault QtSerialPort::OpenDevice(const std::string& path) {
@@ -174,9 +190,10 @@ void QtSerialPort::ApplySettings(QSerialPort& device) const {
 }
 
 void QtSerialPort::Close() {
-  for (TimerId* timer : {&carrierTimer_, &drainTimer_, &loseTimer_}) {
+  for (TimerId* timer : {&drainTimer_, &loseTimer_, &takeTimer_})
     loop_.Cancel(std::exchange(*timer, 0));
-  }
+  carrierWatch_.reset();
+  nodeWatch_.reset();
   if (device_ && !lost_) {
     device_->disconnect();
     device_->flush();
@@ -195,8 +212,21 @@ void QtSerialPort::Close() {
 }
 
 void QtSerialPort::TakeIn() {
-  const QByteArray octets = device_->readAll();
+  loop_.Cancel(std::exchange(takeTimer_, 0));
+  const bool isRead = loop_.Now() - readAt_ < kReaderPatience;
+  const auto room = static_cast<qint64>(received_.Size() - received_.Count());
+  const QByteArray octets = device_->read(isRead ? room : kMostAtOnce);
   received_.Put({octets.constData(), static_cast<std::size_t>(octets.size())});
+  if (device_->bytesAvailable() > 0)
+    takeTimer_ = loop_.After(kReaderPatience, "receive buffer", [this] { TakeIn(); });
+}
+
+std::string QtSerialPort::Input() {
+  std::string input = received_.Take(inputLen_);
+  readAt_ = loop_.Now();
+  // A buffer that was full is filled up again when half of it is free.
+  if (takeTimer_ != 0 && device_ && !lost_ && received_.Count() <= received_.Size() / 2) TakeIn();
+  return input;
 }
 
 /// The device has gone. It is put away from the loop, because its own code is calling.
@@ -204,19 +234,18 @@ void QtSerialPort::Lose() {
   if (lost_) return;
   lost_ = true;
   carrier_ = false;
-  loop_.Cancel(carrierTimer_);
-  loseTimer_ = loop_.After(Duration::zero(), "lost port", [this] { device_.reset(); });
+  loop_.Cancel(std::exchange(takeTimer_, 0));
+  loseTimer_ = loop_.After(Duration::zero(), "lost port", [this] {
+    carrierWatch_.reset();
+    nodeWatch_.reset();
+    device_.reset();
+  });
 }
 
-void QtSerialPort::WatchCarrier() {
-  int lines = 0;
-  if (::ioctl(device_->handle(), TIOCMGET, &lines) != 0) {
-    Lose();
-    return;
-  }
-  const bool carrier = (lines & TIOCM_CD) != 0;
-  if (carrier == carrier_) return;
-  carrier_ = carrier;
+void QtSerialPort::SeeCarrier(std::optional<bool> carrier) {
+  if (!carrier) return Lose();
+  if (*carrier == carrier_ || lost_) return;
+  carrier_ = *carrier;
   commEvent_ = kCommEventCarrier;
   if (onComm_) onComm_();
 }

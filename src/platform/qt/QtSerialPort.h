@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -13,6 +14,8 @@
 
 #include "platform/ReceiveBuffer.h"
 #include "platform/SerialPort.h"
+#include "platform/qt/CarrierWatch.h"
+#include "platform/qt/NodeWatch.h"
 #include "platform/qt/PortMap.h"
 #include "platform/qt/QtEventLoop.h"
 
@@ -20,6 +23,10 @@ namespace ostrel {
 
 /// The serial ports of the machine, pseudo-terminals among them. What a device does not have, such
 /// as the modem lines of a pseudo-terminal, is passed over. Loop and map must outlive the port.
+///
+/// While somebody reads, a full receive buffer leaves the rest to the driver, which holds the
+/// device up by flow control. When nobody has read for half a second, the device may talk on, and
+/// the oldest octets go.
 class QtSerialPort final : public SerialPort {
  public:
   QtSerialPort(QtEventLoop& loop, const PortMap& map);
@@ -43,7 +50,7 @@ class QtSerialPort final : public SerialPort {
   /// Counts what the driver holds, and what the line has not had the time to carry.
   std::size_t OutBufferCount() const override;
   void DiscardOutput() override;
-  std::string Input() override { return received_.Take(inputLen_); }
+  std::string Input() override;
   std::size_t InBufferCount() const override { return received_.Count(); }
   std::uint64_t LostOctets() const override { return received_.Lost(); }
   bool CDHolding() const override { return carrier_; }
@@ -59,7 +66,8 @@ class QtSerialPort final : public SerialPort {
   void ApplySettings(QSerialPort& device) const;
   void ApplyModemLine(int line, bool on) const;
   void TakeIn();
-  void WatchCarrier();
+  void WatchDevice(const std::string& path);
+  void SeeCarrier(std::optional<bool> carrier);
   void WatchDrain();
   std::size_t OctetsUnderWay() const;
   void Lose();
@@ -76,13 +84,16 @@ class QtSerialPort final : public SerialPort {
   bool open_ = false;
   bool lost_ = false;
   ReceiveBuffer received_;
+  TimePoint readAt_{};    ///< when somebody last took octets
   TimePoint lineFree_{};  ///< when the last octet sent can have left
   bool carrier_ = false;
   int commEvent_ = 0;
   std::function<void()> onComm_;
-  TimerId carrierTimer_ = 0;
+  std::unique_ptr<CarrierWatch> carrierWatch_;
+  std::unique_ptr<NodeWatch> nodeWatch_;
   TimerId drainTimer_ = 0;
   TimerId loseTimer_ = 0;
+  TimerId takeTimer_ = 0;  ///< for octets left to the driver
 };
 
 }  // namespace ostrel

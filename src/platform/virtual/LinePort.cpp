@@ -7,6 +7,12 @@
 #include "platform/LineQueue.h"
 
 namespace ostrel {
+namespace {
+
+/// Octets beyond which flow control holds a sender no longer: one that does not heed it.
+constexpr std::size_t kMostWaiting = 1U << 20U;
+
+}  // namespace
 
 /// A number's device and the line between it and the port.
 class LinePort::Wire final : public LineEnd {
@@ -180,9 +186,13 @@ void LinePort::DiscardOutput() {
   if (open_) open_->toDevice.Discard();
 }
 
-/// Moves arrived octets into the receive buffer.
+/// Moves arrived octets into the receive buffer. While the program takes what comes, the sender
+/// waits for room, as flow control makes it wait; a talker that nobody listens to is not held.
 void LinePort::TakeIn() {
-  if (open_) received_.Put(open_->toProgram.Take(std::numeric_limits<std::size_t>::max()));
+  if (!open_) return;
+  LineQueue& line = open_->toProgram;
+  const bool waits = std::exchange(isTaken_, false) && line.Arrived() < kMostWaiting;
+  received_.Put(line.Take(waits ? received_.Room() : std::numeric_limits<std::size_t>::max()));
 }
 
 std::size_t LinePort::InBufferCount() const {
@@ -191,7 +201,9 @@ std::size_t LinePort::InBufferCount() const {
 }
 
 std::string LinePort::Input() {
+  isTaken_ = true;
   TakeIn();
+  isTaken_ = true;
   return received_.Take(inputLen_);
 }
 

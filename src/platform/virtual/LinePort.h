@@ -93,6 +93,7 @@ class LinePort final : public SerialPort {
   bool dtr_ = true;
   std::shared_ptr<Wire> open_;
   ReceiveBuffer received_;
+  bool isTaken_ = false;  ///< the program has taken octets since some last arrived
   bool carrier_ = false;
   std::deque<bool> carrierChanges_;  ///< seen on the line, not told yet
   TimerId carrierTimer_ = 0;

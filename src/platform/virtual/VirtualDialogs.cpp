@@ -27,6 +27,11 @@ std::optional<std::string> VirtualDialogs::ChooseFile(const FileQuestion& questi
   return Next(paths_, std::optional<std::string>());
 }
 
+std::string VirtualDialogs::AskCode(const std::string&) {
+  ++codesAsked;
+  return Next(codes_, std::string());
+}
+
 void VirtualDialogs::ShowModal(Form& form) {
   ++modals;
   if (const auto handler = Next(modals_, everyModal_)) handler(form);

@@ -18,6 +18,7 @@ class VirtualDialogs final : public Dialogs {
   std::vector<MessageBox> boxes;        ///< every message box shown
   std::vector<FileQuestion> questions;  ///< every file question asked
   std::size_t modals = 0;               ///< forms shown
+  std::size_t codesAsked = 0;
   std::size_t beeps = 0;
 
   /// Answer of Yes/No boxes for which no answer is queued.
@@ -29,21 +30,27 @@ class VirtualDialogs final : public Dialogs {
   void Answer(BoxAnswer answer) { answers_.push_back(answer); }
   /// Queues the answer of a file question; nothing queued, or nothing given, is a cancel.
   void ChoosePath(std::optional<std::string> path) { paths_.push_back(std::move(path)); }
+  /// Queues an access code; nothing queued is a cancel.
+  void GiveCode(std::string code) { codes_.push_back(std::move(code)); }
   /// Queues what the operator does in the next form. A form without is dismissed at once.
   void OnModal(std::function<void(Form&)> handler) { modals_.push_back(std::move(handler)); }
   /// What the operator does in any form for which nothing is queued.
   void OnEveryModal(std::function<void(Form&)> handler) { everyModal_ = std::move(handler); }
-  /// Queued answers, paths and forms that were not asked for.
-  std::size_t Unused() const { return answers_.size() + paths_.size() + modals_.size(); }
+  /// Queued answers, paths, codes and forms that were not asked for.
+  std::size_t Unused() const {
+    return answers_.size() + paths_.size() + codes_.size() + modals_.size();
+  }
 
   BoxAnswer ShowMessage(const MessageBox& box) override;
   std::optional<std::string> ChooseFile(const FileQuestion& question) override;
+  std::string AskCode(const std::string& prompt) override;
   void ShowModal(Form& form) override;
   void Beep() override { ++beeps; }
 
  private:
   std::deque<BoxAnswer> answers_;
   std::deque<std::optional<std::string>> paths_;
+  std::deque<std::string> codes_;
   std::deque<std::function<void(Form&)>> modals_;
   std::function<void(Form&)> everyModal_;
 };

@@ -27,7 +27,11 @@ TimerId VirtualLoop::After(Duration delay, std::string_view name, Callback callb
 
 TimerId VirtualLoop::Every(Duration interval, std::string_view name, Callback callback) {
   interval = std::max(interval, Duration{1});
-  return Add(interval, interval, name, std::move(callback));
+  Duration delay = interval;
+  for (const Timer& timer : timers_)
+    if (timer.callback && timer.interval == interval) delay = timer.due - now_;
+  if (delay <= Duration::zero()) delay += interval;  // the one that runs is late itself
+  return Add(delay, interval, name, std::move(callback));
 }
 
 TimerId VirtualLoop::Add(Duration delay, Duration interval, std::string_view name,
@@ -84,6 +88,7 @@ void VirtualLoop::Serve(const Entry& entry) {
   if (entry.due > now_) {
     now_ = entry.due;
     pumpsInPlace_ = 0;
+    ++wakings_;
   }
   std::pop_heap(queue_.begin(), queue_.end(), Later);
   queue_.pop_back();

@@ -43,6 +43,8 @@ class VirtualLoop final : public EventLoop {
   void SetStepLimit(std::size_t steps) { stepLimit_ = steps; }
   /// Timers served since the start.
   std::uint64_t Steps() const { return steps_; }
+  /// How often an idle wait had to go on to a later time.
+  std::uint64_t Wakings() const { return wakings_; }
   /// One line a pending timer: due time in ms, name and, if periodic, interval.
   std::string ListTimers() const;
 
@@ -75,6 +77,7 @@ class VirtualLoop final : public EventLoop {
   std::vector<Entry> queue_;  ///< a heap with the earliest entry on top; may hold stale entries
   std::uint64_t nextSequence_ = 1;
   std::uint64_t steps_ = 0;
+  std::uint64_t wakings_ = 0;
   std::size_t stepLimit_ = 10'000'000;
   std::size_t pumpsInPlace_ = 0;
 };

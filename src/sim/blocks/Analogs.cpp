@@ -10,10 +10,7 @@ AnalogInput& AnalogOf(const Work& w) { return w.Channel(w.conf.analogs, w.self.T
 
 void SetUpAnalog(const Work& w) {
   AnalogInput& input = AnalogOf(w);
-  w.in.Expect("=");
-  input.name = w.in.Text();
-  w.in.Expect(",UNIT=");
-  input.unit = w.in.Text();
+  w.SetNames(input);
   // Without a word for the interface, the one in force stays.
   if (w.in.HasToken(",CURRENT"))
     input.interface = Interface::Current;
@@ -97,7 +94,7 @@ struct Analogs {
     VisitEach("analog", conf.analogs, visit, [&](const std::string& prefix, auto& input) {
       visit(prefix + "name", input.name);
       visit(prefix + "unit", input.unit);
-      visit(prefix + "interface", input.interface);
+      visit(prefix + "interface", input.interface, Interface::Pressure);
       VisitScale(prefix, input.scale, visit);
       visit(prefix + "group", input.group);
       VisitAlarms(prefix, input.alarms, visit);

@@ -17,6 +17,7 @@ namespace ostrel::sim {
 
 /// A statement in work: the cursor stands behind its leading word.
 struct Work {
+  std::string_view statement;  ///< whole
   StatementCursor& in;
   const Identity& self;
   Configuration& conf;
@@ -25,6 +26,14 @@ struct Work {
   template <class Channels>
   auto& Channel(Channels& channels, int count) const {
     return channels[static_cast<std::size_t>(in.Plain(0, count - 1))];
+  }
+  /// Takes "=name,UNIT=unit".
+  template <class AnyChannel>
+  void SetNames(AnyChannel& channel) const {
+    in.Expect("=");
+    channel.name = in.Text();
+    in.Expect(",UNIT=");
+    channel.unit = in.Text();
   }
   /// Takes "=text" up to the end.
   void SetText(std::string& text) const;

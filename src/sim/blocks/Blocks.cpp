@@ -4,7 +4,11 @@ namespace ostrel::sim {
 namespace {
 
 constexpr const Block* kBlocks[] = {
-    &kGeneralBlock, &kTelephoneBlock, &kDigitalBlock, &kAnalogBlock, &kGroupBlock, &kFlagBlock,
+    &kGeneralBlock, &kTelephoneBlock,   &kDigitalBlock,   &kAnalogBlock,      &kGroupBlock,
+    &kFlagBlock,    &kCyclicTimerBlock, &kLongTimerBlock, &kWeeklyTimerBlock, &kMonthlyTimerBlock,
+    &kFlowBlock,    &kModbusBusBlock,   &kModbusBlock,    &kExpansionBlock,   &kProbeBlock,
+    &kMathBlock,    &kMacroBlock,       &kKatodexBlock,   &kAuxiliaryBlock,   &kGprsBlock,
+    &kVoiceBlock,
 };
 
 }  // namespace

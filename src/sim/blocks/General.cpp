@@ -15,26 +15,17 @@ struct General {
       {"REST", [](const Work& w) { w.SetText(w.conf.restoredText); }},
       {"RETRYMAX", [](const Work& w) { w.SetWhole(w.conf.resendCount, kMost16); }, kResendRules},
       {"RETRYTIME", [](const Work& w) { w.SetWhole(w.conf.resendSeconds, kMost32); }, kResendRules},
-      {"SAMPLERATE",
-       [](const Work& w) {
-         if (w.self.model != Model::BQ) w.in.Fail("unknown to this model");
-         w.in.Expect("=");
-         w.conf.sampleRate = w.in.Plain(0, 1);
-         w.in.End();
-       },
-       kSampleRate},
   };
 
   static bool Stands(const Identity&) { return true; }
 
-  static void Tell(const Configuration& conf, const Identity& self, Report& out) {
+  static void Tell(const Configuration& conf, const Identity&, Report& out) {
     out.Start("DNAME").Add(conf.name);
     out.Start("SMC").Add(conf.smsCentre);
     out.Start("PTLF").Add(conf.ownNumber);
     out.Start("RENVT").Add(conf.resendSeconds);
     out.Start("RENVN").Add(conf.resendCount);
     out.Start("REST").Add(conf.restoredText);
-    if (self.model == Model::BQ) out.Start("SRATE").Add(conf.sampleRate);
   }
 
   static void MakeUp(RandomParts& make, Configuration& conf) {
@@ -59,7 +50,6 @@ struct General {
     visit("restored-text", conf.restoredText);
     visit("resend-seconds", conf.resendSeconds);
     visit("resend-count", conf.resendCount);
-    visit("sample-rate", conf.sampleRate);
   }
 };
 

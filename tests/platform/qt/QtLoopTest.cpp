@@ -54,6 +54,17 @@ TEST(QtEventLoopTest, WaitSleepsInsteadOfPolling) {
   EXPECT_LT(looks, 8);
 }
 
+TEST(QtEventLoopTest, TimersOfOneIntervalWakeTogether) {
+  QtEventLoop loop;
+  std::vector<TimePoint> first, second;
+  loop.Every(milliseconds(20), "first", [&] { first.push_back(loop.Now()); });
+  loop.RunUntil(kNo, loop.Now() + milliseconds(9));
+  loop.Every(milliseconds(20), "second", [&] { second.push_back(loop.Now()); });
+  loop.RunUntil([&] { return second.size() == 2; }, loop.Now() + seconds(5));
+  ASSERT_EQ(first.size(), 2u);
+  for (std::size_t i = 0; i < 2; ++i) EXPECT_LT(second[i] - first[i], milliseconds(5));
+}
+
 TEST(QtEventLoopTest, TicksArriveInNestedWaitsAndDoNotPileUp) {
   QtEventLoop loop;
   int ticks = 0;

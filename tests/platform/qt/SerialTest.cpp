@@ -1,7 +1,10 @@
 #include <gmock/gmock.h>
+#include <unistd.h>
 
+#include <QTemporaryDir>
+#include <cerrno>
 #include <filesystem>
-#include <map>
+#include <fstream>
 #include <memory>
 #include <string>
 #include <vector>
@@ -112,6 +115,8 @@ TEST_F(SerialTest, WhatNobodyReadsIsBounded) {
   ASSERT_EQ(port.SetPortOpen(true), PortFault::None);
   ASSERT_TRUE(AwaitInUse(true));
   static_cast<LineEnd&>(*terminal).Send(std::string(100'000, 'x') + "the end");
+  loop.RunUntil([] { return false; }, loop.Now() + milliseconds(100));
+  EXPECT_EQ(port.LostOctets(), 0u) << "a reader that is late for once finds everything";
   EXPECT_TRUE(Await([&] { return port.LostOctets() + port.InBufferCount() == 100'007; }));
   EXPECT_EQ(port.InBufferCount(), 8192u);
   port.SetInputLen(0);
@@ -133,6 +138,68 @@ TEST_F(SerialTest, HangUpIsNoticedAtOnceAndDoesNotSpin) {
   EXPECT_LT(looks, 10);
   port.SetPortOpen(false);
   EXPECT_FALSE(port.LineLost());
+}
+
+TEST_F(SerialTest, WhileNoOctetMovesNothingWakesTheLoop) {
+  Start(true);
+  const auto wakings = [this] {
+    loop.PumpEvents();
+    int looks = 0;
+    loop.RunUntil([&] { return ++looks < 0; }, loop.Now() + milliseconds(200));
+    return looks - 3;  // at the start, at the deadline and at the end
+  };
+  EXPECT_LE(wakings(), 1) << "closed";
+  ASSERT_EQ(port.SetPortOpen(true), PortFault::None);
+  ASSERT_TRUE(AwaitInUse(true));
+  EXPECT_LE(wakings(), 1) << "open";
+  port.SetPortOpen(false);
+  ASSERT_TRUE(AwaitInUse(false));
+  EXPECT_LE(wakings(), 1) << "closed again";
+}
+
+TEST_F(SerialTest, ATakenNodeIsNoticedAtOnce) {
+  const QTemporaryDir folder;
+  const std::string path = folder.filePath("node").toStdString();
+  std::ofstream(path) << "x";
+  int gone = 0;
+  const NodeWatch watch(loop, path, [&gone] { ++gone; });
+  std::filesystem::permissions(path, std::filesystem::perms::owner_read);
+  loop.RunUntil([] { return false; }, loop.Now() + milliseconds(5));
+  EXPECT_EQ(gone, 0);
+  std::filesystem::remove(path);
+  EXPECT_TRUE(Await([&] { return gone == 1; }));
+}
+
+/// A pipe stands for the driver: an octet is a change of the line.
+TEST_F(SerialTest, ACarrierChangeWakesTheLoopAndNothingElseDoes) {
+  int ends[2];
+  ASSERT_EQ(::pipe(ends), 0);
+  std::vector<bool> seen;
+  bool carrier = true;
+  const auto await = [fd = ends[0]] {
+    char octet = 0;
+    return ::read(fd, &octet, 1) == 1 || errno == EINTR;
+  };
+  auto watch = std::make_unique<CarrierWatch>(
+      loop, CarrierLine{[&carrier] { return std::optional(carrier); }, await},
+      [&seen](std::optional<bool> now) { seen.push_back(now.value_or(false)); });
+  int looks = 0;
+  loop.RunUntil([&] { return ++looks < 0; }, loop.Now() + milliseconds(300));
+  EXPECT_LE(looks, 3);
+  carrier = false;
+  const TimePoint start = loop.Now();
+  ASSERT_EQ(::write(ends[1], "x", 1), 1);
+  EXPECT_TRUE(Await([&] { return seen == std::vector{false}; }));
+  EXPECT_LT(loop.Now() - start, seconds(2));
+  watch.reset();
+  EXPECT_LT(loop.Now() - start, seconds(4)) << "the wait in the system has ended";
+
+  watch = std::make_unique<CarrierWatch>(
+      loop, CarrierLine{[&carrier] { return std::optional(carrier); }, [] { return false; }},
+      [&seen](std::optional<bool> now) { seen.push_back(now.value_or(false)); });
+  EXPECT_TRUE(Await([&] { return seen.size() == 3; })) << "it is looked at now and then";
+  EXPECT_LT(loop.Now() - start, seconds(20));
+  for (const int end : ends) ::close(end);
 }
 
 TEST_F(SerialTest, PacedTerminalKeepsLineSpeedBothWays) {

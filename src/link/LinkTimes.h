@@ -1,0 +1,57 @@
+#pragma once
+
+#include <cstddef>
+
+#include "platform/Time.h"
+
+namespace ostrel {
+
+/// The times and counts of the link, each in one place. What ends in Ms is handed to a wait in
+/// milliseconds.
+
+// Waits for an answer.
+inline constexpr int kCableReplyMs = 1000;
+inline constexpr int kModemReplyMs = 10'000;
+inline constexpr int kModemAnswerMs = 1000;
+inline constexpr int kDialExtraMs = 30'000;  ///< on top of the reply wait
+inline constexpr int kHangUpMs = 5000;
+inline constexpr int kRefusalMs = 200;  ///< for the refusal of a statement
+inline constexpr int kFastRefusalMs = 10;
+
+/// How often a message is sent, and a dialogue tried, before it counts as failed.
+inline constexpr int kLinkAttempts = 3;
+inline constexpr int kCodePasses = 3;
+
+// Silence around the escape of a modem.
+inline constexpr int kGuardMs = 1000;
+inline constexpr int kBetweenPlusMs = 200;
+
+// Quiet on the line before something is said. A source that never stops is heard out for the
+// longest time that stands beside it, and then spoken to all the same.
+inline constexpr int kStaleMs = 100;  ///< without a line, ahead of a message
+inline constexpr Duration kLongestStale = std::chrono::seconds(10);
+inline constexpr int kOpeningQuietMs = 1000;  ///< without a frame, ahead of the first word
+/// Enough for the rest of most downloads that a former session has broken off.
+inline constexpr Duration kLongestOpeningQuiet = std::chrono::seconds(20);
+inline constexpr Duration kStreamQuiet = std::chrono::milliseconds(300);  ///< without an octet
+inline constexpr Duration kLongestStreamQuiet = std::chrono::seconds(10);
+
+/// A line on which nothing has moved for so long is given up. Not shorter than any wait for a
+/// reply, so that a busy logger or modem may hold the line as long as it may think.
+inline constexpr Duration kLongestHold = std::chrono::seconds(10);
+static_assert(kLongestHold >= std::chrono::milliseconds(kModemReplyMs));
+
+// Total times, so that a source which never comes to an end cannot keep a dialogue. Those of a few
+// messages have what silence would cost them, `Line::TimeFor`.
+/// From the first command to the modem to the connection. A modem that says nothing at all is
+/// through with all commands and their repeats in 130 s.
+inline constexpr Duration kLongestDialling = std::chrono::seconds(150);
+/// Of a dialogue that moves a whole configuration, which takes minutes.
+inline constexpr Duration kAnyTime = kNever;
+
+// Octets.
+inline constexpr int kReceiveBuffer = 8192;
+/// Far above the longest answer of any logger.
+inline constexpr std::size_t kLongestLine = 64 * 1024;
+
+}  // namespace ostrel

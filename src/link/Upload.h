@@ -1,0 +1,45 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "link/Line.h"
+#include "link/Progress.h"
+#include "link/Wire.h"
+#include "model/DeviceInfo.h"
+
+namespace ostrel {
+
+/// Writes the whole configuration into a logger as numbered statements, and asks it to take them
+/// over.
+class Upload {
+ public:
+  /// `composed` runs when an attempt has taken its state from the model.
+  Upload(Line& line, ProgressFeed& progress, const DeviceInfo& info,
+         std::function<void()> composed);
+
+  /// Makes known what is sent, in order.
+  void SetBlocks(std::vector<WireBlock> blocks) { blocks_ = std::move(blocks); }
+  /// The statements that an upload would send now, without their numbers.
+  std::vector<std::string> Compose() const;
+  LinkFault Run();
+
+ private:
+  LinkFault RunOnce();
+  /// Sends one statement. The logger may refuse it within its window; silence is good.
+  LinkFault SendStatement(std::string_view statement, int expected);
+  LinkFault Close(const std::vector<std::string>& statements);
+  void Tell(Progress::Stage stage, int expected = 0);
+
+  Line& line_;
+  ProgressFeed& progress_;
+  const DeviceInfo& info_;
+  std::function<void()> composed_;
+  std::vector<WireBlock> blocks_;
+  int statementNo_ = 0;  ///< number of the next statement
+};
+
+}  // namespace ostrel

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <optional>
+
+#include "link/LinkFault.h"
+
+namespace ostrel {
+
+/// What a session is doing.
+enum class SessionPhase { Closed, Opening, Open, Reading, Writing, Closing };
+
+/// Whether a phase carries a whole configuration over the line.
+constexpr bool IsTransfer(SessionPhase phase) {
+  return phase == SessionPhase::Reading || phase == SessionPhase::Writing;
+}
+
+/// How the question for an access code was answered while a session was opened.
+enum class CodeAnswer { NotAsked, NotGiven, Given };
+
+/// What a session failed of.
+struct SessionFault {
+  /// Opening, Reading or Writing; Open for any shorter dialogue.
+  SessionPhase during = SessionPhase::Open;
+  LinkFault link{};
+  bool brokenOff = false;  ///< by the operator
+  bool allSent = false;    ///< an upload had nothing left to send but its end
+  CodeAnswer code = CodeAnswer::NotAsked;
+};
+
+/// What a session is doing, and what went wrong last.
+struct SessionState {
+  SessionPhase phase = SessionPhase::Closed;
+  /// Why the last opening or transfer failed; nothing once another one, or closing, has begun.
+  std::optional<SessionFault> failed{};
+};
+
+}  // namespace ostrel

@@ -1,0 +1,41 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "model/DeviceConf.h"
+
+namespace ostrel {
+
+class Configurator;
+class Navigation;
+
+/// Knows whether the configuration, with what stands on the page in front, differs from the state
+/// that was last saved, sent or read. It looks without committing anything.
+class UnsavedMark {
+ public:
+  UnsavedMark(Configurator& configurator, Navigation& navigation)
+      : configurator_(configurator), navigation_(navigation) {}
+
+  /// A state is safe in a file or in a logger.
+  void Keep(const DeviceConf& safe);
+  /// The configuration, the page in front or the model may have changed since the last look.
+  void Touch() { touched_ = true; }
+  /// Whether anything is neither saved nor sent. Looks only when something may have changed, and
+  /// not while a download replaces the model.
+  bool Changed();
+  /// The configuration as it would be if the page in front were committed.
+  DeviceConf WithFront() const;
+
+ private:
+  /// What a file of the selected model would hold.
+  std::vector<std::string> Texts(const DeviceConf& conf) const;
+
+  Configurator& configurator_;
+  Navigation& navigation_;
+  std::vector<std::string> kept_;
+  bool touched_ = true;
+  bool changed_ = false;
+};
+
+}  // namespace ostrel

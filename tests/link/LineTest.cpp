@@ -1,0 +1,191 @@
+#include "link/LinkFixture.h"
+
+namespace ostrel {
+namespace {
+
+using testing::ElementsAre;
+
+/// Frames, plain lines and the waits for them.
+class LineTest : public LinkTest {
+ protected:
+  LineTest() {
+    OpenPort();
+    comms.Trace = [this](const std::string& line) { trace.push_back(line); };
+  }
+  std::string Send(std::string message, int timeout) {
+    comms.TxSer(message, timeout);
+    return message;
+  }
+
+  Texts trace;
+};
+
+TEST_F(LineTest, RxSerTakesOneFrame) {
+  struct Case {
+    std::string octets;
+    std::string RxLine;  ///< empty for a failure
+    int RxChars;
+  };
+  const Case cases[] = {
+      {"OK\r\n\x01#64;40\r", "#40", 6},
+      {"#e9;\xE9\r", "#é", 5},
+      {"#80;\x80\r", "#€", 5},
+      {"#64;4", "", 4},
+      {"#87;40#\r", "#40#", 7},
+      {"#64;40\n\r", "", 7},
+      {"#00;" + std::string(4 * 16383, '@') + "\r", "#" + std::string(4 * 16383, '@'), 65536},
+      {"#00;" + std::string(4 * 16384, '@') + "\r", "", 65540},
+      {std::string(20'000, '?'), "", 0},
+  };
+  for (const Case& c : cases) {
+    SCOPED_TRACE(c.octets.substr(0, 20));
+    comms.RxLine = "old";
+    comms.RxChars = 0;
+    logger.end->Send(c.octets);
+    EXPECT_EQ(comms.RxSer(100), !c.RxLine.empty());
+    EXPECT_EQ(comms.RxLine, c.RxLine);
+    EXPECT_EQ(comms.RxChars, c.RxChars);
+    EXPECT_EQ(port.InBufferCount(), 0U);
+  }
+}
+
+TEST_F(LineTest, RxSerDeliversFramesOneByOneWithinOneCountdown) {
+  logger.end->Send(Frames("#A", "#B"));
+  EXPECT_TRUE(comms.RxSer(100) && comms.RxLine == "#A");
+  EXPECT_TRUE(comms.RxSer(100) && comms.RxLine == "#B");
+  EXPECT_EQ(loop.Now(), Duration::zero());
+
+  for (const int ms : {0, 60, 120}) At(milliseconds(ms), [this] { logger.end->Send("#6"); });
+  EXPECT_FALSE(comms.RxSer(100)) << "characters do not restart the countdown";
+  EXPECT_EQ(loop.Now(), milliseconds(100));
+
+  At(milliseconds(50), [this] {
+    logger.end->Send("\r#64;40\r");
+    loop.HoldUp(milliseconds(400));
+  });
+  EXPECT_FALSE(comms.RxSer(100)) << "the rest of the torn frame";
+  EXPECT_TRUE(comms.RxSer(100)) << "it came in time, though the loop was held up";
+}
+
+TEST_F(LineTest, TxSerSendsUpToThreeTimes) {
+  logger.Next("#40", "#00;BF\r");
+  logger.Next("#40", "noise");
+  logger.Next("#40", Frames("#BF"));
+  logger.end->Send(Frames("#stale", "#too"));
+  EXPECT_EQ(Send("#40", 1000), "#64;40");
+  EXPECT_EQ(comms.RxLine, "#BF");
+  EXPECT_EQ(logger.raw, "#64;40\r#64;40\r#64;40\r");
+  EXPECT_EQ(loop.Now(), milliseconds(1100)) << "a bad frame is answered at once, silence is not";
+
+  logger.Always("#41", Frames("#odd"));
+  Send("#41", 1000);
+  EXPECT_EQ(logger.lines.size(), 4U) << "an unexpected answer is an answer";
+  EXPECT_EQ(Took([&] { Send("#42", 10'000); }), milliseconds(30'100));
+  EXPECT_EQ(comms.RxLine, "");
+  port.SetPaced(true);
+  const std::string slow(956, '@');
+  EXPECT_EQ(Took([&] { Send(slow, 1000); }), milliseconds(100) + 3 * LineTime(960) + seconds(3))
+      << "the window starts when the message has left";
+}
+
+TEST_F(LineTest, TxSerWithoutWaitLeavesTheReplyForLater) {
+  logger.Always("#40", Frames("#BF"));
+  comms.RxLine = "old";
+  EXPECT_EQ(Send("#40", 0), "#64;40");
+  EXPECT_EQ(Send("#é", -1), "#E9;é");
+  EXPECT_EQ(comms.RxLine, "old");
+  EXPECT_TRUE(comms.RxSer(100));
+  EXPECT_EQ(comms.RxLine, "#BF");
+  EXPECT_EQ(logger.raw, "#64;40\r#E9;\xE9\r");
+}
+
+TEST_F(LineTest, ClosedPortLeavesEverythingAlone) {
+  port.SetPortOpen(false);
+  comms.RxLine = "old";
+  EXPECT_EQ(Send("#40", 1000), "#40");
+  comms.TxGsm("AT", 1000);
+  EXPECT_FALSE(comms.RxSer(1000) || comms.RxGsm(1000) || !comms.GetChar(1000).empty());
+  EXPECT_EQ(comms.RxLine, "old");
+  EXPECT_EQ(loop.Now(), Duration::zero());
+}
+
+TEST_F(LineTest, GsmLines) {
+  struct Case {
+    Texts answers;
+    std::string RxLine;
+    std::size_t sent;
+  };
+  const Case cases[] = {
+      {{"\r\n OK\r"}, "OK", 1},
+      {{"\x7F\x80RING 1\nx\r"}, "RING 1\nx", 1},
+      {{"+CME ERROR: 515\r", "+CME ERROR: 516\r"}, "+CME ERROR: 516", 2},
+      {{"+CME ERROR: 515\r", "+CME ERROR: 515\r", "+CME ERROR: 515\r"}, "+CME ERROR: 515", 3},
+      {{"half", "half", "half"}, "", 3},
+      {{std::string(70'000, 'x') + "\r", "OK\r"}, "OK", 2},
+  };
+  for (const Case& c : cases) {
+    for (const std::string& answer : c.answers) logger.Next("AT", answer);
+    logger.lines.clear();
+    logger.end->Send("\r\nstale\r");
+    comms.TxGsm("AT", 200);
+    EXPECT_EQ(comms.RxLine, c.RxLine);
+    EXPECT_EQ(logger.lines.size(), c.sent) << c.RxLine;
+  }
+  logger.raw.clear();
+  comms.TxGsm("ATH", 0);
+  comms.Delay(1);
+  EXPECT_EQ(logger.raw, "ATH\r");
+}
+
+TEST_F(LineTest, GetCharAndDelayServeTheLoop) {
+  int ticks = 0;
+  loop.Every(milliseconds(100), "tick", [&ticks] { ++ticks; });
+  At(milliseconds(30), [this] { logger.end->Send("\xE9x"); });
+  EXPECT_EQ(comms.GetChar(10), "");
+  EXPECT_EQ(comms.GetChar(1000), "\xE9");
+  EXPECT_EQ(comms.GetChar(0), "x");
+  EXPECT_EQ(loop.Now(), milliseconds(30));
+  EXPECT_EQ(Took([&] { comms.Delay(1000); }), seconds(1));
+  EXPECT_EQ(ticks, 10);
+}
+
+TEST_F(LineTest, TraceShowsMessagesWithTheirTimeAndNoCode) {
+  logger.Next("#40", "#00;BF\r");
+  logger.Always("#40", Frames("#BF\xE9"));
+  logger.Always("AT", "OK\r");
+  Send("#40", 1000);
+  Send("#111234", 0);
+  comms.TxGsm("AT", 100);
+  EXPECT_THAT(
+      trace, ElementsAre("      100 TxSer: #40", "      100 RxSer Checksum error!",
+                         "      100 TxSer: #40", "      100 RxSer: #BFé",
+                         "      100 TxSer: #11****", "      200 TxGsm: AT", "      200 RxGsm: OK"));
+}
+
+TEST_F(LineTest, TraceTellsOfOctetsThatNobodyTook) {
+  for (int second = 0; second < 3; ++second) {
+    logger.end->Send(std::string(10'000, 'x'));
+    comms.Delay(1000);
+  }
+  logger.end->Send(Frames("#BF"));
+  comms.Delay(1);
+  EXPECT_TRUE(comms.RxSer(100)) << "the latest is there";
+  EXPECT_THAT(trace, ElementsAre("     3001 Receive buffer full, octets lost: 21815",
+                                 "     3001 RxSer: #BF"));
+}
+
+TEST_F(LineTest, SilenceIsCountedWhileADialogueRuns) {
+  comms.TheLine().Converse(kNever, [&] {
+    comms.Delay(700);
+    EXPECT_EQ(comms.SilentFor(), milliseconds(700));
+    logger.end->Send(Frames("#BF"));
+    EXPECT_TRUE(comms.RxSer(100));
+    comms.Delay(300);
+    EXPECT_EQ(comms.SilentFor(), milliseconds(300));
+    return LinkFault{};
+  });
+  EXPECT_EQ(comms.SilentFor(), Duration::zero());
+}
+
+}  // namespace
+}  // namespace ostrel

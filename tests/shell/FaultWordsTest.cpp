@@ -1,0 +1,58 @@
+#include <gtest/gtest.h>
+
+#include <set>
+
+#include "shell/FaultWords.h"
+
+namespace ostrel {
+namespace {
+
+using Kind = LinkFault::Kind;
+
+/// What is told of a fault, in one line.
+std::string Told(const SessionFault& fault) {
+  const FaultWords words = WordsOf(fault, "COM7");
+  return Filled(words.what) + "|" + Filled(words.remedy) + "|" + Filled(words.outcome);
+}
+
+TEST(FaultWords, TellEachFaultDifferently) {
+  std::set<std::string> told;
+  constexpr int kKinds = static_cast<int>(Kind::PortClosed) + 1;
+  for (int kind = 0; kind < kKinds; ++kind)
+    told.insert(Told({.link = {static_cast<Kind>(kind), 12, "text"}}));
+  EXPECT_EQ(told.size(), static_cast<std::size_t>(kKinds));
+}
+
+TEST(FaultWords, TellPlaceTextRemedyAndHowTheLoggerStands) {
+  using enum SessionPhase;
+  const std::string former = "the logger's former configuration stays in force";
+  const std::string unknown =
+      "whether the logger has taken the configuration over is not known: read it back";
+  const std::string unchanged = "the logger's configuration is unchanged";
+  for (const auto& [fault, told] : std::vector<std::pair<SessionFault, std::string>>{
+           {{.during = Reading, .link = {Kind::Silence, 6, ""}},
+            "the logger fell silent at record 6||" + unchanged},
+           {{.during = Writing, .link = {Kind::Silence, 6, ""}},
+            "the logger fell silent at statement 6||" + former},
+           {{.link = {Kind::Silence, 0, ""}}, "the logger fell silent||"},
+           {{.during = Writing, .link = {Kind::BadChecksum, 6, ""}, .allSent = true},
+            "lines arrived damaged at statement 6|check cable and earthing|" + unknown},
+           {{.during = Writing, .link = {Kind::Refused, 3, "50%1%2"}},
+            "the logger refused statement 3: \"50%1%2\"||" + former},
+           {{.during = Writing, .link = {Kind::NotTakenOver, 9, ""}, .allSent = true},
+            "the logger did not say that it took the configuration over||" + unknown},
+           {{.link = {Kind::NotTakenOver, 0, "#BE0"}},
+            "the logger refused the setting: \"#BE0\"||"},
+           {{.during = Opening, .link = {Kind::NoHandshake, 0, ""}},
+            "no logger answers at COM7|check cable and supply|"},
+           {{.during = Opening, .link = {Kind::NoHandshake, 0, ""}, .code = CodeAnswer::NotGiven},
+            "the logger wants an access code||"},
+           {{.during = Opening, .link = {Kind::PortClosed, 0, ""}, .brokenOff = true},
+            "interrupted before a session stood||" + unchanged},
+           {{.during = Writing, .link = {Kind::PortClosed, 4, ""}, .brokenOff = true},
+            "interrupted||" + former}})
+    EXPECT_EQ(Told(fault), told);
+}
+
+}  // namespace
+}  // namespace ostrel

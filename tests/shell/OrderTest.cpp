@@ -1,0 +1,72 @@
+#include <gmock/gmock.h>
+
+#include <map>
+
+#include "SimWorld.h"
+
+namespace ostrel {
+namespace {
+
+using testing::ElementsAre;
+
+/// How a statement begins, up to its first number or sign: "DINAME", "-ALMD".
+std::string HeadOf(const std::string& statement) {
+  const auto isPlain = [](char c) { return c >= 'A' && c <= 'Z'; };
+  const auto end = std::find_if_not(statement.begin() + 1, statement.end(), isPlain);
+  return {statement.begin(), end};
+}
+
+/// The heads of a whole upload in the order in which they first come, each with its count.
+std::string Heads(const std::vector<std::string>& statements) {
+  std::vector<std::string> order;
+  std::map<std::string, int> counts;
+  for (const std::string& statement : statements)
+    if (counts[HeadOf(statement)]++ == 0) order.push_back(HeadOf(statement));
+  std::string heads;
+  for (const std::string& head : order) heads += head + " " + std::to_string(counts[head]) + ", ";
+  return heads;
+}
+
+TEST(Orders, AnUploadSendsItsBlocksInTheOrderThatLoggersExpect) {
+  const std::string start =
+      "ID 1, CSM 1, PTLF 1, REST 1, RETRYMAX 1, RETRYTIME 1, CLRTLF 1, +TLF 2, ";
+  for (const auto& [model, rest] : std::vector<std::pair<std::string, std::string>>{
+           {"Ostrel KA1", "DINAME 8, -ALMD 32, -ALMF 16, "},
+           {"Ostrel KA2", "DINAME 9, -ALMD 36, -ALMF 16, "},
+           {"Ostrel VR200", "DINAME 8, -ALMD 32, DISAI 4, -ALMA 16, AGRP 4, -ALMF 16, "},
+           {"Ostrel S100", "DINAME 2, -ALMD 8, DISAI 2, -ALMA 8, AGRP 2, -ALMF 16, "},
+           {"Tavro BP", "DINAME 8, -ALMD 32, DISAI 4, -ALMA 16, AGRP 4, -ALMF 16, "},
+           {"Tavro BQ", "DINAME 4, -ALMD 16, DISAI 1, -ALMA 4, AGRP 1, -ALMF 16, "}}) {
+    World world;
+    Configurator program(world.platform, world.Options(false));
+    program.StartForCommand(model, 1);
+    program.conf.Phone[0].TLF = program.conf.Phone[7].TLF = "600";
+    program.info.Features = -1;
+    EXPECT_EQ(Heads(program.comms.ComposeStatements()), start + rest) << model;
+  }
+}
+
+/// A page without a place in the one order would show a former configuration's settings as the
+/// logger's, without a place in the other the former ones.
+TEST(Orders, ADownloadEmptiesAllPagesAndThenShowsThem) {
+  sim::LoggerOptions options = sim::MakeDefaultOptions(sim::Model::BP);
+  SimWorld world(options);
+  world.logger->SetConf(sim::RandomConfiguration(options.model, options.features, 3, 1.0));
+  Configurator program(world.platform, world.Options(false));
+  program.StartForCommand(world.TargetName(), 1);
+  ASSERT_TRUE(program.session.Open(SimWorld::kPort, ""));
+  ASSERT_TRUE(program.session.Download());
+  std::vector<std::string> order;
+  for (Form* form : program.Forms())
+    for (const ControlRef& control : form->Controls())
+      if (std::holds_alternative<TextBox*>(control) || std::holds_alternative<ComboBox*>(control))
+        FaceOf(control).OnChanged = [&order, form] {
+          if (order.empty() || order.back() != form->Name()) order.push_back(form->Name());
+        };
+  ASSERT_TRUE(program.session.Download());
+  EXPECT_THAT(order, ElementsAre("E_Analog", "E_Digital", "General", "Grupos", "Flags",  // emptied
+                                 "E_Analog", "E_Digital", "General", "Grupos", "Flags"));  // shown
+}
+
+}  // namespace
+}  // namespace ostrel
