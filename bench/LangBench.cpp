@@ -8,7 +8,7 @@
 namespace ostrel {
 namespace {
 
-constexpr const char* kPath = "/Lang.txt";
+constexpr const char* kTablePath = "/Lang.txt";
 
 std::string Key(int row) { return "Texto de la fila numero " + std::to_string(row); }
 
@@ -17,13 +17,13 @@ struct FullTable {
     std::string text = "{Espa\xF1ol}{English}";
     for (int row = 1; row < kLangRows; ++row)
       text += "\r\n{" + Key(row) + "}{Text of row " + std::to_string(row) + "}";
-    files.contents[kPath] = text;
+    files.contents[kTablePath] = text;
     lang.Init();
     lang.SetSelectedLang(2);
   }
 
   VirtualFiles files;
-  Lang lang{files, kPath};
+  Lang lang{files, kTablePath};
 };
 
 void LookUp(benchmark::State& state) {

@@ -1,17 +1,10 @@
 # What an installation holds, and the Debian package.
 include(GNUInstallDirs)
 
-install(TARGETS ostrelctl ostrel-sim ostrel-configurator
-        RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+install(TARGETS ostrelctl ostrel-sim RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
 install(FILES ${CMAKE_SOURCE_DIR}/data/Lang.txt
         DESTINATION ${CMAKE_INSTALL_DATADIR}/ostrel-configurator)
-install(FILES ${CMAKE_SOURCE_DIR}/data/desktop/ostrel-configurator.desktop
-        DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
-install(FILES ${CMAKE_SOURCE_DIR}/data/desktop/ostrel-configurator.xml
-        DESTINATION ${CMAKE_INSTALL_DATADIR}/mime/packages)
-install(FILES ${CMAKE_SOURCE_DIR}/data/icons/ostrel-configurator.svg
-        DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps)
-install(FILES ${CMAKE_SOURCE_DIR}/docs/man/ostrel-configurator.1 ${CMAKE_SOURCE_DIR}/docs/man/ostrelctl.1 ${CMAKE_SOURCE_DIR}/docs/man/ostrel-sim.1
+install(FILES ${CMAKE_SOURCE_DIR}/docs/man/ostrelctl.1 ${CMAKE_SOURCE_DIR}/docs/man/ostrel-sim.1
         DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
 install(FILES ${CMAKE_SOURCE_DIR}/data/completion/ostrelctl
         DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions)

@@ -9,6 +9,7 @@ endif()
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
 
 option(OSTREL_SANITIZE "Build with the address and undefined-behaviour sanitizers" OFF)
+option(OSTREL_DESKTOP "Build the window" ON)
 option(OSTREL_BENCH "Build the benchmarks" ON)
 option(OSTREL_WERROR "Treat warnings as errors" ON)
 
