@@ -21,8 +21,7 @@ namespace {
 constexpr int kTreeWidth = 230;
 constexpr int kMessageTime = 10'000;  // ms
 constexpr QSize kFirstSize{1280, 720};
-constexpr std::string_view kApplication = "Quorvane";
-constexpr std::string_view kSection = "Window";
+constexpr std::string_view kWindowPart = "Window";
 constexpr std::string_view kPlace = "Place";
 
 }  // namespace
@@ -282,12 +281,12 @@ std::string MainWindow::AskCode() {
 }
 
 void MainWindow::RestorePlace() {
-  const std::string place = parts_.platform.settings.Get(kApplication, kSection, kPlace);
+  const std::string place = parts_.platform.settings.Get(kMaker, kWindowPart, kPlace);
   restoreGeometry(QByteArray::fromBase64(QByteArray::fromStdString(place)));
 }
 
 void MainWindow::KeepPlace() {
-  parts_.platform.settings.Set(kApplication, kSection, kPlace,
+  parts_.platform.settings.Set(kMaker, kWindowPart, kPlace,
                                saveGeometry().toBase64().toStdString());
 }
 

@@ -21,8 +21,6 @@
 namespace ostrel {
 namespace {
 
-constexpr const char* kApplication = "Quorvane";
-constexpr const char* kSection = "Ostrel Configurator";
 constexpr const char* kConfiguration = "/picture.ocf";
 constexpr const char* kTable = "/Lang.txt";
 
@@ -66,9 +64,9 @@ QPixmap PagePicture(Desktop& desktop, const CommandLine& line) {
 std::string TakeScreenshot(const CommandLine& line, const std::string& langFile) {
   QtEventLoop loop;
   VirtualSettings settings;
-  settings.Set(kApplication, kSection, "Idioma", std::to_string(line.language));
-  settings.Set(kApplication, kSection, "ComPort", "1");
-  settings.Set(kApplication, kSection, "Target",
+  settings.Set(kMaker, kProduct, "Idioma", std::to_string(line.language));
+  settings.Set(kMaker, kProduct, "ComPort", "1");
+  settings.Set(kMaker, kProduct, "Target",
                line.target.empty() ? TargetNamesOffered().front() : line.target);
   QtFiles disk;
   VirtualFiles files;

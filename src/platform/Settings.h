@@ -5,6 +5,11 @@
 
 namespace ostrel {
 
+/// Whose settings these are: the maker, and the section of the program itself. Windows, records and
+/// the like have sections of their own.
+inline constexpr std::string_view kMaker = "Quorvane";
+inline constexpr std::string_view kProduct = "Ostrel Configurator";
+
 /// The per-user settings store, addressed by application, section and key; injected because it
 /// stands outside the process.
 class Settings {

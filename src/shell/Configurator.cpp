@@ -15,8 +15,6 @@
 namespace ostrel {
 namespace {
 
-constexpr std::string_view kMaker = "Quorvane";
-
 std::vector<std::unique_ptr<Page>> MakePages(PageContext& context) {
   std::vector<std::unique_ptr<Page>> pages;
   pages.push_back(std::make_unique<General>(context));

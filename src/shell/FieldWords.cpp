@@ -7,7 +7,7 @@
 namespace ostrel {
 namespace {
 
-std::string WeekDays(std::uint8_t week) {
+std::string DayNames(std::uint8_t week) {
   constexpr std::array<std::string_view, 7> names{"Mo", "Tu", "We", "Th", "Fr", "Sa", "Su"};
   std::string days;
   for (std::size_t day = 0; day < names.size(); ++day)
@@ -38,7 +38,7 @@ std::string ReadableValue(const FieldView& value, const FieldMeta& meta, bool is
   if (const auto* flag = std::get_if<const Bool16*>(&value)) return bool(**flag) ? "yes" : "no";
   if (std::holds_alternative<const ConfPhone*>(value)) return text.empty() ? "free" : text;
   const auto* week = std::get_if<const std::uint8_t*>(&value);
-  if (week && meta.sense == FieldSense::Week) return WeekDays(**week);
+  if (week && meta.sense == FieldSense::Week) return DayNames(**week);
   return text.starts_with(' ') ? text.substr(1) : text;
 }
 

@@ -12,7 +12,7 @@ constexpr int kFlagNodes = 16;
 constexpr int kMainsInput = 8;
 
 /// The four blocks of four timers: text and end of the key.
-constexpr std::array<std::pair<std::string_view, std::string_view>, 4> kTimerBlocks{
+constexpr std::array<std::pair<std::string_view, std::string_view>, 4> kTimerGroups{
     {{"0-3", "0_3"}, {"4-7", "4_7"}, {"8-11", "8_11"}, {"12-15", "12_15"}}};
 
 /// Adds nodes one below the other.
@@ -43,7 +43,7 @@ class TreeBuilder {
   }
   void AddTimers(std::string_view text, std::string_view key) {
     Add(text, key, "Timer");
-    for (const auto& [range, end] : kTimerBlocks)
+    for (const auto& [range, end] : kTimerGroups)
       AddFixed(range, std::string(key).append(end), key);
   }
   TreeNode& Last() { return nodes_.back(); }

@@ -6,8 +6,7 @@
 namespace ostrel {
 namespace {
 
-constexpr std::string_view kApplication = "Quorvane";
-constexpr std::string_view kSection = "Window";
+constexpr std::string_view kWindow = "Window";
 constexpr std::string_view kKey = "Recent";
 constexpr char kSeparator = '\n';
 constexpr std::size_t kMost = 8;
@@ -16,7 +15,7 @@ constexpr std::size_t kMost = 8;
 
 std::vector<std::string> RecentFiles::Paths() const {
   std::vector<std::string> paths;
-  std::string rest = settings_.Get(kApplication, kSection, kKey);
+  std::string rest = settings_.Get(kMaker, kWindow, kKey);
   while (!rest.empty()) {
     const std::size_t end = std::min(rest.find(kSeparator), rest.size());
     if (end > 0) paths.push_back(rest.substr(0, end));
@@ -42,7 +41,7 @@ void RecentFiles::Remove(const std::string& path) {
 void RecentFiles::Keep(const std::vector<std::string>& paths) {
   std::string text;
   for (const std::string& each : paths) text += each + kSeparator;
-  settings_.Set(kApplication, kSection, kKey, text);
+  settings_.Set(kMaker, kWindow, kKey, text);
 }
 
 }  // namespace ostrel

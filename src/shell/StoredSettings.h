@@ -20,12 +20,9 @@ class StoredSettings {
   void SetTarget(std::string_view value) { Set("Target", value); }
 
  private:
-  static constexpr std::string_view kApplication = "Quorvane";
-  static constexpr std::string_view kSection = "Ostrel Configurator";
-
-  std::string Get(std::string_view key) const { return settings_.Get(kApplication, kSection, key); }
+  std::string Get(std::string_view key) const { return settings_.Get(kMaker, kProduct, key); }
   void Set(std::string_view key, std::string_view value) {
-    settings_.Set(kApplication, kSection, key, value);
+    settings_.Set(kMaker, kProduct, key, value);
   }
 
   Settings& settings_;

@@ -15,7 +15,7 @@ ModelConfiguration Empty(std::string_view model) {
   return made;
 }
 
-std::string Line(const Difference& difference) {
+std::string Told(const Difference& difference) {
   return difference.Section() + " " + difference.Key() + ": " + difference.beforeWords + " -> " +
          difference.afterWords;
 }
@@ -28,8 +28,8 @@ TEST(Comparison, IsByFieldAndPassesFreeTelephones) {
   other.conf.Phone[4].TLF = "600";
   const Comparison comparison = Compare(one, other);
   ASSERT_EQ(comparison.differences.size(), 2U);
-  EXPECT_EQ(Line(comparison.differences[0]), "DIGITAL 1 NOMBRE: \"\" -> \"door\"");
-  EXPECT_TRUE(Line(comparison.differences[1]).starts_with("GENERAL TLFM 4: free -> 600,Prio=0"));
+  EXPECT_EQ(Told(comparison.differences[0]), "DIGITAL 1 NOMBRE: \"\" -> \"door\"");
+  EXPECT_TRUE(Told(comparison.differences[1]).starts_with("GENERAL TLFM 4: free -> 600,Prio=0"));
   EXPECT_FALSE(comparison.isSame);
   EXPECT_TRUE(Compare(other, other).isSame);
 }
@@ -51,8 +51,8 @@ TEST(Comparison, OfModelsTellsTheModelAndWhatOneSideLacks) {
   one.conf.General.DNAME = "a";
   other.conf.General.DNAME = "b";
   const Comparison comparison = Compare(one, other);
-  EXPECT_EQ(Line(comparison.differences.at(0)), "GENERAL VERSION: Tavro BP -> Ostrel KA1");
-  EXPECT_EQ(Line(comparison.differences.at(1)), "GENERAL NOMBRE: \"a\" -> \"b\"");
+  EXPECT_EQ(Told(comparison.differences.at(0)), "GENERAL VERSION: Tavro BP -> Ostrel KA1");
+  EXPECT_EQ(Told(comparison.differences.at(1)), "GENERAL NOMBRE: \"a\" -> \"b\"");
 }
 
 TEST(ReadConfiguration, IsBesideThePresentOne) {

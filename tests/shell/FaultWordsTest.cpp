@@ -7,7 +7,7 @@
 namespace ostrel {
 namespace {
 
-using Kind = LinkFault::Kind;
+using FaultKind = LinkFault::Kind;
 
 /// What is told of a fault, in one line.
 std::string Told(const SessionFault& fault) {
@@ -17,9 +17,9 @@ std::string Told(const SessionFault& fault) {
 
 TEST(FaultWords, TellEachFaultDifferently) {
   std::set<std::string> told;
-  constexpr int kKinds = static_cast<int>(Kind::PortClosed) + 1;
+  constexpr int kKinds = static_cast<int>(FaultKind::PortClosed) + 1;
   for (int kind = 0; kind < kKinds; ++kind)
-    told.insert(Told({.link = {static_cast<Kind>(kind), 12, "text"}}));
+    told.insert(Told({.link = {static_cast<FaultKind>(kind), 12, "text"}}));
   EXPECT_EQ(told.size(), static_cast<std::size_t>(kKinds));
 }
 
@@ -30,26 +30,28 @@ TEST(FaultWords, TellPlaceTextRemedyAndHowTheLoggerStands) {
       "whether the logger has taken the configuration over is not known: read it back";
   const std::string unchanged = "the logger's configuration is unchanged";
   for (const auto& [fault, told] : std::vector<std::pair<SessionFault, std::string>>{
-           {{.during = Reading, .link = {Kind::Silence, 6, ""}},
+           {{.during = Reading, .link = {FaultKind::Silence, 6, ""}},
             "the logger fell silent at record 6||" + unchanged},
-           {{.during = Writing, .link = {Kind::Silence, 6, ""}},
+           {{.during = Writing, .link = {FaultKind::Silence, 6, ""}},
             "the logger fell silent at statement 6||" + former},
-           {{.link = {Kind::Silence, 0, ""}}, "the logger fell silent||"},
-           {{.during = Writing, .link = {Kind::BadChecksum, 6, ""}, .allSent = true},
+           {{.link = {FaultKind::Silence, 0, ""}}, "the logger fell silent||"},
+           {{.during = Writing, .link = {FaultKind::BadChecksum, 6, ""}, .allSent = true},
             "lines arrived damaged at statement 6|check cable and earthing|" + unknown},
-           {{.during = Writing, .link = {Kind::Refused, 3, "50%1%2"}},
+           {{.during = Writing, .link = {FaultKind::Refused, 3, "50%1%2"}},
             "the logger refused statement 3: \"50%1%2\"||" + former},
-           {{.during = Writing, .link = {Kind::NotTakenOver, 9, ""}, .allSent = true},
+           {{.during = Writing, .link = {FaultKind::NotTakenOver, 9, ""}, .allSent = true},
             "the logger did not say that it took the configuration over||" + unknown},
-           {{.link = {Kind::NotTakenOver, 0, "#BE0"}},
+           {{.link = {FaultKind::NotTakenOver, 0, "#BE0"}},
             "the logger refused the setting: \"#BE0\"||"},
-           {{.during = Opening, .link = {Kind::NoHandshake, 0, ""}},
+           {{.during = Opening, .link = {FaultKind::NoHandshake, 0, ""}},
             "no logger answers at COM7|check cable and supply|"},
-           {{.during = Opening, .link = {Kind::NoHandshake, 0, ""}, .code = CodeAnswer::NotGiven},
+           {{.during = Opening,
+           .link = {FaultKind::NoHandshake, 0, ""},
+           .code = CodeAnswer::NotGiven},
             "the logger wants an access code||"},
-           {{.during = Opening, .link = {Kind::PortClosed, 0, ""}, .brokenOff = true},
+           {{.during = Opening, .link = {FaultKind::PortClosed, 0, ""}, .brokenOff = true},
             "interrupted before a session stood||" + unchanged},
-           {{.during = Writing, .link = {Kind::PortClosed, 4, ""}, .brokenOff = true},
+           {{.during = Writing, .link = {FaultKind::PortClosed, 4, ""}, .brokenOff = true},
             "interrupted||" + former}})
     EXPECT_EQ(Told(fault), told);
 }

@@ -9,7 +9,7 @@
 namespace ostrel {
 namespace {
 
-constexpr const char* kFile = "/site.ocf";
+constexpr const char* kRoundFile = "/site.ocf";
 
 /// How a configuration is filled for a round.
 enum class Filling { Empty, Dense, Random, LongestTexts, CodePage };
@@ -117,12 +117,12 @@ class Pass {
           return options;
         }()) {
     program.StartForCommand(world_.TargetName(), 1);
-    program.ConfFilePath = kFile;
+    program.ConfFilePath = kRoundFile;
   }
 
   /// The file after a pass that starts from the file before.
   std::string Run(const std::string& file) {
-    world_.files.contents[kFile] = file;
+    world_.files.contents[kRoundFile] = file;
     EXPECT_EQ(program.RestoreConf(), RestoreResult::Loaded);
     EXPECT_TRUE(program.session.Open(SimWorld::kPort, ""));
     EXPECT_TRUE(program.session.Upload()) << program.comms.Fault().text;
@@ -133,7 +133,7 @@ class Pass {
 
   std::string Save() {
     EXPECT_TRUE(program.SaveConf().Ok());
-    return world_.files.contents[kFile];
+    return world_.files.contents[kRoundFile];
   }
 
  private:

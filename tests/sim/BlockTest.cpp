@@ -10,35 +10,35 @@ using testing::Contains;
 using testing::Not;
 using testing::StartsWith;
 
-constexpr std::uint32_t kAll = 0xFFFFFFFF;
+constexpr std::uint32_t kAllFeatures = 0xFFFFFFFF;
 
 /// What a statement changes shows in a record.
-struct Case {
+struct BlockCase {
   Model model;
   const char* statement;
   const char* record;
-  std::uint32_t features = kAll;
+  std::uint32_t features = kAllFeatures;
   const char* before = "";  ///< a statement that comes first, if any
 };
 
-const Case kTaken[] = {
+const BlockCase kTaken[] = {
     // Timers
     {Model::KA1, "CT3= 60,EQ= 0,ACT= 5 42", "CTIMER,3,127,0,86400,60,0"},
     {Model::KA1, "CT15= .5,START=8:05:00,STOP=23:59:59,WEEK=1000001,EQ= 16,ACT=",
      "CTIMER,15,65,29100,86399,0.5,16"},
     {Model::KA1, "CT0= 60,EQ= 3,ACT= 43 7", "CTIMER.ACTION,0,43,7,0,0,0,0,0,0"},
-    {Model::KA1, "-CT3", "CTIMER,3,0,0,0,0,0", kAll, "CT3= 60,EQ= 3,ACT= 5"},
-    {Model::KA1, "-CT3", "CTIMER.ACTION,3,0,0,0,0,0,0,0,0", kAll, "CT3= 60,EQ= 3,ACT= 5"},
+    {Model::KA1, "-CT3", "CTIMER,3,0,0,0,0,0", kAllFeatures, "CT3= 60,EQ= 3,ACT= 5"},
+    {Model::KA1, "-CT3", "CTIMER.ACTION,3,0,0,0,0,0,0,0,0", kAllFeatures, "CT3= 60,EQ= 3,ACT= 5"},
     {Model::KA1, "LT3= 86400,ACT= 5 42", "LTIMER,3,86400"},
     {Model::KA1, "LT15= 2147472000,ACT= 5 42", "LTIMER.ACTION,15,5,42,0,0,0,0,0,0"},
-    {Model::KA1, "-LT3", "LTIMER,3,0", kAll, "LT3= 86400,ACT= 5"},
+    {Model::KA1, "-LT3", "LTIMER,3,0", kAllFeatures, "LT3= 86400,ACT= 5"},
     {Model::KA1, "WT2=8:05:00,WEEK=1111100,ACT= 4", "WTIMER,2,31,29100"},
     {Model::KA1, "WT2=0:00:00,WEEK=0000001,ACT= 4", "WTIMER.ACTION,2,4,0,0,0,0,0,0,0"},
-    {Model::KA1, "-WT2", "WTIMER,2,0,0", kAll, "WT2=8:05:00,WEEK=1111100,ACT= 4"},
+    {Model::KA1, "-WT2", "WTIMER,2,0,0", kAllFeatures, "WT2=8:05:00,WEEK=1111100,ACT= 4"},
     {Model::KA1, "MT0=6:00:00,MASK= 16385,ACT= 7", "MTIMER,0,16385,21600"},
     {Model::KA1, "MT15=6:00:00,MASK= 4294967295,ACT= 7", "MTIMER,15,4294967295,21600"},
     {Model::KA1, "MT0=6:00:00,MASK= 2147483648,ACT= 7", "MTIMER.ACTION,0,7,0,0,0,0,0,0,0"},
-    {Model::KA1, "-MT0", "MTIMER,0,0,0", kAll, "MT0=6:00:00,MASK= 1,ACT= 7"},
+    {Model::KA1, "-MT0", "MTIMER,0,0,0", kAllFeatures, "MT0=6:00:00,MASK= 1,ACT= 7"},
     // Flow meters
     {Model::BQ, "SAMPLERATE=1", "SRATE,1"},
     {Model::BQ, "FLOWCONF1=Caudal,UNIT=m3/h,TB= 60,REGDAYMIN,RATIO=0.25",
@@ -53,11 +53,11 @@ const Case kTaken[] = {
     {Model::KA1,
      "+ALMFLOW0=x,INDEX= 3,MAX= 9,MIN=-3,HIST= .1,P= 4,EQ= 1,ACTHI= 1,ACTLO= 2,ACTNOM= 3 4",
      "CAUDAL.ACT,0,3,1,3,2,0,4,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0,0"},
-    {Model::KA1, "-ALMFLOW0,INDEX= 0", "CAUDAL.ALM,0,0,,0,0,0,0,0,0,0,0,0", kAll,
+    {Model::KA1, "-ALMFLOW0,INDEX= 0", "CAUDAL.ALM,0,0,,0,0,0,0,0,0,0,0,0", kAllFeatures,
      "+ALMFLOW0=x,INDEX= 0,MAX= 9,MIN= 3,HIST= 1,P= 4,EQ= 1,ACTHI= 1,ACTLO= 2,ACTNOM="},
     // Math channels
     {Model::BP, "MCCONF3=Balance,UNIT=m3,EQ=(Q0-Q1)*2", "MATH,3,Balance,m3,(Q0-Q1)*2,1"},
-    {Model::BP, "DISMC3", "MATH,3,,,,0", kAll, "MCCONF3=Balance,UNIT=m3,EQ=Q0"},
+    {Model::BP, "DISMC3", "MATH,3,,,,0", kAllFeatures, "MCCONF3=Balance,UNIT=m3,EQ=Q0"},
     {Model::BP, "+ALMM1=x,INDEX= 0,MAX= 9,MIN= 3,HIST= 1,P= 4,NOSEND,EQ= 0,ACTHI=,ACTLO=,ACTNOM= 8",
      "MATH.ALM,1,0,x,3,9,1,0,86400,127,0,0,4"},
     {Model::BP,
@@ -66,7 +66,7 @@ const Case kTaken[] = {
     // Auxiliary inputs
     {Model::KA1, "AUXCONF2=P,UNIT=V,BSVAL= 0,FSVAL= 10,BSUNIT=-1,FSUNIT= 100",
      "AUX,2,P,V,1,,0,-1,10,100"},
-    {Model::KA2, "DISAUX2", "AUX,2,,,0,,0,0,0,0", kAll,
+    {Model::KA2, "DISAUX2", "AUX,2,,,0,,0,0,0,0", kAllFeatures,
      "AUXCONF2=P,UNIT=V,BSVAL= 0,FSVAL= 10,BSUNIT= 0,FSUNIT= 100"},
     {Model::KA1,
      "+ALMAUX3=x,INDEX= 2,MAX= 9,MIN= 3,HIST= 1,P= 4,RING,EQ= 0,ACTHI= 1,ACTLO=,ACTNOM=",
@@ -77,14 +77,15 @@ const Case kTaken[] = {
     {Model::KA1, "ONEWCONF0=,UNIT=,ONEWADD=0.0,1WHUM",
      "ONEWIRE,0,,,2,000,000,000,000,000,000,000,000"},
     {Model::KA1, "ONEWCONF0=,UNIT=,ONEWADD=1.2.3.4.5.6.7.255",
-     "ONEWIRE,0,,,2,001,002,003,004,005,006,007,255", kAll, "ONEWCONF0=x,UNIT=y,ONEWADD=0.0,1WHUM"},
-    {Model::KA2, "DISONEW3", "ONEWIRE,3,,,0,000,000,000,000,000,000,000,000", kAll,
+     "ONEWIRE,0,,,2,001,002,003,004,005,006,007,255", kAllFeatures,
+     "ONEWCONF0=x,UNIT=y,ONEWADD=0.0,1WHUM"},
+    {Model::KA2, "DISONEW3", "ONEWIRE,3,,,0,000,000,000,000,000,000,000,000", kAllFeatures,
      "ONEWCONF3=x,UNIT=y,ONEWADD=1.2.3.4.5.6.7.8,1WHUM"},
     {Model::KA2, "+ALMOW0=x,INDEX= 1,MAX= 9,MIN= 3,HIST= 1,P= 4,EQ= 0,ACTHI=,ACTLO=,ACTNOM=",
      "ONEWIRE.ALM,0,1,x,3,9,1,0,86400,127,1,0,4", 0},
     // MODBUS
     {Model::VR200, "BAUD= 57600", "MODBUS.PRM,57600,0,1"},
-    {Model::VR200, "BAUD= 9600", "MODBUS.PRM,9600", kAll & ~kModbusSlave},
+    {Model::VR200, "BAUD= 9600", "MODBUS.PRM,9600", kAllFeatures & ~kModbusSlave},
     {Model::VR200, "MBSLAVE=1", "MODBUS.PRM,1200,1,1"},
     {Model::VR200, "MBSLAVEADD= 0", "MODBUS.PRM,1200,0,0"},
     {Model::VR200,
@@ -94,16 +95,16 @@ const Case kTaken[] = {
     {Model::VR200, "MBCONF0=D,UNIT=,SLAVE= 1,REGADD= 8,32BIT,CONST= 0,MASK= 4,RATIO=0",
      "MODBUS,0,D,,1,8,0,0,4,0,1"},
     {Model::VR200, "MBCONF0=D,UNIT=,SLAVE= 1,REGADD= 8,CONST= 2,MASK= 4,RATIO=3",
-     "MODBUS,0,D,,1,8,3,2,4,0", kAll & ~kModbusFormats},
+     "MODBUS,0,D,,1,8,3,2,4,0", kAllFeatures & ~kModbusFormats},
     {Model::VR200, "MBCONF0=D,UNIT=,SLAVE= 1,REGADD= 8,FLOAT,RATIO=3", "MODBUS,0,D,,1,8,3,0,0,0,2",
-     kAll & ~kModbusConstants},
+     kAllFeatures & ~kModbusConstants},
     {Model::VR200, "MBCONF0=D,UNIT=,SLAVE= 1,REGADD= 8,RATIO=3", "MODBUS,0,D,,1,8,3", 0},
-    {Model::VR200, "DISMB0", "MODBUS,0,,,0,0,0,0,0,0,0", kAll,
+    {Model::VR200, "DISMB0", "MODBUS,0,,,0,0,0,0,0,0,0", kAllFeatures,
      "MBCONF0=D,UNIT=u,SLAVE= 1,REGADD= 8,32BIT,CONST= 2,MASK= 4,NEGATE,RATIO=3"},
     {Model::VR200, "+ALMMB9=x,INDEX= 0,MAX= 9,MIN= 3,HIST= 1,P= 4,EQ= 0,ACTHI=,ACTLO=,ACTNOM=",
      "MODBUS.ALM,9,0,x,3,9,1,0,86400,127,1,0,4"},
     {Model::VR200, "+ALMMB9=x,INDEX= 0,MAX= 9,MIN= 3,HIST= 1,EQ= 0,ACTHI=,ACTLO=,ACTNOM=",
-     "MODBUS.ALM,9,0,x,3,9,1,0,86400,127,1,0", kAll & ~kModbusConstants},
+     "MODBUS.ALM,9,0,x,3,9,1,0,86400,127,1,0", kAllFeatures & ~kModbusConstants},
     // Expansion inputs
     {Model::S100, "EXPINPUTDCONF95=Puerta,ADRS= 15,chanel= 7,group= 15,NC",
      "EXPINPUT.D,95,15,7,15,1,Puerta"},
@@ -116,10 +117,10 @@ const Case kTaken[] = {
      "FSUNIT= 50,GROUP= 3",
      "EXPINPUT.A,0,1,2,3,A,m,3,1,-5,10,50"},
     {Model::S100, "+ALMEXPINPUTD0=x,INDEX= 0,PC= 5,PO= .5,EQ= 2,ACTCLOSE= 1,ACTOPEN= 2 3",
-     "EXPINPUT.D.ALM,0,0,x,5,0.5,0,86400,127,1,2", kAll,
+     "EXPINPUT.D.ALM,0,0,x,5,0.5,0,86400,127,1,2", kAllFeatures,
      "EXPINPUTDCONF0=,ADRS= 0,chanel= 0,group= 0"},
     {Model::S100, "+ALMEXPINPUTD0=x,INDEX= 0,PC= 5,PO= .5,EQ= 2,ACTCLOSE= 1,ACTOPEN= 2 3",
-     "EXPINPUT.D.ACT,0,0,1,2,0,3,0,0,0,0,0,0,0,0,0,0,0,0", kAll,
+     "EXPINPUT.D.ACT,0,0,1,2,0,3,0,0,0,0,0,0,0,0,0,0,0,0", kAllFeatures,
      "EXPINPUTDCONF0=,ADRS= 0,chanel= 0,group= 0"},
     {Model::S100,
      "+ALMEXPINPUTQ0=x,INDEX= 0,MAX= 9,MIN= 3,HIST= 1,P= 4,EQ= 0,ACTHI=,ACTLO=,ACTNOM=",
@@ -155,7 +156,7 @@ const Case kTaken[] = {
 };
 
 TEST(SimBlocks, StatementsAndTheirRecords) {
-  for (const Case& one : kTaken) {
+  for (const BlockCase& one : kTaken) {
     const Identity self{one.model, one.features};
     Configuration conf;
     const bool alone = *one.before == '\0';
@@ -273,7 +274,7 @@ const char* const kRefusedByKA1[] = {
 TEST(SimBlocks, WhatIsMalformedIsRefused) {
   const auto expectRefused = [](Model model, const char* statement) {
     Configuration conf;
-    EXPECT_NE(ApplyStatement(statement, {model, kAll}, conf), "") << statement;
+    EXPECT_NE(ApplyStatement(statement, {model, kAllFeatures}, conf), "") << statement;
   };
   for (const char* statement : kRefused) expectRefused(Model::VR200, statement);
   for (const char* statement : kRefusedByS100) expectRefused(Model::S100, statement);
@@ -301,7 +302,7 @@ TEST(SimBlocks, TheFirmwareDecidesWhatIsKnownAndTold) {
   };
   for (const Gate& gate : gates) {
     for (const bool with : {true, false}) {
-      const Identity self{gate.model, with ? kAll : ~gate.bit};
+      const Identity self{gate.model, with ? kAllFeatures : ~gate.bit};
       Configuration conf;
       EXPECT_EQ(ApplyStatement(gate.statement, self, conf).empty(), with) << gate.statement;
       if (*gate.record == '\0') continue;
@@ -325,7 +326,7 @@ TEST(SimBlocks, ATavroPassesOverModbusAndProbes) {
 }
 
 TEST(SimBlocks, AnExpansionInputForgetsWhatItsFormerModeHeld) {
-  const Identity self{Model::S100, kAll};
+  const Identity self{Model::S100, kAllFeatures};
   Configuration conf;
   const auto say = [&](const char* statement) {
     EXPECT_EQ(ApplyStatement(statement, self, conf), "") << statement;
@@ -363,7 +364,7 @@ TEST(SimBlocks, DisabledChannelsKeepTheirAlarms) {
                {Model::VR200, "+ALMMB0", "DISMB0"},
                {Model::VR200, "+ALMA0", "DISAI0"}};
   for (const auto& [model, alarm, disable] : cases) {
-    const Identity self{model, kAll};
+    const Identity self{model, kAllFeatures};
     Configuration conf;
     const std::string statement =
         std::string(alarm) + "=x,INDEX= 0,MAX= 1,MIN= 0,HIST= 0,P= 0,EQ= 0,ACTHI=,ACTLO=,ACTNOM=";
@@ -376,7 +377,7 @@ TEST(SimBlocks, DisabledChannelsKeepTheirAlarms) {
 }
 
 TEST(SimBlocks, MacrosShareAMemoryOf1024Characters) {
-  const Identity self{Model::KA1, kAll};
+  const Identity self{Model::KA1, kAllFeatures};
   Configuration conf;
   const auto add = [&](std::size_t length) {
     return ApplyStatement("F0={" + std::string(length - 5, 'x') + "}", self, conf).empty();

@@ -10,15 +10,15 @@ namespace {
 using testing::Contains;
 using testing::Not;
 
-constexpr std::uint32_t kAll = 0xFFFFFFFF;
+constexpr std::uint32_t kEveryFeature = 0xFFFFFFFF;
 
 /// What a statement changes shows in a record.
-struct Case {
+struct StatementCase {
   const char* statement;
   const char* record;
 };
 
-void ExpectTaken(const std::vector<Case>& cases, const Identity& self) {
+void ExpectTaken(const std::vector<StatementCase>& cases, const Identity& self) {
   for (const auto& [statement, record] : cases) {
     Configuration conf;
     EXPECT_EQ(ApplyStatement(statement, self, conf), "") << statement;
@@ -40,7 +40,7 @@ TEST(SimStatement, GeneralStatementsAndTheirRecords) {
        {"+TLF=+34600,Prio=0,PRV0,MASK= 21 97 61 255 255 255 255 255 255 255 255 255 255 255 255 0,"
         "MASKMODE2",
         "TLF,0,+34600,0,0,257,2,21,97,61,255,255,255,255,255,255,255,255,255,255,255,255,0"}},
-      {Model::BQ, kAll});
+      {Model::BQ, kEveryFeature});
 }
 
 TEST(SimStatement, OldFirmwareHoldsMasksAsBits) {
@@ -78,11 +78,11 @@ TEST(SimStatement, ChannelStatementsAndTheirRecords) {
        {"AGRP3= 2,T= 50,V= 24", "GROUP,3,2,24,50"},
        {"+ALMF15=F,INDEX= 0,RING,ACTHI= 9,ACTLO=", "FLAG.ALM,15,0,F,0,86400,127,2"},
        {"+ALMF15=F,INDEX= 0,ACTHI= 9,ACTLO= 8 7", "FLAG.ACT,15,0,9,8,0,7,0,0,0,0,0,0,0,0,0,0,0,0"}},
-      {Model::VR200, kAll});
+      {Model::VR200, kEveryFeature});
 }
 
 TEST(SimStatement, TakingOutAlarmsAndInputs) {
-  const Identity self{Model::VR200, kAll};
+  const Identity self{Model::VR200, kEveryFeature};
   Configuration conf;
   conf.digitals[1].name = "kept";
   conf.digitals[1].alarms[2] = {.text = "gone", .week = 127};
@@ -193,7 +193,7 @@ TEST(SimStatement, WhatIsMalformedIsRefused) {
                                  "ACTHI=,ACTLO="};
   const auto expectRefused = [](const std::string& statement) {
     Configuration conf;
-    EXPECT_NE(ApplyStatement(statement, {Model::VR200, kAll}, conf), "") << statement;
+    EXPECT_NE(ApplyStatement(statement, {Model::VR200, kEveryFeature}, conf), "") << statement;
   };
   const std::string alarm = "+ALMD0=x,INDEX= 0,";
   for (const char* statement : refused) expectRefused(statement);
@@ -223,7 +223,7 @@ TEST(SimStatement, TheFirmwareDecidesWhatIsKnown) {
   };
   for (const Gate& gate : gates) {
     Configuration conf;
-    const bool with = ApplyStatement(gate.statement, {gate.model, kAll}, conf).empty();
+    const bool with = ApplyStatement(gate.statement, {gate.model, kEveryFeature}, conf).empty();
     const bool without = ApplyStatement(gate.statement, {gate.model, ~gate.bit}, conf).empty();
     EXPECT_EQ(with, !gate.otherwise) << gate.statement;
     EXPECT_EQ(without, gate.otherwise) << gate.statement;

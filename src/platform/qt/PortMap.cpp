@@ -40,7 +40,7 @@ std::string_view CutPart(std::string_view& rest, char separator) {
 PortMap::PortMap(std::map<int, std::string> userList) : userList_(std::move(userList)) {}
 
 PortMap PortMap::FromSettings(const Settings& settings) {
-  const std::string text = settings.Get("Quorvane", "Ostrel Configurator", "Ports");
+  const std::string text = settings.Get(kMaker, kProduct, "Ports");
   std::map<int, std::string> list;
   for (std::string_view rest = text; !rest.empty();) {
     std::string_view path = CutPart(rest, ';');

@@ -21,7 +21,8 @@ QString Address(std::string_view application, std::string_view section, std::str
 }  // namespace
 
 QtSettings::QtSettings()
-    : store_(QSettings::IniFormat, QSettings::UserScope, "Quorvane", "Ostrel Configurator") {}
+    : store_(QSettings::IniFormat, QSettings::UserScope, QString::fromLatin1(kMaker),
+             QString::fromLatin1(kProduct)) {}
 
 QtSettings::QtSettings(const std::string& path)
     : store_(QString::fromStdString(path), QSettings::IniFormat) {}
