@@ -3,10 +3,10 @@
 #include <algorithm>
 #include <array>
 
-#include "blocks/AnalogInputs.h"
-#include "blocks/DigitalInputs.h"
 #include "blocks/FileKeys.h"
-#include "blocks/FlagAlarms.h"
+#include "blocks/inputs/AnalogInputs.h"
+#include "blocks/inputs/DigitalInputs.h"
+#include "blocks/inputs/FlagAlarms.h"
 #include "store/IniTool.h"
 
 namespace ostrel {

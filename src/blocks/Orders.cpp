@@ -1,9 +1,9 @@
 #include "blocks/Orders.h"
 
-#include "blocks/AnalogInputs.h"
-#include "blocks/DigitalInputs.h"
-#include "blocks/FlagAlarms.h"
 #include "blocks/GeneralParameters.h"
+#include "blocks/inputs/AnalogInputs.h"
+#include "blocks/inputs/DigitalInputs.h"
+#include "blocks/inputs/FlagAlarms.h"
 
 namespace ostrel {
 namespace {

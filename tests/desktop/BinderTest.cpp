@@ -13,9 +13,9 @@
 
 #include "Input.h"
 #include "controls/NumberBox.h"
-#include "desktop/AccessKeys.h"
-#include "desktop/FormView.h"
-#include "desktop/Words.h"
+#include "desktop/forms/AccessKeys.h"
+#include "desktop/forms/FormView.h"
+#include "desktop/forms/Words.h"
 #include "desktop/layouts/LayoutParts.h"
 #include "platform/virtual/VirtualLoop.h"
 

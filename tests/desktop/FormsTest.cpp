@@ -12,8 +12,8 @@
 #include <QRegularExpression>
 
 #include "WindowWorld.h"
-#include "desktop/Language.h"
 #include "desktop/layouts/Layouts.h"
+#include "desktop/program/Language.h"
 
 namespace ostrel {
 namespace {

@@ -2,7 +2,7 @@
 
 #include <QApplication>
 
-#include "desktop/Scheme.h"
+#include "desktop/program/Scheme.h"
 
 int main(int argc, char** argv) {
   qputenv("QT_QPA_PLATFORM", "offscreen");

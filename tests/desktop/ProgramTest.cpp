@@ -6,7 +6,7 @@
 #include <QProcess>
 #include <QTemporaryDir>
 
-#include "desktop/Words.h"
+#include "desktop/forms/Words.h"
 
 namespace ostrel {
 namespace {

@@ -14,7 +14,7 @@
 
 #include "Input.h"
 #include "WindowWorld.h"
-#include "desktop/Language.h"
+#include "desktop/program/Language.h"
 
 namespace ostrel {
 namespace {

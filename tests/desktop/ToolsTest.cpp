@@ -17,8 +17,8 @@
 #include "Input.h"
 #include "WindowWorld.h"
 #include "base/CodePage.h"
-#include "desktop/FaultDetails.h"
-#include "desktop/Language.h"
+#include "desktop/program/Language.h"
+#include "desktop/window/FaultDetails.h"
 
 namespace ostrel {
 namespace {

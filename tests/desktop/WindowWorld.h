@@ -6,9 +6,9 @@
 #include <QTemporaryDir>
 #include <memory>
 
-#include "desktop/Desktop.h"
-#include "desktop/QtDialogs.h"
-#include "desktop/Words.h"
+#include "desktop/forms/QtDialogs.h"
+#include "desktop/forms/Words.h"
+#include "desktop/program/Desktop.h"
 #include "platform/qt/QtFiles.h"
 #include "platform/virtual/LinePort.h"
 #include "platform/virtual/VirtualClock.h"

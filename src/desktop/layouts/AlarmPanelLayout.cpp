@@ -4,7 +4,7 @@
 #include <QLabel>
 #include <QVBoxLayout>
 
-#include "desktop/Words.h"
+#include "desktop/forms/Words.h"
 #include "desktop/layouts/LayoutParts.h"
 
 namespace ostrel {

@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-#include "desktop/FormView.h"
+#include "desktop/forms/FormView.h"
 
 namespace ostrel {
 

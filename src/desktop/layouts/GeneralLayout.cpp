@@ -5,10 +5,10 @@
 #include <QProgressBar>
 #include <QVBoxLayout>
 
-#include "desktop/FaultDetails.h"
-#include "desktop/Words.h"
+#include "desktop/forms/Words.h"
 #include "desktop/layouts/LayoutParts.h"
 #include "desktop/layouts/Layouts.h"
+#include "desktop/window/FaultDetails.h"
 
 namespace ostrel {
 namespace {

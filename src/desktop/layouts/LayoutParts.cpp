@@ -5,7 +5,7 @@
 #include <QFontMetrics>
 #include <QPushButton>
 
-#include "desktop/Words.h"
+#include "desktop/forms/Words.h"
 
 namespace ostrel {
 namespace {

@@ -8,7 +8,7 @@
 #include <initializer_list>
 #include <string_view>
 
-#include "desktop/FormView.h"
+#include "desktop/forms/FormView.h"
 
 namespace ostrel {
 

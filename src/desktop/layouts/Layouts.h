@@ -3,8 +3,8 @@
 #include <QString>
 #include <functional>
 
-#include "desktop/FormView.h"
-#include "desktop/Guard.h"
+#include "desktop/forms/FormView.h"
+#include "desktop/forms/Guard.h"
 
 namespace ostrel {
 

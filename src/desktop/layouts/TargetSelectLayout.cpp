@@ -2,7 +2,7 @@
 #include <QLabel>
 #include <QVBoxLayout>
 
-#include "desktop/Words.h"
+#include "desktop/forms/Words.h"
 #include "desktop/layouts/LayoutParts.h"
 #include "desktop/layouts/Layouts.h"
 

@@ -4,13 +4,13 @@
 #include <exception>
 #include <iostream>
 
-#include "desktop/CommandLine.h"
-#include "desktop/Desktop.h"
-#include "desktop/HelpProcesses.h"
-#include "desktop/Icons.h"
-#include "desktop/QtDialogs.h"
-#include "desktop/Screenshot.h"
-#include "desktop/Words.h"
+#include "desktop/forms/Icons.h"
+#include "desktop/forms/QtDialogs.h"
+#include "desktop/forms/Words.h"
+#include "desktop/program/CommandLine.h"
+#include "desktop/program/Desktop.h"
+#include "desktop/program/HelpProcesses.h"
+#include "desktop/program/Screenshot.h"
 #include "host/Folders.h"
 #include "host/LangSeed.h"
 #include "host/Machine.h"

@@ -1,6 +1,6 @@
 #include "pages/inputs/E_Analog.h"
 
-#include "blocks/AnalogInputs.h"
+#include "blocks/inputs/AnalogInputs.h"
 
 namespace ostrel {
 

@@ -1,0 +1,62 @@
+#include "desktop/forms/AccessKeys.h"
+
+#include <QAbstractButton>
+#include <QLabel>
+#include <QWidget>
+
+namespace ostrel {
+namespace {
+
+constexpr QChar kMark = u'&';
+
+/// Whether a letter can be typed with Alt on any keyboard.
+bool IsKey(QChar letter) { return letter.isLetterOrNumber() && letter.unicode() < 128; }
+
+QString Marked(const QString& caption, qsizetype position) {
+  return EscapedCaption(caption.left(position)) + kMark + EscapedCaption(caption.mid(position));
+}
+
+}  // namespace
+
+QString EscapedCaption(const QString& caption) {
+  QString text = caption;
+  return text.replace(kMark, "&&");
+}
+
+QString WithoutAccessKey(const QString& text) {
+  QString caption;
+  for (qsizetype i = 0; i < text.size(); ++i) {
+    if (text[i] == kMark && i + 1 < text.size()) ++i;
+    caption += text[i];
+  }
+  return caption;
+}
+
+QString WithAccessKey(const QString& caption, std::set<QChar>& taken) {
+  for (const bool atWordStart : {true, false}) {
+    for (qsizetype i = 0; i < caption.size(); ++i) {
+      if (atWordStart && i > 0 && caption[i - 1].isLetterOrNumber()) continue;
+      if (!IsKey(caption[i]) || !taken.insert(caption[i].toLower()).second) continue;
+      return Marked(caption, i);
+    }
+  }
+  return EscapedCaption(caption);
+}
+
+void AssignAccessKeys(QWidget& root) {
+  std::set<QChar> taken;
+  // Buttons and boxes first: a field can also be reached by tabbing from its neighbour.
+  for (auto* button : root.findChildren<QAbstractButton*>()) {
+    const QString caption = WithoutAccessKey(button->text());
+    if (button->isHidden() || caption.isEmpty() || button->property("noAccessKey").toBool())
+      continue;
+    button->setText(WithAccessKey(caption, taken));
+  }
+  for (auto* label : root.findChildren<QLabel*>()) {
+    if (!label->buddy() || label->buddy()->focusPolicy() == Qt::NoFocus || label->isHidden())
+      continue;
+    label->setText(WithAccessKey(WithoutAccessKey(label->text()), taken));
+  }
+}
+
+}  // namespace ostrel

@@ -1,0 +1,155 @@
+#include "desktop/forms/FormView.h"
+
+#include <QAbstractButton>
+#include <QComboBox>
+#include <QEvent>
+#include <QHBoxLayout>
+#include <QTimeEdit>
+#include <utility>
+
+#include "desktop/forms/AccessKeys.h"
+#include "desktop/forms/PictureView.h"
+#include "desktop/forms/Words.h"
+
+namespace ostrel {
+
+FormView::FormView(Form& form, Guard guard, QWidget* parent)
+    : QWidget(parent), form_(form), guard_(std::move(guard)), seen_(Look()) {
+  setObjectName(ToQt(form.Name()));
+  form_.OnChanged = [this] { FollowForm(); };
+}
+
+FormView::~FormView() { Detach(); }
+
+void FormView::Detach() {
+  if (std::exchange(detached_, true)) return;
+  for (const auto& [name, bound] : bound_) FaceOf(form_[name]).OnChanged = nullptr;
+  bound_.clear();
+  form_.OnChanged = nullptr;
+}
+
+QWidget* FormView::Show(std::string_view control) {
+  if (QWidget* widget = WidgetOf(control)) return widget;
+  const auto rowText = rowTexts_.find(control);
+  const BindOptions options{.guard = guard_,
+                            .rowText = rowText == rowTexts_.end() ? nullptr : rowText->second,
+                            .pictureView = MakePictureView};
+  const ControlRef ref = form_[control];
+  const Bound bound = Bind(ref, options, this);
+  bound_.emplace(control, bound);
+  FaceOf(ref).OnChanged = [this, name = std::string(control)] {
+    Follow(name);
+    if (OnControlChanged) OnControlChanged();
+  };
+  if (qobject_cast<QComboBox*>(bound.widget) || qobject_cast<QTimeEdit*>(bound.widget)) {
+    bound.widget->setFocusPolicy(Qt::StrongFocus);
+    bound.widget->installEventFilter(this);
+  }
+  return bound.widget;
+}
+
+QWidget* FormView::WidgetOf(std::string_view control) const {
+  const auto found = bound_.find(control);
+  return found == bound_.end() ? nullptr : found->second.widget;
+}
+
+QLabel* FormView::LabelFor(std::string_view control, const QString& text) {
+  auto* label = new QLabel(text, this);
+  QWidget* widget = Show(control);
+  label->setBuddy(widget);
+  QString name = text;
+  widget->setAccessibleName(name.remove(u':'));
+  companions_[std::string(control)].push_back(label);
+  Follow(control);
+  return label;
+}
+
+QLabel* FormView::LabelFor(std::string_view control, std::string_view label) {
+  auto* shown = Show<QLabel>(label);
+  QWidget* widget = Show(control);
+  shown->setBuddy(widget);
+  QString name = ToQt(FaceOf(form_[label]).Caption());
+  widget->setAccessibleName(name.remove(u':'));
+  labels_.emplace(control, label);
+  Follow(label);
+  return shown;
+}
+
+QWidget* FormView::ShowWithWords(std::string_view control, const QString& text) {
+  auto* button = Show<QAbstractButton>(control);
+  button->setText(EscapedCaption(text));
+  button->setAccessibleName(text);
+  return button;
+}
+
+QWidget* FormView::ShowNamed(std::string_view control, const QString& accessibleName) {
+  QWidget* widget = Show(control);
+  widget->setAccessibleName(accessibleName);
+  return widget;
+}
+
+void FormView::SetRowText(std::string_view control,
+                          std::function<QString(const ListRow&)> rowText) {
+  rowTexts_.emplace(control, std::move(rowText));
+}
+
+QWidget* FormView::Heading(const QString& untitled) {
+  auto* bar = new QWidget(this);
+  auto* row = new QHBoxLayout(bar);
+  row->setContentsMargins(0, 0, 0, 0);
+  heading_ = new QLabel(bar);
+  heading_->setObjectName("Heading");
+  heading_->setTextFormat(Qt::PlainText);
+  untitled_ = untitled;
+  row->addWidget(heading_, 1);
+  return bar;
+}
+
+void FormView::Finish() {
+  finished_ = true;
+  AssignAccessKeys(*this);
+  if (heading_) heading_->setText(form_.Title().empty() ? untitled_ : ToQt(form_.Title()));
+  setEnabled(form_.Enabled());
+}
+
+void FormView::Follow(std::string_view control) {
+  const auto found = bound_.find(control);
+  if (found == bound_.end() || !found->second.follow) return;
+  QWidget* widget = found->second.widget;
+  const QString before = widget->accessibleName();
+  found->second.follow();
+  if (const auto labels = companions_.find(control); labels != companions_.end()) {
+    const Face& face = FaceOf(form_[control]);
+    for (QLabel* label : labels->second) {
+      label->setEnabled(face.Enabled());
+      label->setVisible(face.Visible());
+    }
+  }
+  if (const auto label = labels_.find(control); label != labels_.end()) Follow(label->second);
+  if (finished_ && widget->accessibleName() != before) AssignAccessKeys(*this);
+}
+
+void FormView::FollowForm() {
+  if (heading_) heading_->setText(form_.Title().empty() ? untitled_ : ToQt(form_.Title()));
+  setEnabled(form_.Enabled());
+  const Seen before = std::exchange(seen_, Look());
+  // A form that tells of a change and shows none was asked to give the same control the focus.
+  if (seen_.focus != before.focus || seen_ == before) {
+    if (QWidget* widget = WidgetOf(seen_.focus)) widget->setFocus();
+  }
+  if (OnFormChanged) OnFormChanged();
+}
+
+FormView::Seen FormView::Look() const {
+  return {form_.Title(), form_.Focus(), form_.Visible(), form_.Enabled(), form_.MousePointer()};
+}
+
+bool FormView::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() != QEvent::Wheel) return QWidget::eventFilter(watched, event);
+  const auto* widget = qobject_cast<QWidget*>(watched);
+  if (widget && widget->hasFocus()) return false;
+  event->ignore();
+  return true;
+}
+
+}  // namespace ostrel

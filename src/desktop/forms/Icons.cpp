@@ -1,0 +1,178 @@
+#include "desktop/forms/Icons.h"
+
+#include <QIconEngine>
+#include <QPainter>
+#include <QPainterPath>
+#include <QPalette>
+
+namespace ostrel {
+namespace {
+
+constexpr int kBoxPicture = 44;  // side in pixels
+constexpr qreal kGrid = 24;      // signs are drawn on a square of this side
+
+void DrawOpen(QPainter& p) {
+  QPainterPath back;
+  back.moveTo(3, 18);
+  back.lineTo(3, 6);
+  back.lineTo(9, 6);
+  back.lineTo(11, 8.5);
+  back.lineTo(19, 8.5);
+  back.lineTo(19, 11);
+  p.drawPath(back);
+  p.drawPolygon(QPolygonF({{3, 18.5}, {6.2, 11}, {22, 11}, {18.8, 18.5}}));
+}
+
+void DrawSave(QPainter& p) {
+  p.drawPolygon(QPolygonF({{4, 4}, {16.5, 4}, {20, 7.5}, {20, 20}, {4, 20}}));
+  p.drawRect(QRectF(8, 4, 7, 5));
+  p.drawRect(QRectF(7, 13, 10, 7));
+}
+
+void DrawRecent(QPainter& p) {
+  p.drawEllipse(QPointF(12, 12), 8.5, 8.5);
+  p.drawPolyline(QPolygonF({{12, 7}, {12, 12.2}, {15.5, 14.5}}));
+}
+
+void DrawCopies(QPainter& p) {
+  QPainterPath shield;
+  shield.moveTo(12, 3);
+  shield.lineTo(19.5, 6);
+  shield.cubicTo(19.5, 13, 18, 18, 12, 21.3);
+  shield.cubicTo(6, 18, 4.5, 13, 4.5, 6);
+  shield.closeSubpath();
+  p.drawPath(shield);
+  p.drawPolyline(QPolygonF({{8.5, 11.8}, {11.2, 14.5}, {15.8, 9.3}}));
+}
+
+void DrawCompare(QPainter& p) {
+  p.drawRect(QRectF(3.5, 4, 7, 16));
+  p.drawRect(QRectF(13.5, 4, 7, 16));
+  for (const qreal y : {8.0, 12.0, 16.0}) p.drawLine(QPointF(5.5, y), QPointF(8.5, y));
+  for (const qreal y : {8.0, 16.0}) p.drawLine(QPointF(15.5, y), QPointF(18.5, y));
+}
+
+void DrawTrace(QPainter& p) {
+  p.drawRoundedRect(QRectF(3, 4.5, 18, 15), 2, 2);
+  p.drawPolyline(QPolygonF({{6.5, 9}, {9.5, 12}, {6.5, 15}}));
+  p.drawLine(QPointF(11.5, 15), QPointF(16.5, 15));
+}
+
+void DrawLanguage(QPainter& p) {
+  p.drawEllipse(QPointF(12, 12), 8.5, 8.5);
+  p.drawEllipse(QPointF(12, 12), 3.8, 8.5);
+  p.drawLine(QPointF(3.5, 12), QPointF(20.5, 12));
+}
+
+void Draw(QPainter& painter, Sign sign) {
+  switch (sign) {
+    case Sign::Open:
+      return DrawOpen(painter);
+    case Sign::Save:
+      return DrawSave(painter);
+    case Sign::Recent:
+      return DrawRecent(painter);
+    case Sign::Copies:
+      return DrawCopies(painter);
+    case Sign::Compare:
+      return DrawCompare(painter);
+    case Sign::Trace:
+      return DrawTrace(painter);
+    case Sign::Language:
+      return DrawLanguage(painter);
+  }
+}
+
+void DrawProgram(QPainter& p) {
+  p.setPen(Qt::NoPen);
+  p.setBrush(QColor("#0b7285"));
+  p.drawRoundedRect(QRectF(1, 1, 22, 22), 5, 5);
+  p.setBrush(QColor("#f1f3f5"));
+  p.drawRoundedRect(QRectF(6, 11, 12, 8), 1.5, 1.5);
+  p.setBrush(QColor("#0b7285"));
+  for (const qreal x : {8.0, 11.0, 14.0}) p.drawRect(QRectF(x, 14, 2, 2.4));
+  p.setBrush(Qt::NoBrush);
+  p.setPen(QPen(QColor("#f1f3f5"), 1.5, Qt::SolidLine, Qt::RoundCap));
+  p.drawLine(QPointF(12, 11), QPointF(12, 7.5));
+  p.drawArc(QRectF(9, 4.5, 6, 6), 30 * 16, 120 * 16);
+  p.drawArc(QRectF(6.7, 2.3, 10.6, 10.6), 30 * 16, 120 * 16);
+}
+
+/// Draws an icon anew at each size that is asked for.
+class DrawnEngine final : public QIconEngine {
+ public:
+  using Drawing = std::function<void(QPainter&, QIcon::Mode)>;
+  explicit DrawnEngine(Drawing drawing) : drawing_(std::move(drawing)) {}
+
+  void paint(QPainter* painter, const QRect& where, QIcon::Mode mode, QIcon::State) override {
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    painter->translate(where.topLeft());
+    painter->scale(where.width() / kGrid, where.height() / kGrid);
+    drawing_(*painter, mode);
+    painter->restore();
+  }
+  QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
+    QPixmap pixmap(size);
+    pixmap.fill(Qt::transparent);
+    QPainter painter(&pixmap);
+    paint(&painter, QRect(QPoint(), size), mode, state);
+    return pixmap;
+  }
+  QIconEngine* clone() const override { return new DrawnEngine(drawing_); }
+
+ private:
+  Drawing drawing_;
+};
+
+}  // namespace
+
+QIcon MakeIcon(Sign sign, const QPalette& palette) {
+  return QIcon(new DrawnEngine([sign, palette](QPainter& painter, QIcon::Mode mode) {
+    const auto group = mode == QIcon::Disabled ? QPalette::Disabled : QPalette::Active;
+    painter.setPen(QPen(palette.color(group, QPalette::WindowText), 1.6, Qt::SolidLine,
+                        Qt::RoundCap, Qt::RoundJoin));
+    Draw(painter, sign);
+  }));
+}
+
+QIcon ProgramIcon() {
+  return QIcon(new DrawnEngine([](QPainter& painter, QIcon::Mode) { DrawProgram(painter); }));
+}
+
+QPixmap BoxPicture(BoxIcon icon) {
+  if (icon == BoxIcon::None) return {};
+  const QIcon drawn(new DrawnEngine([icon](QPainter& painter, QIcon::Mode) {
+    if (icon == BoxIcon::Exclamation) return DrawWarningSign(painter, QRect(0, 0, 24, 24));
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(QColor("#0b7285"));
+    painter.drawEllipse(QPointF(12, 12), 11, 11);
+    QFont font = painter.font();
+    font.setPixelSize(15);
+    font.setBold(true);
+    painter.setFont(font);
+    painter.setPen(Qt::white);
+    painter.drawText(QRectF(0, 0, 24, 24), Qt::AlignCenter, icon == BoxIcon::Question ? "?" : "i");
+  }));
+  return drawn.pixmap(kBoxPicture);
+}
+
+void DrawWarningSign(QPainter& painter, const QRect& where) {
+  painter.setRenderHint(QPainter::Antialiasing);
+  const QRectF box = QRectF(where).adjusted(2, 2, -2, -2);
+  QPainterPath triangle;
+  triangle.moveTo(box.center().x(), box.top());
+  triangle.lineTo(box.bottomRight());
+  triangle.lineTo(box.bottomLeft());
+  triangle.closeSubpath();
+  painter.setPen(QPen(QColor("#b45309"), 1.5, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+  painter.setBrush(QColor("#f59e0b"));
+  painter.drawPath(triangle);
+  painter.setPen(QPen(QColor("#1c1917"), 2, Qt::SolidLine, Qt::RoundCap));
+  const qreal x = box.center().x();
+  painter.drawLine(QPointF(x, box.top() + box.height() * 0.40),
+                   QPointF(x, box.top() + box.height() * 0.66));
+  painter.drawPoint(QPointF(x, box.top() + box.height() * 0.85));
+}
+
+}  // namespace ostrel

@@ -1,0 +1,59 @@
+#include "desktop/program/Desktop.h"
+
+#include <QLocale>
+
+#include "base/Scope.h"
+#include "desktop/forms/Words.h"
+#include "desktop/program/Language.h"
+
+namespace ostrel {
+
+Desktop::Desktop(const Platform& platform, const ConfiguratorOptions& options,
+                 const std::string& dataFolder)
+    : platform_(platform),
+      configurator_(platform_, options),
+      navigation_(configurator_),
+      window_({.configurator = configurator_,
+               .navigation = navigation_,
+               .platform = platform_,
+               .guard = [this](const std::function<void()>& run) { Guarded(run); },
+               .dataFolder = dataFolder}) {}
+
+void Desktop::Start(const std::string& file) {
+  // The first questions come ahead of the choice of a language.
+  UseLanguage(QLocale::system().language() == QLocale::Spanish ? "es" : "en");
+  configurator_.Start(file.empty() ? std::string() : '"' + file + '"');
+  UseLanguage(LanguageCode(configurator_.lang));
+  navigation_.HideAll();
+  if (configurator_.Universal) navigation_.ShowForm("TargetSelect");
+  if (!file.empty()) navigation_.ShowForm("General");
+  window_.Follow();
+}
+
+void Desktop::Guarded(const std::function<void()>& run) {
+  try {
+    run();
+  } catch (...) {
+    ShowFault(std::current_exception());
+  }
+}
+
+void Desktop::ShowFault(std::exception_ptr fault) {
+  if (faultBoxUp_) return;  // a fault that repeats must not stack boxes
+  const Lent up(faultBoxUp_, true);
+  std::string words;
+  try {
+    std::rethrow_exception(fault);
+  } catch (const std::exception& exception) {
+    words = exception.what();
+  } catch (...) {
+    words = "?";
+  }
+  platform_.dialogs.ShowMessage(
+      {.text =
+           FromQt(Words::tr("The program met an internal error and goes on: %1").arg(ToQt(words))),
+       .title = configurator_.profile.TargetName,
+       .icon = BoxIcon::Exclamation});
+}
+
+}  // namespace ostrel

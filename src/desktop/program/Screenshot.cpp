@@ -1,0 +1,108 @@
+#include "desktop/program/Screenshot.h"
+
+#include <QCoreApplication>
+#include <QCursor>
+#include <QPixmap>
+#include <algorithm>
+#include <optional>
+
+#include "desktop/forms/Words.h"
+#include "desktop/program/Desktop.h"
+#include "host/SimulatedLoggers.h"
+#include "platform/qt/QtEventLoop.h"
+#include "platform/qt/QtFiles.h"
+#include "platform/virtual/VirtualClock.h"
+#include "platform/virtual/VirtualDialogs.h"
+#include "platform/virtual/VirtualFiles.h"
+#include "platform/virtual/VirtualProcesses.h"
+#include "platform/virtual/VirtualSettings.h"
+#include "shell/NavigationTree.h"
+
+namespace ostrel {
+namespace {
+
+constexpr const char* kConfiguration = "/picture.ocf";
+constexpr const char* kTable = "/Lang.txt";
+
+/// A dialog, drawn by itself as it comes up, if the key names one.
+QPixmap DialogPicture(Desktop& desktop, VirtualDialogs& dialogs, const std::string& key) {
+  Configurator& core = desktop.Core();
+  QPixmap picture;
+  dialogs.OnEveryModal([&](Form& form) {
+    const std::unique_ptr<FormView> view(MakeView(form, desktop.Window().Context()));
+    view->show();
+    picture = view->grab();
+  });
+  std::string code;
+  if (key == core.actEdit.GetForm().Name()) core.actEdit.ShowModal();
+  if (key == core.pwForm.GetForm().Name()) core.pwForm.ShowModal(code);
+  if (key == core.langForm.GetForm().Name()) core.langForm.AskUser();
+  dialogs.OnEveryModal({});
+  return picture;
+}
+
+bool HasNode(const TargetProfile& model, const std::string& key) {
+  const auto nodes =
+      BuildNavigationTree(model, [](std::string_view text) { return std::string(text); });
+  return std::ranges::find(nodes, key, &TreeNode::key) != nodes.end();
+}
+
+QPixmap PagePicture(Desktop& desktop, const CommandLine& line) {
+  MainWindow& window = desktop.Window();
+  if (!line.page.empty()) window.GoTo(line.page);
+  window.resize(line.size);
+  window.show();
+  window.setFocus();
+  QCursor::setPos(window.mapToGlobal(window.rect().center()));
+  window.Look();
+  for (int round = 0; round < 3; ++round) QCoreApplication::processEvents();
+  return window.grab();
+}
+
+}  // namespace
+
+std::string TakeScreenshot(const CommandLine& line, const std::string& langFile) {
+  QtEventLoop loop;
+  VirtualSettings settings;
+  settings.Set(kMaker, kProduct, "Idioma", std::to_string(line.language));
+  settings.Set(kMaker, kProduct, "ComPort", "1");
+  settings.Set(kMaker, kProduct, "Target",
+               line.target.empty() ? TargetNamesOffered().front() : line.target);
+  QtFiles disk;
+  VirtualFiles files;
+  files.contents[kTable] = disk.Read(langFile).value_or("");
+  if (!line.file.empty()) {
+    const auto content = disk.Read(line.file);
+    if (!content) return "cannot read " + line.file;
+    files.contents[kConfiguration] = *content;
+  }
+  VirtualClock clock;
+  VirtualDialogs dialogs;
+  VirtualProcesses processes;
+  LinePort noPort(loop);
+  std::optional<SimulatedLoggers> simulated;
+  if (line.demo) simulated.emplace(loop, clock);
+  Desktop desktop({.loop = loop,
+                   .port = simulated ? simulated->Port() : noPort,
+                   .settings = settings,
+                   .dialogs = dialogs,
+                   .files = files,
+                   .processes = processes,
+                   .clock = clock},
+                  {.programFolder = {}, .langFile = kTable, .ticking = true}, {});
+  desktop.Start(line.file.empty() ? "" : kConfiguration);
+  const Configurator& core = desktop.Core();
+  if (!line.file.empty() &&
+      !ReadConfiguration(files, kConfiguration, core.profile,
+                         [](std::string_view text) { return std::string(text); }))
+    return line.file + " is no configuration file";
+  QPixmap picture = DialogPicture(desktop, dialogs, line.page);
+  if (picture.isNull()) {
+    if (!line.page.empty() && !HasNode(core.profile, line.page))
+      return "there is no page " + line.page + " for the " + core.profile.TargetName;
+    picture = PagePicture(desktop, line);
+  }
+  return picture.save(ToQt(line.screenshot), "PNG") ? "" : "cannot write " + line.screenshot;
+}
+
+}  // namespace ostrel

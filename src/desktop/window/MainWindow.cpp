@@ -1,0 +1,303 @@
+#include "desktop/window/MainWindow.h"
+
+#include <QAction>
+#include <QCloseEvent>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QSplitter>
+#include <QStatusBar>
+
+#include "desktop/forms/Icons.h"
+#include "desktop/forms/Words.h"
+#include "desktop/window/FaultDetails.h"
+#include "desktop/window/FaultText.h"
+#include "platform/Settings.h"
+#include "shell/Configurator.h"
+#include "shell/ForeignKeys.h"
+
+namespace ostrel {
+namespace {
+
+constexpr int kTreeWidth = 230;
+constexpr int kMessageTime = 10'000;  // ms
+constexpr QSize kFirstSize{1280, 720};
+constexpr std::string_view kWindowPart = "Window";
+constexpr std::string_view kPlace = "Place";
+
+}  // namespace
+
+MainWindow::MainWindow(const WindowParts& parts)
+    : parts_(parts),
+      configurator_(parts.configurator),
+      navigation_(parts.navigation),
+      recent_(parts.platform.settings),
+      copies_(parts.platform.files, parts.platform.clock, parts.dataFolder),
+      unsaved_(configurator_, navigation_),
+      ports_(configurator_.general.Session().Puerto, parts.platform.port, parts.platform.loop,
+             parts.guard),
+      tree_(new TreePane(this)),
+      pages_(new PageArea([this] { return Context(); }, this)),
+      link_(new LinkPanel(this)),
+      trace_(new TraceView(this)) {
+  auto* splitter = new QSplitter(this);
+  splitter->addWidget(tree_);
+  splitter->addWidget(pages_);
+  splitter->setStretchFactor(1, 1);
+  splitter->setSizes({kTreeWidth, kFirstSize.width() - kTreeWidth});
+  splitter->setChildrenCollapsible(false);
+  setCentralWidget(splitter);
+  addDockWidget(Qt::BottomDockWidgetArea, trace_);
+  trace_->hide();
+  statusBar()->addWidget(link_, 1);
+  MakeToolBar();
+  resize(kFirstSize);
+  RestorePlace();
+  setWindowIcon(ProgramIcon());
+  tree_->OnNode = [this](const std::string& key) { parts_.guard([&] { GoTo(key); }); };
+  pages_->OnChanged = [this] {
+    const FormView* front = pages_->Front();
+    if (front && front->GetForm().MousePointer() == Pointer::Hourglass)
+      setCursor(Qt::BusyCursor);
+    else
+      unsetCursor();
+  };
+  pages_->OnControlChanged = [this] { unsaved_.Touch(); };
+  link_->OnBreakOff = [this] { parts_.guard([this] { configurator_.session.BreakOff(); }); };
+  navigation_.OnTargetChanged = [this] {
+    BuildTree();
+    shownFile_.clear();  // it is of the former model
+    unsaved_.Touch();
+  };
+  configurator_.OnForeignKeys = [this](const std::string& path,
+                                       const std::vector<std::string>& lost) {
+    return MayLose(path, lost);
+  };
+  navigation_.OnFrontChanged = Following(&MainWindow::ShowFront);
+  configurator_.session.OnStateChanged = Following(&MainWindow::ShowSession);
+  configurator_.session.OnTick = Following(&MainWindow::Look);
+  configurator_.session.Watch().OnStep = Following(&MainWindow::ShowTransfer);
+  configurator_.session.OnTransferEnded = [this](const TransferEnd& end) {
+    if (following_) parts_.guard([&] { TransferEnded(end); });
+  };
+  Retranslate();
+}
+
+MainWindow::~MainWindow() { LetGo(); }
+
+std::function<void()> MainWindow::Following(void (MainWindow::*react)()) {
+  return [this, react] {
+    if (following_) parts_.guard([&] { (this->*react)(); });
+  };
+}
+
+void MainWindow::LetGo() {
+  SessionDriver& session = configurator_.session;
+  session.OnStateChanged = session.OnTick = session.Watch().OnStep = nullptr;
+  session.OnTransferEnded = nullptr;
+  configurator_.comms.Trace = nullptr;
+  configurator_.OnForeignKeys = nullptr;
+  navigation_.OnTargetChanged = navigation_.OnFrontChanged = nullptr;
+}
+
+LayoutContext MainWindow::Context() {
+  return {.guard =
+              [this](const std::function<void()>& run) {
+                parts_.guard(run);
+                unsaved_.Touch();
+              },
+          .portText = [this](const ListRow& row) { return ports_.RowText(row); }};
+}
+
+void MainWindow::Follow() {
+  following_ = true;
+  ports_.Start();
+  Retranslate();
+  pages_->Redraw();
+  ShowFront();
+  shownNode_ = configurator_.general.GetForm().Visible() ? "General" : "Tavro";
+  tree_->Select(shownNode_);
+  tree_->Tree().setFocus();
+  unsaved_.Keep(unsaved_.WithFront());
+  if (FileDifferences()) WorkOn(configurator_.ConfFilePath);
+  Look();
+}
+
+void MainWindow::BuildTree() {
+  const auto translate = [this](std::string_view text) {
+    return configurator_.context.Translate(text);
+  };
+  tree_->SetNodes(BuildNavigationTree(configurator_.profile, translate));
+  tree_->Select(shownNode_);
+}
+
+void MainWindow::GoTo(const std::string& key) {
+  const NodeResult result = navigation_.NodeClick(key);
+  shownNode_ = key;
+  tree_->Select(key);
+  isMissing_ = result == NodeResult::NotBuilt;
+  ShowMissing();
+}
+
+void MainWindow::ShowMissing() {
+  if (isMissing_) pages_->ShowEmpty(Words::tr("This page does not exist in this version yet."));
+}
+
+void MainWindow::ShowFront() {
+  unsaved_.Touch();
+  if (Form* front = navigation_.Front())
+    pages_->ShowForm(*front);
+  else
+    pages_->ShowEmpty({});
+  ShowLink();
+  ShowFault();
+}
+
+void MainWindow::Look() {
+  ShowSession();
+  ShowTitle();
+}
+
+void MainWindow::ShowSession() {
+  ShowLink();
+  ShowTransfer();
+  ShowFault();
+}
+
+void MainWindow::ShowLink() {
+  link_->ShowState(LinkStateOf(configurator_));
+  Rest(configurator_.session.OwnsModel());
+}
+
+/// A transfer owns the model: nothing may be edited, opened, saved or compared under it, and a
+/// dialog that is opened in it would hold it up.
+void MainWindow::Rest(bool rests) {
+  for (QAction* action : {open_, save_, recentFiles_, safetyCopies_, compare_, language_})
+    action->setEnabled(!rests);
+  pages_->setEnabled(!rests);
+}
+
+void MainWindow::ShowTransfer() {
+  QString words;
+  const TransferWatch& transfer = configurator_.session.Watch();
+  if (transfer.Running()) {
+    if (const auto left = transfer.Left())
+      words = Words::tr("%1 left").arg(ToQt(DurationText(*left)));
+    // The general page has a bar of its own.
+    if (shownNode_ == "General")
+      link_->HideProgress();
+    else
+      link_->ShowProgress(transfer.Done(), transfer.Steps(), words);
+  } else {
+    link_->HideProgress();
+  }
+  const FormView* front = pages_->Front();
+  auto* label = front ? front->findChild<QLabel*>("TimeLeft") : nullptr;
+  if (label && label->text() != words) label->setText(words);
+}
+
+void MainWindow::ShowFault() {
+  const FormView* front = pages_->Front();
+  auto* details = front ? front->findChild<FaultDetails*>("FaultDetails") : nullptr;
+  if (!details) return;
+  const auto& failed = configurator_.session.State().failed;
+  const QString device = ports_.DeviceOf("COM" + std::to_string(configurator_.session.Port()));
+  details->SetText(failed ? FaultText(*failed, device) : QString());
+}
+
+void MainWindow::ShowTitle() {
+  QString title = ToQt(configurator_.MainCaption()) + "[*]";
+  if (!shownFile_.empty())
+    title = ToQt(shownFile_).section(u'/', -1) + "[*] - " + ToQt(configurator_.MainCaption());
+  if (windowTitle() != title) setWindowTitle(title);
+  setWindowModified(unsaved_.Changed());
+}
+
+void MainWindow::TransferEnded(const TransferEnd& end) {
+  if (!end.done) return;
+  unsaved_.Keep(end.held);
+  if (end.kind == SessionPhase::Reading) shownFile_.clear();
+  const FileResult kept =
+      copies_.Keep(end.held, configurator_.profile, configurator_.info.SerialNumber).result;
+  if (!kept.Ok())
+    statusBar()->showMessage(Words::tr("No safety copy could be kept: %1").arg(ToQt(kept.error)),
+                             kMessageTime);
+  ShowTitle();
+}
+
+std::optional<ModelConfiguration> MainWindow::ReadFile(const std::string& path) const {
+  return ReadConfiguration(
+      parts_.platform.files, path, configurator_.profile,
+      [this](std::string_view text) { return configurator_.context.Translate(text); });
+}
+
+std::optional<Comparison> MainWindow::FileDifferences() const {
+  const auto file = ReadFile(configurator_.ConfFilePath);
+  if (!file || file->profile.TargetName != configurator_.profile.TargetName) return {};
+  return ostrel::Compare({configurator_.profile, configurator_.conf}, *file);
+}
+
+bool MainWindow::MayLose(const std::string& path, const std::vector<std::string>& lost) {
+  const BoxAnswer answer = parts_.platform.dialogs.ShowMessage(
+      {.text = FromQt(Words::tr("%1 holds what this program does not write and would lose: %2. "
+                                "Replace it?")
+                          .arg(ToQt(path), ToQt(ForeignKeysText(lost)))),
+       .title = configurator_.profile.TargetName,
+       .icon = BoxIcon::Question,
+       .buttons = BoxButtons::YesNo});
+  return answer == BoxAnswer::Yes;
+}
+
+bool MainWindow::MayLeave() {
+  const SessionPhase phase = configurator_.session.State().phase;
+  unsaved_.Touch();
+  if (!unsaved_.Changed() && phase != SessionPhase::Writing) return true;
+  // A transfer owns the model: what stands there now is no state to save.
+  const bool mayBeSaved = !IsTransfer(phase);
+  QMessageBox box(QMessageBox::NoIcon, ToQt(configurator_.profile.TargetName),
+                  mayBeSaved ? Words::tr("The configuration has changes that are neither saved "
+                                         "nor sent.")
+                             : Words::tr("A transfer is under way. Leaving breaks it off, and "
+                                         "changes that are neither saved nor sent are lost."),
+                  QMessageBox::NoButton, this);
+  box.setIconPixmap(BoxPicture(BoxIcon::Question));
+  QPushButton* save =
+      mayBeSaved ? box.addButton(Words::tr("&Save"), QMessageBox::AcceptRole) : nullptr;
+  QPushButton* discard =
+      box.addButton(mayBeSaved ? Words::tr("&Go on without saving") : Words::tr("&Leave"),
+                    QMessageBox::DestructiveRole);
+  QPushButton* stay = box.addButton(Words::tr("&Cancel"), QMessageBox::RejectRole);
+  box.setDefaultButton(save ? save : stay);
+  box.setEscapeButton(stay);
+  box.exec();
+  if (box.clickedButton() == discard) return true;
+  if (!save || box.clickedButton() != save) return false;
+  return !IsTransfer(configurator_.session.State().phase) && Save();
+}
+
+std::string MainWindow::AskCode() {
+  std::string code;
+  configurator_.pwForm.ShowModal(code);
+  return code;
+}
+
+void MainWindow::RestorePlace() {
+  const std::string place = parts_.platform.settings.Get(kMaker, kWindowPart, kPlace);
+  restoreGeometry(QByteArray::fromBase64(QByteArray::fromStdString(place)));
+}
+
+void MainWindow::KeepPlace() {
+  parts_.platform.settings.Set(kMaker, kWindowPart, kPlace,
+                               saveGeometry().toBase64().toStdString());
+}
+
+void MainWindow::closeEvent(QCloseEvent* event) {
+  event->ignore();
+  parts_.guard([&] {
+    if (!MayLeave()) return;
+    KeepPlace();
+    configurator_.ShutDown();
+    event->accept();
+  });
+}
+
+}  // namespace ostrel

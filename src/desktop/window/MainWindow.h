@@ -1,0 +1,130 @@
+#pragma once
+
+#include <QMainWindow>
+#include <QString>
+#include <functional>
+#include <string>
+
+#include "desktop/forms/Icons.h"
+#include "desktop/program/PortWatch.h"
+#include "desktop/window/LinkPanel.h"
+#include "desktop/window/PageArea.h"
+#include "desktop/window/TraceView.h"
+#include "desktop/window/TreePane.h"
+#include "platform/Platform.h"
+#include "shell/Comparison.h"
+#include "shell/ConfigurationFile.h"
+#include "shell/Navigation.h"
+#include "shell/RecentFiles.h"
+#include "shell/SafetyCopies.h"
+#include "shell/SessionDriver.h"
+#include "shell/UnsavedMark.h"
+
+class QAction;
+class QMenu;
+class QToolBar;
+
+namespace ostrel {
+
+/// What the window stands on.
+struct WindowParts {
+  Configurator& configurator;
+  Navigation& navigation;
+  const Platform& platform;
+  Guard guard;
+  std::string dataFolder;  ///< the user's own
+};
+
+/// The window: tool bar, tree, the page in front, and the state of the link. It draws and asks; all
+/// rules are the configurator's. It follows what the session, the transfer, the pages and the ports
+/// tell, and what changes with time at the session's own tick: it has no timer.
+class MainWindow final : public QMainWindow {
+ public:
+  explicit MainWindow(const WindowParts& parts);
+  ~MainWindow() override;
+
+  /// Called when the configurator has started: shows what is in front, and follows it from here on.
+  void Follow();
+  /// Goes to a node, as a click on it does.
+  void GoTo(const std::string& key);
+  LayoutContext Context();
+  PageArea& Pages() { return *pages_; }
+  TreePane& Tree() { return *tree_; }
+  /// Brings link, transfer, faults and title up to the configurator.
+  void Look();
+  /// Asks for an access code.
+  std::string AskCode();
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+
+ private:
+  // Making.
+  void MakeToolBar();
+  QAction* AddAction(Sign sign, QKeySequence keys, std::function<void()> run);
+  QMenu* AddMenu(QAction* action, std::function<void(QMenu&)> fill);
+  void Retranslate();
+
+  // What the tool bar does.
+  void Open();
+  void OpenPath(const std::string& path);
+  void Opened();
+  /// False when it was left, or when writing failed.
+  bool Save();
+  void AskLanguage();
+  void FillRecent(QMenu& menu);
+  void FillCopies(QMenu& menu);
+  void Compare();
+  void ShowTrace(bool on);
+  /// Says in a box what went wrong.
+  void Tell(const QString& words);
+
+  // What follows the configurator.
+  void BuildTree();
+  void ShowFront();
+  void ShowTitle();
+  void ShowLink();
+  void ShowFault();
+  void Rest(bool rests);
+  void ShowMissing();
+  void ShowTransfer();
+  void ShowSession();
+  /// What an event of the configurator does, once the window follows it.
+  std::function<void()> Following(void (MainWindow::*react)());
+  void LetGo();
+  void TransferEnded(const TransferEnd& end);
+  /// What the file at `ConfFilePath` holds otherwise than the program; nothing when it is refused.
+  std::optional<Comparison> FileDifferences() const;
+  /// Reads a configuration file beside the present configuration.
+  std::optional<ModelConfiguration> ReadFile(const std::string& path) const;
+  /// Notes a file as the one worked on.
+  void WorkOn(const std::string& path);
+  void RestorePlace();
+  void KeepPlace();
+  /// Whether a file may be replaced that holds what this program does not write.
+  bool MayLose(const std::string& path, const std::vector<std::string>& lost);
+  /// True when the present configuration may go: nothing is unsaved, or the operator says so.
+  bool MayLeave();
+
+  WindowParts parts_;
+  Configurator& configurator_;
+  Navigation& navigation_;
+  RecentFiles recent_;
+  SafetyCopies copies_;
+  UnsavedMark unsaved_;
+  PortWatch ports_;
+  TreePane* tree_;
+  std::string shownNode_;  ///< key of the node in front
+  std::string shownFile_;  ///< file whose configuration is worked on; empty for none
+  PageArea* pages_;
+  LinkPanel* link_;
+  TraceView* trace_;
+  QToolBar* bar_ = nullptr;
+  QAction *open_ = nullptr, *save_ = nullptr, *language_ = nullptr, *recentFiles_ = nullptr,
+          *safetyCopies_ = nullptr, *compare_ = nullptr, *traceSwitch_ = nullptr;
+  bool following_ = false;
+  bool traceShown_ = false;
+  bool isMissing_ = false;  ///< the node in front has no page in this build
+};
+
+}  // namespace ostrel

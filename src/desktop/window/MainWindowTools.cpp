@@ -1,0 +1,225 @@
+#include <QAction>
+#include <QDesktopServices>
+#include <QDir>
+#include <QFileInfo>
+#include <QMenu>
+#include <QStatusBar>
+#include <QToolBar>
+#include <QToolButton>
+#include <QUrl>
+#include <algorithm>
+
+#include "desktop/forms/Icons.h"
+#include "desktop/forms/Words.h"
+#include "desktop/program/Language.h"
+#include "desktop/window/CompareDialog.h"
+#include "desktop/window/MainWindow.h"
+#include "platform/Dialogs.h"
+#include "platform/Files.h"
+#include "shell/Configurator.h"
+
+namespace ostrel {
+namespace {
+
+constexpr qsizetype kCopiesOffered = 15;
+constexpr int kTraceHeight = 170;
+
+}  // namespace
+
+void MainWindow::MakeToolBar() {
+  bar_ = addToolBar(QString());
+  bar_->setObjectName("Tools");
+  bar_->setMovable(false);
+  bar_->setContextMenuPolicy(Qt::PreventContextMenu);
+  bar_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+  bar_->setIconSize({22, 22});
+  open_ = AddAction(Sign::Open, QKeySequence::Open, [this] { Open(); });
+  save_ = AddAction(Sign::Save, QKeySequence::Save, [this] { Save(); });
+  recentFiles_ = AddAction(Sign::Recent, {}, {});
+  AddMenu(recentFiles_, [this](QMenu& menu) { FillRecent(menu); });
+  safetyCopies_ = AddAction(Sign::Copies, {}, {});
+  AddMenu(safetyCopies_, [this](QMenu& menu) { FillCopies(menu); });
+  bar_->addSeparator();
+  compare_ = AddAction(Sign::Compare, {}, [this] { Compare(); });
+  traceSwitch_ = AddAction(Sign::Trace, QKeySequence("Ctrl+T"), {});
+  traceSwitch_->setCheckable(true);
+  connect(traceSwitch_, &QAction::toggled, this, [this](bool on) { ShowTrace(on); });
+  connect(trace_, &QDockWidget::visibilityChanged, this, [this](bool) {
+    if (trace_->isHidden()) traceSwitch_->setChecked(false);
+  });
+  bar_->addSeparator();
+  language_ = AddAction(Sign::Language, {}, [this] { AskLanguage(); });
+}
+
+QAction* MainWindow::AddAction(Sign sign, QKeySequence keys, std::function<void()> run) {
+  QAction* action = bar_->addAction(MakeIcon(sign, palette()), QString());
+  action->setShortcut(keys);
+  if (run)
+    connect(action, &QAction::triggered, this, [this, run = std::move(run)] { parts_.guard(run); });
+  return action;
+}
+
+QMenu* MainWindow::AddMenu(QAction* action, std::function<void(QMenu&)> fill) {
+  auto* menu = new QMenu(this);
+  connect(menu, &QMenu::aboutToShow, this, [this, menu, fill = std::move(fill)] {
+    menu->clear();
+    parts_.guard([&] { fill(*menu); });
+  });
+  action->setMenu(menu);
+  static_cast<QToolButton*>(bar_->widgetForAction(action))->setPopupMode(QToolButton::InstantPopup);
+  return menu;
+}
+
+void MainWindow::Retranslate() {
+  const auto core = [this](std::string_view text) {
+    return ToQt(configurator_.context.Translate(text));
+  };
+  const auto name = [](QAction* action, const QString& text, const QString& tip) {
+    action->setText(text);
+    const QString keys = action->shortcut().toString(QKeySequence::NativeText);
+    action->setToolTip(keys.isEmpty() ? tip : tip + " (" + keys + ")");
+  };
+  name(open_, core("Abrir"), Words::tr("Open a configuration file"));
+  name(save_, core("Guardar"), Words::tr("Save the configuration to a file"));
+  name(language_, core("Idioma"), Words::tr("Choose the language"));
+  name(recentFiles_, Words::tr("Recent"), Words::tr("Files opened or saved lately"));
+  name(safetyCopies_, Words::tr("Safety copies"),
+       Words::tr("Configurations read from loggers or sent to them"));
+  name(compare_, Words::tr("Compare"), Words::tr("Compare the configuration with a file"));
+  name(traceSwitch_, Words::tr("Trace"), Words::tr("Show what goes over the line"));
+  tree_->Retranslate();
+  trace_->Retranslate();
+  link_->Retranslate();
+}
+
+void MainWindow::Open() {
+  if (!MayLeave()) return;
+  navigation_.CommitFront();
+  if (configurator_.AskAndOpen()) Opened();
+}
+
+void MainWindow::OpenPath(const std::string& path) {
+  if (!parts_.platform.files.Exists(path)) {
+    recent_.Remove(path);
+    Tell(Words::tr("%1 does not exist any more.").arg(ToQt(path)));
+    return;
+  }
+  if (!MayLeave()) return;
+  navigation_.CommitFront();
+  configurator_.OpenFile(path);
+  Opened();
+}
+
+void MainWindow::Opened() {
+  if (FileDifferences()) WorkOn(configurator_.ConfFilePath);
+  // The file may be of a model that has not the channel in front.
+  if (!tree_->Has(shownNode_)) GoTo("General");
+}
+
+bool MainWindow::Save() {
+  navigation_.CommitFront();
+  const auto saved = configurator_.AskAndSave();
+  if (!saved) return false;
+  const std::string& path = configurator_.ConfFilePath;
+  if (!saved->Ok()) {
+    Tell(Words::tr("%1 could not be written: %2").arg(ToQt(path), ToQt(saved->error)));
+    return false;
+  }
+  WorkOn(path);
+  // Blanks around a text, and letters that the file has no code for, do not come back.
+  const auto differences = FileDifferences();
+  if (differences && !differences->isSame) {
+    const Difference& first = differences->differences.front();
+    Tell(
+        Words::tr("The file cannot keep %n text(s) as they are, the first of them %1 in %2: \"%3\" "
+                  "reads back as \"%4\".",
+                  nullptr, static_cast<int>(differences->differences.size()))
+            .arg(ToQt(first.Key()), ToQt(first.Section()), ToQt(first.before), ToQt(first.after)));
+  }
+  return true;
+}
+
+void MainWindow::Tell(const QString& words) {
+  parts_.platform.dialogs.ShowMessage({.text = FromQt(words),
+                                       .title = configurator_.profile.TargetName,
+                                       .icon = BoxIcon::Exclamation});
+}
+
+void MainWindow::WorkOn(const std::string& path) {
+  unsaved_.Keep(configurator_.conf);
+  recent_.Add(path);
+  shownFile_ = path;
+  ShowTitle();
+}
+
+void MainWindow::AskLanguage() {
+  const auto before = configurator_.lang.SelectedLang();
+  configurator_.AskLanguage();
+  if (configurator_.lang.SelectedLang() == before) return;
+  BuildTree();  // it is translated when it is built
+  UseLanguage(LanguageCode(configurator_.lang));
+  Retranslate();
+  pages_->Redraw();
+  ShowMissing();
+  Look();
+}
+
+void MainWindow::FillRecent(QMenu& menu) {
+  for (const std::string& path : recent_.Paths()) {
+    QString text = QDir::toNativeSeparators(ToQt(path));
+    menu.addAction(text.replace(u'&', "&&"), this,
+                   [this, path] { parts_.guard([&] { OpenPath(path); }); });
+  }
+  if (menu.isEmpty()) menu.addAction(Words::tr("No files yet"))->setEnabled(false);
+}
+
+void MainWindow::FillCopies(QMenu& menu) {
+  const QFileInfoList copies =
+      QDir(ToQt(copies_.Folder())).entryInfoList({"*.ocf"}, QDir::Files, QDir::Time);
+  for (const QFileInfo& copy : copies.first(std::min(copies.size(), kCopiesOffered)))
+    menu.addAction(copy.completeBaseName(), this, [this, path = copy.absoluteFilePath()] {
+      parts_.guard([&] { OpenPath(FromQt(path)); });
+    });
+  if (menu.isEmpty()) menu.addAction(Words::tr("No copies yet"))->setEnabled(false);
+  menu.addSeparator();
+  menu.addAction(Words::tr("Show the folder"), this, [this] {
+    parts_.guard([this] {
+      parts_.platform.files.MakeFolder(copies_.Folder());
+      QDesktopServices::openUrl(QUrl::fromLocalFile(ToQt(copies_.Folder())));
+    });
+  });
+}
+
+void MainWindow::Compare() {
+  const std::string filter =
+      FromQt(Words::tr("Configuration files") + "|*.ocf|" + Words::tr("All files") + "|*.*");
+  const auto path = parts_.platform.dialogs.ChooseFile({.filter = filter});
+  if (!path) return;
+  const auto file = ReadFile(*path);
+  if (!file) {
+    Tell(Words::tr("The file holds no configuration."));
+    return;
+  }
+  const QString note =
+      file->profile.TargetName == configurator_.profile.TargetName
+          ? QString()
+          : Words::tr("The file is of another model: %1").arg(ToQt(file->profile.TargetName));
+  const ModelConfiguration present{configurator_.profile, unsaved_.WithFront()};
+  CompareDialog dialog(QFileInfo(ToQt(*path)).fileName(), note,
+                       ostrel::Compare(present, *file).differences, this);
+  dialog.exec();
+}
+
+void MainWindow::ShowTrace(bool on) {
+  trace_->setVisible(on);
+  if (on && !traceShown_) {
+    traceShown_ = true;
+    resizeDocks({trace_}, {kTraceHeight}, Qt::Vertical);
+  }
+  if (on)
+    configurator_.comms.Trace = [this](const std::string& line) { trace_->Add(line); };
+  else
+    configurator_.comms.Trace = nullptr;
+}
+
+}  // namespace ostrel

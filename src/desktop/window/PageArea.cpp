@@ -1,0 +1,60 @@
+#include "desktop/window/PageArea.h"
+
+#include <QLabel>
+#include <QScrollArea>
+
+namespace ostrel {
+
+PageArea::PageArea(std::function<LayoutContext()> context, QWidget* parent)
+    : QStackedWidget(parent), context_(std::move(context)), empty_(new QLabel(this)) {
+  empty_->setObjectName("EmptyPage");
+  empty_->setAlignment(Qt::AlignCenter);
+  empty_->setWordWrap(true);
+  addWidget(empty_);
+}
+
+PageArea::Sheet& PageArea::SheetOf(Form& form) {
+  if (const auto found = sheets_.find(&form); found != sheets_.end()) return found->second;
+  auto* scroll = new QScrollArea(this);
+  auto* view = MakeView(form, context_());
+  scroll->setFrameShape(QFrame::NoFrame);
+  scroll->setWidgetResizable(true);
+  scroll->setWidget(view);
+  scroll->setFocusPolicy(Qt::NoFocus);
+  view->OnFormChanged = [this] {
+    if (OnChanged) OnChanged();
+  };
+  view->OnControlChanged = [this] {
+    if (OnControlChanged) OnControlChanged();
+  };
+  addWidget(scroll);
+  return sheets_.emplace(&form, Sheet{scroll, view}).first->second;
+}
+
+void PageArea::ShowForm(Form& form) {
+  const Sheet& sheet = SheetOf(form);
+  front_ = sheet.view;
+  setCurrentWidget(sheet.scroll);
+  if (OnChanged) OnChanged();
+}
+
+void PageArea::ShowEmpty(const QString& words) {
+  front_ = nullptr;
+  empty_->setText(words);
+  setCurrentWidget(empty_);
+  if (OnChanged) OnChanged();
+}
+
+void PageArea::Redraw() {
+  Form* front = front_ ? &front_->GetForm() : nullptr;
+  for (const auto& [form, sheet] : sheets_) {
+    sheet.view->Detach();
+    removeWidget(sheet.scroll);
+    sheet.scroll->deleteLater();
+  }
+  sheets_.clear();
+  front_ = nullptr;
+  if (front) ShowForm(*front);
+}
+
+}  // namespace ostrel
