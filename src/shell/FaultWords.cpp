@@ -24,20 +24,19 @@ FaultWords NoHandshake(const SessionFault& fault, const std::string& port) {
     case CodeAnswer::NotAsked:
       break;
     case CodeAnswer::NotGiven:
-      return {{"the logger wants an access code"}, {}, {}};
+      return {{"the logger wants an access code"}};
     case CodeAnswer::Given:
-      return {{"the logger did not accept the access code"}, {}, {}};
+      return {{"the logger did not accept the access code"}};
   }
-  return {{"no logger answers at %1", {port}}, {"check cable and supply"}, {}};
+  return {{"no logger answers at %1", {port}}, {"check cable and supply"}};
 }
 
 FaultWords NotTakenOver(const SessionFault& fault) {
   const std::string& answer = fault.link.text;
   if (fault.during != SessionPhase::Writing)
-    return {{"the logger refused the setting: \"%1\"", {answer}}, {}, {}};
-  if (answer.empty())
-    return {{"the logger did not say that it took the configuration over"}, {}, {}};
-  return {{"the logger did not take the configuration over: \"%1\"", {answer}}, {}, {}};
+    return {{"the logger refused the setting: \"%1\"", {answer}}};
+  if (answer.empty()) return {{"the logger did not say that it took the configuration over"}};
+  return {{"the logger did not take the configuration over: \"%1\"", {answer}}};
 }
 
 FaultWords LinkWords(const SessionFault& fault, const std::string& port) {
@@ -47,65 +46,55 @@ FaultWords LinkWords(const SessionFault& fault, const std::string& port) {
     case Kind::None:
       break;
     case Kind::NoSuchPort:
-      return {{"there is no port %1", {port}}, {kPlugIn}, {}};
+      return {{"there is no port %1", {port}}, {kPlugIn}};
     case Kind::PortBusy:
-      return {
-          {"%1 is in use by another program", {port}}, {"close that program and try again"}, {}};
+      return {{"%1 is in use by another program", {port}}, {"close that program and try again"}};
     case Kind::NoPermission:
       return {{"there is no permission to open %1", {port}},
               {"join the group of serial devices with \"sudo usermod -aG dialout $USER\", then log "
-               "out and in again"},
-              {}};
+               "out and in again"}};
     case Kind::PortFailed:
-      return {{"%1 cannot be opened as a serial port", {port}}, {}, {}};
+      return {{"%1 cannot be opened as a serial port", {port}}};
     case Kind::NoModem:
-      return {{"no modem answers at %1", {port}}, {}, {}};
+      return {{"no modem answers at %1", {port}}};
     case Kind::NoConnect:
-      if (link.text.empty()) return {{"the call was not answered"}, {}, {}};
-      return {{"the call failed: the modem says \"%1\"", {link.text}}, {}, {}};
+      if (link.text.empty()) return {{"the call was not answered"}};
+      return {{"the call failed: the modem says \"%1\"", {link.text}}};
     case Kind::NoHandshake:
       return NoHandshake(fault, port);
     case Kind::Silence:
       return {AtPlace(fault, "the logger fell silent", "the logger fell silent at record %1",
-                      "the logger fell silent at statement %1"),
-              {},
-              {}};
+                      "the logger fell silent at statement %1")};
     case Kind::BadChecksum:
       return {AtPlace(fault, "lines arrived damaged", "lines arrived damaged at record %1",
                       "lines arrived damaged at statement %1"),
-              {kLooksAtCable},
-              {}};
+              {kLooksAtCable}};
     case Kind::OutOfSequence:
-      return {{"record %1 was expected and \"%2\" arrived", {number, link.text}}, {}, {}};
+      return {{"record %1 was expected and \"%2\" arrived", {number, link.text}}};
     case Kind::EmptyStream:
-      return {{"the logger sent an empty configuration"}, {}, {}};
+      return {{"the logger sent an empty configuration"}};
     case Kind::IndexOutOfRange:
-      return {{"record %1 is about a channel that does not exist: \"%2\"", {number, link.text}},
-              {},
-              {}};
+      return {{"record %1 is about a channel that does not exist: \"%2\"", {number, link.text}}};
     case Kind::Refused:
-      return {{"the logger refused statement %1: \"%2\"", {number, link.text}}, {}, {}};
+      return {{"the logger refused statement %1: \"%2\"", {number, link.text}}};
     case Kind::NotTakenOver:
       return NotTakenOver(fault);
     case Kind::WrongAnswer:
-      return {{"the logger answered something else: \"%1\"", {link.text}}, {}, {}};
+      return {{"the logger answered something else: \"%1\"", {link.text}}};
     case Kind::Busy:
-      return {{"another dialogue with the logger is under way"}, {}, {}};
+      return {{"another dialogue with the logger is under way"}};
     case Kind::OutOfTime:
       return {AtPlace(fault, "the logger came to no end", "the logger came to no end at record %1",
-                      "the logger came to no end at statement %1"),
-              {},
-              {}};
+                      "the logger came to no end at statement %1")};
     case Kind::LineHeld:
       return {{"the line at %1 was held", {port}},
-              {"check that the logger is switched on and that the cable has RTS and CTS"},
-              {}};
+              {"check that the logger is switched on and that the cable has RTS and CTS"}};
     case Kind::LineLost:
-      return {{"%1 has gone in the middle of the dialogue", {port}}, {kPlugIn}, {}};
+      return {{"%1 has gone in the middle of the dialogue", {port}}, {kPlugIn}};
     case Kind::PortClosed:
-      return {{"%1 was closed in the middle of the dialogue", {port}}, {}, {}};
+      return {{"%1 was closed in the middle of the dialogue", {port}}};
   }
-  return {{"the logger did not answer, or not as expected"}, {}, {}};
+  return {{"the logger did not answer, or not as expected"}};
 }
 
 Phrase Outcome(const SessionFault& fault) {
@@ -132,6 +121,8 @@ FaultWords WordsOf(const SessionFault& fault, std::string_view port) {
   else
     words.what = {"interrupted"};
   words.outcome = Outcome(fault);
+  if (fault.during == SessionPhase::Reading)
+    words.pages = {"the pages show again what was there before the reading"};
   return words;
 }
 

@@ -17,11 +17,12 @@ struct Phrase {
   bool operator==(const Phrase&) const = default;
 };
 
-/// What a fault is told with. The second and third part may be empty.
+/// What a fault is told with. All but the first part may be empty.
 struct FaultWords {
-  Phrase what;
-  Phrase remedy;   ///< what helps
-  Phrase outcome;  ///< how the logger stands now
+  Phrase what{};
+  Phrase remedy{};   ///< what helps
+  Phrase outcome{};  ///< how the logger stands now
+  Phrase pages{};    ///< what the pages show now, for a face that has pages
 };
 
 /// The words for a fault of a session. `port` names what stands behind the port.

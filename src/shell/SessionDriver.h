@@ -70,6 +70,9 @@ class SessionDriver {
   /// The transfer that runs.
   TransferWatch& Watch() { return watch_; }
 
+  /// Tells that a configuration is written, after it has been read back.
+  void ShowWritten() { SetStatus("Configuracion escrita con exito"); }
+
   // What the link tells.
   /// An attempt of an upload has taken its state from the model.
   void KeepSent() { sent_ = context_.conf; }

@@ -13,14 +13,14 @@ DeviceConf UnsavedMark::WithFront() const {
 }
 
 void UnsavedMark::Keep(const DeviceConf& safe) {
-  kept_ = Texts(safe);
+  kept_ = safe;
   Touch();
 }
 
 bool UnsavedMark::Changed() {
   if (configurator_.ComBusy || !touched_) return changed_;
   touched_ = false;
-  changed_ = Texts(WithFront()) != kept_;
+  changed_ = Texts(WithFront()) != Texts(kept_);
   return changed_;
 }
 

@@ -22,4 +22,9 @@ UploadPlan PlanUpload(const std::vector<std::string>& statements, std::int32_t f
   return plan;
 }
 
+Duration ReadingTime(int records) {
+  constexpr std::size_t kUsualOctets = 45;  // of a record's frame
+  return LineTime(kUsualOctets * static_cast<std::size_t>(records));
+}
+
 }  // namespace ostrel

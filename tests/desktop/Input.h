@@ -1,6 +1,8 @@
 #pragma once
 
+#include <QAbstractButton>
 #include <QApplication>
+#include <QDialog>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QTimer>
@@ -75,5 +77,12 @@ class ModalScript {
   std::deque<std::function<void(QWidget*)>> answers_;
   QWidget* answered_ = nullptr;
 };
+
+/// Answers the question that comes before a writing: plainly, or with its guards.
+inline void AgreeToWrite(QWidget* modal, bool guarded) {
+  auto* way = modal->findChild<QAbstractButton*>(guarded ? "Guarded" : "Plain");
+  if (way) way->setChecked(true);
+  if (auto* dialog = qobject_cast<QDialog*>(modal)) dialog->accept();
+}
 
 }  // namespace ostrel

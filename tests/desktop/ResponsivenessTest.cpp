@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "Input.h"
 #include "WindowWorld.h"
 #include "platform/qt/QtEventLoop.h"
 
@@ -34,6 +35,9 @@ class Responsiveness : public testing::Test, protected WindowWorld<QtEventLoop> 
       if (moves++ % 20 == 0) window.move(moves % 100, 40);
       window.update();
     });
+    ModalScript modals;
+    if (button == &SessionFrame::Escribir)
+      modals.Expect([](QWidget* modal) { AgreeToWrite(modal, false); });
     (session.*button).Click();
     since.start();
     ticks.start(2);

@@ -166,8 +166,12 @@ void Road::EditAnAlarm() {
 }
 
 void Road::Upload() {
+  modals.Expect([](QWidget* modal) {
+    EXPECT_FALSE(modal->findChild<QLabel*>("Doubt")) << "nothing speaks against it";
+    AgreeToWrite(modal, true);
+  });
   Click(On(*desktop, "Escribir"));
-  loop.RunFor(minutes(5));
+  loop.RunFor(minutes(9));
   ASSERT_EQ(Status(), "Configuracion escrita con exito");
   EXPECT_EQ(logger->UploadsTaken(), 1u);
   const sim::Configuration& held = logger->Conf();

@@ -303,6 +303,8 @@ TEST_F(WindowTools, CountsAnEditDuringAnUploadAsNotSent) {
     EXPECT_FALSE(Window().isWindowModified()) << "looking at " << key;
   }
   const std::string former = Core().conf.Digital[1].NOMBRE;
+  ModalScript modals;
+  modals.Expect([](QWidget* modal) { AgreeToWrite(modal, false); });
   Core().general.Session().Escribir.Click();
   loop.After(seconds(3), "edit", [&] {
     EXPECT_EQ(Core().session.State().phase, SessionPhase::Writing);
@@ -373,10 +375,11 @@ TEST_F(WindowTools, RestsFromTheRequestToTheEndOfATransfer) {
   AddLogger(sim::Model::BP);
   port.SetPaced(true);
   Connect();
+  ModalScript modals;
+  modals.Expect([](QWidget* modal) { AgreeToWrite(modal, false); });
   Core().general.Session().Escribir.Click();
   Window().Look();
   EXPECT_FALSE(Tool("Guardar")->isEnabled() || Window().Pages().isEnabled());
-  ModalScript modals;
   modals.Expect([](QWidget* modal) { Press(modal, Qt::Key_Escape); });
   loop.After(seconds(2), "close", [&] { EXPECT_FALSE(Window().close()) << "it asks"; });
   loop.RunFor(seconds(30));
@@ -392,8 +395,13 @@ TEST_F(WindowTools, OffersNoSavingInTheMidstOfATransfer) {
   Core().general.GetForm().Get<TextBox>("NameBox").Type("door");
   loop.RunFor(seconds(2));
   ASSERT_TRUE(Window().isWindowModified());
-  Core().general.Session().Leer.Click();
   ModalScript modals;
+  modals.Expect([](QWidget* modal) {
+    for (auto* button : modal->findChildren<QPushButton*>())
+      if (button->text() == "&Go on without saving") return Click(button);
+    ADD_FAILURE() << "reading over changes asks first";
+  });
+  Core().general.Session().Leer.Click();
   modals.Expect([](QWidget* modal) {
     EXPECT_EQ(modal->findChildren<QPushButton*>().size(), 2) << "leave or stay";
     Press(modal, Qt::Key_Escape);

@@ -12,10 +12,11 @@
 namespace ostrel {
 namespace {
 
-QTableWidget* MakeTable(const std::vector<Difference>& differences, QWidget* parent) {
+QTableWidget* MakeTable(const ComparisonWords& words, const std::vector<Difference>& differences,
+                        QWidget* parent) {
   auto* table = new QTableWidget(static_cast<int>(differences.size()), 4, parent);
   table->setHorizontalHeaderLabels(
-      {Words::tr("Section"), Words::tr("Field"), Words::tr("Present"), Words::tr("In the file")});
+      {Words::tr("Section"), Words::tr("Field"), words.before, words.after});
   table->setAccessibleName(Words::tr("Differences"));
   int row = 0;
   for (const Difference& difference : differences) {
@@ -38,22 +39,24 @@ QTableWidget* MakeTable(const std::vector<Difference>& differences, QWidget* par
 
 }  // namespace
 
-CompareDialog::CompareDialog(const QString& file, const QString& note,
+CompareDialog::CompareDialog(const ComparisonWords& words,
                              const std::vector<Difference>& differences, QWidget* parent)
     : QDialog(parent) {
-  setWindowTitle(Words::tr("Comparison with %1").arg(file));
+  setWindowTitle(words.title);
   auto* column = new QVBoxLayout(this);
-  auto* summary = new QLabel(
-      differences.empty()
-          ? Words::tr("The present configuration and the file hold the same.")
-          : Words::tr("%n field(s) differ.", nullptr, static_cast<int>(differences.size())),
-      this);
+  auto* summary = new QLabel(differences.empty() ? Words::tr("Both hold the same.")
+                                                 : Words::tr("%n field(s) differ.", nullptr,
+                                                             static_cast<int>(differences.size())),
+                             this);
   summary->setObjectName("Summary");
   column->addWidget(summary);
-  if (!note.isEmpty()) column->addWidget(new QLabel(note, this));
-  column->addWidget(MakeTable(differences, this), 1);
+  if (!words.note.isEmpty()) column->addWidget(new QLabel(words.note, this));
+  column->addWidget(MakeTable(words, differences, this), 1);
   auto* buttons = new QDialogButtonBox(this);
-  buttons->addButton(Words::tr("Close"), QDialogButtonBox::RejectRole);
+  if (!words.accept.isEmpty()) buttons->addButton(words.accept, QDialogButtonBox::AcceptRole);
+  buttons->addButton(words.accept.isEmpty() ? Words::tr("Close") : Words::tr("&Cancel"),
+                     QDialogButtonBox::RejectRole);
+  connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
   connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
   column->addWidget(buttons);
   resize(760, 480);

@@ -19,7 +19,6 @@ namespace ostrel {
 namespace {
 
 constexpr int kTreeWidth = 230;
-constexpr int kMessageTime = 10'000;  // ms
 constexpr QSize kFirstSize{1280, 720};
 constexpr std::string_view kWindowPart = "Window";
 constexpr std::string_view kPlace = "Place";
@@ -72,6 +71,10 @@ MainWindow::MainWindow(const WindowParts& parts)
                                        const std::vector<std::string>& lost) {
     return MayLose(path, lost);
   };
+  configurator_.OnOtherModel = [this](const std::string& model) { return MayChangeModel(model); };
+  configurator_.session.ServeRead = [this] { parts_.guard([this] { Read(); }); };
+  configurator_.session.ServeWrite = [this] { parts_.guard([this] { Write(); }); };
+  configurator_.session.OnModelDoubt = [this](const Phrase& doubt) { Tell(SentenceOf(doubt)); };
   navigation_.OnFrontChanged = Following(&MainWindow::ShowFront);
   configurator_.session.OnStateChanged = Following(&MainWindow::ShowSession);
   configurator_.session.OnTick = Following(&MainWindow::Look);
@@ -94,8 +97,11 @@ void MainWindow::LetGo() {
   SessionDriver& session = configurator_.session;
   session.OnStateChanged = session.OnTick = session.Watch().OnStep = nullptr;
   session.OnTransferEnded = nullptr;
+  session.ServeRead = session.ServeWrite = nullptr;
+  session.OnModelDoubt = nullptr;
   configurator_.comms.Trace = nullptr;
   configurator_.OnForeignKeys = nullptr;
+  configurator_.OnOtherModel = nullptr;
   navigation_.OnTargetChanged = navigation_.OnFrontChanged = nullptr;
 }
 
@@ -210,18 +216,6 @@ void MainWindow::ShowTitle() {
     title = ToQt(shownFile_).section(u'/', -1) + "[*] - " + ToQt(configurator_.MainCaption());
   if (windowTitle() != title) setWindowTitle(title);
   setWindowModified(unsaved_.Changed());
-}
-
-void MainWindow::TransferEnded(const TransferEnd& end) {
-  if (!end.done) return;
-  unsaved_.Keep(end.held);
-  if (end.kind == SessionPhase::Reading) shownFile_.clear();
-  const FileResult kept =
-      copies_.Keep(end.held, configurator_.profile, configurator_.info.SerialNumber).result;
-  if (!kept.Ok())
-    statusBar()->showMessage(Words::tr("No safety copy could be kept: %1").arg(ToQt(kept.error)),
-                             kMessageTime);
-  ShowTitle();
 }
 
 std::optional<ModelConfiguration> MainWindow::ReadFile(const std::string& path) const {

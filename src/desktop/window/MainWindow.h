@@ -26,6 +26,9 @@ class QToolBar;
 
 namespace ostrel {
 
+struct WriteQuestion;
+struct WriteResult;
+
 /// What the window stands on.
 struct WindowParts {
   Configurator& configurator;
@@ -92,7 +95,19 @@ class MainWindow final : public QMainWindow {
   /// What an event of the configurator does, once the window follows it.
   std::function<void()> Following(void (MainWindow::*react)());
   void LetGo();
+
+  // Transfers.
+  void Read();
+  void Write();
+  WriteQuestion AskedBeforeWriting() const;
+  bool KeepFormer(const DeviceConf& held);
+  /// Shows what writing will change; true when the operator agrees.
+  bool MayChange(const Comparison& changes);
+  void ShowWritten(const WriteResult& result);
   void TransferEnded(const TransferEnd& end);
+  /// Whether a file may change the model although a session stands.
+  bool MayChangeModel(const std::string& model);
+
   /// What the file at `ConfFilePath` holds otherwise than the program; nothing when it is refused.
   std::optional<Comparison> FileDifferences() const;
   /// Reads a configuration file beside the present configuration.
@@ -123,6 +138,7 @@ class MainWindow final : public QMainWindow {
   QAction *open_ = nullptr, *save_ = nullptr, *language_ = nullptr, *recentFiles_ = nullptr,
           *safetyCopies_ = nullptr, *compare_ = nullptr, *traceSwitch_ = nullptr;
   bool following_ = false;
+  bool isWriting_ = false;  ///< a writing with its guards is under way
   bool traceShown_ = false;
   bool isMissing_ = false;  ///< the node in front has no page in this build
 };

@@ -205,8 +205,12 @@ void MainWindow::Compare() {
           ? QString()
           : Words::tr("The file is of another model: %1").arg(ToQt(file->profile.TargetName));
   const ModelConfiguration present{configurator_.profile, unsaved_.WithFront()};
-  CompareDialog dialog(QFileInfo(ToQt(*path)).fileName(), note,
-                       ostrel::Compare(present, *file).differences, this);
+  CompareDialog dialog(
+      {.title = Words::tr("Comparison with %1").arg(QFileInfo(ToQt(*path)).fileName()),
+       .note = note,
+       .before = Words::tr("Present"),
+       .after = Words::tr("In the file")},
+      ostrel::Compare(present, *file).differences, this);
   dialog.exec();
 }
 

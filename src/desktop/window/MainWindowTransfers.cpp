@@ -1,0 +1,117 @@
+#include <QStatusBar>
+
+#include "base/Scope.h"
+#include "desktop/forms/Words.h"
+#include "desktop/window/CompareDialog.h"
+#include "desktop/window/FaultText.h"
+#include "desktop/window/MainWindow.h"
+#include "desktop/window/WriteDialog.h"
+#include "platform/Dialogs.h"
+#include "shell/Configurator.h"
+#include "shell/GuardedWrite.h"
+#include "shell/RecordCounts.h"
+#include "shell/UploadPlan.h"
+#include "shell/WriteDoubts.h"
+
+namespace ostrel {
+namespace {
+
+constexpr int kMessageTime = 10'000;  // ms
+
+}  // namespace
+
+/// A download replaces what stands on the pages.
+void MainWindow::Read() {
+  if (MayLeave() && configurator_.Connected) configurator_.session.Download();
+}
+
+void MainWindow::Write() {
+  navigation_.CommitFront();
+  const WriteQuestion question = AskedBeforeWriting();
+  WriteDialog dialog(question, this);
+  if (dialog.exec() != QDialog::Accepted || !configurator_.Connected) return;
+  if (!dialog.IsGuarded()) {
+    configurator_.session.Upload();
+    return;
+  }
+  const Lent writing(isWriting_, true);
+  WriteRoad road{.read = [this] { return configurator_.session.Download(); },
+                 .write = [this] { return configurator_.session.Upload(); },
+                 .keep = [this](const DeviceConf& held) { return KeepFormer(held); }};
+  if (dialog.ShowsChanges())
+    road.mayWrite = [this](const Comparison& changes) { return MayChange(changes); };
+  ShowWritten(WriteGuarded(configurator_, road));
+}
+
+WriteQuestion MainWindow::AskedBeforeWriting() const {
+  WriteQuestion question{.logger = Words::tr("%1, serial number %2")
+                                       .arg(ToQt(configurator_.profile.TargetName),
+                                            ToQt(configurator_.info.SerialNumber))};
+  for (const Phrase& doubt : DoubtsOfWriting(configurator_)) question.doubts += SentenceOf(doubt);
+  question.plain =
+      PlanUpload(configurator_.comms.ComposeStatements(), configurator_.info.Features).duration;
+  const int records =
+      RecordCounts(parts_.platform.settings).Expected(configurator_.profile.TargetType);
+  question.guarded = question.plain + 2 * ReadingTime(records);
+  return question;
+}
+
+bool MainWindow::KeepFormer(const DeviceConf& held) {
+  const FileResult kept =
+      copies_.Keep(held, configurator_.profile, configurator_.info.SerialNumber).result;
+  if (!kept.Ok())
+    Tell(Words::tr("Nothing was sent, since no safety copy could be kept: %1")
+             .arg(ToQt(kept.error)));
+  return kept.Ok();
+}
+
+bool MainWindow::MayChange(const Comparison& changes) {
+  CompareDialog dialog({.title = Words::tr("What will change"),
+                        .note = {},
+                        .before = Words::tr("In the logger"),
+                        .after = Words::tr("To be written"),
+                        .accept = Words::tr("&Write")},
+                       changes.differences, this);
+  return dialog.exec() == QDialog::Accepted && configurator_.Connected;
+}
+
+/// A failed step is told as any other fault of the session.
+void MainWindow::ShowWritten(const WriteResult& result) {
+  if (result.end == WriteEnd::Written && result.IsAsSent()) {
+    configurator_.session.ShowWritten();
+    statusBar()->showMessage(
+        Words::tr("Written and verified: the logger holds what the pages show."), kMessageTime);
+  }
+  if (!result.verified || result.verified->isSame) return;
+  CompareDialog dialog({.title = Words::tr("The logger holds another configuration than was sent"),
+                        .note = {},
+                        .before = Words::tr("Sent"),
+                        .after = Words::tr("In the logger")},
+                       result.verified->differences, this);
+  dialog.exec();
+}
+
+void MainWindow::TransferEnded(const TransferEnd& end) {
+  if (!end.done || (isWriting_ && end.kind == SessionPhase::Reading)) return;
+  unsaved_.Keep(end.held);
+  if (end.kind == SessionPhase::Reading) shownFile_.clear();
+  const FileResult kept =
+      copies_.Keep(end.held, configurator_.profile, configurator_.info.SerialNumber).result;
+  if (!kept.Ok())
+    statusBar()->showMessage(Words::tr("No safety copy could be kept: %1").arg(ToQt(kept.error)),
+                             kMessageTime);
+  ShowTitle();
+}
+
+bool MainWindow::MayChangeModel(const std::string& model) {
+  const BoxAnswer answer = parts_.platform.dialogs.ShowMessage(
+      {.text = FromQt(Words::tr("The file is for the model %1, and a session with a %2 stands. "
+                                "Change the model?")
+                          .arg(ToQt(model), ToQt(configurator_.profile.TargetName))),
+       .title = configurator_.profile.TargetName,
+       .icon = BoxIcon::Question,
+       .buttons = BoxButtons::YesNo});
+  return answer == BoxAnswer::Yes;
+}
+
+}  // namespace ostrel
