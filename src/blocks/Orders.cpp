@@ -1,7 +1,11 @@
 #include "blocks/Orders.h"
 
 #include "blocks/GeneralParameters.h"
+#include "blocks/bus/ModbusBus.h"
+#include "blocks/bus/ModbusChannels.h"
+#include "blocks/expansion/ExpansionInputs.h"
 #include "blocks/inputs/AnalogInputs.h"
+#include "blocks/inputs/AuxiliaryInputs.h"
 #include "blocks/inputs/DigitalInputs.h"
 #include "blocks/inputs/FlagAlarms.h"
 
@@ -35,6 +39,10 @@ std::span<const UploadStep> UploadOrder() {
       StepOf<AnalogInputs>("Analog inputs", E_Analog),
       StepOf<AnalogGroups>("Analog groups", Grupos),
       StepOf<FlagAlarms>("Flags", Flags),
+      StepOf<ModbusBus>("MODBUS bus", CONF_MODBUS),
+      StepOf<ModbusChannels>("MODBUS channels", E_MODBUS),
+      StepOf<ExpansionInputs>("Expansion inputs", E_Modular),
+      StepOf<AuxiliaryInputs>("Auxiliary inputs", E_Aux),
   };
   return steps;
 }

@@ -5,6 +5,9 @@
 
 #include "base/Bounded.h"
 #include "model/AlarmBlock.h"
+#include "model/ConfAux.h"
+#include "model/ConfExpansion.h"
+#include "model/ConfModbus.h"
 #include "model/Describe.h"
 
 namespace ostrel {
@@ -144,6 +147,11 @@ struct DeviceConf {
   Bounded<ConfAnalog, 5> Analog;
   Bounded<ConfGrupo, 5> Grupo;
   Bounded<ConfFlag, 17> Flag;
+  ConfModbusBus ModbusBus;
+  Bounded<ConfModbus, 33> Modbus;
+  Bounded<ConfModulo, 129> Modulo;
+  Bounded<ConfAux, 5> Aux;
+  ConfKatodex Katodex;
 
   bool operator==(const DeviceConf&) const = default;
 };

@@ -17,6 +17,7 @@ namespace ostrel {
 class Form;
 class IniTool;
 class Lang;
+class TextBox;
 
 /// What all pages share: the records and flags of one configurator, and its services.
 struct PageContext {
@@ -35,6 +36,14 @@ struct PageContext {
   bool timersRun = false;             ///< whether loaded pages tick each second
   std::string programFolder;          ///< where the help pages stand, without a separator
   std::function<void()> showActEdit;  ///< shows the action editor on `ActionBuffer`, modal
+  /// Lets the tree show anew which expansion inputs are in use. Null without a tree.
+  std::function<void()> repaintTree{};
+  /// Shows the calculator of bit masks, modal. Null without one, as the next two.
+  std::function<void()> showMaskCalculator{};
+  /// Shows the calculator of pulse weights, modal; its result can go into the box.
+  std::function<void(TextBox& ratio)> showPulseCalculator{};
+  /// Lets the operator set the total of an expansion counter.
+  std::function<void(std::int16_t input)> showExpansionTotal{};
 
   /// The text in the language in use; the text itself when the table is full.
   std::string Translate(std::string_view text) const;

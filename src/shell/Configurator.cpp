@@ -3,10 +3,15 @@
 #include "base/Scope.h"
 #include "blocks/Blocks.h"
 #include "blocks/Orders.h"
+#include "pages/bus/CONF_MODBUS.h"
+#include "pages/bus/E_MODBUS.h"
+#include "pages/expansion/E_Modular.h"
 #include "pages/inputs/E_Analog.h"
+#include "pages/inputs/E_Aux.h"
 #include "pages/inputs/E_Digital.h"
 #include "pages/inputs/Flags.h"
 #include "pages/inputs/Grupos.h"
+#include "pages/inputs/Katodex.h"
 #include "platform/Dialogs.h"
 #include "platform/EventLoop.h"
 #include "platform/Files.h"
@@ -22,6 +27,11 @@ std::vector<std::unique_ptr<Page>> MakePages(PageContext& context) {
   pages.push_back(std::make_unique<E_Analog>(context));
   pages.push_back(std::make_unique<Grupos>(context));
   pages.push_back(std::make_unique<Flags>(context));
+  pages.push_back(std::make_unique<CONF_MODBUS>(context));
+  pages.push_back(std::make_unique<E_MODBUS>(context));
+  pages.push_back(std::make_unique<E_Modular>(context));
+  pages.push_back(std::make_unique<E_Aux>(context));
+  pages.push_back(std::make_unique<Katodex>(context));
   return pages;
 }
 

@@ -5,10 +5,15 @@
 #include "PageFixture.h"
 #include "blocks/Configuration.h"
 #include "pages/General.h"
+#include "pages/bus/CONF_MODBUS.h"
+#include "pages/bus/E_MODBUS.h"
+#include "pages/expansion/E_Modular.h"
 #include "pages/inputs/E_Analog.h"
+#include "pages/inputs/E_Aux.h"
 #include "pages/inputs/E_Digital.h"
 #include "pages/inputs/Flags.h"
 #include "pages/inputs/Grupos.h"
+#include "pages/inputs/Katodex.h"
 
 namespace ostrel {
 namespace {
@@ -27,9 +32,11 @@ std::unique_ptr<Page> Make(PageContext& context) {
 }
 
 const Walked kWalked[] = {
-    {"General", Make<General>, -1, 0},  {"E_Digital", Make<E_Digital>, 8, 4},
-    {"E_Analog", Make<E_Analog>, 3, 4}, {"Grupos", Make<Grupos>, -1, 0},
-    {"Flags", Make<Flags>, 15, 1},
+    {"General", Make<General>, -1, 0},   {"E_Digital", Make<E_Digital>, 8, 4},
+    {"E_Analog", Make<E_Analog>, 3, 4},  {"Grupos", Make<Grupos>, -1, 0},
+    {"Flags", Make<Flags>, 15, 1},       {"CONF_MODBUS", Make<CONF_MODBUS>, -1, 0},
+    {"E_MODBUS", Make<E_MODBUS>, 31, 1}, {"E_Modular", Make<E_Modular>, 127, 1},
+    {"E_Aux", Make<E_Aux>, 3, 4},        {"Katodex", Make<Katodex>, -1, 0},
 };
 
 /// Values that a field may be tried with: the controls of some take only a few.
@@ -39,7 +46,8 @@ std::vector<std::string> Candidates(const Field& field) {
   if (std::holds_alternative<TimeOfDay*>(field.value)) return {"7:08:09", "23:59:59"};
   if (std::holds_alternative<ConfPhone*>(field.value))
     return {"600111222,Prio=3,PRV2,MASKMODE1,DI0", "611,Prio=0,PRV0,MASKMODE0"};
-  return {"1", "2", "3", "12", "24"};  // 12 and 24 are voltages
+  // 12 and 24 are voltages, 10 is a sampling, the large ones are bit rates.
+  return {"1", "2", "3", "10", "12", "24", "1200", "9600"};
 }
 
 /// Every page: what is shown is what is committed, field by field, and rubbish in a number box
@@ -56,8 +64,15 @@ class PageWalk : public PageFixture, public testing::WithParamInterface<Walked> 
   /// The fields that the page shows now. Action lists are left out: they have an editor.
   std::vector<Field> Shown(DeviceConf& in, int channel, int config) {
     std::vector<Field> shown;
-    for (const Field& field : FieldsOf(in, profile)) {
-      if (field.page != page->Id() || field.meta.sense == FieldSense::Action) continue;
+    std::vector<Field> all;
+    FindBlock(page->Id())
+        ->visit(in, profile, [&](const FieldId& id, const FieldMeta& meta, FieldRef value) {
+          all.push_back({page->Id(), id, meta, value});
+        });
+    for (const Field& field : all) {
+      if (field.meta.sense == FieldSense::Action) continue;
+      // One group stands in the file alone.
+      if (field.id.section->word == "MINPUT.A" && field.id.word == "GRUPO") continue;
       // The rows of a list close up: only the first telephone stays where it was.
       if (std::holds_alternative<ConfPhone*>(field.value) && field.id.slot.place > 0) continue;
       if (channel >= 0 && field.id.channel != channel) continue;

@@ -85,6 +85,7 @@ const BlockCase kTaken[] = {
      "ONEWIRE.ALM,0,1,x,3,9,1,0,86400,127,1,0,4", 0},
     // MODBUS
     {Model::VR200, "BAUD= 57600", "MODBUS.PRM,57600,0,1"},
+    {Model::VR200, "BAUD= 0", "MODBUS.PRM,0,0,1"},
     {Model::VR200, "BAUD= 9600", "MODBUS.PRM,9600", kAllFeatures & ~kModbusSlave},
     {Model::VR200, "MBSLAVE=1", "MODBUS.PRM,1200,1,1"},
     {Model::VR200, "MBSLAVEADD= 0", "MODBUS.PRM,1200,0,0"},
@@ -193,7 +194,7 @@ const char* const kRefused[] = {
     "DISMC4", "DISMC0=", "-ALMM0,INDEX= 1",
     "+ALMM0=x,INDEX= 1,MAX= 0,MIN= 0,HIST= 0,P= 0,EQ= 0,ACTHI=,ACTLO=,ACTNOM=",
     // MODBUS
-    "BAUD=9600", "BAUD= 300", "BAUD= 0", "BAUD", "MBSLAVE= 1", "MBSLAVE=2", "MBSLAVEADD=1",
+    "BAUD=9600", "BAUD", "MBSLAVE= 1", "MBSLAVE=2", "MBSLAVEADD=1",
     "MBSLAVEADD= 248", "MBCONF32=x,UNIT=,SLAVE= 1,REGADD= 8,CONST= 0,MASK= 0,RATIO=1",
     "MBCONF0=x,UNIT=,SLAVE= 248,REGADD= 8,CONST= 0,MASK= 0,RATIO=1",
     "MBCONF0=x,UNIT=,SLAVE= 1,REGADD=-8,CONST= 0,MASK= 0,RATIO=1",
