@@ -7,13 +7,13 @@
 namespace ostrel {
 namespace {
 
-constexpr std::string_view kTitle = "Canal ";
+constexpr std::string_view kInputTitle = "Canal ";
 
 }  // namespace
 
 E_Modular::E_Modular(PageContext& context)
     : context_(context),
-      form_("E_Modular", kTitle),
+      form_("E_Modular", "Expansiones"),
       frame_(form_),
       digital_(form_, context),
       flow_(form_, context),
@@ -33,9 +33,7 @@ E_Modular::E_Modular(PageContext& context)
 
 void E_Modular::LoadText() {
   form_.TranslateCaptions([this](std::string_view key) { return context_.Translate(key); });
-  const std::string title = context_.Translate(kTitle) + NumText(CurrentIndex_);
-  form_.SetTitle(title);
-  frame_.SetTitle(title);
+  frame_.SetTitle(context_.Translate(kInputTitle) + NumText(CurrentIndex_));
 }
 
 void E_Modular::ChangeIndex(std::int16_t index) {

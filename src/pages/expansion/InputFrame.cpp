@@ -35,7 +35,8 @@ InputFrame::InputFrame(Form& form)
       GroupCombo(form, "GroupCombo"),
       SSTab1(form, "SSTab1"),
       LabelNoHabil(form, "LabelNoHabil", "Canal no habilitado") {
-  for (const std::string_view mode : kModes) ModeCombo.Add(mode);
+  for (const std::string_view mode : kModes)
+    ModeCombo.Add(mode, static_cast<std::int32_t>(ModeCombo.Rows().size()));
   for (const char digit : kHexDigits) AddressCombo.Add(std::string(1, digit));
   for (int input = 0; input < kInputsOfModule; ++input) InputCombo.Add(std::to_string(input));
   for (int group = 0; group < kReadingGroups; ++group) GroupCombo.Add(std::to_string(group));
