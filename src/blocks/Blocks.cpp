@@ -7,6 +7,10 @@
 #include "blocks/inputs/AnalogInputs.h"
 #include "blocks/inputs/DigitalInputs.h"
 #include "blocks/inputs/FlagAlarms.h"
+#include "blocks/inputs/FlowMeters.h"
+#include "blocks/inputs/MathChannels.h"
+#include "blocks/inputs/Probes.h"
+#include "blocks/inputs/Sampling.h"
 #include "store/IniTool.h"
 
 namespace ostrel {
@@ -65,7 +69,9 @@ std::span<const Block> Blocks() {
   static const std::array blocks{
       MakeBlock<GeneralParameters>(PageId::General), MakeBlock<DigitalInputs>(PageId::E_Digital),
       MakeBlock<AnalogInputs>(PageId::E_Analog),     MakeBlock<AnalogGroups>(PageId::Grupos),
-      MakeBlock<FlagAlarms>(PageId::Flags),
+      MakeBlock<FlowMeters>(PageId::Caudal),         MakeBlock<Sampling>(PageId::SampleRate),
+      MakeBlock<FlagAlarms>(PageId::Flags),          MakeBlock<Probes>(PageId::E_OneWire),
+      MakeBlock<MathChannels>(PageId::E_Math),
   };
   return blocks;
 }

@@ -4,6 +4,10 @@
 #include "blocks/inputs/AnalogInputs.h"
 #include "blocks/inputs/DigitalInputs.h"
 #include "blocks/inputs/FlagAlarms.h"
+#include "blocks/inputs/FlowMeters.h"
+#include "blocks/inputs/MathChannels.h"
+#include "blocks/inputs/Probes.h"
+#include "blocks/inputs/Sampling.h"
 
 namespace ostrel {
 namespace {
@@ -30,11 +34,16 @@ std::span<const UploadStep> UploadOrder() {
                  {General},
                  OnceWith<Feature::RetryRules>,
                  &GeneralParameters::ComposeResendRules},
+      StepOf<Sampling>("Sampling", SampleRate),
       UploadStep{"Telephones", {General}, Once, &GeneralParameters::ComposeTelephones},
       StepOf<DigitalInputs>("Digital inputs", E_Digital),
       StepOf<AnalogInputs>("Analog inputs", E_Analog),
+      // A meter's statements carry its weight in the totaliser, too.
+      UploadStep{"Flow meters", {Caudal, SampleRate}, &FlowMeters::Count, &FlowMeters::Compose},
       StepOf<AnalogGroups>("Analog groups", Grupos),
       StepOf<FlagAlarms>("Flags", Flags),
+      StepOf<Probes>("1-Wire probes", E_OneWire),
+      StepOf<MathChannels>("Math channels", E_Math),
   };
   return steps;
 }

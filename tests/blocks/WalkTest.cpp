@@ -2,6 +2,7 @@
 #include <set>
 
 #include "BlockFixture.h"
+#include "blocks/inputs/FlowMeters.h"
 
 namespace ostrel {
 namespace {
@@ -41,6 +42,7 @@ TEST_P(FieldWalk, AddressesAreUniqueAndEveryFieldHasWords) {
 }
 
 TEST_P(FieldWalk, EveryFieldStandsInTheFileAndComesBack) {
+  FindBlock(PageId::SampleRate)->clear(conf, profile, translate);
   const DeviceConf empty = conf;
   for (const Field& field : FieldsOf(conf, profile)) std::visit(Altered{}, field.value);
   const DeviceConf saved = conf;
@@ -59,7 +61,8 @@ TEST_P(FieldWalk, EveryFieldStandsInTheFileAndComesBack) {
   EXPECT_EQ(conf, saved);
   conf = empty;
   const std::string file = document.OutputINI();
-  for (const Block& block : Blocks()) Restore(block.page, file);
+  for (const FileTurn& turn : kFileOrder)
+    if (FindBlock(turn.page) && turn.takesPart(profile)) Restore(turn.page, file);
   EXPECT_EQ(conf, saved);
 }
 
@@ -71,7 +74,9 @@ TEST_P(FieldWalk, EveryFieldOfTheModelIsSent) {
     const bool isOn = field.meta.sense == FieldSense::Enabled;
     if (isOn || field.id.word == "GPRS") *std::get<Bool16*>(field.value) = kTrue;
     if (field.id.word == "SIEMPRE") *std::get<Bool16*>(field.value) = kFalse;
-    if (field.id.word == "INTERFAZ") *std::get<std::int16_t*>(field.value) = 1;
+    // On; what altering makes of it is off.
+    if (field.id.word == "INTERFAZ") *std::get<std::int16_t*>(field.value) = -3;
+    if (field.id.word == "SAMPLERATE") *std::get<std::int16_t*>(field.value) = 253;
   }
   std::size_t sent = 0;
   for (const Field& field : FieldsOf(conf, profile)) {
@@ -87,8 +92,9 @@ TEST_P(FieldWalk, EveryFieldOfTheModelIsSent) {
       return list.All();
     };
     const auto former = statements();
-    // SMS is what a statement means that names no other way.
-    if (field.id.channel >= channels || field.id.word == "SMS") continue;
+    // SMS is what a statement means that names no other way, and an identity what it is.
+    const bool isImplied = field.id.word == "SMS" || field.id.word == "ID";
+    if (field.id.channel >= channels || isImplied) continue;
     std::visit(
         [&](auto* value) {
           const auto kept = *value;
@@ -102,15 +108,24 @@ TEST_P(FieldWalk, EveryFieldOfTheModelIsSent) {
   EXPECT_GT(sent, 100U);
 }
 
-/// Emptying leaves of every field what a fresh program holds, save for what is kept on purpose.
+/// Emptying leaves of every field the same, save for what is kept on purpose.
 TEST_P(FieldWalk, EmptyingResetsEveryField) {
-  const DeviceConf empty = conf;
+  const auto empty = [&] {
+    for (const PageId page : kClearAtDownload)
+      if (const Block* block = FindBlock(page)) block->clear(conf, profile, translate);
+  };
+  empty();
+  const DeviceConf emptiedOnce = conf;
   for (const Field& field : FieldsOf(conf, profile)) std::visit(Altered{}, field.value);
-  for (const PageId page : kClearAtStart)
-    if (const Block* block = FindBlock(page)) block->clear(conf, profile, translate);
-  const auto emptied = FieldsOf(std::as_const(conf), profile), fresh = FieldsOf(empty, profile);
+  empty();
+  const auto emptied = FieldsOf(std::as_const(conf), profile),
+             fresh = FieldsOf(emptiedOnce, profile);
   for (std::size_t i = 0; i < emptied.size(); ++i) {
-    const bool isKept = emptied[i].meta.sense == FieldSense::Action || emptied[i].id.word == "GPRS";
+    const FieldId& id = emptied[i].id;
+    const bool isFlow = id.section == &FlowMeters::kSection;
+    const bool isKept = emptied[i].meta.sense == FieldSense::Action || id.word == "GPRS" ||
+                        id.word == "ID" ||
+                        (isFlow && (id.word == "PERSISTENCIA" || id.word == "FLAG"));
     EXPECT_EQ(FieldText(emptied[i].value, false) == FieldText(fresh[i].value, false), !isKept)
         << emptied[i].Section() << " " << emptied[i].Key();
   }
@@ -121,8 +136,14 @@ TEST_P(FieldWalk, FilesHoldTheirFixedCounts) {
   std::map<std::string, std::set<int>> records;
   for (const Field& field : FieldsOf(conf, profile))
     records[std::string(field.id.section->word)].insert(field.id.channel);
-  for (const auto& [section, count] :
-       {std::pair{"GENERAL", 1U}, {"DIGITAL", 9U}, {"ANALOG", 4U}, {"GRUPO", 4U}, {"FLAG", 16U}})
+  for (const auto& [section, count] : {std::pair{"GENERAL", 1U},
+                                       {"DIGITAL", 9U},
+                                       {"ANALOG", 4U},
+                                       {"GRUPO", 4U},
+                                       {"CAUDAL", 9U},
+                                       {"FLAG", 16U},
+                                       {"MATH", 4U},
+                                       {"1WIRE", profile.IsKA1 || profile.IsKA2 ? 4U : 0U}})
     EXPECT_EQ(records[section].size(), count) << section;
 }
 
