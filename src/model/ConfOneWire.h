@@ -37,11 +37,4 @@ void Describe(R& r, Visit&& visit) {
 /// Each half of the identity in single-probe mode.
 inline constexpr std::string_view kNoIdentity = "000.000.000.000";
 
-/// The identity that a probe has burnt in, as two dotted halves.
-struct ProbeIdentity {
-  std::string first, second;
-
-  bool operator==(const ProbeIdentity&) const = default;
-};
-
 }  // namespace ostrel

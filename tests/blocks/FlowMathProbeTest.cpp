@@ -93,7 +93,7 @@ TEST_F(FlowBlocks, SamplingIsSentToPressureLoggersAlone) {
     Receive("TOTALRATIO,1,.5");
     const std::string file = FileText(PageId::SampleRate);
     EXPECT_TRUE(
-        file.starts_with("[CAUDAL 0]\r\nTOTALRATIO= 0\r\n[CAUDAL 1]\r\nTOTALRATIO= .5\r\n"));
+        file.starts_with("[CAUDAL 0]\r\nTOTALRATIO= 1\r\n[CAUDAL 1]\r\nTOTALRATIO= .5\r\n"));
     EXPECT_EQ(file.ends_with("[GENERAL]\r\nSAMPLERATE= 64"), profile.IsBQ);
   }
 }

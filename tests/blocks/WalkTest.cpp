@@ -42,7 +42,6 @@ TEST_P(FieldWalk, AddressesAreUniqueAndEveryFieldHasWords) {
 }
 
 TEST_P(FieldWalk, EveryFieldStandsInTheFileAndComesBack) {
-  FindBlock(PageId::SampleRate)->clear(conf, profile, translate);
   const DeviceConf empty = conf;
   for (const Field& field : FieldsOf(conf, profile)) std::visit(Altered{}, field.value);
   const DeviceConf saved = conf;
@@ -108,18 +107,14 @@ TEST_P(FieldWalk, EveryFieldOfTheModelIsSent) {
   EXPECT_GT(sent, 100U);
 }
 
-/// Emptying leaves of every field the same, save for what is kept on purpose.
+/// Emptying leaves of every field what a new configuration holds, save for what is kept on purpose.
 TEST_P(FieldWalk, EmptyingResetsEveryField) {
-  const auto empty = [&] {
-    for (const PageId page : kClearAtDownload)
-      if (const Block* block = FindBlock(page)) block->clear(conf, profile, translate);
-  };
-  empty();
-  const DeviceConf emptiedOnce = conf;
+  const DeviceConf empty = conf;
   for (const Field& field : FieldsOf(conf, profile)) std::visit(Altered{}, field.value);
-  empty();
+  for (const PageId page : kClearAtDownload)
+    if (const Block* block = FindBlock(page)) block->clear(conf, profile, translate);
   const auto emptied = FieldsOf(std::as_const(conf), profile),
-             fresh = FieldsOf(emptiedOnce, profile);
+             fresh = FieldsOf(empty, profile);
   for (std::size_t i = 0; i < emptied.size(); ++i) {
     const FieldId& id = emptied[i].id;
     const bool isFlow = id.section == &FlowMeters::kSection;

@@ -5,10 +5,14 @@
 #include "PageFixture.h"
 #include "blocks/Configuration.h"
 #include "pages/General.h"
+#include "pages/inputs/Caudal.h"
 #include "pages/inputs/E_Analog.h"
 #include "pages/inputs/E_Digital.h"
+#include "pages/inputs/E_Math.h"
+#include "pages/inputs/E_OneWire.h"
 #include "pages/inputs/Flags.h"
 #include "pages/inputs/Grupos.h"
+#include "pages/inputs/SampleRate.h"
 
 namespace ostrel {
 namespace {
@@ -19,6 +23,7 @@ struct Walked {
   std::unique_ptr<Page> (*make)(PageContext& context);
   int lastChannel;  ///< -1 for a page without channels
   int configs;      ///< alarm configurations; 0 for none
+  std::string_view model = "Tavro BP";
 };
 
 template <class Kind>
@@ -29,7 +34,9 @@ std::unique_ptr<Page> Make(PageContext& context) {
 const Walked kWalked[] = {
     {"General", Make<General>, -1, 0},  {"E_Digital", Make<E_Digital>, 8, 4},
     {"E_Analog", Make<E_Analog>, 3, 4}, {"Grupos", Make<Grupos>, -1, 0},
-    {"Flags", Make<Flags>, 15, 1},
+    {"Caudal", Make<Caudal>, 8, 4},     {"SampleRate", Make<SampleRate>, -1, 0},
+    {"Flags", Make<Flags>, 15, 1},      {"E_OneWire", Make<E_OneWire>, 3, 4, "Ostrel KA1"},
+    {"E_Math", Make<E_Math>, 3, 1},
 };
 
 /// Values that a field may be tried with: the controls of some take only a few.
@@ -39,7 +46,7 @@ std::vector<std::string> Candidates(const Field& field) {
   if (std::holds_alternative<TimeOfDay*>(field.value)) return {"7:08:09", "23:59:59"};
   if (std::holds_alternative<ConfPhone*>(field.value))
     return {"600111222,Prio=3,PRV2,MASKMODE1,DI0", "611,Prio=0,PRV0,MASKMODE0"};
-  return {"1", "2", "3", "12", "24"};  // 12 and 24 are voltages
+  return {"1", "2", "3", "12", "24", "10"};  // 12 and 24 are voltages, 1 and 10 weights
 }
 
 /// Every page: what is shown is what is committed, field by field, and rubbish in a number box
@@ -47,7 +54,7 @@ std::vector<std::string> Candidates(const Field& field) {
 class PageWalk : public PageFixture, public testing::WithParamInterface<Walked> {
  protected:
   PageWalk() {
-    SelectModel("Tavro BP");
+    SelectModel(GetParam().model);
     page = GetParam().make(context);
     page->Form_Load();
     page->Clear();
