@@ -11,8 +11,7 @@ AyudaHex::AyudaHex(ToolContext& context)
       Resultado(form_, "Resultado"),
       CancelButton(form_, "CancelButton", "Salir") {
   for (int bit = 0; bit < kMaskBits; ++bit) {
-    const std::string number = std::to_string(bit);
-    BitCheck.emplace_back(form_, "BitCheck(" + number + ")", "Bit " + number);
+    BitCheck.emplace_back(form_, "BitCheck(" + std::to_string(bit) + ")", "");
     BitCheck.back().OnClick = [this] { AddUp(); };
   }
   CancelButton.OnClick = [this] { form_.Close(); };
@@ -20,7 +19,11 @@ AyudaHex::AyudaHex(ToolContext& context)
 
 void AyudaHex::ShowModal() {
   form_.TranslateCaptions(context_.Translate);
-  for (CheckBox& bit : BitCheck) bit.SetChecked(false);
+  const std::string word = context_.Translate("Bit");
+  for (std::size_t bit = 0; bit < BitCheck.size(); ++bit) {
+    BitCheck[bit].face.SetCaption(word + " " + std::to_string(bit));
+    BitCheck[bit].SetChecked(false);
+  }
   Resultado.SetText("");
   ostrel::ShowModal(context_.dialogs, form_);
 }
