@@ -48,6 +48,13 @@ void VisitAlarms(const DeviceConf& conf, const Receiver& receiver, const AlarmVi
   });
 }
 
+DeviceConf AsHeld(const DeviceConf& conf, const Receiver& receiver) {
+  DeviceConf held = conf;
+  for (const Block& block : Blocks())
+    if (block.asHeld) block.asHeld(held, receiver);
+  return held;
+}
+
 std::vector<std::string> ComposeStatements(const DeviceConf& conf, const Receiver& receiver) {
   StatementList statements;
   for (const UploadStep& step : UploadOrder())

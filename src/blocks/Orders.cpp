@@ -1,7 +1,11 @@
 #include "blocks/Orders.h"
 
 #include "blocks/GeneralParameters.h"
+#include "blocks/bus/ModbusBus.h"
+#include "blocks/bus/ModbusChannels.h"
+#include "blocks/expansion/ExpansionInputs.h"
 #include "blocks/inputs/AnalogInputs.h"
+#include "blocks/inputs/AuxiliaryInputs.h"
 #include "blocks/inputs/DigitalInputs.h"
 #include "blocks/inputs/FlagAlarms.h"
 #include "blocks/inputs/FlowMeters.h"
@@ -42,8 +46,12 @@ std::span<const UploadStep> UploadOrder() {
       UploadStep{"Flow meters", {Caudal, SampleRate}, &FlowMeters::Count, &FlowMeters::Compose},
       StepOf<AnalogGroups>("Analog groups", Grupos),
       StepOf<FlagAlarms>("Flags", Flags),
+      StepOf<ModbusBus>("MODBUS bus", CONF_MODBUS),
+      StepOf<ModbusChannels>("MODBUS channels", E_MODBUS),
       StepOf<Probes>("1-Wire probes", E_OneWire),
+      StepOf<ExpansionInputs>("Expansion inputs", E_Modular),
       StepOf<MathChannels>("Math channels", E_Math),
+      StepOf<AuxiliaryInputs>("Auxiliary inputs", E_Aux),
   };
   return steps;
 }

@@ -5,8 +5,11 @@
 
 #include "base/Bounded.h"
 #include "model/AlarmBlock.h"
+#include "model/ConfAux.h"
+#include "model/ConfExpansion.h"
 #include "model/ConfFlow.h"
 #include "model/ConfMath.h"
+#include "model/ConfModbus.h"
 #include "model/ConfOneWire.h"
 #include "model/Describe.h"
 
@@ -151,6 +154,11 @@ struct DeviceConf {
   Bounded<ConfFlag, 17> Flag;
   Bounded<ConfMath, 9> Math;
   Bounded<ConfOneWire, 33> OneWire;
+  ConfModbusBus ModbusBus;
+  Bounded<ConfModbus, 33> Modbus;
+  Bounded<ConfModulo, 129> Modulo;
+  Bounded<ConfAux, 5> Aux;
+  ConfKatodex Katodex;
 
   bool operator==(const DeviceConf&) const = default;
 };

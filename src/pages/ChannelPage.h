@@ -19,7 +19,7 @@ struct ChannelTraits {
   PageId page;
   std::string_view form;
   std::string_view title;  ///< ahead of the number
-  std::string_view help;   ///< page word of the help
+  std::string_view help;   ///< page word of the help; empty where there is no help page
   int channels;            ///< channels that the page can show
   NumberForm thresholds = NumberForm::Dec;
 };
@@ -108,6 +108,7 @@ ChannelPage<Channel>::ChannelPage(PageContext& context)
   configs_.OnLeave = [this] { Commit(); };
   configs_.OnShow = [this] { LoadData(); };
   panel_.OnActions() = [this](ActionList AlarmBlock::*list) { EditActions(list); };
+  help_.face.SetVisible(!kTraits.help.empty());
   help_.OnClick = [this] { context_.ShowHelp(kTraits.help); };
   Timer1_.OnTimer = [this] { Tick(); };
 }

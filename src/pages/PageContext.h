@@ -38,15 +38,17 @@ struct PageContext {
   bool timersRun = false;               ///< whether loaded pages tick each second
   std::string programFolder;            ///< where the help pages stand, without a separator
   std::function<void()> showActEdit{};  ///< shows the action editor on `ActionBuffer`, modal
+  /// Lets the tree show anew which expansion inputs are in use. Null without a tree.
+  std::function<void()> repaintTree{};
   // The tools that a page opens, each modal.
-  /// Sets the total of a pulse counter.
-  std::function<void(std::int16_t index)> showSetTotal{};
-  /// Sets the total of an expansion counter.
-  std::function<void(std::int16_t index)> showExpSetTotal{};
-  /// Works out the weight of a pulse, which the operator may put into the box.
-  std::function<void(TextBox& result)> showAyuda{};
-  /// Adds the bits of a mask up.
-  std::function<void()> showAyudaHex{};
+  /// Lets the operator set the total of a pulse counter.
+  std::function<void(std::int16_t meter)> showTotal{};
+  /// Lets the operator set the total of an expansion counter.
+  std::function<void(std::int16_t input)> showExpansionTotal{};
+  /// Shows the calculator of pulse weights; its result can go into the box.
+  std::function<void(TextBox& ratio)> showPulseCalculator{};
+  /// Shows the calculator of bit masks.
+  std::function<void()> showMaskCalculator{};
   /// Reads the identity of the one probe on the bus; nothing when there is no answer.
   std::function<std::optional<ProbeIdentity>()> readProbeIdentity{};
 

@@ -3,13 +3,18 @@
 #include "base/Scope.h"
 #include "blocks/Blocks.h"
 #include "blocks/Orders.h"
+#include "pages/bus/CONF_MODBUS.h"
+#include "pages/bus/E_MODBUS.h"
+#include "pages/expansion/E_Modular.h"
 #include "pages/inputs/Caudal.h"
 #include "pages/inputs/E_Analog.h"
+#include "pages/inputs/E_Aux.h"
 #include "pages/inputs/E_Digital.h"
 #include "pages/inputs/E_Math.h"
 #include "pages/inputs/E_OneWire.h"
 #include "pages/inputs/Flags.h"
 #include "pages/inputs/Grupos.h"
+#include "pages/inputs/Katodex.h"
 #include "pages/inputs/SampleRate.h"
 #include "platform/Dialogs.h"
 #include "platform/EventLoop.h"
@@ -30,6 +35,11 @@ std::vector<std::unique_ptr<Page>> MakePages(PageContext& context) {
   pages.push_back(std::make_unique<Flags>(context));
   pages.push_back(std::make_unique<E_OneWire>(context));
   pages.push_back(std::make_unique<E_Math>(context));
+  pages.push_back(std::make_unique<CONF_MODBUS>(context));
+  pages.push_back(std::make_unique<E_MODBUS>(context));
+  pages.push_back(std::make_unique<E_Modular>(context));
+  pages.push_back(std::make_unique<E_Aux>(context));
+  pages.push_back(std::make_unique<Katodex>(context));
   return pages;
 }
 
@@ -91,10 +101,10 @@ void Configurator::ConnectPages() {
     };
   };
   context.showActEdit = [this] { actEdit.ShowModal(); };
-  context.showSetTotal = setsTotal(setTotal);
-  context.showExpSetTotal = setsTotal(expSetTotal);
-  context.showAyuda = [this](TextBox& field) { ayuda.ShowModal(field); };
-  context.showAyudaHex = [this] { ayudaHex.ShowModal(); };
+  context.showTotal = setsTotal(setTotal);
+  context.showExpansionTotal = setsTotal(expSetTotal);
+  context.showPulseCalculator = [this](TextBox& field) { ayuda.ShowModal(field); };
+  context.showMaskCalculator = [this] { ayudaHex.ShowModal(); };
   context.readProbeIdentity = [this]() -> std::optional<ProbeIdentity> {
     ProbeIdentity identity;
     if (!comms.ReadProbeIdentity(identity)) return {};

@@ -78,7 +78,7 @@ TEST_F(FlowPages, AMeterShowsItsTotalAndItsUnit) {
   totals[1] = 1500;
   flow.ChangeIndex(1);
   EXPECT_EQ(Caption(flow, "TotalText"), " 1500");
-  context.showSetTotal = [this](std::int16_t index) { totals[index] = 7; };
+  context.showTotal = [this](std::int16_t index) { totals[index] = 7; };
   flow.GetForm().Get<Button>("BotonModificar").Click();
   EXPECT_EQ(Caption(flow, "TotalText"), " 7");
   flow.GetForm().Get<TextBox>("Unidad").Type("l/s");

@@ -71,7 +71,7 @@ TEST_F(Tools, ExpansionTotalsGoByAMessageOfTheirOwn) {
   program.comms.Trace = [&](const std::string& line) {
     if (const auto at = line.find("#41"); at != std::string::npos) sent = line.substr(at);
   };
-  In([&] { program.context.showExpSetTotal(95); },
+  In([&] { program.context.showExpansionTotal(95); },
      [&](Form& form) {
        EXPECT_EQ(form.Name(), "ExpSetTotal");
        EXPECT_FALSE(FaceOf(form["LabelPreValue"]).Visible());
@@ -82,7 +82,7 @@ TEST_F(Tools, ExpansionTotalsGoByAMessageOfTheirOwn) {
 }
 
 TEST_F(Tools, WithoutASessionNothingIsSet) {
-  In([&] { program.context.showSetTotal(9); },
+  In([&] { program.context.showTotal(9); },
      [&](Form& form) {
        EXPECT_EQ(Caption(form, "LabelEstado"), "Sin comunicacion");
        form.Get<TextBox>("TextNew").Type("5");
@@ -122,7 +122,7 @@ TEST_F(Tools, TheRatioGoesIntoTheFieldThatAskedForIt) {
 }
 
 TEST_F(Tools, BitsAddUp) {
-  In(program.context.showAyudaHex, [](Form& form) {
+  In(program.context.showMaskCalculator, [](Form& form) {
     const auto click = [&](int bit, bool on) {
       form.Get<CheckBox>("BitCheck(" + std::to_string(bit) + ")").SetChecked(on);
       return form.Get<TextBox>("Resultado").Text();

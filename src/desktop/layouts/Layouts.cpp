@@ -16,12 +16,17 @@ void Plain(FormView& view, const LayoutContext&) {
   kLayOut(view);
 }
 
-constexpr std::array<LayoutOf, 9> kLayouts{{
+constexpr std::array<LayoutOf, 14> kLayouts{{
     {"General", LayOutGeneral},
     {"E_Digital", Plain<LayOutDigital>},
     {"E_Analog", Plain<LayOutAnalog>},
     {"Grupos", Plain<LayOutGrupos>},
     {"Flags", Plain<LayOutFlags>},
+    {"CONF_MODBUS", Plain<LayOutModbusBus>},
+    {"E_MODBUS", Plain<LayOutModbusChannel>},
+    {"E_Modular", Plain<LayOutExpansion>},
+    {"E_Aux", Plain<LayOutAux>},
+    {"Katodex", Plain<LayOutKatodex>},
     {"ActEdit", Plain<LayOutActEdit>},
     {"PWForm", Plain<LayOutPWForm>},
     {"Lang", Plain<LayOutLang>},

@@ -41,10 +41,14 @@ QPixmap DialogPicture(Desktop& desktop, VirtualDialogs& dialogs, const std::stri
   return picture;
 }
 
-bool HasNode(const TargetProfile& model, const std::string& key) {
+/// Whether a key leads to a page for a model: by a node of its tree, or to one of the pages that no
+/// model's tree has.
+bool LeadsToPage(const TargetProfile& model, const std::string& key) {
   const auto nodes =
       BuildNavigationTree(model, [](std::string_view text) { return std::string(text); });
-  return std::ranges::find(nodes, key, &TreeNode::key) != nodes.end();
+  if (std::ranges::find(nodes, key, &TreeNode::key) != nodes.end()) return true;
+  const auto target = FindNodeTarget(key, model, true);
+  return target && (target->page == "E_Aux" || target->page == "Katodex");
 }
 
 QPixmap PagePicture(Desktop& desktop, const CommandLine& line) {
@@ -98,7 +102,7 @@ std::string TakeScreenshot(const CommandLine& line, const std::string& langFile)
     return line.file + " is no configuration file";
   QPixmap picture = DialogPicture(desktop, dialogs, line.page);
   if (picture.isNull()) {
-    if (!line.page.empty() && !HasNode(core.profile, line.page))
+    if (!line.page.empty() && !LeadsToPage(core.profile, line.page))
       return "there is no page " + line.page + " for the " + core.profile.TargetName;
     picture = PagePicture(desktop, line);
   }

@@ -14,6 +14,7 @@
 #include "platform/Settings.h"
 #include "shell/Configurator.h"
 #include "shell/ForeignKeys.h"
+#include "shell/NodeMarks.h"
 
 namespace ostrel {
 namespace {
@@ -72,6 +73,7 @@ MainWindow::MainWindow(const WindowParts& parts)
                                        const std::vector<std::string>& lost) {
     return MayLose(path, lost);
   };
+  configurator_.context.repaintTree = Following(&MainWindow::PaintTree);
   navigation_.OnFrontChanged = Following(&MainWindow::ShowFront);
   configurator_.session.OnStateChanged = Following(&MainWindow::ShowSession);
   configurator_.session.OnTick = Following(&MainWindow::Look);
@@ -96,6 +98,7 @@ void MainWindow::LetGo() {
   session.OnTransferEnded = nullptr;
   configurator_.comms.Trace = nullptr;
   configurator_.OnForeignKeys = nullptr;
+  configurator_.context.repaintTree = nullptr;
   navigation_.OnTargetChanged = navigation_.OnFrontChanged = nullptr;
 }
 
@@ -128,6 +131,12 @@ void MainWindow::BuildTree() {
   };
   tree_->SetNodes(BuildNavigationTree(configurator_.profile, translate));
   tree_->Select(shownNode_);
+  PaintTree();
+}
+
+void MainWindow::PaintTree() {
+  tree_->Paint([this](const std::string& key) { return IsRedNode(key, configurator_.conf); },
+               Words::tr("In use"));
 }
 
 void MainWindow::GoTo(const std::string& key) {

@@ -6,7 +6,7 @@
 namespace ostrel {
 namespace {
 
-constexpr std::array<InterfaceOption, 2> kFlowInterfaces{{
+constexpr std::array<CodeOption, 2> kFlowInterfaces{{
     {"Int_NoHabil", "No Habil.", kInterfaceOff},
     {"Int_Habil", "Habil.", kInterfaceOn},
 }};
@@ -40,9 +40,9 @@ FlowChannel::FlowChannel(Form& form, const PageContext& context)
   fields_.Bind(Ratio, &ConfCaudal::RATIO, NumberForm::Dec, kFloat);
   Asterisk.face.SetCaption("*");
   interface_.OnChosen = [this](std::int16_t code) { ApplyInterface(code); };
-  HelpBut.OnClick = [this] { context_.showAyuda(Ratio); };
+  HelpBut.OnClick = [this] { context_.showPulseCalculator(Ratio); };
   BotonModificar.OnClick = [this] {
-    context_.showSetTotal(index_);
+    context_.showTotal(index_);
     LoadLive(index_);
   };
 }
@@ -63,7 +63,7 @@ void FlowChannel::Load(const ConfCaudal& record) {
 
 void FlowChannel::Save(ConfCaudal& record) const {
   fields_.Save(record);
-  interface_.Save(record.INTERFAZ);
+  record.INTERFAZ = interface_.Code();
 }
 
 void FlowChannel::LoadLive(std::int16_t index) {

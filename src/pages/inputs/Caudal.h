@@ -4,7 +4,7 @@
 
 #include "pages/ChannelPage.h"
 #include "pages/parts/BoundFields.h"
-#include "pages/parts/InterfaceChoice.h"
+#include "pages/parts/CodeChoice.h"
 
 namespace ostrel {
 
@@ -41,7 +41,7 @@ class FlowChannel {
   const PageContext& context_;
   BoundFields<ConfCaudal> fields_;
   TextBox Nombre;
-  InterfaceChoice interface_;
+  CodeChoice interface_;
   Frame FrameUnidad;
   TextBox Unidad;
   Frame FrameTimeBase;

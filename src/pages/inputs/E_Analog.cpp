@@ -5,7 +5,7 @@
 namespace ostrel {
 namespace {
 
-constexpr std::array<InterfaceOption, 5> kAnalogInterfaces{{
+constexpr std::array<CodeOption, 5> kAnalogInterfaces{{
     {"Int_NoHabil", "No habil.", kInterfaceOff},
     {"Int_4_20", "4/20mA", kInterfaceCurrent},
     {"Int_0_5", "0-5V", kInterface5V},
@@ -89,7 +89,7 @@ void AnalogChannel::Load(const ConfAnalog& record) {
 
 void AnalogChannel::Save(ConfAnalog& record) const {
   fields_.Save(record);
-  interface_.Save(record.INTERFAZ);
+  record.INTERFAZ = interface_.Code();
 }
 
 }  // namespace ostrel

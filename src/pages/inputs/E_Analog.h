@@ -4,7 +4,7 @@
 
 #include "pages/ChannelPage.h"
 #include "pages/parts/BoundFields.h"
-#include "pages/parts/InterfaceChoice.h"
+#include "pages/parts/CodeChoice.h"
 
 namespace ostrel {
 
@@ -35,7 +35,7 @@ class AnalogChannel {
   const PageContext& context_;
   BoundFields<ConfAnalog> fields_;
   TextBox Nombre, Unidad;
-  InterfaceChoice interface_;
+  CodeChoice interface_;
   Label Label1;
   TextBox IE;
   Label Label2;

@@ -5,7 +5,7 @@
 namespace ostrel {
 namespace {
 
-constexpr std::array<InterfaceOption, 2> kMathInterfaces{{
+constexpr std::array<CodeOption, 2> kMathInterfaces{{
     {"Int_NoHabil", "No habil.", kInterfaceOff},
     {"Int_Habil", "Habil.", kInterfaceOn},
 }};
@@ -30,7 +30,7 @@ void MathChannel::Load(const ConfMath& record) {
 
 void MathChannel::Save(ConfMath& record) const {
   fields_.Save(record);
-  interface_.Save(record.INTERFAZ);
+  record.INTERFAZ = interface_.Code();
 }
 
 }  // namespace ostrel

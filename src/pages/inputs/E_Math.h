@@ -4,7 +4,7 @@
 
 #include "pages/ChannelPage.h"
 #include "pages/parts/BoundFields.h"
-#include "pages/parts/InterfaceChoice.h"
+#include "pages/parts/CodeChoice.h"
 
 namespace ostrel {
 
@@ -30,7 +30,7 @@ class MathChannel {
  private:
   BoundFields<ConfMath> fields_;
   TextBox Nombre, Unidad;
-  InterfaceChoice interface_;
+  CodeChoice interface_;
   Frame FrameEcuacion;
   TextBox Ecuacion;
 };

@@ -6,7 +6,7 @@
 namespace ostrel {
 namespace {
 
-constexpr std::array<InterfaceOption, 3> kProbeInterfaces{{
+constexpr std::array<CodeOption, 3> kProbeInterfaces{{
     {"Int_NoHabil", "No habil.", kInterfaceOff},
     {"Int_1WTemp", "Temperatura", kInterfaceTemperature},
     {"Int_1WHum", "Humedad", kInterfaceHumidity},
@@ -65,7 +65,7 @@ void ProbeChannel::Load(const ConfOneWire& record) {
 
 void ProbeChannel::Save(ConfOneWire& record) const {
   fields_.Save(record);
-  interface_.Save(record.INTERFAZ);
+  record.INTERFAZ = interface_.Code();
   record.ID = Bool16(OptionId.Selected());
 }
 

@@ -4,7 +4,7 @@
 
 #include "pages/ChannelPage.h"
 #include "pages/parts/BoundFields.h"
-#include "pages/parts/InterfaceChoice.h"
+#include "pages/parts/CodeChoice.h"
 
 namespace ostrel {
 
@@ -39,7 +39,7 @@ class ProbeChannel {
   BoundFields<ConfOneWire> fields_;
   TextBox Nombre, Unidad;
   Frame FrameInterface;
-  InterfaceChoice interface_;
+  CodeChoice interface_;
   Frame FrameID;
   OptionGroup addressing_;
   OptionButton OptionNoId, OptionId;
