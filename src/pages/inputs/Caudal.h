@@ -46,9 +46,9 @@ class FlowChannel {
   TextBox Unidad;
   Frame FrameTimeBase;
   TextBox TimeBase;
-  Label LabelTimeBase;
+  Label LabelSeconds;
   Frame FrameConversion;
-  Label LabelRatio;
+  Label Label1;
   TextBox Ratio;
   Label RatioUnit;
   Button HelpBut;
