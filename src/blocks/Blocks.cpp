@@ -11,6 +11,10 @@
 #include "blocks/inputs/AuxiliaryInputs.h"
 #include "blocks/inputs/DigitalInputs.h"
 #include "blocks/inputs/FlagAlarms.h"
+#include "blocks/inputs/FlowMeters.h"
+#include "blocks/inputs/MathChannels.h"
+#include "blocks/inputs/Probes.h"
+#include "blocks/inputs/Sampling.h"
 #include "store/IniTool.h"
 
 namespace ostrel {
@@ -78,7 +82,9 @@ std::span<const Block> Blocks() {
   static const std::array blocks{
       MakeBlock<GeneralParameters>(PageId::General), MakeBlock<DigitalInputs>(PageId::E_Digital),
       MakeBlock<AnalogInputs>(PageId::E_Analog),     MakeBlock<AnalogGroups>(PageId::Grupos),
-      MakeBlock<FlagAlarms>(PageId::Flags),          MakeBlock<ModbusBus>(PageId::CONF_MODBUS),
+      MakeBlock<FlowMeters>(PageId::Caudal),         MakeBlock<Sampling>(PageId::SampleRate),
+      MakeBlock<FlagAlarms>(PageId::Flags),          MakeBlock<Probes>(PageId::E_OneWire),
+      MakeBlock<MathChannels>(PageId::E_Math),       MakeBlock<ModbusBus>(PageId::CONF_MODBUS),
       MakeBlock<ModbusChannels>(PageId::E_MODBUS),   MakeBlock<ExpansionInputs>(PageId::E_Modular),
       MakeBlock<AuxiliaryInputs>(PageId::E_Aux),     MakeBlock<OffMeasurement>(PageId::Katodex),
   };

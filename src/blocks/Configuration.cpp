@@ -17,7 +17,7 @@ void InFileOrder(const TargetProfile& profile, const Work& work) {
 
 DeviceConf EmptyConfiguration(const TargetProfile& profile, const Translation& translate) {
   DeviceConf conf;
-  for (const PageId page : kClearAtStart)
+  for (const PageId page : kClearAtDownload)
     if (const Block* block = FindBlock(page)) block->clear(conf, profile, translate);
   return conf;
 }

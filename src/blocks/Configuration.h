@@ -12,7 +12,7 @@ class IniClass;
 
 // Work on a whole configuration as a plain value, for one model.
 
-/// What a fresh program holds of a model: a new configuration, emptied.
+/// What a file or a logger is read into: a new configuration, every block of it emptied.
 DeviceConf EmptyConfiguration(const TargetProfile& profile, const Translation& translate);
 
 /// One field of a configuration, with its address and the page that edits it. It refers into the

@@ -29,7 +29,8 @@ struct ChannelTraits {
 ///
 /// Beside what is required here a kind may have: `Activate()`, what the model allows, true to show
 /// the data anew; `TitleEnd(index)`, words behind the number; `Factor(record)`, by which scaled
-/// thresholds are multiplied; `Tick()`, each second.
+/// thresholds are multiplied; `LoadLive(index)`, what is live of the channel; `Tick()`, each
+/// second.
 template <class Channel>
 concept AlarmChannel = requires(Channel channel, const Channel& constant, DeviceConf& conf,
                                 typename Channel::Record& record, Form& form,
@@ -60,7 +61,10 @@ class ChannelPage final : public Page {
   void LoadData() override;
   void SaveConf(IniClass& document) override { SaveBlock(context_, kTraits.page, document); }
   void RestoreConf() override;
-  void SavePage() override { SaveInto(context_.conf); }
+  void SavePage() override {
+    SaveInto(context_.conf);
+    CheckNumbers();
+  }
   void SaveInto(DeviceConf& conf) const override;
   void Form_Load() override;
   void Form_Activate() override;
@@ -79,6 +83,7 @@ class ChannelPage final : public Page {
   }
   /// Commits, unless a download is replacing the model.
   void Commit();
+  void CheckNumbers();
   void Tick();
   void EditActions(ActionList AlarmBlock::*list);
 
@@ -150,6 +155,7 @@ void ChannelPage<Channel>::Clear() {
 template <AlarmChannel Channel>
 void ChannelPage<Channel>::LoadData() {
   channel_.Load(Current());
+  if constexpr (requires { channel_.LoadLive(CurrentIndex_); }) channel_.LoadLive(CurrentIndex_);
   panel_.Load(Current().ALARM[CurrentConfig()], Factor(Current()));
 }
 
@@ -173,10 +179,15 @@ void ChannelPage<Channel>::Commit() {
 }
 
 template <AlarmChannel Channel>
-void ChannelPage<Channel>::Tick() {
-  if constexpr (requires { channel_.Tick(); }) channel_.Tick();
+void ChannelPage<Channel>::CheckNumbers() {
   channel_.CheckNumbers();
   panel_.CheckNumbers();
+}
+
+template <AlarmChannel Channel>
+void ChannelPage<Channel>::Tick() {
+  if constexpr (requires { channel_.Tick(); }) channel_.Tick();
+  CheckNumbers();
 }
 
 template <AlarmChannel Channel>

@@ -6,12 +6,16 @@
 #include "pages/bus/CONF_MODBUS.h"
 #include "pages/bus/E_MODBUS.h"
 #include "pages/expansion/E_Modular.h"
+#include "pages/inputs/Caudal.h"
 #include "pages/inputs/E_Analog.h"
 #include "pages/inputs/E_Aux.h"
 #include "pages/inputs/E_Digital.h"
+#include "pages/inputs/E_Math.h"
+#include "pages/inputs/E_OneWire.h"
 #include "pages/inputs/Flags.h"
 #include "pages/inputs/Grupos.h"
 #include "pages/inputs/Katodex.h"
+#include "pages/inputs/SampleRate.h"
 #include "platform/Dialogs.h"
 #include "platform/EventLoop.h"
 #include "platform/Files.h"
@@ -26,7 +30,11 @@ std::vector<std::unique_ptr<Page>> MakePages(PageContext& context) {
   pages.push_back(std::make_unique<E_Digital>(context));
   pages.push_back(std::make_unique<E_Analog>(context));
   pages.push_back(std::make_unique<Grupos>(context));
+  pages.push_back(std::make_unique<Caudal>(context));
+  pages.push_back(std::make_unique<SampleRate>(context));
   pages.push_back(std::make_unique<Flags>(context));
+  pages.push_back(std::make_unique<E_OneWire>(context));
+  pages.push_back(std::make_unique<E_Math>(context));
   pages.push_back(std::make_unique<CONF_MODBUS>(context));
   pages.push_back(std::make_unique<E_MODBUS>(context));
   pages.push_back(std::make_unique<E_Modular>(context));
@@ -54,8 +62,7 @@ Configurator::Configurator(const Platform& platform, ConfiguratorOptions options
               .ComBusy = ComBusy,
               .ConfFilePath = ConfFilePath,
               .timersRun = options.ticking,
-              .programFolder = options.programFolder,
-              .showActEdit = [this] { actEdit.ShowModal(); }},
+              .programFolder = options.programFolder},
       platform_(platform),
       options_(std::move(options)),
       pages_(MakePages(context)),
@@ -64,16 +71,46 @@ Configurator::Configurator(const Platform& platform, ConfiguratorOptions options
       bar_(comms.OnProgress(
           [&bar = general.Session().PBar](const Progress& progress) { ShowOnBar(progress, bar); })),
       session(context, comms, general, Connected),
+      tools{.comms = comms,
+            .dialogs = platform_.dialogs,
+            .profile = profile,
+            .totals = totals,
+            .Connected = Connected,
+            .Translate = [this](std::string_view text) { return context.Translate(text); }},
       actEdit(context),
+      setTotal(tools, kMainCounters),
+      expSetTotal(tools, kExpansionCounters),
+      ayuda(tools),
+      ayudaHex(tools),
       pwForm(context),
       langForm(context),
       targetSelect(context, settings,
                    [this](const std::string& name) { TargetDeviceChange(name); }) {
   if (options_.ticking) general.OnScanPorts = [this] { comms.ScanPorts(); };
+  ConnectPages();
   RegisterWire();
 }
 
 Configurator::~Configurator() = default;
+
+void Configurator::ConnectPages() {
+  const auto setsTotal = [](SetTotal& dialog) {
+    return [&dialog](std::int16_t index) {
+      dialog.SetIndex(index);
+      dialog.ShowModal();
+    };
+  };
+  context.showActEdit = [this] { actEdit.ShowModal(); };
+  context.showTotal = setsTotal(setTotal);
+  context.showExpansionTotal = setsTotal(expSetTotal);
+  context.showPulseCalculator = [this](TextBox& field) { ayuda.ShowModal(field); };
+  context.showMaskCalculator = [this] { ayudaHex.ShowModal(); };
+  context.readProbeIdentity = [this]() -> std::optional<ProbeIdentity> {
+    ProbeIdentity identity;
+    if (!comms.ReadProbeIdentity(identity)) return {};
+    return identity;
+  };
+}
 
 LinkHooks Configurator::MakeHooks() {
   SessionFrame& frame = general.Session();
@@ -138,7 +175,8 @@ std::vector<Form*> Configurator::Forms() {
   std::vector<Form*> forms;
   for (const auto& page : pages_) forms.push_back(&page->GetForm());
   for (Form* form :
-       {&actEdit.GetForm(), &pwForm.GetForm(), &langForm.GetForm(), &targetSelect.GetForm()})
+       {&actEdit.GetForm(), &setTotal.GetForm(), &expSetTotal.GetForm(), &ayuda.GetForm(),
+        &ayudaHex.GetForm(), &pwForm.GetForm(), &langForm.GetForm(), &targetSelect.GetForm()})
     forms.push_back(form);
   return forms;
 }

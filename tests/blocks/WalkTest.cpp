@@ -4,6 +4,10 @@
 #include "BlockFixture.h"
 #include "blocks/bus/ModbusChannels.h"
 #include "blocks/expansion/ExpansionInputs.h"
+#include "blocks/inputs/FlowMeters.h"
+#include "blocks/inputs/MathChannels.h"
+#include "blocks/inputs/Probes.h"
+#include "blocks/inputs/Sampling.h"
 
 namespace ostrel {
 namespace {
@@ -31,7 +35,8 @@ bool IsKeptByEmptying(const ConstField& field) {
   };
   if (field.id.section == &ModbusChannels::kSection && field.id.channel >= 4) return true;
   return is(ModbusChannels::kSection, {"ANALOG_MODE", "CONSTANTE", "PERSIST", "FLAG"}) ||
-         is(ExpansionInputs::kAnalog, {"INTERFAZ"});
+         is(ExpansionInputs::kAnalog, {"INTERFAZ"}) ||
+         is(FlowMeters::kSection, {"PERSISTENCIA", "FLAG"}) || is(Probes::kSection, {"ID"});
 }
 
 /// Puts every channel in force, with its alarm, in a range that is not "always".
@@ -41,6 +46,12 @@ void PutInForce(const Field& field) {
   if (isOn || word == "GPRS" || word == "ANALOG_MODE") *std::get<Bool16*>(field.value) = kTrue;
   if (word == "SIEMPRE") *std::get<Bool16*>(field.value) = kFalse;
   if (word == "INTERFAZ" || word == "TYPE") *std::get<std::int16_t*>(field.value) = 1;
+  // Where all that counts is on or off, altering switches off.
+  for (const SectionMeta* section :
+       {&FlowMeters::kSection, &MathChannels::kSection, &Probes::kSection})
+    if (word == "INTERFAZ" && field.id.section == section)
+      *std::get<std::int16_t*>(field.value) = -3;
+  if (word == "SAMPLERATE") *std::get<std::int16_t*>(field.value) = kFastSampling - 3;
   if (word == "MULT") *std::get<float*>(field.value) = 1;
 }
 
@@ -115,10 +126,12 @@ TEST_P(FieldWalk, EveryFieldOfTheModelIsSent) {
       return list.All();
     };
     const auto former = statements();
-    // SMS is what a statement means that names no other way; one group stands in the file alone.
+    // SMS is what a statement means that names no other way, and an identity what it is; one group
+    // stands in the file alone.
+    const bool isImplied = field.id.word == "SMS" || field.id.word == "ID";
     const bool isFileOnly =
         field.id.section == &ExpansionInputs::kAnalog && field.id.word == "GRUPO";
-    if (std::max(field.id.channel, 0) >= channels || field.id.word == "SMS" || isFileOnly) continue;
+    if (std::max(field.id.channel, 0) >= channels || isImplied || isFileOnly) continue;
     std::visit(
         [&](auto* value) {
           const auto kept = *value;
@@ -132,11 +145,11 @@ TEST_P(FieldWalk, EveryFieldOfTheModelIsSent) {
   EXPECT_GT(sent, 100U);
 }
 
-/// Emptying leaves of every field what a fresh program holds, save for what is kept on purpose.
+/// Emptying leaves of every field what a new configuration holds, save for what is kept on purpose.
 TEST_P(FieldWalk, EmptyingResetsEveryField) {
   const DeviceConf empty = conf;
   for (const Field& field : FieldsOf(conf, profile)) std::visit(Altered{}, field.value);
-  for (const PageId page : kClearAtStart)
+  for (const PageId page : kClearAtDownload)
     if (const Block* block = FindBlock(page)) block->clear(conf, profile, translate);
   const auto emptied = FieldsOf(std::as_const(conf), profile), fresh = FieldsOf(empty, profile);
   for (std::size_t i = 0; i < emptied.size(); ++i) {
@@ -151,8 +164,14 @@ TEST_P(FieldWalk, FilesHoldTheirFixedCounts) {
   std::map<std::string, std::set<int>> records;
   for (const Field& field : FieldsOf(conf, profile))
     records[std::string(field.id.section->word)].insert(field.id.channel);
-  for (const auto& [section, count] :
-       {std::pair{"GENERAL", 1U}, {"DIGITAL", 9U}, {"ANALOG", 4U}, {"GRUPO", 4U}, {"FLAG", 16U}})
+  for (const auto& [section, count] : {std::pair{"GENERAL", 1U},
+                                       {"DIGITAL", 9U},
+                                       {"ANALOG", 4U},
+                                       {"GRUPO", 4U},
+                                       {"CAUDAL", 9U},
+                                       {"FLAG", 16U},
+                                       {"MATH", 4U},
+                                       {"1WIRE", profile.IsKA1 || profile.IsKA2 ? 4U : 0U}})
     EXPECT_EQ(records[section].size(), count) << section;
   EXPECT_EQ(records["MODBUS"].size(), profile.IsVR200 || profile.IsS100 ? 33U : 1U);
   for (const auto* section : {"MINPUT", "MINPUT.D", "MINPUT.Q", "MINPUT.C", "MINPUT.A"})

@@ -94,8 +94,9 @@ TEST_P(AllForms, FitIntoTheSmallestScreenInBothLanguages) {
     desktop->Core().LoadText();
     UseLanguage(code);
     window.Pages().Redraw();
-    for (const auto* key : {"Tavro", "General", "E_Digital_0", "E_Analog_0", "Grupos", "Flag_0",
-                            "MODBUS", "MODBUS_0", "Modulo_0", "E_Aux_0", "PCAT"}) {
+    for (const auto* key :
+         {"Tavro", "General", "E_Digital_0", "E_Analog_0", "Grupos", "Flag_0", "MODBUS", "MODBUS_0",
+          "Modulo_0", "E_Aux_0", "PCAT", "Caudal", "Caudal_0", "E_OneWire_0", "E_Math_0"}) {
       window.GoTo(key);
       QCoreApplication::processEvents();
       const FormView* view = window.Pages().Front();

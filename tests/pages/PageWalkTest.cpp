@@ -8,12 +8,16 @@
 #include "pages/bus/CONF_MODBUS.h"
 #include "pages/bus/E_MODBUS.h"
 #include "pages/expansion/E_Modular.h"
+#include "pages/inputs/Caudal.h"
 #include "pages/inputs/E_Analog.h"
 #include "pages/inputs/E_Aux.h"
 #include "pages/inputs/E_Digital.h"
+#include "pages/inputs/E_Math.h"
+#include "pages/inputs/E_OneWire.h"
 #include "pages/inputs/Flags.h"
 #include "pages/inputs/Grupos.h"
 #include "pages/inputs/Katodex.h"
+#include "pages/inputs/SampleRate.h"
 
 namespace ostrel {
 namespace {
@@ -34,7 +38,9 @@ std::unique_ptr<Page> Make(PageContext& context) {
 const Walked kWalked[] = {
     {"General", Make<General>, -1, 0},   {"E_Digital", Make<E_Digital>, 8, 4},
     {"E_Analog", Make<E_Analog>, 3, 4},  {"Grupos", Make<Grupos>, -1, 0},
-    {"Flags", Make<Flags>, 15, 1},       {"CONF_MODBUS", Make<CONF_MODBUS>, -1, 0},
+    {"Caudal", Make<Caudal>, 8, 4},      {"SampleRate", Make<SampleRate>, -1, 0},
+    {"Flags", Make<Flags>, 15, 1},       {"E_OneWire", Make<E_OneWire>, 3, 4},
+    {"E_Math", Make<E_Math>, 3, 1},      {"CONF_MODBUS", Make<CONF_MODBUS>, -1, 0},
     {"E_MODBUS", Make<E_MODBUS>, 31, 1}, {"E_Modular", Make<E_Modular>, 127, 1},
     {"E_Aux", Make<E_Aux>, 3, 4},        {"Katodex", Make<Katodex>, -1, 0},
 };
@@ -46,7 +52,7 @@ std::vector<std::string> Candidates(const Field& field) {
   if (std::holds_alternative<TimeOfDay*>(field.value)) return {"7:08:09", "23:59:59"};
   if (std::holds_alternative<ConfPhone*>(field.value))
     return {"600111222,Prio=3,PRV2,MASKMODE1,DI0", "611,Prio=0,PRV0,MASKMODE0"};
-  // 12 and 24 are voltages, 10 is a sampling, the large ones are bit rates.
+  // 12 and 24 are voltages, 10 is a sampling and, with 1, a weight; the large ones are bit rates.
   return {"1", "2", "3", "10", "12", "24", "1200", "9600"};
 }
 

@@ -43,7 +43,8 @@ Statement ChannelStatement(const ConfModbus& channel, const Receiver& receiver, 
   statement.Text(",UNIT=").Text(channel.UNIDAD);
   statement.Num(",SLAVE=", channel.SLAVE).Num(",REGADD=", channel.REGADD);
   if (receiver.Has(Feature::ModbusFloat))
-    statement.TokenIf(channel.TYPE == kRegister32Bits, ",32BIT").TokenIf(channel.TYPE == kRegisterFloat, ",FLOAT");
+    statement.TokenIf(channel.TYPE == kRegister32Bits, ",32BIT")
+        .TokenIf(channel.TYPE == kRegisterFloat, ",FLOAT");
   const bool hasConstant = receiver.Has(Feature::ModbusConstant);
   if (hasConstant)
     statement.Num(",CONST=", channel.CONSTANTE)

@@ -6,6 +6,7 @@
 #include "desktop/layouts/AlarmPanelLayout.h"
 #include "desktop/layouts/LayoutParts.h"
 #include "desktop/layouts/Layouts.h"
+#include "desktop/layouts/PulseCards.h"
 #include "desktop/layouts/ScaleLayout.h"
 #include "model/ConfExpansion.h"
 
@@ -76,19 +77,9 @@ void LayOutDigitalTab(FormView& view, QVBoxLayout& tab) {
 void LayOutFlowTab(FormView& view, QVBoxLayout& tab) {
   const Card meter = MakeCard(view, Words::tr("Flow meter"));
   AddField(meter, view.LabelFor("Q_Nombre", Words::tr("Name:")), view.Show("Q_Nombre"));
-  const Card unit = MakeCard(view, std::string_view("Q_FrameUnidad"));
-  unit.grid->addWidget(Narrow(view.ShowNamed("Q_Unidad", Words::tr("Unit")), 10), 0, 0);
-  const Card base = MakeCard(view, std::string_view("Q_FrameTimeBase"));
-  base.grid->addWidget(Narrow(view.ShowNamed("Q_TimeBase", Words::tr("Time base")), 7), 0, 0);
-  base.grid->addWidget(view.Show("Q_LabelSeconds"), 0, 1);
-  const Card weight = MakeCard(view, std::string_view("Q_FrameConversion"));
-  weight.grid->addWidget(view.LabelFor("Q_Ratio", std::string_view("Q_Label1")), 0, 0);
-  weight.grid->addWidget(Narrow(view.Show("Q_Ratio"), 9), 0, 1);
-  weight.grid->addWidget(view.Show("Q_RatioUnit"), 0, 2);
-  weight.grid->addWidget(view.Show("Q_HelpBut"), 0, 3);
   auto* top = new QHBoxLayout;
   top->addWidget(meter.box, 1);
-  for (const Card& card : {unit, base, weight}) top->addWidget(card.box);
+  for (const Card& card : PulseCards(view, {.prefix = "Q_"})) top->addWidget(card.box);
   tab.addLayout(top);
   tab.addWidget(LayOutAlarmPanel(view, LevelWords(), {.prefix = "Q_"}));
   auto* notice = view.Show<QLabel>("Q_Notice");

@@ -35,6 +35,11 @@ QPixmap DialogPicture(Desktop& desktop, VirtualDialogs& dialogs, const std::stri
   });
   std::string code;
   if (key == core.actEdit.GetForm().Name()) core.actEdit.ShowModal();
+  if (key == core.setTotal.GetForm().Name()) core.context.showTotal(0);
+  if (key == core.expSetTotal.GetForm().Name()) core.context.showExpansionTotal(0);
+  if (key == core.ayuda.GetForm().Name())
+    core.context.showPulseCalculator(core.PageNamed("Caudal")->GetForm().Get<TextBox>("Ratio"));
+  if (key == core.ayudaHex.GetForm().Name()) core.context.showMaskCalculator();
   if (key == core.pwForm.GetForm().Name()) core.pwForm.ShowModal(code);
   if (key == core.langForm.GetForm().Name()) core.langForm.AskUser();
   dialogs.OnEveryModal({});

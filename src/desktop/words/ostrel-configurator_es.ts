@@ -752,5 +752,37 @@
         <source>Analog</source>
         <translation>Analógica</translation>
     </message>
+    <message>
+        <source>Totalisers</source>
+        <translation>Totalizadores</translation>
+    </message>
+    <message>
+        <source>Sampling</source>
+        <translation>Muestreo</translation>
+    </message>
+    <message>
+        <source>Equation</source>
+        <translation>Ecuación</translation>
+    </message>
+    <message>
+        <source>Probe</source>
+        <translation>Sonda</translation>
+    </message>
+    <message>
+        <source>First half of the identity</source>
+        <translation>Primera mitad de la identidad</translation>
+    </message>
+    <message>
+        <source>Second half of the identity</source>
+        <translation>Segunda mitad de la identidad</translation>
+    </message>
+    <message>
+        <source>Unit of the amount</source>
+        <translation>Unidad de la cantidad</translation>
+    </message>
+    <message>
+        <source>Mask:</source>
+        <translation>Máscara:</translation>
+    </message>
 </context>
 </TS>

@@ -28,6 +28,11 @@ class CodeChoice {
   void Load(std::int16_t code);
   std::int16_t Code() const { return code_; }
   void SetEnabled(bool enabled);
+  /// The option of a code; a broken invariant when there is none.
+  OptionButton& Option(std::int16_t code) const;
+
+  /// Runs when another option is selected.
+  std::function<void(std::int16_t code)> OnChosen;
 
  private:
   OptionGroup group_;
