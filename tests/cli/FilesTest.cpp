@@ -168,8 +168,8 @@ struct RuleCase {
   int code = 0;
 };
 
-/// The samples have but a few of the sections.
-constexpr std::string_view kPartly = " --silence section-missing";
+/// The samples have but a few of the sections and keys.
+constexpr std::string_view kPartly = " --silence section-missing --silence key-missing";
 
 /// Looks at a sound file with the change.
 void ExpectRule(const std::string& sound, const RuleCase& one) {
@@ -292,15 +292,18 @@ TEST(Check, FindsThatAFileWasCut) {
   world.HaveFile("/a.ocf");
   std::string& text = world.files.contents["/a.ocf"];
   text.resize(text.find("[FLAG 14]"));
-  EXPECT_EQ(world.Run("check /a.ocf"), 0);
-  EXPECT_THAT(world.out, HasSubstr("warning: [FLAG 14]: this section and "));
+  EXPECT_EQ(world.Run("check /a.ocf"), 1);
+  EXPECT_THAT(world.out, HasSubstr("error: [FLAG 14]: this section and "));
+  text.resize(text.rfind("NOMBRE="));
+  EXPECT_EQ(world.Run("check /a.ocf --silence section-missing"), 1);
+  EXPECT_THAT(world.out, HasSubstr("error: [MODBUS 31] NOMBRE: this key and "));
 }
 
 TEST(Check, SaysWhereAndWhatHelps) {
   World world;
   world.files.contents["/a.ocf"] = Sound();
   world.Edit("/a.ocf", "Bomba", "Bomba, sur");
-  EXPECT_EQ(world.Run("check /a.ocf --silence section-missing"), 1);
+  EXPECT_EQ(world.Run("check /a.ocf --silence section-missing --silence key-missing"), 1);
   EXPECT_EQ(world.out,
             "error: [GENERAL] NOMBRE: a comma ends the text on the line: write something else for "
             "it (text-breaks-statement)\n");
