@@ -62,9 +62,11 @@ Statement AlarmStatement(std::string_view key, int channel, int config, const Al
   return statement;
 }
 
-}  // namespace
-
-void ReadAlarm(LineReader& line, Alarm<LevelThresholds>& cell, Persistence persistence) {
+/// Reads an alarm with a minimum, a maximum and a hysteresis; its record has a word of its own for
+/// the persistence.
+template <class Thresholds>
+void ReadLevels(LineReader& line, Alarm<Thresholds>& cell, float Thresholds::*persist,
+                Persistence persistence) {
   auto& [alarm, limits] = cell;
   line.Into(alarm.TEXTO);
   line.Into(limits.MINIMO);
@@ -72,7 +74,32 @@ void ReadAlarm(LineReader& line, Alarm<LevelThresholds>& cell, Persistence persi
   line.Into(limits.HISTERESIS);
   ReadCommonGroup(line, alarm);
   line.Into(alarm.FLAG);
-  if (persistence == Persistence::Present) line.Into(limits.PERSISTENCIA);
+  if (persistence == Persistence::Present) line.Into(limits.*persist);
+}
+
+template <class Thresholds>
+void AddLevels(StatementList& out, Statement statement, AlarmShape shape,
+               const Alarm<Thresholds>& cell, float Thresholds::*persist, Persistence persistence) {
+  const auto& [alarm, limits] = cell;
+  if (alarm.HABIL) {
+    statement.Num(",MAX=", limits.MAXIMO)
+        .Num(",MIN=", limits.MINIMO)
+        .Num(",HIST=", limits.HISTERESIS);
+    if (persistence == Persistence::Present) statement.Num(",P=", limits.*persist);
+    AddCommonTokens(statement, alarm, shape);
+    AddLevelActions(statement, alarm, shape);
+  }
+  out.Add(statement);
+}
+
+}  // namespace
+
+void ReadAlarm(LineReader& line, Alarm<LevelThresholds>& cell, Persistence persistence) {
+  ReadLevels(line, cell, &LevelThresholds::PERSISTENCIA, persistence);
+}
+
+void ReadAlarm(LineReader& line, Alarm<RegisterThresholds>& cell, Persistence persistence) {
+  ReadLevels(line, cell, &RegisterThresholds::PERSIST, persistence);
 }
 
 void ReadAlarm(LineReader& line, Alarm<ContactThresholds>& cell) {
@@ -104,17 +131,14 @@ void ReadContactActions(LineReader& line, AlarmBlock& alarm) {
 
 void AddAlarm(StatementList& out, std::string_view key, int channel, int config, AlarmShape shape,
               const Alarm<LevelThresholds>& cell, Persistence persistence) {
-  const auto& [alarm, limits] = cell;
-  Statement statement = AlarmStatement(key, channel, config, alarm);
-  if (alarm.HABIL) {
-    statement.Num(",MAX=", limits.MAXIMO)
-        .Num(",MIN=", limits.MINIMO)
-        .Num(",HIST=", limits.HISTERESIS);
-    if (persistence == Persistence::Present) statement.Num(",P=", limits.PERSISTENCIA);
-    AddCommonTokens(statement, alarm, shape);
-    AddLevelActions(statement, alarm, shape);
-  }
-  out.Add(statement);
+  AddLevels(out, AlarmStatement(key, channel, config, cell.common), shape, cell,
+            &LevelThresholds::PERSISTENCIA, persistence);
+}
+
+void AddAlarm(StatementList& out, std::string_view key, int channel, int config, AlarmShape shape,
+              const Alarm<RegisterThresholds>& cell, Persistence persistence) {
+  AddLevels(out, AlarmStatement(key, channel, config, cell.common), shape, cell,
+            &RegisterThresholds::PERSIST, persistence);
 }
 
 void AddAlarm(StatementList& out, std::string_view key, int channel, int config, AlarmShape shape,

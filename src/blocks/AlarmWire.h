@@ -6,6 +6,7 @@
 #include "link/LineReader.h"
 #include "link/Statement.h"
 #include "model/AlarmBlock.h"
+#include "model/ConfModbus.h"
 
 namespace ostrel {
 
@@ -27,6 +28,7 @@ enum class Persistence { Present, Absent };
 // changes nothing.
 void ReadAlarm(LineReader& line, Alarm<LevelThresholds>& cell,
                Persistence persistence = Persistence::Present);
+void ReadAlarm(LineReader& line, Alarm<RegisterThresholds>& cell, Persistence persistence);
 void ReadAlarm(LineReader& line, Alarm<ContactThresholds>& cell);
 void ReadAlarm(LineReader& line, Alarm<NoThresholds>& cell);
 
@@ -41,6 +43,8 @@ void ReadContactActions(LineReader& line, AlarmBlock& alarm);
 // "ALMD".
 void AddAlarm(StatementList& out, std::string_view key, int channel, int config, AlarmShape shape,
               const Alarm<LevelThresholds>& cell, Persistence persistence = Persistence::Present);
+void AddAlarm(StatementList& out, std::string_view key, int channel, int config, AlarmShape shape,
+              const Alarm<RegisterThresholds>& cell, Persistence persistence);
 void AddAlarm(StatementList& out, std::string_view key, int channel, int config, AlarmShape shape,
               const Alarm<ContactThresholds>& cell);
 void AddAlarm(StatementList& out, std::string_view key, int channel, int config, AlarmShape shape,

@@ -4,9 +4,17 @@
 #include <array>
 
 #include "blocks/FileKeys.h"
+#include "blocks/bus/ModbusBus.h"
+#include "blocks/bus/ModbusChannels.h"
+#include "blocks/expansion/ExpansionInputs.h"
 #include "blocks/inputs/AnalogInputs.h"
+#include "blocks/inputs/AuxiliaryInputs.h"
 #include "blocks/inputs/DigitalInputs.h"
 #include "blocks/inputs/FlagAlarms.h"
+#include "blocks/inputs/FlowMeters.h"
+#include "blocks/inputs/MathChannels.h"
+#include "blocks/inputs/Probes.h"
+#include "blocks/inputs/Sampling.h"
 #include "store/IniTool.h"
 
 namespace ostrel {
@@ -49,6 +57,14 @@ constexpr auto AlarmsOf() -> decltype(Block::alarms) {
 }
 
 template <class Kind>
+constexpr auto AsHeldOf() -> decltype(Block::asHeld) {
+  if constexpr (requires { &Kind::AsHeld; })
+    return &Kind::AsHeld;
+  else
+    return nullptr;
+}
+
+template <class Kind>
 Block MakeBlock(PageId page) {
   return {.page = page,
           .clear = &Kind::Clear,
@@ -56,6 +72,7 @@ Block MakeBlock(PageId page) {
           .view = &ViewFields<Kind>,
           .restore = &RestoreFields<Kind>,
           .alarms = AlarmsOf<Kind>(),
+          .asHeld = AsHeldOf<Kind>(),
           .lines = Kind::kLines};
 }
 
@@ -65,7 +82,11 @@ std::span<const Block> Blocks() {
   static const std::array blocks{
       MakeBlock<GeneralParameters>(PageId::General), MakeBlock<DigitalInputs>(PageId::E_Digital),
       MakeBlock<AnalogInputs>(PageId::E_Analog),     MakeBlock<AnalogGroups>(PageId::Grupos),
-      MakeBlock<FlagAlarms>(PageId::Flags),
+      MakeBlock<FlowMeters>(PageId::Caudal),         MakeBlock<Sampling>(PageId::SampleRate),
+      MakeBlock<FlagAlarms>(PageId::Flags),          MakeBlock<Probes>(PageId::E_OneWire),
+      MakeBlock<MathChannels>(PageId::E_Math),       MakeBlock<ModbusBus>(PageId::CONF_MODBUS),
+      MakeBlock<ModbusChannels>(PageId::E_MODBUS),   MakeBlock<ExpansionInputs>(PageId::E_Modular),
+      MakeBlock<AuxiliaryInputs>(PageId::E_Aux),     MakeBlock<OffMeasurement>(PageId::Katodex),
   };
   return blocks;
 }

@@ -17,7 +17,7 @@ void InFileOrder(const TargetProfile& profile, const Work& work) {
 
 DeviceConf EmptyConfiguration(const TargetProfile& profile, const Translation& translate) {
   DeviceConf conf;
-  for (const PageId page : kClearAtStart)
+  for (const PageId page : kClearAtDownload)
     if (const Block* block = FindBlock(page)) block->clear(conf, profile, translate);
   return conf;
 }
@@ -46,6 +46,13 @@ void VisitAlarms(const DeviceConf& conf, const Receiver& receiver, const AlarmVi
   InFileOrder(receiver.profile, [&](const Block& block) {
     if (block.alarms) block.alarms(conf, receiver, visit);
   });
+}
+
+DeviceConf AsHeld(const DeviceConf& conf, const Receiver& receiver) {
+  DeviceConf held = conf;
+  for (const Block& block : Blocks())
+    if (block.asHeld) block.asHeld(held, receiver);
+  return held;
 }
 
 std::vector<std::string> ComposeStatements(const DeviceConf& conf, const Receiver& receiver) {

@@ -12,7 +12,7 @@ class IniClass;
 
 // Work on a whole configuration as a plain value, for one model.
 
-/// What a fresh program holds of a model: a new configuration, emptied.
+/// What a file or a logger is read into: a new configuration, every block of it emptied.
 DeviceConf EmptyConfiguration(const TargetProfile& profile, const Translation& translate);
 
 /// One field of a configuration, with its address and the page that edits it. It refers into the
@@ -36,6 +36,9 @@ std::vector<ConstField> FieldsOf(const DeviceConf& conf, const TargetProfile& pr
 
 /// Visits every alarm that a logger gets to know.
 void VisitAlarms(const DeviceConf& conf, const Receiver& receiver, const AlarmVisitor& visit);
+
+/// The configuration as a logger holds it that has got it.
+DeviceConf AsHeld(const DeviceConf& conf, const Receiver& receiver);
 
 /// The statements of a whole upload, in the order of sending and without their numbers.
 std::vector<std::string> ComposeStatements(const DeviceConf& conf, const Receiver& receiver);

@@ -1,9 +1,17 @@
 #include "blocks/Orders.h"
 
 #include "blocks/GeneralParameters.h"
+#include "blocks/bus/ModbusBus.h"
+#include "blocks/bus/ModbusChannels.h"
+#include "blocks/expansion/ExpansionInputs.h"
 #include "blocks/inputs/AnalogInputs.h"
+#include "blocks/inputs/AuxiliaryInputs.h"
 #include "blocks/inputs/DigitalInputs.h"
 #include "blocks/inputs/FlagAlarms.h"
+#include "blocks/inputs/FlowMeters.h"
+#include "blocks/inputs/MathChannels.h"
+#include "blocks/inputs/Probes.h"
+#include "blocks/inputs/Sampling.h"
 
 namespace ostrel {
 namespace {
@@ -36,11 +44,20 @@ std::span<const UploadStep> UploadOrder() {
                  {General},
                  OnceWith<Feature::RetryRules>,
                  &GeneralParameters::ComposeResendRules},
+      StepOf<Sampling>("Sampling", SampleRate),
       UploadStep{"Telephones", {General}, Once, &GeneralParameters::ComposeTelephones},
       StepOf<DigitalInputs>("Digital inputs", E_Digital),
       StepOf<AnalogInputs>("Analog inputs", E_Analog),
+      // A meter's statements carry its weight in the totaliser, too.
+      UploadStep{"Flow meters", {Caudal, SampleRate}, &FlowMeters::Count, &FlowMeters::Compose},
       StepOf<AnalogGroups>("Analog groups", Grupos),
       StepOf<FlagAlarms>("Flags", Flags),
+      StepOf<ModbusBus>("MODBUS bus", CONF_MODBUS),
+      StepOf<ModbusChannels>("MODBUS channels", E_MODBUS),
+      StepOf<Probes>("1-Wire probes", E_OneWire),
+      StepOf<ExpansionInputs>("Expansion inputs", E_Modular),
+      StepOf<MathChannels>("Math channels", E_Math),
+      StepOf<AuxiliaryInputs>("Auxiliary inputs", E_Aux),
   };
   return steps;
 }

@@ -205,6 +205,14 @@ void Picture::SetImage(int image) {
   face.Changed();
 }
 
+TabStrip::TabStrip(Form& form, std::string_view name) : face(name, "") { form.Register(this); }
+
+void TabStrip::SetTab(int tab) {
+  if (tab == tab_) return;
+  tab_ = tab;
+  face.Changed();
+}
+
 Timer::Timer(Form& form, std::string_view name, EventLoop& loop, Duration interval)
     : face(name, ""), loop_(loop), interval_(interval) {
   form.Register(this);

@@ -215,6 +215,19 @@ class Picture {
   int image_ = 0;
 };
 
+/// Tabs of which one is in front. The logic alone chooses it.
+class TabStrip {
+ public:
+  TabStrip(Form& form, std::string_view name);
+  int Tab() const { return tab_; }
+  void SetTab(int tab);
+
+  Face face;
+
+ private:
+  int tab_ = 0;
+};
+
 /// A periodic timer on the event loop, running while it is enabled.
 class Timer {
  public:

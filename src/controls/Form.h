@@ -15,7 +15,7 @@ namespace ostrel {
 /// Any control of a form, by its kind.
 using ControlRef =
     std::variant<Label*, Frame*, Button*, CheckBox*, OptionButton*, TextBox*, ComboBox*, ListBox*,
-                 MultiListBox*, TimePicker*, ProgressBar*, Picture*, Timer*>;
+                 MultiListBox*, TimePicker*, ProgressBar*, Picture*, TabStrip*, Timer*>;
 
 Face& FaceOf(const ControlRef& control);
 

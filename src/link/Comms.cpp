@@ -9,6 +9,7 @@
 #include "link/LiveCommands.h"
 #include "link/Modem.h"
 #include "link/Opening.h"
+#include "link/ProbeReading.h"
 #include "platform/Clock.h"
 
 namespace ostrel {
@@ -129,6 +130,10 @@ LinkResult Comms::SetTotalCNT(std::int16_t index, std::int32_t value) {
 
 LinkResult Comms::SetExpValue(std::int16_t index, std::int32_t value) {
   return Set(TotalMessage("#41EXP", index, value), "#BE1");
+}
+
+LinkResult Comms::ReadProbeIdentity(ProbeIdentity& identity) {
+  return Keep(line_.Converse(line_.TimeFor(1), [&] { return ReadProbe(line_, identity); }));
 }
 
 LinkResult Comms::Set(std::string message, std::string_view answer) {

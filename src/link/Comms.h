@@ -13,6 +13,7 @@
 #include "link/Upload.h"
 #include "link/Wire.h"
 #include "model/DeviceInfo.h"
+#include "model/ProbeIdentity.h"
 #include "model/RealTimeData.h"
 #include "model/TargetProfile.h"
 #include "platform/Platform.h"
@@ -107,6 +108,8 @@ class Comms {
   LinkResult SetTotalCNT(std::int16_t index, std::int32_t value);
   /// Sets the total of an expansion counter; succeeds when the logger confirms.
   LinkResult SetExpValue(std::int16_t index, std::int32_t value);
+  /// Reads the identity of the one probe on the logger's 1-Wire bus.
+  LinkResult ReadProbeIdentity(ProbeIdentity& identity);
 
   /// Why the last opening, transfer or setting failed; kept until the next one ends. What is only
   /// read now and then does not change it.

@@ -15,6 +15,7 @@ inline constexpr int kModemReplyMs = 10'000;
 inline constexpr int kModemAnswerMs = 1000;
 inline constexpr int kDialExtraMs = 30'000;  ///< on top of the reply wait
 inline constexpr int kHangUpMs = 5000;
+inline constexpr int kProbeReplyMs = 500;
 inline constexpr int kRefusalMs = 200;  ///< for the refusal of a statement
 inline constexpr int kFastRefusalMs = 10;
 

@@ -5,6 +5,12 @@
 
 #include "base/Bounded.h"
 #include "model/AlarmBlock.h"
+#include "model/ConfAux.h"
+#include "model/ConfExpansion.h"
+#include "model/ConfFlow.h"
+#include "model/ConfMath.h"
+#include "model/ConfModbus.h"
+#include "model/ConfOneWire.h"
 #include "model/Describe.h"
 
 namespace ostrel {
@@ -143,7 +149,16 @@ struct DeviceConf {
   Bounded<ConfDigital, 10> Digital;
   Bounded<ConfAnalog, 5> Analog;
   Bounded<ConfGrupo, 5> Grupo;
+  Bounded<ConfCaudal, 10> Caudal;
+  std::int16_t SAMPLERATE = 0;  ///< of the flow meters, in hertz: 64 or 256
   Bounded<ConfFlag, 17> Flag;
+  Bounded<ConfMath, 9> Math;
+  Bounded<ConfOneWire, 33> OneWire;
+  ConfModbusBus ModbusBus;
+  Bounded<ConfModbus, 33> Modbus;
+  Bounded<ConfModulo, 129> Modulo;
+  Bounded<ConfAux, 5> Aux;
+  ConfKatodex Katodex;
 
   bool operator==(const DeviceConf&) const = default;
 };

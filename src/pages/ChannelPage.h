@@ -19,7 +19,7 @@ struct ChannelTraits {
   PageId page;
   std::string_view form;
   std::string_view title;  ///< ahead of the number
-  std::string_view help;   ///< page word of the help
+  std::string_view help;   ///< page word of the help; empty where there is no help page
   int channels;            ///< channels that the page can show
   NumberForm thresholds = NumberForm::Dec;
 };
@@ -29,7 +29,8 @@ struct ChannelTraits {
 ///
 /// Beside what is required here a kind may have: `Activate()`, what the model allows, true to show
 /// the data anew; `TitleEnd(index)`, words behind the number; `Factor(record)`, by which scaled
-/// thresholds are multiplied; `Tick()`, each second.
+/// thresholds are multiplied; `LoadLive(index)`, what is live of the channel; `Tick()`, each
+/// second.
 template <class Channel>
 concept AlarmChannel = requires(Channel channel, const Channel& constant, DeviceConf& conf,
                                 typename Channel::Record& record, Form& form,
@@ -60,7 +61,10 @@ class ChannelPage final : public Page {
   void LoadData() override;
   void SaveConf(IniClass& document) override { SaveBlock(context_, kTraits.page, document); }
   void RestoreConf() override;
-  void SavePage() override { SaveInto(context_.conf); }
+  void SavePage() override {
+    SaveInto(context_.conf);
+    CheckNumbers();
+  }
   void SaveInto(DeviceConf& conf) const override;
   void Form_Load() override;
   void Form_Activate() override;
@@ -79,6 +83,7 @@ class ChannelPage final : public Page {
   }
   /// Commits, unless a download is replacing the model.
   void Commit();
+  void CheckNumbers();
   void Tick();
   void EditActions(ActionList AlarmBlock::*list);
 
@@ -103,6 +108,7 @@ ChannelPage<Channel>::ChannelPage(PageContext& context)
   configs_.OnLeave = [this] { Commit(); };
   configs_.OnShow = [this] { LoadData(); };
   panel_.OnActions() = [this](ActionList AlarmBlock::*list) { EditActions(list); };
+  help_.face.SetVisible(!kTraits.help.empty());
   help_.OnClick = [this] { context_.ShowHelp(kTraits.help); };
   Timer1_.OnTimer = [this] { Tick(); };
 }
@@ -149,6 +155,7 @@ void ChannelPage<Channel>::Clear() {
 template <AlarmChannel Channel>
 void ChannelPage<Channel>::LoadData() {
   channel_.Load(Current());
+  if constexpr (requires { channel_.LoadLive(CurrentIndex_); }) channel_.LoadLive(CurrentIndex_);
   panel_.Load(Current().ALARM[CurrentConfig()], Factor(Current()));
 }
 
@@ -172,10 +179,15 @@ void ChannelPage<Channel>::Commit() {
 }
 
 template <AlarmChannel Channel>
-void ChannelPage<Channel>::Tick() {
-  if constexpr (requires { channel_.Tick(); }) channel_.Tick();
+void ChannelPage<Channel>::CheckNumbers() {
   channel_.CheckNumbers();
   panel_.CheckNumbers();
+}
+
+template <AlarmChannel Channel>
+void ChannelPage<Channel>::Tick() {
+  if constexpr (requires { channel_.Tick(); }) channel_.Tick();
+  CheckNumbers();
 }
 
 template <AlarmChannel Channel>

@@ -2,7 +2,7 @@
 
 #include "base/BoundFailure.h"
 #include "base/Help.h"
-#include "controls/Form.h"
+#include "controls/ModalForm.h"
 #include "lang/Lang.h"
 #include "store/IniTool.h"
 
@@ -31,9 +31,7 @@ void PageContext::ShowHelp(std::string_view word) const {
 }
 
 void PageContext::ShowModal(Form& form) const {
-  form.Show();
-  platform.dialogs.ShowModal(form);
-  form.Hide();
+  ostrel::ShowModal(platform.dialogs, form);
 }
 
 void PageContext::ShowMessage(std::string_view text, BoxIcon icon) const {

@@ -1,12 +1,14 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 
 #include "model/ActionList.h"
 #include "model/DeviceConf.h"
 #include "model/DeviceInfo.h"
+#include "model/ProbeIdentity.h"
 #include "model/RealTimeData.h"
 #include "model/TargetProfile.h"
 #include "platform/Dialogs.h"
@@ -17,6 +19,7 @@ namespace ostrel {
 class Form;
 class IniTool;
 class Lang;
+class TextBox;
 
 /// What all pages share: the records and flags of one configurator, and its services.
 struct PageContext {
@@ -32,9 +35,22 @@ struct PageContext {
   const bool& Connected;
   const bool& ComBusy;
   const std::string& ConfFilePath;
-  bool timersRun = false;             ///< whether loaded pages tick each second
-  std::string programFolder;          ///< where the help pages stand, without a separator
-  std::function<void()> showActEdit;  ///< shows the action editor on `ActionBuffer`, modal
+  bool timersRun = false;               ///< whether loaded pages tick each second
+  std::string programFolder;            ///< where the help pages stand, without a separator
+  std::function<void()> showActEdit{};  ///< shows the action editor on `ActionBuffer`, modal
+  /// Lets the tree show anew which expansion inputs are in use. Null without a tree.
+  std::function<void()> repaintTree{};
+  // The tools that a page opens, each modal.
+  /// Lets the operator set the total of a pulse counter.
+  std::function<void(std::int16_t meter)> showTotal{};
+  /// Lets the operator set the total of an expansion counter.
+  std::function<void(std::int16_t input)> showExpansionTotal{};
+  /// Shows the calculator of pulse weights; its result can go into the box.
+  std::function<void(TextBox& ratio)> showPulseCalculator{};
+  /// Shows the calculator of bit masks.
+  std::function<void()> showMaskCalculator{};
+  /// Reads the identity of the one probe on the bus; nothing when there is no answer.
+  std::function<std::optional<ProbeIdentity>()> readProbeIdentity{};
 
   /// The text in the language in use; the text itself when the table is full.
   std::string Translate(std::string_view text) const;

@@ -15,7 +15,8 @@ struct PlainTraits {
   PageId page;
   std::string_view form;
   std::string_view title;
-  std::string_view help;  ///< page word of the help
+  std::string_view help;        ///< page word of the help; empty where there is no help page
+  bool loadsAfterClear = true;  ///< emptying ends in showing the model
 };
 
 /// What a page without channels and alarms brings: its words and its controls. All else is the same
@@ -43,6 +44,7 @@ class PlainPage final : public Page {
         content_(form_, context),
         help_(form_, "Help", ""),
         Timer1_(form_, "Timer1", context.platform.loop, std::chrono::seconds(1)) {
+    help_.face.SetVisible(!kTraits.help.empty());
     help_.OnClick = [this] { context_.ShowHelp(kTraits.help); };
     Timer1_.OnTimer = [this] {
       if constexpr (requires { content_.Tick(); }) content_.Tick();
@@ -63,7 +65,7 @@ class PlainPage final : public Page {
   void Clear() override {
     ClearBlock(context_, kTraits.page);
     if constexpr (requires { content_.AfterClear(); }) content_.AfterClear();
-    LoadData();
+    if constexpr (kTraits.loadsAfterClear) LoadData();
   }
   void LoadData() override { content_.LoadData(); }
   void SaveConf(IniClass& document) override { SaveBlock(context_, kTraits.page, document); }

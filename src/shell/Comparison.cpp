@@ -70,6 +70,35 @@ Comparison CompareModels(const ModelConfiguration& before, const ModelConfigurat
   return comparison;
 }
 
+/// Two configurations of one model as a logger holds them.
+class SentSides {
+ public:
+  SentSides(const ModelConfiguration& before, const ModelConfiguration& after,
+            std::int32_t features)
+      : receiver_{before.profile, features},
+        before_(AsHeld(before.conf, receiver_)),
+        after_(AsHeld(after.conf, receiver_)),
+        fieldsBefore_(FieldsOf(std::as_const(before_), before.profile)),
+        fieldsAfter_(FieldsOf(std::as_const(after_), before.profile)),
+        probeBefore_(before_, receiver_),
+        probeAfter_(after_, receiver_) {}
+
+  /// Whether copying field `index` from either to the other changes a statement.
+  bool Differ(std::size_t index) {
+    return probeBefore_.Changes(index, fieldsAfter_[index].value) ||
+           probeAfter_.Changes(index, fieldsBefore_[index].value);
+  }
+  bool AreSame() const {
+    return ComposeStatements(before_, receiver_) == ComposeStatements(after_, receiver_);
+  }
+
+ private:
+  Receiver receiver_;
+  DeviceConf before_, after_;
+  std::vector<ConstField> fieldsBefore_, fieldsAfter_;
+  SentProbe probeBefore_, probeAfter_;
+};
+
 }  // namespace
 
 Comparison Compare(const ModelConfiguration& before, const ModelConfiguration& after,
@@ -78,11 +107,8 @@ Comparison Compare(const ModelConfiguration& before, const ModelConfiguration& a
   if (profile.TargetName != after.profile.TargetName) return CompareModels(before, after);
   const auto fieldsBefore = FieldsOf(before.conf, profile);
   const auto fieldsAfter = FieldsOf(after.conf, profile);
-  std::optional<SentProbe> probeBefore, probeAfter;
-  if (features) {
-    probeBefore.emplace(before.conf, Receiver{profile, *features});
-    probeAfter.emplace(after.conf, Receiver{profile, *features});
-  }
+  std::optional<SentSides> sides;
+  if (features) sides.emplace(before, after, *features);
   Comparison comparison;
   for (std::size_t i = 0; i < fieldsBefore.size(); ++i) {
     const ConstField &one = fieldsBefore[i], &other = fieldsAfter[i];
@@ -92,13 +118,10 @@ Comparison Compare(const ModelConfiguration& before, const ModelConfiguration& a
     Difference difference = DifferenceOf(one, text, otherText);
     difference.beforeWords = ReadableValue(one.value, one.meta, profile.IsS100);
     difference.afterWords = ReadableValue(other.value, other.meta, profile.IsS100);
-    difference.isSent =
-        !features || probeBefore->Changes(i, other.value) || probeAfter->Changes(i, one.value);
+    difference.isSent = !sides || sides->Differ(i);
     comparison.differences.push_back(std::move(difference));
   }
-  comparison.isSame = features ? ComposeStatements(before.conf, {profile, *features}) ==
-                                     ComposeStatements(after.conf, {profile, *features})
-                               : comparison.differences.empty();
+  comparison.isSame = sides ? sides->AreSame() : comparison.differences.empty();
   return comparison;
 }
 

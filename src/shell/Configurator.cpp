@@ -3,10 +3,19 @@
 #include "base/Scope.h"
 #include "blocks/Blocks.h"
 #include "blocks/Orders.h"
+#include "pages/bus/CONF_MODBUS.h"
+#include "pages/bus/E_MODBUS.h"
+#include "pages/expansion/E_Modular.h"
+#include "pages/inputs/Caudal.h"
 #include "pages/inputs/E_Analog.h"
+#include "pages/inputs/E_Aux.h"
 #include "pages/inputs/E_Digital.h"
+#include "pages/inputs/E_Math.h"
+#include "pages/inputs/E_OneWire.h"
 #include "pages/inputs/Flags.h"
 #include "pages/inputs/Grupos.h"
+#include "pages/inputs/Katodex.h"
+#include "pages/inputs/SampleRate.h"
 #include "platform/Dialogs.h"
 #include "platform/EventLoop.h"
 #include "platform/Files.h"
@@ -21,7 +30,16 @@ std::vector<std::unique_ptr<Page>> MakePages(PageContext& context) {
   pages.push_back(std::make_unique<E_Digital>(context));
   pages.push_back(std::make_unique<E_Analog>(context));
   pages.push_back(std::make_unique<Grupos>(context));
+  pages.push_back(std::make_unique<Caudal>(context));
+  pages.push_back(std::make_unique<SampleRate>(context));
   pages.push_back(std::make_unique<Flags>(context));
+  pages.push_back(std::make_unique<E_OneWire>(context));
+  pages.push_back(std::make_unique<E_Math>(context));
+  pages.push_back(std::make_unique<CONF_MODBUS>(context));
+  pages.push_back(std::make_unique<E_MODBUS>(context));
+  pages.push_back(std::make_unique<E_Modular>(context));
+  pages.push_back(std::make_unique<E_Aux>(context));
+  pages.push_back(std::make_unique<Katodex>(context));
   return pages;
 }
 
@@ -44,8 +62,7 @@ Configurator::Configurator(const Platform& platform, ConfiguratorOptions options
               .ComBusy = ComBusy,
               .ConfFilePath = ConfFilePath,
               .timersRun = options.ticking,
-              .programFolder = options.programFolder,
-              .showActEdit = [this] { actEdit.ShowModal(); }},
+              .programFolder = options.programFolder},
       platform_(platform),
       options_(std::move(options)),
       pages_(MakePages(context)),
@@ -54,16 +71,46 @@ Configurator::Configurator(const Platform& platform, ConfiguratorOptions options
       bar_(comms.OnProgress(
           [&bar = general.Session().PBar](const Progress& progress) { ShowOnBar(progress, bar); })),
       session(context, comms, general, Connected, [this] { ShowPages(); }),
+      tools{.comms = comms,
+            .dialogs = platform_.dialogs,
+            .profile = profile,
+            .totals = totals,
+            .Connected = Connected,
+            .Translate = [this](std::string_view text) { return context.Translate(text); }},
       actEdit(context),
+      setTotal(tools, kMainCounters),
+      expSetTotal(tools, kExpansionCounters),
+      ayuda(tools),
+      ayudaHex(tools),
       pwForm(context),
       langForm(context),
       targetSelect(context, settings,
                    [this](const std::string& name) { TargetDeviceChange(name); }) {
   if (options_.ticking) general.OnScanPorts = [this] { comms.ScanPorts(); };
+  ConnectPages();
   RegisterWire();
 }
 
 Configurator::~Configurator() = default;
+
+void Configurator::ConnectPages() {
+  const auto setsTotal = [](SetTotal& dialog) {
+    return [&dialog](std::int16_t index) {
+      dialog.SetIndex(index);
+      dialog.ShowModal();
+    };
+  };
+  context.showActEdit = [this] { actEdit.ShowModal(); };
+  context.showTotal = setsTotal(setTotal);
+  context.showExpansionTotal = setsTotal(expSetTotal);
+  context.showPulseCalculator = [this](TextBox& field) { ayuda.ShowModal(field); };
+  context.showMaskCalculator = [this] { ayudaHex.ShowModal(); };
+  context.readProbeIdentity = [this]() -> std::optional<ProbeIdentity> {
+    ProbeIdentity identity;
+    if (!comms.ReadProbeIdentity(identity)) return {};
+    return identity;
+  };
+}
 
 LinkHooks Configurator::MakeHooks() {
   SessionFrame& frame = general.Session();
@@ -133,7 +180,8 @@ std::vector<Form*> Configurator::Forms() {
   std::vector<Form*> forms;
   for (const auto& page : pages_) forms.push_back(&page->GetForm());
   for (Form* form :
-       {&actEdit.GetForm(), &pwForm.GetForm(), &langForm.GetForm(), &targetSelect.GetForm()})
+       {&actEdit.GetForm(), &setTotal.GetForm(), &expSetTotal.GetForm(), &ayuda.GetForm(),
+        &ayudaHex.GetForm(), &pwForm.GetForm(), &langForm.GetForm(), &targetSelect.GetForm()})
     forms.push_back(form);
   return forms;
 }

@@ -24,6 +24,10 @@
 #include "shell/StoredSettings.h"
 #include "shell/TargetSelect.h"
 #include "store/IniTool.h"
+#include "tools/Ayuda.h"
+#include "tools/AyudaHex.h"
+#include "tools/SetTotal.h"
+#include "tools/ToolContext.h"
 
 namespace ostrel {
 
@@ -118,6 +122,8 @@ class Configurator {
  private:
   /// Runs an action on the pages of a fixed order.
   void ForEach(std::span<const PageId> order, void (Page::*action)());
+  /// The dialogs and dialogues that pages ask for.
+  void ConnectPages();
   LinkHooks MakeHooks();
   void RegisterWire();
   void LoadForms();
@@ -144,7 +150,12 @@ class Configurator {
 
  public:
   SessionDriver session;
+  ToolContext tools;
   ActEdit actEdit;
+  SetTotal setTotal;
+  SetTotal expSetTotal;
+  Ayuda ayuda;
+  AyudaHex ayudaHex;
   PWForm pwForm;
   LangForm langForm;
   TargetSelect targetSelect;

@@ -22,6 +22,13 @@ std::string UpperCase(std::string_view name) {
   return upper;
 }
 
+/// Notes the keys that a configuration of a model writes.
+void WriteKeysOf(const TargetProfile& profile, IniClass& document) {
+  const DeviceConf conf;
+  for (const ConstField& field : FieldsOf(conf, profile))
+    document.WriteKey(field.Section(), field.Key(), "");
+}
+
 }  // namespace
 
 std::vector<std::string> ForeignKeys(Files& files, const std::string& path,
@@ -30,10 +37,16 @@ std::vector<std::string> ForeignKeys(Files& files, const std::string& path,
   IniClass written(files), standing(files);
   written.NewINI();
   written.WriteKey(kStampSection, kStampKey, profile.TargetType);
-  const DeviceConf conf;
-  for (const ConstField& field : FieldsOf(conf, profile))
-    written.WriteKey(field.Section(), field.Key(), "");
+  WriteKeysOf(profile, written);
   standing.OpenINI(path, false);
+  // What only another model has is no loss in a file of that model, which is replaced as a whole.
+  const std::string* stamp = standing.Find(kStampSection, kStampKey);
+  if (const TargetModel* other = stamp ? FindTarget(*stamp) : nullptr;
+      other && other->type != profile.TargetType) {
+    TargetProfile own;
+    SelectTarget(own, other->name);
+    WriteKeysOf(own, written);
+  }
   std::vector<std::string> foreign;
   std::string section;
   standing.Visit([&](std::string_view name) { section = name; },

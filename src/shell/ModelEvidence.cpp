@@ -30,6 +30,12 @@ int ChannelsOf(PageId page, const TargetModel& model) {
   }
 }
 
+/// Whether two fields of one kind hold the same.
+bool IsSame(const FieldView& field, const FieldView& other) {
+  return std::visit([&](const auto* typed) { return *typed == *std::get<decltype(typed)>(other); },
+                    field);
+}
+
 }  // namespace
 
 std::string_view ModelInGreeting(std::string_view greeting) {
@@ -49,13 +55,13 @@ std::vector<std::string> ModelsThatFit(const DeviceConf& held, const TargetProfi
   std::array<bool, 6> fits;
   fits.fill(true);
   for (const Block& block : Blocks()) {
-    std::vector<std::string> texts;
+    std::vector<FieldView> fields;
     block.view(empty, profile, [&](const FieldId&, const FieldMeta&, const FieldView& value) {
-      texts.push_back(FieldText(value, profile.IsS100));
+      fields.push_back(value);
     });
-    auto before = texts.cbegin();
+    auto before = fields.cbegin();
     block.view(held, profile, [&](const FieldId& id, const FieldMeta&, const FieldView& value) {
-      if (FieldText(value, profile.IsS100) == *before++) return;
+      if (IsSame(value, *before++)) return;
       for (std::size_t i = 0; i < fits.size(); ++i)
         if (id.channel >= ChannelsOf(block.page, TargetModels()[i])) fits[i] = false;
     });

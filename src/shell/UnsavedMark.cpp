@@ -20,7 +20,8 @@ void UnsavedMark::Keep(const DeviceConf& safe) {
 bool UnsavedMark::Changed() {
   if (configurator_.ComBusy || !touched_) return changed_;
   touched_ = false;
-  changed_ = Texts(WithFront()) != Texts(kept_);
+  const DeviceConf present = WithFront();
+  changed_ = present != kept_ && Texts(present) != Texts(kept_);
   return changed_;
 }
 

@@ -1,16 +1,26 @@
 #include "shell/WriteDoubts.h"
 
+#include "blocks/Orders.h"
+#include "shell/Comparison.h"
 #include "shell/Configurator.h"
 
 namespace ostrel {
 namespace {
 
+/// Whether a configuration is what the program starts with, or what emptying it leaves: the start
+/// empties less.
 bool IsEmpty(const Configurator& configurator) {
-  const DeviceConf empty = EmptyConfiguration(configurator.profile, [&](std::string_view text) {
+  const auto translate = [&](std::string_view text) {
     return configurator.context.Translate(text);
-  });
-  return Compare({configurator.profile, empty}, {configurator.profile, configurator.conf})
-      .differences.empty();
+  };
+  DeviceConf fresh;
+  for (const PageId page : kClearAtStart)
+    if (const Block* block = FindBlock(page)) block->clear(fresh, configurator.profile, translate);
+  const auto isAs = [&](const DeviceConf& conf) {
+    return Compare({configurator.profile, conf}, {configurator.profile, configurator.conf})
+        .differences.empty();
+  };
+  return isAs(fresh) || isAs(EmptyConfiguration(configurator.profile, translate));
 }
 
 }  // namespace

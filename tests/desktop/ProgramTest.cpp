@@ -57,7 +57,7 @@ TEST(Program, NamesWhatIsWrongWithItsArguments) {
     int code;
     const char* says;
   } kCases[] = {
-      {{"--page", "General"}, 2, "--page goes with --screenshot alone"},
+      {{"--language", "2"}, 2, "--language goes with --screenshot alone"},
       {{"--screenshot", picture, "--target", "Q"}, 2, "there is no model Q"},
       {{"--screenshot", picture, "--language", "en"}, 2, "--language is a number from 0 to"},
       {{"--screenshot", picture, "--size", "big"}, 2, "--size is WIDTHxHEIGHT"},

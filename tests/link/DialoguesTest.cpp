@@ -29,7 +29,10 @@ class EveryDialogue : public LinkTest {
       {"SetOutput", [this] { return comms.SetOutput(3); }, "#any"},
       {"SetSingleOutput", [this] { return comms.SetSingleOutput(1, true); }, "#any"},
       {"SetTotalCNT", [this] { return comms.SetTotalCNT(1, 2); }, "#BE1"},
-      {"SetExpValue", [this] { return comms.SetExpValue(1, 2); }, "#BE1"}};
+      {"SetExpValue", [this] { return comms.SetExpValue(1, 2); }, "#BE1"},
+      {"ReadProbeIdentity", [this] { return comms.ReadProbeIdentity(probe); }, "#05001,2"}};
+
+  ProbeIdentity probe;
 
   void Prepare() {
     SelectTarget(profile, "Ostrel S100");
@@ -88,8 +91,9 @@ TEST_F(EveryDialogue, IsTurnedAwayByABusyLinkOrAClosedPort) {
 
 TEST_F(EveryDialogue, OfASilentLoggerSaysSo) {
   Prepare();
-  for (const char* name : {"ReadConf", "WriteConf", "ReadInfo", "ReadDeviceRTC", "WriteDeviceRTC",
-                           "ReadTotalCount", "ReadRealTime", "SetTotalCNT", "SetExpValue"})
+  for (const char* name :
+       {"ReadConf", "WriteConf", "ReadInfo", "ReadDeviceRTC", "WriteDeviceRTC", "ReadTotalCount",
+        "ReadRealTime", "SetTotalCNT", "SetExpValue", "ReadProbeIdentity"})
     for (const Case& c : inSession)
       EXPECT_TRUE(c.name != std::string(name) || c.run().Fault().kind == Kind::Silence) << name;
 }

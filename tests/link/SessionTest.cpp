@@ -116,6 +116,24 @@ TEST_F(SessionTest, SettingsAreConfirmed) {
   }
 }
 
+TEST_F(SessionTest, AProbeTellsItsIdentity) {
+  ProbeIdentity identity{"a", "b"};
+  logger.Always("#FA", Frames("#06040,113,000,000,000,000,000,011"));
+  EXPECT_FALSE(comms.ReadProbeIdentity(identity));
+  EXPECT_EQ(comms.Fault().kind, Kind::WrongAnswer);
+  EXPECT_EQ(identity, (ProbeIdentity{"a", "b"}));
+  logger.Always("#FA", Frames("#05040,113,000,000,000,000,000,011"));
+  EXPECT_TRUE(comms.ReadProbeIdentity(identity));
+  EXPECT_EQ(identity, (ProbeIdentity{"040.113.000.000", "000.000.000.011"}));
+  for (const char* cut : {"#05", "#0540", "#05,,"}) {
+    logger.Always("#FA", Frames(cut));
+    EXPECT_TRUE(comms.ReadProbeIdentity(identity)) << cut;
+  }
+  logger.Forget();
+  EXPECT_EQ(Took([&] { comms.ReadProbeIdentity(identity); }), milliseconds(100 + 3 * 500))
+      << "a stale line, then three attempts";
+}
+
 TEST_F(SessionTest, OutputsAreSetOneByOne) {
   profile.OutputCount = 4;
   for (const char* line : {"#470", "#481", "#472", "#483", "#473"})

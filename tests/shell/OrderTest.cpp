@@ -7,8 +7,6 @@
 namespace ostrel {
 namespace {
 
-using testing::ElementsAre;
-
 /// How a statement begins, up to its first number or sign: "DINAME", "-ALMD".
 std::string HeadOf(const std::string& statement) {
   const auto isPlain = [](char c) { return c >= 'A' && c <= 'Z'; };
@@ -28,21 +26,36 @@ std::string Heads(const std::vector<std::string>& statements) {
 }
 
 TEST(Orders, AnUploadSendsItsBlocksInTheOrderThatLoggersExpect) {
-  const std::string start =
-      "ID 1, CSM 1, PTLF 1, REST 1, RETRYMAX 1, RETRYTIME 1, CLRTLF 1, +TLF 2, ";
+  constexpr std::string_view kFlows8 = "FLOWCONF 8, TOTALRATIO 8, -ALMFLOW 32, ";
+  constexpr std::string_view kFlows2 = "FLOWCONF 2, TOTALRATIO 2, -ALMFLOW 8, ";
+  const auto inputs = [](std::string_view digitals, std::string_view analogs,
+                         std::string_view flows, std::string_view behindFlags) {
+    return std::string(digitals).append(analogs).append(flows).append(behindFlags);
+  };
   for (const auto& [model, rest] : std::vector<std::pair<std::string, std::string>>{
-           {"Ostrel KA1", "DINAME 8, -ALMD 32, -ALMF 16, "},
-           {"Ostrel KA2", "DINAME 9, -ALMD 36, -ALMF 16, "},
-           {"Ostrel VR200", "DINAME 8, -ALMD 32, DISAI 4, -ALMA 16, AGRP 4, -ALMF 16, "},
-           {"Ostrel S100", "DINAME 2, -ALMD 8, DISAI 2, -ALMA 8, AGRP 2, -ALMF 16, "},
-           {"Tavro BP", "DINAME 8, -ALMD 32, DISAI 4, -ALMA 16, AGRP 4, -ALMF 16, "},
-           {"Tavro BQ", "DINAME 4, -ALMD 16, DISAI 1, -ALMA 4, AGRP 1, -ALMF 16, "}}) {
+           {"Ostrel KA1",
+            inputs("DINAME 8, -ALMD 32, ", "", kFlows8, "-ALMF 16, DISONEW 4, -ALMOW 16, ")},
+           {"Ostrel KA2",
+            inputs("DINAME 9, -ALMD 36, ", "", kFlows8, "-ALMF 16, DISONEW 4, -ALMOW 16, ")},
+           {"Ostrel VR200", inputs("DINAME 8, -ALMD 32, ", "DISAI 4, -ALMA 16, ", kFlows8,
+                                   "AGRP 4, -ALMF 16, BAUD 1, MBSLAVE 1, MBSLAVEADD 1, MBCONF 4, "
+                                   "-ALMMB 32, DISMB 28, ")},
+           {"Ostrel S100", inputs("DINAME 2, -ALMD 8, ", "DISAI 2, -ALMA 8, ", kFlows2,
+                                  "AGRP 2, -ALMF 16, DISEXPINPUT 96, ")},
+           {"Tavro BP",
+            inputs("DINAME 8, -ALMD 32, ", "DISAI 4, -ALMA 16, ", kFlows8, "AGRP 4, -ALMF 16, ")},
+           {"Tavro BQ",
+            inputs("DINAME 4, -ALMD 16, ", "DISAI 1, -ALMA 4, ", kFlows2, "AGRP 1, -ALMF 16, ")}}) {
+    const std::string start =
+        std::string("ID 1, CSM 1, PTLF 1, REST 1, RETRYMAX 1, RETRYTIME 1, ") +
+        (model == "Tavro BQ" ? "SAMPLERATE 1, " : "") + "CLRTLF 1, +TLF 2, ";
     World world;
     Configurator program(world.platform, world.Options(false));
     program.StartForCommand(model, 1);
     program.conf.Phone[0].TLF = program.conf.Phone[7].TLF = "600";
     program.info.Features = -1;
-    EXPECT_EQ(Heads(program.comms.ComposeStatements()), start + rest) << model;
+    EXPECT_EQ(Heads(program.comms.ComposeStatements()), start + rest + "DISMC 4, -ALMM 4, ")
+        << model;
   }
 }
 
@@ -64,8 +77,11 @@ TEST(Orders, ADownloadEmptiesAllPagesAndThenShowsThem) {
           if (order.empty() || order.back() != form->Name()) order.push_back(form->Name());
         };
   ASSERT_TRUE(program.session.Download());
-  EXPECT_THAT(order, ElementsAre("E_Analog", "E_Digital", "General", "Grupos", "Flags",  // emptied
-                                 "E_Analog", "E_Digital", "General", "Grupos", "Flags"));  // shown
+  const std::vector<std::string> pages{"Caudal",  "E_Analog", "E_Math", "E_Digital",
+                                       "General", "Grupos",   "Flags",  "SampleRate"};
+  std::vector<std::string> emptiedThenShown = pages;
+  emptiedThenShown.insert(emptiedThenShown.end(), pages.begin(), pages.end());
+  EXPECT_EQ(order, emptiedThenShown);
 }
 
 }  // namespace

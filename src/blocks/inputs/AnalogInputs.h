@@ -6,13 +6,13 @@
 #include "blocks/Fields.h"
 #include "blocks/LineSection.h"
 #include "blocks/Receiver.h"
+#include "blocks/inputs/InterfaceCodes.h"
 #include "link/Statement.h"
 
 namespace ostrel {
 
-/// Codes of the electrical interface of an analog input.
+/// Codes of the electrical interface of an analog input that is on.
 enum AnalogInterface : std::int16_t {
-  kInterfaceOff = 0,
   kInterfaceCurrent = 1,
   kInterface5V = 2,
   kInterface10V = 3,

@@ -11,6 +11,7 @@
 #include <QRadioButton>
 #include <QShortcut>
 #include <QSignalBlocker>
+#include <QStackedWidget>
 #include <QStyle>
 #include <QTimeEdit>
 #include <algorithm>
@@ -240,6 +241,14 @@ Bound BindKind(Picture& picture, const BindOptions& options, QWidget* parent) {
   return {bound.widget, [bound, &picture] {
             FollowFace(*bound.widget, picture.face);
             if (bound.follow) bound.follow();
+          }};
+}
+
+Bound BindKind(TabStrip& tabs, const BindOptions&, QWidget* parent) {
+  auto* widget = new QStackedWidget(parent);
+  return {widget, [widget, &tabs] {
+            FollowFace(*widget, tabs.face);
+            widget->setCurrentIndex(tabs.Tab());
           }};
 }
 

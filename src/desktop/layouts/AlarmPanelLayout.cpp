@@ -10,25 +10,34 @@
 namespace ostrel {
 namespace {
 
-void LayOutThreshold(FormView& view, const Card& card, const ThresholdWords& threshold) {
-  QLabel* label = threshold.words.isEmpty()
-                      ? view.LabelFor(threshold.control, "Label" + std::string(threshold.control))
-                      : view.LabelFor(threshold.control, threshold.words);
-  QWidget* box = Narrow(view.Show(threshold.control), 12);
+QLabel* ThresholdLabel(FormView& view, const ThresholdWords& threshold, const ControlNames& names) {
+  const std::string control = names(threshold.control);
+  if (!threshold.words.isEmpty()) return view.LabelFor(control, threshold.words);
+  const std::string label = threshold.label.empty() ? "Label" + std::string(threshold.control)
+                                                    : std::string(threshold.label);
+  return view.LabelFor(control, std::string_view(names(label)));
+}
+
+void LayOutThreshold(FormView& view, const Card& card, const ThresholdWords& threshold,
+                     const ControlNames& names) {
+  QLabel* label = ThresholdLabel(view, threshold, names);
+  QWidget* box = Narrow(view.Show(names(threshold.control)), 12);
   if (!threshold.beside.empty())
     box = Joined(view, {box, view.Show(threshold.beside)}, Qt::Horizontal, true);
   AddField(card, label, box);
 }
 
-Card CauseCard(FormView& view, const std::vector<ThresholdWords>& thresholds) {
+Card CauseCard(FormView& view, const std::vector<ThresholdWords>& thresholds,
+               const ControlNames& names) {
   const Card card = MakeCard(view, Words::tr("Alarm"));
-  card.grid->addWidget(view.Show("AlarmaHabil"), 0, 0, 1, 2);
-  AddField(card, view.LabelFor("TextoAlarma", Words::tr("Text:")), view.Show("TextoAlarma"));
-  for (const ThresholdWords& threshold : thresholds) LayOutThreshold(view, card, threshold);
-  if (view.Has("FlagCombo")) {
-    QLabel* label = view.LabelFor("FlagCombo", std::string_view("LabelFlag"));
+  card.grid->addWidget(view.Show(names("AlarmaHabil")), 0, 0, 1, 2);
+  AddField(card, view.LabelFor(names("TextoAlarma"), Words::tr("Text:")),
+           view.Show(names("TextoAlarma")));
+  for (const ThresholdWords& threshold : thresholds) LayOutThreshold(view, card, threshold, names);
+  if (view.Has(names("FlagCombo"))) {
+    QLabel* label = view.LabelFor(names("FlagCombo"), std::string_view(names("LabelFlag")));
     AddField(card, label,
-             Joined(view, {Narrow(view.Show("FlagCombo"), 8), view.Show("LabelTrue")},
+             Joined(view, {Narrow(view.Show(names("FlagCombo")), 8), view.Show(names("LabelTrue"))},
                     Qt::Horizontal, true));
   }
   card.grid->setColumnStretch(1, 1);
@@ -36,29 +45,29 @@ Card CauseCard(FormView& view, const std::vector<ThresholdWords>& thresholds) {
   return card;
 }
 
-Card NotificationCard(FormView& view) {
+Card NotificationCard(FormView& view, const ControlNames& names) {
   const Card card = MakeCard(view, Words::tr("Notification"));
-  card.grid->addWidget(OptionBox(view, {"NotSMS", "NotVoz", "NotGPRS", "NotNone"}, 1), 0, 0);
-  card.grid->addWidget(view.Show("RestHabil"), 1, 0);
-  card.grid->addWidget(view.Show("ReenvHabil"), 2, 0);
+  card.grid->addWidget(OptionBox(view, {"NotSMS", "NotVoz", "NotGPRS", "NotNone"}, 1, names), 0, 0);
+  card.grid->addWidget(view.Show(names("RestHabil")), 1, 0);
+  card.grid->addWidget(view.Show(names("ReenvHabil")), 2, 0);
   card.grid->setRowStretch(3, 1);
   return card;
 }
 
-Card ValidityCard(FormView& view) {
+Card ValidityCard(FormView& view, const ControlNames& names) {
   const Card card = MakeCard(view, Words::tr("Validity"));
-  card.grid->addWidget(view.Show("HorarioHabil"), 0, 0, 1, 2);
-  AddField(card, view.LabelFor("HoraInicio", std::string_view("LabelInicio")),
-           Narrow(view.Show("HoraInicio"), 11));
-  AddField(card, view.LabelFor("HoraFinal", std::string_view("LabelFinal")),
-           Narrow(view.Show("HoraFinal"), 11));
+  card.grid->addWidget(view.Show(names("HorarioHabil")), 0, 0, 1, 2);
+  AddField(card, view.LabelFor(names("HoraInicio"), std::string_view(names("LabelInicio"))),
+           Narrow(view.Show(names("HoraInicio")), 11));
+  AddField(card, view.LabelFor(names("HoraFinal"), std::string_view(names("LabelFinal"))),
+           Narrow(view.Show(names("HoraFinal")), 11));
   auto* days = new QWidget(&view);
   auto* grid = new QGridLayout(days);
   grid->setContentsMargins(0, 4, 0, 0);
   int day = 0;
   for (const auto* name :
        {"CheckLun", "CheckMar", "CheckMie", "CheckJue", "CheckVie", "CheckSab", "CheckDom"}) {
-    grid->addWidget(view.Show(name), day / 4, day % 4);
+    grid->addWidget(view.Show(names(name)), day / 4, day % 4);
     ++day;
   }
   grid->setHorizontalSpacing(14);
@@ -69,28 +78,29 @@ Card ValidityCard(FormView& view) {
   return card;
 }
 
-Card ActionCard(FormView& view) {
+Card ActionCard(FormView& view, const ControlNames& names) {
   const Card card = MakeCard(view, Words::tr("Actions"));
   int column = 0;
   for (const auto* name : {"BotonAlto", "BotonNormal", "BotonBajo"})
-    if (view.Has(name)) card.grid->addWidget(view.Show(name), 0, column++);
+    if (view.Has(names(name))) card.grid->addWidget(view.Show(names(name)), 0, column++);
   card.grid->setColumnStretch(column, 1);
   return card;
 }
 
 }  // namespace
 
-QWidget* LayOutAlarmPanel(FormView& view, const std::vector<ThresholdWords>& thresholds) {
+QWidget* LayOutAlarmPanel(FormView& view, const std::vector<ThresholdWords>& thresholds,
+                          const ControlNames& names) {
   auto* panel = new QWidget(&view);
   auto* column = new QVBoxLayout(panel);
   column->setContentsMargins(0, 0, 0, 0);
-  column->addWidget(OptionBox(view, {"Config0", "Config1", "Config2", "Config3"}, 4));
+  column->addWidget(OptionBox(view, {"Config0", "Config1", "Config2", "Config3"}, 4, names));
   auto* row = new QHBoxLayout;
-  row->addWidget(CauseCard(view, thresholds).box, 5);
-  row->addWidget(NotificationCard(view).box, 3);
-  row->addWidget(ValidityCard(view).box, 4);
+  row->addWidget(CauseCard(view, thresholds, names).box, 5);
+  row->addWidget(NotificationCard(view, names).box, 3);
+  row->addWidget(ValidityCard(view, names).box, 4);
   column->addLayout(row);
-  column->addWidget(ActionCard(view).box);
+  column->addWidget(ActionCard(view, names).box);
   return panel;
 }
 

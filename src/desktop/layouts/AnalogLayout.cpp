@@ -5,6 +5,7 @@
 #include "desktop/layouts/AlarmPanelLayout.h"
 #include "desktop/layouts/LayoutParts.h"
 #include "desktop/layouts/Layouts.h"
+#include "desktop/layouts/ScaleLayout.h"
 
 namespace ostrel {
 namespace {
@@ -27,22 +28,6 @@ Card InterfaceCard(FormView& view) {
   card.grid->addWidget(view.Show("Label11"), 0, 1);
   card.grid->addWidget(view.Show("Jumper"), 1, 1, Qt::AlignTop);
   card.grid->setRowStretch(1, 1);
-  return card;
-}
-
-Card ScaleCard(FormView& view) {
-  const Card card = MakeCard(view, Words::tr("Scale"));
-  card.grid->addWidget(new QLabel(Words::tr("Signal"), &view), 0, 1);
-  card.grid->addWidget(new QLabel(Words::tr("Value in units"), &view), 0, 2);
-  card.grid->addWidget(view.LabelFor("IE", std::string_view("Label1")), 1, 0);
-  card.grid->addWidget(Narrow(view.Show("IE"), 10), 1, 1);
-  card.grid->addWidget(Narrow(view.ShowNamed("EqIE", Words::tr("Value at the start of scale")), 10),
-                       1, 2);
-  card.grid->addWidget(view.LabelFor("FE", std::string_view("Label2")), 2, 0);
-  card.grid->addWidget(Narrow(view.Show("FE"), 10), 2, 1);
-  card.grid->addWidget(Narrow(view.ShowNamed("EqFE", Words::tr("Value at full scale")), 10), 2, 2);
-  card.grid->setColumnStretch(3, 1);
-  card.grid->setRowStretch(3, 1);
   return card;
 }
 

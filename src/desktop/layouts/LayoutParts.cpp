@@ -47,7 +47,8 @@ void AddField(const Card& card, QWidget* label, QWidget* field, int columns) {
   card.grid->addWidget(field, row, 1, 1, columns, isNarrow ? Qt::AlignLeft : Qt::Alignment());
 }
 
-QWidget* OptionBox(FormView& view, std::initializer_list<std::string_view> options, int columns) {
+QWidget* OptionBox(FormView& view, std::initializer_list<std::string_view> options, int columns,
+                   const ControlNames& names) {
   auto* box = new QWidget(&view);
   auto* grid = new QGridLayout(box);
   grid->setContentsMargins(0, 0, 0, 0);
@@ -55,7 +56,7 @@ QWidget* OptionBox(FormView& view, std::initializer_list<std::string_view> optio
   grid->setVerticalSpacing(4);
   int place = 0;
   for (const std::string_view option : options) {
-    grid->addWidget(view.Show(option), place / columns, place % columns);
+    grid->addWidget(view.Show(names(option)), place / columns, place % columns);
     ++place;
   }
   grid->setColumnStretch(columns, 1);

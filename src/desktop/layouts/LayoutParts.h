@@ -9,6 +9,7 @@
 #include <string_view>
 
 #include "desktop/forms/FormView.h"
+#include "pages/parts/ControlNames.h"
 
 namespace ostrel {
 
@@ -27,7 +28,8 @@ void AddField(const Card& card, QWidget* label, QWidget* field, int columns = 1)
 
 /// Options of one group in rows of `columns` each, in a box of their own so that the arrow keys
 /// move among them.
-QWidget* OptionBox(FormView& view, std::initializer_list<std::string_view> options, int columns);
+QWidget* OptionBox(FormView& view, std::initializer_list<std::string_view> options, int columns,
+                   const ControlNames& names = {});
 
 /// Widgets side by side, or one below the other, without margins.
 QWidget* Joined(FormView& view, std::initializer_list<QWidget*> widgets,

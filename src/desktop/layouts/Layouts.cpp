@@ -16,13 +16,26 @@ void Plain(FormView& view, const LayoutContext&) {
   kLayOut(view);
 }
 
-constexpr std::array<LayoutOf, 9> kLayouts{{
+constexpr std::array<LayoutOf, 22> kLayouts{{
     {"General", LayOutGeneral},
     {"E_Digital", Plain<LayOutDigital>},
     {"E_Analog", Plain<LayOutAnalog>},
     {"Grupos", Plain<LayOutGrupos>},
     {"Flags", Plain<LayOutFlags>},
+    {"Caudal", Plain<LayOutCaudal>},
+    {"SampleRate", Plain<LayOutSampleRate>},
+    {"E_OneWire", Plain<LayOutOneWire>},
+    {"E_Math", Plain<LayOutMath>},
+    {"CONF_MODBUS", Plain<LayOutModbusBus>},
+    {"E_MODBUS", Plain<LayOutModbusChannel>},
+    {"E_Modular", Plain<LayOutExpansion>},
+    {"E_Aux", Plain<LayOutAux>},
+    {"Katodex", Plain<LayOutKatodex>},
     {"ActEdit", Plain<LayOutActEdit>},
+    {"SetTotal", Plain<LayOutSetTotal>},
+    {"ExpSetTotal", Plain<LayOutSetTotal>},
+    {"Ayuda", Plain<LayOutPulseCalculator>},
+    {"AyudaHex", Plain<LayOutMaskCalculator>},
     {"PWForm", Plain<LayOutPWForm>},
     {"Lang", Plain<LayOutLang>},
     {"TargetSelect", Plain<LayOutTargetSelect>},

@@ -32,6 +32,7 @@ class OrderedLayout {
 
  private:
   void Add(Timer&) {}
+  void Add(TabStrip&) {}  // what stands on its tabs is drawn in order
   void Add(Frame& frame) {
     EndRun();
     card_ = MakeCard(view_, frame.face.Name());

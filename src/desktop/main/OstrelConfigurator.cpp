@@ -39,6 +39,13 @@ int RunWindow(const CommandLine& line) {
   dialogs.StandBefore(desktop.Window());
   machine.loop.SetFaultHandler([&](std::exception_ptr fault) { desktop.ShowFault(fault); });
   desktop.Start(line.file);
+  if (!line.page.empty()) {
+    if (!FindNodeTarget(line.page, desktop.Core().profile, true)) {
+      std::cerr << "ostrel-configurator: there is no page " << line.page << std::endl;
+      return 1;
+    }
+    desktop.Window().GoTo(line.page);
+  }
   desktop.Window().show();
   return QApplication::exec();
 }

@@ -75,13 +75,13 @@ CommandLine ReadCommandLine(const QStringList& arguments) {
       {"scheme", "Colours: light, dark or system.", "SCHEME", "system"},
       {"screenshot", "Draw one page into a PNG file, without a display, and end.", "OUT"},
       {"target", "Model for the picture.", "NAME"},
-      {"page", "Key of the tree's node to draw.", "KEY"},
+      {"page", "Key of the tree's node to go to.", "KEY"},
       {"language", "Column of the translation table for the picture.", "NUMBER", "1"},
       {"size", "Size of the picture.", "WIDTHxHEIGHT", "1280x720"},
   });
   parser.process(arguments);
   if (parser.positionalArguments().size() > 1) Refuse("one FILE at the most");
-  for (const auto* option : {"target", "page", "language", "size"})
+  for (const auto* option : {"target", "language", "size"})
     if (parser.isSet(option) && !parser.isSet("screenshot"))
       Refuse("--" + std::string(option) + " goes with --screenshot alone");
   if (parser.isSet("screenshot") && parser.value("screenshot").isEmpty())

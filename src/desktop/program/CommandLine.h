@@ -11,9 +11,9 @@ namespace ostrel {
 
 /// What the program was started with.
 struct CommandLine {
-  std::string file;    ///< configuration to open, absolute; empty for none
-  std::string target;  ///< display name of the model for a picture; empty for the first
-  std::string page;    ///< key of the node to go to for a picture; empty for the choice of model
+  std::string file;        ///< configuration to open, absolute; empty for none
+  std::string target;      ///< display name of the model for a picture; empty for the first
+  std::string page;        ///< key of the node to go to; empty for the choice of model
   std::string screenshot;  ///< picture to draw; empty to run as a window
   int language = 0;        ///< column of the translation table for a picture
   QSize size{1280, 720};   ///< of a picture

@@ -36,16 +36,26 @@ QPixmap DialogPicture(Desktop& desktop, VirtualDialogs& dialogs, const std::stri
   });
   std::string code;
   if (key == core.actEdit.GetForm().Name()) core.actEdit.ShowModal();
+  if (key == core.setTotal.GetForm().Name()) core.context.showTotal(0);
+  if (key == core.expSetTotal.GetForm().Name()) core.context.showExpansionTotal(0);
+  if (key == core.ayuda.GetForm().Name())
+    core.context.showPulseCalculator(core.PageOf(PageId::Caudal)->GetForm().Get<TextBox>("Ratio"));
+  if (key == core.ayudaHex.GetForm().Name()) core.context.showMaskCalculator();
   if (key == core.pwForm.GetForm().Name()) core.pwForm.ShowModal(code);
   if (key == core.langForm.GetForm().Name()) core.langForm.AskUser();
   dialogs.OnEveryModal({});
   return picture;
 }
 
-bool HasNode(const TargetProfile& model, const std::string& key) {
+/// Whether a key leads to a page for a model: by a node of its tree, or to one of the pages that no
+/// model's tree has.
+bool LeadsToPage(const TargetProfile& model, const std::string& key) {
   const auto nodes =
       BuildNavigationTree(model, [](std::string_view text) { return std::string(text); });
-  return std::ranges::find(nodes, key, &TreeNode::key) != nodes.end();
+  if (std::ranges::find(nodes, key, &TreeNode::key) != nodes.end()) return true;
+  const auto target = FindNodeTarget(key, model, true);
+  return target &&
+         (target->form == FormId(PageId::E_Aux) || target->form == FormId(PageId::Katodex));
 }
 
 QPixmap PagePicture(Desktop& desktop, const CommandLine& line) {
@@ -99,7 +109,7 @@ std::string TakeScreenshot(const CommandLine& line, const std::string& langFile)
     return line.file + " is no configuration file";
   QPixmap picture = DialogPicture(desktop, dialogs, line.page);
   if (picture.isNull()) {
-    if (!line.page.empty() && !HasNode(core.profile, line.page))
+    if (!line.page.empty() && !LeadsToPage(core.profile, line.page))
       return "there is no page " + line.page + " for the " + core.profile.TargetName;
     picture = PagePicture(desktop, line);
   }

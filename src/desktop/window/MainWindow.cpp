@@ -14,6 +14,7 @@
 #include "platform/Settings.h"
 #include "shell/Configurator.h"
 #include "shell/ForeignKeys.h"
+#include "shell/NodeMarks.h"
 
 namespace ostrel {
 namespace {
@@ -75,6 +76,7 @@ MainWindow::MainWindow(const WindowParts& parts)
   configurator_.session.ServeRead = [this] { parts_.guard([this] { Read(); }); };
   configurator_.session.ServeWrite = [this] { parts_.guard([this] { Write(); }); };
   configurator_.session.OnModelDoubt = [this](const Phrase& doubt) { Tell(SentenceOf(doubt)); };
+  configurator_.context.repaintTree = Following(&MainWindow::PaintTree);
   navigation_.OnFrontChanged = Following(&MainWindow::ShowFront);
   configurator_.session.OnStateChanged = Following(&MainWindow::ShowSession);
   configurator_.session.OnTick = Following(&MainWindow::Look);
@@ -102,6 +104,7 @@ void MainWindow::LetGo() {
   configurator_.comms.Trace = nullptr;
   configurator_.OnForeignKeys = nullptr;
   configurator_.OnOtherModel = nullptr;
+  configurator_.context.repaintTree = nullptr;
   navigation_.OnTargetChanged = navigation_.OnFrontChanged = nullptr;
 }
 
@@ -134,6 +137,12 @@ void MainWindow::BuildTree() {
   };
   tree_->SetNodes(BuildNavigationTree(configurator_.profile, translate));
   tree_->Select(shownNode_);
+  PaintTree();
+}
+
+void MainWindow::PaintTree() {
+  tree_->Paint([this](const std::string& key) { return IsRedNode(key, configurator_.conf); },
+               Words::tr("In use"));
 }
 
 void MainWindow::GoTo(const std::string& key) {

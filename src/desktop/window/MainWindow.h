@@ -84,6 +84,7 @@ class MainWindow final : public QMainWindow {
 
   // What follows the configurator.
   void BuildTree();
+  void PaintTree();
   void ShowFront();
   void ShowTitle();
   void ShowLink();

@@ -62,6 +62,22 @@ void TreePane::SetNodes(const std::vector<TreeNode>& nodes) {
   quiet_ = wasQuiet;
 }
 
+void TreePane::Paint(const std::function<bool(const std::string& key)>& isRed,
+                     const QString& mark) {
+  constexpr QColor kRedOnLight(208, 0, 0), kRedOnDark(255, 107, 107);
+  constexpr int kMiddle = 128;
+  const bool isDark = palette().color(QPalette::Base).lightness() < kMiddle;
+  for (QTreeWidgetItemIterator it(tree_); *it; ++it) {
+    QTreeWidgetItem& item = **it;
+    const bool red = isRed(FromQt(item.data(0, kKeyRole).toString()));
+    const QVariant colour = red ? QVariant(QBrush(isDark ? kRedOnDark : kRedOnLight)) : QVariant();
+    if (item.data(0, Qt::ForegroundRole) == colour) continue;
+    item.setData(0, Qt::ForegroundRole, colour);
+    item.setToolTip(0, red ? mark : QString());
+    item.setData(0, Qt::AccessibleDescriptionRole, red ? mark : QString());
+  }
+}
+
 /// Keys of the groups that are open, or will be when the filter is taken away.
 std::set<QString> TreePane::OpenKeys() const {
   std::set<QString> keys;

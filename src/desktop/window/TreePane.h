@@ -23,6 +23,9 @@ class TreePane final : public QWidget {
   void SetNodes(const std::vector<TreeNode>& nodes);
   /// Marks a node as the one in front. Nothing is clicked by that.
   void Select(std::string_view key);
+  /// Paints nodes red or not, as the predicate says of their keys. `mark` are words for those who
+  /// do not see the colour.
+  void Paint(const std::function<bool(const std::string& key)>& isRed, const QString& mark);
   bool Has(std::string_view key) const { return Find(key) != nullptr; }
   /// The window's own words anew.
   void Retranslate();

@@ -672,5 +672,121 @@
         <comment>the state of the link</comment>
         <translation>Sesión abierta</translation>
     </message>
+    <message>
+        <source>Channel</source>
+        <translation>Canal</translation>
+    </message>
+    <message>
+        <source>Mode:</source>
+        <translation>Modo:</translation>
+    </message>
+    <message>
+        <source>Register</source>
+        <translation>Registro</translation>
+    </message>
+    <message>
+        <source>Size:</source>
+        <translation>Tamaño:</translation>
+    </message>
+    <message>
+        <source>Conversion</source>
+        <translation>Conversión</translation>
+    </message>
+    <message>
+        <source>Constant</source>
+        <translation>Constante</translation>
+    </message>
+    <message>
+        <source>Bit rate</source>
+        <translation>Velocidad en bit/s</translation>
+    </message>
+    <message>
+        <source>State:</source>
+        <translation>Estado:</translation>
+    </message>
+    <message>
+        <source>Interface:</source>
+        <translation>Interfaz:</translation>
+    </message>
+    <message>
+        <source>Flow meter</source>
+        <translation>Caudalímetro</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>Unidad</translation>
+    </message>
+    <message>
+        <source>Time base</source>
+        <translation>Base de tiempo</translation>
+    </message>
+    <message>
+        <source>Counter</source>
+        <translation>Contador</translation>
+    </message>
+    <message>
+        <source>Totaliser</source>
+        <translation>Totalizador</translation>
+    </message>
+    <message>
+        <source>In use</source>
+        <translation>En uso</translation>
+    </message>
+    <message>
+        <source>%1 is %2, %3 is %4</source>
+        <translation>%1 son %2, %3 son %4</translation>
+    </message>
+    <message>
+        <source>Both signals are the same: there is no scale.</source>
+        <translation>Ambas señales son iguales: no hay escala.</translation>
+    </message>
+    <message>
+        <source>Not enabled</source>
+        <translation>No habilitado</translation>
+    </message>
+    <message>
+        <source>Digital</source>
+        <translation>Digital</translation>
+    </message>
+    <message>
+        <source>Analog</source>
+        <translation>Analógica</translation>
+    </message>
+    <message>
+        <source>Totalisers</source>
+        <translation>Totalizadores</translation>
+    </message>
+    <message>
+        <source>Sampling</source>
+        <translation>Muestreo</translation>
+    </message>
+    <message>
+        <source>Equation</source>
+        <translation>Ecuación</translation>
+    </message>
+    <message>
+        <source>Probe</source>
+        <translation>Sonda</translation>
+    </message>
+    <message>
+        <source>First half of the identity</source>
+        <translation>Primera mitad de la identidad</translation>
+    </message>
+    <message>
+        <source>Second half of the identity</source>
+        <translation>Segunda mitad de la identidad</translation>
+    </message>
+    <message>
+        <source>Unit of the amount</source>
+        <translation>Unidad de la cantidad</translation>
+    </message>
+    <message>
+        <source>Mask:</source>
+        <translation>Máscara:</translation>
+    </message>
+    <message>
+        <source>Bit %1</source>
+        <translation>Bit n.º %1</translation>
+    </message>
 </context>
 </TS>

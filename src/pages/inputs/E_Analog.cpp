@@ -3,16 +3,23 @@
 #include "blocks/inputs/AnalogInputs.h"
 
 namespace ostrel {
+namespace {
+
+constexpr std::array<CodeOption, 5> kAnalogInterfaces{{
+    {"Int_NoHabil", "No habil.", kInterfaceOff},
+    {"Int_4_20", "4/20mA", kInterfaceCurrent},
+    {"Int_0_5", "0-5V", kInterface5V},
+    {"Int_0_10", "0-10V", kInterface10V},
+    {"Int_Press", "Presion", kInterfacePressure},
+}};
+
+}  // namespace
 
 AnalogChannel::AnalogChannel(Form& form, const PageContext& context)
     : context_(context),
       Nombre(form, "Nombre"),
       Unidad(form, "Unidad"),
-      Int_NoHabil(form, interface_, "Int_NoHabil", "No habil."),
-      Int_4_20(form, interface_, "Int_4_20", "4/20mA"),
-      Int_0_5(form, interface_, "Int_0_5", "0-5V"),
-      Int_0_10(form, interface_, "Int_0_10", "0-10V"),
-      Int_Press(form, interface_, "Int_Press", "Presion"),
+      interface_(form, {}, kAnalogInterfaces),
       Label1(form, "Label1", "Inicio escala:"),
       IE(form, "IE"),
       Label2(form, "Label2", "Fondo escala:"),
@@ -36,41 +43,38 @@ AnalogChannel::AnalogChannel(Form& form, const PageContext& context)
   fields_.Bind(Grupo, &ConfAnalog::GRUPO);
   Asterisk.face.SetCaption("*");
   for (int group = 0; group < 4; ++group) Grupo.Add(std::to_string(group), group);
-  Int_NoHabil.OnClick = [this] { ClickInterface(kInterfaceOff); };
-  Int_4_20.OnClick = [this] { ClickInterface(kInterfaceCurrent); };
-  Int_0_5.OnClick = [this] { ClickInterface(kInterface5V); };
-  Int_0_10.OnClick = [this] { ClickInterface(kInterface10V); };
-  Int_Press.OnClick = [this] { ClickInterface(kInterfacePressure); };
+  interface_.OnChosen = [this](std::int16_t code) { ShowJumpers(code); };
 }
 
 bool AnalogChannel::Activate() {
   const TargetProfile& model = context_.profile;
-  for (OptionButton* option : {&Int_Press, &Int_4_20, &Int_0_5, &Int_0_10})
-    option->face.SetEnabled(false);
+  const auto enable = [this](std::initializer_list<std::int16_t> codes, bool enabled) {
+    for (const std::int16_t code : codes) interface_.Option(code).face.SetEnabled(enabled);
+  };
+  enable({kInterfacePressure, kInterfaceCurrent, kInterface5V, kInterface10V}, false);
   for (Face* face : {&Label11.face, &Jumper.face, &Asterisk.face, &Notice.face})
     face->SetVisible(false);
   if (model.IsBP) {
-    for (OptionButton* option : {&Int_4_20, &Int_0_5, &Int_0_10}) option->face.SetEnabled(true);
+    enable({kInterfaceCurrent, kInterface5V, kInterface10V}, true);
     for (Face* face : {&Label11.face, &Jumper.face, &Asterisk.face, &Notice.face})
       face->SetVisible(true);
   }
   if (model.IsVR200) {
-    for (OptionButton* option : {&Int_4_20, &Int_0_10}) option->face.SetEnabled(true);
+    enable({kInterfaceCurrent, kInterface10V}, true);
     for (Face* face : {&Label11.face, &Jumper.face}) face->SetVisible(true);
   }
   for (Face* face : {&Label1.face, &Label2.face, &IE.face, &FE.face, &Grupo.face})
     face->SetEnabled(!model.IsBQ);
   if (model.IsBQ) {
-    Int_Press.face.SetEnabled(true);
+    enable({kInterfacePressure}, true);
     Jumper.face.SetVisible(false);
     Grupo.SetPosition(0);
   }
-  if (model.IsS100) Int_4_20.face.SetEnabled(true);
+  if (model.IsS100) enable({kInterfaceCurrent}, true);
   return true;
 }
 
-void AnalogChannel::ClickInterface(std::int16_t code) {
-  CurrentInterface_ = code;
+void AnalogChannel::ShowJumpers(std::int16_t code) {
   if (code == kInterface5V) Jumper.SetImage(1);
   if (code == kInterface10V && context_.profile.IsBP) Jumper.SetImage(2);
   if (code == kInterface10V && context_.profile.IsVR200) Jumper.SetImage(4);
@@ -78,33 +82,14 @@ void AnalogChannel::ClickInterface(std::int16_t code) {
   if (code == kInterfaceCurrent && context_.profile.IsVR200) Jumper.SetImage(5);
 }
 
-void AnalogChannel::ShowInterface(std::int16_t code) {
-  switch (code) {
-    case kInterfaceOff:
-      return Int_NoHabil.SetSelected(true);
-    case kInterfaceCurrent:
-      return Int_4_20.SetSelected(true);
-    case kInterface5V:
-      return Int_0_5.SetSelected(true);
-    case kInterface10V:
-      return Int_0_10.SetSelected(true);
-    case kInterfacePressure:
-      return Int_Press.SetSelected(true);
-    default:
-      // A code without an option is kept as it is.
-      for (OptionButton* option : interface_.Options()) option->SetSelected(false);
-      CurrentInterface_ = code;
-  }
-}
-
 void AnalogChannel::Load(const ConfAnalog& record) {
-  ShowInterface(record.INTERFAZ);
+  interface_.Load(record.INTERFAZ);
   fields_.Load(record);
 }
 
 void AnalogChannel::Save(ConfAnalog& record) const {
   fields_.Save(record);
-  record.INTERFAZ = CurrentInterface_;
+  record.INTERFAZ = interface_.Code();
 }
 
 }  // namespace ostrel

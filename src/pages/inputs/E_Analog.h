@@ -4,6 +4,7 @@
 
 #include "pages/ChannelPage.h"
 #include "pages/parts/BoundFields.h"
+#include "pages/parts/CodeChoice.h"
 
 namespace ostrel {
 
@@ -28,15 +29,13 @@ class AnalogChannel {
   void CheckNumbers() { fields_.CheckNumbers(); }
 
  private:
-  /// Selects the option of an interface code; a code without an option selects nothing.
-  void ShowInterface(std::int16_t code);
-  void ClickInterface(std::int16_t code);
+  /// Shows the jumpers of an interface, where the model has them.
+  void ShowJumpers(std::int16_t code);
 
   const PageContext& context_;
   BoundFields<ConfAnalog> fields_;
   TextBox Nombre, Unidad;
-  OptionGroup interface_;
-  OptionButton Int_NoHabil, Int_4_20, Int_0_5, Int_0_10, Int_Press;
+  CodeChoice interface_;
   Label Label1;
   TextBox IE;
   Label Label2;
@@ -46,7 +45,6 @@ class AnalogChannel {
   Label Label11;
   Picture Jumper;
   Label Asterisk, Notice;
-  std::int16_t CurrentInterface_ = 0;
 };
 
 using E_Analog = ChannelPage<AnalogChannel>;

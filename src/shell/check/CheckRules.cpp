@@ -218,11 +218,16 @@ std::vector<Finding> BadNumbers(const Examined& file) {
   return found;
 }
 
-constexpr std::array<Rule, 13> kRules{{
+constexpr std::array<Rule, 22> kRules{{
     {"text-breaks-statement", Severity::Error,
      "a comma or a control character in a text that is sent", BrokenTexts},
     {"too-many-statements", Severity::Error, "more statements than an upload can number",
      TooManyStatements},
+    {"modbus-out-of-range", Severity::Error, "a MODBUS address that the bus does not have",
+     ModbusOutOfRange},
+    {"expansion-out-of-range", Severity::Error,
+     "an expansion input in a mode, on a module or in a group that does not exist",
+     ExpansionOutOfRange},
     {"section-missing", Severity::Error, "a section of the model that is not in the file",
      MissingSections},
     {"key-missing", Severity::Error, "a key of a section that is not in the file", MissingKeys},
@@ -236,6 +241,19 @@ constexpr std::array<Rule, 13> kRules{{
      AlarmsForNobody},
     {"alarm-never-valid", Severity::Warning, "an enabled alarm that is valid on no day",
      AlarmsNeverValid},
+    {"thresholds-reversed", Severity::Warning, "an alarm whose minimum is above its maximum",
+     WrongOrderOfThresholds},
+    {"hysteresis-too-large", Severity::Warning, "a hysteresis larger than the band of its alarm",
+     WideHysteresis},
+    {"alarm-of-silent-channel", Severity::Warning, "an alarm on a channel that is off or not read",
+     AlarmsOfSilentChannels},
+    {"modbus-bit-rate", Severity::Warning, "a bit rate that the bus does not have", OddBitRates},
+    {"modbus-not-kept", Severity::Warning, "a MODBUS setting that does not come back as it is",
+     ModbusNotKept},
+    {"expansion-input-shared", Severity::Warning, "two expansion inputs on one input of a module",
+     SharedExpansionInputs},
+    {"expansion-no-interface", Severity::Warning, "an analog expansion input without an interface",
+     ExpansionWithoutInterface},
     {"setting-not-sent", Severity::Warning, "a setting that the firmware does not take",
      UnsentSettings},
     {"mask-not-sent", Severity::Warning, "a telephone's mask that the firmware cannot hold",

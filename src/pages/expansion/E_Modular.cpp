@@ -1,0 +1,114 @@
+#include "pages/expansion/E_Modular.h"
+
+#include <array>
+
+#include "blocks/expansion/ExpansionInputs.h"
+
+namespace ostrel {
+namespace {
+
+constexpr std::string_view kInputTitle = "Canal ";
+
+}  // namespace
+
+E_Modular::E_Modular(PageContext& context)
+    : context_(context),
+      form_("E_Modular", "Expansiones"),
+      frame_(form_),
+      digital_(form_, context),
+      flow_(form_, context),
+      counter_(form_, context),
+      analog_(form_, context),
+      help_(form_, "Help", ""),
+      Timer1_(form_, "Timer1", context.platform.loop, std::chrono::seconds(1)) {
+  digital_.OnActions = [this](auto list) { EditActionsOf<&ConfModulo::D>(list); };
+  flow_.OnActions = [this](auto list) { EditActionsOf<&ConfModulo::Q>(list); };
+  analog_.OnActions = [this](auto list) { EditActionsOf<&ConfModulo::A>(list); };
+  counter_.OnModify = [this] {
+    if (context_.showExpansionTotal) context_.showExpansionTotal(CurrentIndex_);
+  };
+  help_.OnClick = [this] { ShowHelp(); };
+  Timer1_.OnTimer = [this] { Tick(); };
+}
+
+void E_Modular::LoadText() {
+  form_.TranslateCaptions([this](std::string_view key) { return context_.Translate(key); });
+  frame_.SetTitle(context_.Translate(kInputTitle) + NumText(CurrentIndex_));
+}
+
+void E_Modular::ChangeIndex(std::int16_t index) {
+  Commit();
+  if (index < 0 || index >= ExpansionInputs::kInputs) return;
+  CurrentIndex_ = index;
+  Form_Load();
+}
+
+void E_Modular::Form_Load() {
+  digital_.Form_Load();
+  flow_.Form_Load();
+  analog_.Form_Load();
+  LoadText();
+  LoadData();
+  RepaintTree();
+  Timer1_.SetEnabled(context_.timersRun);
+}
+
+void E_Modular::Clear() {
+  ClearBlock(context_, Id());
+  LoadData();
+}
+
+void E_Modular::LoadData() {
+  const ConfModulo& input = Current();
+  frame_.Load(input);
+  digital_.LoadData(input.D);
+  flow_.LoadData(input.Q);
+  counter_.Load(input.C, context_.live.ModuloValue[CurrentIndex_]);
+  analog_.LoadData(input.A);
+}
+
+void E_Modular::RestoreConf() {
+  Clear();
+  RestoreBlock(context_, Id());
+  LoadData();
+  RepaintTree();
+}
+
+void E_Modular::SaveInto(DeviceConf& conf) const {
+  ConfModulo& input = conf.Modulo[CurrentIndex_];
+  frame_.Save(input);
+  digital_.Save(input.D);
+  flow_.Save(input.Q);
+  counter_.Save(input.C);
+  analog_.Save(input.A);
+}
+
+void E_Modular::Commit() {
+  if (!context_.ComBusy) SavePage();
+}
+
+void E_Modular::Tick() {
+  digital_.Tick();
+  flow_.Tick();
+  counter_.CheckNumbers();
+  analog_.Tick();
+  RepaintTree();
+}
+
+void E_Modular::RepaintTree() const {
+  if (context_.repaintTree) context_.repaintTree();
+}
+
+template <auto kPart>
+void E_Modular::EditActionsOf(ActionList AlarmBlock::*list) {
+  if (context_.ComBusy) return;  // the list is being replaced
+  context_.EditActions((Current().*kPart).ALARM[0].common.*list);
+}
+
+void E_Modular::ShowHelp() const {
+  constexpr std::array<std::string_view, 5> kHelpWords{"ExpNone", "ExpDigital", "ExpFlow",
+                                                       "ExpCounter", "ExpAnalog"};
+  context_.ShowHelp(kHelpWords.at(static_cast<std::size_t>(std::max(frame_.Mode(), 0))));
+}
+
+}  // namespace ostrel

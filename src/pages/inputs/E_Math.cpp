@@ -1,0 +1,36 @@
+#include "pages/inputs/E_Math.h"
+
+#include "blocks/inputs/InterfaceCodes.h"
+
+namespace ostrel {
+namespace {
+
+constexpr std::array<CodeOption, 2> kMathInterfaces{{
+    {"Int_NoHabil", "No habil.", kInterfaceOff},
+    {"Int_Habil", "Habil.", kInterfaceOn},
+}};
+
+}  // namespace
+
+MathChannel::MathChannel(Form& form, const PageContext&)
+    : Nombre(form, "Nombre"),
+      Unidad(form, "Unidad"),
+      interface_(form, {}, kMathInterfaces),
+      FrameEcuacion(form, "FrameEcuacion", "Ecuacion de conversion"),
+      Ecuacion(form, "Ecuacion") {
+  fields_.Bind(Nombre, &ConfMath::NOMBRE);
+  fields_.Bind(Unidad, &ConfMath::UNIDAD);
+  fields_.Bind(Ecuacion, &ConfMath::ECUACION);
+}
+
+void MathChannel::Load(const ConfMath& record) {
+  interface_.Load(record.INTERFAZ);
+  fields_.Load(record);
+}
+
+void MathChannel::Save(ConfMath& record) const {
+  fields_.Save(record);
+  record.INTERFAZ = interface_.Code();
+}
+
+}  // namespace ostrel

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <span>
+#include <string_view>
+#include <vector>
+
+#include "controls/Form.h"
+#include "pages/parts/ControlNames.h"
+
+namespace ostrel {
+
+/// An option that stands for a code.
+struct CodeOption {
+  std::string_view name;
+  std::string_view caption;
+  std::int16_t code;
+};
+
+/// Options that stand for the codes of a field. A code that none stands for selects none, and is
+/// kept until one is chosen.
+class CodeChoice {
+ public:
+  CodeChoice(Form& form, const ControlNames& names, std::span<const CodeOption> options);
+
+  void Load(std::int16_t code);
+  std::int16_t Code() const { return code_; }
+  void SetEnabled(bool enabled);
+  /// The option of a code; a broken invariant when there is none.
+  OptionButton& Option(std::int16_t code) const;
+
+  /// Runs when another option is selected.
+  std::function<void(std::int16_t code)> OnChosen;
+
+ private:
+  OptionGroup group_;
+  std::vector<std::unique_ptr<OptionButton>> buttons_;
+  std::vector<std::int16_t> codes_;  ///< of the buttons
+  std::int16_t code_ = 0;
+};
+
+}  // namespace ostrel

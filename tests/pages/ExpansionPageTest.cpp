@@ -1,0 +1,115 @@
+#include <gtest/gtest.h>
+
+#include "PageFixture.h"
+#include "pages/expansion/E_Modular.h"
+
+namespace ostrel {
+namespace {
+
+class ExpansionPage : public PageFixture {
+ protected:
+  ExpansionPage() {
+    SelectModel("Ostrel S100");
+    context.repaintTree = [this] { ++repaints; };
+    page.Form_Load();
+    page.Clear();
+  }
+
+  ComboBox& Combo(const char* name) { return page.GetForm().Get<ComboBox>(name); }
+  TextBox& Box(const char* name) { return page.GetForm().Get<TextBox>(name); }
+  int Tab() { return page.GetForm().Get<TabStrip>("SSTab1").Tab(); }
+
+  int repaints = 0;
+  E_Modular page{context};
+};
+
+TEST_F(ExpansionPage, AnAddressIsThatOfTheHexadecimalSwitch) {
+  page.ChangeIndex(95);
+  EXPECT_EQ(page.GetForm().Get<Label>("Titulo").face.Caption(), "Canal  95");
+  Combo("AddressCombo").SetPosition(15);
+  EXPECT_EQ(Combo("AddressCombo").Text(), "F");
+  Combo("InputCombo").SetPosition(7);
+  Combo("GroupCombo").SetPosition(15);
+  page.Form_Deactivate();
+  EXPECT_EQ(conf.Modulo[95].DIR, 15);
+  EXPECT_EQ(conf.Modulo[95].ENTRADA, 7);
+  EXPECT_EQ(conf.Modulo[95].GRUPO, 15);
+}
+
+TEST_F(ExpansionPage, TheModeChoosesTabAndHelp) {
+  const char* const words[] = {"ExpNone", "ExpDigital", "ExpFlow", "ExpCounter", "ExpAnalog"};
+  for (const int mode : {1, 2, 3, 4, 0}) {
+    Combo("ModeCombo").SetPosition(mode);
+    EXPECT_EQ(Tab(), mode);
+    page.GetForm().Get<Button>("Help").Click();
+    EXPECT_NE(processes.started.back().find(words[mode]), std::string::npos) << words[mode];
+  }
+}
+
+TEST_F(ExpansionPage, AnInputThatChangesItsModeLosesNothing) {
+  Combo("ModeCombo").SetPosition(2);
+  Box("Q_Nombre").Type("Caudal");
+  Box("Q_Ratio").Type("0.25");
+  Combo("ModeCombo").SetPosition(1);
+  page.GetForm().Get<OptionButton>("D_Int_NC").SetSelected(true);
+  page.ChangeIndex(1);
+  EXPECT_EQ(Box("Q_Nombre").Text(), "");
+  EXPECT_EQ(Tab(), 0);
+  page.ChangeIndex(0);
+  EXPECT_EQ(Tab(), 1);
+  EXPECT_EQ(Box("Q_Nombre").Text(), "Caudal");
+  EXPECT_EQ(conf.Modulo[0].Q.RATIO, 0.25F);
+  EXPECT_EQ(conf.Modulo[0].D.NC, kTrue);
+}
+
+TEST_F(ExpansionPage, WhatNoRowStandsForIsKept) {
+  conf.Modulo[1].MODO = 7;
+  conf.Modulo[1].DIR = -1;
+  conf.Modulo[1].A.INTERFAZ = 2;
+  Combo("ModeCombo").SetPosition(3);
+  page.ChangeIndex(1);
+  EXPECT_EQ(Combo("ModeCombo").Position(), -1);
+  EXPECT_EQ(Tab(), 0);
+  EXPECT_FALSE(page.GetForm().Get<OptionButton>("A_Int_4_20").Selected());
+  page.ChangeIndex(0);
+  EXPECT_EQ(conf.Modulo[1].MODO, 7);
+  EXPECT_EQ(conf.Modulo[1].DIR, -1);
+  EXPECT_EQ(conf.Modulo[1].A.INTERFAZ, 2);
+}
+
+TEST_F(ExpansionPage, EachTabHasItsAlarmAndItsLists) {
+  dialogs.OnEveryModal([&](Modal&) { ActionBuffer[0] = 5; });
+  for (const auto* name : {"D_BotonBajo", "Q_BotonNormal", "A_BotonAlto"}) {
+    page.GetForm().Get<CheckBox>(std::string(name, 2) + "AlarmaHabil").SetChecked(true);
+    page.GetForm().Get<Button>(name).Click();
+  }
+  const ConfModulo& input = conf.Modulo[0];
+  EXPECT_EQ(input.D.ALARM[0].common.ACTLO[0], 5);
+  EXPECT_EQ(input.Q.ALARM[0].common.ACTNO[0], 5);
+  EXPECT_EQ(input.A.ALARM[0].common.ACTHI[0], 5);
+  EXPECT_FALSE(page.GetForm().Contains("D_BotonNormal"));
+  EXPECT_FALSE(page.GetForm().Get<OptionButton>("A_Config1").face.Visible());
+  Box("Q_Unidad").Type("l/s");
+  const int before = repaints;
+  loop.RunFor(std::chrono::seconds(1));
+  EXPECT_EQ(page.GetForm().Get<Label>("Q_RatioUnit").face.Caption(), "l/s");
+  EXPECT_EQ(repaints, before + 1);
+}
+
+TEST_F(ExpansionPage, TheCalculatorAndTheTotalAreAskedFor) {
+  const TextBox* box = nullptr;
+  std::int16_t counter = -1;
+  context.showPulseCalculator = [&](TextBox& ratio) { box = &ratio; };
+  context.showExpansionTotal = [&](std::int16_t input) { counter = input; };
+  live.ModuloValue[9] = 41;
+  Connected = true;
+  page.ChangeIndex(9);
+  page.GetForm().Get<Button>("Q_HelpBut").Click();
+  page.GetForm().Get<Button>("C_BotonModificar").Click();
+  EXPECT_EQ(box, &Box("Q_Ratio"));
+  EXPECT_EQ(counter, 9);
+  EXPECT_EQ(page.GetForm().Get<Label>("C_TotalText").face.Caption(), " 41");
+}
+
+}  // namespace
+}  // namespace ostrel
