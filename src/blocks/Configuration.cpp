@@ -57,9 +57,7 @@ DeviceConf AsHeld(const DeviceConf& conf, const Receiver& receiver) {
 
 std::vector<std::string> ComposeStatements(const DeviceConf& conf, const Receiver& receiver) {
   StatementList statements;
-  for (const UploadStep& step : UploadOrder())
-    for (int channel = 0; channel < step.count(receiver); ++channel)
-      step.compose(conf, receiver, channel, statements);
+  for (const UploadStep& step : UploadOrder()) ComposeStep(step, conf, receiver, statements);
   return statements.All();
 }
 

@@ -33,7 +33,7 @@ class CommandContext {
   Console console;
   ConsoleDialogs dialogs;
   const Platform platform;  ///< that of the environment; the dialogs are those of the command line
-  bool traceLost = false;  ///< the trace could not be written whole
+  bool traceLost = false;   ///< the trace could not be written whole
 
   /// A configurator with the ports of the environment, on a model by its display name.
   std::unique_ptr<Configurator> MakeOnline(std::string_view model);

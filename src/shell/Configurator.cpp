@@ -70,7 +70,7 @@ Configurator::Configurator(const Platform& platform, ConfiguratorOptions options
       comms(platform_, {profile, info, live, totals, ComBusy}, MakeHooks()),
       bar_(comms.OnProgress(
           [&bar = general.Session().PBar](const Progress& progress) { ShowOnBar(progress, bar); })),
-      session(context, comms, general, Connected),
+      session(context, comms, general, Connected, [this] { ShowPages(); }),
       tools{.comms = comms,
             .dialogs = platform_.dialogs,
             .profile = profile,
@@ -116,7 +116,11 @@ LinkHooks Configurator::MakeHooks() {
   SessionFrame& frame = general.Session();
   return {
       .clearPages = [this] { ForEach(kClearAtDownload, &Page::Clear); },
-      .loadPages = [this] { ForEach(kLoadAfterDownload, &Page::LoadData); },
+      .loadPages =
+          [this] {
+            hasOrigin_ = true;
+            ForEach(kLoadAfterDownload, &Page::LoadData);
+          },
       .composed = [this] { session.KeepSent(); },
       .infoChanged = [this](std::string_view key) { general.ShowInfo(key); },
       .showPWForm = [this] { AskCode(); },
@@ -134,9 +138,7 @@ void Configurator::RegisterWire() {
   std::vector<WireBlock> blocks;
   for (const UploadStep& step : UploadOrder())
     blocks.push_back({step.name, [this, &step](StatementList& out) {
-                        const Receiver receiver{profile, info.Features};
-                        for (int channel = 0; channel < step.count(receiver); ++channel)
-                          step.compose(conf, receiver, channel, out);
+                        ComposeStep(step, conf, {profile, info.Features}, out);
                       }});
   comms.SetWire(std::move(sections), std::move(blocks));
 }
@@ -159,15 +161,18 @@ void Configurator::ForEach(std::span<const PageId> order, void (Page::*action)()
     if (Page* page = PageOf(id)) (page->*action)();
 }
 
+void Configurator::ShowPages() {
+  for (const auto& page : pages_) page->LoadData();
+}
+
+void Configurator::ShowConfiguration(const DeviceConf& shown) {
+  conf = shown;
+  ShowPages();
+}
+
 Page* Configurator::PageOf(PageId id) const {
   for (const auto& page : pages_)
     if (page->Id() == id) return page.get();
-  return nullptr;
-}
-
-Page* Configurator::PageNamed(std::string_view name) const {
-  for (const auto& page : pages_)
-    if (page->GetForm().Name() == name) return page.get();
   return nullptr;
 }
 
@@ -202,8 +207,8 @@ void Configurator::Start(const std::string& commandLine) {
   const std::string idioma = settings.Idioma();
   if (idioma.empty() || settings.ComPort().empty()) {
     settings.SetComPort("1");
-    langForm.AskUser();
-    settings.SetIdioma(std::to_string(lang.SelectedLang()));
+    if (langForm.AskUser() || idioma.empty())
+      settings.SetIdioma(std::to_string(lang.SelectedLang()));
     keepsStoredLanguage_ = true;
   }
   // A language chosen at the first run applies from the next start on.

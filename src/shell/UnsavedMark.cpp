@@ -13,14 +13,15 @@ DeviceConf UnsavedMark::WithFront() const {
 }
 
 void UnsavedMark::Keep(const DeviceConf& safe) {
-  kept_ = Texts(safe);
+  kept_ = safe;
   Touch();
 }
 
 bool UnsavedMark::Changed() {
   if (configurator_.ComBusy || !touched_) return changed_;
   touched_ = false;
-  changed_ = Texts(WithFront()) != kept_;
+  const DeviceConf present = WithFront();
+  changed_ = present != kept_ && Texts(present) != Texts(kept_);
   return changed_;
 }
 

@@ -33,7 +33,7 @@ class UnsavedMark {
 
   Configurator& configurator_;
   Navigation& navigation_;
-  std::vector<std::string> kept_;
+  DeviceConf kept_;
   bool touched_ = true;
   bool changed_ = false;
 };

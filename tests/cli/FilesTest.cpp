@@ -155,7 +155,8 @@ std::string Sound() {
   std::string text = "[General]\r\nVERSION=VR200\r\nNOMBRE=Bomba\r\nRENVT= 10\r\nRENVN= 3\r\n";
   text += "TLFM 0=+34600100200,Prio=1,PRV0,MASKMODE1,DI2\r\n[DIGITAL 2]\r\nNOMBRE=Puerta\r\n";
   text += "HABIL( 0)=True\r\nSMS( 0)=True\r\nTEXTO( 0)=Abierta\r\nSIEMPRE( 0)=True\r\n";
-  text += "SEMANA( 0)= 127\r\nACTHI( 0 0)= 5\r\n[MODBUS 0]\r\nOTHER=1\r\n";
+  text +=
+      "SEMANA( 0)= 127\r\nACTHI( 0 0)= 5\r\n[MODBUS 0]\r\nOTHER=1\r\n[MODBUS]\r\nBAUD= 9600\r\n";
   return text;
 }
 
@@ -167,8 +168,27 @@ struct RuleCase {
   int code = 0;
 };
 
+/// The samples have but a few of the sections and keys.
+constexpr std::string_view kPartly = " --silence section-missing --silence key-missing";
+
+/// Looks at a sound file with the change.
+void ExpectRule(const std::string& sound, const RuleCase& one) {
+  World world;
+  world.files.contents["/a.ocf"] = sound;
+  world.Edit("/a.ocf", one.from, one.to);
+  const std::string check = "check /a.ocf" + std::string(kPartly) + one.options;
+  EXPECT_EQ(world.Run(check + " --json"), one.code) << one.to;
+  const QJsonArray findings = world.Json().object()["findings"].toArray();
+  EXPECT_EQ(findings.size(), one.rule.empty() ? 0 : 1) << one.to << '\n' << world.out;
+  if (findings.empty() || one.rule.empty()) return;
+  EXPECT_EQ(findings[0].toObject()["rule"].toString().toStdString(), one.rule) << one.to;
+  EXPECT_EQ(findings[0].toObject()["severity"].toString().toStdString(),
+            one.code == 1 ? "error" : "warning");
+  EXPECT_EQ(world.Run(check + " --silence " + one.rule), 0);
+  EXPECT_EQ(world.out, "") << "a rule can be silenced";
+}
+
 TEST(Check, FindsEachMistakeByItsRule) {
-  const std::string kWhole = " --silence section-missing";  // the sample has but a few
   const std::string shortMasks = " --features ffeffff";
   for (const RuleCase& one : std::vector<RuleCase>{
            {"Bomba", "Bomba", "", ""},
@@ -207,19 +227,55 @@ TEST(Check, FindsEachMistakeByItsRule) {
            {"+34600100200", "34-600", "", "bad-telephone"},
            {"+34600100200", "12", "", "bad-telephone"},
        }) {
-    World world;
-    world.files.contents["/a.ocf"] = Sound();
-    world.Edit("/a.ocf", one.from, one.to);
-    EXPECT_EQ(world.Run("check /a.ocf --json" + kWhole + one.options), one.code) << one.to;
-    const QJsonArray findings = world.Json().object()["findings"].toArray();
-    EXPECT_EQ(findings.size(), one.rule.empty() ? 0 : 1) << one.to << '\n' << world.out;
-    if (findings.empty() || one.rule.empty()) continue;
-    EXPECT_EQ(findings[0].toObject()["rule"].toString().toStdString(), one.rule) << one.to;
-    EXPECT_EQ(findings[0].toObject()["severity"].toString().toStdString(),
-              one.code == 1 ? "error" : "warning");
-    EXPECT_EQ(world.Run("check /a.ocf" + kWhole + one.options + " --silence " + one.rule), 0);
-    EXPECT_EQ(world.out, "") << "a rule can be silenced";
+    ExpectRule(Sound(), one);
   }
+}
+
+TEST(Check, FindsEachMistakeOfABusByItsRule) {
+  const std::string sound =
+      "[General]\r\nVERSION=VR200\r\n[ANALOG 1]\r\nINTERFAZ= 1\r\nHABIL( 2)=True\r\n"
+      "SIEMPRE( 2)=True\r\nMINIMO( 2)= 1\r\nMAXIMO( 2)= 5\r\nHISTERESIS( 2)= 4\r\n"
+      "[MODBUS 9]\r\nSLAVE= 1\r\nMULT= 2\r\nANALOG_MODE=True\r\nHABIL( 0)=True\r\n"
+      "SIEMPRE( 0)=True\r\nMAXIMO( 0)= 3\r\n[MODBUS]\r\nBAUD= 9600";
+  for (const RuleCase& one : std::vector<RuleCase>{
+           {"BAUD= 9600", "BAUD= 9600", "", ""},
+           {"MINIMO( 2)= 1", "MINIMO( 2)= 6", "", "thresholds-reversed"},
+           {"HISTERESIS( 2)= 4", "HISTERESIS( 2)= 4.5", "", "hysteresis-too-large"},
+           {"HABIL( 2)=True\r\nSIEMPRE( 2)=True\r\nMINIMO( 2)= 1", "MINIMO( 2)= 6", "", ""},
+           {"INTERFAZ= 1", "INTERFAZ= 0", "", "alarm-of-silent-channel"},
+           {"MULT= 2", "MULT= 0", "", "alarm-of-silent-channel"},
+           {"SLAVE= 1", "SLAVE= 0", "", "alarm-of-silent-channel"},
+           {"SLAVE= 1", "SLAVE= 248", "", "modbus-out-of-range", 1},
+           {"SLAVE= 1", "SLAVE= 1\r\nREGADD=-1", "", "modbus-out-of-range", 1},
+           {"BAUD= 9600", "BAUD= 9600\r\nMASTER=False\r\nSLAVE_ADDRESS= 300", "",
+            "modbus-out-of-range", 1},
+           {"BAUD= 9600", "OTHER=1", "", "modbus-bit-rate"},
+           {"BAUD= 9600", "BAUD= 300", "", "modbus-bit-rate"},
+           {"MULT= 2", "MULT=-2", "", "modbus-not-kept"},
+           {"MULT= 2", "MULT= 2\r\nTYPE= 3", "", "modbus-not-kept"},
+           {"MULT= 2", "MULT= 2\r\nSIZE32=True", "", "modbus-not-kept"},
+           {"MULT= 2", "MULT= 2\r\nSIZE32=False", "", ""},
+           {"MULT= 2\r\nANALOG_MODE=True", "MASCARA= 1\r\nMINIMO( 0)= 9", "", ""},
+       })
+    ExpectRule(sound, one);
+}
+
+TEST(Check, FindsEachMistakeOfExpansionInputsByItsRule) {
+  const std::string sound =
+      "[General]\r\nVERSION=OSTREL_S100\r\n[MINPUT 3]\r\nMODO= 1\r\nDIR= 2\r\nENTRADA= 5\r\n"
+      "[MINPUT 95]\r\nMODO= 4\r\nDIR= 2\r\nENTRADA= 6\r\n[MINPUT.A 95]\r\nINTERFAZ= 3\r\n"
+      "[MINPUT 96]\r\nMODO= 9\r\nDIR= 2\r\nENTRADA= 5";
+  for (const RuleCase& one : std::vector<RuleCase>{
+           {"DIR= 2", "DIR= 2", "", ""},
+           {"ENTRADA= 6", "ENTRADA= 5", "", "expansion-input-shared"},
+           {"MODO= 4\r\nDIR= 2\r\nENTRADA= 6", "MODO= 0\r\nDIR= 2\r\nENTRADA= 5", "", ""},
+           {"INTERFAZ= 3", "INTERFAZ= 0", "", "expansion-no-interface"},
+           {"MODO= 1", "MODO= 5", "", "expansion-out-of-range", 1},
+           {"ENTRADA= 6", "ENTRADA= 8", "", "expansion-out-of-range", 1},
+           {"DIR= 2", "DIR= 16", "", "expansion-out-of-range", 1},
+           {"DIR= 2", "GRUPO=-1", "", "expansion-out-of-range", 1},
+       })
+    ExpectRule(sound, one);
 }
 
 TEST(Check, FindsNothingInWhatASimulatedLoggerHolds) {
@@ -236,15 +292,18 @@ TEST(Check, FindsThatAFileWasCut) {
   world.HaveFile("/a.ocf");
   std::string& text = world.files.contents["/a.ocf"];
   text.resize(text.find("[FLAG 14]"));
-  EXPECT_EQ(world.Run("check /a.ocf"), 0);
-  EXPECT_THAT(world.out, HasSubstr("warning: [FLAG 14]: this section and "));
+  EXPECT_EQ(world.Run("check /a.ocf"), 1);
+  EXPECT_THAT(world.out, HasSubstr("error: [FLAG 14]: this section and "));
+  text.resize(text.rfind("NOMBRE="));
+  EXPECT_EQ(world.Run("check /a.ocf --silence section-missing"), 1);
+  EXPECT_THAT(world.out, HasSubstr("error: [MODBUS 31] NOMBRE: this key and "));
 }
 
 TEST(Check, SaysWhereAndWhatHelps) {
   World world;
   world.files.contents["/a.ocf"] = Sound();
   world.Edit("/a.ocf", "Bomba", "Bomba, sur");
-  EXPECT_EQ(world.Run("check /a.ocf --silence section-missing"), 1);
+  EXPECT_EQ(world.Run("check /a.ocf --silence section-missing --silence key-missing"), 1);
   EXPECT_EQ(world.out,
             "error: [GENERAL] NOMBRE: a comma ends the text on the line: write something else for "
             "it (text-breaks-statement)\n");

@@ -78,7 +78,7 @@ TEST_F(ExpansionPage, WhatNoRowStandsForIsKept) {
 }
 
 TEST_F(ExpansionPage, EachTabHasItsAlarmAndItsLists) {
-  dialogs.OnEveryModal([&](Form&) { ActionBuffer[0] = 5; });
+  dialogs.OnEveryModal([&](Modal&) { ActionBuffer[0] = 5; });
   for (const auto* name : {"D_BotonBajo", "Q_BotonNormal", "A_BotonAlto"}) {
     page.GetForm().Get<CheckBox>(std::string(name, 2) + "AlarmaHabil").SetChecked(true);
     page.GetForm().Get<Button>(name).Click();

@@ -16,7 +16,7 @@ class Tools : public testing::Test {
   void Connect() { ASSERT_TRUE(program.session.Open(SimWorld::kPort, "")); }
   /// Shows the form that `open` opens, while the operator does `work` in it.
   void In(const std::function<void()>& open, const std::function<void(Form&)>& work) {
-    world.dialogs.OnModal(work);
+    world.dialogs.OnModal([work](Modal& modal) { work(AsForm(modal)); });
     open();
     EXPECT_EQ(world.dialogs.Unused(), 0u);
   }
@@ -36,7 +36,7 @@ class ProbeTool : public Tools {
 
 TEST_F(Tools, TotalsAreSetInASession) {
   Connect();
-  Page& page = *program.PageNamed("Caudal");
+  Page& page = *program.PageOf(PageId::Caudal);
   page.ChangeIndex(1);
   In([&] { page.GetForm().Get<Button>("BotonModificar").Click(); },
      [&](Form& form) {
@@ -93,7 +93,7 @@ TEST_F(Tools, WithoutASessionNothingIsSet) {
 }
 
 TEST_F(Tools, TheRatioGoesIntoTheFieldThatAskedForIt) {
-  Page& page = *program.PageNamed("Caudal");
+  Page& page = *program.PageOf(PageId::Caudal);
   page.GetForm().Get<OptionButton>("Int_Habil").SetSelected(true);
   In([&] { page.GetForm().Get<Button>("HelpBut").Click(); },
      [&](Form& form) {
@@ -136,7 +136,7 @@ TEST_F(Tools, BitsAddUp) {
 
 TEST_F(ProbeTool, ReadsTheIdentityOfTheProbe) {
   Connect();
-  Page& page = *program.PageNamed("E_OneWire");
+  Page& page = *program.PageOf(PageId::E_OneWire);
   page.GetForm().Get<OptionButton>("OptionId").SetSelected(true);
   Press(page.GetForm(), "BotonLeerId");
   EXPECT_EQ(world.dialogs.boxes.size(), 1u);

@@ -11,6 +11,10 @@
 
 namespace ostrel {
 
+/// The bit rates of the bus that an operator can choose.
+inline constexpr std::array<std::int32_t, 7> kModbusBitRates{1200,   2400,   4800,  9600,
+                                                             19'200, 38'400, 57'600};
+
 /// The MODBUS port of a configuration.
 struct ModbusBus {
   static constexpr SectionMeta kSection{"MODBUS", "MODBUS bus", ""};

@@ -2,6 +2,7 @@
 
 #include <QAbstractButton>
 #include <QLabel>
+#include <QStackedWidget>
 #include <QWidget>
 
 namespace ostrel {
@@ -14,6 +15,32 @@ bool IsKey(QChar letter) { return letter.isLetterOrNumber() && letter.unicode() 
 
 QString Marked(const QString& caption, qsizetype position) {
   return EscapedCaption(caption.left(position)) + kMark + EscapedCaption(caption.mid(position));
+}
+
+/// The tab that a widget stands on; null for none.
+const QWidget* TabOf(const QWidget* widget, const QWidget& root) {
+  for (const QWidget* above = widget->parentWidget(); above && above != &root;
+       above = above->parentWidget())
+    if (qobject_cast<const QStackedWidget*>(above->parentWidget())) return above;
+  return nullptr;
+}
+
+/// Assigns keys to what stands on one tab, or on none.
+void AssignOn(QWidget& root, const QWidget* tab, std::set<QChar>& taken) {
+  // Buttons and boxes first: a field can also be reached by tabbing from its neighbour.
+  for (auto* button : root.findChildren<QAbstractButton*>()) {
+    const QString caption = WithoutAccessKey(button->text());
+    if (TabOf(button, root) != tab || button->isHidden() || caption.isEmpty() ||
+        button->property("noAccessKey").toBool())
+      continue;
+    button->setText(WithAccessKey(caption, taken));
+  }
+  for (auto* label : root.findChildren<QLabel*>()) {
+    if (TabOf(label, root) != tab || !label->buddy() ||
+        label->buddy()->focusPolicy() == Qt::NoFocus || label->isHidden())
+      continue;
+    label->setText(WithAccessKey(WithoutAccessKey(label->text()), taken));
+  }
 }
 
 }  // namespace
@@ -44,18 +71,14 @@ QString WithAccessKey(const QString& caption, std::set<QChar>& taken) {
 }
 
 void AssignAccessKeys(QWidget& root) {
-  std::set<QChar> taken;
-  // Buttons and boxes first: a field can also be reached by tabbing from its neighbour.
-  for (auto* button : root.findChildren<QAbstractButton*>()) {
-    const QString caption = WithoutAccessKey(button->text());
-    if (button->isHidden() || caption.isEmpty() || button->property("noAccessKey").toBool())
-      continue;
-    button->setText(WithAccessKey(caption, taken));
-  }
-  for (auto* label : root.findChildren<QLabel*>()) {
-    if (!label->buddy() || label->buddy()->focusPolicy() == Qt::NoFocus || label->isHidden())
-      continue;
-    label->setText(WithAccessKey(WithoutAccessKey(label->text()), taken));
+  std::set<QChar> common;
+  AssignOn(root, nullptr, common);
+  // Of several tabs one is seen at a time: each has what the rest of the form leaves.
+  for (const auto* tabs : root.findChildren<QStackedWidget*>()) {
+    for (int i = 0; i < tabs->count(); ++i) {
+      std::set<QChar> taken = common;
+      AssignOn(root, tabs->widget(i), taken);
+    }
   }
 }
 

@@ -42,8 +42,9 @@ void LayOutMaskCalculator(FormView& view) {
   auto* bits = new QGridLayout;
   // Columns of four, the lowest bit first.
   for (int bit = 0; bit < kMaskBoxes; ++bit)
-    bits->addWidget(view.Show("BitCheck(" + std::to_string(bit) + ")"), bit % kMaskColumns,
-                    bit / kMaskColumns);
+    bits->addWidget(
+        view.ShowNamed("BitCheck(" + std::to_string(bit) + ")", Words::tr("Bit %1").arg(bit)),
+        bit % kMaskColumns, bit / kMaskColumns);
   bits->setHorizontalSpacing(18);
   dialog->addLayout(bits);
   QLabel* label = view.LabelFor("Resultado", Words::tr("Mask:"));

@@ -28,7 +28,8 @@ constexpr const char* kTable = "/Lang.txt";
 QPixmap DialogPicture(Desktop& desktop, VirtualDialogs& dialogs, const std::string& key) {
   Configurator& core = desktop.Core();
   QPixmap picture;
-  dialogs.OnEveryModal([&](Form& form) {
+  dialogs.OnEveryModal([&](Modal& modal) {
+    Form& form = AsForm(modal);
     const std::unique_ptr<FormView> view(MakeView(form, desktop.Window().Context()));
     view->show();
     picture = view->grab();
@@ -38,7 +39,7 @@ QPixmap DialogPicture(Desktop& desktop, VirtualDialogs& dialogs, const std::stri
   if (key == core.setTotal.GetForm().Name()) core.context.showTotal(0);
   if (key == core.expSetTotal.GetForm().Name()) core.context.showExpansionTotal(0);
   if (key == core.ayuda.GetForm().Name())
-    core.context.showPulseCalculator(core.PageNamed("Caudal")->GetForm().Get<TextBox>("Ratio"));
+    core.context.showPulseCalculator(core.PageOf(PageId::Caudal)->GetForm().Get<TextBox>("Ratio"));
   if (key == core.ayudaHex.GetForm().Name()) core.context.showMaskCalculator();
   if (key == core.pwForm.GetForm().Name()) core.pwForm.ShowModal(code);
   if (key == core.langForm.GetForm().Name()) core.langForm.AskUser();
@@ -53,7 +54,8 @@ bool LeadsToPage(const TargetProfile& model, const std::string& key) {
       BuildNavigationTree(model, [](std::string_view text) { return std::string(text); });
   if (std::ranges::find(nodes, key, &TreeNode::key) != nodes.end()) return true;
   const auto target = FindNodeTarget(key, model, true);
-  return target && (target->page == "E_Aux" || target->page == "Katodex");
+  return target &&
+         (target->form == FormId(PageId::E_Aux) || target->form == FormId(PageId::Katodex));
 }
 
 QPixmap PagePicture(Desktop& desktop, const CommandLine& line) {

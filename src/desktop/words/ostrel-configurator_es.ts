@@ -784,5 +784,9 @@
         <source>Mask:</source>
         <translation>Máscara:</translation>
     </message>
+    <message>
+        <source>Bit %1</source>
+        <translation>Bit n.º %1</translation>
+    </message>
 </context>
 </TS>

@@ -1,13 +1,8 @@
 #include "pages/bus/CONF_MODBUS.h"
 
-#include <array>
+#include "blocks/bus/ModbusBus.h"
 
 namespace ostrel {
-namespace {
-
-constexpr std::array<std::int32_t, 7> kBitRates{1200, 2400, 4800, 9600, 19'200, 38'400, 57'600};
-
-}  // namespace
 
 ModbusBusControls::ModbusBusControls(Form& form, PageContext& context)
     : context_(context),
@@ -21,7 +16,7 @@ ModbusBusControls::ModbusBusControls(Form& form, PageContext& context)
       LabelAddress(form, "LabelAddress", "Slave Address:"),
       SlaveAddress(form, "SlaveAddress"),
       notice_(form, context, Feature::ModbusSlave, "no soporta el modo esclavo en MODBUS.") {
-  for (const std::int32_t rate : kBitRates) ComboVelocidad.Add(std::to_string(rate), rate);
+  for (const std::int32_t rate : kModbusBitRates) ComboVelocidad.Add(std::to_string(rate), rate);
   fields_.Bind(SlaveAddress, &ConfModbusBus::SLAVE_ADDRESS, NumberForm::Num, kInt);
   MasterOpt.OnClick = [this] { ShowRole(false); };
   SlaveOpt.OnClick = [this] { ShowRole(true); };
@@ -35,8 +30,8 @@ void ModbusBusControls::ShowRole(bool isSlave) {
 
 void ModbusBusControls::LoadData() {
   const ConfModbusBus& bus = context_.conf.ModbusBus;
-  for (std::size_t row = 0; row < kBitRates.size(); ++row)
-    if (kBitRates[row] == bus.BAUD) ComboVelocidad.SetPosition(static_cast<int>(row));
+  for (std::size_t row = 0; row < kModbusBitRates.size(); ++row)
+    if (kModbusBitRates[row] == bus.BAUD) ComboVelocidad.SetPosition(static_cast<int>(row));
   (bus.MASTER ? MasterOpt : SlaveOpt).SetSelected(true);
   fields_.Load(bus);
 }

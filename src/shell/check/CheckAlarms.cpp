@@ -39,25 +39,23 @@ bool AnyAdmits(const Examined& file, const std::string& token) {
   return false;
 }
 
-/// Visits the alarms that are enabled and that the logger gets to know.
-void VisitEnabled(const Examined& file, const AlarmVisitor& visit) {
+}  // namespace
+
+void VisitEnabledAlarms(const Examined& file, const AlarmVisitor& visit) {
   const Receiver receiver{file.Model(), file.Features().value_or(kEveryFeature)};
   VisitAlarms(file.Conf(), receiver, [&](const AlarmPlace& place, const AlarmBlock& alarm) {
     if (alarm.HABIL) visit(place, alarm);
   });
 }
 
-/// A finding at one field of an alarm.
 Finding AtAlarm(const AlarmPlace& place, std::string_view word, std::string sentence) {
   const FieldId id{place.section, place.channel, word, {.config = place.config}};
   return {SectionName(id), KeyName(id, PlaceForm::InBrackets), std::move(sentence)};
 }
 
-}  // namespace
-
 std::vector<Finding> AlarmsForNobody(const Examined& file) {
   std::vector<Finding> found;
-  VisitEnabled(file, [&](const AlarmPlace& place, const AlarmBlock& alarm) {
+  VisitEnabledAlarms(file, [&](const AlarmPlace& place, const AlarmBlock& alarm) {
     if (!alarm.SMS && !alarm.VOZ) return;
     const std::string token = TokenOf(place, file.Model().IsS100);
     if (token.empty() || AnyAdmits(file, token)) return;
@@ -70,7 +68,7 @@ std::vector<Finding> AlarmsForNobody(const Examined& file) {
 
 std::vector<Finding> AlarmsNeverValid(const Examined& file) {
   std::vector<Finding> found;
-  VisitEnabled(file, [&](const AlarmPlace& place, const AlarmBlock& alarm) {
+  VisitEnabledAlarms(file, [&](const AlarmPlace& place, const AlarmBlock& alarm) {
     if (alarm.valid.SIEMPRE || (alarm.valid.SEMANA & kAllDays) != 0) return;
     found.push_back(AtAlarm(place, "SEMANA",
                             "the alarm is enabled but valid on no day, which a logger takes for "

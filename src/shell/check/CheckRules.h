@@ -58,6 +58,9 @@ class Examined {
   mutable SentProbe fullProbe_;  ///< under all features
 };
 
+/// A finding in words: "[DIGITAL(0)] NOMBRE: a comma ends the text ...".
+std::string FindingText(const Finding& finding);
+
 struct Rule {
   std::string_view id;
   Severity severity;
@@ -77,8 +80,24 @@ struct FoundByRule {
 /// Runs all rules but the silenced ones, which are named by their ids.
 std::vector<FoundByRule> Examine(const Examined& file, std::span<const std::string> silenced);
 
+/// Visits the alarms that are enabled and that the logger gets to know.
+void VisitEnabledAlarms(const Examined& file, const AlarmVisitor& visit);
+/// A finding at one field of an alarm.
+Finding AtAlarm(const AlarmPlace& place, std::string_view word, std::string sentence);
+
 // The rules on alarms, which stand in a file of their own.
 std::vector<Finding> AlarmsForNobody(const Examined& file);
 std::vector<Finding> AlarmsNeverValid(const Examined& file);
+
+// The rules on channels, which stand in another one.
+std::vector<Finding> WrongOrderOfThresholds(const Examined& file);
+std::vector<Finding> WideHysteresis(const Examined& file);
+std::vector<Finding> AlarmsOfSilentChannels(const Examined& file);
+std::vector<Finding> ModbusOutOfRange(const Examined& file);
+std::vector<Finding> OddBitRates(const Examined& file);
+std::vector<Finding> ModbusNotKept(const Examined& file);
+std::vector<Finding> SharedExpansionInputs(const Examined& file);
+std::vector<Finding> ExpansionOutOfRange(const Examined& file);
+std::vector<Finding> ExpansionWithoutInterface(const Examined& file);
 
 }  // namespace ostrel
