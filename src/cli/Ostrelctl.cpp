@@ -51,8 +51,8 @@ void AddGlobals(CLI::App& app, GlobalOptions& options) {
 
 std::vector<Command> AddCommands(CLI::App& app) {
   std::vector<Command> commands;
-  for (const auto add : {AddPorts, AddInfo, AddClock, AddLive, AddOutput, AddTotal, AddDownload,
-                         AddUpload, AddStatements, AddDiff, AddShow, AddCheck})
+  for (const auto add : {AddPorts, AddInfo, AddClock, AddLive, AddOutput, AddTotal, AddProbe, AddDownload,
+                         AddUpload, AddStatements, AddDiff, AddShow, AddCheck, AddCalc})
     commands.push_back(add(app));
   for (const Command& command : commands) command.parser->fallthrough();
   app.require_subcommand(1);

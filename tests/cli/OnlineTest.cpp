@@ -89,6 +89,23 @@ TEST(Online, SetsOutputsAndTotals) {
   EXPECT_THAT(world.err, HasSubstr("the logger refused the setting: \"#BE0\""));
 }
 
+TEST(Online, SetsExpansionTotalsAndReadsTheProbe) {
+  World world;
+  EXPECT_EQ(world.Run("total 5 --expansion --port sim:S100 --json"), 0) << world.err;
+  EXPECT_TRUE(world.Json().object()["expansion"].toBool());
+  EXPECT_TRUE(world.Json().object()["total"].isDouble());
+  EXPECT_EQ(world.Run("probe --port sim:KA1"), 0) << world.err;
+  EXPECT_THAT(world.out, testing::MatchesRegex("([0-9]{3}\\.){7}[0-9]{3}\n"));
+}
+
+TEST(Calc, GivesWhatTheCalculatorsGive) {
+  World world;
+  EXPECT_EQ(world.Run("calc pulse 10 l 60 m3/h"), 0) << world.err;
+  EXPECT_EQ(world.out, "0.6\n");
+  EXPECT_EQ(world.Run("calc mask 0 2 15 --json"), 0) << world.err;
+  EXPECT_EQ(world.Json().object()["mask"].toInt(), 32773);
+}
+
 TEST(Online, KeepsASimulatedLoggerInAFileWhenToldTo) {
   World world;
   EXPECT_EQ(world.Run("output 1 on --port sim:KA1 --sim-state /ka1.state"), 0);

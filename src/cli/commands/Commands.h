@@ -21,11 +21,13 @@ Command AddClock(CLI::App& app);
 Command AddLive(CLI::App& app);
 Command AddOutput(CLI::App& app);
 Command AddTotal(CLI::App& app);
+Command AddProbe(CLI::App& app);
 Command AddDownload(CLI::App& app);
 Command AddUpload(CLI::App& app);
 Command AddStatements(CLI::App& app);
 Command AddDiff(CLI::App& app);
 Command AddShow(CLI::App& app);
 Command AddCheck(CLI::App& app);
+Command AddCalc(CLI::App& app);
 
 }  // namespace ostrel::cli
