@@ -20,8 +20,8 @@ constexpr const char* kFooter =
     "130  interrupted while no dialogue was under way\n";
 
 std::string NoModel(const std::string& name) {
-  return FindModel(name) ? std::string()
-                         : name + " is none of KA1 KA2 VR200 S100 BP BQ or their display names";
+  return FindTarget(name) ? std::string()
+                          : name + " is none of KA1 KA2 VR200 S100 BP BQ or their display names";
 }
 
 std::string NoFeatures(const std::string& text) {

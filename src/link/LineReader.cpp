@@ -2,8 +2,6 @@
 
 #include <algorithm>
 
-#include "model/Assign.h"
-
 namespace ostrel {
 
 std::string_view FieldOfLine(std::string_view line, int n) { return FieldOf(line, n); }
@@ -29,11 +27,6 @@ std::string_view LineReader::Field() {
 
 void LineReader::Skip(int fields) {
   for (int i = 0; i < fields; ++i) Field();
-}
-
-float LineReader::ToFloat(double number, float former) {
-  Assign(former, number);
-  return former;
 }
 
 }  // namespace ostrel

@@ -3,8 +3,10 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <type_traits>
 
 #include "base/Values.h"
+#include "model/Assign.h"
 
 namespace ostrel {
 
@@ -28,19 +30,15 @@ class LineReader {
   void Skip(int fields);
 
   void Into(std::string& field) { field = Text(); }
-  void Into(float& field) { field = ToFloat(Number(), field); }
   /// A number outside the field's width leaves the field as it was.
-  template <std::integral T>
-  void Into(T& field) {
-    field = RoundToEven<T>(Number()).value_or(field);
-  }
+  template <class T>
+  requires std::is_arithmetic_v<T>
+  void Into(T& field) { Assign(field, Number()); }
 
   /// The whole line, for what is not comma-separated.
   std::string_view Line() const { return line_; }
 
  private:
-  static float ToFloat(double number, float former);
-
   std::string_view line_;
   std::size_t position_ = 0;  ///< start of the next field; beyond the end when there is none
 };

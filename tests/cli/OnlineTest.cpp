@@ -1,4 +1,5 @@
 #include "cli/World.h"
+#include "lang/Lang.h"
 
 namespace ostrel::cli {
 namespace {
@@ -87,6 +88,43 @@ TEST(Online, SetsOutputsAndTotals) {
   EXPECT_FALSE(world.Json().object()["set"].toBool(true));
   EXPECT_EQ(world.Run("total 8 44 --port sim:VR200"), 4);
   EXPECT_THAT(world.err, HasSubstr("the logger refused the setting: \"#BE0\""));
+}
+
+/// A short dialogue tells what ended itself, not what an earlier one came to.
+TEST(Online, SaysWhatEndedAShortDialogue) {
+  // The opening of a session takes 1.9 s; the dialogue of the command is the next.
+  constexpr auto kSessionStands = std::chrono::milliseconds(1950);
+  struct Silent final : LineDevice {
+    void Receive(std::string_view) override {}
+    void SetTerminalReady(bool) override {}
+  } other;
+  for (const std::string command : {"live", "clock", "clock --set", "total 3", "output 1 on"}) {
+    for (const bool held : {true, false}) {
+      World world;
+      LinePort& port = world.simulated.Port();
+      world.loop.After(kSessionStands, "fault", [&] {
+        if (held)
+          port.HoldOutput(253, true);
+        else
+          port.AddDevice(253, "other", "", other);
+      });
+      EXPECT_EQ(world.Run(command + " --port sim:VR200"), 4) << command;
+      EXPECT_THAT(world.err, HasSubstr(held ? "the line at COM253 (sim:VR200) was held"
+                                            : "COM253 (sim:VR200) has gone"))
+          << command;
+      port.HoldOutput(253, false);
+    }
+  }
+}
+
+TEST(Online, AFullTranslationTableEndsNoCommand) {
+  World world;
+  std::string rows = "{Es}{En}\r\n";
+  for (int row = 1; row < kLangRows; ++row) rows += "{t" + std::to_string(row) + "}\r\n";
+  world.files.contents["/home/user/data/Lang.txt"] = rows;
+  EXPECT_EQ(world.Run("download /a.ocf --lang 2 --port sim:BQ"), 0) << world.err;
+  EXPECT_EQ(world.Run("show /a.ocf --lang 2"), 0) << world.err;
+  EXPECT_EQ(world.files.contents["/home/user/data/Lang.txt"], rows);
 }
 
 TEST(Online, KeepsASimulatedLoggerInAFileWhenToldTo) {

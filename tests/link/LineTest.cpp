@@ -162,6 +162,49 @@ TEST_F(LineTest, TraceShowsMessagesWithTheirTimeAndNoCode) {
                          "      100 TxSer: #11****", "      200 TxGsm: AT", "      200 RxGsm: OK"));
 }
 
+/// A stale line that comes when there is no time left to ask is no answer.
+TEST_F(LineTest, ADrainThatIsCutOffLeavesNoAnswer) {
+  Line& line = comms.TheLine();
+  const std::pair<std::string, std::function<void()>> cases[] = {
+      {Frames("#A2260115083005"), [&] { line.Ask("#5D"); }},
+      {"OK\r", [&] { line.AskModem("AT", 100); }},
+  };
+  for (const auto& [stale, ask] : cases) {
+    const TimerId talk = loop.Every(milliseconds(90), "talk", [&] { logger.end->Send(stale); });
+    line.Converse(milliseconds(90), [&] {
+      ask();
+      EXPECT_EQ(comms.RxLine, "");
+      EXPECT_EQ(line.WaitFault().kind, Kind::OutOfTime);
+      return LinkFault{};
+    });
+    loop.Cancel(talk);
+    loop.RunFor(seconds(1));
+    port.Input();
+  }
+  EXPECT_EQ(logger.raw, "");
+}
+
+/// It would tear its frame, and its rest could be a frame of its own.
+TEST_F(LineTest, AMessageWithAControlCharacterIsNeverSent) {
+  const std::string torn = "#45000ID=a\r#64;40";
+  Line& line = comms.TheLine();
+  const LinkResult result = line.Converse(kNever, [&] {
+    EXPECT_FALSE(line.Post(torn));
+    EXPECT_FALSE(line.Ask("#40"));
+    return line.WaitFault(7);
+  });
+  EXPECT_EQ(result.Fault().kind, Kind::Unsendable);
+  EXPECT_EQ(result.Fault().number, 7);
+  comms.TxGsm("ATD6\nATZ", 0);
+  EXPECT_EQ(Send("#\x7F", 1000), "#\x7F");
+  EXPECT_EQ(logger.raw, "");
+  EXPECT_EQ(trace.front(),
+            "        0 Not sent, it holds a control character: #45000ID=a\\x0d#64;40");
+  EXPECT_TRUE(line.Converse(kNever, [&] { return line.AskFor("#40", ""); }).Fault().kind ==
+              Kind::Silence)
+      << "the next dialogue is free";
+}
+
 TEST_F(LineTest, TraceTellsOfOctetsThatNobodyTook) {
   for (int second = 0; second < 3; ++second) {
     logger.end->Send(std::string(10'000, 'x'));

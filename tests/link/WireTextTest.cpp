@@ -72,12 +72,5 @@ TEST(WireText, TraceHidesAccessCodes) {
   for (const auto& [text, shown] : cases) EXPECT_EQ(MaskCode(text), shown);
 }
 
-TEST(CheckSiempre, IsAllDaysAndTheWholeDay) {
-  EXPECT_TRUE(CheckSiempre(0, 86399, 127) && CheckSiempre(0, 86400, 255));
-  EXPECT_FALSE(CheckSiempre(0, 86398, 127));
-  EXPECT_FALSE(CheckSiempre(1, 86399, 127));
-  EXPECT_FALSE(CheckSiempre(0, 86399, 126));
-}
-
 }  // namespace
 }  // namespace ostrel

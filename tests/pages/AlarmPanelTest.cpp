@@ -96,6 +96,16 @@ TEST_F(AlarmPage, AnotherChannelCommitsAndShowsItsConfiguration0) {
   EXPECT_EQ(page.CurrentIndex(), 3) << "there is no such channel";
 }
 
+TEST_F(AlarmPage, AFlagThatNoRowStandsForIsKept) {
+  Cell(0, 0).FLAG = 3;
+  Cell(0, 1).FLAG = 20;
+  page.LoadData();
+  Option("Config1").SetSelected(true);
+  EXPECT_EQ(page.GetForm().Get<ComboBox>("FlagCombo").Text(), "");
+  page.SavePage();
+  EXPECT_EQ(Cell(0, 1).FLAG, 20);
+}
+
 TEST_F(AlarmPage, TheActionEditorWorksOnTheRowOfItsButton) {
   Cell(0, 0).HABIL = kTrue;
   Cell(0, 0).ACTNO[0] = 42;

@@ -70,6 +70,14 @@ TEST_F(IniToolTest, AFileIsReadOnceUntilItIsForgotten) {
   EXPECT_EQ(Read("A", "k"), "1");
 }
 
+TEST_F(IniToolTest, AControlCharacterNeverTearsALine) {
+  IniClass ini(files);
+  ini.NewINI();
+  ConfWriteKey("a\r\nb=2\r\n[C]", "A", "k", ini);
+  ConfWriteKey("\x01z", "A", "l", ini);
+  EXPECT_EQ(ini.OutputINI(), "[A]\r\nk=a\r\nl=");
+}
+
 TEST_F(IniToolTest, TheLargestDocumentComesBack) {
   IniClass ini(files);
   ini.NewINI();

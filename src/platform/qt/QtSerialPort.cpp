@@ -213,6 +213,7 @@ void QtSerialPort::Close() {
 
 void QtSerialPort::TakeIn() {
   loop_.Cancel(std::exchange(takeTimer_, 0));
+  if (!device_ || lost_) return;
   const bool isRead = loop_.Now() - readAt_ < kReaderPatience;
   const auto room = static_cast<qint64>(received_.Size() - received_.Count());
   const QByteArray octets = device_->read(isRead ? room : kMostAtOnce);
