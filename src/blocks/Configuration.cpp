@@ -50,9 +50,7 @@ void VisitAlarms(const DeviceConf& conf, const Receiver& receiver, const AlarmVi
 
 std::vector<std::string> ComposeStatements(const DeviceConf& conf, const Receiver& receiver) {
   StatementList statements;
-  for (const UploadStep& step : UploadOrder())
-    for (int channel = 0; channel < step.count(receiver); ++channel)
-      step.compose(conf, receiver, channel, statements);
+  for (const UploadStep& step : UploadOrder()) ComposeStep(step, conf, receiver, statements);
   return statements.All();
 }
 

@@ -22,6 +22,12 @@ UploadStep StepOf(std::string_view name, PageId page) {
 
 }  // namespace
 
+void ComposeStep(const UploadStep& step, const DeviceConf& conf, const Receiver& receiver,
+                 StatementList& out) {
+  for (int channel = 0; channel < step.count(receiver); ++channel)
+    step.compose(conf, receiver, channel, out);
+}
+
 std::span<const UploadStep> UploadOrder() {
   using enum PageId;
   static const std::array steps{

@@ -80,6 +80,10 @@ struct UploadStep {
                   StatementList& out);
 };
 
+/// Adds all statements of a step.
+void ComposeStep(const UploadStep& step, const DeviceConf& conf, const Receiver& receiver,
+                 StatementList& out);
+
 /// The blocks of an upload in the order of sending.
 std::span<const UploadStep> UploadOrder();
 

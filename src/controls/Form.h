@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "controls/Controls.h"
+#include "platform/Dialogs.h"
 
 namespace ostrel {
 
@@ -21,7 +22,7 @@ Face& FaceOf(const ControlRef& control);
 enum class Pointer { Default = 0, Hourglass = 11 };
 
 /// A form knows its controls by name. It is drawn elsewhere, and works without being drawn.
-class Form {
+class Form final : public Modal {
  public:
   /// `titleKey` is the Spanish title, under which the language table knows it.
   Form(std::string_view name, std::string_view titleKey);
@@ -77,5 +78,8 @@ class Form {
   std::vector<ControlRef> controls_;
   std::unordered_map<std::string, std::size_t> byName_;
 };
+
+/// The form that a face is asked to show.
+inline Form& AsForm(Modal& modal) { return static_cast<Form&>(modal); }
 
 }  // namespace ostrel

@@ -5,8 +5,6 @@
 
 namespace ostrel {
 
-class Form;
-
 enum class BoxIcon { None, Information, Question, Exclamation };
 enum class BoxButtons { Ok, YesNo };
 enum class BoxAnswer { Ok, Yes, No };
@@ -29,6 +27,13 @@ struct FileQuestion {
   std::string suggested{};  ///< path to start from, if any
 };
 
+/// What a face shows until it is closed: a form. A platform hands it through and does not look
+/// inside.
+class Modal {
+ protected:
+  ~Modal() = default;
+};
+
 /// What asks the operator, modal; injected because each face asks in its own way.
 class Dialogs {
  public:
@@ -39,8 +44,8 @@ class Dialogs {
   /// Asks for the access code of a logger; `prompt` is translated. Empty when the operator gives
   /// none.
   virtual std::string AskCode(const std::string& prompt) = 0;
-  /// Shows a form until its logic closes it (`Form::Close`) or the operator dismisses it.
-  virtual void ShowModal(Form& form) = 0;
+  /// Shows a form until its logic closes it or the operator dismisses it.
+  virtual void ShowModal(Modal& modal) = 0;
   virtual void Beep() = 0;
 };
 

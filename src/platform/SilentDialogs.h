@@ -16,7 +16,7 @@ class SilentDialogs final : public Dialogs {
   }
   std::optional<std::string> ChooseFile(const FileQuestion&) override { return {}; }
   std::string AskCode(const std::string&) override { return {}; }
-  void ShowModal(Form&) override {}
+  void ShowModal(Modal&) override {}
   void Beep() override {}
 };
 

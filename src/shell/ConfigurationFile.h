@@ -2,6 +2,7 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 
 #include "blocks/Clearing.h"
 #include "model/DeviceConf.h"
@@ -15,6 +16,9 @@ struct ModelConfiguration {
   TargetProfile profile;
   DeviceConf conf;
 };
+
+/// The name of the model that a file's stamp leads to; empty when it leads to none.
+std::string_view ModelOfStamp(std::string_view stamp);
 
 /// Reads a configuration file beside the present configuration, no question asked. `present` is
 /// the model in use, whose counts stay where the file's model does not set them. Nothing when the

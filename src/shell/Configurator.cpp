@@ -88,9 +88,7 @@ void Configurator::RegisterWire() {
   std::vector<WireBlock> blocks;
   for (const UploadStep& step : UploadOrder())
     blocks.push_back({step.name, [this, &step](StatementList& out) {
-                        const Receiver receiver{profile, info.Features};
-                        for (int channel = 0; channel < step.count(receiver); ++channel)
-                          step.compose(conf, receiver, channel, out);
+                        ComposeStep(step, conf, {profile, info.Features}, out);
                       }});
   comms.SetWire(std::move(sections), std::move(blocks));
 }
@@ -120,12 +118,6 @@ void Configurator::ForEach(std::span<const PageId> order, void (Page::*action)()
 Page* Configurator::PageOf(PageId id) const {
   for (const auto& page : pages_)
     if (page->Id() == id) return page.get();
-  return nullptr;
-}
-
-Page* Configurator::PageNamed(std::string_view name) const {
-  for (const auto& page : pages_)
-    if (page->GetForm().Name() == name) return page.get();
   return nullptr;
 }
 
@@ -159,8 +151,8 @@ void Configurator::Start(const std::string& commandLine) {
   const std::string idioma = settings.Idioma();
   if (idioma.empty() || settings.ComPort().empty()) {
     settings.SetComPort("1");
-    langForm.AskUser();
-    settings.SetIdioma(std::to_string(lang.SelectedLang()));
+    if (langForm.AskUser() || idioma.empty())
+      settings.SetIdioma(std::to_string(lang.SelectedLang()));
     keepsStoredLanguage_ = true;
   }
   // A language chosen at the first run applies from the next start on.

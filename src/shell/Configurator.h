@@ -90,8 +90,6 @@ class Configurator {
 
   /// The page; null when this build has none.
   Page* PageOf(PageId id) const;
-  /// The page of a name; null when this build has none.
-  Page* PageNamed(std::string_view name) const;
   const std::vector<std::unique_ptr<Page>>& Pages() const { return pages_; }
   /// Every form of the program: the pages' and the dialogs'.
   std::vector<Form*> Forms();

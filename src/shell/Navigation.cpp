@@ -8,8 +8,6 @@
 namespace ostrel {
 namespace {
 
-constexpr std::string_view kTargetSelect = "TargetSelect";
-
 /// Keys that stand for one page as they are.
 struct PlainRow {
   std::string_view key;
@@ -17,38 +15,42 @@ struct PlainRow {
 };
 
 constexpr std::array<PlainRow, 10> kPlain{{
-    {"Caudal", {"SampleRate", {}}},
-    {"General", {"General", std::int16_t{0}}},
-    {"Grupos", {"Grupos", {}}},
-    {"MODBUS", {"CONF_MODBUS", {}}},
-    {"Aut_Voz", {"Aut_Voz", {}}},
-    {"GPRS", {"GPRS", {}}},
-    {"Macros", {"Macros", {}}},
-    {"Firmware", {"Firm", {}}},
-    {"Terminal", {"Terminal", {}}},
-    {"PCAT", {"Katodex", {}}},
+    {"Caudal", {PageId::SampleRate, {}}},
+    {"General", {PageId::General, std::int16_t{0}}},
+    {"Grupos", {PageId::Grupos, {}}},
+    {"MODBUS", {PageId::CONF_MODBUS, {}}},
+    {"Aut_Voz", {PageId::Aut_Voz, {}}},
+    {"GPRS", {PageId::GPRS, {}}},
+    {"Macros", {PageId::Macros, {}}},
+    {"Firmware", {ToolId::Firm, {}}},
+    {"Terminal", {ToolId::Terminal, {}}},
+    {"PCAT", {PageId::Katodex, {}}},
 }};
 
 /// Keys of a stem and a channel number.
 struct NumberedRow {
   std::string_view stem;
-  std::string_view page;
+  PageId page;
   int last;
 };
 
 constexpr std::array<NumberedRow, 9> kNumbered{{
-    {"E_Analog_", "E_Analog", 3},
-    {"E_OneWire_", "E_OneWire", 3},
-    {"E_Math_", "E_Math", 3},
-    {"Caudal_", "Caudal", 7},
-    {"E_Digital_", "E_Digital", 8},
-    {"MODBUS_", "E_MODBUS", 31},
-    {"Flag_", "Flags", 15},
-    {"E_Aux_", "E_Aux", 3},
-    {"Modulo_", "E_Modular", 95},
+    {"E_Analog_", PageId::E_Analog, 3},
+    {"E_OneWire_", PageId::E_OneWire, 3},
+    {"E_Math_", PageId::E_Math, 3},
+    {"Caudal_", PageId::Caudal, 7},
+    {"E_Digital_", PageId::E_Digital, 8},
+    {"MODBUS_", PageId::E_MODBUS, 31},
+    {"Flag_", PageId::Flags, 15},
+    {"E_Aux_", PageId::E_Aux, 3},
+    {"Modulo_", PageId::E_Modular, 95},
 }};
 
-constexpr std::array<std::string_view, 4> kTimerPages{"CTimer", "WTimer", "MTimer", "LTimer"};
+constexpr std::array<std::pair<std::string_view, PageId>, 4> kTimerPages{
+    {{"CTimer", PageId::CTimer},
+     {"WTimer", PageId::WTimer},
+     {"MTimer", PageId::MTimer},
+     {"LTimer", PageId::LTimer}}};
 /// Ends of the keys of timer blocks, with the first timer of each.
 constexpr std::array<std::pair<std::string_view, std::int16_t>, 4> kTimerBlocks{
     {{"0_3", 0}, {"4_7", 4}, {"8_11", 8}, {"12_15", 12}}};
@@ -65,10 +67,10 @@ std::optional<NodeTarget> FindNumbered(std::string_view key) {
 }
 
 std::optional<NodeTarget> FindTimers(std::string_view key) {
-  for (const std::string_view page : kTimerPages) {
-    if (!key.starts_with(page)) continue;
+  for (const auto& [stem, page] : kTimerPages) {
+    if (!key.starts_with(stem)) continue;
     for (const auto& [end, first] : kTimerBlocks)
-      if (key.substr(page.size()) == end) return NodeTarget{page, first};
+      if (key.substr(stem.size()) == end) return NodeTarget{page, first};
   }
   return {};
 }
@@ -76,11 +78,11 @@ std::optional<NodeTarget> FindTimers(std::string_view key) {
 std::optional<NodeTarget> FindByModel(std::string_view key, const TargetProfile& model) {
   if (key == "T_Real") {
     if (model.IsBP || model.IsVR200 || model.IsKA2 || model.IsKA1 || model.IsBQ || model.IsS100)
-      return NodeTarget{"T_Real_Tavro", {}};
+      return NodeTarget{ToolId::T_Real_Tavro, {}};
   } else if (key == "TEST") {
-    if (model.IsBP) return NodeTarget{"Test", {}};
-    if (model.IsBQ) return NodeTarget{"TestBQ", {}};
-    if (model.IsKA2) return NodeTarget{"TestKA2", {}};
+    if (model.IsBP) return NodeTarget{ToolId::Test, {}};
+    if (model.IsBQ) return NodeTarget{ToolId::TestBQ, {}};
+    if (model.IsKA2) return NodeTarget{ToolId::TestKA2, {}};
   }
   return {};
 }
@@ -90,7 +92,7 @@ std::optional<NodeTarget> FindByModel(std::string_view key, const TargetProfile&
 std::optional<NodeTarget> FindNodeTarget(std::string_view key, const TargetProfile& model,
                                          bool universal) {
   if (key == "Tavro") {
-    if (universal) return NodeTarget{kTargetSelect, {}};
+    if (universal) return NodeTarget{ToolId::TargetSelect, {}};
     return {};
   }
   for (const PlainRow& row : kPlain)
@@ -100,7 +102,7 @@ std::optional<NodeTarget> FindNodeTarget(std::string_view key, const TargetProfi
   return FindByModel(key, model);
 }
 
-Navigation::Navigation(Configurator& configurator, std::span<const std::string_view> staysOpen)
+Navigation::Navigation(Configurator& configurator, std::span<const FormId> staysOpen)
     : configurator_(configurator), staysOpen_(staysOpen) {
   configurator_.OnTargetChanged = [this] {
     if (OnTargetChanged) OnTargetChanged();
@@ -120,10 +122,9 @@ NodeResult Navigation::NodeClick(std::string_view key) {
 NodeResult Navigation::Open(std::string_view key) {
   const auto target = FindNodeTarget(key, configurator_.profile, configurator_.Universal);
   if (!target) return NodeResult::Nothing;
-  if (!FormNamed(target->page)) return NodeResult::NotBuilt;
-  if (Page* page = configurator_.PageNamed(target->page); page && target->index)
-    page->ChangeIndex(*target->index);
-  Show(target->page);
+  if (!FormOf(target->form)) return NodeResult::NotBuilt;
+  if (Page* page = PageOf(target->form); page && target->index) page->ChangeIndex(*target->index);
+  Show(target->form);
   return NodeResult::Shown;
 }
 
@@ -132,9 +133,9 @@ void Navigation::HideAll() {
   Settle();
 }
 
-bool Navigation::ShowForm(std::string_view name) {
-  if (!FormNamed(name)) return false;
-  Show(name);
+bool Navigation::ShowForm(FormId id) {
+  if (!FormOf(id)) return false;
+  Show(id);
   Settle();
   return true;
 }
@@ -144,38 +145,41 @@ void Navigation::CommitFront() {
   if (page && !configurator_.ComBusy) page->SavePage();
 }
 
-Form* Navigation::Front() const { return open_.empty() ? nullptr : FormNamed(open_.back()); }
+Form* Navigation::Front() const { return open_.empty() ? nullptr : FormOf(open_.back()); }
 
-Page* Navigation::FrontPage() const {
-  return open_.empty() ? nullptr : configurator_.PageNamed(open_.back());
+Page* Navigation::FrontPage() const { return open_.empty() ? nullptr : PageOf(open_.back()); }
+
+/// The page; null for a tool, or when this build has none.
+Page* Navigation::PageOf(FormId id) const {
+  const PageId* page = std::get_if<PageId>(&id);
+  return page ? configurator_.PageOf(*page) : nullptr;
 }
 
-Form* Navigation::FormNamed(std::string_view name) const {
-  if (name == kTargetSelect) return &configurator_.targetSelect.GetForm();
-  Page* page = configurator_.PageNamed(name);
-  return page ? &page->GetForm() : nullptr;
+Form* Navigation::FormOf(FormId id) const {
+  if (Page* page = PageOf(id)) return &page->GetForm();
+  return id == FormId(ToolId::TargetSelect) ? &configurator_.targetSelect.GetForm() : nullptr;
 }
 
-bool Navigation::StaysOpen(std::string_view name) const {
-  return std::ranges::find(staysOpen_, name) != staysOpen_.end();
+bool Navigation::StaysOpen(FormId id) const {
+  return std::ranges::find(staysOpen_, id) != staysOpen_.end();
 }
 
 /// Hides what does not stay open. A page that stays keeps the front if it has it.
 void Navigation::Hide() {
   if (!open_.empty() && !StaysOpen(open_.back())) Deactivate();
-  std::erase_if(open_, [this](const std::string& name) {
-    if (StaysOpen(name)) return false;
-    FormNamed(name)->Hide();
+  std::erase_if(open_, [this](FormId id) {
+    if (StaysOpen(id)) return false;
+    FormOf(id)->Hide();
     return true;
   });
 }
 
 /// Puts a form above all others, without activating it.
-void Navigation::Show(std::string_view name) {
-  if (!open_.empty() && open_.back() != name) Deactivate();
-  std::erase(open_, name);
-  open_.emplace_back(name);
-  FormNamed(name)->Show();
+void Navigation::Show(FormId id) {
+  if (!open_.empty() && open_.back() != id) Deactivate();
+  std::erase(open_, id);
+  open_.push_back(id);
+  FormOf(id)->Show();
 }
 
 /// Activates what has come to the front.

@@ -1,14 +1,15 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <functional>
 #include <optional>
 #include <span>
-#include <string>
 #include <string_view>
 #include <vector>
 
 #include "model/TargetProfile.h"
+#include "shell/FormId.h"
 
 namespace ostrel {
 
@@ -25,8 +26,10 @@ enum class NodeResult {
 
 /// Where a node leads.
 struct NodeTarget {
-  std::string_view page;
+  FormId form;
   std::optional<std::int16_t> index;  ///< channel that the page shows; none for a page without
+
+  bool operator==(const NodeTarget&) const = default;
 };
 
 /// The page of a node's key; nothing for a key that opens none. `universal` lets the root open the
@@ -36,8 +39,8 @@ std::optional<NodeTarget> FindNodeTarget(std::string_view key, const TargetProfi
 
 /// The pages that stay open once they have been opened: those of single MODBUS channels, of
 /// expansion inputs and of one test. The page shown next covers them.
-inline constexpr std::array<std::string_view, 3> kPagesThatStayOpen{"E_MODBUS", "E_Modular",
-                                                                    "TestBQ"};
+inline constexpr std::array<FormId, 3> kPagesThatStayOpen{PageId::E_MODBUS, PageId::E_Modular,
+                                                          ToolId::TestBQ};
 
 /// Shows one page at a time and knows which is in front. A page is deactivated, and so commits,
 /// when it loses the front, and activated when it gets it. A page that stays open has the front
@@ -46,7 +49,7 @@ inline constexpr std::array<std::string_view, 3> kPagesThatStayOpen{"E_MODBUS", 
 class Navigation {
  public:
   explicit Navigation(Configurator& configurator,
-                      std::span<const std::string_view> staysOpen = kPagesThatStayOpen);
+                      std::span<const FormId> staysOpen = kPagesThatStayOpen);
   ~Navigation();
   Navigation(const Navigation&) = delete;
   Navigation& operator=(const Navigation&) = delete;
@@ -55,8 +58,8 @@ class Navigation {
   NodeResult NodeClick(std::string_view key);
   /// Hides every page but those that stay open.
   void HideAll();
-  /// Brings a page, or the choice of the model, to the front. False when there is none of the name.
-  bool ShowForm(std::string_view name);
+  /// Brings a page, or the choice of the model, to the front. False when this build has none.
+  bool ShowForm(FormId id);
   /// Commits the page in front to the model.
   void CommitFront();
 
@@ -64,7 +67,6 @@ class Navigation {
   Form* Front() const;
   /// The page in front; null when there is none, or another form has the front.
   Page* FrontPage() const;
-  /// The page in front; null when there is none or the front is not a page.
 
   /// Runs after another form is in front, or none. Set by the window.
   std::function<void()> OnFrontChanged;
@@ -72,19 +74,20 @@ class Navigation {
   std::function<void()> OnTargetChanged;
 
  private:
-  Form* FormNamed(std::string_view name) const;
-  bool StaysOpen(std::string_view name) const;
+  Page* PageOf(FormId id) const;
+  Form* FormOf(FormId id) const;
+  bool StaysOpen(FormId id) const;
   void Hide();
   NodeResult Open(std::string_view key);
-  void Show(std::string_view name);
+  void Show(FormId id);
   void Settle();
   void Activate();
   void Deactivate();
 
   Configurator& configurator_;
-  std::span<const std::string_view> staysOpen_;
-  std::vector<std::string> open_;  ///< names of the forms that are shown, the covered ones first
-  bool isActive_ = false;          ///< the last of them has the front
+  std::span<const FormId> staysOpen_;
+  std::vector<FormId> open_;  ///< the forms that are shown, the covered ones first
+  bool isActive_ = false;     ///< the last of them has the front
 };
 
 }  // namespace ostrel

@@ -59,7 +59,7 @@ void SessionDriver::Tick() {
   if (!comms_.LinkBusy && session_.IniRequest) OpenOrClose();
   if (!Connected_ || !general_.PageActive) return;
   const auto serve = [this](bool& request, bool (SessionDriver::*transfer)()) {
-    if (!request) return;
+    if (!request || !Connected_) return;
     const AtEnd served([&] {
       request = false;
       SetState(state_);
@@ -68,7 +68,7 @@ void SessionDriver::Tick() {
   };
   serve(session_.WriteRequest, &SessionDriver::Upload);
   serve(session_.ReadRequest, &SessionDriver::Download);
-  comms_.ReadInfo();
+  if (Connected_) comms_.ReadInfo();
 }
 
 void SessionDriver::OpenOrClose() {
@@ -92,17 +92,21 @@ bool SessionDriver::Open(std::int16_t port, const std::string& phone) {
   Working opening(*this, SessionPhase::Opening);
   session_.ComStat.face.SetCaption(
       "", context_.Translate("Detectando ") + context_.profile.TargetName + "...");
-  Connected_ = comms_.StartComs(port, phone);
-  if (Connected_) ReadAfterConnect();
-  // Whoever breaks the opening off closes the port.
-  Connected_ = comms_.PortOpen();
-  ShowState();
+  {
+    const AtEnd shown([this] {
+      Connected_ = comms_.PortOpen();  // whoever breaks the opening off closes the port
+      ShowState();
+    });
+    Connected_ = comms_.StartComs(port, phone);
+    if (Connected_) ReadAfterConnect();
+  }
   opening.Ended(Connected_);
   return Connected_;
 }
 
 void SessionDriver::BreakOff() {
   brokenOff_ = true;
+  session_.ReadRequest = session_.WriteRequest = false;
   comms_.Abort();
   if (state_.phase != SessionPhase::Open) return;  // what is under way ends by itself now
   Connected_ = false;
@@ -171,6 +175,11 @@ bool SessionDriver::Transfer(SessionPhase kind, std::string_view status, std::st
     form.SetEnabled(false);
     session_.EnableTransfers(false);
     const AtEnd ended([&] {
+      SetStatus(end.done ? success : "Error!");
+      if (brokenOff_) {
+        Connected_ = false;
+        ShowState();
+      }
       session_.EnableTransfers(Connected_);
       form.SetEnabled(true);
       form.SetMousePointer(Pointer::Default);
@@ -183,11 +192,6 @@ bool SessionDriver::Transfer(SessionPhase kind, std::string_view status, std::st
     const bool reads = kind == SessionPhase::Reading;
     end.done = reads ? comms_.ReadConf() : comms_.WriteConf();
     end.held = reads ? context_.conf : std::move(sent_);
-    SetStatus(end.done ? success : "Error!");
-    if (brokenOff_) {
-      Connected_ = false;
-      ShowState();
-    }
     working.Ended(end.done);
   }
   if (OnTransferEnded) OnTransferEnded(end);

@@ -67,7 +67,7 @@ TEST_F(WindowTools, MarksWhatIsNotSavedWithoutCommittingIt) {
   Core().TargetDeviceChange("Ostrel VR200");
   EXPECT_FALSE(isMarked()) << "another model";
   Window().GoTo("E_Digital_0");
-  auto& name = Core().PageNamed("E_Digital")->GetForm().Get<TextBox>("Nombre");
+  auto& name = Core().PageOf(PageId::E_Digital)->GetForm().Get<TextBox>("Nombre");
   name.Type("pump");
   EXPECT_TRUE(isMarked());
   EXPECT_EQ(Core().conf.Digital[0].NOMBRE, "");
@@ -79,7 +79,7 @@ TEST_F(WindowTools, OpensATreeNodeFromTheFilter) {
   TreePane& tree = Window().Tree();
   auto* filter = tree.findChild<QLineEdit*>("Filter");
   filter->setText("flags");
-  EXPECT_EQ(Core().PageNamed("Flags")->GetForm().Visible(), false);
+  EXPECT_EQ(Core().PageOf(PageId::Flags)->GetForm().Visible(), false);
   int shown = 0;
   for (QTreeWidgetItemIterator it(&tree.Tree(), QTreeWidgetItemIterator::NotHidden); *it; ++it)
     ++shown;
@@ -127,12 +127,14 @@ TEST_F(WindowTools, SaysThatAPageDoesNotExistYet) {
   EXPECT_EQ(Window().Pages().Front(), nullptr);
   auto* empty = Window().Pages().findChild<QLabel*>("EmptyPage");
   EXPECT_EQ(empty->text(), "This page does not exist in this version yet.");
-  dialogs.OnModal([](Form& form) {
+  dialogs.OnModal([](Modal& modal) {
+    Form& form = AsForm(modal);
     form.Get<ComboBox>("ComboLang").SetPosition(1);
     form.Get<Button>("CommandOk").Click();
   });
   Tool("Idioma")->trigger();
-  dialogs.OnModal([](Form& form) {
+  dialogs.OnModal([](Modal& modal) {
+    Form& form = AsForm(modal);
     form.Get<ComboBox>("ComboLang").SetPosition(0);
     form.Get<Button>("CommandOk").Click();
   });
@@ -261,7 +263,8 @@ TEST_F(WindowTools, KeepsItsGroupsOpenInAnotherLanguage) {
   group("Temporizadores")->setExpanded(true);
   group("Semanales")->setExpanded(true);
   group("Dispositivo")->setExpanded(true);
-  dialogs.OnModal([](Form& form) {
+  dialogs.OnModal([](Modal& modal) {
+    Form& form = AsForm(modal);
     form.Get<ComboBox>("ComboLang").SetPosition(1);
     form.Get<Button>("CommandOk").Click();
   });
@@ -304,7 +307,7 @@ TEST_F(WindowTools, CountsAnEditDuringAnUploadAsNotSent) {
   loop.After(seconds(3), "edit", [&] {
     EXPECT_EQ(Core().session.State().phase, SessionPhase::Writing);
     Window().GoTo("E_Digital_1");
-    Core().PageNamed("E_Digital")->GetForm().Get<TextBox>("Nombre").Type("late");
+    Core().PageOf(PageId::E_Digital)->GetForm().Get<TextBox>("Nombre").Type("late");
     Window().GoTo("E_Digital_2");
   });
   loop.RunFor(seconds(30));
@@ -421,7 +424,7 @@ TEST_F(WindowTools, ComparesWithAFileWithoutTouchingAnything) {
   Core().ConfFilePath = Path("a.ocf");
   ASSERT_TRUE(Core().SaveConf().Ok());
   Window().GoTo("E_Digital_2");
-  Core().PageNamed("E_Digital")->GetForm().Get<TextBox>("Nombre").Type("door");
+  Core().PageOf(PageId::E_Digital)->GetForm().Get<TextBox>("Nombre").Type("door");
   dialogs.ChoosePath(Path("a.ocf"));
   ModalScript modals;
   modals.Expect([](QWidget* modal) {

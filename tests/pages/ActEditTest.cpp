@@ -118,7 +118,7 @@ class ActEditForm : public PageFixture {
 TEST_F(ActEditForm, AcceptingCompactsAndDropsWhatTheModelLacks) {
   Fill({5, 0, 98, 200, 7, 5, -3, 125});
   ActionBuffer[8] = 33;
-  dialogs.OnModal([&](Form&) {
+  dialogs.OnModal([&](Modal&) {
     ASSERT_EQ(list.Rows().size(), 3U);
     EXPECT_EQ(list.RowText(1), "7 - Ejecutar macro 6");
     form.Get<Button>("OKButton").Click();
@@ -131,12 +131,12 @@ TEST_F(ActEditForm, AcceptingCompactsAndDropsWhatTheModelLacks) {
 TEST_F(ActEditForm, LeavingInAnyOtherWayKeepsTheList) {
   Fill({5, 0, 98});
   const auto before = Buffer();
-  dialogs.OnModal([&](Form&) {
+  dialogs.OnModal([&](Modal&) {
     list.SetPosition(0);
     form.Get<Button>("DelButton").Click();
     form.Get<Button>("CancelButton").Click();
   });
-  dialogs.OnModal([&](Form&) { form.Get<Button>("DelButton").Click(); });
+  dialogs.OnModal([&](Modal&) { form.Get<Button>("DelButton").Click(); });
   actEdit.ShowModal();
   actEdit.ShowModal();
   EXPECT_EQ(dialogs.Unused(), 0u) << "both were shown";
@@ -144,7 +144,7 @@ TEST_F(ActEditForm, LeavingInAnyOtherWayKeepsTheList) {
 }
 
 TEST_F(ActEditForm, ANinthActionIsRefusedWithAMessage) {
-  dialogs.OnModal([&](Form&) {
+  dialogs.OnModal([&](Modal&) {
     form.Get<Button>("AddButton").Click();
     form.Get<Button>("DelButton").Click();
     EXPECT_TRUE(list.Rows().empty() && dialogs.boxes.empty()) << "nothing is selected";

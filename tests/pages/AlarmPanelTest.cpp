@@ -111,7 +111,8 @@ TEST_F(AlarmPage, TheActionEditorWorksOnTheRowOfItsButton) {
   Cell(0, 0).ACTNO[0] = 42;
   Cell(0, 0).ACTNO[8] = 7;
   page.LoadData();
-  dialogs.OnModal([](Form& form) {
+  dialogs.OnModal([](Modal& modal) {
+    Form& form = AsForm(modal);
     EXPECT_EQ(form.Get<ListBox>("DeviceList").RowText(0), "42 - Sincronizar reloj");
     form.Get<ListBox>("RefList").SetPosition(0);
     form.Get<Button>("AddButton").Click();

@@ -25,7 +25,8 @@ class Lifecycle : public testing::Test {
 };
 
 TEST_F(Lifecycle, TheFirstRunAsksForLanguageAndModel) {
-  world.dialogs.OnModal([](Form& form) {
+  world.dialogs.OnModal([](Modal& modal) {
+    Form& form = AsForm(modal);
     EXPECT_EQ(form.Name(), "Lang");
     EXPECT_EQ(form.Title(), "Select Language");
     EXPECT_EQ(form.Get<ComboBox>("ComboLang").Rows().size(), 2U);
@@ -55,6 +56,9 @@ TEST_F(Lifecycle, AFirstRunIsOneThatLacksEitherSetting) {
     Configurator program(world.platform, world.Options(true));
     program.Start("");
     EXPECT_EQ(world.dialogs.modals, 1U) << lost;
+    EXPECT_NE(world.Stored("Idioma"), "") << lost;
+    if (lost == std::string("Idioma")) continue;
+    EXPECT_EQ(world.Stored("Idioma"), "2") << "a question left unanswered changes nothing";
   }
 }
 
@@ -62,7 +66,8 @@ TEST_F(Lifecycle, AFirstRunIsOneThatLacksEitherSetting) {
 /// it.
 TEST_F(Lifecycle, ALanguageOfAFirstRunIsLostToAnotherChoiceOnly) {
   const auto choose = [this](int row, const char* button) {
-    world.dialogs.OnModal([=](Form& form) {
+    world.dialogs.OnModal([=](Modal& modal) {
+      Form& form = AsForm(modal);
       form.Get<ComboBox>("ComboLang").SetPosition(row);
       form.Get<Button>(button).Click();
     });

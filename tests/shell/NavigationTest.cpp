@@ -72,52 +72,52 @@ TEST(NavigationTree, KeepsTheGroupsThatAChangeOfModelLeavesBehind) {
   EXPECT_NE(Outline("Tavro BP", before).find("E_OneWire:4"), std::string::npos);
 }
 
-/// Page and index of a key, such as "E_Digital 8"; "-" for none.
-std::string Target(std::string_view key, std::string_view model = "Ostrel VR200",
-                   bool universal = true) {
+std::optional<NodeTarget> Target(std::string_view key, std::string_view model = "Ostrel VR200",
+                                 bool universal = true) {
   TargetProfile profile;
   SelectTarget(profile, model);
-  const auto target = FindNodeTarget(key, profile, universal);
-  if (!target) return "-";
-  return std::string(target->page) + (target->index ? " " + std::to_string(*target->index) : "");
+  return FindNodeTarget(key, profile, universal);
 }
 
 TEST(Navigation, KnowsWhereEachKeyLeads) {
-  const std::vector<std::pair<std::string, std::string>> table{{"Tavro", "TargetSelect"},
-                                                               {"General", "General 0"},
-                                                               {"Grupos", "Grupos"},
-                                                               {"E_Analog_3", "E_Analog 3"},
-                                                               {"E_OneWire_0", "E_OneWire 0"},
-                                                               {"E_Math_2", "E_Math 2"},
-                                                               {"Caudal", "SampleRate"},
-                                                               {"Caudal_7", "Caudal 7"},
-                                                               {"E_Digital_8", "E_Digital 8"},
-                                                               {"CTimer0_3", "CTimer 0"},
-                                                               {"WTimer4_7", "WTimer 4"},
-                                                               {"MTimer8_11", "MTimer 8"},
-                                                               {"LTimer12_15", "LTimer 12"},
-                                                               {"MODBUS", "CONF_MODBUS"},
-                                                               {"MODBUS_31", "E_MODBUS 31"},
-                                                               {"Flag_15", "Flags 15"},
-                                                               {"Aut_Voz", "Aut_Voz"},
-                                                               {"GPRS", "GPRS"},
-                                                               {"Macros", "Macros"},
-                                                               {"T_Real", "T_Real_Tavro"},
-                                                               {"Firmware", "Firm"},
-                                                               {"Terminal", "Terminal"},
-                                                               {"PCAT", "Katodex"},
-                                                               {"E_Aux_3", "E_Aux 3"},
-                                                               {"Modulo_95", "E_Modular 95"}};
+  using enum PageId;
+  const std::optional<std::int16_t> none;
+  const std::vector<std::pair<std::string, NodeTarget>> table{
+      {"Tavro", {ToolId::TargetSelect, none}},
+      {"General", {General, 0}},
+      {"Grupos", {Grupos, none}},
+      {"E_Analog_3", {E_Analog, 3}},
+      {"E_OneWire_0", {E_OneWire, 0}},
+      {"E_Math_2", {E_Math, 2}},
+      {"Caudal", {SampleRate, none}},
+      {"Caudal_7", {Caudal, 7}},
+      {"E_Digital_8", {E_Digital, 8}},
+      {"CTimer0_3", {CTimer, 0}},
+      {"WTimer4_7", {WTimer, 4}},
+      {"MTimer8_11", {MTimer, 8}},
+      {"LTimer12_15", {LTimer, 12}},
+      {"MODBUS", {CONF_MODBUS, none}},
+      {"MODBUS_31", {E_MODBUS, 31}},
+      {"Flag_15", {Flags, 15}},
+      {"Aut_Voz", {Aut_Voz, none}},
+      {"GPRS", {GPRS, none}},
+      {"Macros", {Macros, none}},
+      {"T_Real", {ToolId::T_Real_Tavro, none}},
+      {"Firmware", {ToolId::Firm, none}},
+      {"Terminal", {ToolId::Terminal, none}},
+      {"PCAT", {Katodex, none}},
+      {"E_Aux_3", {E_Aux, 3}},
+      {"Modulo_95", {E_Modular, 95}}};
   for (const auto& [key, target] : table) EXPECT_EQ(Target(key), target) << key;
   for (const auto* key : {"Timer", "CTimer", "E_Analog", "E_OneWire", "E_Digital", "E_Math",
                           "Flags", "Modulo", "E_Analog_4", "E_Digital_9", "E_Digital_08",
                           "MODBUS_32", "Flag_16", "Modulo_96", "CTimer0_4", "", "TEST"})
-    EXPECT_EQ(Target(key), "-") << key;
-  EXPECT_EQ(Target("TEST", "Tavro BP"), "Test");
-  EXPECT_EQ(Target("TEST", "Tavro BQ"), "TestBQ");
-  EXPECT_EQ(Target("TEST", "Ostrel KA2"), "TestKA2");
-  EXPECT_EQ(Target("T_Real", "Unknown"), "-");
-  EXPECT_EQ(Target("Tavro", "Tavro BP", false), "-");
+    EXPECT_EQ(Target(key), std::nullopt) << key;
+  EXPECT_EQ(Target("TEST", "Tavro BP"), (NodeTarget{ToolId::Test, none}));
+  EXPECT_EQ(Target("TEST", "Tavro BQ"), (NodeTarget{ToolId::TestBQ, none}));
+  EXPECT_EQ(Target("TEST", "Ostrel KA2"), (NodeTarget{ToolId::TestKA2, none}));
+  EXPECT_EQ(Target("T_Real", "Unknown"), std::nullopt);
+  EXPECT_EQ(Target("Tavro", "Tavro BP", false), std::nullopt);
 }
 
 class NavigationFixture : public testing::Test, protected World {
@@ -125,8 +125,8 @@ class NavigationFixture : public testing::Test, protected World {
   NavigationFixture() { core.StartForCommand("Tavro BP", 1); }
 
   template <class Control>
-  Control& On(std::string_view page, std::string_view control) {
-    return core.PageNamed(page)->GetForm().Get<Control>(control);
+  Control& On(PageId page, std::string_view control) {
+    return core.PageOf(page)->GetForm().Get<Control>(control);
   }
   std::vector<std::string> Visible() {
     std::vector<std::string> names;
@@ -142,9 +142,9 @@ class NavigationFixture : public testing::Test, protected World {
 TEST_F(NavigationFixture, ShowsOnePageAndCommitsTheOneThatLeaves) {
   EXPECT_EQ(navigation.NodeClick("E_Digital_0"), NodeResult::Shown);
   EXPECT_THAT(Visible(), ElementsAre("E_Digital"));
-  On<TextBox>("E_Digital", "Nombre").Type("first");
+  On<TextBox>(PageId::E_Digital, "Nombre").Type("first");
   navigation.NodeClick("E_Digital_1");
-  On<TextBox>("E_Digital", "Nombre").Type("second");
+  On<TextBox>(PageId::E_Digital, "Nombre").Type("second");
   EXPECT_EQ(navigation.NodeClick("General"), NodeResult::Shown);
   EXPECT_THAT(Visible(), ElementsAre("General"));
   EXPECT_EQ(core.conf.Digital[0].NOMBRE, "first");
@@ -160,7 +160,7 @@ TEST_F(NavigationFixture, ShowsOnePageAndCommitsTheOneThatLeaves) {
 TEST_F(NavigationFixture, ActivatesWhatItShows) {
   core.TargetDeviceChange("Tavro BQ");
   navigation.NodeClick("E_Analog_0");
-  EXPECT_TRUE(On<OptionButton>("E_Analog", "Int_Press").face.Enabled());
+  EXPECT_TRUE(On<OptionButton>(PageId::E_Analog, "Int_Press").face.Enabled());
   core.Connected = true;
   navigation.NodeClick("Tavro");
   EXPECT_THAT(Visible(), ElementsAre("TargetSelect"));
@@ -171,7 +171,7 @@ TEST_F(NavigationFixture, ActivatesWhatItShows) {
 TEST_F(NavigationFixture, ActivatesTheFrontAnewWhenTheModelChanges) {
   files.contents["/bq.ocf"] = "[General]\r\nVERSION=TAVRO_BQ\r\n";
   const auto offers = [this](std::string_view option) {
-    return On<OptionButton>("E_Analog", option).face.Enabled();
+    return On<OptionButton>(PageId::E_Analog, option).face.Enabled();
   };
   navigation.NodeClick("E_Analog_0");
   EXPECT_TRUE(offers("Int_0_5") && !offers("Int_Press"));
@@ -184,32 +184,28 @@ TEST_F(NavigationFixture, ActivatesTheFrontAnewWhenTheModelChanges) {
   EXPECT_TRUE(offers("Int_0_5"));
 }
 
-TEST(Navigation, HidesAllPagesButThree) {
-  EXPECT_THAT(kPagesThatStayOpen, ElementsAre("E_MODBUS", "E_Modular", "TestBQ"));
-}
-
 /// Pages that stay open: two of this build stand for those.
 class StayingPages : public NavigationFixture {
  protected:
-  void TypeName(std::string_view page, const char* name) { On<TextBox>(page, "Nombre").Type(name); }
+  void TypeName(PageId page, const char* name) { On<TextBox>(page, "Nombre").Type(name); }
   std::string FrontName() {
     const Form* front = staying.Front();
     return front ? front->Name() : "";
   }
 
-  static constexpr std::array<std::string_view, 2> kStaying{"E_Digital", "E_Analog"};
+  static constexpr std::array<FormId, 2> kStaying{PageId::E_Digital, PageId::E_Analog};
   Navigation staying{core, kStaying};
 };
 
 TEST_F(StayingPages, KeepTheFrontWhenAClickOpensNothing) {
   staying.NodeClick("E_Digital_0");
-  TypeName("E_Digital", "first");
+  TypeName(PageId::E_Digital, "first");
   EXPECT_EQ(staying.NodeClick("CTimer"), NodeResult::Nothing);
   EXPECT_EQ(FrontName(), "E_Digital");
   EXPECT_EQ(core.conf.Digital[0].NOMBRE, "") << "it has not been left";
   staying.CommitFront();
   EXPECT_EQ(core.conf.Digital[0].NOMBRE, "first");
-  TypeName("E_Digital", "again");
+  TypeName(PageId::E_Digital, "again");
   staying.NodeClick("E_Digital_1");
   EXPECT_EQ(core.conf.Digital[0].NOMBRE, "again");
 }
@@ -217,23 +213,23 @@ TEST_F(StayingPages, KeepTheFrontWhenAClickOpensNothing) {
 TEST_F(StayingPages, AreCoveredByTheNextPageAndComeBackBehindIt) {
   staying.NodeClick("E_Analog_0");
   staying.NodeClick("E_Digital_0");
-  TypeName("E_Digital", "covered");
+  TypeName(PageId::E_Digital, "covered");
   staying.NodeClick("General");
   EXPECT_EQ(core.conf.Digital[0].NOMBRE, "covered");
   EXPECT_THAT(Visible(), ElementsAre("General", "E_Digital", "E_Analog"));
   EXPECT_EQ(FrontName(), "General");
   staying.NodeClick("Timer");
   EXPECT_EQ(FrontName(), "E_Digital") << "the one that was shown last";
-  TypeName("E_Digital", "back");
+  TypeName(PageId::E_Digital, "back");
   core.TargetDeviceChange("Tavro BQ");
   staying.NodeClick("E_Analog_0");
   EXPECT_EQ(core.conf.Digital[0].NOMBRE, "back");
-  EXPECT_TRUE(On<OptionButton>("E_Analog", "Int_Press").face.Enabled());
+  EXPECT_TRUE(On<OptionButton>(PageId::E_Analog, "Int_Press").face.Enabled());
 }
 
 TEST_F(NavigationFixture, CommitsTheFrontOnDemand) {
   navigation.NodeClick("E_Digital_2");
-  On<TextBox>("E_Digital", "Nombre").Type("door");
+  On<TextBox>(PageId::E_Digital, "Nombre").Type("door");
   EXPECT_EQ(core.conf.Digital[2].NOMBRE, "");
   navigation.CommitFront();
   EXPECT_EQ(core.conf.Digital[2].NOMBRE, "door");

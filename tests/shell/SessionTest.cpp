@@ -241,6 +241,17 @@ TEST_F(Session, UploadRunsAheadOfDownloadInOneTick) {
 
 /// Ticks arrive inside the waits of a dialogue. None of them may start the open-or-close step or a
 /// transfer once more.
+TEST_F(Session, BreakingOffAnUploadDropsTheDownloadBehindIt) {
+  Connect();
+  Upon("#45002", [this] { program.session.BreakOff(); });
+  Click("Leer");
+  Click("Escribir");
+  world.loop.RunFor(seconds(30));
+  EXPECT_FALSE(program.Connected || frame.ReadRequest || Sent("#42"));
+  EXPECT_EQ(Status(), "Comunicacion no iniciada");
+  EXPECT_TRUE(program.session.State().failed->brokenOff);
+}
+
 TEST_F(Session, TicksInsideADialogueDisturbNothing) {
   std::vector<bool> enabled;
   frame.ComStat.face.OnChanged = [&] {
@@ -358,6 +369,7 @@ TEST_F(Session, AnExceptionInATransferLeavesThePageUsable) {
   Click("Escribir");
   EXPECT_THROW(world.loop.RunFor(seconds(2)), std::runtime_error);
   bar.OnChanged = nullptr;
+  EXPECT_EQ(Status(), "Error!");
   world.loop.RunFor(seconds(3));
   EXPECT_TRUE(program.general.GetForm().Enabled() && frame.Leer.face.Enabled());
   EXPECT_FALSE(frame.WriteRequest || program.comms.LinkBusy);
@@ -421,7 +433,8 @@ TEST_F(ModemSession, CancellingTheCodeThreeTimesFailsTheHandshake) {
 TEST_F(ModemSession, TheFormTakesNumbersOnly) {
   std::string code = "former";
   const auto ask = [&](std::vector<std::string> typed, const char* last) {
-    world.dialogs.OnModal([=](Form& form) {
+    world.dialogs.OnModal([=](Modal& modal) {
+      Form& form = AsForm(modal);
       EXPECT_EQ(form.Title(), "Clave de acceso");
       for (const std::string& text : typed) {
         form.Get<TextBox>("PWText").SetText(text);

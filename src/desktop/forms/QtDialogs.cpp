@@ -87,7 +87,8 @@ std::optional<std::string> QtDialogs::ChooseFile(const FileQuestion& question) {
 /// The form of the window asks by itself; it has a prompt of its own.
 std::string QtDialogs::AskCode(const std::string&) { return window_ ? window_->AskCode() : ""; }
 
-void QtDialogs::ShowModal(Form& form) {
+void QtDialogs::ShowModal(Modal& modal) {
+  Form& form = AsForm(modal);
   QDialog dialog(Parent());
   auto* layout = new QVBoxLayout(&dialog);
   FormView* view = MakeView(form, window_ ? window_->Context() : LayoutContext{}, &dialog);

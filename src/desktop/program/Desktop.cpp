@@ -25,8 +25,8 @@ void Desktop::Start(const std::string& file) {
   configurator_.Start(file.empty() ? std::string() : '"' + file + '"');
   UseLanguage(LanguageCode(configurator_.lang));
   navigation_.HideAll();
-  if (configurator_.Universal) navigation_.ShowForm("TargetSelect");
-  if (!file.empty()) navigation_.ShowForm("General");
+  if (configurator_.Universal) navigation_.ShowForm(ToolId::TargetSelect);
+  if (!file.empty()) navigation_.ShowForm(PageId::General);
   window_.Follow();
 }
 

@@ -28,7 +28,8 @@ constexpr const char* kTable = "/Lang.txt";
 QPixmap DialogPicture(Desktop& desktop, VirtualDialogs& dialogs, const std::string& key) {
   Configurator& core = desktop.Core();
   QPixmap picture;
-  dialogs.OnEveryModal([&](Form& form) {
+  dialogs.OnEveryModal([&](Modal& modal) {
+    Form& form = AsForm(modal);
     const std::unique_ptr<FormView> view(MakeView(form, desktop.Window().Context()));
     view->show();
     picture = view->grab();

@@ -32,9 +32,9 @@ std::string VirtualDialogs::AskCode(const std::string&) {
   return Next(codes_, std::string());
 }
 
-void VirtualDialogs::ShowModal(Form& form) {
+void VirtualDialogs::ShowModal(Modal& modal) {
   ++modals;
-  if (const auto handler = Next(modals_, everyModal_)) handler(form);
+  if (const auto handler = Next(modals_, everyModal_)) handler(modal);
 }
 
 }  // namespace ostrel

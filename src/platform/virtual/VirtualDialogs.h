@@ -33,9 +33,9 @@ class VirtualDialogs final : public Dialogs {
   /// Queues an access code; nothing queued is a cancel.
   void GiveCode(std::string code) { codes_.push_back(std::move(code)); }
   /// Queues what the operator does in the next form. A form without is dismissed at once.
-  void OnModal(std::function<void(Form&)> handler) { modals_.push_back(std::move(handler)); }
+  void OnModal(std::function<void(Modal&)> handler) { modals_.push_back(std::move(handler)); }
   /// What the operator does in any form for which nothing is queued.
-  void OnEveryModal(std::function<void(Form&)> handler) { everyModal_ = std::move(handler); }
+  void OnEveryModal(std::function<void(Modal&)> handler) { everyModal_ = std::move(handler); }
   /// Queued answers, paths, codes and forms that were not asked for.
   std::size_t Unused() const {
     return answers_.size() + paths_.size() + codes_.size() + modals_.size();
@@ -44,15 +44,15 @@ class VirtualDialogs final : public Dialogs {
   BoxAnswer ShowMessage(const MessageBox& box) override;
   std::optional<std::string> ChooseFile(const FileQuestion& question) override;
   std::string AskCode(const std::string& prompt) override;
-  void ShowModal(Form& form) override;
+  void ShowModal(Modal& modal) override;
   void Beep() override { ++beeps; }
 
  private:
   std::deque<BoxAnswer> answers_;
   std::deque<std::optional<std::string>> paths_;
   std::deque<std::string> codes_;
-  std::deque<std::function<void(Form&)>> modals_;
-  std::function<void(Form&)> everyModal_;
+  std::deque<std::function<void(Modal&)>> modals_;
+  std::function<void(Modal&)> everyModal_;
 };
 
 }  // namespace ostrel

@@ -1,0 +1,101 @@
+#include "base/Scope.h"
+#include "blocks/Configuration.h"
+#include "blocks/Orders.h"
+#include "platform/Dialogs.h"
+#include "shell/ConfigurationFile.h"
+#include "shell/Configurator.h"
+#include "shell/ForeignKeys.h"
+#include "store/IniClass.h"
+
+// What the configurator does with its file.
+
+namespace ostrel {
+namespace {
+
+constexpr std::string_view kFileFilter =
+    "Archivo de configuracion OCF (*.ocf)|*.ocf|Todos los ficheros (*.*)|*.*";
+
+/// Shows the wait pointer until the end of a scope.
+class Hourglass {
+ public:
+  explicit Hourglass(Form& form) : form_(form) { form.SetMousePointer(Pointer::Hourglass); }
+  ~Hourglass() { form_.SetMousePointer(Pointer::Default); }
+  Hourglass(const Hourglass&) = delete;
+  Hourglass& operator=(const Hourglass&) = delete;
+
+ private:
+  Form& form_;
+};
+
+}  // namespace
+
+FileResult Configurator::SaveConf() {
+  const Hourglass hourglass(general.GetForm());
+  IniClass document(platform_.files);
+  document.NewINI();
+  document.WriteKey(kStampSection, kStampKey, profile.TargetType);
+  for (const FileTurn& turn : kFileOrder)
+    if (Page* page = PageOf(turn.page); page && turn.takesPart(profile)) page->SaveConf(document);
+  FileResult result = document.SaveINI(ConfFilePath);
+  iniTool.Forget();
+  return result;
+}
+
+RestoreResult Configurator::RestoreConf() {
+  iniTool.Forget();
+  const std::string stamp(iniTool.ProfileRead(kStampSection, kStampKey, ConfFilePath));
+  if (stamp != profile.TargetType) {
+    if (const std::string name(ModelOfStamp(stamp)); !name.empty()) {
+      platform_.dialogs.ShowMessage(
+          {.text = context.Translate("El archivo de configuracion es de un modelo distinto al "
+                                     "seleccionado, se cambiara la seleccion a ") +
+                   name,
+           .title = context.Translate("Aviso")});
+      TargetDeviceChange(name);
+    }
+  }
+  const Hourglass hourglass(general.GetForm());
+  const AtEnd forgotten([this] { iniTool.Forget(); });
+  // An empty stamp fits no model, not even the absence of one.
+  if (stamp.empty() || stamp != profile.TargetType) {
+    platform_.dialogs.ShowMessage(
+        {.text = context.Translate("No es un archivo de configuracion valido"),
+         .title = profile.TargetName});
+    return RestoreResult::NotAConfiguration;
+  }
+  for (const FileTurn& turn : kFileOrder)
+    if (Page* page = PageOf(turn.page); page && turn.takesPart(profile)) page->RestoreConf();
+  return RestoreResult::Loaded;
+}
+
+RestoreResult Configurator::OpenFile(const std::string& path) {
+  ConfFilePath = path;
+  const RestoreResult result = RestoreConf();
+  general.CSMCheck();
+  general.SelectFirstPhone();
+  return result;
+}
+
+bool Configurator::AskAndOpen() {
+  const auto path = platform_.dialogs.ChooseFile(
+      {.mode = FileQuestion::Mode::Open, .filter = context.Translate(kFileFilter)});
+  if (!path) return false;
+  OpenFile(*path);
+  return true;
+}
+
+std::optional<FileResult> Configurator::AskAndSave() {
+  const auto path = platform_.dialogs.ChooseFile({.mode = FileQuestion::Mode::Save,
+                                                  .filter = context.Translate(kFileFilter),
+                                                  .overwritePrompt = true,
+                                                  .suggested = ConfFilePath});
+  if (!path) return {};
+  if (OnForeignKeys) {
+    const auto lost = ForeignKeys(platform_.files, *path, profile);
+    if (!lost.empty() && !OnForeignKeys(*path, lost)) return {};
+  }
+  ConfFilePath = *path;
+  return ConfFilePath.empty() ? FileResult{} : SaveConf();
+}
+
+}  // namespace ostrel

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <variant>
+
+#include "blocks/PageId.h"
+
+namespace ostrel {
+
+/// What the tree opens beside the pages of a configuration.
+enum class ToolId { Firm, TargetSelect, Terminal, Test, TestBQ, TestKA2, T_Real_Tavro };
+
+/// What can be in front.
+using FormId = std::variant<PageId, ToolId>;
+
+}  // namespace ostrel
