@@ -62,7 +62,7 @@ void Comms::CloseComs(bool modem) {
   if (line_.GoesOn()) line_.AwaitSent();
 }
 
-std::string Comms::GetField(int n) const { return std::string(FieldOfLine(RxLine, n)); }
+std::string Comms::GetField(int n) const { return std::string(FieldOf(RxLine, n)); }
 
 std::string Comms::GetField1(int n) const { return std::string(BracedFieldOfLine(RxLine, n)); }
 

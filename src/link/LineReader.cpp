@@ -4,8 +4,6 @@
 
 namespace ostrel {
 
-std::string_view FieldOfLine(std::string_view line, int n) { return FieldOf(line, n); }
-
 std::string_view BracedFieldOfLine(std::string_view line, int n) {
   for (int at = 1; at < n; ++at) {
     const std::size_t brace = line.find('{');

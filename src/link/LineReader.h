@@ -10,8 +10,6 @@
 
 namespace ostrel {
 
-/// Comma-separated field `n` of a line, counted from 1; empty beyond the last.
-std::string_view FieldOfLine(std::string_view line, int n);
 /// Text in the braces of a line: `n` of 2 is the text inside the first braces. An opening brace
 /// advances the count, a closing one ends the text; the two are not matched.
 std::string_view BracedFieldOfLine(std::string_view line, int n);

@@ -206,21 +206,6 @@ TEST(Online, AnInterruptEndsADownloadAndSaysHowTheLoggerStands) {
   EXPECT_EQ(world.environment.onInterrupt, nullptr);
 }
 
-TEST(Online, SaysWhyAPortDoesNotOpen) {
-  World world;
-  for (const auto& [fault, says] : std::vector<std::pair<PortFault, std::string>>{
-           {PortFault::NoPermission, "usermod -aG dialout"},
-           {PortFault::Busy, "in use by another program"},
-           {PortFault::Failed, "cannot be opened as a serial port"}}) {
-    world.simulated.Port().SetOpenFault(253, fault);
-    EXPECT_EQ(world.Run("info --port sim:VR200"), 3);
-    EXPECT_THAT(world.err, HasSubstr(says));
-  }
-  World mute(WithFaults({"silent"}));
-  EXPECT_EQ(mute.Run("info --port sim:VR200"), 3);
-  EXPECT_THAT(mute.err, HasSubstr("no logger answers at COM253"));
-}
-
 TEST(Online, ShowsProgressWithTheTimeThatRemainsOnATerminalAlone) {
   World world;
   world.simulated.Port().SetPaced(true);

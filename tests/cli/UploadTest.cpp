@@ -81,10 +81,7 @@ struct Failure {
 
 TEST(Upload, SaysWhyItFailedAndHowTheLoggerStands) {
   for (const Failure& failure : std::vector<Failure>{
-           {"refuse-statement@3", "refused statement 3: \"REST="},
            {"refuse-statement@3", "the logger's former configuration stays in force"},
-           {"wrong-closing", "did not take the configuration over"},
-           {"wrong-closing", "read it back"},
            {"silent-after-statement@4", "read it back"},
        }) {
     World world(WithFaults({failure.fault}));

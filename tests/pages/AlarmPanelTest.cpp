@@ -125,14 +125,6 @@ TEST_F(AlarmPage, TheActionEditorWorksOnTheRowOfItsButton) {
   EXPECT_EQ(Cell(0, 0).ACTHI, ActionList{});
 }
 
-TEST_F(AlarmPage, BadNumbersTurnRedWithTheTimer) {
-  Box("Minimo").Type("1,5");
-  EXPECT_EQ(Box("Minimo").face.Colour(), BackColour::Window);
-  loop.RunFor(std::chrono::seconds(1));
-  EXPECT_EQ(Box("Minimo").face.Colour(), BackColour::Red);
-  EXPECT_EQ(Box("Maximo").face.Colour(), BackColour::Window);
-}
-
 TEST_F(AlarmPage, ItsHelpIsStarted) {
   page.GetForm().Get<Button>("Help").Click();
   EXPECT_EQ(processes.started.at(0), "Explorer /opt/ostrel\\html\\Analog_ES.htm");
