@@ -40,11 +40,12 @@ ExitCode MayReplace(CommandContext& context, const std::string& path,
   return context.console.Fail(ExitCode::BadFile, lost + ". --yes replaces it all the same");
 }
 
-ExitCode SaveBackup(CommandContext& context, Configurator& configurator, std::string& path) {
+ExitCode SaveBackup(CommandContext& context, const Configurator& configurator,
+                    const DeviceConf& held, std::string& path) {
   SafetyCopies copies(context.platform.files, context.platform.clock,
                       context.environment.dataFolder);
   const SafetyCopies::Kept kept =
-      copies.Keep(configurator.conf, configurator.profile, configurator.info.SerialNumber);
+      copies.Keep(held, configurator.profile, configurator.info.SerialNumber);
   path = kept.path;
   return kept.result.Ok() ? ExitCode::Done : CannotWrite(context, path, kept.result);
 }

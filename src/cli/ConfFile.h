@@ -17,8 +17,9 @@ ExitCode TryToWrite(CommandContext& context, const std::string& path);
 /// Anything but Done after saying what would be lost.
 ExitCode MayReplace(CommandContext& context, const std::string& path, const TargetProfile& profile);
 
-/// Keeps the configuration that a configurator holds as a safety copy in the user's data folder,
-/// named by serial number and time. `path` tells where.
-ExitCode SaveBackup(CommandContext& context, Configurator& configurator, std::string& path);
+/// Keeps what the logger of a session holds as a safety copy in the user's data folder, named by
+/// serial number and time. `path` tells where.
+ExitCode SaveBackup(CommandContext& context, const Configurator& configurator,
+                    const DeviceConf& held, std::string& path);
 
 }  // namespace ostrel::cli

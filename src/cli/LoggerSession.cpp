@@ -14,6 +14,9 @@ LoggerSession::LoggerSession(CommandContext& context, Configurator& configurator
     interrupted_ = true;
     configurator_.session.BreakOff();
   };
+  configurator_.session.OnModelDoubt = [this](const Phrase& doubt) {
+    context_.console.Note("warning: " + Filled(doubt));
+  };
 }
 
 LoggerSession::~LoggerSession() {

@@ -54,7 +54,7 @@ Configurator::Configurator(const Platform& platform, ConfiguratorOptions options
       comms(platform_, {profile, info, live, totals, ComBusy}, MakeHooks()),
       bar_(comms.OnProgress(
           [&bar = general.Session().PBar](const Progress& progress) { ShowOnBar(progress, bar); })),
-      session(context, comms, general, Connected),
+      session(context, comms, general, Connected, [this] { ShowPages(); }),
       actEdit(context),
       pwForm(context),
       langForm(context),
@@ -70,7 +70,11 @@ LinkHooks Configurator::MakeHooks() {
   SessionFrame& frame = general.Session();
   return {
       .clearPages = [this] { ForEach(kClearAtDownload, &Page::Clear); },
-      .loadPages = [this] { ForEach(kLoadAfterDownload, &Page::LoadData); },
+      .loadPages =
+          [this] {
+            hasOrigin_ = true;
+            ForEach(kLoadAfterDownload, &Page::LoadData);
+          },
       .composed = [this] { session.KeepSent(); },
       .infoChanged = [this](std::string_view key) { general.ShowInfo(key); },
       .showPWForm = [this] { AskCode(); },
@@ -113,6 +117,15 @@ void Configurator::ShowCarrierLost() {
 void Configurator::ForEach(std::span<const PageId> order, void (Page::*action)()) {
   for (const PageId id : order)
     if (Page* page = PageOf(id)) (page->*action)();
+}
+
+void Configurator::ShowPages() {
+  for (const auto& page : pages_) page->LoadData();
+}
+
+void Configurator::ShowConfiguration(const DeviceConf& shown) {
+  conf = shown;
+  ShowPages();
 }
 
 Page* Configurator::PageOf(PageId id) const {

@@ -38,7 +38,7 @@ struct ConfiguratorOptions {
 };
 
 /// What opening a file came to.
-enum class RestoreResult { Loaded, NotAConfiguration };
+enum class RestoreResult { Loaded, NotAConfiguration, Declined };
 
 /// One whole program without a face: it owns one of everything and wires it. Two configurators in a
 /// process do not know of each other.
@@ -82,6 +82,14 @@ class Configurator {
   /// nothing of it would be lost. Set by a face; without one nobody is asked.
   std::function<bool(const std::string& path, const std::vector<std::string>& lost)> OnForeignKeys;
 
+  /// Puts a configuration in place of the present one and shows it on all pages.
+  void ShowConfiguration(const DeviceConf& shown);
+  /// Whether the present configuration comes from a file or a logger.
+  bool HasOrigin() const { return hasOrigin_; }
+  /// Asks whether a file of another model may change the model while a session stands. Set by a
+  /// face; without one nobody is asked.
+  std::function<bool(const std::string& model)> OnOtherModel;
+
   // Language.
   /// The tool bar's "Idioma": asks, then shows every caption in the language chosen.
   void AskLanguage();
@@ -119,6 +127,7 @@ class Configurator {
   LinkHooks MakeHooks();
   void RegisterWire();
   void LoadForms();
+  void ShowPages();
   void ShowCarrierLost();
   void AskCode();
 
@@ -126,6 +135,7 @@ class Configurator {
   ConfiguratorOptions options_;
   std::string mainCaption_;
   bool carrierBoxUp_ = false;
+  bool hasOrigin_ = false;
   /// The language of this run is not the one to store: the choice of a first run waits for the
   /// next.
   bool keepsStoredLanguage_ = false;

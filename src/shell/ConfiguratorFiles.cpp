@@ -65,10 +65,18 @@ RestoreResult Configurator::RestoreConf() {
   }
   for (const FileTurn& turn : kFileOrder)
     if (Page* page = PageOf(turn.page); page && turn.takesPart(profile)) page->RestoreConf();
+  hasOrigin_ = true;
   return RestoreResult::Loaded;
 }
 
 RestoreResult Configurator::OpenFile(const std::string& path) {
+  if (Connected && OnOtherModel) {
+    iniTool.Forget();
+    const std::string_view model =
+        ModelOfStamp(iniTool.ProfileRead(kStampSection, kStampKey, path));
+    if (!model.empty() && model != profile.TargetName && !OnOtherModel(std::string(model)))
+      return RestoreResult::Declined;
+  }
   ConfFilePath = path;
   const RestoreResult result = RestoreConf();
   general.CSMCheck();
@@ -79,9 +87,7 @@ RestoreResult Configurator::OpenFile(const std::string& path) {
 bool Configurator::AskAndOpen() {
   const auto path = platform_.dialogs.ChooseFile(
       {.mode = FileQuestion::Mode::Open, .filter = context.Translate(kFileFilter)});
-  if (!path) return false;
-  OpenFile(*path);
-  return true;
+  return path && OpenFile(*path) != RestoreResult::Declined;
 }
 
 std::optional<FileResult> Configurator::AskAndSave() {

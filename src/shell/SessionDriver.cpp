@@ -1,11 +1,13 @@
 #include "shell/SessionDriver.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <utility>
 
 #include "base/Scope.h"
 #include "platform/Clock.h"
 #include "platform/Dialogs.h"
+#include "shell/ModelEvidence.h"
 
 namespace ostrel {
 namespace {
@@ -37,9 +39,11 @@ class SessionDriver::Working {
   bool done_ = false;
 };
 
-SessionDriver::SessionDriver(PageContext& context, Comms& comms, General& general, bool& Connected)
+SessionDriver::SessionDriver(PageContext& context, Comms& comms, General& general, bool& Connected,
+                             std::function<void()> showPages)
     : context_(context),
       comms_(comms),
+      showPages_(std::move(showPages)),
       general_(general),
       session_(general.Session()),
       Connected_(Connected),
@@ -58,17 +62,23 @@ void SessionDriver::Tick() {
   if (session_.IniRequest && !Connected_) comms_.LinkBusy = false;
   if (!comms_.LinkBusy && session_.IniRequest) OpenOrClose();
   if (!Connected_ || !general_.PageActive) return;
-  const auto serve = [this](bool& request, bool (SessionDriver::*transfer)()) {
-    if (!request || !Connected_) return;
-    const AtEnd served([&] {
-      request = false;
-      SetState(state_);
-    });
-    (this->*transfer)();
-  };
-  serve(session_.WriteRequest, &SessionDriver::Upload);
-  serve(session_.ReadRequest, &SessionDriver::Download);
+  Serve(session_.WriteRequest, ServeWrite, &SessionDriver::Upload);
+  Serve(session_.ReadRequest, ServeRead, &SessionDriver::Download);
   if (Connected_) comms_.ReadInfo();
+}
+
+void SessionDriver::Serve(bool& request, const std::function<void()>& byFace,
+                          bool (SessionDriver::*transfer)()) {
+  if (!request || !Connected_) return;
+  const AtEnd served([&] {
+    request = false;
+    general_.GetForm().SetMousePointer(Pointer::Default);
+    SetState(state_);
+  });
+  if (byFace)
+    byFace();
+  else
+    (this->*transfer)();
 }
 
 void SessionDriver::OpenOrClose() {
@@ -97,8 +107,14 @@ bool SessionDriver::Open(std::int16_t port, const std::string& phone) {
       Connected_ = comms_.PortOpen();  // whoever breaks the opening off closes the port
       ShowState();
     });
+    greeting_.clear();
+    fitting_.clear();
     Connected_ = comms_.StartComs(port, phone);
-    if (Connected_) ReadAfterConnect();
+    if (Connected_) {
+      greeting_ = comms_.RxLine;
+      if (const auto doubt = ModelDoubt(); doubt && OnModelDoubt) OnModelDoubt(*doubt);
+      ReadAfterConnect();
+    }
   }
   opening.Ended(Connected_);
   return Connected_;
@@ -107,6 +123,7 @@ bool SessionDriver::Open(std::int16_t port, const std::string& phone) {
 void SessionDriver::BreakOff() {
   brokenOff_ = true;
   session_.ReadRequest = session_.WriteRequest = false;
+  general_.GetForm().SetMousePointer(Pointer::Default);
   comms_.Abort();
   if (state_.phase != SessionPhase::Open) return;  // what is under way ends by itself now
   Connected_ = false;
@@ -190,12 +207,45 @@ bool SessionDriver::Transfer(SessionPhase kind, std::string_view status, std::st
     CompleteInfo();
     BeginWatch(kind);
     const bool reads = kind == SessionPhase::Reading;
-    end.done = reads ? comms_.ReadConf() : comms_.WriteConf();
+    end.done = reads ? ReadOrPutBack() : comms_.WriteConf();
     end.held = reads ? context_.conf : std::move(sent_);
     working.Ended(end.done);
   }
   if (OnTransferEnded) OnTransferEnded(end);
   return end.done;
+}
+
+bool SessionDriver::ReadOrPutBack() {
+  const DeviceConf before = context_.conf;
+  lastReadFailed_ = true;
+  const auto putBack = [&] {
+    context_.conf = before;
+    showPages_();
+  };
+  try {
+    lastReadFailed_ = !comms_.ReadConf();
+  } catch (...) {
+    putBack();
+    throw;
+  }
+  if (lastReadFailed_) {
+    putBack();
+    return false;
+  }
+  fitting_ = ModelsThatFit(context_.conf, context_.profile,
+                           [this](std::string_view text) { return context_.Translate(text); });
+  return true;
+}
+
+std::optional<Phrase> SessionDriver::ModelDoubt() const {
+  const std::string& chosen = context_.profile.TargetName;
+  if (!Connected_) return {};
+  if (const auto named = ModelInGreeting(greeting_); !named.empty() && named != chosen)
+    return Phrase{"the logger says that it is the model %1, and the model chosen is %2",
+                  {std::string(named), chosen}};
+  if (fitting_.empty() || std::ranges::find(fitting_, chosen) != fitting_.end()) return {};
+  return Phrase{"what was read from the logger fits the model %1, and the model chosen is %2",
+                {fitting_.front(), chosen}};
 }
 
 void SessionDriver::BeginWatch(SessionPhase kind) {

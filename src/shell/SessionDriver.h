@@ -1,13 +1,16 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "link/Comms.h"
 #include "model/DeviceConf.h"
 #include "pages/General.h"
 #include "pages/PageContext.h"
+#include "shell/FaultWords.h"
 #include "shell/SessionState.h"
 #include "shell/TransferWatch.h"
 
@@ -25,7 +28,9 @@ struct TransferEnd {
 /// ticks.
 class SessionDriver {
  public:
-  SessionDriver(PageContext& context, Comms& comms, General& general, bool& Connected);
+  /// `showPages` shows the model on all pages.
+  SessionDriver(PageContext& context, Comms& comms, General& general, bool& Connected,
+                std::function<void()> showPages);
 
   /// One tick of `TimerComms`. A tick that arrives inside another one does nothing: the dialogue
   /// that the outer tick runs must not be disturbed.
@@ -41,7 +46,8 @@ class SessionDriver {
   bool CompleteInfo();
   /// Closes the session, hanging up when `modem` is set.
   void Close(bool modem);
-  /// Downloads the configuration, showing how it goes. The result is that of the dialogue.
+  /// Downloads the configuration, showing how it goes. The result is that of the dialogue. A
+  /// download that fails leaves model and pages as they were before it.
   bool Download();
   /// Uploads the configuration, likewise.
   bool Upload();
@@ -57,6 +63,10 @@ class SessionDriver {
   bool RequestWaits() const;
   /// What the last dialogue failed of, in the words of a session in a phase.
   SessionFault FaultDuring(SessionPhase phase) const;
+  /// What speaks against the model chosen: what the logger that answers has told of its own.
+  std::optional<Phrase> ModelDoubt() const;
+  /// Whether the last download failed.
+  bool LastReadFailed() const { return lastReadFailed_; }
   /// The transfer that runs.
   TransferWatch& Watch() { return watch_; }
 
@@ -67,6 +77,10 @@ class SessionDriver {
   void CodeAsked(bool given);
 
   // Set by the face.
+  /// Serve a request to read or to write, instead of the plain transfers.
+  std::function<void()> ServeRead, ServeWrite;
+  /// Runs as soon as a logger has greeted as another model than the one chosen.
+  std::function<void(const Phrase& doubt)> OnModelDoubt;
   /// Runs after the state, or what a transfer waits for, has changed.
   std::function<void()> OnStateChanged;
   /// Runs at each tick of `TimerComms`, also of those that arrive inside another.
@@ -79,11 +93,13 @@ class SessionDriver {
   class Working;
 
   void OpenOrClose();
+  void Serve(bool& request, const std::function<void()>& byFace, bool (SessionDriver::*transfer)());
   void ReadAfterConnect();
   void CompareClocks();
   void ShowState();
   /// Runs a transfer with the page disabled, between its two status texts.
   bool Transfer(SessionPhase kind, std::string_view status, std::string_view success);
+  bool ReadOrPutBack();
   void BeginWatch(SessionPhase kind);
   void SetStatus(std::string_view key);
   void SetState(SessionState state);
@@ -91,6 +107,7 @@ class SessionDriver {
 
   PageContext& context_;
   Comms& comms_;
+  std::function<void()> showPages_;
   General& general_;
   SessionFrame& session_;
   bool& Connected_;
@@ -101,7 +118,10 @@ class SessionDriver {
   bool ticking_ = false;
   bool brokenOff_ = false;
   CodeAnswer code_ = CodeAnswer::NotAsked;
-  DeviceConf sent_;  ///< what the last attempt of an upload sends
+  bool lastReadFailed_ = false;
+  std::string greeting_;              ///< of the logger that answers
+  std::vector<std::string> fitting_;  ///< models that have all that it told of; empty: not known
+  DeviceConf sent_;                   ///< what the last attempt of an upload sends
 };
 
 }  // namespace ostrel

@@ -140,7 +140,8 @@ struct RuleCase {
 };
 
 TEST(Check, FindsEachMistakeByItsRule) {
-  const std::string kWhole = " --silence section-missing";  // the sample has but a few
+  const std::string kWhole =
+      " --silence section-missing --silence key-missing";  // the sample has but a few
   const std::string shortMasks = " --features ffeffff";
   for (const RuleCase& one : std::vector<RuleCase>{
            {"Bomba", "Bomba", "", ""},
@@ -208,15 +209,18 @@ TEST(Check, FindsThatAFileWasCut) {
   world.HaveFile("/a.ocf");
   std::string& text = world.files.contents["/a.ocf"];
   text.resize(text.find("[FLAG 14]"));
-  EXPECT_EQ(world.Run("check /a.ocf"), 0);
-  EXPECT_THAT(world.out, HasSubstr("warning: [FLAG 14]: this section and 1 more are missing"));
+  EXPECT_EQ(world.Run("check /a.ocf"), 1);
+  EXPECT_THAT(world.out, HasSubstr("error: [FLAG 14]: this section and 1 more are missing"));
+  text.resize(text.rfind("NOMBRE="));
+  EXPECT_EQ(world.Run("check /a.ocf --silence section-missing"), 1);
+  EXPECT_THAT(world.out, HasSubstr("error: [DIGITAL 8] NOMBRE: this key and "));
 }
 
 TEST(Check, SaysWhereAndWhatHelps) {
   World world;
   world.files.contents["/a.ocf"] = Sound();
   world.Edit("/a.ocf", "Bomba", "Bomba, sur");
-  EXPECT_EQ(world.Run("check /a.ocf --silence section-missing"), 1);
+  EXPECT_EQ(world.Run("check /a.ocf --silence section-missing --silence key-missing"), 1);
   EXPECT_EQ(world.out,
             "error: [GENERAL] NOMBRE: a comma ends the text on the line: write something else for "
             "it (text-breaks-statement)\n");

@@ -148,6 +148,33 @@ TEST(Upload, AsksBeforeItSendsTheFileOfAnotherModel) {
   EXPECT_EQ(world.Run("upload /ka1.ocf --dry-run --yes --port sim:VR200"), 0);
 }
 
+/// A logger that greets as another model than the one chosen, and a file that was cut, are refused
+/// before anything is sent.
+TEST(Upload, RefusesWhatWouldHarmTheLogger) {
+  World world;
+  world.HaveFile("/ka1.ocf", "KA1");
+  world.HaveFile("/cut.ocf");
+  std::string& cut = world.files.contents["/cut.ocf"];
+  cut.resize(cut.find("NOMBRE", cut.find("[General]")));
+  struct Case {
+    std::string line;
+    const char* says;
+  };
+  for (const Case& c :
+       {Case{"upload /ka1.ocf --yes --target KA1 --port COM253",
+             "the logger says that it is the model Ostrel VR200, and the model chosen is Ostrel "
+             "KA1"},
+        Case{"upload /cut.ocf --port sim:VR200", "are missing, and are read as empty"}}) {
+    EXPECT_EQ(world.Run(c.line), 5);
+    EXPECT_THAT(world.err, HasSubstr(c.says));
+    EXPECT_THAT(world.err, HasSubstr("Nothing was sent: --force sends it all the same"));
+    EXPECT_EQ(world.Logger().UploadsTaken(), 0U);
+  }
+  EXPECT_EQ(world.Run("upload /cut.ocf --force --port sim:VR200"), 0) << world.err;
+  EXPECT_THAT(world.err, HasSubstr("forced: /cut.ocf: "));
+  EXPECT_EQ(world.Logger().UploadsTaken(), 1U);
+}
+
 TEST(Upload, ADryRunSendsNothingAndTellsItsTime) {
   World world;
   world.HaveFile("/a.ocf");

@@ -30,13 +30,9 @@ Json FoundJson(const std::string& file, const std::vector<FoundByRule>& found, s
 }
 
 void PrintFound(std::ostream& out, const std::vector<FoundByRule>& found) {
-  for (const auto& [rule, finding] : found) {
-    out << SeverityText(rule->severity) << ": ";
-    if (!finding.section.empty())
-      out << '[' << Printable(finding.section) << ']' << (finding.key.empty() ? "" : " ")
-          << Printable(finding.key) << ": ";
-    out << Printable(finding.sentence) << " (" << rule->id << ")\n";
-  }
+  for (const auto& [rule, finding] : found)
+    out << SeverityText(rule->severity) << ": " << FindingText(finding) << " (" << rule->id
+        << ")\n";
 }
 
 ExitCode RunCheck(CommandContext& context, const CheckOptions& options) {

@@ -3,7 +3,9 @@
 #include "cli/commands/Commands.h"
 #include "cli/commands/OnlineCommand.h"
 #include "host/LoggerText.h"
+#include "shell/GuardedWrite.h"
 #include "shell/UploadPlan.h"
+#include "shell/WriteDoubts.h"
 
 namespace ostrel::cli {
 namespace {
@@ -13,6 +15,7 @@ struct UploadOptions {
   bool noVerify = false;
   bool noBackup = false;
   bool dryRun = false;
+  bool force = false;
 };
 
 /// What an upload came to.
@@ -52,15 +55,6 @@ ExitCode ShowPlan(CommandContext& context, const ModelConfiguration& configurati
        }});
 }
 
-/// Keeps what the logger holds now, then brings the configuration to upload back into the model.
-ExitCode KeepFormer(Online& online, const DeviceConf& toSend, std::string& path) {
-  ExitCode code = online.session.Download();
-  if (code == ExitCode::Done) code = SaveBackup(online.context, online.configurator, path);
-  online.configurator.conf = toSend;
-  if (code == ExitCode::Done) online.context.console.Note("former configuration kept in " + path);
-  return code;
-}
-
 ExitCode Report(Online& online, const UploadOptions& options, const DeviceConf& sent,
                 const UploadResult& result) {
   CommandContext& context = online.context;
@@ -87,32 +81,70 @@ ExitCode Report(Online& online, const UploadOptions& options, const DeviceConf& 
   return ExitCode::Done;
 }
 
+/// Refuses what speaks against writing a file, unless it is forced: errors that `check` finds, and
+/// a logger that is of another model than the one chosen.
+ExitCode Refuse(CommandContext& context, const UploadOptions& options,
+                const std::vector<std::string>& doubts) {
+  if (doubts.empty()) return ExitCode::Done;
+  if (!options.force)
+    return context.console.Fail(
+        ExitCode::BadFile, doubts.front() + ". Nothing was sent: --force sends it all the same");
+  for (const std::string& doubt : doubts) context.console.Note("forced: " + doubt);
+  return ExitCode::Done;
+}
+
+std::vector<std::string> DoubtsOfFile(CommandContext& context, const UploadOptions& options,
+                                      const ModelConfiguration& configuration) {
+  IniClass document(context.platform.files);
+  document.OpenINI(options.file, false);
+  std::vector<std::string> doubts;
+  for (const FoundByRule& error : ErrorsIn(configuration, context.options.features, &document,
+                                           context.platform.files, context.Translator()))
+    doubts.push_back(options.file + ": " + FindingText(error.finding) + " (" +
+                     std::string(error.rule->id) + ")");
+  return doubts;
+}
+
+std::vector<std::string> DoubtsOfModel(const Configurator& configurator) {
+  if (const auto doubt = configurator.session.ModelDoubt()) return {Filled(*doubt)};
+  return {};
+}
+
+/// Writes with safety copy and verification, as far as the options want them.
 ExitCode Send(Online& online, const UploadOptions& options) {
-  Configurator& configurator = online.configurator;
-  const DeviceConf toSend = configurator.conf;
+  CommandContext& context = online.context;
   UploadResult result;
-  if (!options.noBackup) {
-    const ExitCode kept = KeepFormer(online, toSend, result.backup);
-    if (kept != ExitCode::Done) return kept;
-  }
-  const ExitCode sent = online.session.Upload();
-  if (sent != ExitCode::Done) return sent;
-  if (!options.noVerify) {
-    const ExitCode read = online.session.Download();
-    if (read != ExitCode::Done) return read;
-    result.comparison =
-        Compare({configurator.profile, toSend}, {configurator.profile, configurator.conf},
-                configurator.info.Features);
-  }
-  return Report(online, options, toSend, result);
+  ExitCode code = ExitCode::Done;
+  const auto step = [&code](ExitCode ended) {
+    code = ended;
+    return ended == ExitCode::Done;
+  };
+  WriteRoad road{.read = [&] { return step(online.session.Download()); },
+                 .write = [&] { return step(online.session.Upload()); },
+                 .verify = !options.noVerify};
+  if (!options.noBackup)
+    road.keep = [&](const DeviceConf& held) {
+      if (!step(Refuse(context, options, DoubtsOfModel(online.configurator)))) return false;
+      if (!step(SaveBackup(context, online.configurator, held, result.backup))) return false;
+      context.console.Note("former configuration kept in " + result.backup);
+      return true;
+    };
+  const WriteResult written = WriteGuarded(online.configurator, road);
+  if (written.end != WriteEnd::Written) return code;
+  result.comparison = written.verified;
+  return Report(online, options, written.sent, result);
 }
 
 /// Loads the file into the configurator of a session. A file of another model than the logger's is
 /// for another logger, most likely.
-ExitCode LoadFile(CommandContext& context, Configurator& configurator, const std::string& file) {
+ExitCode LoadFile(CommandContext& context, Configurator& configurator,
+                  const UploadOptions& options) {
+  const std::string& file = options.file;
   const std::string model = configurator.profile.TargetName;
   const auto read = context.OpenFile(file);
   if (!read) return ExitCode::BadFile;
+  const ExitCode refused = Refuse(context, options, DoubtsOfFile(context, options, *read));
+  if (refused != ExitCode::Done) return refused;
   const std::string& fileModel = read->profile.TargetName;
   if (fileModel != model) configurator.TargetDeviceChange(fileModel);
   configurator.conf = read->conf;
@@ -139,7 +171,7 @@ ExitCode RunUpload(CommandContext& context, const UploadOptions& options) {
   const auto model = context.ChooseModel(port, options.file);
   if (!model) return ExitCode::Usage;
   const auto configurator = context.MakeOnline(*model);
-  const ExitCode loaded = LoadFile(context, *configurator, options.file);
+  const ExitCode loaded = LoadFile(context, *configurator, options);
   if (loaded != ExitCode::Done) return loaded;
   LoggerSession session(context, *configurator, port);
   const ExitCode opened = session.Open();
@@ -147,6 +179,8 @@ ExitCode RunUpload(CommandContext& context, const UploadOptions& options) {
   if (options.dryRun)
     return ShowPlan(context, {configurator->profile, configurator->conf},
                     configurator->info.Features);
+  const ExitCode refused = Refuse(context, options, DoubtsOfModel(*configurator));
+  if (refused != ExitCode::Done) return refused;
   Online online{context, *configurator, session};
   return Send(online, options);
 }
@@ -159,6 +193,8 @@ Command AddUpload(CLI::App& app) {
   parser->add_option("FILE", options->file, "Configuration file")->required();
   parser->add_flag("--no-verify", options->noVerify, "Do not read back and compare");
   parser->add_flag("--no-backup", options->noBackup, "Keep no copy of the former configuration");
+  parser->add_flag("--force", options->force,
+                   "Write in spite of errors in the file, or of a logger of another model");
   parser->add_flag("--dry-run", options->dryRun, "Show what would be sent, and how long it takes");
   return {parser, [options](CommandContext& context) { return RunUpload(context, *options); }};
 }

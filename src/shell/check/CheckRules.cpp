@@ -5,6 +5,7 @@
 #include <set>
 
 #include "base/Channels.h"
+#include "base/Printable.h"
 #include "blocks/TelephoneWire.h"
 #include "model/Features.h"
 #include "pages/ActionCatalogue.h"
@@ -130,6 +131,26 @@ std::vector<Finding> MissingSections(const Examined& file) {
                                      " more are missing, and are read as empty"}};
 }
 
+/// One finding a section. A free telephone slot has no key.
+std::vector<Finding> MissingKeys(const Examined& file) {
+  std::vector<Finding> found;
+  int missing = 0;
+  for (const ConstField& field : file.Fields()) {
+    const std::string section = field.Section(), key = field.Key();
+    if (std::holds_alternative<const ConfPhone*>(field.value) ||
+        !file.Document().SectionExists("", section) || file.Document().Find(section, key))
+      continue;
+    if (found.empty() || found.back().section != section) {
+      found.push_back({section, key, "the key is missing, and is read as empty"});
+      missing = 0;
+    } else {
+      found.back().sentence = "this key and " + std::to_string(++missing) +
+                              " more of the section are missing, and are read as empty";
+    }
+  }
+  return found;
+}
+
 std::vector<Finding> UnknownActions(const Examined& file) {
   std::set<std::int16_t> offered;
   for (const ActionItem& item :
@@ -197,17 +218,18 @@ std::vector<Finding> BadNumbers(const Examined& file) {
   return found;
 }
 
-constexpr std::array<Rule, 12> kRules{{
+constexpr std::array<Rule, 13> kRules{{
     {"text-breaks-statement", Severity::Error,
      "a comma or a control character in a text that is sent", BrokenTexts},
     {"too-many-statements", Severity::Error, "more statements than an upload can number",
      TooManyStatements},
+    {"section-missing", Severity::Error, "a section of the model that is not in the file",
+     MissingSections},
+    {"key-missing", Severity::Error, "a key of a section that is not in the file", MissingKeys},
     {"text-too-long", Severity::Warning, "a text longer than its box takes", LongTexts},
     {"value-cut", Severity::Warning, "a value of which the file's reader takes only a part",
      CutValues},
     {"value-misread", Severity::Warning, "a value that is none of its kind", MisreadValues},
-    {"section-missing", Severity::Warning, "a section of the model that is not in the file",
-     MissingSections},
     {"action-not-offered", Severity::Warning, "an action that the model does not have",
      UnknownActions},
     {"alarm-for-nobody", Severity::Warning, "an alarm that no telephone is to get",
@@ -248,6 +270,14 @@ bool Examined::IsUnknownToFirmware(std::size_t index) const {
 
 std::string Examined::ValueText(const ConstField& field) const {
   return FieldText(field.value, Model().IsS100);
+}
+
+std::string FindingText(const Finding& finding) {
+  std::string text;
+  if (!finding.section.empty())
+    text = "[" + Printable(finding.section) + "]" + (finding.key.empty() ? "" : " ") +
+           Printable(finding.key) + ": ";
+  return text + Printable(finding.sentence);
 }
 
 std::span<const Rule> Rules() { return kRules; }

@@ -58,6 +58,9 @@ class Examined {
   mutable SentProbe fullProbe_;  ///< under all features
 };
 
+/// A finding in words: "[DIGITAL(0)] NOMBRE: a comma ends the text ...".
+std::string FindingText(const Finding& finding);
+
 struct Rule {
   std::string_view id;
   Severity severity;

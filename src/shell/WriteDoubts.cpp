@@ -1,0 +1,48 @@
+#include "shell/WriteDoubts.h"
+
+#include "shell/Configurator.h"
+
+namespace ostrel {
+namespace {
+
+bool IsEmpty(const Configurator& configurator) {
+  const DeviceConf empty = EmptyConfiguration(configurator.profile, [&](std::string_view text) {
+    return configurator.context.Translate(text);
+  });
+  return Compare({configurator.profile, empty}, {configurator.profile, configurator.conf})
+      .differences.empty();
+}
+
+}  // namespace
+
+std::vector<FoundByRule> ErrorsIn(const ModelConfiguration& configuration,
+                                  std::optional<std::int32_t> features, const IniClass* document,
+                                  Files& files, const Translation& translate) {
+  IniClass own(files);
+  if (!document) SaveConfiguration(configuration.conf, configuration.profile, own);
+  const Examined examined(configuration, features, document ? *document : own, translate);
+  std::vector<FoundByRule> found = Examine(examined, {});
+  std::erase_if(found,
+                [](const FoundByRule& one) { return one.rule->severity != Severity::Error; });
+  return found;
+}
+
+std::vector<Phrase> DoubtsOfWriting(const Configurator& configurator) {
+  std::vector<Phrase> doubts;
+  if (auto model = configurator.session.ModelDoubt()) doubts.push_back(std::move(*model));
+  if (configurator.session.LastReadFailed())
+    doubts.push_back({"the last reading of the logger failed"});
+  else if (!configurator.HasOrigin())
+    doubts.push_back({"nothing has been read from a logger or opened since the program started"});
+  if (IsEmpty(configurator)) doubts.push_back({"the configuration on the pages is empty"});
+  const auto errors =
+      ErrorsIn({configurator.profile, configurator.conf}, configurator.info.Features, nullptr,
+               configurator.context.platform.files,
+               [&](std::string_view text) { return configurator.context.Translate(text); });
+  if (!errors.empty())
+    doubts.push_back({"the check finds %1 error(s), the first: %2",
+                      {std::to_string(errors.size()), FindingText(errors.front().finding)}});
+  return doubts;
+}
+
+}  // namespace ostrel
