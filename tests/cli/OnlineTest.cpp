@@ -140,18 +140,6 @@ TEST(Online, KeepsASimulatedLoggerInAFileWhenToldTo) {
   EXPECT_THAT(next.err, HasSubstr("cannot write /ka1.state"));
 }
 
-TEST(Online, SavesADownloadWhole) {
-  World world;
-  EXPECT_EQ(world.Run("download /new.ocf --port sim:VR200"), 0);
-  EXPECT_TRUE(world.files.contents["/new.ocf"].starts_with("[General]\r\nVERSION=VR200\r\n"));
-  EXPECT_EQ(world.out, "");
-  EXPECT_THAT(world.err, HasSubstr("saved to /new.ocf"));
-  EXPECT_EQ(world.Run("download /new.ocf --port sim:KA1 --json"), 0) << "replaces what stands";
-  EXPECT_EQ(world.Json().object()["model"].toString().toStdString(), "Ostrel KA1");
-  EXPECT_THAT(world.files.contents["/new.ocf"], HasSubstr("VERSION=OSTREL_KA1"));
-  EXPECT_EQ(world.files.contents.size(), 1U) << "nothing else is left";
-}
-
 TEST(Online, LeavesNothingBehindAFailedDownload) {
   struct Failure {
     std::string fault;

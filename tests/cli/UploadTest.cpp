@@ -95,16 +95,6 @@ TEST(Upload, SaysWhyItFailedAndHowTheLoggerStands) {
   }
 }
 
-TEST(Upload, DoesNotBeginWithoutItsSafetyCopy) {
-  World world;
-  world.HaveFile("/a.ocf");
-  for (const auto change : {VirtualFiles::Change::MakeFolder, VirtualFiles::Change::Write}) {
-    world.files.FailOperation(change, 1);
-    EXPECT_EQ(world.Run("upload /a.ocf --port sim:VR200"), 5);
-    EXPECT_EQ(world.Logger().UploadsTaken(), 0U);
-  }
-}
-
 TEST(Upload, AnInterruptSaysHowTheLoggerStands) {
   World world;
   world.HaveFile("/a.ocf");
