@@ -175,10 +175,8 @@ TEST_F(LineTest, ADrainThatIsCutOffLeavesNoAnswer) {
       {"OK\r", [&] { line.AskModem("AT", 100); }},
   };
   for (const auto& [stale, ask] : cases) {
-    At(milliseconds(50), [&] {
-      logger.end->Send(stale);
-      loop.HoldUp(milliseconds(100));
-    });
+    At(milliseconds(50), [&] { logger.end->Send(stale); });
+    comms.Trace = [this](const std::string&) { loop.HoldUp(milliseconds(100)); };
     line.Converse(milliseconds(90), [&] {
       ask();
       EXPECT_EQ(comms.RxLine, "");
