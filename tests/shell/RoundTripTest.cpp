@@ -36,7 +36,7 @@ class RoundTrip : public testing::Test {
     for (const sim::Model model : sim::kModels) {
       const std::uint32_t full = sim::TraitsOf(model).features;
       for (const std::uint32_t features : {full, full | 0x1000FFU, 0U, 0x10000U, 0x100U}) {
-        for (std::uint64_t seed = 1; seed <= 4 && !HasFailure(); ++seed) {
+        for (std::uint64_t seed = 1; seed <= 2 && !HasFailure(); ++seed) {
           SCOPED_TRACE(testing::Message() << sim::TraitsOf(model).displayName << " features "
                                           << features << " seed " << seed);
           sim::LoggerOptions options = sim::MakeDefaultOptions(model);
