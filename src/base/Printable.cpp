@@ -1,5 +1,7 @@
 #include "base/Printable.h"
 
+#include <algorithm>
+
 #include "base/Utf8.h"
 
 namespace ostrel {
@@ -22,6 +24,15 @@ std::string Printable(std::string_view text) {
     shown += digits[octet & 15U];
   }
   return shown;
+}
+
+std::string_view UpToControl(std::string_view text) {
+  const auto isControl = [](char c) {
+    const auto octet = static_cast<unsigned char>(c);
+    return octet < 0x20 || octet == 0x7F;
+  };
+  const auto end = std::find_if(text.begin(), text.end(), isControl);
+  return text.substr(0, static_cast<std::size_t>(end - text.begin()));
 }
 
 }  // namespace ostrel

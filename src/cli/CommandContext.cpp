@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <charconv>
 
+#include "blocks/Configuration.h"
 #include "host/Folders.h"
 #include "host/LangSeed.h"
 #include "host/SimulatedLoggers.h"
@@ -29,28 +30,20 @@ std::optional<std::int16_t> PortNumber(std::string_view digits) {
 
 }  // namespace
 
-const TargetModel* FindModel(std::string_view anyName) {
-  for (const TargetModel& model : TargetModels())
-    for (const std::string_view name : {model.name, model.type, model.word})
-      if (Upper(name) == Upper(anyName)) return &model;
-  return nullptr;
-}
-
 CommandContext::CommandContext(Environment& world, GlobalOptions shared)
     : environment(world),
       options(std::move(shared)),
       console(world.out, world.err, options.quiet),
       dialogs(world, console, options),
       platform(world.platform.With(dialogs)),
-      langFile_(SeedLang(platform.files, world.shippedLang, LangIn(world.dataFolder))),
-      lang_(platform.files, langFile_) {
+      lang_(platform.files, SeedLang(platform.files, world.shippedLang, LangIn(world.dataFolder))) {
   lang_.Init();
   lang_.SetSelectedLang(options.lang);
 }
 
 std::unique_ptr<Configurator> CommandContext::MakeOnline(std::string_view model) {
   auto configurator = std::make_unique<Configurator>(
-      platform, ConfiguratorOptions{.programFolder = {}, .langFile = langFile_});
+      platform, ConfiguratorOptions{.programFolder = {}, .lang = &lang_});
   configurator->StartForCommand(model, options.lang);
   return configurator;
 }
@@ -75,7 +68,7 @@ std::optional<ModelConfiguration> CommandContext::OpenFile(const std::string& pa
 
 std::string CommandContext::ModelOfFile(const std::string& path) {
   IniTool tool(platform.files);
-  const std::string stamp = tool.ProfileRead("General", "VERSION", path);
+  const std::string stamp = tool.ProfileRead(kStampSection, kStampKey, path);
   for (const TargetModel& model : TargetModels())
     if (model.type == stamp) return std::string(model.name);
   return {};
@@ -83,11 +76,11 @@ std::string CommandContext::ModelOfFile(const std::string& path) {
 
 std::optional<std::string> CommandContext::ChooseModel(const PortChoice& port,
                                                        const std::string& file) {
-  if (!options.target.empty()) return std::string(FindModel(options.target)->name);
+  if (!options.target.empty()) return std::string(FindTarget(options.target)->name);
   if (!port.simulatedModel.empty()) return port.simulatedModel;
   if (!file.empty())
     if (std::string model = ModelOfFile(file); !model.empty()) return model;
-  const TargetModel* stored = FindModel(StoredSettings(platform.settings).Target());
+  const TargetModel* stored = FindTarget(StoredSettings(platform.settings).Target());
   if (stored) return std::string(stored->name);
   // A file without a known stamp is refused in any case, whatever the model.
   if (!file.empty()) return std::string(TargetNamesOffered().front());
@@ -109,7 +102,7 @@ ExitCode CommandContext::ChoosePort(PortChoice& choice) {
   if (port.empty())
     return console.Fail(ExitCode::Usage, "no port: --port takes COM7, a device path or sim:VR200");
   if (Upper(port.substr(0, kSimulated.size())) == Upper(kSimulated)) {
-    const TargetModel* model = FindModel(port.substr(kSimulated.size()));
+    const TargetModel* model = FindTarget(port.substr(kSimulated.size()));
     if (!model)
       return console.Fail(ExitCode::Usage, options.port +
                                                " is none of sim:KA1 sim:KA2 sim:VR200 "

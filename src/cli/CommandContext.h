@@ -41,7 +41,7 @@ class CommandContext {
   std::optional<ModelConfiguration> OpenFile(const std::string& path);
   /// Gives texts in the language of the options.
   Translation Translator() {
-    return [this](std::string_view text) { return lang_.Translate(text); };
+    return [this](std::string_view text) { return lang_.TranslateIfRoom(text); };
   }
 
   /// The model to work with, by its display name: that of the options, else that of the simulated
@@ -61,11 +61,7 @@ class CommandContext {
   /// Display name of the model that a file's stamp names; empty when it names none.
   std::string ModelOfFile(const std::string& path);
 
-  std::string langFile_;
   Lang lang_;
 };
-
-/// The model that any of its names means, letter case aside; null when there is none.
-const TargetModel* FindModel(std::string_view anyName);
 
 }  // namespace ostrel::cli

@@ -3,7 +3,7 @@
 #include <utility>
 
 #include "cli/FaultText.h"
-#include "cli/Progress.h"
+#include "cli/TransferLine.h"
 #include "host/SimulatedLoggers.h"
 
 namespace ostrel::cli {
@@ -52,20 +52,27 @@ ExitCode LoggerSession::Open() {
                  *configurator_.session.State().failed);
   // What is sent depends on what the firmware can do: without knowing it nothing may start.
   const bool isKnown = configurator_.session.CompleteInfo();
-  if (interrupted_) return Failed();
+  if (interrupted_) return Failed({});
   if (isKnown) return ExitCode::Done;
   return context_.console.Fail(ExitCode::DialogueFailed,
                                "the logger did not tell who it is: lines were lost or arrived "
                                "damaged. Check cable and earthing");
 }
 
-ExitCode LoggerSession::Run(const std::function<bool()>& dialogue) {
-  return dialogue() && !interrupted_ ? ExitCode::Done : Failed();
+ExitCode LoggerSession::Run(const std::function<LinkResult()>& dialogue) {
+  const LinkResult result = dialogue();
+  return result && !interrupted_ ? ExitCode::Done : Failed(result);
+}
+
+ExitCode LoggerSession::Failed(const LinkResult& result) {
+  SessionFault fault = configurator_.session.FaultDuring(SessionPhase::Open);
+  fault.link = result.Fault();
+  return Fault(ExitCode::DialogueFailed, fault);
 }
 
 bool LoggerSession::Move(std::string_view label, bool (SessionDriver::*transfer)()) {
-  const Progress progress(context_.console, configurator_.session.Watch(), label,
-                          context_.environment.errIsTerminal);
+  const TransferLine shown(context_.console, configurator_.session.Watch(), label,
+                           context_.environment.errIsTerminal);
   return (configurator_.session.*transfer)();
 }
 

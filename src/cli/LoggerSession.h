@@ -25,12 +25,10 @@ class LoggerSession {
   /// Downloads into an emptied model, so that nothing of a former one shows through.
   ExitCode Download();
   ExitCode Upload();
-  /// Runs a short dialogue, which says whether it succeeded.
-  ExitCode Run(const std::function<bool()>& dialogue);
-  /// Says why the last short dialogue failed.
-  ExitCode Failed() {
-    return Fault(ExitCode::DialogueFailed, configurator_.session.FaultDuring(SessionPhase::Open));
-  }
+  /// Runs a short dialogue.
+  ExitCode Run(const std::function<LinkResult()>& dialogue);
+  /// Says why a short dialogue failed.
+  ExitCode Failed(const LinkResult& result);
   void Close();
 
   bool Interrupted() const { return interrupted_; }

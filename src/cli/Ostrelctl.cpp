@@ -20,8 +20,8 @@ constexpr const char* kFooter =
     "130  interrupted while no dialogue was under way\n";
 
 std::string NoModel(const std::string& name) {
-  return FindModel(name) ? std::string()
-                         : name + " is none of KA1 KA2 VR200 S100 BP BQ or their display names";
+  return FindTarget(name) ? std::string()
+                          : name + " is none of KA1 KA2 VR200 S100 BP BQ or their display names";
 }
 
 std::string NoFeatures(const std::string& text) {
@@ -51,8 +51,9 @@ void AddGlobals(CLI::App& app, GlobalOptions& options) {
 
 std::vector<Command> AddCommands(CLI::App& app) {
   std::vector<Command> commands;
-  for (const auto add : {AddPorts, AddInfo, AddClock, AddLive, AddOutput, AddTotal, AddProbe, AddDownload,
-                         AddUpload, AddStatements, AddDiff, AddShow, AddCheck, AddCalc})
+  for (const auto add :
+       {AddPorts, AddInfo, AddClock, AddLive, AddOutput, AddTotal, AddProbe, AddDownload, AddUpload,
+        AddStatements, AddDiff, AddShow, AddCheck, AddCalc})
     commands.push_back(add(app));
   for (const Command& command : commands) command.parser->fallthrough();
   app.require_subcommand(1);

@@ -1,5 +1,6 @@
 #include "controls/Controls.h"
 
+#include "base/Printable.h"
 #include "controls/Form.h"
 
 namespace ostrel {
@@ -72,6 +73,7 @@ void TextBox::SetText(std::string_view text) {
 }
 
 void TextBox::Type(std::string_view text) {
+  text = UpToControl(text);
   SetText(maxLength_ == 0 ? text : FirstCharacters(text, static_cast<std::size_t>(maxLength_)));
 }
 

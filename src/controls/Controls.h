@@ -89,7 +89,8 @@ class TextBox {
   TextBox(Form& form, std::string_view name, int maxLength = 0);
   const std::string& Text() const { return text_; }
   void SetText(std::string_view text);
-  /// What a user's edit does: the text is cut at the length limit.
+  /// What a user's edit does: the text is cut at its first control character, which a pasted line
+  /// end is, and at the length limit.
   void Type(std::string_view text);
   int MaxLength() const { return maxLength_; }
   void SetMaxLength(int maxLength) { maxLength_ = maxLength; }

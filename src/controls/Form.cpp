@@ -41,6 +41,7 @@ void Form::SetEnabled(bool enabled) {
 }
 
 void Form::Show() {
+  if (visible_) return;
   visible_ = true;
   Changed();
 }

@@ -2,34 +2,11 @@
 
 #include <algorithm>
 
+#include "base/BoundFailure.h"
 #include "base/CodePage.h"
+#include "lang/LangRow.h"
 
 namespace ostrel {
-namespace {
-
-/// Takes the first line off a text. A line ends at LF or CR LF.
-std::string_view TakeLine(std::string_view& text) {
-  const std::size_t end = text.find('\n');
-  std::string_view line = text.substr(0, end);
-  text.remove_prefix(end == std::string_view::npos ? text.size() : end + 1);
-  if (end != std::string_view::npos && line.ends_with('\r')) line.remove_suffix(1);
-  return line;
-}
-
-/// The field in braces of a row, counted from 1. One that is never closed ends with the row.
-std::string_view BracedField(std::string_view row, int column) {
-  for (int count = 1; !row.empty(); ++count) {
-    const std::size_t open = row.find('{');
-    row.remove_prefix(open == std::string_view::npos ? row.size() : open + 1);
-    const std::size_t close = row.find('}');
-    if (count == column) return row.substr(0, close);
-    row.remove_prefix(close == std::string_view::npos ? row.size() : close + 1);
-  }
-  return {};
-}
-
-}  // namespace
-
 bool Lang::Init() {
   langReady_ = false;
   langCount_ = 0;
@@ -50,16 +27,16 @@ bool Lang::Init() {
 
 void Lang::SplitRows(std::string_view text) {
   int count = 0;
-  while (!text.empty()) langLines_[count++] = TakeLine(text);
+  while (!text.empty()) langLines_[count++] = TakeRow(text);
   langCount_ = static_cast<std::int16_t>(count);
 }
 
 void Lang::IndexRow(int row) {
-  rowOfKey_.try_emplace(std::string(BracedField(langLines_[row], 1)), row);
+  rowOfKey_.try_emplace(std::string(ColumnText(langLines_[row], 1)), row);
 }
 
 std::string Lang::GetString(int column, int row) const {
-  return std::string(BracedField(langLines_[row], column));
+  return std::string(ColumnText(langLines_[row], column));
 }
 
 std::vector<std::string> Lang::OfferedNames() const {
@@ -72,13 +49,21 @@ std::vector<std::string> Lang::OfferedNames() const {
 std::string Lang::Translate(std::string_view text) {
   if (!langReady_ || selectedLang_ == 1) return std::string(text);
   if (const auto found = rowOfKey_.find(text); found != rowOfKey_.end()) {
-    const std::string_view translation = BracedField(langLines_[found->second], selectedLang_);
+    const std::string_view translation = ColumnText(langLines_[found->second], selectedLang_);
     return std::string(translation.empty() ? text : translation);
   }
   // The free row takes part in the search and matches the empty text.
   const bool isFreeRow = text.empty() && langCount_ < kLangRows;
   if (!isFreeRow) AddNewEntry(text);
   return std::string(text);
+}
+
+std::string Lang::TranslateIfRoom(std::string_view text) {
+  try {
+    return Translate(text);
+  } catch (const BoundFailure&) {
+    return std::string(text);
+  }
 }
 
 void Lang::AddNewEntry(std::string_view text) {

@@ -54,6 +54,9 @@ class Lang {
   /// has no row gets one; when the table is full that raises `BoundFailure` and changes nothing.
   std::string Translate(std::string_view text);
 
+  /// The same, but a text for which the table has no room is given back as it stands.
+  std::string TranslateIfRoom(std::string_view text);
+
   /// Appends a row and saves the table. Raises `BoundFailure` when it is full. Does nothing before
   /// a successful `Init`, so that a table that could not be read is never replaced.
   void AddNewEntry(std::string_view text);

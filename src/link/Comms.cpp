@@ -15,8 +15,6 @@
 namespace ostrel {
 namespace {
 
-constexpr std::int32_t kLastSecondOfDay = 86'399;
-constexpr unsigned kAllDays = 0x7F;
 constexpr int kMaskBits = 16;
 
 }  // namespace
@@ -65,7 +63,7 @@ void Comms::CloseComs(bool modem) {
   if (line_.GoesOn()) line_.AwaitSent();
 }
 
-std::string Comms::GetField(int n) const { return std::string(FieldOfLine(RxLine, n)); }
+std::string Comms::GetField(int n) const { return std::string(FieldOf(RxLine, n)); }
 
 std::string Comms::GetField1(int n) const { return std::string(BracedFieldOfLine(RxLine, n)); }
 
@@ -115,13 +113,13 @@ LinkResult Comms::ReadRealTime() {
 
 LinkResult Comms::SetOutput(std::int16_t mask) {
   const int count = std::clamp<int>(records_.profile.OutputCount, 0, kMaskBits);
-  return line_.Converse(line_.TimeFor(static_cast<std::size_t>(count)), [&] {
+  return Keep(line_.Converse(line_.TimeFor(static_cast<std::size_t>(count)), [&] {
     return SwitchOutputs(line_, static_cast<std::uint16_t>(mask), count);
-  });
+  }));
 }
 
 LinkResult Comms::SetSingleOutput(std::int16_t index, bool on) {
-  return line_.Converse(line_.TimeFor(1), [&] { return SwitchOutput(line_, index, on); });
+  return Keep(line_.Converse(line_.TimeFor(1), [&] { return SwitchOutput(line_, index, on); }));
 }
 
 LinkResult Comms::SetTotalCNT(std::int16_t index, std::int32_t value) {
@@ -139,10 +137,6 @@ LinkResult Comms::ReadProbeIdentity(ProbeIdentity& identity) {
 LinkResult Comms::Set(std::string message, std::string_view answer) {
   return Keep(
       line_.Converse(line_.TimeFor(1), [&] { return Confirm(line_, std::move(message), answer); }));
-}
-
-bool CheckSiempre(std::int32_t start, std::int32_t stop, std::uint8_t days) {
-  return (days & kAllDays) == kAllDays && start == 0 && stop >= kLastSecondOfDay;
 }
 
 }  // namespace ostrel

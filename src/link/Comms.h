@@ -149,8 +149,4 @@ class Comms {
   std::function<void(const std::string& line)>& Trace = line_.Trace;
 };
 
-/// True when a schedule covers every day of the week and the whole day. Times in seconds of the
-/// day.
-bool CheckSiempre(std::int32_t start, std::int32_t stop, std::uint8_t days);
-
 }  // namespace ostrel

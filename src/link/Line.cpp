@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "base/Printable.h"
 #include "link/LinkTimes.h"
 #include "link/WireText.h"
 
@@ -24,10 +25,11 @@ Duration Line::TimeFor(std::size_t messages) const {
 }
 
 bool Line::GoesOn() const {
-  return PortOpen() && !port_.LineLost() && !heldOut_ && loop_.Now() < limit_;
+  return PortOpen() && !port_.LineLost() && !heldOut_ && !unsendable_ && loop_.Now() < limit_;
 }
 
 LinkFault Line::FaultNow(LinkFault::Kind kind, int number, std::string text) const {
+  if (unsendable_) kind = LinkFault::Kind::Unsendable;
   if (heldOut_) kind = LinkFault::Kind::LineHeld;
   if (port_.LineLost()) kind = LinkFault::Kind::LineLost;
   if (!PortOpen()) kind = LinkFault::Kind::PortClosed;
@@ -145,6 +147,14 @@ void Line::GiveUpSending(bool held) {
   Note("Not sent to its end");
 }
 
+bool Line::CanSend(std::string_view text) {
+  if (UpToControl(text).size() == text.size()) return true;
+  unsendable_ = LinkBusy;
+  RxLine.clear();
+  Note("Not sent, it holds a control character: ", text);
+  return false;
+}
+
 std::string Line::GetChar(int timeout) {
   MainTimer_.Start(timeout);
   AwaitInput(MainTimer_.Deadline());
@@ -173,22 +183,21 @@ void Line::Note(std::string_view what, std::string_view text) const {
   constexpr std::size_t kStampWidth = 9;
   std::string line = std::to_string(loop_.Now() / std::chrono::milliseconds(1));
   if (line.size() < kStampWidth) line.insert(0, kStampWidth - line.size(), ' ');
-  Trace(line.append(" ").append(what).append(MaskCode(text)));
+  Trace(line.append(" ").append(what).append(Printable(MaskCode(text))));
 }
 
 Line::Dialogue::Dialogue(Line& line) : line_(line), wasBusy_(std::exchange(line.LinkBusy, true)) {
-  line.heldOut_ = false;
+  line.heldOut_ = line.unsendable_ = false;
   line.ExpectAnswer(true);
 }
 
 Line::Dialogue::~Dialogue() {
   line_.LinkBusy = wasBusy_;
-  line_.heldOut_ = false;
+  line_.heldOut_ = line_.unsendable_ = false;
 }
 
 Line::Limit::Limit(Line& line, Duration span) : line_(line), former_(line.limit_) {
-  const TimePoint now = line.loop_.Now();
-  if (span < kNever - now) line.limit_ = std::min(former_, now + span);
+  line.limit_ = std::min(former_, Sum(line.loop_.Now(), span));
 }
 
 }  // namespace ostrel

@@ -51,6 +51,8 @@ class Line {
   // Messages.
   /// Frames and sends a message, and waits for a reply with up to 3 attempts when `timeout` is
   /// above 0. `message` is overwritten with the frame. The reply is `RxLine`, empty for none.
+  /// A message with a control character, which would tear its frame or make another one, is not
+  /// sent: it stays as it is, the trace says so, and the dialogue ends as unsendable.
   void TxSer(std::string& message, int timeout);
   /// Waits for one frame; on success `RxLine` is its message form.
   bool RxSer(int timeout);
@@ -122,6 +124,8 @@ class Line {
   void NoteLostOctets();
   void DrainPlainLines();
   void GiveUpSending(bool held);
+  /// Whether a text fits a line; says so and ends the dialogue when it does not.
+  bool CanSend(std::string_view text);
 
   EventLoop& loop_;
   SerialPort& port_;
@@ -130,9 +134,10 @@ class Line {
   TimePoint heardAt_{};                    ///< when characters were last taken
   std::uint64_t lostTold_ = 0;             ///< lost octets that the trace has been told of
   std::optional<TimePoint> awaitedSince_;  ///< last sign of the logger; none while none is due
-  bool damaged_ = false;  ///< a bad frame has come since the last message or good frame
-  bool heldOut_ = false;  ///< flow control has held the line for so long that the dialogue ends
-  bool torn_ = false;     ///< the last message may have left in part, without its end
+  bool damaged_ = false;     ///< a bad frame has come since the last message or good frame
+  bool unsendable_ = false;  ///< a message of the dialogue could not be sent, which ends it
+  bool heldOut_ = false;     ///< flow control has held the line for so long that the dialogue ends
+  bool torn_ = false;        ///< the last message may have left in part, without its end
 };
 
 /// Holds the line for one dialogue.

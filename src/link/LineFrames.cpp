@@ -21,7 +21,7 @@ void AddTo(std::int32_t& count, int more) {
 }  // namespace
 
 void Line::TxSer(std::string& message, int timeout) {
-  if (!PortOpen()) return;
+  if (!PortOpen() || !CanSend(message)) return;
   const std::string plain = Trace ? message : std::string();
   const std::string frame = FrameOf(ToCodePage(message));
   message = FromCodePage(frame);
@@ -79,10 +79,11 @@ void Line::DrainFrames(int quietMs, Duration longest) {
   const Limit limit(*this, longest);
   while (RxSer(quietMs) && GoesOn()) {
   }
+  RxLine.clear();  // a drain that was cut off must not leave its last frame as an answer
 }
 
 void Line::TxGsm(std::string_view command, int timeout) {
-  if (!PortOpen()) return;
+  if (!PortOpen() || !CanSend(command)) return;
   DrainPlainLines();
   for (int attempt = 0; attempt < kLinkAttempts && GoesOn(); ++attempt) {
     Put(ToCodePage(command) + kEndOfLine);
@@ -112,6 +113,7 @@ void Line::DrainPlainLines() {
   const Limit limit(*this, kLongestStale);
   while (RxGsm(kStaleMs) && GoesOn()) {
   }
+  RxLine.clear();
 }
 
 }  // namespace ostrel

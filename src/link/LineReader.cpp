@@ -2,11 +2,7 @@
 
 #include <algorithm>
 
-#include "model/Assign.h"
-
 namespace ostrel {
-
-std::string_view FieldOfLine(std::string_view line, int n) { return FieldOf(line, n); }
 
 std::string_view BracedFieldOfLine(std::string_view line, int n) {
   for (int at = 1; at < n; ++at) {
@@ -29,11 +25,6 @@ std::string_view LineReader::Field() {
 
 void LineReader::Skip(int fields) {
   for (int i = 0; i < fields; ++i) Field();
-}
-
-float LineReader::ToFloat(double number, float former) {
-  Assign(former, number);
-  return former;
 }
 
 }  // namespace ostrel

@@ -3,13 +3,13 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <type_traits>
 
 #include "base/Values.h"
+#include "model/Assign.h"
 
 namespace ostrel {
 
-/// Comma-separated field `n` of a line, counted from 1; empty beyond the last.
-std::string_view FieldOfLine(std::string_view line, int n);
 /// Text in the braces of a line: `n` of 2 is the text inside the first braces. An opening brace
 /// advances the count, a closing one ends the text; the two are not matched.
 std::string_view BracedFieldOfLine(std::string_view line, int n);
@@ -28,19 +28,15 @@ class LineReader {
   void Skip(int fields);
 
   void Into(std::string& field) { field = Text(); }
-  void Into(float& field) { field = ToFloat(Number(), field); }
   /// A number outside the field's width leaves the field as it was.
-  template <std::integral T>
-  void Into(T& field) {
-    field = RoundToEven<T>(Number()).value_or(field);
-  }
+  template <class T>
+  requires std::is_arithmetic_v<T>
+  void Into(T& field) { Assign(field, Number()); }
 
   /// The whole line, for what is not comma-separated.
   std::string_view Line() const { return line_; }
 
  private:
-  static float ToFloat(double number, float former);
-
   std::string_view line_;
   std::size_t position_ = 0;  ///< start of the next field; beyond the end when there is none
 };

@@ -26,6 +26,7 @@ struct LinkFault {
     WrongAnswer,      ///< an answer to something else; `text` is the answer
     Busy,             ///< another dialogue is running, and goes on
     OutOfTime,        ///< the dialogue came to no end in its time; `number` as for Silence
+    Unsendable,       ///< a message held a control character; `number` as for Silence
     LineHeld,         ///< flow control held the line for too long; `number` as for Silence
     LineLost,         ///< the port's device has gone
     PortClosed,       ///< the port was closed in the middle

@@ -44,8 +44,9 @@ static_assert(kLongestHold >= std::chrono::milliseconds(kModemReplyMs));
 
 // Total times, so that a source which never comes to an end cannot keep a dialogue. Those of a few
 // messages have what silence would cost them, `Line::TimeFor`.
-/// From the first command to the modem to the connection. A modem that says nothing at all is
-/// through with all commands and their repeats in 130 s.
+/// From the first command to the modem to the connection. A modem that answers "AT" and nothing
+/// else is through with all commands and their repeats in 128 s; one that says nothing at all is
+/// given up after "AT", in 7 s.
 inline constexpr Duration kLongestDialling = std::chrono::seconds(150);
 /// Of a dialogue that moves a whole configuration, which takes minutes.
 inline constexpr Duration kAnyTime = kNever;

@@ -27,7 +27,7 @@ LinkFault NumberedStream::TakeRecord(const Take& take) {
   const double number = NumVal(Characters(line, kNumberAt, kRecordDigits));
   if (!line.starts_with(head_) || RoundToEven<int>(number) != expected_)
     return line_.FaultNow(LinkFault::Kind::OutOfSequence, expected_, line_.RxLine);
-  return take({expected_++, Characters(FieldOfLine(line, 1), kKeyAt), line});
+  return take({expected_++, Characters(FieldOf(line, 1), kKeyAt), line});
 }
 
 }  // namespace ostrel

@@ -17,7 +17,7 @@ std::string HalfOf(std::string_view reply, int first) {
   std::string half;
   for (int field = first; field < first + kOctetsOfHalf; ++field) {
     if (field > first) half += '.';
-    half += FieldOfLine(reply, field);
+    half += FieldOf(reply, field);
   }
   return half;
 }

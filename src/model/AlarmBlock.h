@@ -31,6 +31,13 @@ inline constexpr std::uint8_t kAllDays = 127;
 /// What emptying leaves: valid at all times.
 inline constexpr ValidityRange kAlways{kTrue, {}, {}, kAllDays};
 
+/// True when a schedule covers every day of the week and the whole day. Times in seconds of the
+/// day.
+constexpr bool CheckSiempre(std::int32_t start, std::int32_t stop, std::uint8_t days) {
+  constexpr std::int32_t kLastSecondOfDay = 86'399;
+  return (days & kAllDays) == kAllDays && start == 0 && stop >= kLastSecondOfDay;
+}
+
 /// The fields that all alarms share, for one alarm configuration of one channel.
 struct AlarmBlock {
   Bool16 HABIL, REST, RENV, SMS, VOZ, GPRS;

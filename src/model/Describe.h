@@ -32,9 +32,14 @@ struct FieldMeta {
   PlaceForm placeForm = PlaceForm::InBrackets;
 };
 
+/// A field, such as a number, for which an operator may type only so many characters.
+constexpr FieldMeta LimitedMeta(std::string_view word, std::string_view words, int longest) {
+  return {.word = word, .words = words, .longest = longest};
+}
+
 /// A text field of a limited length.
 constexpr FieldMeta TextMeta(std::string_view word, std::string_view words, int longest) {
-  return {.word = word, .words = words, .longest = longest};
+  return LimitedMeta(word, words, longest);
 }
 
 /// Which of the values of one word a field is, where a record has several.

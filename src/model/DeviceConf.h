@@ -38,8 +38,8 @@ void Describe(R& r, Visit&& visit) {
   auto& [dname, csm, renvt, renvn, ptlf, rest] = r;
   visit(TextMeta("NOMBRE", "name", 50), dname);
   visit(TextMeta("CSM", "SMS centre", kNumberLength), csm);
-  visit(TextMeta("RENVT", "minutes between resends", 3), renvt);
-  visit(TextMeta("RENVN", "resends", 3), renvn);
+  visit(LimitedMeta("RENVT", "minutes between resends", 3), renvt);
+  visit(LimitedMeta("RENVN", "resends", 3), renvn);
   visit(TextMeta("PTLF", "own number", kNumberLength), ptlf);
   visit(TextMeta("RESTORE", "text of a restoration", 19), rest);
 }
@@ -124,7 +124,7 @@ void Describe(R& r, Visit&& visit) {
   auto& [salida, voltaje, period] = r;
   visit(FieldMeta{"SALIDA", "output"}, salida);
   visit(FieldMeta{"VOLTAJE", "voltage"}, voltaje);
-  visit(TextMeta("PERIOD", "period", 5), period);
+  visit(LimitedMeta("PERIOD", "period", 5), period);
 }
 
 /// A flag of the logger, with the alarm that its change can raise.

@@ -2,14 +2,15 @@
 
 #include <array>
 #include <charconv>
+#include <cmath>
 
 namespace ostrel {
 
 std::string VersionText(float hundredths) {
   std::array<char, 64> text{};
-  const auto end =
-      std::to_chars(text.data(), text.data() + text.size(), static_cast<double>(hundredths) / 100,
-                    std::chars_format::fixed, 2);
+  const double whole = std::round(static_cast<double>(hundredths));  // halves away from zero
+  const auto end = std::to_chars(text.data(), text.data() + text.size(), whole / 100,
+                                 std::chars_format::fixed, 2);
   return {text.data(), end.ptr};
 }
 

@@ -18,7 +18,7 @@ struct DeviceInfo {
   bool operator==(const DeviceInfo&) const = default;
 };
 
-/// A firmware version in hundredths as "1.23".
+/// A firmware version in hundredths as "1.23"; half a hundredth counts as a whole one.
 std::string VersionText(float hundredths);
 
 }  // namespace ostrel

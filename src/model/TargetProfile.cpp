@@ -1,6 +1,6 @@
 #include "model/TargetProfile.h"
 
-#include <algorithm>
+#include "base/CodePage.h"
 
 namespace ostrel {
 namespace {
@@ -30,10 +30,11 @@ const std::array<std::string_view, 6>& TargetNamesOffered() {
 }
 
 const TargetModel* FindTarget(std::string_view anyName) {
-  const auto found = std::ranges::find_if(TargetModels(), [&](const TargetModel& model) {
-    return model.name == anyName || model.type == anyName || model.word == anyName;
-  });
-  return found == TargetModels().end() ? nullptr : &*found;
+  const std::string wanted = FoldText(anyName);
+  for (const TargetModel& model : TargetModels())
+    for (const std::string_view name : {model.name, model.type, model.word})
+      if (FoldText(name) == wanted) return &model;
+  return nullptr;
 }
 
 void SelectTarget(TargetProfile& profile, std::string_view name) {

@@ -47,7 +47,8 @@ const std::array<TargetModel, 6>& TargetModels();
 /// The six display names in the order in which an operator is offered them.
 const std::array<std::string_view, 6>& TargetNamesOffered();
 
-/// The model whose display name, type word or short word this is; null when there is none.
+/// The model whose display name, type word or short word this is, letter case aside; null when
+/// there is none.
 const TargetModel* FindTarget(std::string_view anyName);
 
 /// Sets flags, name, type and counts for a display name. A name that matches no model clears the

@@ -162,7 +162,7 @@ void ChannelPage<Channel>::LoadData() {
 template <AlarmChannel Channel>
 void ChannelPage<Channel>::RestoreConf() {
   Clear();
-  RestoreBlock(context_, kTraits.page);
+  ReadBlockKeys(context_, kTraits.page);
   LoadData();
 }
 

@@ -123,7 +123,7 @@ void General::SaveConf(IniClass& document) { SaveBlock(context_, Id(), document)
 
 void General::RestoreConf() {
   Clear();
-  RestoreBlock(context_, Id());
+  ReadBlockKeys(context_, Id());
   LoadData();
 }
 

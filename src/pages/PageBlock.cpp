@@ -26,7 +26,7 @@ void SaveBlock(const PageContext& context, PageId page, IniClass& document) {
   ostrel::SaveBlock(BlockOf(page), context.conf, context.profile, document);
 }
 
-void RestoreBlock(const PageContext& context, PageId page) {
+void ReadBlockKeys(const PageContext& context, PageId page) {
   BlockOf(page).restore(context.conf, context.profile,
                         [&](const std::string& section, const std::string& key) {
                           return context.ConfReadKey(section, key);

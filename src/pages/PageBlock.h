@@ -13,7 +13,7 @@ struct PageContext;
 void ClearBlock(const PageContext& context, PageId page);
 /// Writes the keys of the block into an open document.
 void SaveBlock(const PageContext& context, PageId page, IniClass& document);
-/// Reads the keys of an emptied block from the file at `ConfFilePath`.
-void RestoreBlock(const PageContext& context, PageId page);
+/// Reads the keys of a block from the file at `ConfFilePath`; emptying it before is the caller's.
+void ReadBlockKeys(const PageContext& context, PageId page);
 
 }  // namespace ostrel

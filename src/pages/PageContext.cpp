@@ -1,6 +1,5 @@
 #include "pages/PageContext.h"
 
-#include "base/BoundFailure.h"
 #include "base/Help.h"
 #include "controls/ModalForm.h"
 #include "lang/Lang.h"
@@ -9,11 +8,7 @@
 namespace ostrel {
 
 std::string PageContext::Translate(std::string_view text) const {
-  try {
-    return lang.Translate(text);
-  } catch (const BoundFailure&) {
-    return std::string(text);  // the table is full
-  }
+  return lang.TranslateIfRoom(text);
 }
 
 std::string PageContext::ConfReadKey(std::string_view section, std::string_view key) const {
@@ -30,9 +25,7 @@ void PageContext::ShowHelp(std::string_view word) const {
   ostrel::ShowHelp(platform.processes, programFolder, word);
 }
 
-void PageContext::ShowModal(Form& form) const {
-  ostrel::ShowModal(platform.dialogs, form);
-}
+void PageContext::ShowModal(Form& form) const { ostrel::ShowModal(platform.dialogs, form); }
 
 void PageContext::ShowMessage(std::string_view text, BoxIcon icon) const {
   platform.dialogs.ShowMessage(

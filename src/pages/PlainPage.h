@@ -71,7 +71,7 @@ class PlainPage final : public Page {
   void SaveConf(IniClass& document) override { SaveBlock(context_, kTraits.page, document); }
   void RestoreConf() override {
     Clear();
-    RestoreBlock(context_, kTraits.page);
+    ReadBlockKeys(context_, kTraits.page);
     LoadData();
   }
   void SavePage() override {

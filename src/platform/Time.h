@@ -14,6 +14,11 @@ using TimePoint = std::chrono::microseconds;
 /// A deadline that never comes.
 inline constexpr TimePoint kNever = TimePoint::max();
 
+/// A point `span` after another one; never when that lies beyond all points.
+constexpr TimePoint Sum(TimePoint start, Duration span) {
+  return span > kNever - start ? kNever : start + span;
+}
+
 /// Octets a second on the line: 9600 bit/s, eight data bits with a start and a stop bit.
 inline constexpr int kLineOctetsPerSecond = 960;
 

@@ -47,7 +47,8 @@ std::vector<std::unique_ptr<Page>> MakePages(PageContext& context) {
 
 Configurator::Configurator(const Platform& platform, ConfiguratorOptions options)
     : settings(platform.settings),
-      lang(platform.files, options.langFile),
+      ownLang_(options.lang ? nullptr : std::make_unique<Lang>(platform.files, options.langFile)),
+      lang(options.lang ? *options.lang : *ownLang_),
       iniTool(platform.files),
       context{.platform = platform_,
               .lang = lang,
@@ -144,9 +145,13 @@ void Configurator::RegisterWire() {
 }
 
 void Configurator::AskCode() {
-  std::string code = platform_.dialogs.AskCode(context.Translate("Introduzca la clave de acceso:"));
+  const std::string prompt = context.Translate("Introduzca la clave de acceso:");
+  std::string code;
+  do {
+    code = platform_.dialogs.AskCode(prompt);
+  } while (!code.empty() && !CheckCode(context, code));
   session.CodeAsked(!code.empty());
-  if (code.empty() || CheckCode(context, code)) comms.AccessCode = std::move(code);
+  comms.AccessCode = std::move(code);
 }
 
 void Configurator::ShowCarrierLost() {
@@ -232,8 +237,10 @@ void Configurator::Start(const std::string& commandLine) {
 }
 
 void Configurator::StartForCommand(std::string_view target, std::int16_t language) {
-  lang.Init();
-  lang.SetSelectedLang(language);
+  if (ownLang_) {
+    lang.Init();
+    lang.SetSelectedLang(language);
+  }
   const TargetModel* model = FindTarget(target);
   TargetDeviceChange(std::string(model ? model->name : target));
   LoadForms();

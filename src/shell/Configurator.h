@@ -34,7 +34,8 @@ namespace ostrel {
 /// Where a configurator finds what is installed, and how it runs.
 struct ConfiguratorOptions {
   std::string programFolder;  ///< where the help pages stand
-  std::string langFile;       ///< the working copy of the translation table
+  std::string langFile{};     ///< the working copy of the translation table
+  Lang* lang = nullptr;       ///< the table where it is open already, with its language chosen
   bool ticking = false;       ///< the pages' timers run and ports are scanned, as a window needs it
   int versionMajor = OSTREL_VERSION_MAJOR;
   int versionMinor = OSTREL_VERSION_MINOR;
@@ -56,8 +57,8 @@ class Configurator {
   /// Starts as the window does: language, first-run questions, model, empty pages, and the file of
   /// the command line, which is a path between two characters that are dropped.
   void Start(const std::string& commandLine);
-  /// Starts for a command: no question, no scan. The model by any of its names, the language by
-  /// its column; an unknown model name leaves no model selected.
+  /// Starts for a command: no question, no scan. The model by any of its names, the language of
+  /// an own table by its column; an unknown model name leaves no model selected.
   void StartForCommand(std::string_view target, std::int16_t language);
   /// Stores port and language. The link is not closed politely: closing the port drops it.
   void ShutDown();
@@ -115,7 +116,12 @@ class Configurator {
   bool Universal = true;
   std::string ConfFilePath;
   StoredSettings settings;
-  Lang lang;
+
+ private:
+  std::unique_ptr<Lang> ownLang_;  ///< none where the options bring a table
+
+ public:
+  Lang& lang;
   IniTool iniTool;
   PageContext context;
 

@@ -86,6 +86,11 @@ FaultWords LinkWords(const SessionFault& fault, const std::string& port) {
     case Kind::OutOfTime:
       return {AtPlace(fault, "the logger came to no end", "the logger came to no end at record %1",
                       "the logger came to no end at statement %1")};
+    case Kind::Unsendable:
+      return {AtPlace(fault, "a text with a control character cannot be sent",
+                      "a text with a control character cannot be sent",
+                      "statement %1 holds a control character and cannot be sent"),
+              {"type that text anew"}};
     case Kind::LineHeld:
       return {{"the line at %1 was held", {port}},
               {"check that the logger is switched on and that the cable has RTS and CTS"}};

@@ -80,7 +80,8 @@ bool Logger::LoadState(std::string_view text, std::string& error) {
   const auto totals = ReadIndexed(in, "total.");
   const auto modules = ReadIndexed(in, "module.");
   for (const Block* block : Blocks()) block->load(conf, in);
-  // States of former versions kept other blocks as statements; not all were what they are to be.
+  // A former version saved further records as the statements that had set them; those that this
+  // version refuses are left out.
   for (const auto& [slot, statement] : in.TakeAll("kept.")) ApplyStatement(statement, Self(), conf);
 
   const DateTime now = ReadClockText(clock);

@@ -1,6 +1,7 @@
 #include "store/IniTool.h"
 
 #include "base/CodePage.h"
+#include "base/Printable.h"
 
 namespace ostrel {
 namespace {
@@ -25,7 +26,7 @@ std::string IniTool::ProfileRead(std::string_view section, std::string_view key,
 
 void ConfWriteKey(std::string_view value, std::string_view section, std::string_view key,
                   IniClass& ini) {
-  ini.WriteKey(section, key, value);
+  ini.WriteKey(section, key, UpToControl(value));
 }
 
 std::string ConfReadKey(IniTool& tool, std::string_view section, std::string_view key,

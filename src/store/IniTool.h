@@ -35,7 +35,8 @@ class IniTool {
   std::optional<ProfileIndex> index_;
 };
 
-/// Writes a key of an open document. Raises `IniError` as `IniClass::WriteKey` does.
+/// Writes a key of an open document. A value ends before its first control character, which would
+/// tear the line. Raises `IniError` as `IniClass::WriteKey` does.
 void ConfWriteKey(std::string_view value, std::string_view section, std::string_view key,
                   IniClass& ini);
 

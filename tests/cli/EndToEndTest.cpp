@@ -128,15 +128,6 @@ TEST_F(EndToEnd, AnUploadKeepsToTheSpeedOfTheLine) {
   EXPECT_EQ(closings, 1) << "sent once, and heard whole before its answer was missed";
 }
 
-TEST_F(EndToEnd, ALoggerThatFallsSilentLeavesNoFile) {
-  Simulator simulator({"--model", "KA1", "--fault", "silent-after-record@3"});
-  EXPECT_EQ(
-      Run("ostrelctl", "download " + Path("a.ocf") + " --target KA1 --port " + simulator.path), 4);
-  EXPECT_THAT(Read("err"), HasSubstr("fell silent at record 4"));
-  EXPECT_FALSE(fs::exists(Path("a.ocf")));
-  EXPECT_EQ(simulator.Stop(SIGINT), 0);
-}
-
 TEST_F(EndToEnd, AnInterruptEndsADownloadWithoutAFile) {
   Simulator simulator({"--model", "VR200", "--pace"});
   const std::string line = "timeout --preserve-status --signal=INT 5 " +
@@ -145,13 +136,6 @@ TEST_F(EndToEnd, AnInterruptEndsADownloadWithoutAFile) {
   EXPECT_EQ(WEXITSTATUS(std::system(line.c_str())), 4);
   EXPECT_THAT(Read("err"), HasSubstr("interrupted; the logger's configuration is unchanged"));
   EXPECT_FALSE(fs::exists(Path("a.ocf")));
-}
-
-TEST_F(EndToEnd, TheLoggersInTheProcessNeedNoPort) {
-  EXPECT_EQ(Run("ostrelctl", "info --port sim:BQ --json"), 0) << Read("err");
-  EXPECT_THAT(Read("out"), HasSubstr("\"model\": \"Tavro BQ\""));
-  EXPECT_EQ(Run("ostrelctl", "info --port /dev/null --target BQ"), 3);
-  EXPECT_EQ(Run("ostrel-sim", "--model nothing"), 2);
 }
 
 }  // namespace

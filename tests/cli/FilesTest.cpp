@@ -97,25 +97,6 @@ TEST(Diff, TellsDifferencesInWordsAndByExitCode) {
   EXPECT_EQ(world.Json().object()["differences"].toArray().size(), 2);
 }
 
-TEST(Diff, WithFeaturesOnlyWhatIsSentCounts) {
-  World world;
-  world.HaveFile("/a.ocf");
-  world.SetKey("/a.ocf", "DIGITAL 7", "HABIL( 3)", "False");
-  world.files.contents["/b.ocf"] = world.files.contents["/a.ocf"];
-  world.SetKey("/b.ocf", "General", "RENVN", " 7");
-  world.SetKey("/b.ocf", "DIGITAL 7", "TEXTO( 3)", "oculto");
-  EXPECT_EQ(world.Run("diff /a.ocf /b.ocf --features 0"), 0);
-  EXPECT_THAT(world.out, testing::StartsWith("not sent to this logger:\n"));
-  EXPECT_EQ(world.Run("diff /a.ocf /b.ocf --features 1"), 1);
-  EXPECT_THAT(world.out, testing::ContainsRegex("RENVN.*\nnot sent to this logger:\n.*\n.*TEXTO"));
-  // A text goes along once its alarm is enabled on either side.
-  world.SetKey("/b.ocf", "DIGITAL 7", "HABIL( 3)", "True");
-  EXPECT_EQ(world.Run("diff /a.ocf /b.ocf --features 0 --json"), 1);
-  for (const auto& difference : world.Json().object()["differences"].toArray())
-    EXPECT_EQ(difference.toObject()["sent"].toBool(),
-              difference.toObject()["key"].toString() != "RENVN");
-}
-
 TEST(Download, AsksBeforeItReplacesWhatItWouldLose) {
   World world;
   world.HaveFile("/a.ocf");
@@ -139,15 +120,6 @@ TEST(Diff, ComparesAFileWithWhatTheLoggerHolds) {
   EXPECT_EQ(world.Run("diff port /a.ocf --port sim:VR200"), 1);
   EXPECT_THAT(world.out, HasSubstr("(name): " + name + " -> \"Nuevo\""));
   EXPECT_EQ(world.Run("diff /a.ocf port"), 2) << "no port is named";
-}
-
-TEST(Diff, TellsFilesOfTwoModelsApart) {
-  World world;
-  world.HaveFile("/a.ocf");
-  world.HaveFile("/b.ocf", "KA1");
-  EXPECT_EQ(world.Run("diff /a.ocf /b.ocf"), 1);
-  EXPECT_THAT(world.out,
-              HasSubstr("GENERAL (general)\n  VERSION (model): Ostrel VR200 -> Ostrel KA1\n"));
 }
 
 /// A configuration of a VR200, in which nothing is wrong.

@@ -1,4 +1,5 @@
 #include "cli/World.h"
+#include "lang/Lang.h"
 
 namespace ostrel::cli {
 namespace {
@@ -106,6 +107,43 @@ TEST(Calc, GivesWhatTheCalculatorsGive) {
   EXPECT_EQ(world.Json().object()["mask"].toInt(), 32773);
 }
 
+/// A short dialogue tells what ended itself, not what an earlier one came to.
+TEST(Online, SaysWhatEndedAShortDialogue) {
+  // The opening of a session takes 1.9 s; the dialogue of the command is the next.
+  constexpr auto kSessionStands = std::chrono::milliseconds(1950);
+  struct Silent final : LineDevice {
+    void Receive(std::string_view) override {}
+    void SetTerminalReady(bool) override {}
+  } other;
+  for (const std::string command : {"live", "clock", "clock --set", "total 3", "output 1 on"}) {
+    for (const bool held : {true, false}) {
+      World world;
+      LinePort& port = world.simulated.Port();
+      world.loop.After(kSessionStands, "fault", [&] {
+        if (held)
+          port.HoldOutput(253, true);
+        else
+          port.AddDevice(253, "other", "", other);
+      });
+      EXPECT_EQ(world.Run(command + " --port sim:VR200"), 4) << command;
+      EXPECT_THAT(world.err, HasSubstr(held ? "the line at COM253 (sim:VR200) was held"
+                                            : "COM253 (sim:VR200) has gone"))
+          << command;
+      port.HoldOutput(253, false);
+    }
+  }
+}
+
+TEST(Online, AFullTranslationTableEndsNoCommand) {
+  World world;
+  std::string rows = "{Es}{En}\r\n";
+  for (int row = 1; row < kLangRows; ++row) rows += "{t" + std::to_string(row) + "}\r\n";
+  world.files.contents["/home/user/data/Lang.txt"] = rows;
+  EXPECT_EQ(world.Run("download /a.ocf --lang 2 --port sim:BQ"), 0) << world.err;
+  EXPECT_EQ(world.Run("show /a.ocf --lang 2"), 0) << world.err;
+  EXPECT_EQ(world.files.contents["/home/user/data/Lang.txt"], rows);
+}
+
 TEST(Online, KeepsASimulatedLoggerInAFileWhenToldTo) {
   World world;
   EXPECT_EQ(world.Run("output 1 on --port sim:KA1 --sim-state /ka1.state"), 0);
@@ -117,18 +155,6 @@ TEST(Online, KeepsASimulatedLoggerInAFileWhenToldTo) {
   next.files.FailOperation(VirtualFiles::Change::Write, 1);
   EXPECT_EQ(next.Run("info --port sim:KA1 --sim-state /ka1.state"), 5);
   EXPECT_THAT(next.err, HasSubstr("cannot write /ka1.state"));
-}
-
-TEST(Online, SavesADownloadWhole) {
-  World world;
-  EXPECT_EQ(world.Run("download /new.ocf --port sim:VR200"), 0);
-  EXPECT_TRUE(world.files.contents["/new.ocf"].starts_with("[General]\r\nVERSION=VR200\r\n"));
-  EXPECT_EQ(world.out, "");
-  EXPECT_THAT(world.err, HasSubstr("saved to /new.ocf"));
-  EXPECT_EQ(world.Run("download /new.ocf --port sim:KA1 --json"), 0) << "replaces what stands";
-  EXPECT_EQ(world.Json().object()["model"].toString().toStdString(), "Ostrel KA1");
-  EXPECT_THAT(world.files.contents["/new.ocf"], HasSubstr("VERSION=OSTREL_KA1"));
-  EXPECT_EQ(world.files.contents.size(), 1U) << "nothing else is left";
 }
 
 TEST(Online, LeavesNothingBehindAFailedDownload) {
@@ -183,21 +209,6 @@ TEST(Online, AnInterruptEndsADownloadAndSaysHowTheLoggerStands) {
   EXPECT_FALSE(world.simulated.Port().PortOpen());
   EXPECT_LT(world.loop.Now(), std::chrono::milliseconds(6100));
   EXPECT_EQ(world.environment.onInterrupt, nullptr);
-}
-
-TEST(Online, SaysWhyAPortDoesNotOpen) {
-  World world;
-  for (const auto& [fault, says] : std::vector<std::pair<PortFault, std::string>>{
-           {PortFault::NoPermission, "usermod -aG dialout"},
-           {PortFault::Busy, "in use by another program"},
-           {PortFault::Failed, "cannot be opened as a serial port"}}) {
-    world.simulated.Port().SetOpenFault(253, fault);
-    EXPECT_EQ(world.Run("info --port sim:VR200"), 3);
-    EXPECT_THAT(world.err, HasSubstr(says));
-  }
-  World mute(WithFaults({"silent"}));
-  EXPECT_EQ(mute.Run("info --port sim:VR200"), 3);
-  EXPECT_THAT(mute.err, HasSubstr("no logger answers at COM253"));
 }
 
 TEST(Online, ShowsProgressWithTheTimeThatRemainsOnATerminalAlone) {

@@ -23,6 +23,7 @@ TEST(Json, KeepsOrderDigitsAndWhatIsNoText) {
 
 TEST(Texts, OfNumbersAndNames) {
   EXPECT_EQ(VersionText(123), "1.23");
+  EXPECT_EQ(VersionText(12.5F), "0.13") << "a half counts as a whole";
   EXPECT_EQ(FeaturesText(-1), "0xffffffff");
   EXPECT_EQ(ReadFeatures("0x80000000"), std::numeric_limits<std::int32_t>::min());
   for (const std::string_view wrong : {"", "0x", "g", "1 ", "100000000"})

@@ -81,10 +81,7 @@ struct Failure {
 
 TEST(Upload, SaysWhyItFailedAndHowTheLoggerStands) {
   for (const Failure& failure : std::vector<Failure>{
-           {"refuse-statement@3", "refused statement 3: \"REST="},
            {"refuse-statement@3", "the logger's former configuration stays in force"},
-           {"wrong-closing", "did not take the configuration over"},
-           {"wrong-closing", "read it back"},
            {"silent-after-statement@4", "read it back"},
        }) {
     World world(WithFaults({failure.fault}));
@@ -95,16 +92,6 @@ TEST(Upload, SaysWhyItFailedAndHowTheLoggerStands) {
     EXPECT_THAT(world.err, HasSubstr(failure.says)) << failure.fault;
     EXPECT_EQ(world.Logger().Conf(), former) << failure.fault;
     EXPECT_EQ(world.Backups(), 1U);
-  }
-}
-
-TEST(Upload, DoesNotBeginWithoutItsSafetyCopy) {
-  World world;
-  world.HaveFile("/a.ocf");
-  for (const auto change : {VirtualFiles::Change::MakeFolder, VirtualFiles::Change::Write}) {
-    world.files.FailOperation(change, 1);
-    EXPECT_EQ(world.Run("upload /a.ocf --port sim:VR200"), 5);
-    EXPECT_EQ(world.Logger().UploadsTaken(), 0U);
   }
 }
 

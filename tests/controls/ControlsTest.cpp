@@ -38,6 +38,19 @@ TEST(Controls, AnOptionClearsTheOthersOfItsGroupWithoutTheirLogic) {
   EXPECT_FALSE(first.Selected() || second.Selected()) << "clearing leaves none selected";
 }
 
+TEST(Controls, TypingEndsAtAControlCharacterAndAtTheLimit) {
+  Form form("F", "");
+  TextBox box(form, "Box", 5);
+  for (const auto& [pasted, taken] : {std::pair{"ID=\r#64;40", "ID="},
+                                      {"a\nb", "a"},
+                                      {"\t", ""},
+                                      {"ñandúes", "ñandú"},
+                                      {"\x7F", ""}}) {
+    box.Type(pasted);
+    EXPECT_EQ(box.Text(), taken);
+  }
+}
+
 TEST(Controls, PositionsThatDoNotExistChangeNothing) {
   Form form("F", "");
   ComboBox combo(form, "Combo");

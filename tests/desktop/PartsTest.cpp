@@ -127,23 +127,13 @@ TEST_F(Ports, ComeAndGoWithoutLosingTheChoice) {
   port.Restore(40);
   watch.Refresh();
   EXPECT_EQ(list.Text(), "COM40");
-  EXPECT_EQ(watch.DeviceOf("COM99"), "COM99");
-}
-
-TEST_F(Ports, KeepAnotherChoiceWhenTheFormerOneComesBack) {
-  LineEnd& first = Plug(3);
-  Plug(4);
-  Plug(5);
-  for (const auto* name : {"COM3", "COM4", "COM5"}) list.Add(name);
-  list.SetPosition(0);
-  PortWatch watch(list, port, loop, [](const std::function<void()>& run) { run(); });
-  watch.Start();
-  first.Vanish();
+  chosen.Vanish();
   watch.Refresh();
   list.SetPosition(1);
-  port.Restore(3);
+  port.Restore(40);
   watch.Refresh();
-  EXPECT_EQ(list.Text(), "COM5");
+  EXPECT_EQ(list.Text(), "COM33") << "another choice stays when the former one comes back";
+  EXPECT_EQ(watch.DeviceOf("COM99"), "COM99");
 }
 
 }  // namespace

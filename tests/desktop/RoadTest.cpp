@@ -264,25 +264,5 @@ TEST_F(Road, AsksForTheAccessCodeOfALoggerBehindAModem) {
   EXPECT_EQ(Status(), "Comunicacion iniciada");
 }
 
-TEST_F(Road, ShowsAnotherLanguageAtOnce) {
-  StartBefore("Tavro BP", "1");
-  desktop = Make();
-  desktop->Start("");
-  desktop->Window().show();
-  ClickNode("E_Analog", "E_Analog_0");
-  EXPECT_EQ(On<QCheckBox>(*desktop, "HorarioHabil")->accessibleName(), "Siempre");
-  modals.Expect([](QWidget* modal) {
-    Press(modal->findChild<QComboBox*>("ComboLang"), Qt::Key_Down);
-    Accept(modal, "CommandOk");
-  });
-  auto* bar = desktop->Window().findChild<QToolBar*>("Tools");
-  QAction* language = bar->actions().last();
-  Click(bar->widgetForAction(language));
-  EXPECT_EQ(modals.Left(), 0u);
-  EXPECT_EQ(On<QCheckBox>(*desktop, "HorarioHabil")->accessibleName(), "Always");
-  EXPECT_EQ(On<QLineEdit>(*desktop, "Minimo")->accessibleName(), "Minimum");
-  EXPECT_EQ(language->text(), "Language");
-}
-
 }  // namespace
 }  // namespace ostrel

@@ -74,19 +74,6 @@ TEST(LangSeed, FillsWhatIsEmptyAndKeepsWhatIsTheUsers) {
   }
 }
 
-TEST(LangSeed, ANewLanguageReachesTheProgram) {
-  VirtualFiles files;
-  files.contents["/u/Lang.txt"] = "{ES}{EN}\r\n{Uno}{Mine}\r\n";
-  files.contents["/s/Lang.txt"] = "{ES}{EN}{FR}\r\n{Uno}{One}{Un}\r\n";
-  Lang lang(files, SeedLang(files, "/s/Lang.txt", "/u/Lang.txt"));
-  ASSERT_TRUE(lang.Init());
-  EXPECT_EQ(lang.OfferedNames(), (std::vector<std::string>{"ES", "EN", "FR"}));
-  lang.SetSelectedLang(3);
-  EXPECT_EQ(lang.Translate("Uno"), "Un");
-  lang.SetSelectedLang(2);
-  EXPECT_EQ(lang.Translate("Uno"), "Mine");
-}
-
 TEST(LangSeed, NeverOverfillsTheTable) {
   VirtualFiles files;
   std::string rows;

@@ -2,7 +2,6 @@
 
 #include "host/SimulatedLoggers.h"
 #include "platform/virtual/VirtualClock.h"
-#include "platform/virtual/VirtualFiles.h"
 #include "platform/virtual/VirtualLoop.h"
 
 namespace ostrel {
@@ -52,19 +51,6 @@ TEST_F(SimulatedPorts, MayBeAsSlowAsACable) {
   loggers.Port().SetPaced(true);
   EXPECT_EQ(Hello(255, 10ms), "");
   EXPECT_THAT(Hello(255, 100ms), testing::HasSubstr("Tavro BP"));
-}
-
-TEST_F(SimulatedPorts, KeepALoggerInAFile) {
-  VirtualFiles files;
-  EXPECT_FALSE(loggers.UseStateFile(files, "Ostrel", "/state"));
-  EXPECT_TRUE(loggers.UseStateFile(files, "Tavro BP", "/state")) << "the file may come later";
-  loggers.LoggerOf(sim::Model::BP).SetConf({});
-  EXPECT_TRUE(loggers.SaveState(files).Ok());
-  SimulatedLoggers others(loop, clock);
-  EXPECT_NE(others.LoggerOf(sim::Model::BP).Conf(), sim::Configuration());
-  EXPECT_FALSE(others.UseStateFile(files, "Tavro BQ", "/state")) << "of another model";
-  EXPECT_TRUE(others.UseStateFile(files, "Tavro BP", "/state"));
-  EXPECT_EQ(others.LoggerOf(sim::Model::BP).Conf(), sim::Configuration());
 }
 
 }  // namespace

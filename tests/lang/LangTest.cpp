@@ -131,6 +131,7 @@ TEST_F(LangTest, AFullTableFailsAndKeepsWhatItHas) {
   EXPECT_EQ(Disk(), full);
   EXPECT_EQ(lang.LangCount(), kLangRows);
   EXPECT_THROW(lang.Translate("more"), BoundFailure);
+  EXPECT_EQ(lang.TranslateIfRoom("more"), "more");
   EXPECT_THROW(lang.Translate(""), BoundFailure);
   EXPECT_EQ(lang.LangCount(), kLangRows);
   EXPECT_EQ(Disk(), full);

@@ -31,6 +31,11 @@ TEST_F(LineTest, RxSerTakesOneFrame) {
       {"#e9;\xE9\r", "#é", 5},
       {"#80;\x80\r", "#€", 5},
       {"#64;4", "", 4},
+      {"#64:40\r", "#40", 6},
+      {"#AA;\r", "", 4},
+      {"#6 ;40\r", "", 6},
+      {"#+4;4\r", "", 5},
+      {"#00;@@@@\r", "#@@@@", 8},
       {"#87;40#\r", "#40#", 7},
       {"#64;40\n\r", "", 7},
       {"#00;" + std::string(4 * 16383, '@') + "\r", "#" + std::string(4 * 16383, '@'), 65536},
@@ -162,6 +167,48 @@ TEST_F(LineTest, TraceShowsMessagesWithTheirTimeAndNoCode) {
                          "      100 TxSer: #11****", "      200 TxGsm: AT", "      200 RxGsm: OK"));
 }
 
+/// A stale line that comes when there is no time left to ask is no answer.
+TEST_F(LineTest, ADrainThatIsCutOffLeavesNoAnswer) {
+  Line& line = comms.TheLine();
+  const std::pair<std::string, std::function<void()>> cases[] = {
+      {Frames("#A2260115083005"), [&] { line.Ask("#5D"); }},
+      {"OK\r", [&] { line.AskModem("AT", 100); }},
+  };
+  for (const auto& [stale, ask] : cases) {
+    At(milliseconds(50), [&] { logger.end->Send(stale); });
+    comms.Trace = [this](const std::string&) { loop.HoldUp(milliseconds(100)); };
+    line.Converse(milliseconds(90), [&] {
+      ask();
+      EXPECT_EQ(comms.RxLine, "");
+      EXPECT_EQ(line.WaitFault().kind, Kind::OutOfTime);
+      return LinkFault{};
+    });
+  }
+  EXPECT_EQ(logger.raw, "");
+}
+
+/// It would tear its frame, and its rest could be a frame of its own.
+TEST_F(LineTest, AMessageWithAControlCharacterIsNeverSent) {
+  const std::string torn = "#45000ID=a\r#64;40";
+  Line& line = comms.TheLine();
+  const LinkResult result = line.Converse(kNever, [&] {
+    EXPECT_FALSE(line.Post(torn));
+    EXPECT_FALSE(line.Ask("#40"));
+    return line.WaitFault(7);
+  });
+  EXPECT_EQ(result.Fault().kind, Kind::Unsendable);
+  EXPECT_EQ(result.Fault().number, 7);
+  comms.TxGsm("ATD6\nATZ", 0);
+  comms.Delay(1);
+  EXPECT_EQ(Send("#\x7F", 1000), "#\x7F");
+  EXPECT_EQ(logger.raw, "");
+  EXPECT_EQ(trace.front(),
+            "        0 Not sent, it holds a control character: #45000ID=a\\x0d#64;40");
+  EXPECT_TRUE(line.Converse(kNever, [&] { return line.AskFor("#40", ""); }).Fault().kind ==
+              Kind::Silence)
+      << "the next dialogue is free";
+}
+
 TEST_F(LineTest, TraceTellsOfOctetsThatNobodyTook) {
   for (int second = 0; second < 3; ++second) {
     logger.end->Send(std::string(10'000, 'x'));
@@ -172,19 +219,6 @@ TEST_F(LineTest, TraceTellsOfOctetsThatNobodyTook) {
   EXPECT_TRUE(comms.RxSer(100)) << "the latest is there";
   EXPECT_THAT(trace, ElementsAre("     3001 Receive buffer full, octets lost: 21815",
                                  "     3001 RxSer: #BF"));
-}
-
-TEST_F(LineTest, SilenceIsCountedWhileADialogueRuns) {
-  comms.TheLine().Converse(kNever, [&] {
-    comms.Delay(700);
-    EXPECT_EQ(comms.SilentFor(), milliseconds(700));
-    logger.end->Send(Frames("#BF"));
-    EXPECT_TRUE(comms.RxSer(100));
-    comms.Delay(300);
-    EXPECT_EQ(comms.SilentFor(), milliseconds(300));
-    return LinkFault{};
-  });
-  EXPECT_EQ(comms.SilentFor(), Duration::zero());
 }
 
 }  // namespace

@@ -10,15 +10,9 @@
 #include <utility>
 #include <vector>
 
+#include "VirtualWorld.h"
 #include "link/Comms.h"
 #include "platform/Line.h"
-#include "platform/virtual/LinePort.h"
-#include "platform/virtual/VirtualClock.h"
-#include "platform/virtual/VirtualDialogs.h"
-#include "platform/virtual/VirtualFiles.h"
-#include "platform/virtual/VirtualLoop.h"
-#include "platform/virtual/VirtualProcesses.h"
-#include "platform/virtual/VirtualSettings.h"
 
 namespace ostrel {
 
@@ -102,7 +96,7 @@ class ScriptedDevice final : public LineDevice {
   std::map<std::string, std::deque<std::string>> queued_;
 };
 
-class LinkTest : public testing::Test {
+class LinkTest : public testing::Test, protected VirtualWorld {
  protected:
   static constexpr int kPort = 7;
 
@@ -149,15 +143,7 @@ class LinkTest : public testing::Test {
             .portFound = [this](std::string_view name) { hooked.emplace_back(name); }};
   }
 
-  VirtualLoop loop;
-  LinePort port{loop};
-  VirtualSettings settings;
-  VirtualDialogs dialogs;
-  VirtualFiles files;
-  VirtualProcesses processes;
-  VirtualClock clock{{2026, 3, 2, 9, 5, 7}};
   ScriptedDevice logger;
-  Platform platform{loop, port, settings, dialogs, files, processes, clock};
   TargetProfile profile;
   DeviceInfo info;
   RealTimeData live;

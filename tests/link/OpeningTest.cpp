@@ -148,30 +148,6 @@ TEST_F(OpeningTest, CarrierLossIsToldOncePerEvent) {
   EXPECT_TRUE(comms.PortOpen());
 }
 
-/// Abort at each step, within the wait for the answer to what was sent last.
-TEST_F(OpeningTest, AbortEndsEachPhaseAtOnce) {
-  for (const std::string phase : {"", "ATE0", "AT", "AT+IFC=2,2", "ATD6", "#1112", "#40"}) {
-    SCOPED_TRACE(phase);
-    codes = {"12"};
-    TimePoint aborted{};
-    const auto abort = [&] {
-      aborted = loop.Now();
-      comms.Abort();
-    };
-    logger.Always(phase, "");
-    logger.onLine = [&](const std::string& line) {
-      if (line == phase) At(milliseconds(999), abort);
-    };
-    if (phase.empty()) At(milliseconds(999), abort);
-    EXPECT_FALSE(comms.StartComs(kPort, phase.empty() ? "" : "6"));
-    EXPECT_EQ(loop.Now(), aborted);
-    EXPECT_EQ(FaultKind(), Kind::PortClosed);
-    EXPECT_FALSE(comms.PortOpen() || comms.LinkBusy);
-    EXPECT_TRUE(logger.raw.ends_with("<down>"));
-    logger.Always(phase, phase == "ATD6" ? "CONNECT\r" : phase == "#1112" ? "" : "OK\r");
-  }
-}
-
 /// A source that never stops, in good order: each phase has its total time all the same.
 TEST_F(OpeningTest, NoPhaseOutlastsItsTime) {
   int number = 0;

@@ -26,6 +26,9 @@ TEST_F(SessionTest, InfoStreamFillsTheRecord) {
               ElementsAre("VERSION", "FEATURES", "SERIAL", "VBAT", "RSSI", "LOG.SIZE", "LOG.USE"));
   EXPECT_EQ(logger.lines.size(), 1U);
   EXPECT_FALSE(comms.LinkBusy);
+  comms.RxLine = "#BD000KEY,{one,two}";
+  EXPECT_EQ(comms.GetField(2), "{one");
+  EXPECT_EQ(comms.GetField1(2), "one,two");
 }
 
 TEST_F(SessionTest, InfoFaults) {

@@ -1,48 +1,23 @@
 #include <gmock/gmock.h>
 
-#include "link/Comms.h"
-#include "link/Frame.h"
+#include "link/LineReader.h"
 #include "link/WireText.h"
 
 namespace ostrel {
 namespace {
 
-TEST(Frame, CarriesTheSumOfThePayload) {
-  const std::pair<std::string, std::string> cases[] = {{"#40", "#64;40"},     {"#@@@@", "#00;@@@@"},
-                                                       {"#@@@J", "#0A;@@@J"}, {"#\xE9", "#E9;\xE9"},
-                                                       {"x473", "#9E;473"},   {"", "#00;"}};
-  for (const auto& [message, frame] : cases) {
-    EXPECT_EQ(FrameOf(message), frame);
-    EXPECT_EQ(ChecksumOk(frame), !message.empty()) << frame;
-  }
-  for (const char* frame : {"#64:40", "#e9;\xE9"}) EXPECT_TRUE(ChecksumOk(frame)) << frame;
-  for (const char* frame : {"#65;40", "#AA;", "#", "", "#6 ;40", "#+4;4", "#xy;40"})
-    EXPECT_FALSE(ChecksumOk(frame)) << frame;
-}
-
-TEST(Fields, AreCountedByCommasOrBraces) {
+TEST(BracedFieldOfLine, CountsOpeningBraces) {
   struct Case {
     std::string_view line;
     int n;
-    std::string_view field, braced;
+    std::string_view field;
   };
   const std::string_view braces = "K={one,two},{x}";
-  const Case cases[] = {
-      {"A,B", 1, "A", "A,B"},
-      {"A,B", -4, "A", "A,B"},
-      {"A,B", 3, "", ""},
-      {"A,,C", 3, "C", ""},
-      {braces, 1, "K={one", "K={one,two"},
-      {braces, 2, "two}", "one,two"},
-      {braces, 3, "{x}", "x"},
-      {"K={a{b}c}", 3, "", "b"},
-      {"K={open", 2, "", "open"},
-      {"", 1, "", ""},
-  };
-  for (const Case& c : cases) {
-    EXPECT_EQ(FieldOfLine(c.line, c.n), c.field) << c.line << " " << c.n;
-    EXPECT_EQ(BracedFieldOfLine(c.line, c.n), c.braced) << c.line << " " << c.n;
-  }
+  const Case cases[] = {{"A,B", -4, "A,B"},     {"A,B", 3, ""},   {braces, 1, "K={one,two"},
+                        {braces, 2, "one,two"}, {braces, 3, "x"}, {"K={a{b}c}", 3, "b"},
+                        {"K={open", 2, "open"}, {"", 1, ""}};
+  for (const Case& c : cases)
+    EXPECT_EQ(BracedFieldOfLine(c.line, c.n), c.field) << c.line << " " << c.n;
 }
 
 TEST(LineReader, TakesFieldsFromTheSecondOn) {
@@ -70,13 +45,6 @@ TEST(WireText, TraceHidesAccessCodes) {
       {"ATD111;112", "ATD111;112"},
   };
   for (const auto& [text, shown] : cases) EXPECT_EQ(MaskCode(text), shown);
-}
-
-TEST(CheckSiempre, IsAllDaysAndTheWholeDay) {
-  EXPECT_TRUE(CheckSiempre(0, 86399, 127) && CheckSiempre(0, 86400, 255));
-  EXPECT_FALSE(CheckSiempre(0, 86398, 127));
-  EXPECT_FALSE(CheckSiempre(1, 86399, 127));
-  EXPECT_FALSE(CheckSiempre(0, 86399, 126));
 }
 
 }  // namespace

@@ -67,10 +67,10 @@ TEST(TargetProfile, AnUnknownNameClearsTheFlagsAndKeepsTheRest) {
   EXPECT_EQ(model, expected);
 }
 
-TEST(TargetProfile, AModelIsFoundByEachOfItsNamesAlone) {
-  for (const std::string_view word : {"Tavro BP", "TAVRO", "BP"})
+TEST(TargetProfile, AModelIsFoundByEachOfItsNamesLetterCaseAside) {
+  for (const std::string_view word : {"Tavro BP", "TAVRO", "BP", "tavro bp", "bp"})
     EXPECT_EQ(FindTarget(word)->name, "Tavro BP");
-  EXPECT_EQ(FindTarget("tavro bp"), nullptr);
+  EXPECT_EQ(FindTarget("tavro b"), nullptr);
   EXPECT_EQ(FindTarget(""), nullptr);
   EXPECT_EQ(TargetNamesOffered()[4], "Tavro BP");
 }

@@ -96,6 +96,16 @@ TEST_F(AlarmPage, AnotherChannelCommitsAndShowsItsConfiguration0) {
   EXPECT_EQ(page.CurrentIndex(), 3) << "there is no such channel";
 }
 
+TEST_F(AlarmPage, AFlagThatNoRowStandsForIsKept) {
+  Cell(0, 0).FLAG = 3;
+  Cell(0, 1).FLAG = 20;
+  page.LoadData();
+  Option("Config1").SetSelected(true);
+  EXPECT_EQ(page.GetForm().Get<ComboBox>("FlagCombo").Text(), "");
+  page.SavePage();
+  EXPECT_EQ(Cell(0, 1).FLAG, 20);
+}
+
 TEST_F(AlarmPage, TheActionEditorWorksOnTheRowOfItsButton) {
   Cell(0, 0).HABIL = kTrue;
   Cell(0, 0).ACTNO[0] = 42;
@@ -113,14 +123,6 @@ TEST_F(AlarmPage, TheActionEditorWorksOnTheRowOfItsButton) {
   EXPECT_EQ(Cell(0, 0).ACTNO[1], 1);
   EXPECT_EQ(Cell(0, 0).ACTNO[8], 7) << "the ninth place stays untouched";
   EXPECT_EQ(Cell(0, 0).ACTHI, ActionList{});
-}
-
-TEST_F(AlarmPage, BadNumbersTurnRedWithTheTimer) {
-  Box("Minimo").Type("1,5");
-  EXPECT_EQ(Box("Minimo").face.Colour(), BackColour::Window);
-  loop.RunFor(std::chrono::seconds(1));
-  EXPECT_EQ(Box("Minimo").face.Colour(), BackColour::Red);
-  EXPECT_EQ(Box("Maximo").face.Colour(), BackColour::Window);
 }
 
 TEST_F(AlarmPage, ItsHelpIsStarted) {

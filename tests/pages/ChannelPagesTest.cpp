@@ -2,7 +2,6 @@
 
 #include "PageFixture.h"
 #include "pages/inputs/E_Analog.h"
-#include "pages/inputs/E_Digital.h"
 #include "pages/inputs/Flags.h"
 #include "pages/inputs/Grupos.h"
 
@@ -18,26 +17,10 @@ class ChannelPages : public PageFixture {
     page.Clear();
   }
 
-  E_Digital digital{context};
   E_Analog analog{context};
   Grupos groups{context};
   Flags flags{context};
 };
-
-TEST_F(ChannelPages, DigitalPageShowsAndCommits) {
-  Start(digital);
-  Form& form = digital.GetForm();
-  EXPECT_EQ(form.Title(), "Configuracion entrada digital  0");
-  EXPECT_EQ(form.Get<TextBox>("Persist").Text(), " 0");
-  form.Get<OptionButton>("Int_NC").SetSelected(true);
-  form.Get<TextBox>("Nombre").Type("Una entrada con un nombre");
-  form.Get<TextBox>("Rearm").Type("2.5");
-  EXPECT_EQ(conf.Digital[0].NC, kFalse) << "only a commit reaches the model";
-  digital.Form_Deactivate();
-  EXPECT_EQ(conf.Digital[0].NC, kTrue);
-  EXPECT_EQ(conf.Digital[0].NOMBRE, "Una entrada con un ");
-  EXPECT_EQ(conf.Digital[0].ALARM[0].thresholds.REARM, 2.5F);
-}
 
 TEST_F(ChannelPages, AnalogPageAllowsWhatTheModelHas) {
   struct Case {
@@ -81,18 +64,6 @@ TEST_F(ChannelPages, JumperPicturesFollowInterfaceAndModel) {
   }
 }
 
-TEST_F(ChannelPages, APressureLoggerStartsInBar) {
-  SelectModel("Tavro BQ");
-  Start(analog);
-  EXPECT_EQ(conf.Analog[0].UNIDAD, "bar");
-  EXPECT_EQ(conf.Analog[0].EqFE, 10);
-  EXPECT_EQ(conf.Analog[1].UNIDAD, "");
-  analog.GetForm().Get<OptionButton>("Int_Press").SetSelected(true);
-  analog.SavePage();
-  EXPECT_EQ(conf.Analog[0].INTERFAZ, 7);
-  EXPECT_EQ(analog.GetForm().Get<TextBox>("EqFE").Text(), "10") << "no place for the sign";
-}
-
 TEST_F(ChannelPages, APressureLoggerHasNoScaleAndNoGroup) {
   SelectModel("Tavro BQ");
   Start(analog);
@@ -102,6 +73,10 @@ TEST_F(ChannelPages, APressureLoggerHasNoScaleAndNoGroup) {
   for (const char* name : {"Label1", "Label2", "IE", "FE", "Grupo"})
     EXPECT_FALSE(FaceOf(analog.GetForm()[name]).Enabled()) << name;
   EXPECT_EQ(analog.GetForm().Get<ComboBox>("Grupo").Position(), 2) << "shown anew at the end";
+  EXPECT_EQ(analog.GetForm().Get<TextBox>("EqFE").Text(), "10") << "no place for the sign";
+  analog.GetForm().Get<OptionButton>("Int_Press").SetSelected(true);
+  analog.SavePage();
+  EXPECT_EQ(conf.Analog[0].INTERFAZ, 7);
 }
 
 TEST_F(ChannelPages, WhatAListDoesNotOfferIsKeptAsFarAsItCan) {

@@ -2,24 +2,18 @@
 
 #include <gtest/gtest.h>
 
+#include "VirtualWorld.h"
 #include "controls/Form.h"
 #include "lang/Lang.h"
 #include "pages/ActEdit.h"
 #include "pages/Page.h"
 #include "pages/PageContext.h"
-#include "platform/virtual/LinePort.h"
-#include "platform/virtual/VirtualClock.h"
-#include "platform/virtual/VirtualDialogs.h"
-#include "platform/virtual/VirtualFiles.h"
-#include "platform/virtual/VirtualLoop.h"
-#include "platform/virtual/VirtualProcesses.h"
-#include "platform/virtual/VirtualSettings.h"
 #include "store/IniTool.h"
 
 namespace ostrel {
 
 /// All that a page stands on, without a link and without a window.
-class PageFixture : public testing::Test {
+class PageFixture : public testing::Test, protected VirtualWorld {
  protected:
   void SelectModel(std::string_view name) { SelectTarget(profile, name); }
 
@@ -29,14 +23,6 @@ class PageFixture : public testing::Test {
     iniTool.Forget();
   }
 
-  VirtualLoop loop;
-  LinePort port{loop};
-  VirtualSettings store;
-  VirtualDialogs dialogs;
-  VirtualFiles files;
-  VirtualProcesses processes;
-  VirtualClock clock;
-  Platform platform{loop, port, store, dialogs, files, processes, clock};
   Lang lang{files, "Lang.txt"};
   IniTool iniTool{files};
   DeviceConf conf;

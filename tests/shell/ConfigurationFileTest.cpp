@@ -98,25 +98,6 @@ TEST_F(ConfigurationFile, ValuesAreCutAt254Characters) {
   EXPECT_EQ(program.conf.Digital[0].NOMBRE, std::string(254, 'x'));
 }
 
-/// After any failure the old or the new file stands whole, and no other file is left behind.
-TEST_F(ConfigurationFile, SavingSurvivesTheFailureOfEveryOperation) {
-  program.SaveConf();
-  const std::string old = file;
-  const auto others = world.files.contents.size();
-  bool saved = false;
-  for (int n = 1; !saved; ++n) {
-    ASSERT_LT(n, 20);
-    program.conf.General.DNAME = "new " + std::to_string(n);
-    world.files.FailOperation(n);
-    saved = program.SaveConf().Ok();
-    world.files.Heal();
-    EXPECT_EQ(world.files.contents.size(), others) << n;
-    if (saved) break;
-    EXPECT_EQ(file, old) << "operation " << n;
-  }
-  EXPECT_NE(file, old);
-}
-
 TEST_F(ConfigurationFile, AskingForAPath) {
   world.dialogs.ChoosePath(std::nullopt);
   EXPECT_FALSE(program.AskAndOpen());

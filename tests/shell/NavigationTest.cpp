@@ -227,13 +227,5 @@ TEST_F(StayingPages, AreCoveredByTheNextPageAndComeBackBehindIt) {
   EXPECT_TRUE(On<OptionButton>(PageId::E_Analog, "Int_Press").face.Enabled());
 }
 
-TEST_F(NavigationFixture, CommitsTheFrontOnDemand) {
-  navigation.NodeClick("E_Digital_2");
-  On<TextBox>(PageId::E_Digital, "Nombre").Type("door");
-  EXPECT_EQ(core.conf.Digital[2].NOMBRE, "");
-  navigation.CommitFront();
-  EXPECT_EQ(core.conf.Digital[2].NOMBRE, "door");
-}
-
 }  // namespace
 }  // namespace ostrel

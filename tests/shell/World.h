@@ -5,19 +5,13 @@
 #include <fstream>
 #include <iterator>
 
-#include "platform/virtual/LinePort.h"
-#include "platform/virtual/VirtualClock.h"
-#include "platform/virtual/VirtualDialogs.h"
-#include "platform/virtual/VirtualFiles.h"
-#include "platform/virtual/VirtualLoop.h"
-#include "platform/virtual/VirtualProcesses.h"
-#include "platform/virtual/VirtualSettings.h"
+#include "VirtualWorld.h"
 #include "shell/Configurator.h"
 
 namespace ostrel {
 
 /// The outside world of a configurator on virtual time, with the table of texts that is shipped.
-struct World {
+struct World : VirtualWorld {
   World() {
     std::ifstream shipped(OSTREL_LANG_FILE, std::ios::binary);
     files.contents[kLangFile] = {std::istreambuf_iterator<char>(shipped), {}};
@@ -33,15 +27,6 @@ struct World {
   }
 
   static constexpr const char* kLangFile = "/data/Lang.txt";
-
-  VirtualLoop loop;
-  LinePort port{loop};
-  VirtualSettings settings;
-  VirtualDialogs dialogs;
-  VirtualFiles files;
-  VirtualProcesses processes;
-  VirtualClock clock{DateTime{2026, 3, 2, 9, 5, 7}, loop};
-  Platform platform{loop, port, settings, dialogs, files, processes, clock};
 };
 
 }  // namespace ostrel

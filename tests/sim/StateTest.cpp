@@ -3,9 +3,7 @@
 #include <set>
 
 #include "sim/LineComposer.h"
-#include "sim/Random.h"
 #include "sim/SimBench.h"
-#include "sim/StatementParser.h"
 #include "sim/Text1252.h"
 
 namespace ostrel::sim {
@@ -47,60 +45,6 @@ TEST(SimConfiguration, TheDemoSuitsEveryModel) {
     for (int i = 0; i < kAnalogs; ++i)
       EXPECT_EQ(demo.analogs[static_cast<std::size_t>(i)].name.empty(), i >= traits.analogs);
   }
-}
-
-TEST(SimConfiguration, DamagedStatementsAreRefusedOrLeaveSomethingSound) {
-  const Identity self{Model::VR200, TraitsOf(Model::VR200).features};
-  const std::vector<std::string> statements = {
-      "ID=Dep\xF3sito",
-      "RETRYTIME= 600",
-      "+TLF=+34600100200,Prio=1,PRV2,MASK= 21 22 0 1 255 255 255 255 255 255 255 255 255 255 255 "
-      "255,"
-      "MASKMODE1",
-      "DINAME2=Puerta,NC",
-      "+ALMD2=Abierta,INDEX= 1,PC= .5,PO= 20,SREST,RING,START=8:00:00,STOP=20:30:00,"
-      "WEEK=1111100,EQ= 3,ACTCLOSE= 1 50 3,ACTOPEN=",
-      "-ALMD2,INDEX= 1",
-      "AICONF1=Nivel,UNIT=m,5V,BSVAL= 0,FSVAL= 5,BSUNIT=-1.5,FSUNIT= 20,GROUP= 1",
-      "+ALMA1=Alto,INDEX= 0,MAX= 10,MIN=-1,HIST= .25,P= 3,NOSEND,EQ= 0,ACTHI= 5,ACTLO=,ACTNOM= 42",
-      "AGRP0= 1,T= 10,V= 12",
-      "+ALMF9=Flag,INDEX= 0,NOSEND,ACTHI= 1,ACTLO=",
-      "CT3= 60,START=8:00:00,STOP=20:30:00,WEEK=1111100,EQ= 3,ACT= 5 42",
-      "MT0=6:00:00,MASK= 2147483649,ACT= 7",
-      "FLOWCONF1=Caudal,UNIT=m3/h,TB= 60,REGDAYMIN,RATIO=0.25",
-      "MCCONF3=Balance,UNIT=m3,EQ=Q0-Q1",
-      "BAUD= 9600",
-      "MBCONF31=Par,UNIT=Nm,SLAVE= 7,REGADD= 40001,FLOAT,CONST=-.5,MASK= 3,NEGATE,RATIO=0.1",
-      "MACRO7={S0=1,NAME=Bomba}",
-      "SERVERPORT= 2020",
-      "+TEL=+34600111222"};
-  for (const std::string& statement : statements) {
-    Configuration conf;
-    ASSERT_EQ(ApplyStatement(statement, self, conf), "") << statement;
-  }
-  Random random(77);
-  int taken = 0;
-  int refused = 0;
-  for (int round = 0; round < 6000; ++round) {
-    std::string statement = random.Pick(statements);
-    for (int hits = random.Between(1, 3); hits > 0 && !statement.empty(); --hits) {
-      const auto at = static_cast<std::size_t>(random.Next() % statement.size());
-      const int way = random.Between(0, 2);
-      if (way == 0) statement.erase(at, 1);
-      if (way == 1) statement[at] = static_cast<char>(random.Between(0, 255));
-      if (way == 2) statement.insert(at, 1, random.Pick(std::string_view(", -=+0129.EA#\r{")));
-    }
-    Configuration conf;
-    if (!ApplyStatement(statement, self, conf).empty()) {
-      ++refused;
-      continue;
-    }
-    ++taken;
-    for (const std::string& record : ConfigurationRecords(conf, self))
-      ASSERT_EQ(record.find_first_of("\r\n"), std::string::npos) << "after " << statement;
-  }
-  EXPECT_GT(taken, 500);
-  EXPECT_GT(refused, 500);
 }
 
 // ---- The saved state

@@ -1,10 +1,10 @@
-#include "simulator/SimOptions.h"
-
 #include <gmock/gmock.h>
 
 #include <algorithm>
 #include <sstream>
 #include <vector>
+
+#include "simulator/SimOptions.h"
 
 namespace ostrel {
 namespace {

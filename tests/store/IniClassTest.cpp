@@ -165,17 +165,6 @@ TEST_F(IniClassTest, FilesAreInTheCodePage) {
   EXPECT_EQ(files.contents["/out"], "");
 }
 
-TEST_F(IniClassTest, AnySaveThatFailsLeavesTheOldFileWhole) {
-  ini.WriteKey("A", "k", "new");
-  for (std::size_t n = 1; n <= 4; ++n) {
-    files.contents = {{"/f", "old"}};
-    files.FailFrom(n);
-    EXPECT_FALSE(ini.SaveINI("/f").Ok());
-    EXPECT_EQ(files.contents["/f"], "old");
-    files.Heal();
-  }
-}
-
 TEST_F(IniClassTest, RandomDocumentsAreStable) {
   std::mt19937 random(3);
   constexpr std::string_view kLetters = "[]==\n\n\r #aAbB";

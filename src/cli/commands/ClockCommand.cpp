@@ -5,22 +5,14 @@
 namespace ostrel::cli {
 namespace {
 
-ExitCode ReadClock(Online& online) {
-  return online.session.Run([&] {
-    DateTime& clock = online.configurator.live.DeviceClock;
-    clock = DateTime{};
-    online.configurator.comms.ReadDeviceRTC();
-    return clock != DateTime{};
-  });
-}
-
 ExitCode RunClock(Online& online, bool set) {
   if (set) {
     const ExitCode written =
         online.session.Run([&] { return online.configurator.comms.WriteDeviceRTC(); });
     if (written != ExitCode::Done) return written;
   }
-  const ExitCode read = ReadClock(online);
+  const ExitCode read =
+      online.session.Run([&] { return online.configurator.comms.ReadDeviceRTC(); });
   if (read != ExitCode::Done) return read;
   const DateTime& logger = online.configurator.live.DeviceClock;
   const DateTime computer = online.context.platform.clock.LocalNow();

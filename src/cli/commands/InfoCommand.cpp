@@ -28,7 +28,7 @@ void PrintInfo(std::ostream& out, const Online& online) {
       << "features   " << FeaturesText(info.Features) << '\n'
       << "battery    " << DecText(info.BatteryVoltage) << " V\n"
       << "signal     " << info.Rssi << '\n'
-      << "log        " << info.LogUsed << " of " << info.LogSize << " records\n"
+      << "log        " << DecText(info.LogUsed) << " of " << DecText(info.LogSize) << " records\n"
       << "clock      " << ClockText(online.configurator.live.DeviceClock) << '\n';
 }
 

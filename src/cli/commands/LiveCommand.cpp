@@ -123,10 +123,10 @@ ExitCode RunLive(Online& online, bool watch) {
   const auto interrupted = [&] { return online.session.Interrupted(); };
   for (;;) {
     const TimePoint next = loop.Now() + kWatchInterval;
-    const bool isRead = online.configurator.comms.ReadRealTime();
+    const LinkResult read = online.configurator.comms.ReadRealTime();
     // Watching is ended by an interrupt, which is no failure then.
     if (watch && interrupted()) return ExitCode::Done;
-    if (!isRead) return online.session.Failed();
+    if (!read) return online.session.Failed(read);
     Show(online, watch);
     if (!online.context.console.Out()) return ExitCode::BadFile;
     if (!watch || loop.RunUntil(interrupted, next)) return ExitCode::Done;

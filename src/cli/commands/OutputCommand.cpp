@@ -22,7 +22,9 @@ ExitCode RunOutput(Online& online, const OutputOptions& options) {
                                                           " outputs, counted from 0"));
   const ExitCode sent = online.session.Run([&] {
     Comms& comms = online.configurator.comms;
-    return comms.SetSingleOutput(options.index, on) && !comms.RxLine.empty();
+    const LinkResult result = comms.SetSingleOutput(options.index, on);
+    // What is answered does not count, but that something is.
+    return result && comms.RxLine.empty() ? LinkFault{LinkFault::Kind::Silence} : result;
   });
   if (sent != ExitCode::Done) return sent;
   return online.context.Show({[&] {

@@ -168,7 +168,9 @@ ExitCode RunUpload(CommandContext& context, const UploadOptions& options) {
   PortChoice port;
   const ExitCode chosen = context.ChoosePort(port);
   if (chosen != ExitCode::Done) return chosen;
-  const auto configurator = context.MakeOnline(*context.ChooseModel(port, options.file));
+  const auto model = context.ChooseModel(port, options.file);
+  if (!model) return ExitCode::Usage;
+  const auto configurator = context.MakeOnline(*model);
   const ExitCode loaded = LoadFile(context, *configurator, options);
   if (loaded != ExitCode::Done) return loaded;
   LoggerSession session(context, *configurator, port);

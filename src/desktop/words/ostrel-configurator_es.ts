@@ -280,6 +280,18 @@
         <translation>el equipo no llegó al final en la sentencia %1</translation>
     </message>
     <message>
+        <source>a text with a control character cannot be sent</source>
+        <translation>no se puede enviar un texto con un carácter de control</translation>
+    </message>
+    <message>
+        <source>statement %1 holds a control character and cannot be sent</source>
+        <translation>la sentencia %1 contiene un carácter de control y no se puede enviar</translation>
+    </message>
+    <message>
+        <source>type that text anew</source>
+        <translation>escriba de nuevo ese texto</translation>
+    </message>
+    <message>
         <source>the line at %1 was held</source>
         <translation>la línea de %1 estaba retenida</translation>
     </message>

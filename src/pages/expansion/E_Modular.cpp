@@ -69,7 +69,7 @@ void E_Modular::LoadData() {
 
 void E_Modular::RestoreConf() {
   Clear();
-  RestoreBlock(context_, Id());
+  ReadBlockKeys(context_, Id());
   LoadData();
   RepaintTree();
 }

@@ -21,6 +21,10 @@ void FlagChoice::Fill() {
     FlagCombo.Add("F" + std::to_string(flag), flag + 1);
 }
 
+void FlagChoice::Load(std::int16_t flag) {
+  FlagCombo.SetPosition(flag >= 0 && flag <= kFlagsOffered ? flag : -1);
+}
+
 void FlagChoice::Save(std::int16_t& flag) const { Assign(flag, FlagCombo.Value(flag)); }
 
 void FlagChoice::SetEnabled(bool enabled) {

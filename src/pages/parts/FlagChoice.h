@@ -14,9 +14,9 @@ class FlagChoice {
 
   /// Refills the list.
   void Fill();
-  /// Shows 0 for the constant "TRUE", n for flag F(n-1).
-  void Load(std::int16_t flag) { FlagCombo.SetPosition(flag); }
-  /// A flag that no row stands for is kept.
+  /// Shows a flag: 0 is the constant "TRUE", n is F(n-1). No row is chosen for any other.
+  void Load(std::int16_t flag);
+  /// Brings the flag of the chosen row; without one `flag` is kept.
   void Save(std::int16_t& flag) const;
   void SetEnabled(bool enabled);
 

@@ -15,8 +15,8 @@ namespace ostrel {
 struct CarrierLine {
   /// Whether the line is up; nothing when the device has gone.
   std::function<std::optional<bool>()> look;
-  /// Waits for a change, and gives false when this device cannot wait, or has gone. A signal ends
-  /// the wait with true.
+  /// Waits for a change of it, or of another line that counts, and gives false when this device
+  /// cannot wait, or has gone. A signal ends the wait with true.
   std::function<bool()> await;
 };
 

@@ -9,10 +9,6 @@ namespace {
 
 constexpr Duration kLongestAlarm = std::chrono::hours(1);
 
-TimePoint Sum(TimePoint start, Duration span) {
-  return span > kNever - start ? kNever : start + span;
-}
-
 /// Stops a timer at the end of a scope, also when that is left by an exception.
 struct Canceller {
   EventLoop& loop;

@@ -21,8 +21,6 @@ using std::chrono::milliseconds;
 /// Octets taken from the driver with one event: a reader that keeps up loses none.
 constexpr qint64 kMostAtOnce = 4096;
 constexpr Duration kReaderPatience = milliseconds(500);
-/// Shortest pause between two looks at an output queue that flow control may be holding.
-constexpr Duration kShortestDrainWait = milliseconds(20);
 
 PortFault FaultOfErrno(int code) {
   switch (code) {
@@ -136,17 +134,20 @@ PortFault QtSerialPort::Open() {
 }
 
 /// A hang-up comes as an event of reading. This is for what has none there: a node that is taken
-/// away, and the carrier line where the device has one.
+/// away, and the lines of carrier and flow control where the device has them.
 void QtSerialPort::WatchDevice(const std::string& path) {
   nodeWatch_ = std::make_unique<NodeWatch>(loop_, path, [this] { Lose(); });
   const int handle = device_->handle();
-  CarrierLine line{
-      .look = [handle]() -> std::optional<bool> {
-        int lines = 0;
-        if (::ioctl(handle, TIOCMGET, &lines) != 0) return {};
-        return (lines & TIOCM_CD) != 0;
-      },
-      .await = [handle] { return ::ioctl(handle, TIOCMIWAIT, TIOCM_CD) == 0 || errno == EINTR; }};
+  CarrierLine line{.look = [handle]() -> std::optional<bool> {
+                     int lines = 0;
+                     if (::ioctl(handle, TIOCMGET, &lines) != 0) return {};
+                     return (lines & TIOCM_CD) != 0;
+                   },
+                   .await =
+                       [handle] {
+                         return ::ioctl(handle, TIOCMIWAIT, TIOCM_CD | TIOCM_CTS) == 0 ||
+                                errno == EINTR;
+                       }};
   const std::optional<bool> carrier = line.look();
   if (!carrier) return;
   carrier_ = *carrier;
@@ -190,8 +191,8 @@ void QtSerialPort::ApplySettings(QSerialPort& device) const {
 }
 
 void QtSerialPort::Close() {
-  for (TimerId* timer : {&drainTimer_, &loseTimer_, &takeTimer_})
-    loop_.Cancel(std::exchange(*timer, 0));
+  drain_.Stop();
+  for (TimerId* timer : {&loseTimer_, &takeTimer_}) loop_.Cancel(std::exchange(*timer, 0));
   carrierWatch_.reset();
   nodeWatch_.reset();
   if (device_ && !lost_) {
@@ -213,6 +214,7 @@ void QtSerialPort::Close() {
 
 void QtSerialPort::TakeIn() {
   loop_.Cancel(std::exchange(takeTimer_, 0));
+  if (!device_ || lost_) return;
   const bool isRead = loop_.Now() - readAt_ < kReaderPatience;
   const auto room = static_cast<qint64>(received_.Size() - received_.Count());
   const QByteArray octets = device_->read(isRead ? room : kMostAtOnce);
@@ -244,6 +246,7 @@ void QtSerialPort::Lose() {
 
 void QtSerialPort::SeeCarrier(std::optional<bool> carrier) {
   if (!carrier) return Lose();
+  if (OutBufferCount() > 0) drain_.Start();  // flow control may have let the line go
   if (*carrier == carrier_ || lost_) return;
   carrier_ = *carrier;
   commEvent_ = kCommEventCarrier;
@@ -254,7 +257,7 @@ void QtSerialPort::Output(std::string_view octets) {
   if (!device_ || lost_) return;
   device_->write(octets.data(), static_cast<qint64>(octets.size()));
   lineFree_ = std::max(lineFree_, loop_.Now()) + LineTime(octets.size());
-  if (drainTimer_ == 0) WatchDrain();
+  drain_.Start();
 }
 
 std::size_t QtSerialPort::OutBufferCount() const {
@@ -277,15 +280,6 @@ std::size_t QtSerialPort::OctetsUnderWay() const {
 void QtSerialPort::DiscardOutput() {
   lineFree_ = loop_.Now();
   if (device_ && !lost_) device_->clear(QSerialPort::Output);
-}
-
-/// A driver does not tell when its queue is empty: wakes the loop when it can be, at line speed.
-void QtSerialPort::WatchDrain() {
-  drainTimer_ = 0;
-  const std::size_t queued = OutBufferCount();
-  if (queued == 0) return;
-  drainTimer_ = loop_.After(std::max(LineTime(queued), kShortestDrainWait), "output queue",
-                            [this] { WatchDrain(); });
 }
 
 PortFault QtSerialPort::Probe(int number) {

@@ -15,6 +15,7 @@
 #include "platform/ReceiveBuffer.h"
 #include "platform/SerialPort.h"
 #include "platform/qt/CarrierWatch.h"
+#include "platform/qt/DrainWatch.h"
 #include "platform/qt/NodeWatch.h"
 #include "platform/qt/PortMap.h"
 #include "platform/qt/QtEventLoop.h"
@@ -68,7 +69,6 @@ class QtSerialPort final : public SerialPort {
   void TakeIn();
   void WatchDevice(const std::string& path);
   void SeeCarrier(std::optional<bool> carrier);
-  void WatchDrain();
   std::size_t OctetsUnderWay() const;
   void Lose();
 
@@ -91,7 +91,7 @@ class QtSerialPort final : public SerialPort {
   std::function<void()> onComm_;
   std::unique_ptr<CarrierWatch> carrierWatch_;
   std::unique_ptr<NodeWatch> nodeWatch_;
-  TimerId drainTimer_ = 0;
+  DrainWatch drain_{loop_, [this] { return OutBufferCount(); }};
   TimerId loseTimer_ = 0;
   TimerId takeTimer_ = 0;  ///< for octets left to the driver
 };

@@ -11,10 +11,6 @@ std::string Milliseconds(Duration t) {
   return std::to_string(t.count() / 1000) + "." + fraction.substr(1) + " ms";
 }
 
-TimePoint Sum(TimePoint start, Duration span) {
-  return span > kNever - start ? kNever : start + span;
-}
-
 }  // namespace
 
 bool VirtualLoop::Later(const Entry& a, const Entry& b) {

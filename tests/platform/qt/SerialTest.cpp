@@ -12,6 +12,7 @@
 #include "platform/qt/PortMap.h"
 #include "platform/qt/PseudoTerminal.h"
 #include "platform/qt/QtSerialPort.h"
+#include "platform/virtual/VirtualLoop.h"
 
 namespace ostrel {
 namespace {
@@ -200,6 +201,27 @@ TEST_F(SerialTest, ACarrierChangeWakesTheLoopAndNothingElseDoes) {
   EXPECT_TRUE(Await([&] { return seen.size() == 3; })) << "it is looked at now and then";
   EXPECT_LT(loop.Now() - start, seconds(20));
   for (const int end : ends) ::close(end);
+}
+
+/// A queue that flow control holds costs next to nothing, and is seen to move at once.
+TEST(DrainWatch, LooksMoreAndMoreSeldomAtAQueueThatDoesNotMove) {
+  VirtualLoop clock;
+  std::size_t queued = 7;
+  DrainWatch watch(clock, [&queued] { return queued; });
+  watch.Start();
+  auto before = clock.Wakings();
+  clock.RunFor(seconds(10));
+  EXPECT_LE(clock.Wakings() - before, 20U) << "each 20 ms would be 500";
+  before = clock.Wakings();
+  watch.Start();
+  queued = 6;
+  EXPECT_TRUE(
+      clock.RunUntil([&] { return clock.Wakings() > before; }, clock.Now() + milliseconds(25)));
+  queued = 0;
+  clock.RunFor(seconds(2));
+  before = clock.Wakings();
+  clock.RunFor(seconds(10));
+  EXPECT_EQ(clock.Wakings(), before);
 }
 
 TEST_F(SerialTest, PacedTerminalKeepsLineSpeedBothWays) {

@@ -1,4 +1,4 @@
-#include "cli/Progress.h"
+#include "cli/TransferLine.h"
 
 namespace ostrel::cli {
 namespace {
@@ -7,17 +7,18 @@ constexpr int kBarWidth = 30;
 
 }  // namespace
 
-Progress::Progress(Console& console, TransferWatch& watch, std::string_view label, bool isShown)
+TransferLine::TransferLine(Console& console, TransferWatch& watch, std::string_view label,
+                           bool isShown)
     : console_(console), watch_(watch), label_(label) {
   if (isShown && !console.Quiet()) watch_.OnStep = [this] { Draw(); };
 }
 
-Progress::~Progress() {
+TransferLine::~TransferLine() {
   watch_.OnStep = nullptr;
   if (!drawn_.empty()) console_.Err() << "\r\x1b[K" << std::flush;
 }
 
-void Progress::Draw() {
+void TransferLine::Draw() {
   const int done = watch_.Done();
   const int steps = watch_.Steps();
   const auto filled = static_cast<std::size_t>(done * kBarWidth / steps);

@@ -10,12 +10,12 @@ namespace ostrel::cli {
 
 /// Shows on a terminal how far a transfer is, with the time that remains. It takes its line away at
 /// its end.
-class Progress {
+class TransferLine {
  public:
-  Progress(Console& console, TransferWatch& watch, std::string_view label, bool isShown);
-  ~Progress();
-  Progress(const Progress&) = delete;
-  Progress& operator=(const Progress&) = delete;
+  TransferLine(Console& console, TransferWatch& watch, std::string_view label, bool isShown);
+  ~TransferLine();
+  TransferLine(const TransferLine&) = delete;
+  TransferLine& operator=(const TransferLine&) = delete;
 
  private:
   void Draw();
