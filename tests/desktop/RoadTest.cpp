@@ -154,6 +154,7 @@ void Road::EditAnAlarm() {
   Type(On(*desktop, "TextoAlarma"), "Puerta");
   Type(On(*desktop, "Persist"), "7");
   Click(On(*desktop, "NotGPRS"));
+  if (!On<QCheckBox>(*desktop, "HorarioHabil")->isChecked()) Click(On(*desktop, "HorarioHabil"));
   modals.Expect([](QWidget* modal) {
     auto* offered = modal->findChild<QListWidget*>("RefList");
     Click(offered->viewport(), offered->visualItemRect(offered->item(4)).center());

@@ -77,11 +77,10 @@ bool MainWindow::MayChange(const Comparison& changes) {
 
 /// A failed step is told as any other fault of the session.
 void MainWindow::ShowWritten(const WriteResult& result) {
-  if (result.end == WriteEnd::Written && result.IsAsSent()) {
-    configurator_.session.ShowWritten();
+  if (result.end == WriteEnd::Written) configurator_.session.ShowWritten();
+  if (result.IsAsSent())
     statusBar()->showMessage(
         Words::tr("Written and verified: the logger holds what the pages show."), kMessageTime);
-  }
   if (!result.verified || result.verified->isSame) return;
   CompareDialog dialog({.title = Words::tr("The logger holds another configuration than was sent"),
                         .note = {},

@@ -800,5 +800,97 @@
         <source>Bit %1</source>
         <translation>Bit n.º %1</translation>
     </message>
+    <message>
+        <source>%1, serial number %2</source>
+        <translation>%1, número de serie %2</translation>
+    </message>
+    <message>
+        <source>&amp;Keep a safety copy, write, and read back (about %1)</source>
+        <translation>&amp;Guardar una copia, escribir y volver a leer (unos %1)</translation>
+    </message>
+    <message>
+        <source>&amp;Show what will change before anything is sent</source>
+        <translation>&amp;Mostrar qué cambiará antes de enviar nada</translation>
+    </message>
+    <message>
+        <source>&amp;Write</source>
+        <translation>&amp;Escribir</translation>
+    </message>
+    <message>
+        <source>&amp;Write all the same</source>
+        <translation>&amp;Escribir de todos modos</translation>
+    </message>
+    <message>
+        <source>Both hold the same.</source>
+        <translation>Ambas contienen lo mismo.</translation>
+    </message>
+    <message>
+        <source>In the logger</source>
+        <translation>En el registrador</translation>
+    </message>
+    <message>
+        <source>Nothing was sent, since no safety copy could be kept: %1</source>
+        <translation>No se ha enviado nada, porque no se pudo guardar una copia: %1</translation>
+    </message>
+    <message>
+        <source>Sent</source>
+        <translation>Enviado</translation>
+    </message>
+    <message>
+        <source>The file is for the model %1, and a session with a %2 stands. Change the model?</source>
+        <translation>El archivo es del modelo %1, y hay una sesión abierta con un %2. ¿Cambiar el modelo?</translation>
+    </message>
+    <message>
+        <source>The logger holds another configuration than was sent</source>
+        <translation>El registrador contiene otra configuración que la enviada</translation>
+    </message>
+    <message>
+        <source>To be written</source>
+        <translation>Se escribirá</translation>
+    </message>
+    <message>
+        <source>What will change</source>
+        <translation>Qué cambiará</translation>
+    </message>
+    <message>
+        <source>Write &amp;only (about %1)</source>
+        <translation>Solo e&amp;scribir (unos %1)</translation>
+    </message>
+    <message>
+        <source>Write the configuration</source>
+        <translation>Escribir la configuración</translation>
+    </message>
+    <message>
+        <source>Written and verified: the logger holds what the pages show.</source>
+        <translation>Escrito y verificado: el registrador contiene lo que muestran las páginas.</translation>
+    </message>
+    <message>
+        <source>the pages show again what was there before the reading</source>
+        <translation>las páginas vuelven a mostrar lo que había antes de la lectura</translation>
+    </message>
+    <message>
+        <source>the logger says that it is the model %1, and the model chosen is %2</source>
+        <translation>el registrador dice ser del modelo %1, y el modelo elegido es %2</translation>
+    </message>
+    <message>
+        <source>what was read from the logger fits the model %1, and the model chosen is %2</source>
+        <translation>lo leído del registrador corresponde al modelo %1, y el modelo elegido es %2</translation>
+    </message>
+    <message>
+        <source>the last reading of the logger failed</source>
+        <translation>la última lectura del registrador falló</translation>
+    </message>
+    <message>
+        <source>nothing has been read from a logger or opened since the program started</source>
+        <translation>no se ha leído ni abierto nada desde que arrancó el programa</translation>
+    </message>
+    <message>
+        <source>the configuration on the pages is empty</source>
+        <translation>la configuración de las páginas está vacía</translation>
+    </message>
+    <message>
+        <source>the check finds %1 error(s), the first: %2</source>
+        <translation>la comprobación encuentra %1 errores, el primero: %2</translation>
+    </message>
 </context>
 </TS>
