@@ -36,17 +36,24 @@ bool IsTextSent(const Examined& file, std::size_t index) {
          file.IsSent(index, &other);
 }
 
+/// Why a text cannot stand in a statement; empty for one that can.
+std::string_view TroubleOf(const std::string& text) {
+  if (text.find(',') != std::string::npos)
+    return "a comma ends the text on the line: write something else for it";
+  if (text.find_first_of("{}") != std::string::npos)
+    return "a brace encloses commands on the line: write something else for it";
+  return HasControl(text) ? "a control character breaks the line: remove it" : "";
+}
+
 std::vector<Finding> BrokenTexts(const Examined& file) {
   std::vector<Finding> found;
   for (std::size_t i = 0; i < file.Fields().size(); ++i) {
     const ConstField& field = file.Fields()[i];
     const std::string* text = TextOf(field.value);
     if (!text || text->empty()) continue;
-    const bool hasComma = text->find(',') != std::string::npos;
-    if ((!hasComma && !HasControl(*text)) || !IsTextSent(file, i)) continue;
-    found.push_back({field.Section(), field.Key(),
-                     hasComma ? "a comma ends the text on the line: write something else for it"
-                              : "a control character breaks the line: remove it"});
+    const std::string_view trouble = TroubleOf(*text);
+    if (trouble.empty() || !IsTextSent(file, i)) continue;
+    found.push_back({field.Section(), field.Key(), std::string(trouble)});
   }
   return found;
 }
@@ -218,13 +225,14 @@ std::vector<Finding> BadNumbers(const Examined& file) {
   return found;
 }
 
-constexpr std::array<Rule, 22> kRules{{
+constexpr std::array<Rule, 25> kRules{{
     {"text-breaks-statement", Severity::Error,
-     "a comma or a control character in a text that is sent", BrokenTexts},
+     "a comma, a brace or a control character in a text that is sent", BrokenTexts},
     {"too-many-statements", Severity::Error, "more statements than an upload can number",
      TooManyStatements},
     {"modbus-out-of-range", Severity::Error, "a MODBUS address that the bus does not have",
      ModbusOutOfRange},
+    {"probe-identity-broken", Severity::Error, "a probe's identity that is none", BrokenIdentities},
     {"expansion-out-of-range", Severity::Error,
      "an expansion input in a mode, on a module or in a group that does not exist",
      ExpansionOutOfRange},
@@ -247,6 +255,9 @@ constexpr std::array<Rule, 22> kRules{{
      WideHysteresis},
     {"alarm-of-silent-channel", Severity::Warning, "an alarm on a channel that is off or not read",
      AlarmsOfSilentChannels},
+    {"probe-identity-shared", Severity::Warning, "two probes with one identity", SharedIdentities},
+    {"equation-without-channel", Severity::Warning,
+     "an equation of a channel that the model does not have", EquationsOfMissingChannels},
     {"modbus-bit-rate", Severity::Warning, "a bit rate that the bus does not have", OddBitRates},
     {"modbus-not-kept", Severity::Warning, "a MODBUS setting that does not come back as it is",
      ModbusNotKept},

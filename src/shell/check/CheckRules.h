@@ -100,4 +100,9 @@ std::vector<Finding> SharedExpansionInputs(const Examined& file);
 std::vector<Finding> ExpansionOutOfRange(const Examined& file);
 std::vector<Finding> ExpansionWithoutInterface(const Examined& file);
 
+// The rules on probes and math channels.
+std::vector<Finding> BrokenIdentities(const Examined& file);
+std::vector<Finding> SharedIdentities(const Examined& file);
+std::vector<Finding> EquationsOfMissingChannels(const Examined& file);
+
 }  // namespace ostrel
