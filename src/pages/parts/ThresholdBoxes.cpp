@@ -5,18 +5,18 @@ namespace ostrel {
 ThresholdBoxes::ThresholdBoxes(Form& form, const ControlNames& names, NumberForm numberForm,
                                std::span<const ThresholdBox> boxes)
     : numberForm_(numberForm) {
-  for (const ThresholdBox& spec : boxes) {
-    Entry entry{spec, nullptr, nullptr};
-    if (!spec.label.empty())
+  for (const ThresholdBox& shape : boxes) {
+    Entry entry{shape, nullptr, nullptr};
+    if (!shape.label.empty())
       entry.label =
-          std::make_unique<Label>(form, names("Label" + std::string(spec.name)), spec.label);
-    entry.box = std::make_unique<TextBox>(form, names(spec.name));
+          std::make_unique<Label>(form, names("Label" + std::string(shape.name)), shape.label);
+    entry.box = std::make_unique<TextBox>(form, names(shape.name));
     entries_.push_back(std::move(entry));
   }
 }
 
 void ThresholdBoxes::CheckNumbers() const {
-  for (const Entry& entry : entries_) CheckNumberBox(*entry.box, entry.spec.kind);
+  for (const Entry& entry : entries_) CheckNumberBox(*entry.box, entry.shape.kind);
 }
 
 void ThresholdBoxes::SetEnabled(bool enabled) {

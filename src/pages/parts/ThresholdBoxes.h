@@ -33,7 +33,7 @@ class ThresholdBoxes {
     std::size_t i = 0;
     Describe(thresholds, [&](const FieldMeta&, float value) {
       const Entry& entry = entries_[i++];
-      entry.box->SetText(NumberText(entry.spec.isScaled ? value * factor : value, numberForm_));
+      entry.box->SetText(NumberText(entry.shape.isScaled ? value * factor : value, numberForm_));
     });
   }
   /// Commits the boxes. A factor of 0 leaves scaled thresholds as they were.
@@ -43,7 +43,7 @@ class ThresholdBoxes {
     Describe(thresholds, [&](const FieldMeta&, float& value) {
       const Entry& entry = entries_[i++];
       const double typed = NumVal(entry.box->Text());
-      Assign(value, entry.spec.isScaled ? typed / static_cast<double>(factor) : typed);
+      Assign(value, entry.shape.isScaled ? typed / static_cast<double>(factor) : typed);
     });
   }
   void CheckNumbers() const;
@@ -51,7 +51,7 @@ class ThresholdBoxes {
 
  private:
   struct Entry {
-    ThresholdBox spec;
+    ThresholdBox shape;
     std::unique_ptr<Label> label;  ///< null for none
     std::unique_ptr<TextBox> box;
   };
