@@ -1,5 +1,6 @@
 #include "cli/ConfFile.h"
 
+#include "cli/FaultText.h"
 #include "shell/ForeignKeys.h"
 #include "shell/SafetyCopies.h"
 
@@ -16,6 +17,15 @@ ExitCode SaveTo(CommandContext& context, Configurator& configurator, const std::
   configurator.ConfFilePath = path;
   const FileResult result = configurator.SaveConf();
   return result.Ok() ? ExitCode::Done : CannotWrite(context, path, result);
+}
+
+ExitCode MakeStatements(CommandContext& context, const DeviceConf& conf, const Receiver& receiver,
+                        std::vector<std::string>& statements) {
+  const StatementList list = ComposeUpload(conf, receiver);
+  if (!list.Fault().Ok())
+    return context.console.Fail(ExitCode::BadFile, FaultText(WordsOf({.link = list.Fault()}, "")));
+  statements = list.All();
+  return ExitCode::Done;
 }
 
 ExitCode TryToWrite(CommandContext& context, const std::string& path) {

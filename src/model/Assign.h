@@ -19,4 +19,6 @@ inline void Assign(float& field, double number) {
   if (std::abs(number) <= std::numeric_limits<float>::max()) field = static_cast<float>(number);
 }
 
+inline void Assign(double& field, double number) { field = number; }
+
 }  // namespace ostrel

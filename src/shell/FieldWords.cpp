@@ -15,6 +15,17 @@ std::string DayNames(std::uint8_t week) {
   return days.empty() ? "no day" : days;
 }
 
+std::string MonthDayNames(double month) {
+  const std::string days = Dec2Bin(month);
+  std::string names;
+  for (std::size_t day = 0; day < days.size(); ++day) {
+    if (days[day] != '1') continue;
+    names += (names.empty() ? "" : " ") +
+             (day + 1 == days.size() ? std::string("last") : std::to_string(day + 1));
+  }
+  return names.empty() ? "no day" : names;
+}
+
 }  // namespace
 
 std::string SectionWords(const FieldId& id) {
@@ -39,6 +50,8 @@ std::string ReadableValue(const FieldView& value, const FieldMeta& meta, bool is
   if (std::holds_alternative<const ConfPhone*>(value)) return text.empty() ? "free" : text;
   const auto* week = std::get_if<const std::uint8_t*>(&value);
   if (week && meta.sense == FieldSense::Week) return DayNames(**week);
+  const auto* month = std::get_if<const double*>(&value);
+  if (month && meta.sense == FieldSense::Month) return MonthDayNames(**month);
   return text.starts_with(' ') ? text.substr(1) : text;
 }
 

@@ -18,6 +18,10 @@
 #include "pages/inputs/Grupos.h"
 #include "pages/inputs/Katodex.h"
 #include "pages/inputs/SampleRate.h"
+#include "pages/timers/CTimer.h"
+#include "pages/timers/LTimer.h"
+#include "pages/timers/MTimer.h"
+#include "pages/timers/WTimer.h"
 
 namespace ostrel {
 namespace {
@@ -28,6 +32,7 @@ struct Walked {
   std::unique_ptr<Page> (*make)(PageContext& context);
   int lastChannel;  ///< -1 for a page without channels
   int configs;      ///< alarm configurations; 0 for none
+  int atOnce = 1;   ///< channels that it shows at a time
 };
 
 template <class Kind>
@@ -43,6 +48,8 @@ const Walked kWalked[] = {
     {"E_Math", Make<E_Math>, 3, 1},      {"CONF_MODBUS", Make<CONF_MODBUS>, -1, 0},
     {"E_MODBUS", Make<E_MODBUS>, 31, 1}, {"E_Modular", Make<E_Modular>, 127, 1},
     {"E_Aux", Make<E_Aux>, 3, 4},        {"Katodex", Make<Katodex>, -1, 0},
+    {"CTimer", Make<CTimer>, 12, 0, 4},  {"LTimer", Make<LTimer>, 12, 0, 4},
+    {"WTimer", Make<WTimer>, 12, 0, 4},  {"MTimer", Make<MTimer>, 12, 0, 4},
 };
 
 /// Values that a field may be tried with: the controls of some take only a few.
@@ -81,7 +88,8 @@ class PageWalk : public PageFixture, public testing::WithParamInterface<Walked> 
       if (field.id.section->word == "MINPUT.A" && field.id.word == "GRUPO") continue;
       // The rows of a list close up: only the first telephone stays where it was.
       if (std::holds_alternative<ConfPhone*>(field.value) && field.id.slot.place > 0) continue;
-      if (channel >= 0 && field.id.channel != channel) continue;
+      const int slot = field.id.channel - channel;
+      if (channel >= 0 && (slot < 0 || slot >= GetParam().atOnce)) continue;
       if (field.id.slot.config >= 0 && field.id.slot.config != config) continue;
       shown.push_back(field);
     }

@@ -1,4 +1,4 @@
-#include "blocks/Configuration.h"
+#include "cli/ConfFile.h"
 #include "cli/commands/Commands.h"
 #include "host/LoggerText.h"
 
@@ -9,8 +9,10 @@ ExitCode RunStatements(CommandContext& context, const std::string& file) {
   const auto configuration = context.OpenFile(file);
   if (!configuration) return ExitCode::BadFile;
   const std::int32_t features = context.options.features.value_or(0);
-  const auto statements =
-      ComposeStatements(configuration->conf, {configuration->profile, features});
+  std::vector<std::string> statements;
+  const ExitCode made =
+      MakeStatements(context, configuration->conf, {configuration->profile, features}, statements);
+  if (made != ExitCode::Done) return made;
   return context.Show({[&] {
                          return Json{{"file", file},
                                      {"model", configuration->profile.TargetName},

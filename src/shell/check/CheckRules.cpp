@@ -225,7 +225,7 @@ std::vector<Finding> BadNumbers(const Examined& file) {
   return found;
 }
 
-constexpr std::array<Rule, 25> kRules{{
+constexpr std::array<Rule, 29> kRules{{
     {"text-breaks-statement", Severity::Error,
      "a comma, a brace or a control character in a text that is sent", BrokenTexts},
     {"too-many-statements", Severity::Error, "more statements than an upload can number",
@@ -236,6 +236,8 @@ constexpr std::array<Rule, 25> kRules{{
     {"expansion-out-of-range", Severity::Error,
      "an expansion input in a mode, on a module or in a group that does not exist",
      ExpansionOutOfRange},
+    {"period-too-long", Severity::Error, "a long timer whose period does not fit its statement",
+     LongPeriods},
     {"section-missing", Severity::Error, "a section of the model that is not in the file",
      MissingSections},
     {"key-missing", Severity::Error, "a key of a section that is not in the file", MissingKeys},
@@ -255,6 +257,12 @@ constexpr std::array<Rule, 25> kRules{{
      WideHysteresis},
     {"alarm-of-silent-channel", Severity::Warning, "an alarm on a channel that is off or not read",
      AlarmsOfSilentChannels},
+    {"timer-never-runs", Severity::Warning, "an enabled timer without a period or a day",
+     TimersThatNeverRun},
+    {"timer-without-actions", Severity::Warning, "an enabled timer that runs no action",
+     TimersWithoutActions},
+    {"modbus-never-read", Severity::Warning, "a MODBUS channel that no timer reads",
+     ModbusNeverRead},
     {"probe-identity-shared", Severity::Warning, "two probes with one identity", SharedIdentities},
     {"equation-without-channel", Severity::Warning,
      "an equation of a channel that the model does not have", EquationsOfMissingChannels},

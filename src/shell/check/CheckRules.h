@@ -100,6 +100,12 @@ std::vector<Finding> SharedExpansionInputs(const Examined& file);
 std::vector<Finding> ExpansionOutOfRange(const Examined& file);
 std::vector<Finding> ExpansionWithoutInterface(const Examined& file);
 
+// The rules on timers.
+std::vector<Finding> LongPeriods(const Examined& file);
+std::vector<Finding> TimersThatNeverRun(const Examined& file);
+std::vector<Finding> TimersWithoutActions(const Examined& file);
+std::vector<Finding> ModbusNeverRead(const Examined& file);
+
 // The rules on probes and math channels.
 std::vector<Finding> BrokenIdentities(const Examined& file);
 std::vector<Finding> SharedIdentities(const Examined& file);
