@@ -56,7 +56,7 @@ struct ConfMTimer {
 template <class List, class Visit>
 void DescribeActions(List& list, Visit& visit) {
   for (int place = 0; place < kActionPlaces; ++place)
-    visit(FieldMeta{"ACT", "action", FieldSense::Action}, list[place], FieldSlot{.place = place});
+    visit(FieldMeta{"ACT", "actions", FieldSense::Action}, list[place], FieldSlot{.place = place});
 }
 
 inline constexpr FieldMeta kTimerEnabled{"HABIL", "enabled", FieldSense::Enabled};

@@ -118,7 +118,7 @@ TEST_F(TimerBlocks, ALongPeriodEndsTheMakingOfAnUpload) {
     return ComposeUpload(conf, {profile, 0}).Fault();
   };
   EXPECT_TRUE(fault(24'855).Ok());
-  for (const std::int16_t days : {24'856, 32'767, -24'856}) {
+  for (const auto days : std::vector<std::int16_t>{24'856, 32'767, -24'856}) {
     EXPECT_EQ(fault(days).kind, LinkFault::Kind::PeriodTooLong) << days;
     EXPECT_EQ(fault(days).number, 5);
   }

@@ -10,8 +10,9 @@ namespace ostrel {
 namespace {
 
 constexpr int kSlots = 4;
+constexpr int kLastRow = 3;     ///< of a card; the actions stand there, beside a period
 constexpr int kTimeWidth = 11;  // characters of a time of day, with the arrows
-constexpr int kMonthColumns = 11;
+constexpr int kMonthColumns = 8;
 
 /// The controls of one timer.
 struct TimerSlot {
@@ -75,13 +76,14 @@ void CyclicMiddle(const TimerSlot& slot, QGridLayout& grid) {
                          Qt::Horizontal, true);
   grid.addWidget(range.box, 1, 0, 1, 2);
   grid.addWidget(flag, 2, 0, 1, 2);
-  grid.addWidget(period, 3, 0);
+  grid.addWidget(period, kLastRow, 0);
 }
 
 void LongMiddle(const TimerSlot& slot, QGridLayout& grid) {
   QLabel* label = slot.LabelFor("Period", "LabelCada");
   QWidget* period = Narrow(slot.Show("Period"), 8);
-  grid.addWidget(FramedRow(slot, "FrameHorario", {label, period, slot.Show("LabelDias")}), 3, 0);
+  grid.addWidget(FramedRow(slot, "FrameHorario", {label, period, slot.Show("LabelDias")}), kLastRow,
+                 0);
 }
 
 void WeeklyMiddle(const TimerSlot& slot, QGridLayout& grid) {
@@ -111,7 +113,9 @@ Card TimerCard(const TimerSlot& slot, Middle middle) {
   const Card card = MakeCard(slot.view, slot.names("FrameTimer"));
   card.grid->addWidget(slot.Show("TimerHabil"), 0, 0, 1, 2);
   middle(slot, *card.grid);
-  card.grid->addWidget(FramedRow(slot, "FrameAcciones", {slot.Show("BotonEditar")}), 3, 1);
+  const int column = card.grid->itemAtPosition(kLastRow, 0) ? 1 : 0;
+  card.grid->addWidget(FramedRow(slot, "FrameAcciones", {slot.Show("BotonEditar")}), kLastRow,
+                       column, 1, 2 - column);
   card.grid->setColumnStretch(0, 1);
   card.grid->setColumnStretch(1, 1);
   card.grid->setRowStretch(card.grid->rowCount(), 1);

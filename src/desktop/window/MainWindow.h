@@ -78,6 +78,7 @@ class MainWindow final : public QMainWindow {
   void FillRecent(QMenu& menu);
   void FillCopies(QMenu& menu);
   void Compare();
+  void ShowSchedule();
   void ShowTrace(bool on);
   /// Says in a box what went wrong.
   void Tell(const QString& words);
@@ -137,7 +138,8 @@ class MainWindow final : public QMainWindow {
   TraceView* trace_;
   QToolBar* bar_ = nullptr;
   QAction *open_ = nullptr, *save_ = nullptr, *language_ = nullptr, *recentFiles_ = nullptr,
-          *safetyCopies_ = nullptr, *compare_ = nullptr, *traceSwitch_ = nullptr;
+          *safetyCopies_ = nullptr, *compare_ = nullptr, *schedule_ = nullptr,
+          *traceSwitch_ = nullptr;
   bool following_ = false;
   bool isWriting_ = false;  ///< a writing with its guards is under way
   bool traceShown_ = false;

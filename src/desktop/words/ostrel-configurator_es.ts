@@ -892,5 +892,137 @@
         <source>the check finds %1 error(s), the first: %2</source>
         <translation>la comprobación encuentra %1 errores, el primero: %2</translation>
     </message>
+    <message>
+        <source>Schedule</source>
+        <translation>Calendario</translation>
+    </message>
+    <message>
+        <source>Show when the timers fire</source>
+        <translation>Mostrar cuándo se ejecutan los temporizadores</translation>
+    </message>
+    <message>
+        <source>What happens when</source>
+        <translation>Qué ocurre y cuándo</translation>
+    </message>
+    <message>
+        <source>No timer is enabled.</source>
+        <translation>No hay ningún temporizador habilitado.</translation>
+    </message>
+    <message>
+        <source>The next %1 times within %2 days from %3. Cyclic and long timers are told as if they began to count then, and conditions as if they held.</source>
+        <translation>Las próximas %1 veces en %2 días desde %3. Los temporizadores cíclicos y largos se muestran como si empezaran a contar entonces, y las condiciones como si se cumplieran.</translation>
+    </message>
+    <message>
+        <source>Timer</source>
+        <translation>Temporizador</translation>
+    </message>
+    <message>
+        <source>When</source>
+        <translation>Cuándo</translation>
+    </message>
+    <message>
+        <source>If</source>
+        <translation>Si</translation>
+    </message>
+    <message>
+        <source>Runs</source>
+        <translation>Ejecuta</translation>
+    </message>
+    <message>
+        <source>Next times</source>
+        <translation>Próximas veces</translation>
+    </message>
+    <message>
+        <source>macro %1</source>
+        <translation>macro %1</translation>
+    </message>
+    <message>
+        <source>Not within %1 days</source>
+        <translation>No en %1 días</translation>
+    </message>
+    <message>
+        <source>every %1 s</source>
+        <translation>cada %1 s</translation>
+    </message>
+    <message>
+        <source>%1, from %2 to %3, %4</source>
+        <translation>%1, de %2 a %3, %4</translation>
+    </message>
+    <message>
+        <source>every day</source>
+        <translation>cada día</translation>
+    </message>
+    <message>
+        <source>every %1 days</source>
+        <translation>cada %1 días</translation>
+    </message>
+    <message>
+        <source>on %1</source>
+        <translation>los días %1</translation>
+    </message>
+    <message>
+        <source>on no day</source>
+        <translation>ningún día</translation>
+    </message>
+    <message>
+        <source>%1 at %2</source>
+        <translation>%1 a las %2</translation>
+    </message>
+    <message>
+        <source>last</source>
+        <translation>último</translation>
+    </message>
+    <message>
+        <source>Mo</source>
+        <translation>Lu</translation>
+    </message>
+    <message>
+        <source>Tu</source>
+        <translation>Ma</translation>
+    </message>
+    <message>
+        <source>We</source>
+        <translation>Mi</translation>
+    </message>
+    <message>
+        <source>Th</source>
+        <translation>Ju</translation>
+    </message>
+    <message>
+        <source>Fr</source>
+        <translation>Vi</translation>
+    </message>
+    <message>
+        <source>Sa</source>
+        <translation>Sá</translation>
+    </message>
+    <message>
+        <source>Su</source>
+        <translation>Do</translation>
+    </message>
+    <message>
+        <source>cyclic timer</source>
+        <translation>temporizador cíclico</translation>
+    </message>
+    <message>
+        <source>long timer</source>
+        <translation>temporizador largo</translation>
+    </message>
+    <message>
+        <source>weekly timer</source>
+        <translation>temporizador semanal</translation>
+    </message>
+    <message>
+        <source>monthly timer</source>
+        <translation>temporizador mensual</translation>
+    </message>
+    <message>
+        <source>the period of long timer %1 is above 24855 days</source>
+        <translation>el período del temporizador largo %1 supera los 24855 días</translation>
+    </message>
+    <message>
+        <source>shorten it</source>
+        <translation>acórtelo</translation>
+    </message>
 </context>
 </TS>
