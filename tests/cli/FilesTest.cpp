@@ -272,10 +272,10 @@ TEST(Check, FindsEachMistakeOfABusByItsRule) {
            {"MULT= 2", "MULT= 2\r\nSIZE32=True", "", "modbus-not-kept"},
            {"MULT= 2", "MULT= 2\r\nSIZE32=False", "", ""},
            {"ACT( 3)= 74", "ACT( 3)= 75", "", "modbus-never-read"},
-           {"ACT( 3)= 74", "ACT( 3)= 75\r\n[MODBUS]\r\nMASTER=False", "", ""},
            {"MULT= 2\r\nANALOG_MODE=True", "MASCARA= 1\r\nMINIMO( 0)= 9", "", ""},
        })
     ExpectRule(sound, one);
+  ExpectRule(sound + "\r\nMASTER=False", {"ACT( 3)= 74", "ACT( 3)= 75", "", ""});
 }
 
 TEST(Check, FindsEachMistakeOfTimersByItsRule) {

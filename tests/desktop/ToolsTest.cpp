@@ -429,6 +429,7 @@ TEST_F(WindowTools, ComparesWithAFileWithoutTouchingAnything) {
 TEST_F(WindowTools, ShowsWhenTimersFireAsThePageInFrontHasThem) {
   Core().conf.LTimer[0] = {kTrue, 5, {}};
   Core().conf.LTimer[0].ACT[0] = 3;
+  Core().PageOf(PageId::LTimer)->LoadData();
   Window().GoTo("LTimer0_3");
   Core().PageOf(PageId::LTimer)->GetForm().Get<TextBox>("Period(0)").Type("7");
   ModalScript modals;
