@@ -255,7 +255,7 @@ TEST(Check, FindsEachMistakeOfProbesAndEquationsByItsRule) {
   const std::string sound =
       "[General]\r\nVERSION=OSTREL_KA1\r\n[1WIRE 0]\r\nINTERFAZ= 4\r\nADDRESS1=40.113.0.1\r\n"
       "ADDRESS2=000.000.000.000\r\n[1WIRE 2]\r\nINTERFAZ= 5\r\nADDRESS1=040.113.000.002\r\n"
-      "ADDRESS2=0\r\n[MATH 3]\r\nINTERFAZ= 6\r\nECUACION=(FL7-DI0)*PB3+Q9";
+      "ADDRESS2=0.0.0.0\r\n[MATH 3]\r\nINTERFAZ= 6\r\nECUACION=(FL7-DI0)*PB3+Q9";
   for (const RuleCase& one : std::vector<RuleCase>{
            {"Q9", "Q9", "", ""},
            {"040.113.000.002", "040.113.000.001", "", "probe-identity-shared"},
@@ -265,6 +265,7 @@ TEST(Check, FindsEachMistakeOfProbesAndEquationsByItsRule) {
            {"40.113.0.1", "40.113.0.256", "", "probe-identity-broken", 1},
            {"40.113.0.1", "40.113.0.1.", "", "probe-identity-broken", 1},
            {"40.113.0.1", "a", "", "probe-identity-broken", 1},
+           {"40.113.0.1", "0", "", "probe-identity-broken", 1},
            {"FL7", "FL8", "", "equation-without-channel"},
            {"DI0", "MB0", "", "equation-without-channel"},
            {"INTERFAZ= 6\r\nECUACION=", "ECUACION=MB0", "", ""},

@@ -1,5 +1,5 @@
 #include "cli/World.h"
-#include "shell/UploadPlan.h"
+#include "link/UploadPlan.h"
 
 namespace ostrel::cli {
 namespace {

@@ -3,8 +3,8 @@
 #include "cli/commands/Commands.h"
 #include "cli/commands/OnlineCommand.h"
 #include "host/LoggerText.h"
+#include "link/UploadPlan.h"
 #include "shell/GuardedWrite.h"
-#include "shell/UploadPlan.h"
 #include "shell/WriteDoubts.h"
 
 namespace ostrel::cli {

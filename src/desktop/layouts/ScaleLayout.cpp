@@ -25,7 +25,9 @@ constexpr std::array<SignalUnit, 4> kSignalUnits{{
 }};
 
 QString NumberIn(const Form& form, const std::string& box) {
-  return ToQt(DecText(static_cast<float>(NumVal(form.Get<TextBox>(box).Text()))));
+  const double number = NumVal(form.Get<TextBox>(box).Text());
+  const auto kept = ToFloat(number);
+  return ToQt(kept ? DecText(*kept) : DecText(number));
 }
 
 QString UnitOfSignal(const Form& form, const ControlNames& names) {
