@@ -49,8 +49,9 @@ std::unique_ptr<Configurator> CommandContext::MakeOnline(std::string_view model)
 }
 
 std::optional<ModelConfiguration> CommandContext::OpenFile(const std::string& path) {
-  if (!platform.files.Read(path)) {
-    console.Fail(ExitCode::BadFile, "cannot read " + path);
+  std::string octets;
+  if (const FileResult can = platform.files.ReadInto(path, octets); !can.Ok()) {
+    console.Fail(ExitCode::BadFile, "cannot read " + path + ": " + can.error);
     return {};
   }
   TargetProfile present;

@@ -14,7 +14,8 @@ ExitCode CannotWrite(CommandContext& context, const std::string& path, const Fil
 
 ExitCode SaveTo(CommandContext& context, Configurator& configurator, const std::string& path) {
   configurator.ConfFilePath = path;
-  const FileResult result = configurator.SaveConf();
+  // Whether a protected file may go was asked ahead of the session.
+  const FileResult result = configurator.SaveConf(Replacing::Any);
   return result.Ok() ? ExitCode::Done : CannotWrite(context, path, result);
 }
 
@@ -22,8 +23,10 @@ ExitCode TryToWrite(CommandContext& context, const std::string& path) {
   Files& files = context.platform.files;
   if (files.Exists(path) && !files.Read(path))
     return CannotWrite(context, path, {"what stands there is no file to replace"});
-  const std::string trial = files.Resolve(path) + ".try";
-  if (files.Exists(trial)) return ExitCode::Done;
+  if (const FileResult may = files.MayReplace(path);
+      !may.Ok() && !context.dialogs.Confirm(path + ": " + may.error + ". Replace it all the same?"))
+    return CannotWrite(context, path, {may.error + ". --yes replaces it all the same"});
+  const std::string trial = files.TemporaryBeside(files.Resolve(path));
   const FileResult made = files.Create(trial);
   if (!made.Ok()) return CannotWrite(context, path, made);
   files.Remove(trial);

@@ -27,8 +27,9 @@ struct Environment {
   std::string shippedLang;  ///< the installed translation table
   /// Number of a device path; 0 when there is none to give.
   std::function<int(const std::string& path)> numberOfDevice;
-  /// Opens a text file that grows while the command runs; null when it cannot be written.
-  std::function<std::unique_ptr<std::ostream>(const std::string& path)> openLog;
+  /// Opens a text file that grows while the command runs; null when it may not be written, which
+  /// `why` tells.
+  std::function<std::unique_ptr<std::ostream>(const std::string& path, std::string& why)> openLog;
   /// What an interrupt does; set by a command for as long as it has a port open.
   std::function<void()> onInterrupt;
 };

@@ -30,18 +30,19 @@ void LoggerSession::Close() {
   if (configurator_.comms.PortOpen()) configurator_.session.Close(!context_.options.phone.empty());
 }
 
-void LoggerSession::StartTrace() {
-  if (context_.options.trace.empty()) return;
-  trace_ = context_.environment.openLog(context_.options.trace);
-  traceFailed_ = trace_ == nullptr;
-  if (trace_)
-    configurator_.comms.Trace = [this](const std::string& line) { *trace_ << line << std::endl; };
+ExitCode LoggerSession::StartTrace() {
+  const std::string& path = context_.options.trace;
+  if (path.empty()) return ExitCode::Done;
+  std::string why;
+  trace_ = context_.environment.openLog(path, why);
+  if (!trace_)
+    return context_.console.Fail(ExitCode::BadFile, "cannot write the trace to " + path + ": " + why);
+  configurator_.comms.Trace = [this](const std::string& line) { *trace_ << line << std::endl; };
+  return ExitCode::Done;
 }
 
 ExitCode LoggerSession::Open() {
-  StartTrace();
-  if (traceFailed_)
-    return context_.console.Fail(ExitCode::BadFile, "cannot write " + context_.options.trace);
+  if (const ExitCode traced = StartTrace(); traced != ExitCode::Done) return traced;
   if (!port_.simulatedModel.empty() && !context_.options.simState.empty() &&
       !context_.environment.simulated.UseStateFile(context_.platform.files, port_.simulatedModel,
                                                    context_.options.simState))
@@ -54,6 +55,8 @@ ExitCode LoggerSession::Open() {
   const bool isKnown = configurator_.session.CompleteInfo();
   if (interrupted_) return Failed({});
   if (isKnown) return ExitCode::Done;
+  const LinkFault& told = configurator_.comms.InfoFault();
+  if (!told.IsDamage() && told.kind != LinkFault::Kind::Silence) return Failed(told);
   return context_.console.Fail(ExitCode::DialogueFailed,
                                "the logger did not tell who it is: lines were lost or arrived "
                                "damaged. Check cable and earthing");

@@ -4,7 +4,6 @@
 
 #include <QCoreApplication>
 #include <exception>
-#include <fstream>
 #include <iostream>
 #include <vector>
 
@@ -12,6 +11,7 @@
 #include "host/Folders.h"
 #include "host/Machine.h"
 #include "host/SignalPipe.h"
+#include "host/TraceFile.h"
 #include "platform/SilentDialogs.h"
 #include "platform/qt/QtProcesses.h"
 
@@ -21,12 +21,6 @@ using namespace ostrel;
 using namespace ostrel::cli;
 
 constexpr int kInterrupted = 130;
-
-std::unique_ptr<std::ostream> OpenLog(const std::string& path) {
-  auto file = std::make_unique<std::ofstream>(path, std::ios::binary);
-  if (!*file) return nullptr;
-  return file;
-}
 
 int Run(const std::vector<std::string>& args) {
   Machine machine;
@@ -42,7 +36,7 @@ int Run(const std::vector<std::string>& args) {
       .dataFolder = UserDataFolder(),
       .shippedLang = LangIn(ShippedFolder()),
       .numberOfDevice = [&](const std::string& path) { return machine.NumberOfDevice(path); },
-      .openLog = OpenLog,
+      .openLog = OpenTrace,
       .onInterrupt = {}};
   if (HasOperator()) environment.ask = AskOnTerminal;
   SignalPipe watch(machine.loop, [&] {
