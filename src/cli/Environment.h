@@ -32,6 +32,8 @@ struct Environment {
   std::function<std::unique_ptr<std::ostream>(const std::string& path, std::string& why)> openLog;
   /// What an interrupt does; set by a command for as long as it has a port open.
   std::function<void()> onInterrupt;
+  /// Whether a signal has come that ends the program, served or not; empty where none can come.
+  std::function<bool()> interrupted;
 };
 
 }  // namespace ostrel::cli

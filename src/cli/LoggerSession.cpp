@@ -41,13 +41,19 @@ ExitCode LoggerSession::StartTrace() {
   return ExitCode::Done;
 }
 
+ExitCode LoggerSession::TakeSimulatedState() {
+  const std::string& path = context_.options.simState;
+  if (port_.simulatedModel.empty() || path.empty()) return ExitCode::Done;
+  const FileResult taken = context_.environment.simulated.UseStateFile(
+      context_.platform.files, port_.simulatedModel, path);
+  if (taken.Ok()) return ExitCode::Done;
+  return context_.console.Fail(ExitCode::BadFile,
+                               path + " holds no simulated logger: " + taken.error);
+}
+
 ExitCode LoggerSession::Open() {
   if (const ExitCode traced = StartTrace(); traced != ExitCode::Done) return traced;
-  if (!port_.simulatedModel.empty() && !context_.options.simState.empty() &&
-      !context_.environment.simulated.UseStateFile(context_.platform.files, port_.simulatedModel,
-                                                   context_.options.simState))
-    return context_.console.Fail(ExitCode::BadFile,
-                                 context_.options.simState + " holds no simulated logger");
+  if (const ExitCode taken = TakeSimulatedState(); taken != ExitCode::Done) return taken;
   if (!configurator_.session.Open(port_.number, context_.options.phone))
     return Fault(interrupted_ ? ExitCode::DialogueFailed : ExitCode::NoSession,
                  *configurator_.session.State().failed);

@@ -39,6 +39,7 @@ class LoggerSession {
   bool Move(std::string_view label, bool (SessionDriver::*transfer)());
   ExitCode Fault(ExitCode code, const SessionFault& fault);
   ExitCode StartTrace();
+  ExitCode TakeSimulatedState();
 
   CommandContext& context_;
   Configurator& configurator_;

@@ -75,6 +75,13 @@ ExitCode TellParserResult(const CLI::App& app, const CLI::ParseError& error,
   return environment.out ? ExitCode::Done : ExitCode::BadFile;
 }
 
+/// A reader that has gone says so by a signal.
+ExitCode OutputLost(CommandContext& context) {
+  if (context.Interrupted())
+    return context.console.Fail(ExitCode::Interrupted, "interrupted: nobody reads the output");
+  return context.console.Fail(ExitCode::BadFile, "cannot write the output");
+}
+
 ExitCode RunChosen(const std::vector<Command>& commands, Environment& environment,
                    const GlobalOptions& options) {
   for (const Command& command : commands) {
@@ -86,7 +93,7 @@ ExitCode RunChosen(const std::vector<Command>& commands, Environment& environmen
     if (!kept.Ok())
       return context.console.Fail(ExitCode::BadFile,
                                   "cannot write " + options.simState + ": " + kept.error);
-    if (!environment.out) return context.console.Fail(ExitCode::BadFile, "cannot write the output");
+    if (!environment.out && !context.isDone) return OutputLost(context);
     if (context.traceLost)
       return context.console.Fail(ExitCode::BadFile, "cannot write " + options.trace);
     return result;

@@ -303,5 +303,26 @@ TEST(Check, SaysWhereAndWhatHelps) {
             "it (text-breaks-statement)\n");
 }
 
+TEST(Files, AProtectedFileIsReplacedAfterAQuestion) {
+  World world;
+  world.HaveFile("/a.ocf");
+  world.files.modes["/a.ocf"] = 0444;
+  world.Edit("/a.ocf", "NOMBRE=", "NOMBRE=mine");
+  const std::string former = world.files.contents["/a.ocf"];
+  EXPECT_EQ(world.Run("download /a.ocf --port sim:VR200"), 5);
+  EXPECT_THAT(world.err, HasSubstr("cannot write /a.ocf: it is read-only. --yes replaces it"));
+  EXPECT_EQ(world.files.contents["/a.ocf"], former);
+  EXPECT_EQ(world.Run("download /a.ocf --yes --port sim:VR200"), 0) << world.err;
+  EXPECT_NE(world.files.contents["/a.ocf"], former);
+  EXPECT_EQ(world.files.modes["/a.ocf"], 0444);
+}
+
+TEST(Files, ALargeOneIsRefusedWithTheReason) {
+  World world;
+  world.files.contents["/a.ocf"] = std::string(kMostFileOctets + 1, 'x');
+  EXPECT_EQ(world.Run("show /a.ocf"), 5);
+  EXPECT_EQ(world.err, "ostrelctl: cannot read /a.ocf: it is larger than 16 MB\n");
+}
+
 }  // namespace
 }  // namespace ostrel::cli

@@ -169,6 +169,7 @@ TEST(Online, LeavesNothingBehindAFailedDownload) {
            {"bad-checksum@9",
             "the logger did not tell who it is: lines were lost or arrived damaged"},
            {"vanish@20", "COM253 (sim:VR200) has gone"},
+           {"vanish@3", "COM253 (sim:VR200) has gone in the middle of the dialogue"},
        }) {
     World world(WithFaults({failure.fault}));
     world.files.contents["/old.ocf"] = "old";

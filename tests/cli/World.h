@@ -67,7 +67,8 @@ class World {
                           .shippedLang = "/share/Lang.txt",
                           .numberOfDevice = [](const std::string&) { return 0; },
                           .openLog = {},
-                          .onInterrupt = {}};
+                          .onInterrupt = {},
+                          .interrupted = {}};
 
   std::string out, err;  ///< of the last command
 

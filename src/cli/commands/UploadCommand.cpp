@@ -76,6 +76,7 @@ ExitCode Report(Online& online, const UploadOptions& options, const DeviceConf& 
   if (!isSame)
     return context.console.Fail(ExitCode::Differences,
                                 "the logger holds another configuration than was sent");
+  context.isDone = true;
   context.console.Note(result.comparison ? "configuration written and verified"
                                          : "configuration written");
   return ExitCode::Done;

@@ -20,8 +20,6 @@ namespace {
 using namespace ostrel;
 using namespace ostrel::cli;
 
-constexpr int kInterrupted = 130;
-
 int Run(const std::vector<std::string>& args) {
   Machine machine;
   QtProcesses processes;
@@ -37,11 +35,13 @@ int Run(const std::vector<std::string>& args) {
       .shippedLang = LangIn(ShippedFolder()),
       .numberOfDevice = [&](const std::string& path) { return machine.NumberOfDevice(path); },
       .openLog = OpenTrace,
-      .onInterrupt = {}};
+      .onInterrupt = {},
+      .interrupted = SignalPipe::HasCome};
   if (HasOperator()) environment.ask = AskOnTerminal;
   SignalPipe watch(machine.loop, [&] {
-    if (!environment.onInterrupt) std::_Exit(kInterrupted);
-    environment.onInterrupt();
+    if (environment.onInterrupt) return environment.onInterrupt();
+    std::cerr << "ostrelctl: interrupted" << std::endl;
+    std::_Exit(static_cast<int>(ExitCode::Interrupted));
   });
   return static_cast<int>(RunOstrelctl(args, environment));
 }
