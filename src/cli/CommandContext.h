@@ -10,6 +10,7 @@
 #include "cli/Environment.h"
 #include "cli/GlobalOptions.h"
 #include "cli/Result.h"
+#include "cli/StandardFiles.h"
 #include "lang/Lang.h"
 #include "shell/ConfigurationFile.h"
 #include "shell/Configurator.h"
@@ -32,6 +33,7 @@ class CommandContext {
   const GlobalOptions options;
   Console console;
   ConsoleDialogs dialogs;
+  StandardFiles files;
   const Platform platform;  ///< that of the environment; the dialogs are those of the command line
   bool traceLost = false;   ///< the trace could not be written whole
   /// What was to be done is done: output that cannot be written does not change that.

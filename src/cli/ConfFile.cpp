@@ -1,5 +1,7 @@
 #include "cli/ConfFile.h"
 
+#include "base/CodePage.h"
+#include "blocks/Configuration.h"
 #include "shell/ForeignKeys.h"
 #include "shell/SafetyCopies.h"
 
@@ -13,6 +15,12 @@ ExitCode CannotWrite(CommandContext& context, const std::string& path, const Fil
 }  // namespace
 
 ExitCode SaveTo(CommandContext& context, Configurator& configurator, const std::string& path) {
+  if (path == kStandard) {
+    IniClass document(context.platform.files);
+    SaveConfiguration(configurator.conf, configurator.profile, document);
+    context.console.Out() << ToCodePage(document.OutputINI());
+    return ExitCode::Done;
+  }
   configurator.ConfFilePath = path;
   // Whether a protected file may go was asked ahead of the session.
   const FileResult result = configurator.SaveConf(Replacing::Any);
@@ -20,6 +28,7 @@ ExitCode SaveTo(CommandContext& context, Configurator& configurator, const std::
 }
 
 ExitCode TryToWrite(CommandContext& context, const std::string& path) {
+  if (path == kStandard) return ExitCode::Done;
   Files& files = context.platform.files;
   if (files.Exists(path) && !files.Read(path))
     return CannotWrite(context, path, {"what stands there is no file to replace"});
@@ -35,6 +44,7 @@ ExitCode TryToWrite(CommandContext& context, const std::string& path) {
 
 ExitCode MayReplace(CommandContext& context, const std::string& path,
                     const TargetProfile& profile) {
+  if (path == kStandard) return ExitCode::Done;
   const auto foreign = ForeignKeys(context.platform.files, path, profile);
   if (foreign.empty()) return ExitCode::Done;
   const std::string lost =

@@ -22,7 +22,11 @@ struct Environment {
   std::ostream& out;
   std::ostream& err;
   bool errIsTerminal = false;
-  Ask ask;                  ///< empty when no operator sits at the terminal
+  bool outIsTerminal = false;
+  Ask ask;  ///< empty when no operator sits at the terminal
+  /// Reads an open descriptor to its end, or to the end of its first line, which it leaves out.
+  std::function<FileResult(int descriptor, bool lineOnly, std::string& octets)> readDescriptor;
+  std::string code;         ///< access code of the environment; empty for none
   std::string dataFolder;   ///< the user's own; made when needed
   std::string shippedLang;  ///< the installed translation table
   /// Number of a device path; 0 when there is none to give.

@@ -36,7 +36,8 @@ ExitCode LoggerSession::StartTrace() {
   std::string why;
   trace_ = context_.environment.openLog(path, why);
   if (!trace_)
-    return context_.console.Fail(ExitCode::BadFile, "cannot write the trace to " + path + ": " + why);
+    return context_.console.Fail(ExitCode::BadFile,
+                                 "cannot write the trace to " + path + ": " + why);
   configurator_.comms.Trace = [this](const std::string& line) { *trace_ << line << std::endl; };
   return ExitCode::Done;
 }
@@ -44,8 +45,8 @@ ExitCode LoggerSession::StartTrace() {
 ExitCode LoggerSession::TakeSimulatedState() {
   const std::string& path = context_.options.simState;
   if (port_.simulatedModel.empty() || path.empty()) return ExitCode::Done;
-  const FileResult taken = context_.environment.simulated.UseStateFile(
-      context_.platform.files, port_.simulatedModel, path);
+  const FileResult taken = context_.environment.simulated.UseStateFile(context_.platform.files,
+                                                                       port_.simulatedModel, path);
   if (taken.Ok()) return ExitCode::Done;
   return context_.console.Fail(ExitCode::BadFile,
                                path + " holds no simulated logger: " + taken.error);
@@ -100,7 +101,8 @@ ExitCode LoggerSession::Upload() {
 
 ExitCode LoggerSession::Fault(ExitCode code, const SessionFault& fault) {
   FaultWords words = WordsOf(fault, port_.name);
-  if (fault.code == CodeAnswer::NotGiven) words.remedy = {"--code gives one"};
+  if (fault.code == CodeAnswer::NotGiven)
+    words.remedy = {"--code, --code-file, --code-fd or OSTREL_CODE gives one"};
   if (written_)
     words.outcome = {"the logger has taken the new configuration over, which is not verified"};
   return context_.console.Fail(code, FaultText(words));

@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace ostrel {
 
@@ -16,8 +17,8 @@ struct FileResult {
   bool Ok() const { return error.empty(); }
 };
 
-/// Most octets of a file that is read. No file of this program comes near it: a larger one was named
-/// by mistake.
+/// Most octets of a file that is read. No file of this program comes near it: a larger one was
+/// named by mistake.
 inline constexpr std::size_t kMostFileOctets = 16U * 1024U * 1024U;
 
 /// The file system as the few steps that reading and safe saving need; injected so that each step
@@ -31,6 +32,9 @@ class Files {
   /// The whole content, or nothing when the file cannot be read.
   std::optional<std::string> Read(const std::string& path);
   virtual bool Exists(const std::string& path) = 0;
+  /// Names of the regular files of a folder, in the order of their octets; none where it cannot be
+  /// read.
+  virtual std::vector<std::string> List(const std::string& folder) = 0;
   /// Where a path leads through symbolic links; the path itself where it is no link.
   virtual std::string Resolve(const std::string& path) = 0;
   /// Why a file should not be replaced without a question: it is read-only, or a link that leads in

@@ -260,7 +260,23 @@ TEST(Online, GivesTheAccessCodeOnceFromTheOptionsOrAsksForIt) {
   EXPECT_EQ(world.Run("info --port sim:VR200 --phone 600100200 --code 1"), 3);
   EXPECT_THAT(world.err, HasSubstr("did not accept the access code"));
   EXPECT_EQ(world.Run("info --port sim:VR200 --phone 600100200"), 3);
-  EXPECT_THAT(world.err, HasSubstr("--code gives one"));
+  EXPECT_THAT(world.err, HasSubstr("--code, --code-file, --code-fd or OSTREL_CODE gives one"));
+  const std::string call = "info --port sim:VR200 --phone 600100200 ";
+  world.files.contents["/code"] = "4711\r\nmore";
+  EXPECT_EQ(world.Run(call + "--code-file /code"), 0) << world.err;
+  EXPECT_EQ(world.Run(call + "--code-file /none"), 5);
+  EXPECT_EQ(world.Run(call + "--code-file /code --code 4711"), 2);
+  world.environment.readDescriptor = [](int descriptor, bool lineOnly, std::string& octets) {
+    EXPECT_TRUE(lineOnly);
+    octets = descriptor == 9 ? "4711" : "";
+    return FileResult{};
+  };
+  EXPECT_EQ(world.Run(call + "--code-fd 9"), 0) << world.err;
+  EXPECT_EQ(world.Run(call + "--code-fd 8"), 5);
+  world.environment.code = "4711";
+  EXPECT_EQ(world.Run(call), 0) << world.err;
+  EXPECT_EQ(world.Run(call + "--code 1"), 3) << "the option counts more";
+  world.environment.code.clear();
   int asked = 0;
   world.environment.ask = [&](std::string_view prompt, bool echo) {
     EXPECT_FALSE(echo);

@@ -5,6 +5,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
 #include <charconv>
 #include <cstdio>
@@ -93,8 +94,7 @@ FileResult SyncFolderOf(const std::string& path) {
 /// of this process's number.
 bool IsLeftOver(std::string_view ending) {
   pid_t process = 0;
-  const auto [end, error] =
-      std::from_chars(ending.data(), ending.data() + ending.size(), process);
+  const auto [end, error] = std::from_chars(ending.data(), ending.data() + ending.size(), process);
   if (error != std::errc() || end != ending.data() + ending.size() || process <= 0) return false;
   return process == ::getpid() || (::kill(process, 0) != 0 && errno == ESRCH);
 }
@@ -122,6 +122,18 @@ FileResult QtFiles::ReadInto(const std::string& path, std::string& octets) {
 bool QtFiles::Exists(const std::string& path) {
   std::error_code error;
   return fs::exists(path, error);
+}
+
+std::vector<std::string> QtFiles::List(const std::string& folder) {
+  std::vector<std::string> names;
+  std::error_code error;
+  fs::directory_iterator entry(folder, error);
+  for (const fs::directory_iterator end; !error && entry != end; entry.increment(error)) {
+    std::error_code ignored;
+    if (entry->is_regular_file(ignored)) names.push_back(entry->path().filename().string());
+  }
+  std::ranges::sort(names);
+  return names;
 }
 
 std::string QtFiles::Resolve(const std::string& path) {

@@ -2,6 +2,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "platform/Files.h"
 
@@ -12,6 +13,7 @@ class QtFiles final : public Files {
  public:
   FileResult ReadInto(const std::string& path, std::string& octets) override;
   bool Exists(const std::string& path) override;
+  std::vector<std::string> List(const std::string& folder) override;
   std::string Resolve(const std::string& path) override;
   FileResult MayReplace(const std::string& path) override;
   /// The name bears the number of this process. A file whose process is gone was left by a kill.

@@ -49,6 +49,15 @@ bool VirtualFiles::Exists(const std::string& path) {
   return contents.contains(target) || folders.contains(target);
 }
 
+std::vector<std::string> VirtualFiles::List(const std::string& folder) {
+  std::vector<std::string> names;
+  const std::string start = folder + "/";
+  for (const auto& [path, octets] : contents)
+    if (path.starts_with(start) && path.find('/', start.size()) == std::string::npos)
+      names.push_back(path.substr(start.size()));
+  return names;
+}
+
 std::string VirtualFiles::Resolve(const std::string& path) {
   std::string target = path;
   for (int i = 0; i < kMostLinks; ++i) {

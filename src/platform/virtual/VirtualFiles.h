@@ -23,7 +23,7 @@ class VirtualFiles final : public Files {
   std::map<std::string, std::string> links;     ///< symbolic links: where each path leads
   std::set<std::string> folders;
   std::map<std::string, int> modes;  ///< permissions by path, where they are not 0644
-  std::vector<std::string> log;  ///< one line a change tried: "rename /a.new0 /a"
+  std::vector<std::string> log;      ///< one line a change tried: "rename /a.new0 /a"
 
   /// Makes the n-th change from now fail, counted from 1. A failing write leaves half the octets.
   void FailOperation(std::size_t n);
@@ -36,6 +36,7 @@ class VirtualFiles final : public Files {
 
   FileResult ReadInto(const std::string& path, std::string& octets) override;
   bool Exists(const std::string& path) override;
+  std::vector<std::string> List(const std::string& folder) override;
   std::string Resolve(const std::string& path) override;
   FileResult MayReplace(const std::string& path) override;
   /// One process saves here: always the same name.
