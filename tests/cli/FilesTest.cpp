@@ -46,7 +46,7 @@ TEST(Show, TellsOnlyWhatIsSetUnlessToldAll) {
   EXPECT_THAT(world.out, HasSubstr("(alarm 1, valid days): Mo Tu We Th Fr\n"));
   EXPECT_THAT(world.out, HasSubstr("  ACTHI( 1) (alarm 1, actions, high): 5 12\n"));
   EXPECT_EQ(world.Run("show /a.ocf --all"), 0);
-  EXPECT_THAT(world.out, HasSubstr("RENVT (minutes between resends): 10\n"));
+  EXPECT_THAT(world.out, HasSubstr("RENVT (time between resends): 10 minutes\n"));
   EXPECT_THAT(world.out, HasSubstr("TLFM 0 (telephone 0): free\n"));
 }
 

@@ -38,8 +38,8 @@ class E_Modular final : public Page {
   void Tick();
   /// Lets the tree show which inputs are in use.
   void RepaintTree() const;
-  template <auto kPart>
-  void EditActionsOf(ActionList AlarmBlock::*list);
+  template <auto kPart, class Tab>
+  void EditActionsOf(ActionList AlarmBlock::*list, Tab& tab);
   void ShowHelp() const;
 
   PageContext& context_;
