@@ -199,8 +199,11 @@ void ChannelPage<Channel>::EditActions(ActionList AlarmBlock::*list) {
   Record& record = Current();
   AlarmBlock& alarm = record.ALARM[CurrentConfig()].common;
   std::string subject = form_.Title();
-  if constexpr (requires { record.NOMBRE; })
-    if (!record.NOMBRE.empty()) subject += " \"" + record.NOMBRE + '"';
+  if constexpr (requires { record.NOMBRE; }) {
+    Record shown = record;
+    channel_.Save(shown);
+    if (!shown.NOMBRE.empty()) subject += " \"" + shown.NOMBRE + '"';
+  }
   if (Record::kShape.configs > 1) subject += ", " + configs_.Caption();
   context_.EditActions(alarm.*list, subject + ", " + panel_.CaptionOf(list));
   panel_.ShowActionCounts(alarm);

@@ -101,6 +101,15 @@ QWidget* FormView::ShowNamed(std::string_view control, const QString& accessible
   return widget;
 }
 
+void FormView::Whenever(std::initializer_list<std::string_view> controls,
+                        std::function<void()> run) {
+  for (const std::string_view control : controls) {
+    Show(control);
+    whenever_.emplace(control, run);
+  }
+  run();
+}
+
 void FormView::SetRowText(std::string_view control,
                           std::function<QString(const ListRow&)> rowText) {
   rowTexts_.emplace(control, std::move(rowText));
@@ -145,6 +154,8 @@ void FormView::Follow(std::string_view control) {
     }
   }
   if (const auto label = labels_.find(control); label != labels_.end()) Follow(label->second);
+  const auto [first, last] = whenever_.equal_range(control);
+  for (auto run = first; run != last; ++run) run->second();
   if (finished_ && widget->accessibleName() != before) AssignAccessKeys(*this);
 }
 

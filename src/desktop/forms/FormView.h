@@ -4,6 +4,7 @@
 #include <QString>
 #include <QWidget>
 #include <functional>
+#include <initializer_list>
 #include <map>
 #include <set>
 #include <string>
@@ -50,6 +51,8 @@ class FormView final : public QWidget {
     own_.insert(widget);
     return widget;
   }
+  /// Runs something now, and whenever what a control shows has changed.
+  void Whenever(std::initializer_list<std::string_view> controls, std::function<void()> run);
   /// How the rows of a drop-down list read. Ahead of the first asking for it.
   void SetRowText(std::string_view control, std::function<QString(const ListRow&)> rowText);
   /// Shows an open list as a table. Ahead of the first asking for it.
@@ -102,6 +105,7 @@ class FormView final : public QWidget {
     std::function<QStringList(const ListRow&)> cells;
   };
   std::map<std::string, Columns, std::less<>> columns_;
+  std::multimap<std::string, std::function<void()>, std::less<>> whenever_;
   std::set<const QWidget*> own_;
   std::map<std::string, QString, std::less<>> notes_;
   NoteBubble* bubble_;

@@ -47,8 +47,8 @@ MainWindow::MainWindow(const WindowParts& parts)
   auto* sheet = new QWidget(this);
   auto* sheets = new QVBoxLayout(sheet);
   sheets->setContentsMargins(0, 0, 0, 0);
-  sheets->addWidget(pages_);
-  sheets->addWidget(group_);
+  sheets->addWidget(pages_, 3);
+  sheets->addWidget(group_, 2);
   group_->hide();
   splitter->addWidget(tree_);
   splitter->addWidget(sheet);

@@ -18,6 +18,10 @@ int ShownConfig(const Form& form) {
   return 0;
 }
 
+/// The rules that look at the text of a file.
+const std::vector<std::string> kRulesOnFiles{"section-missing", "key-missing", "value-cut",
+                                             "value-misread"};
+
 }  // namespace
 
 void Overview::Look() {
@@ -39,11 +43,10 @@ void Overview::Examine() {
   const Configurator& core = parts_.configurator;
   const auto translate = [&core](std::string_view text) { return core.context.Translate(text); };
   const ModelConfiguration configuration{core.profile, present_};
-  IniClass document(core.context.platform.files);
-  SaveConfiguration(present_, core.profile, document);
+  const IniClass noFile(core.context.platform.files);
   const std::optional<std::int32_t> features =
       core.Connected ? std::optional(core.info.Features) : std::nullopt;
-  found_ = ostrel::Examine(Examined(configuration, features, document, translate), {});
+  found_ = ostrel::Examine(Examined(configuration, features, noFile, translate), kRulesOnFiles);
   const std::vector<ConstField> fields = FieldsOf(std::as_const(present_), core.profile);
   placed_.clear();
   for (const auto& [rule, finding] : found_) {

@@ -107,11 +107,16 @@ void E_Modular::Commit() {
 }
 
 void E_Modular::Tick() {
-  digital_.Tick();
   flow_.Tick();
-  counter_.CheckNumbers();
-  analog_.Tick();
+  CheckNumbers();
   RepaintTree();
+}
+
+void E_Modular::CheckNumbers() {
+  digital_.CheckNumbers();
+  flow_.CheckNumbers();
+  counter_.CheckNumbers();
+  analog_.CheckNumbers();
 }
 
 void E_Modular::RepaintTree() const {
@@ -123,7 +128,7 @@ void E_Modular::EditActionsOf(ActionList AlarmBlock::*list, Tab& tab) {
   if (context_.ComBusy) return;  // the list is being replaced
   auto& record = Current().*kPart;
   std::string subject = context_.Translate(kInputTitle) + NumText(CurrentIndex_);
-  if (!record.NOMBRE.empty()) subject += " \"" + record.NOMBRE + '"';
+  if (const std::string name = tab.NameOf(record); !name.empty()) subject += " \"" + name + '"';
   context_.EditActions(record.ALARM[0].common.*list, subject + ", " + tab.CaptionOf(list));
   tab.ShowActionCounts(record);
 }

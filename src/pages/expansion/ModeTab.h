@@ -45,10 +45,17 @@ class ModeTab {
   }
   void Tick() {
     if constexpr (requires { content_.Tick(); }) content_.Tick();
+  }
+  void CheckNumbers() {
     content_.CheckNumbers();
     panel_.CheckNumbers();
   }
 
+  /// The name of the input as it stands on the tab.
+  std::string NameOf(Record record) const {
+    content_.Save(record);
+    return record.NOMBRE;
+  }
   /// What an action list of the tab is called.
   const std::string& CaptionOf(ActionList AlarmBlock::*list) const {
     return panel_.CaptionOf(list);

@@ -78,15 +78,15 @@ std::vector<Finding> UselessScales(const Examined& file) {
       found.push_back(AtScale(scale, "FE",
                               "start of scale and full scale are the same signal, so that there "
                               "is no value: set up both"));
-    if (scale.hasSignal && scale.IE > scale.FE)
+    else if (scale.hasSignal && scale.IE > scale.FE)
       found.push_back(AtScale(scale, "FE",
                               "full scale lies below the start of scale: exchange them, and their "
                               "values"));
-    if (scale.EqIE == scale.EqFE)
+    else if (scale.EqIE == scale.EqFE)
       found.push_back(AtScale(scale, "EqFE",
                               "both ends of the scale have the same value, so that the channel "
                               "never changes: set up both"));
-    if (scale.EqIE > scale.EqFE)
+    else if (scale.EqIE > scale.EqFE)
       found.push_back(AtScale(scale, "EqFE",
                               "the value falls as the signal rises: exchange the values, unless "
                               "the sensor is such a one"));
