@@ -35,6 +35,7 @@ FlowChannel::FlowChannel(Form& form, const PageContext& context)
              "* La persistencia se expresa en ciclos de la base de tiempo. T= Persistencia * Base "
              "de tiempos.") {
   fields_.Bind(Nombre, &ConfCaudal::NOMBRE);
+  interface_.NoteField(&ConfCaudal::INTERFAZ);
   fields_.Bind(Unidad, &ConfCaudal::UNIDAD);
   fields_.Bind(TimeBase, &ConfCaudal::TIMEBASE, NumberForm::Num, kInt);
   fields_.Bind(Ratio, &ConfCaudal::RATIO, NumberForm::Dec, kFloat);

@@ -27,6 +27,8 @@ ProbeChannel::ProbeChannel(Form& form, const PageContext& context)
       ID1(form, "ID1"),
       BotonLeerId(form, "BotonLeerId", "Leer ID") {
   fields_.Bind(Nombre, &ConfOneWire::NOMBRE);
+  Edits(OptionId.face, &ConfOneWire::ID);
+  interface_.NoteField(&ConfOneWire::INTERFAZ);
   fields_.Bind(Unidad, &ConfOneWire::UNIDAD);
   fields_.Bind(ID0, &ConfOneWire::ADDRESS1);
   fields_.Bind(ID1, &ConfOneWire::ADDRESS2);

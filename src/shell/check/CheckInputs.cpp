@@ -20,8 +20,7 @@ void EachProbe(const Examined& file, const Look& look) {
       look(i, probe);
 }
 
-Finding AtInput(const SectionMeta& section, int channel, std::string_view word,
-                std::string sentence) {
+Finding AtInput(const SectionMeta& section, int channel, std::string_view word, Phrase sentence) {
   return {SectionName(section, channel), std::string(word), std::move(sentence)};
 }
 
@@ -70,8 +69,9 @@ std::vector<Finding> BrokenIdentities(const Examined& file) {
          {std::pair{"ADDRESS1", &probe.ADDRESS1}, {"ADDRESS2", &probe.ADDRESS2}})
       if (OctetsOfHalf(*half).empty() || (*half == kUnsetHalf && !isUnset))
         found.push_back(AtInput(Probes::kSection, i, word,
-                                *half + " is no half of an identity: write four numbers up to 255 "
-                                        "with points between them"));
+                                {"%1 is no half of an identity: write four numbers up to 255 with "
+                                 "points between them",
+                                 {*half}}));
   });
   return found;
 }
@@ -88,8 +88,8 @@ std::vector<Finding> SharedIdentities(const Examined& file) {
     const auto [earlier, isNew] = first.emplace(identity, i);
     if (isNew) return;
     found.push_back(AtInput(Probes::kSection, i, "ADDRESS1",
-                            "probe " + std::to_string(earlier->second) +
-                                " has the same identity: read that of the other one"));
+                            {"probe %1 has the same identity: read that of the other one",
+                             {std::to_string(earlier->second)}}));
   });
   return found;
 }
@@ -102,7 +102,7 @@ std::vector<Finding> EquationsOfMissingChannels(const Examined& file) {
     if (const std::string missing = MissingChannel(math.ECUACION, file.Model()); !missing.empty())
       found.push_back(AtInput(
           MathChannels::kSection, i, "ECUACION",
-          "the " + file.Model().TargetName + " has no channel " + missing + ": name another one"));
+          {"the %1 has no channel %2: name another one", {file.Model().TargetName, missing}}));
   }
   return found;
 }
