@@ -66,7 +66,7 @@ template <Is<ConfCTimer> R, class Visit>
 void Describe(R& r, Visit&& visit) {
   auto& [habil, period, valid, eq, act] = r;
   visit(kTimerEnabled, habil);
-  visit(FieldMeta{"PERIOD", "period in seconds"}, period);
+  visit(NumberMeta("PERIOD", "period", "s", {}), period);
   Describe(valid, visit);
   visit(FieldMeta{"EQ", "condition flag", FieldSense::Condition}, eq);
   DescribeActions(act, visit);
@@ -76,7 +76,7 @@ template <Is<ConfLTimer> R, class Visit>
 void Describe(R& r, Visit&& visit) {
   auto& [habil, period, act] = r;
   visit(kTimerEnabled, habil);
-  visit(FieldMeta{"PERIOD", "period in days"}, period);
+  visit(NumberMeta("PERIOD", "period", "days", {}), period);
   DescribeActions(act, visit);
 }
 

@@ -6,6 +6,9 @@
 
 namespace ostrel {
 
+/// Timers that their page shows at a time.
+inline constexpr int kTimersAtOnce = 4;
+
 /// Four timers that their page shows at a time, as the tree calls them.
 struct TimerGroup {
   std::int16_t first;

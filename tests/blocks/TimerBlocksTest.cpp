@@ -126,12 +126,12 @@ TEST_F(TimerBlocks, ALongPeriodEndsTheMakingOfAnUpload) {
   EXPECT_TRUE(ComposeUpload(conf, {profile, 0}).Fault().Ok());
 }
 
-TEST_F(TimerBlocks, ALoggerHoldsARangeOfAllTimesAsAlways) {
-  const Receiver receiver{profile, 0};
-  conf.CTimer[2].valid = {kFalse, {0}, {86'399}, 127};
-  EXPECT_EQ(AsHeld(conf, receiver).CTimer[2].valid.SIEMPRE, kTrue);
-  conf.CTimer[2].valid.FINAL = {86'398};
-  EXPECT_EQ(AsHeld(conf, receiver).CTimer[2].valid.SIEMPRE, kFalse);
+TEST_F(TimerBlocks, ARangeOfAllTimesComesBackAsItWasSent) {
+  DeviceConf read = conf;
+  for (const auto& [end, comesBack] : {std::pair{86'399, kFalse}, {86'398, kTrue}}) {
+    conf.CTimer[2].valid = {kFalse, {0}, {end}, 127};
+    EXPECT_EQ(ReadAsSent(read, conf, {profile, 0}).CTimer[2].valid.SIEMPRE, comesBack) << end;
+  }
 }
 
 }  // namespace

@@ -45,11 +45,12 @@ void CyclicTimers::Compose(const DeviceConf& conf, const Receiver&, int timer, S
   out.Add(statement.Num(",EQ=", record.EQ).Actions(",ACT=", record.ACT));
 }
 
-void CyclicTimers::AsHeld(DeviceConf& conf, const Receiver&) {
+void CyclicTimers::AsSent(DeviceConf& read, const DeviceConf& sent, const Receiver&) {
   for (int t = 0; t < kTimers; ++t) {
-    ValidityRange& valid = conf.CTimer[t].valid;
-    if (CheckSiempre(valid.INICIO.seconds, valid.FINAL.seconds, valid.SEMANA))
-      valid.SIEMPRE = kTrue;
+    const ValidityRange& range = sent.CTimer[t].valid;
+    Bool16& isAlways = read.CTimer[t].valid.SIEMPRE;
+    if (isAlways && CheckSiempre(range.INICIO.seconds, range.FINAL.seconds, range.SEMANA))
+      isAlways = range.SIEMPRE;
   }
 }
 

@@ -50,6 +50,12 @@ void MainWindow::MakeToolBar() {
   connect(trace_, &QDockWidget::visibilityChanged, this, [this](bool) {
     if (trace_->isHidden()) traceSwitch_->setChecked(false);
   });
+  findingsSwitch_ = AddAction(Sign::Findings, QKeySequence("Ctrl+E"), {});
+  findingsSwitch_->setCheckable(true);
+  connect(findingsSwitch_, &QAction::toggled, findings_, &QWidget::setVisible);
+  connect(findings_, &QDockWidget::visibilityChanged, this, [this](bool) {
+    if (findings_->isHidden()) findingsSwitch_->setChecked(false);
+  });
   bar_->addSeparator();
   language_ = AddAction(Sign::Language, {}, [this] { AskLanguage(); });
 }
@@ -91,7 +97,11 @@ void MainWindow::Retranslate() {
   name(compare_, Words::tr("Compare"), Words::tr("Compare the configuration with a file"));
   name(schedule_, Words::tr("Schedule"), Words::tr("Show when the timers fire"));
   name(traceSwitch_, Words::tr("Trace"), Words::tr("Show what goes over the line"));
+  name(findingsSwitch_, Words::tr("Findings"),
+       Words::tr("Show what the check finds in the configuration"));
   tree_->Retranslate();
+  findings_->Retranslate();
+  overview_.Forget();
   trace_->Retranslate();
   link_->Retranslate();
 }

@@ -11,6 +11,7 @@
 #include "pages/PageBlock.h"
 #include "pages/PageContext.h"
 #include "pages/parts/ControlNames.h"
+#include "pages/timers/TimerFields.h"
 
 namespace ostrel {
 
@@ -111,6 +112,8 @@ class TimerPage final : public Page {
     for (const Slot& slot : slots_) slot.kind.CheckNumbers();
   }
   void EditActions(std::int16_t slot);
+  /// Notes at the controls which fields of which timers they edit.
+  void NoteFields();
 
   PageContext& context_;
   Form form_{kTraits.form, kTraits.title};
@@ -157,6 +160,7 @@ void TimerPage<Kind>::ChangeIndex(std::int16_t index) {
 template <TimerKind Kind>
 void TimerPage<Kind>::Form_Load() {
   for (Slot& slot : slots_) slot.kind.Fill();
+  NoteFields();
   LoadText();
   LoadData();
   Timer1_.SetEnabled(context_.timersRun);
@@ -169,6 +173,7 @@ void TimerPage<Kind>::LoadData() {
     slot.TimerHabil.SetChecked(bool(record.HABIL));
     slot.kind.Load(record);
     slot.ApplyTimerHabil();
+    slot.BotonEditar.SetCount(CountActions(record.ACT));
   });
 }
 
@@ -184,7 +189,21 @@ void TimerPage<Kind>::SaveInto(DeviceConf& conf) const {
 template <TimerKind Kind>
 void TimerPage<Kind>::EditActions(std::int16_t slot) {
   if (context_.ComBusy) return;  // the list is being replaced
-  context_.EditActions(Kind::Records(context_.conf)[CurrentIndex_ + slot].ACT);
+  ActionList& actions = Kind::Records(context_.conf)[CurrentIndex_ + slot].ACT;
+  Slot& edited = slots_[static_cast<std::size_t>(slot)];
+  context_.EditActions(actions, form_.Title() + ", " + edited.FrameTimer.face.Caption());
+  edited.BotonEditar.SetCount(CountActions(actions));
+}
+
+template <TimerKind Kind>
+void TimerPage<Kind>::NoteFields() {
+  const typename Kind::Record record;
+  for (std::int16_t slot = 0; slot < kSlots; ++slot)
+    Describe(record, [&](const FieldMeta& meta, const auto&, FieldSlot = {}) {
+      const std::string control = InSlot(slot)(ControlOfTimerField(meta.word));
+      FaceOf(form_[control])
+          .SetField({.word = meta.word, .unit = meta.unit, .channel = CurrentIndex_ + slot});
+    });
 }
 
 }  // namespace ostrel

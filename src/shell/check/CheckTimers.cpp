@@ -8,19 +8,14 @@
 namespace ostrel {
 namespace {
 
-Finding AtTimer(const SectionMeta& section, int timer, std::string_view word,
-                std::string sentence) {
+Finding AtTimer(const SectionMeta& section, int timer, std::string_view word, Phrase sentence) {
   return {SectionName(section, timer), std::string(word), std::move(sentence)};
-}
-
-bool HasActions(const ActionList& actions) {
-  return std::any_of(actions.begin(), actions.begin() + kActionPlaces,
-                     [](std::int16_t number) { return number > 0; });
 }
 
 /// Why an enabled timer never runs: the field and what is wrong with it.
 struct Idleness {
-  std::string_view word, sentence;
+  std::string_view word;
+  const char* sentence;
 };
 
 constexpr Idleness kNoPeriod{"PERIOD",
@@ -63,10 +58,10 @@ std::vector<Finding> LongPeriods(const Examined& file) {
   EachEnabledTimer(file.Conf(), [&](const SectionMeta& section, int number, const auto& timer) {
     if constexpr (Is<std::remove_cvref_t<decltype(timer)>, ConfLTimer>)
       if (std::abs(int{timer.PERIOD}) > LongTimers::kMostDays)
-        found.push_back(AtTimer(section, number, "PERIOD",
-                                std::to_string(timer.PERIOD) +
-                                    " days do not fit a statement, and nothing can be sent: "
-                                    "choose at most 24855"));
+        found.push_back(AtTimer(
+            section, number, "PERIOD",
+            {"%1 days do not fit a statement, and nothing can be sent: choose at most 24855",
+             {std::to_string(timer.PERIOD)}}));
   });
   return found;
 }
@@ -75,7 +70,7 @@ std::vector<Finding> TimersThatNeverRun(const Examined& file) {
   std::vector<Finding> found;
   EachEnabledTimer(file.Conf(), [&](const SectionMeta& section, int number, const auto& timer) {
     if (const auto idle = WhyIdle(timer))
-      found.push_back(AtTimer(section, number, idle->word, std::string(idle->sentence)));
+      found.push_back(AtTimer(section, number, idle->word, idle->sentence));
   });
   return found;
 }
@@ -83,7 +78,7 @@ std::vector<Finding> TimersThatNeverRun(const Examined& file) {
 std::vector<Finding> TimersWithoutActions(const Examined& file) {
   std::vector<Finding> found;
   EachEnabledTimer(file.Conf(), [&](const SectionMeta& section, int number, const auto& timer) {
-    if (!HasActions(timer.ACT) && !WhyIdle(timer))
+    if (CountActions(timer.ACT) == 0 && !WhyIdle(timer))
       found.push_back(AtTimer(section, number, "ACT( 0)",
                               "the timer is enabled, but runs no action: choose one"));
   });

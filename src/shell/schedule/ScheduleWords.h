@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "shell/FaultWords.h"
+#include "shell/Phrase.h"
 #include "shell/schedule/Schedule.h"
 
 namespace ostrel {
