@@ -91,9 +91,11 @@ TEST(Show, TellsTimersInWordsUnlessTheyAreOff) {
       "[General]\r\nVERSION=VR200\r\n[CTIMER 3]\r\nHABIL=False\r\nPERIOD= 77\r\n[MTIMER 2]\r\n"
       "HABIL=True\r\nINICIO=6:00:00\r\nMES= 2147483653\r\nACT( 0)= 5\r\nACT( 3)= 7";
   EXPECT_EQ(world.Run("show /a.ocf"), 0);
-  EXPECT_THAT(world.out, HasSubstr("MTIMER 2 (monthly timer 2)\n  HABIL (enabled): yes\n"
-                                   "  INICIO (time of day): 6:00:00\n"
-                                   "  MES (days of the month): 1 3 last\n  ACT (actions): 5 7\n"));
+  EXPECT_THAT(world.out,
+              HasSubstr("MTIMER 2 (monthly timer 2)\n  HABIL (enabled): yes\n"
+                        "  INICIO (time of day): 6:00:00\n"
+                        "  MES (days of the month): 1 3 last\n"
+                        "  ACT (actions): 5 - Ejecutar macro 4; 7 - Ejecutar macro 6\n"));
   EXPECT_EQ(world.out.find("77"), std::string::npos) << world.out;
   EXPECT_EQ(world.Run("show /a.ocf --json"), 0);
   EXPECT_THAT(world.out, HasSubstr("\"MES\": 2147483653,"));
