@@ -71,7 +71,7 @@ void Overview::ShowNode(const std::string& node) {
 
 void Overview::ShowFront() {
   const Configurator& core = parts_.configurator;
-  if (parts_.group.isVisible())
+  if (!parts_.group.isHidden())
     parts_.group.ShowGroup(
         parts_.tree.TextOf(node_),
         TableOfGroup(node_, {core.profile, present_},
