@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 #include "base/Bounded.h"
 #include "base/Values.h"
@@ -105,10 +106,13 @@ void Describe(T& t, Visit&& visit) {
 template <Is<NoThresholds> T, class Visit>
 void Describe(T&, Visit&&) {}
 
+/// The word of the first field of a range; start, stop and days follow it.
+inline constexpr std::string_view kAlwaysWord = "SIEMPRE";
+
 template <Is<ValidityRange> T, class Visit>
 void Describe(T& t, Visit&& visit) {
   auto& [siempre, inicio, final, semana] = t;
-  visit(FieldMeta{"SIEMPRE", "always valid"}, siempre);
+  visit(FieldMeta{kAlwaysWord, "always valid"}, siempre);
   visit(FieldMeta{"INICIO", "valid from"}, inicio);
   visit(FieldMeta{"FINAL", "valid until"}, final);
   visit(FieldMeta{"SEMANA", "valid days", FieldSense::Week}, semana);

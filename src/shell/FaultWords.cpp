@@ -96,6 +96,11 @@ FaultWords LinkWords(const SessionFault& fault, const std::string& port) {
               {"check that the logger is switched on and that the cable has RTS and CTS"}};
     case Kind::LineLost:
       return {{"%1 has gone in the middle of the dialogue", {port}}, {kPlugIn}};
+    case Kind::LineTooLong:
+      return {AtPlace(fault, "a line arrived that is longer than any of a logger",
+                      "record %1 is longer than any line of a logger",
+                      "the answer to statement %1 is longer than any line of a logger"),
+              {"check that a logger is what is connected"}};
     case Kind::PortClosed:
       return {{"%1 was closed in the middle of the dialogue", {port}}};
   }

@@ -287,7 +287,7 @@ TEST(Check, FindsEachMistakeOfProbesAndEquationsByItsRule) {
   const std::string sound =
       "[General]\r\nVERSION=OSTREL_KA1\r\n[1WIRE 0]\r\nINTERFAZ= 4\r\nADDRESS1=40.113.0.1\r\n"
       "ADDRESS2=000.000.000.000\r\n[1WIRE 2]\r\nINTERFAZ= 5\r\nADDRESS1=040.113.000.002\r\n"
-      "ADDRESS2=0\r\n[MATH 3]\r\nINTERFAZ= 6\r\nECUACION=(FL7-DI0)*PB3+Q9";
+      "ADDRESS2=0.0.0.0\r\n[MATH 3]\r\nINTERFAZ= 6\r\nECUACION=(FL7-DI0)*PB3+Q9";
   for (const RuleCase& one : std::vector<RuleCase>{
            {"Q9", "Q9", "", ""},
            {"040.113.000.002", "040.113.000.001", "", "probe-identity-shared"},
@@ -297,6 +297,7 @@ TEST(Check, FindsEachMistakeOfProbesAndEquationsByItsRule) {
            {"40.113.0.1", "40.113.0.256", "", "probe-identity-broken", 1},
            {"40.113.0.1", "40.113.0.1.", "", "probe-identity-broken", 1},
            {"40.113.0.1", "a", "", "probe-identity-broken", 1},
+           {"40.113.0.1", "0", "", "probe-identity-broken", 1},
            {"FL7", "FL8", "", "equation-without-channel"},
            {"DI0", "MB0", "", "equation-without-channel"},
            {"INTERFAZ= 6\r\nECUACION=", "ECUACION=MB0", "", ""},
@@ -333,6 +334,64 @@ TEST(Check, SaysWhereAndWhatHelps) {
   EXPECT_EQ(world.out,
             "error: [GENERAL] NOMBRE: a comma ends the text on the line: write something else for "
             "it (text-breaks-statement)\n");
+}
+
+TEST(Files, ADashIsStandardInputOrOutput) {
+  World world;
+  world.HaveFile("/a.ocf");
+  const std::string file = world.files.contents["/a.ocf"];
+  EXPECT_EQ(world.Run("download - --port sim:VR200"), 0);
+  EXPECT_EQ(world.out, file);
+  EXPECT_THAT(world.err, HasSubstr("saved to standard output\n"));
+  EXPECT_EQ(world.Run("download - --json --port sim:VR200"), 2);
+  int reads = 0;
+  world.environment.readDescriptor = [&](int descriptor, bool, std::string& octets) {
+    EXPECT_EQ(descriptor, 0);
+    octets = file;
+    ++reads;
+    return FileResult{};
+  };
+  for (const std::string line : {"show -", "check -", "statements -", "diff /a.ocf -",
+                                 "diff - port --port sim:VR200", "upload - --port sim:VR200"})
+    EXPECT_EQ(world.Run(line), 0) << line << world.err;
+  EXPECT_EQ(reads, 6) << "once a command";
+  world.environment.readDescriptor = [](int, bool, std::string&) { return FileResult{"closed"}; };
+  EXPECT_EQ(world.Run("show -"), 5);
+  EXPECT_EQ(world.err, "ostrelctl: cannot read standard input: closed\n");
+}
+
+TEST(Files, ErrorsAreJsonForPrograms) {
+  World world;
+  for (const auto& [line, code] : std::vector<std::pair<std::string, int>>{
+           {"show /absent.ocf --json", 5}, {"--json fly", 2}, {"info --json --port COM300", 2}}) {
+    EXPECT_EQ(world.Run(line), code);
+    EXPECT_EQ(world.out, "") << line;
+    const QJsonObject error =
+        QJsonDocument::fromJson(QByteArray::fromStdString(world.err)).object();
+    EXPECT_EQ(error["exitCode"].toInt(), code) << world.err;
+    EXPECT_FALSE(error["error"].toString().isEmpty()) << world.err;
+  }
+}
+
+TEST(Files, AProtectedFileIsReplacedAfterAQuestion) {
+  World world;
+  world.HaveFile("/a.ocf");
+  world.files.modes["/a.ocf"] = 0444;
+  world.Edit("/a.ocf", "NOMBRE=", "NOMBRE=mine");
+  const std::string former = world.files.contents["/a.ocf"];
+  EXPECT_EQ(world.Run("download /a.ocf --port sim:VR200"), 5);
+  EXPECT_THAT(world.err, HasSubstr("cannot write /a.ocf: it is read-only. --yes replaces it"));
+  EXPECT_EQ(world.files.contents["/a.ocf"], former);
+  EXPECT_EQ(world.Run("download /a.ocf --yes --port sim:VR200"), 0) << world.err;
+  EXPECT_NE(world.files.contents["/a.ocf"], former);
+  EXPECT_EQ(world.files.modes["/a.ocf"], 0444);
+}
+
+TEST(Files, ALargeOneIsRefusedWithTheReason) {
+  World world;
+  world.files.contents["/a.ocf"] = std::string(kMostFileOctets + 1, 'x');
+  EXPECT_EQ(world.Run("show /a.ocf"), 5);
+  EXPECT_EQ(world.err, "ostrelctl: cannot read /a.ocf: it is larger than 16 MB\n");
 }
 
 }  // namespace

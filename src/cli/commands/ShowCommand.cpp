@@ -168,7 +168,7 @@ ExitCode RunShow(CommandContext& context, const ShowOptions& options) {
 Command AddShow(CLI::App& app) {
   CLI::App* parser = app.add_subcommand("show", "Show a configuration file in readable form");
   const auto options = std::make_shared<ShowOptions>();
-  parser->add_option("FILE", options->file, "Configuration file")->required();
+  parser->add_option("FILE", options->file, "Configuration file, - for standard input")->required();
   parser->add_flag("--all", options->all,
                    "Also what is as in an empty configuration (as with --json)");
   return {parser, [options](CommandContext& context) { return RunShow(context, *options); }};

@@ -24,7 +24,9 @@ constexpr std::array<SignalUnit, 4> kSignalUnits{{
 }};
 
 QString NumberIn(const Form& form, const std::string& box) {
-  return ToQt(DecText(static_cast<float>(NumberIn(form.Get<TextBox>(box)))));
+  const double number = NumberIn(form.Get<TextBox>(box));
+  const auto kept = ToFloat(number);
+  return ToQt(kept ? DecText(*kept) : DecText(number));
 }
 
 QString UnitOfSignal(const Form& form, const ControlNames& names) {

@@ -88,6 +88,9 @@ MainWindow::MainWindow(const WindowParts& parts)
                                        const std::vector<std::string>& lost) {
     return MayLose(path, lost);
   };
+  configurator_.OnProtected = [this](const std::string& path, const std::string& why) {
+    return MayReplace(path, why);
+  };
   configurator_.OnOtherModel = [this](const std::string& model) { return MayChangeModel(model); };
   configurator_.session.ServeRead = [this] { parts_.guard([this] { Read(); }); };
   configurator_.session.ServeWrite = [this] { parts_.guard([this] { Write(); }); };
@@ -119,6 +122,7 @@ void MainWindow::LetGo() {
   session.OnModelDoubt = nullptr;
   configurator_.comms.Trace = nullptr;
   configurator_.OnForeignKeys = nullptr;
+  configurator_.OnProtected = nullptr;
   configurator_.OnOtherModel = nullptr;
   configurator_.context.repaintTree = nullptr;
   navigation_.OnTargetChanged = navigation_.OnFrontChanged = nullptr;
@@ -286,6 +290,16 @@ bool MainWindow::MayLose(const std::string& path, const std::vector<std::string>
       {.text = FromQt(Words::tr("%1 holds what this program does not write and would lose: %2. "
                                 "Replace it?")
                           .arg(ToQt(path), ToQt(ForeignKeysText(lost)))),
+       .title = configurator_.profile.TargetName,
+       .icon = BoxIcon::Question,
+       .buttons = BoxButtons::YesNo});
+  return answer == BoxAnswer::Yes;
+}
+
+bool MainWindow::MayReplace(const std::string& path, const std::string& why) {
+  const BoxAnswer answer = parts_.platform.dialogs.ShowMessage(
+      {.text = FromQt(Words::tr("%1 is protected: %2. Replace it all the same?")
+                          .arg(ToQt(path), Words::tr(why.c_str()))),
        .title = configurator_.profile.TargetName,
        .icon = BoxIcon::Question,
        .buttons = BoxButtons::YesNo});

@@ -125,6 +125,8 @@ class MainWindow final : public QMainWindow {
   void KeepPlace();
   /// Whether a file may be replaced that holds what this program does not write.
   bool MayLose(const std::string& path, const std::vector<std::string>& lost);
+  /// Whether a file may be replaced that is protected, for a reason in English.
+  bool MayReplace(const std::string& path, const std::string& why);
   /// True when the present configuration may go: nothing is unsaved, or the operator says so.
   bool MayLeave();
 

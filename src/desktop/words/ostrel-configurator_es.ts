@@ -869,6 +869,34 @@
         <translation>las páginas vuelven a mostrar lo que había antes de la lectura</translation>
     </message>
     <message>
+        <source>%1 is protected: %2. Replace it all the same?</source>
+        <translation>%1 está protegido: %2. ¿Sustituirlo de todos modos?</translation>
+    </message>
+    <message>
+        <source>it is read-only</source>
+        <translation>es de solo lectura</translation>
+    </message>
+    <message>
+        <source>it is a link that leads in a circle</source>
+        <translation>es un enlace que lleva en círculo</translation>
+    </message>
+    <message>
+        <source>a line arrived that is longer than any of a logger</source>
+        <translation>llegó una línea más larga que cualquiera de un registrador</translation>
+    </message>
+    <message>
+        <source>record %1 is longer than any line of a logger</source>
+        <translation>el registro %1 es más largo que cualquier línea de un registrador</translation>
+    </message>
+    <message>
+        <source>the answer to statement %1 is longer than any line of a logger</source>
+        <translation>la respuesta a la sentencia %1 es más larga que cualquier línea de un registrador</translation>
+    </message>
+    <message>
+        <source>check that a logger is what is connected</source>
+        <translation>compruebe que lo conectado es un registrador</translation>
+    </message>
+    <message>
         <source>the logger says that it is the model %1, and the model chosen is %2</source>
         <translation>el registrador dice ser del modelo %1, y el modelo elegido es %2</translation>
     </message>

@@ -15,7 +15,6 @@ namespace ostrel {
 namespace {
 
 constexpr std::size_t kMostStatements = 999;
-constexpr std::size_t kShortestNumber = 3;
 
 /// The text of a field that is one or has one; null for others.
 const std::string* TextOf(const FieldView& field) {
