@@ -29,13 +29,7 @@ bool IsOfChannel(const FieldId& id) { return id.slot.config < 0 && id.slot.place
 
 /// Whether two fields of one place read alike.
 bool IsSame(const ConstField& a, const ConstField& b, bool isS100) {
-  const bool isEqual = std::visit(
-      [&](const auto* value) {
-        const auto* const* other = std::get_if<decltype(value)>(&b.value);
-        return other && **other == *value;
-      },
-      a.value);
-  return isEqual || FieldText(a.value, isS100) == FieldText(b.value, isS100);
+  return IsSameValue(a.value, b.value) || FieldText(a.value, isS100) == FieldText(b.value, isS100);
 }
 
 /// Finds the facts of a field's node. Fields of one record stand together.
