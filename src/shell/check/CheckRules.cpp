@@ -330,16 +330,19 @@ Examined::Examined(const ModelConfiguration& configuration, std::optional<std::i
       statements_(ComposeStatements(configuration.conf,
                                     {configuration.profile, features.value_or(kEveryFeature)})
                       .size()),
-      probe_(configuration.conf, {configuration.profile, features.value_or(kEveryFeature)}),
-      fullProbe_(configuration.conf, {configuration.profile, kEveryFeature}) {}
+      probe_(configuration.conf, {configuration.profile, features.value_or(kEveryFeature)}) {}
 
 bool Examined::IsSet(std::size_t index) const {
-  return ValueText(fields_[index]) != ValueText(emptyFields_[index]);
+  return !IsSameValue(fields_[index].value, emptyFields_[index].value) &&
+         ValueText(fields_[index]) != ValueText(emptyFields_[index]);
 }
 
 bool Examined::IsUnknownToFirmware(std::size_t index) const {
   const FieldView& empty = emptyFields_[index].value;
-  return !probe_.Changes(index, empty) && fullProbe_.Changes(index, empty);
+  if (!fullProbe_) fullProbe_.emplace(Conf(), Receiver{Model(), kEveryFeature});
+  // Most records are the same to every firmware.
+  return probe_.StatementsOf(index) != fullProbe_->StatementsOf(index) &&
+         !probe_.Changes(index, empty) && fullProbe_->Changes(index, empty);
 }
 
 std::string Examined::ValueText(const ConstField& field) const {

@@ -55,8 +55,8 @@ class Examined {
   DeviceConf empty_;
   std::vector<ConstField> fields_, emptyFields_;
   std::size_t statements_;
-  mutable SentProbe probe_;      ///< under the features, or under all where they are not known
-  mutable SentProbe fullProbe_;  ///< under all features
+  mutable SentProbe probe_;  ///< under the features, or under all where they are not known
+  mutable std::optional<SentProbe> fullProbe_;  ///< under all features, once it is asked
 };
 
 /// What a finding says, in English.
