@@ -26,6 +26,8 @@ class Download {
   /// Makes known how the lines of each key are read. The first section of a key counts.
   void SetSections(std::vector<WireSection> sections);
   LinkFault Run();
+  /// The lines of the last attempt as they came, messages in UTF-8.
+  const std::vector<std::string>& Lines() const { return lines_; }
 
  private:
   LinkFault RunAttempts();
@@ -37,6 +39,7 @@ class Download {
   ProgressFeed& progress_;
   Model model_;
   NumberedStream stream_;
+  std::vector<std::string> lines_;
   std::unordered_map<std::string, std::function<void(LineReader&)>> sections_;
 };
 

@@ -9,6 +9,8 @@
 namespace ostrel {
 namespace {
 
+constexpr std::string_view kEnding = ".ocf";
+
 /// A serial number as it can stand in a file name.
 std::string NameOf(std::string_view serial) {
   std::string name;
@@ -28,23 +30,37 @@ std::string StampOf(const DateTime& time) {
   return stamp;
 }
 
+/// Lines as a file holds them. None holds a carriage return, which ends a line on the wire, so that
+/// they can be told apart whatever else they hold.
+std::string LinesText(std::span<const std::string> lines) {
+  std::string text;
+  for (const std::string& line : lines) text.append(line).append("\r\n");
+  return ToCodePage(text);
+}
+
 }  // namespace
 
-SafetyCopies::Kept SafetyCopies::Keep(const DeviceConf& held, const TargetProfile& profile,
-                                      std::string_view serialNumber) {
+std::string SafetyCopies::LinesBeside(const std::string& copy) {
+  return copy.substr(0, copy.size() - kEnding.size()) + ".lines";
+}
+
+SafetyCopies::Kept SafetyCopies::Keep(const Held& held) {
   FileResult made = files_.MakeFolder(folder_);
   if (made.Ok()) made = files_.Protect(folder_);
   if (!made.Ok()) return {made, folder_};
   IniClass document(files_);
-  SaveConfiguration(held, profile, document);
+  SaveConfiguration(held.conf, held.profile, document);
   const std::string octets = ToCodePage(document.OutputINI());
-  const std::string name = folder_ + "/" + NameOf(serialNumber) + "-" + StampOf(clock_.LocalNow());
-  Kept kept{.result = {}, .path = name + ".ocf"};
+  const std::string name =
+      folder_ + "/" + NameOf(held.serialNumber) + "-" + StampOf(clock_.LocalNow());
+  Kept kept{.result = {}, .path = name + std::string(kEnding)};
   kept.result = SaveNew(files_, kept.path, octets);
   for (int next = 2; kept.result.stands; ++next) {
-    kept.path = name + "-" + std::to_string(next) + ".ocf";
+    kept.path = name + "-" + std::to_string(next) + std::string(kEnding);
     kept.result = SaveNew(files_, kept.path, octets);
   }
+  if (kept.result.Ok() && !held.lines.empty())
+    kept.result = SaveNew(files_, LinesBeside(kept.path), LinesText(held.lines));
   return kept;
 }
 

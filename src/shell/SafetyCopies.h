@@ -1,5 +1,6 @@
 #pragma once
 
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -11,8 +12,9 @@
 namespace ostrel {
 
 /// The folder of the configurations that loggers were known to hold, named by serial number and
-/// time: "Q1234567-20260302-090507.ocf". Folder and copies are for their owner alone: passwords
-/// and telephones stand in them.
+/// time: "Q1234567-20260302-090507.ocf". Beside a copy of what was read stand the logger's own
+/// lines, "Q1234567-20260302-090507.lines", since a file does not keep every text as it is. Folder
+/// and copies are for their owner alone: passwords and telephones stand in them.
 class SafetyCopies {
  public:
   /// What keeping a copy came to, and where it stands.
@@ -20,13 +22,22 @@ class SafetyCopies {
     FileResult result;
     std::string path;
   };
+  /// What a logger of a serial number holds. There are no lines of what was not read from it.
+  struct Held {
+    const DeviceConf& conf;
+    const TargetProfile& profile;
+    std::string_view serialNumber;
+    std::span<const std::string> lines{};
+  };
 
   SafetyCopies(Files& files, const Clock& clock, const std::string& dataFolder)
       : files_(files), clock_(clock), folder_(dataFolder + "/backups") {}
 
-  /// Keeps a configuration as what the logger of a serial number holds. A copy that stands is never
+  /// Keeps a configuration. A copy that stands is never
   /// overwritten, whoever makes one at the same moment.
-  Kept Keep(const DeviceConf& held, const TargetProfile& profile, std::string_view serialNumber);
+  Kept Keep(const Held& held);
+  /// Where the logger's own lines stand beside a copy.
+  static std::string LinesBeside(const std::string& copy);
   const std::string& Folder() const { return folder_; }
 
  private:

@@ -19,9 +19,11 @@ TEST(Upload, WritesVerifiesAndKeepsTheFormerConfiguration) {
   const std::string backup =
       "/home/user/data/backups/" + world.Logger().Options().serial + "-20260302-0905";
   ASSERT_EQ(world.Backups(), 1U);
-  const auto found = world.files.contents.lower_bound(backup);
+  const auto found = std::ranges::find_if(world.files.contents, [](const auto& file) {
+    return file.first.ends_with(".ocf") && file.first != "/a.ocf";
+  });
   EXPECT_TRUE(found->first.starts_with(backup)) << found->first;
-  EXPECT_EQ(found->second, former);
+  EXPECT_TRUE(found->second == former);
   EXPECT_EQ(world.files.modes[found->first], 0600);
   EXPECT_EQ(world.files.modes["/home/user/data/backups"], 0700);
 }
@@ -36,8 +38,8 @@ TEST(Upload, TwoSafetyCopiesOfOneSecondAreBothKept) {
   DeviceConf first, second;
   first.General.DNAME = "first";
   second.General.DNAME = "second";
-  const auto one = copies.Keep(first, profile, "Q1");
-  const auto two = copies.Keep(second, profile, "Q1");
+  const auto one = copies.Keep({first, profile, "Q1"});
+  const auto two = copies.Keep({second, profile, "Q1"});
   EXPECT_EQ(one.path, "/data/backups/Q1-20260302-090507.ocf");
   EXPECT_EQ(two.path, "/data/backups/Q1-20260302-090507-2.ocf");
   EXPECT_THAT(files.contents[one.path], HasSubstr("NOMBRE=first"));

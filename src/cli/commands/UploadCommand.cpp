@@ -126,9 +126,7 @@ ExitCode Send(Online& online, const UploadOptions& options) {
   if (!options.noBackup)
     road.keep = [&](const DeviceConf& held) {
       if (!step(Refuse(context, options, DoubtsOfModel(online.configurator)))) return false;
-      if (!step(SaveBackup(context, online.configurator, held, result.backup))) return false;
-      context.console.Note("former configuration kept in " + result.backup);
-      return true;
+      return step(SaveBackup(context, online.configurator, held, result.backup));
     };
   const WriteResult written = WriteGuarded(online.configurator, road);
   if (written.end != WriteEnd::Written) return code;
