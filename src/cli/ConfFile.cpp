@@ -3,7 +3,6 @@
 #include "base/CodePage.h"
 #include "blocks/Configuration.h"
 #include "shell/ForeignKeys.h"
-#include "shell/SafetyCopies.h"
 #include "shell/check/CheckRules.h"
 
 namespace ostrel::cli {
@@ -54,6 +53,10 @@ ExitCode MayReplace(CommandContext& context, const std::string& path,
   return context.console.Fail(ExitCode::BadFile, lost + ". --yes replaces it all the same");
 }
 
+SafetyCopies CopiesOf(const CommandContext& context) {
+  return {context.platform.files, context.platform.clock, context.environment.dataFolder};
+}
+
 bool TellTextsNotKept(CommandContext& context, const ModelConfiguration& configuration) {
   const std::vector<Finding> lost = TextsNotKept(configuration);
   for (const Finding& finding : lost) context.console.Note("warning: " + FindingText(finding));
@@ -62,8 +65,7 @@ bool TellTextsNotKept(CommandContext& context, const ModelConfiguration& configu
 
 ExitCode SaveBackup(CommandContext& context, const Configurator& configurator,
                     const DeviceConf& held, std::string& path) {
-  SafetyCopies copies(context.platform.files, context.platform.clock,
-                      context.environment.dataFolder);
+  SafetyCopies copies = CopiesOf(context);
   const SafetyCopies::Kept kept =
       copies.Keep({held, configurator.profile, configurator.info.SerialNumber,
                    configurator.comms.DownloadedLines()});

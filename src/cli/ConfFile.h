@@ -3,6 +3,7 @@
 #include <string>
 
 #include "cli/CommandContext.h"
+#include "shell/SafetyCopies.h"
 
 namespace ostrel::cli {
 
@@ -17,6 +18,9 @@ ExitCode TryToWrite(CommandContext& context, const std::string& path);
 /// Asks before a file is replaced that holds what a configuration of the model does not write.
 /// Anything but Done after saying what would be lost.
 ExitCode MayReplace(CommandContext& context, const std::string& path, const TargetProfile& profile);
+
+/// The safety copies of the user.
+SafetyCopies CopiesOf(const CommandContext& context);
 
 /// Tells which texts of a configuration a file does not keep as they are, and whether there are
 /// any.

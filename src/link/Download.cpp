@@ -51,6 +51,13 @@ LinkFault Download::TakeRecord(const StreamRecord& record) {
   return Read(section->second, record);
 }
 
+void Download::TakeKept(std::span<const std::string> lines) {
+  for (const std::string& line : lines) {
+    const auto section = sections_.find(std::string(KeyOf(line)));
+    if (section != sections_.end()) Read(section->second, {0, section->first, line});
+  }
+}
+
 /// Lets a section read a record. An index beyond its array ends the whole download.
 LinkFault Download::Read(const std::function<void(LineReader&)>& section,
                          const StreamRecord& record) {

@@ -3,6 +3,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "model/DeviceConf.h"
 #include "model/TargetProfile.h"
@@ -36,6 +37,20 @@ class SafetyCopies {
   /// Keeps a configuration. A copy that stands is never
   /// overwritten, whoever makes one at the same moment.
   Kept Keep(const Held& held);
+  /// A copy that stands.
+  struct Copy {
+    std::string name;    ///< "Q1234567-20260302-090507"
+    std::string serial;  ///< as it can stand in a name
+    std::string date;    ///< "2026-03-02 09:05:07"
+    std::string model;   ///< display name; empty where the copy tells none
+  };
+  /// All copies, the oldest first.
+  std::vector<Copy> List() const;
+  std::string PathOf(const std::string& name) const;
+  /// Whether a copy is of a logger of this serial number; true where its name tells none.
+  static bool IsOf(const std::string& name, std::string_view serialNumber);
+  /// The logger's own lines beside a copy; none where none stand.
+  std::vector<std::string> Lines(const std::string& name) const;
   /// Where the logger's own lines stand beside a copy.
   static std::string LinesBeside(const std::string& copy);
   const std::string& Folder() const { return folder_; }

@@ -342,6 +342,30 @@ TEST(Files, AreCheckedAsTheirReaderReadsThem) {
   EXPECT_EQ(world.Run("download /a.ocf --port sim:VR200"), 0) << "nothing would be lost";
 }
 
+TEST(Files, AreShownAsTheConnectedFirmwareTakesThem) {
+  World world([](sim::Model model) {
+    sim::LoggerOptions options = sim::MakeDefaultOptions(model);
+    options.features &= ~0x4U;
+    return options;
+  });
+  world.HaveFile("/a.ocf");
+  world.SetKey("/a.ocf", "FLAG 0", "TEXTO( 0)", "Bombeo");
+  world.SetKey("/a.ocf", "FLAG 0", "HABIL( 0)", "True");
+  EXPECT_EQ(world.Run("statements /a.ocf"), 0);
+  EXPECT_THAT(world.out, Not(HasSubstr("+ALMF0")));
+  EXPECT_THAT(world.err, HasSubstr("left out of: Resend rules, "));
+  EXPECT_THAT(world.err, HasSubstr("Flags"));
+  EXPECT_EQ(world.Run("statements /a.ocf --port sim:VR200"), 0);
+  EXPECT_THAT(world.out, HasSubstr("RETRYMAX="));
+  EXPECT_THAT(world.out, Not(HasSubstr("+ALMF0")));
+  EXPECT_EQ(world.err, "");
+  EXPECT_EQ(world.Run("show /a.ocf --port sim:VR200"), 0);
+  EXPECT_THAT(world.out, HasSubstr("\"Bombeo\"  (not taken by this firmware)\n"));
+  EXPECT_EQ(world.Run("show /a.ocf"), 0);
+  EXPECT_THAT(world.out, Not(HasSubstr("not taken")));
+  EXPECT_THAT(world.err, HasSubstr("settings are not taken by every firmware"));
+}
+
 TEST(Files, ADashIsStandardInputOrOutput) {
   World world;
   world.HaveFile("/a.ocf");
