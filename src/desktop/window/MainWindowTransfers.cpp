@@ -57,8 +57,10 @@ WriteQuestion MainWindow::AskedBeforeWriting() const {
 }
 
 bool MainWindow::KeepFormer(const DeviceConf& held) {
-  const FileResult kept =
-      copies_.Keep(held, configurator_.profile, configurator_.info.SerialNumber).result;
+  const FileResult kept = copies_
+                              .Keep({held, configurator_.profile, configurator_.info.SerialNumber,
+                                     configurator_.comms.DownloadedLines()})
+                              .result;
   if (!kept.Ok())
     Tell(Words::tr("Nothing was sent, since no safety copy could be kept: %1")
              .arg(ToQt(kept.error)));
@@ -94,8 +96,9 @@ void MainWindow::TransferEnded(const TransferEnd& end) {
   if (!end.done || (isWriting_ && end.kind == SessionPhase::Reading)) return;
   unsaved_.Keep(end.held);
   if (end.kind == SessionPhase::Reading) shownFile_.clear();
-  const FileResult kept =
-      copies_.Keep(end.held, configurator_.profile, configurator_.info.SerialNumber).result;
+  SafetyCopies::Held held{end.held, configurator_.profile, configurator_.info.SerialNumber};
+  if (end.kind == SessionPhase::Reading) held.lines = configurator_.comms.DownloadedLines();
+  const FileResult kept = copies_.Keep(held).result;
   if (!kept.Ok())
     statusBar()->showMessage(Words::tr("No safety copy could be kept: %1").arg(ToQt(kept.error)),
                              kMessageTime);
