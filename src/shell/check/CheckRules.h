@@ -61,7 +61,7 @@ class Examined {
 
 /// What a finding says, in English.
 std::string SentenceText(const Finding& finding);
-/// A finding in words: "[DIGITAL(0)] NOMBRE: a comma ends the text ...".
+/// A finding in words: "[DIGITAL 0] NOMBRE: a comma ends the text ...".
 std::string FindingText(const Finding& finding);
 
 struct Rule {
@@ -104,6 +104,7 @@ std::vector<Finding> ExpansionOutOfRange(const Examined& file);
 std::vector<Finding> ExpansionWithoutInterface(const Examined& file);
 
 // The rules on numbers and codes.
+std::vector<Finding> NumbersBeyondLogger(const Examined& file);
 std::vector<Finding> UselessScales(const Examined& file);
 std::vector<Finding> UnknownInterfaces(const Examined& file);
 std::vector<Finding> SenselessNumbers(const Examined& file);
