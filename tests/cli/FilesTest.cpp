@@ -34,7 +34,8 @@ TEST(Show, TellsOnlyWhatIsSetUnlessToldAll) {
       "[General]\r\nVERSION=VR200\r\nNOMBRE=Dep\xF3sito\r\nRENVT= 10\r\nRENVN= 3\r\n"
       "TLFM 1=600100200,Prio=2,PRV1,MASKMODE1,DI3,FG0\r\n"
       "[DIGITAL 2]\r\nHABIL( 1)=True\r\nSIEMPRE( 1)=True\r\nSEMANA( 1)= 31\r\n"
-      "TEXTO( 1)=Puerta\x1B[31m\r\nACTHI( 1 0)= 5\r\nACTHI( 1 3)= 12";
+      "TEXTO( 1)=Puerta\x1B[31m\r\nACTHI( 1 0)= 5\r\nACTHI( 1 3)= 12\r\nREARM( 1)= 7\r\n"
+      "[ANALOG 1]\r\nINTERFAZ= 3";
   EXPECT_EQ(world.Run("show /a.ocf"), 0);
   EXPECT_THAT(world.out, HasSubstr("Ostrel VR200\n"));
   EXPECT_THAT(world.out, HasSubstr("GENERAL (general)\n  NOMBRE (name): \"Dep\xC3\xB3sito\"\n"));
@@ -48,6 +49,8 @@ TEST(Show, TellsOnlyWhatIsSetUnlessToldAll) {
       world.out,
       HasSubstr(
           "  ACTHI( 1) (alarm 1, actions, high): 5 - Ejecutar macro 4; 12 - Ejecutar macro 11\n"));
+  EXPECT_THAT(world.out, HasSubstr("(alarm 1, rearming): 7 s\n"));
+  EXPECT_THAT(world.out, HasSubstr("INTERFAZ (interface): 0-10 V\n"));
   EXPECT_EQ(world.Run("show /a.ocf --all"), 0);
   EXPECT_THAT(world.out, HasSubstr("RENVT (time between resends): 10 minutes\n"));
   EXPECT_THAT(world.out, HasSubstr("TLFM 0 (telephone 0): free\n"));

@@ -84,7 +84,8 @@ void Overview::ShowFront() {
   const int config = ShownConfig(form);
   std::map<std::string, QString, std::less<>> notes;
   for (const PlacedFinding& placed : placed_) {
-    if (!placed.field || &core.PageOf(*placed.page)->GetForm() != &form) continue;
+    Page* page = placed.page ? core.PageOf(*placed.page) : nullptr;
+    if (!page || &page->GetForm() != &form) continue;
     if (placed.field->slot.config >= 0 && placed.field->slot.config != config) continue;
     if (NodeOf(*placed.page, placed.field->channel) != node_) continue;
     const std::string control = ControlOf(form, *placed.field);
