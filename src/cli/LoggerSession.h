@@ -46,7 +46,6 @@ class LoggerSession {
   std::unique_ptr<std::ostream> trace_;
   bool traceFailed_ = false;
   bool interrupted_ = false;
-  bool written_ = false;  ///< the logger has taken a new configuration over
 };
 
 }  // namespace ostrel::cli

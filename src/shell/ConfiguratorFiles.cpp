@@ -96,11 +96,15 @@ std::optional<FileResult> Configurator::AskAndSave() {
                                                   .overwritePrompt = true,
                                                   .suggested = ConfFilePath});
   if (!path) return {};
+  return SaveTo(*path);
+}
+
+std::optional<FileResult> Configurator::SaveTo(const std::string& path) {
   if (OnForeignKeys) {
-    const auto lost = ForeignKeys(platform_.files, *path, profile);
-    if (!lost.empty() && !OnForeignKeys(*path, lost)) return {};
+    const auto lost = ForeignKeys(platform_.files, path, profile);
+    if (!lost.empty() && !OnForeignKeys(path, lost)) return {};
   }
-  ConfFilePath = *path;
+  ConfFilePath = path;
   return ConfFilePath.empty() ? FileResult{} : SaveConf();
 }
 

@@ -6,10 +6,10 @@
 #include <QPushButton>
 #include <QSplitter>
 #include <QStatusBar>
+#include <QVBoxLayout>
 
 #include "desktop/forms/Icons.h"
 #include "desktop/forms/Words.h"
-#include "desktop/window/FaultDetails.h"
 #include "desktop/window/FaultText.h"
 #include "platform/Settings.h"
 #include "shell/Configurator.h"
@@ -37,19 +37,29 @@ MainWindow::MainWindow(const WindowParts& parts)
              parts.guard),
       tree_(new TreePane(this)),
       pages_(new PageArea([this] { return Context(); }, this)),
-      link_(new LinkPanel(this)),
-      trace_(new TraceView(this)) {
+      session_(new SessionBar(this)),
+      fault_(new FaultNote("FaultStrip", this)),
+      traceLog_(parts.platform.loop, parts.platform.clock),
+      trace_(new TraceView(traceLog_, this)) {
   auto* splitter = new QSplitter(this);
   splitter->addWidget(tree_);
   splitter->addWidget(pages_);
   splitter->setStretchFactor(1, 1);
   splitter->setSizes({kTreeWidth, kFirstSize.width() - kTreeWidth});
   splitter->setChildrenCollapsible(false);
-  setCentralWidget(splitter);
+  auto* centre = new QWidget(this);
+  auto* column = new QVBoxLayout(centre);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->setSpacing(0);
+  column->addWidget(fault_);
+  column->addWidget(splitter, 1);
+  fault_->setContentsMargins(8, 0, 8, 0);
+  setCentralWidget(centre);
   addDockWidget(Qt::BottomDockWidgetArea, trace_);
   trace_->hide();
-  statusBar()->addWidget(link_, 1);
+  statusBar()->show();
   MakeToolBar();
+  MakeSessionBar();
   resize(kFirstSize);
   RestorePlace();
   setWindowIcon(ProgramIcon());
@@ -62,10 +72,11 @@ MainWindow::MainWindow(const WindowParts& parts)
       unsetCursor();
   };
   pages_->OnControlChanged = [this] { unsaved_.Touch(); };
-  link_->OnBreakOff = [this] { parts_.guard([this] { configurator_.session.BreakOff(); }); };
+  configurator_.comms.Trace = [this](const std::string& line) { traceLog_.Add(line); };
   navigation_.OnTargetChanged = [this] {
     BuildTree();
     shownFile_.clear();  // it is of the former model
+    ForgetSuccess();
     unsaved_.Touch();
   };
   configurator_.OnForeignKeys = [this](const std::string& path,
@@ -172,59 +183,13 @@ void MainWindow::Look() {
   ShowTitle();
 }
 
-void MainWindow::ShowSession() {
-  ShowLink();
-  ShowTransfer();
-  ShowFault();
-}
-
-void MainWindow::ShowLink() {
-  link_->ShowState(LinkStateOf(configurator_));
-  Rest(configurator_.session.OwnsModel());
-}
-
-/// A transfer owns the model: nothing may be edited, opened, saved or compared under it, and a
-/// dialog that is opened in it would hold it up.
-void MainWindow::Rest(bool rests) {
-  for (QAction* action : {open_, save_, recentFiles_, safetyCopies_, compare_, language_})
-    action->setEnabled(!rests);
-  pages_->setEnabled(!rests);
-}
-
-void MainWindow::ShowTransfer() {
-  QString words;
-  const TransferWatch& transfer = configurator_.session.Watch();
-  if (transfer.Running()) {
-    if (const auto left = transfer.Left())
-      words = Words::tr("%1 left").arg(ToQt(DurationText(*left)));
-    // The general page has a bar of its own.
-    if (shownNode_ == "General")
-      link_->HideProgress();
-    else
-      link_->ShowProgress(transfer.Done(), transfer.Steps(), words);
-  } else {
-    link_->HideProgress();
-  }
-  const FormView* front = pages_->Front();
-  auto* label = front ? front->findChild<QLabel*>("TimeLeft") : nullptr;
-  if (label && label->text() != words) label->setText(words);
-}
-
-void MainWindow::ShowFault() {
-  const FormView* front = pages_->Front();
-  auto* details = front ? front->findChild<FaultDetails*>("FaultDetails") : nullptr;
-  if (!details) return;
-  const auto& failed = configurator_.session.State().failed;
-  const QString device = ports_.DeviceOf("COM" + std::to_string(configurator_.session.Port()));
-  details->SetText(failed ? FaultText(*failed, device) : QString());
-}
-
 void MainWindow::ShowTitle() {
   QString title = ToQt(configurator_.MainCaption()) + "[*]";
   if (!shownFile_.empty())
     title = ToQt(shownFile_).section(u'/', -1) + "[*] - " + ToQt(configurator_.MainCaption());
   if (windowTitle() != title) setWindowTitle(title);
   setWindowModified(unsaved_.Changed());
+  if (isWindowModified()) ForgetSuccess();
 }
 
 std::optional<ModelConfiguration> MainWindow::ReadFile(const std::string& path) const {
@@ -251,30 +216,46 @@ bool MainWindow::MayLose(const std::string& path, const std::vector<std::string>
 }
 
 bool MainWindow::MayLeave() {
-  const SessionPhase phase = configurator_.session.State().phase;
   unsaved_.Touch();
-  if (!unsaved_.Changed() && phase != SessionPhase::Writing) return true;
-  // A transfer owns the model: what stands there now is no state to save.
-  const bool mayBeSaved = !IsTransfer(phase);
+  if (!unsaved_.Changed()) return true;
   QMessageBox box(QMessageBox::NoIcon, ToQt(configurator_.profile.TargetName),
-                  mayBeSaved ? Words::tr("The configuration has changes that are neither saved "
-                                         "nor sent.")
-                             : Words::tr("A transfer is under way. Leaving breaks it off, and "
-                                         "changes that are neither saved nor sent are lost."),
+                  Words::tr("The configuration has changes that are neither saved nor sent."),
                   QMessageBox::NoButton, this);
   box.setIconPixmap(BoxPicture(BoxIcon::Question));
-  QPushButton* save =
-      mayBeSaved ? box.addButton(Words::tr("&Save"), QMessageBox::AcceptRole) : nullptr;
+  QPushButton* save = box.addButton(Words::tr("&Save"), QMessageBox::AcceptRole);
   QPushButton* discard =
-      box.addButton(mayBeSaved ? Words::tr("&Go on without saving") : Words::tr("&Leave"),
-                    QMessageBox::DestructiveRole);
+      box.addButton(Words::tr("&Go on without saving"), QMessageBox::DestructiveRole);
   QPushButton* stay = box.addButton(Words::tr("&Cancel"), QMessageBox::RejectRole);
-  box.setDefaultButton(save ? save : stay);
+  box.setDefaultButton(save);
   box.setEscapeButton(stay);
   box.exec();
   if (box.clickedButton() == discard) return true;
-  if (!save || box.clickedButton() != save) return false;
+  if (box.clickedButton() != save) return false;
   return !IsTransfer(configurator_.session.State().phase) && Save();
+}
+
+void MainWindow::AskToBreakOff() {
+  if (leaveBox_) return leaveBox_->raise();
+  auto* box = new QMessageBox(QMessageBox::NoIcon, ToQt(configurator_.profile.TargetName),
+                              Words::tr("A transfer is under way. Leaving breaks it off, and "
+                                        "changes that are neither saved nor sent are lost."),
+                              QMessageBox::NoButton, this);
+  box->setAttribute(Qt::WA_DeleteOnClose);
+  box->setIconPixmap(BoxPicture(BoxIcon::Question));
+  QPushButton* leave = box->addButton(Words::tr("&Leave"), QMessageBox::DestructiveRole);
+  QPushButton* stay = box->addButton(Words::tr("&Cancel"), QMessageBox::RejectRole);
+  box->setDefaultButton(stay);
+  box->setEscapeButton(stay);
+  connect(leave, &QPushButton::clicked, this, [this] { parts_.guard([this] { Leave(); }); });
+  leaveBox_ = box;
+  box->open();
+}
+
+void MainWindow::Leave() {
+  KeepPlace();
+  configurator_.ShutDown();
+  isLeaving_ = true;
+  close();
 }
 
 std::string MainWindow::AskCode() {
@@ -294,8 +275,13 @@ void MainWindow::KeepPlace() {
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
+  if (isLeaving_) return event->accept();
   event->ignore();
   parts_.guard([&] {
+    unsaved_.Touch();
+    const SessionPhase phase = configurator_.session.State().phase;
+    const bool losesNothing = phase != SessionPhase::Writing && !unsaved_.Changed();
+    if (IsTransfer(phase) && !losesNothing) return AskToBreakOff();
     if (!MayLeave()) return;
     KeepPlace();
     configurator_.ShutDown();

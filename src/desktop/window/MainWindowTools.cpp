@@ -35,6 +35,7 @@ void MainWindow::MakeToolBar() {
   bar_->setIconSize({22, 22});
   open_ = AddAction(Sign::Open, QKeySequence::Open, [this] { Open(); });
   save_ = AddAction(Sign::Save, QKeySequence::Save, [this] { Save(); });
+  saveAs_ = AddAction(Sign::SaveAs, QKeySequence("Ctrl+Shift+S"), [this] { SaveAs(); });
   recentFiles_ = AddAction(Sign::Recent, {}, {});
   AddMenu(recentFiles_, [this](QMenu& menu) { FillRecent(menu); });
   safetyCopies_ = AddAction(Sign::Copies, {}, {});
@@ -48,6 +49,11 @@ void MainWindow::MakeToolBar() {
     if (trace_->isHidden()) traceSwitch_->setChecked(false);
   });
   bar_->addSeparator();
+  trace_->OnSave = [this] { parts_.guard([this] { SaveTrace(); }); };
+  auto* find = new QAction(this);
+  find->setShortcut(QKeySequence::Find);
+  connect(find, &QAction::triggered, this, [this] { tree_->FocusFilter(); });
+  addAction(find);
   language_ = AddAction(Sign::Language, {}, [this] { AskLanguage(); });
 }
 
@@ -81,6 +87,7 @@ void MainWindow::Retranslate() {
   };
   name(open_, core("Abrir"), Words::tr("Open a configuration file"));
   name(save_, core("Guardar"), Words::tr("Save the configuration to a file"));
+  name(saveAs_, Words::tr("Save as"), Words::tr("Save the configuration to another file"));
   name(language_, core("Idioma"), Words::tr("Choose the language"));
   name(recentFiles_, Words::tr("Recent"), Words::tr("Files opened or saved lately"));
   name(safetyCopies_, Words::tr("Safety copies"),
@@ -89,7 +96,7 @@ void MainWindow::Retranslate() {
   name(traceSwitch_, Words::tr("Trace"), Words::tr("Show what goes over the line"));
   tree_->Retranslate();
   trace_->Retranslate();
-  link_->Retranslate();
+  session_->Retranslate();
 }
 
 void MainWindow::Open() {
@@ -101,8 +108,7 @@ void MainWindow::Open() {
 void MainWindow::OpenPath(const std::string& path) {
   if (!parts_.platform.files.Exists(path)) {
     recent_.Remove(path);
-    Tell(Words::tr("%1 does not exist any more.").arg(ToQt(path)));
-    return;
+    return TellMissing(path);
   }
   if (!MayLeave()) return;
   navigation_.CommitFront();
@@ -110,19 +116,34 @@ void MainWindow::OpenPath(const std::string& path) {
   Opened();
 }
 
+void MainWindow::TellMissing(const std::string& path) {
+  Tell(Words::tr("%1 does not exist.").arg(ToQt(path)));
+}
+
 void MainWindow::Opened() {
+  ForgetSuccess();
   if (FileDifferences()) WorkOn(configurator_.ConfFilePath);
   // The file may be of a model that has not the channel in front.
   if (!tree_->Has(shownNode_)) GoTo("General");
 }
 
 bool MainWindow::Save() {
+  if (shownFile_.empty()) return SaveAs();
+  navigation_.CommitFront();
+  const auto saved = configurator_.SaveTo(shownFile_);
+  return saved && Saved(*saved);
+}
+
+bool MainWindow::SaveAs() {
   navigation_.CommitFront();
   const auto saved = configurator_.AskAndSave();
-  if (!saved) return false;
-  const std::string& path = configurator_.ConfFilePath;
-  if (!saved->Ok()) {
-    Tell(Words::tr("%1 could not be written: %2").arg(ToQt(path), ToQt(saved->error)));
+  return saved && Saved(*saved);
+}
+
+bool MainWindow::Saved(const FileResult& result) {
+  const std::string path = configurator_.ConfFilePath;
+  if (!result.Ok()) {
+    Tell(Words::tr("%1 could not be written: %2").arg(ToQt(path), ToQt(result.error)));
     return false;
   }
   WorkOn(path);
@@ -220,10 +241,18 @@ void MainWindow::ShowTrace(bool on) {
     traceShown_ = true;
     resizeDocks({trace_}, {kTraceHeight}, Qt::Vertical);
   }
-  if (on)
-    configurator_.comms.Trace = [this](const std::string& line) { trace_->Add(line); };
-  else
-    configurator_.comms.Trace = nullptr;
+  if (on) trace_->Follow();
+}
+
+void MainWindow::SaveTrace() {
+  const auto path = parts_.platform.dialogs.ChooseFile(
+      {.mode = FileQuestion::Mode::Save,
+       .filter = FromQt(Words::tr("Trace") + "|*.txt|" + Words::tr("All files") + "|*.*"),
+       .overwritePrompt = true});
+  if (!path) return;
+  const FileResult saved = SaveWhole(parts_.platform.files, *path, trace_->Text());
+  if (!saved.Ok())
+    Tell(Words::tr("%1 could not be written: %2").arg(ToQt(*path), ToQt(saved.error)));
 }
 
 }  // namespace ostrel
