@@ -1,9 +1,11 @@
 #include <QCheckBox>
+#include <QComboBox>
 #include <QMessageBox>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QStatusBar>
 #include <QTimer>
+#include <QTreeWidget>
 
 #include "OpenWindow.h"
 #include "desktop/program/Language.h"
@@ -203,6 +205,25 @@ TEST_F(OnEveryPage, AMissingFileIsCalledMissing) {
   desktop->Start(Path("none.ocf"));
   ASSERT_EQ(dialogs.boxes.size(), 1u);
   EXPECT_EQ(dialogs.boxes[0].text, Path("none.ocf") + " no existe.");
+}
+
+/// Words that the pages give as they are, and the choice of a language.
+TEST_F(OnEveryPage, SpeaksEnglishThroughout) {
+  Window().GoTo("General");
+  dialogs.OnModal([](Modal& modal) {
+    EXPECT_EQ(AsForm(modal).Get<ComboBox>("ComboLang").Position(), 0);
+    AsForm(modal).Get<ComboBox>("ComboLang").SetPosition(1);
+    AsForm(modal).Get<Button>("CommandOk").Click();
+  });
+  Tool("Idioma")->trigger();
+  EXPECT_EQ(On<QComboBox>(*desktop, "Privilegios")->currentText(), "Administrator");
+  EXPECT_FALSE(Window().Tree().Tree().findItems("Groups", Qt::MatchRecursive).isEmpty());
+  Connect(seconds(15));
+  EXPECT_TRUE(On<QLabel>(*desktop, "UsedHText")->text().endsWith(" records"));
+  dialogs.OnModal([](Modal& modal) {
+    EXPECT_EQ(AsForm(modal).Get<ComboBox>("ComboLang").Position(), 1) << "the one in use";
+  });
+  Tool("Language")->trigger();
 }
 
 }  // namespace

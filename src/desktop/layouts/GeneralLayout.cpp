@@ -106,7 +106,8 @@ Card LoggerCard(FormView& view) {
 }
 
 /// The controls in which one telephone is entered.
-QGridLayout* PhoneEntry(FormView& view) {
+QGridLayout* PhoneEntry(FormView& view, const LayoutContext& context) {
+  view.SetRowText("Privilegios", context.wordText);
   auto* grid = new QGridLayout;
   grid->setSpacing(6);
   int row = 0;
@@ -145,15 +146,22 @@ QVBoxLayout* PhoneList(FormView& view) {
   return column;
 }
 
-Card PhoneCard(FormView& view) {
+/// A list is as high as the room below the rest of the page allows.
+void TakesWhatIsLeft(QWidget* list) {
+  constexpr int kLeast = 80;
+  list->setMinimumHeight(kLeast);
+  list->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
+}
+
+Card PhoneCard(FormView& view, const LayoutContext& context) {
   const Card card = MakeCard(view, Words::tr("Authorised telephones"));
   card.grid->setHorizontalSpacing(18);
-  card.grid->addLayout(PhoneEntry(view), 0, 0);
+  card.grid->addLayout(PhoneEntry(view, context), 0, 0);
   card.grid->addLayout(PhoneMask(view), 0, 1);
   card.grid->addLayout(PhoneList(view), 0, 2);
   card.grid->setColumnStretch(1, 2);
   card.grid->setColumnStretch(2, 5);
-  for (const auto* list : {"MaskSelection", "ListaTlf"}) view.Show(list)->setMinimumHeight(80);
+  for (const auto* list : {"MaskSelection", "ListaTlf"}) TakesWhatIsLeft(view.Show(list));
   return card;
 }
 
@@ -171,7 +179,7 @@ void LayOutGeneral(FormView& view, const LayoutContext& context) {
   static_cast<QBoxLayout*>(notice->layout())->setStretch(1, 1);
   page->addWidget(notice);
   page->addLayout(top);
-  page->addWidget(PhoneCard(view).box, 1);
+  page->addWidget(PhoneCard(view, context).box, 1);
 }
 
 }  // namespace ostrel

@@ -120,12 +120,15 @@ void MainWindow::LetGo() {
 }
 
 LayoutContext MainWindow::Context() {
-  return {.guard =
-              [this](const std::function<void()>& run) {
-                parts_.guard(run);
-                unsaved_.Touch();
-              },
-          .portText = [this](const ListRow& row) { return ports_.RowText(row); }};
+  return {
+      .guard =
+          [this](const std::function<void()>& run) {
+            parts_.guard(run);
+            unsaved_.Touch();
+          },
+      .portText = [this](const ListRow& row) { return ports_.RowText(row); },
+      .wordText =
+          [this](const ListRow& row) { return ToQt(configurator_.context.Translate(row.text)); }};
 }
 
 void MainWindow::Follow() {
@@ -146,7 +149,10 @@ void MainWindow::BuildTree() {
   const auto translate = [this](std::string_view text) {
     return configurator_.context.Translate(text);
   };
-  tree_->SetNodes(BuildNavigationTree(configurator_.profile, translate));
+  auto nodes = BuildNavigationTree(configurator_.profile, translate);
+  for (TreeNode& node : nodes)
+    if (node.key == "Grupos") node.text = FromQt(Words::tr("Groups"));
+  tree_->SetNodes(nodes);
   tree_->Select(shownNode_);
   PaintTree();
 }

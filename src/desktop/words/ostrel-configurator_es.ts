@@ -960,5 +960,9 @@
         <source>the logger has taken the new configuration over, which is not verified</source>
         <translation>el registrador ha adoptado la nueva configuración, que no está verificada</translation>
     </message>
+    <message>
+        <source>Groups</source>
+        <translation>Grupos</translation>
+    </message>
 </context>
 </TS>
