@@ -3,6 +3,7 @@
 #include <QMessageBox>
 #include <QProgressBar>
 #include <QPushButton>
+#include <QScreen>
 #include <QStatusBar>
 #include <QTimer>
 #include <QTreeWidget>
@@ -197,6 +198,18 @@ TEST_F(OnEveryPage, SavesToTheFileThatIsKnown) {
   Tool("Guardar como")->trigger();
   EXPECT_EQ(dialogs.questions.size(), 2u);
   EXPECT_TRUE(files.Exists(Path("b.ocf")));
+}
+
+/// The screen of the tests is smaller than the window would like to be.
+TEST_F(OnEveryPage, TheWholeWindowStandsOnTheScreen) {
+  Window().show();
+  Connect();
+  const QSize room = Window().screen()->availableSize();
+  ASSERT_LT(room.width(), 1280);
+  EXPECT_LE(Window().width(), room.width());
+  EXPECT_LT(Window().height(), room.height());
+  EXPECT_TRUE(Window().statusBar()->isVisible());
+  EXPECT_TRUE(Window().findChild<QLabel*>("LinkState")->isVisible()) << "though the bar is narrow";
 }
 
 TEST_F(OnEveryPage, AMissingFileIsCalledMissing) {

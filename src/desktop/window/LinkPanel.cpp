@@ -51,6 +51,8 @@ LinkPanel::LinkPanel(QWidget* parent)
   who_->setFont(strong);
   who_->setObjectName("Logger");
   who_->setTextInteractionFlags(Qt::TextSelectableByMouse);
+  who_->setMinimumWidth(1);
+  words_->setMinimumWidth(1);
   lamp_->setFixedSize(12, 12);
   lamp_->setObjectName("Lamp");
   words_->setObjectName("LinkState");
@@ -67,9 +69,17 @@ LinkPanel::LinkPanel(QWidget* parent)
   ShowState({}, {});
 }
 
+QSize LinkPanel::sizeHint() const {
+  constexpr int kLeast = 120;
+  return {kLeast, QWidget::sizeHint().height()};
+}
+
 void LinkPanel::ShowState(const LinkState& state, const QString& who) {
   if (who != who_->text()) who_->setText(who);
-  if (const QString words = LinkStateWords(state); words != words_->text()) words_->setText(words);
+  if (const QString words = LinkStateWords(state); words != words_->text()) {
+    words_->setText(words);
+    words_->setToolTip(words);
+  }
   if (const QString style = LampStyle(state); style != lamp_->styleSheet())
     lamp_->setStyleSheet(style);
 }

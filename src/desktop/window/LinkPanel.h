@@ -14,6 +14,9 @@ class LinkPanel final : public QWidget {
  public:
   explicit LinkPanel(QWidget* parent);
 
+  /// It asks for little, so that a narrow bar shortens it instead of leaving it out.
+  QSize sizeHint() const override;
+  QSize minimumSizeHint() const override { return sizeHint(); }
   /// Sets its own words anew; the others come with the next state.
   void Retranslate() { meter_->Retranslate(); }
   /// `who` names the model and, in a session, the logger.

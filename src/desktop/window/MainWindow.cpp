@@ -4,8 +4,10 @@
 #include <QCloseEvent>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScreen>
 #include <QSplitter>
 #include <QStatusBar>
+#include <QStyle>
 #include <QVBoxLayout>
 
 #include "desktop/forms/Icons.h"
@@ -62,6 +64,7 @@ MainWindow::MainWindow(const WindowParts& parts)
   MakeSessionBar();
   resize(kFirstSize);
   RestorePlace();
+  FitToScreen();
   setWindowIcon(ProgramIcon());
   tree_->OnNode = [this](const std::string& key) { parts_.guard([&] { GoTo(key); }); };
   pages_->OnChanged = [this] {
@@ -273,6 +276,12 @@ std::string MainWindow::AskCode() {
 void MainWindow::RestorePlace() {
   const std::string place = parts_.platform.settings.Get(kMaker, kWindowPart, kPlace);
   restoreGeometry(QByteArray::fromBase64(QByteArray::fromStdString(place)));
+}
+
+void MainWindow::FitToScreen() {
+  const QRect room = screen()->availableGeometry();
+  const int title = style()->pixelMetric(QStyle::PM_TitleBarHeight);
+  resize(size().boundedTo({room.width(), room.height() - title}));
 }
 
 void MainWindow::KeepPlace() {

@@ -139,6 +139,8 @@ class MainWindow final : public QMainWindow {
   /// Notes a file as the one worked on.
   void WorkOn(const std::string& path);
   void RestorePlace();
+  /// Makes the window small enough to stand on its screen whole, its frame included.
+  void FitToScreen();
   void KeepPlace();
   /// Whether a file may be replaced that holds what this program does not write.
   bool MayLose(const std::string& path, const std::vector<std::string>& lost);
