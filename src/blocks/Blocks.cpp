@@ -57,9 +57,9 @@ constexpr auto AlarmsOf() -> decltype(Block::alarms) {
 }
 
 template <class Kind>
-constexpr auto AsHeldOf() -> decltype(Block::asHeld) {
-  if constexpr (requires { &Kind::AsHeld; })
-    return &Kind::AsHeld;
+constexpr auto AsSentOf() -> decltype(Block::asSent) {
+  if constexpr (requires { &Kind::AsSent; })
+    return &Kind::AsSent;
   else
     return nullptr;
 }
@@ -72,7 +72,7 @@ Block MakeBlock(PageId page) {
           .view = &ViewFields<Kind>,
           .restore = &RestoreFields<Kind>,
           .alarms = AlarmsOf<Kind>(),
-          .asHeld = AsHeldOf<Kind>(),
+          .asSent = AsSentOf<Kind>(),
           .lines = Kind::kLines};
 }
 

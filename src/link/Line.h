@@ -145,6 +145,7 @@ class Line {
   TimePoint answeredAt_{};                 ///< when the last good frame came
   std::optional<TimePoint> askedAt_;       ///< of the oldest question that nothing has answered
   bool damaged_ = false;     ///< a bad frame has come since the last message or good frame
+  bool tooLong_ = false;     ///< the bad frame was longer than any line
   bool unsendable_ = false;  ///< a message of the dialogue could not be sent, which ends it
   bool heldOut_ = false;     ///< flow control has held the line for so long that the dialogue ends
   bool torn_ = false;        ///< the last message may have left in part, without its end

@@ -3,8 +3,8 @@
 #include <utility>
 
 #include "link/LinkTimes.h"
+#include "link/UploadPlan.h"
 #include "link/WireText.h"
-#include "model/Features.h"
 
 namespace ostrel {
 namespace {
@@ -55,7 +55,7 @@ LinkFault Upload::SendStatement(std::string_view statement, int expected) {
   Tell(Progress::Stage::Step, expected);
   if (!hasLeft) return line_.WaitFault(number);
   line_.ExpectAnswer(true);  // none was due before this window
-  line_.RxSer(Has(info_.Features, Feature::FastRefusal) ? kFastRefusalMs : kRefusalMs);
+  line_.RxSer(RefusalWindowMs(info_.Features));
   if (!line_.GoesOn()) return line_.WaitFault(number);
   if (line_.RxLine.find(kRefusal) == std::string::npos) return {};
   return line_.FaultNow(LinkFault::Kind::Refused, number, std::string(statement));

@@ -65,7 +65,10 @@ Command AddDiff(CLI::App& app) {
   CLI::App* parser = app.add_subcommand(
       "diff", "Compare two configurations; with known features, as a logger of these takes them");
   const auto options = std::make_shared<DiffOptions>();
-  parser->add_option("A", options->a, "File, or \"port\" for what the logger holds")->required();
+  parser
+      ->add_option("A", options->a,
+                   "File, - for standard input, or \"port\" for what the logger holds")
+      ->required();
   parser->add_option("B", options->b, "File, or \"port\"")->required();
   return {parser, [options](CommandContext& context) { return RunDiff(context, *options); }};
 }

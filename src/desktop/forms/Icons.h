@@ -23,6 +23,7 @@ enum class Sign {
   Copies,
   Compare,
   Trace,
+  Findings,
   Language
 };
 

@@ -48,6 +48,12 @@ void MainWindow::MakeToolBar() {
   connect(trace_, &QDockWidget::visibilityChanged, this, [this](bool) {
     if (trace_->isHidden()) traceSwitch_->setChecked(false);
   });
+  findingsSwitch_ = AddAction(Sign::Findings, QKeySequence("Ctrl+E"), {});
+  findingsSwitch_->setCheckable(true);
+  connect(findingsSwitch_, &QAction::toggled, findings_, &QWidget::setVisible);
+  connect(findings_, &QDockWidget::visibilityChanged, this, [this](bool) {
+    if (findings_->isHidden()) findingsSwitch_->setChecked(false);
+  });
   bar_->addSeparator();
   trace_->OnSave = [this] { parts_.guard([this] { SaveTrace(); }); };
   auto* find = new QAction(this);
@@ -94,7 +100,11 @@ void MainWindow::Retranslate() {
        Words::tr("Configurations read from loggers or sent to them"));
   name(compare_, Words::tr("Compare"), Words::tr("Compare the configuration with a file"));
   name(traceSwitch_, Words::tr("Trace"), Words::tr("Show what goes over the line"));
+  name(findingsSwitch_, Words::tr("Findings"),
+       Words::tr("Show what the check finds in the configuration"));
   tree_->Retranslate();
+  findings_->Retranslate();
+  overview_.Forget();
   trace_->Retranslate();
   session_->Retranslate();
 }
@@ -250,7 +260,10 @@ void MainWindow::SaveTrace() {
        .filter = FromQt(Words::tr("Trace") + "|*.txt|" + Words::tr("All files") + "|*.*"),
        .overwritePrompt = true});
   if (!path) return;
-  const FileResult saved = SaveWhole(parts_.platform.files, *path, trace_->Text());
+  // It may tell what is nobody else's business; a file that is replaced keeps its permissions.
+  Files& files = parts_.platform.files;
+  const FileResult saved = files.Exists(*path) ? SaveWhole(files, *path, trace_->Text())
+                                               : SaveNew(files, *path, trace_->Text());
   if (!saved.Ok())
     Tell(Words::tr("%1 could not be written: %2").arg(ToQt(*path), ToQt(saved.error)));
 }
