@@ -218,6 +218,8 @@ TEST(Check, FindsEachMistakeOfABusByItsRule) {
            {"BAUD= 9600", "BAUD= 9600", "", ""},
            {"MINIMO( 2)= 1", "MINIMO( 2)= 6", "", "thresholds-reversed"},
            {"HISTERESIS( 2)= 4", "HISTERESIS( 2)= 4.5", "", "hysteresis-too-large"},
+           {"= 1\r\nMAXIMO( 2)= 5\r\nHISTERESIS( 2)= 4",
+            "= 1.2\r\nMAXIMO( 2)= 1.3\r\nHISTERESIS( 2)= .1", "", ""},
            {"HABIL( 2)=True\r\nSIEMPRE( 2)=True\r\nMINIMO( 2)= 1", "MINIMO( 2)= 6", "", ""},
            {"INTERFAZ= 1", "INTERFAZ= 0", "", "alarm-of-silent-channel"},
            {"MULT= 2", "MULT= 0", "", "alarm-of-silent-channel"},
@@ -232,9 +234,26 @@ TEST(Check, FindsEachMistakeOfABusByItsRule) {
            {"MULT= 2", "MULT= 2\r\nTYPE= 3", "", "modbus-not-kept"},
            {"MULT= 2", "MULT= 2\r\nSIZE32=True", "", "modbus-not-kept"},
            {"MULT= 2", "MULT= 2\r\nSIZE32=False", "", ""},
+           {"MULT= 2\r\nANALOG_MODE=True", "NOMBRE=Bomba\r\nMULT= 2", "", "modbus-not-kept"},
            {"MULT= 2\r\nANALOG_MODE=True", "MASCARA= 1\r\nMINIMO( 0)= 9", "", ""},
        })
     ExpectRule(sound, one);
+}
+
+TEST(Check, TakesFilesOfEarlierPrograms) {
+  World world;
+  world.HaveFile("/a.ocf");
+  std::string& text = world.files.contents["/a.ocf"];
+  const auto replace = [&](std::string_view from, std::string_view by) {
+    const std::size_t at = text.find(from, text.find("[MODBUS"));
+    ASSERT_NE(at, std::string::npos) << from;
+    text.replace(at, from.size(), by);
+  };
+  replace("MASTER=True\r\n", "");
+  replace("TYPE= 0\r\n", "SIZE32=False\r\n");
+  EXPECT_EQ(world.Run("check /a.ocf"), 0) << world.out;
+  replace("BAUD=", "OTHER=");
+  EXPECT_EQ(world.Run("check /a.ocf"), 1);
 }
 
 TEST(Check, FindsEachSenselessNumberByItsRule) {
@@ -258,6 +277,10 @@ TEST(Check, FindsEachSenselessNumberByItsRule) {
            {"( 2)= 10000", "( 2)=-1", "", "number-senseless"},
            {"HABIL( 2)=True\r\nSIEMPRE( 2)=True\r\nPERSISTENCIA( 2)= 10000",
             "PERSISTENCIA( 2)= 10001", "", ""},
+           {"INTERFAZ= 6", "INTERFAZ= 6\r\nTIMEBASE=-5", "", "number-out-of-range", 1},
+           {"INTERFAZ= 6", "INTERFAZ= 6\r\nHABIL( 0)=True\r\nSIEMPRE( 0)=True", "",
+            "alarm-of-silent-channel"},
+           {"REARM( 0)=", "FLAG( 0)= 17\r\nREARM( 0)=", "", "number-out-of-range", 1},
            {"REARM( 0)= 86400", "REARM( 0)= 86401", "", "number-senseless"},
            {"RENVT= 10", "RENVT= 1441", "", "number-senseless"},
        })

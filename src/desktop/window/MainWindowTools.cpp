@@ -23,6 +23,7 @@ namespace {
 
 constexpr qsizetype kCopiesOffered = 15;
 constexpr int kTraceHeight = 170;
+constexpr int kFindingsHeight = 130;
 
 }  // namespace
 
@@ -50,7 +51,10 @@ void MainWindow::MakeToolBar() {
   });
   findingsSwitch_ = AddAction(Sign::Findings, QKeySequence("Ctrl+E"), {});
   findingsSwitch_->setCheckable(true);
-  connect(findingsSwitch_, &QAction::toggled, findings_, &QWidget::setVisible);
+  connect(findingsSwitch_, &QAction::toggled, this, [this](bool on) {
+    findings_->setVisible(on);
+    if (on) resizeDocks({findings_}, {kFindingsHeight}, Qt::Vertical);
+  });
   connect(findings_, &QDockWidget::visibilityChanged, this, [this](bool) {
     if (findings_->isHidden()) findingsSwitch_->setChecked(false);
   });

@@ -55,13 +55,13 @@ class Examined {
   DeviceConf empty_;
   std::vector<ConstField> fields_, emptyFields_;
   std::size_t statements_;
-  mutable SentProbe probe_;      ///< under the features, or under all where they are not known
-  mutable SentProbe fullProbe_;  ///< under all features
+  mutable SentProbe probe_;  ///< under the features, or under all where they are not known
+  mutable std::optional<SentProbe> fullProbe_;  ///< under all features, once it is asked
 };
 
 /// What a finding says, in English.
 std::string SentenceText(const Finding& finding);
-/// A finding in words: "[DIGITAL(0)] NOMBRE: a comma ends the text ...".
+/// A finding in words: "[DIGITAL 0] NOMBRE: a comma ends the text ...".
 std::string FindingText(const Finding& finding);
 
 struct Rule {
@@ -104,6 +104,7 @@ std::vector<Finding> ExpansionOutOfRange(const Examined& file);
 std::vector<Finding> ExpansionWithoutInterface(const Examined& file);
 
 // The rules on numbers and codes.
+std::vector<Finding> NumbersBeyondLogger(const Examined& file);
 std::vector<Finding> UselessScales(const Examined& file);
 std::vector<Finding> UnknownInterfaces(const Examined& file);
 std::vector<Finding> SenselessNumbers(const Examined& file);
