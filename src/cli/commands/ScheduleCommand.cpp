@@ -1,3 +1,4 @@
+#include "blocks/FileKeys.h"
 #include "cli/commands/Commands.h"
 #include "shell/schedule/ScheduleWords.h"
 
