@@ -62,6 +62,7 @@ LinkFault Upload::SendStatement(std::string_view statement, int expected) {
 }
 
 LinkFault Upload::Close(const std::vector<std::string>& statements) {
+  line_.NoteQuestion();
   const bool hasLeft = line_.Post("#46" + Padded(statementNo_, kRecordDigits));
   if (!hasLeft || !line_.RxSer(line_.ReplyTimeout)) return line_.WaitFault(statementNo_);
   if (line_.RxLine.starts_with(kTakenOver)) return {};

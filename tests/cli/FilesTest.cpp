@@ -362,6 +362,69 @@ TEST(Check, SaysWhereAndWhatHelps) {
             "it (text-breaks-statement)\n");
 }
 
+/// What a file gives back changed is told, and nothing of what the logger held is lost.
+TEST(Files, ATextThatAFileDoesNotKeepIsTold) {
+  World world;
+  sim::Configuration conf = world.Logger().Conf();
+  conf.name = " a\nCSM=600111222";
+  conf.digitals[0].name = "\"quoted\"";
+  conf.digitals[1].name = " edges ";
+  world.Logger().SetConf(conf);
+  EXPECT_EQ(world.Run("download /a.ocf --port sim:VR200"), 0) << world.err;
+  EXPECT_THAT(world.err, HasSubstr("[GENERAL] NOMBRE: the file keeps it up to its control "));
+  EXPECT_THAT(world.err, HasSubstr("[DIGITAL 0] NOMBRE: the file does not keep the quotes around"));
+  EXPECT_THAT(world.err, HasSubstr("[DIGITAL 1] NOMBRE: the file does not keep the blanks around"));
+  ASSERT_EQ(world.Backups(), 1U);
+  const auto lines = std::ranges::find_if(
+      world.files.contents, [](const auto& file) { return file.first.ends_with(".lines"); });
+  EXPECT_THAT(lines->second, testing::StartsWith("#BD000DNAME, a\nCSM=600111222\r\n#BD001"));
+  EXPECT_THAT(lines->second, HasSubstr(",\"quoted\""));
+  EXPECT_THAT(world.err, HasSubstr("own lines are kept in " + lines->first + "\n"));
+  EXPECT_EQ(world.Run("check /a.ocf"), 0) << world.out;
+  EXPECT_THAT(world.out, HasSubstr("[DIGITAL 1] NOMBRE: the file does not keep the blanks"));
+  EXPECT_THAT(world.out, HasSubstr("(text-not-kept)"));
+}
+
+/// Names of a file fold, as its reader folds them, and what the reader strips does not count.
+TEST(Files, AreCheckedAsTheirReaderReadsThem) {
+  World world;
+  world.HaveFile("/a.ocf");
+  world.Edit("/a.ocf", "UNIDAD=", "Unidad =");
+  world.SetKey("/a.ocf", "DIGITAL 0", "NOMBRE", std::string(300, ' ') + "x");
+  world.Edit("/a.ocf", "HISTERESIS( 0)=", "Histeresis( 0)=rubbish");
+  EXPECT_EQ(world.Run("check /a.ocf"), 0) << world.out << "no key is missing";
+  EXPECT_THAT(world.out, Not(HasSubstr("value-cut")));
+  EXPECT_THAT(world.out, HasSubstr("is no value for this"));
+  world.SetKey("/a.ocf", "DIGITAL 0", "NOMBRE", "\"" + std::string(254, 'x') + "\"");
+  EXPECT_EQ(world.Run("check /a.ocf"), 0);
+  EXPECT_THAT(world.out, Not(HasSubstr("value-cut")));
+  EXPECT_EQ(world.Run("download /a.ocf --port sim:VR200"), 0) << "nothing would be lost";
+}
+
+TEST(Files, AreShownAsTheConnectedFirmwareTakesThem) {
+  World world([](sim::Model model) {
+    sim::LoggerOptions options = sim::MakeDefaultOptions(model);
+    options.features &= ~0x4U;
+    return options;
+  });
+  world.HaveFile("/a.ocf");
+  world.SetKey("/a.ocf", "FLAG 0", "TEXTO( 0)", "Bombeo");
+  world.SetKey("/a.ocf", "FLAG 0", "HABIL( 0)", "True");
+  EXPECT_EQ(world.Run("statements /a.ocf"), 0);
+  EXPECT_THAT(world.out, Not(HasSubstr("+ALMF0")));
+  EXPECT_THAT(world.err, HasSubstr("left out of: Resend rules, "));
+  EXPECT_THAT(world.err, HasSubstr("Flags"));
+  EXPECT_EQ(world.Run("statements /a.ocf --port sim:VR200"), 0);
+  EXPECT_THAT(world.out, HasSubstr("RETRYMAX="));
+  EXPECT_THAT(world.out, Not(HasSubstr("+ALMF0")));
+  EXPECT_EQ(world.err, "");
+  EXPECT_EQ(world.Run("show /a.ocf --port sim:VR200"), 0);
+  EXPECT_THAT(world.out, HasSubstr("\"Bombeo\"  (not taken by this firmware)\n"));
+  EXPECT_EQ(world.Run("show /a.ocf"), 0);
+  EXPECT_THAT(world.out, Not(HasSubstr("not taken")));
+  EXPECT_THAT(world.err, HasSubstr("settings are not taken by every firmware"));
+}
+
 TEST(Files, ADashIsStandardInputOrOutput) {
   World world;
   world.HaveFile("/a.ocf");

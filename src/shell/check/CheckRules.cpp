@@ -5,25 +5,19 @@
 #include <set>
 
 #include "base/Channels.h"
+#include "base/CodePage.h"
 #include "base/Printable.h"
 #include "blocks/TelephoneWire.h"
 #include "blocks/bus/ModbusBus.h"
 #include "blocks/bus/ModbusChannels.h"
 #include "model/Features.h"
 #include "pages/ActionCatalogue.h"
-#include "store/IniTool.h"
+#include "store/ProfileIndex.h"
 
 namespace ostrel {
 namespace {
 
 constexpr std::size_t kMostStatements = 999;
-
-/// The text of a field that is one or has one; null for others.
-const std::string* TextOf(const FieldView& field) {
-  if (const auto* text = std::get_if<const std::string*>(&field)) return *text;
-  if (const auto* phone = std::get_if<const ConfPhone*>(&field)) return &(*phone)->TLF;
-  return nullptr;
-}
 
 bool HasControl(std::string_view text) {
   return std::ranges::any_of(
@@ -83,21 +77,6 @@ std::vector<Finding> LongTexts(const Examined& file) {
   return found;
 }
 
-std::vector<Finding> CutValues(const Examined& file) {
-  std::vector<Finding> found;
-  std::string section;
-  file.Document().Visit(
-      [&](std::string_view name) { section = name; },
-      [&](std::string_view key, std::string_view value) {
-        if (CharacterCount(value) <= kProfileValueLimit) return;
-        found.push_back({section,
-                         std::string(key),
-                         {"%1 characters, of which only the first 254 are read: shorten it",
-                          {std::to_string(CharacterCount(value))}}});
-      });
-  return found;
-}
-
 /// A value without the blanks around it.
 std::string_view Trimmed(std::string_view text) {
   const std::size_t first = text.find_first_not_of(' ');
@@ -129,7 +108,7 @@ bool MayBeAbsent(const ConstField& field, const IniClass& document) {
 std::vector<Finding> MisreadValues(const Examined& file) {
   std::vector<Finding> found;
   for (const ConstField& field : file.Fields()) {
-    const std::string* value = file.Document().Find(field.Section(), field.Key());
+    const std::string* value = file.Written(field);
     if (!value || MayBeAbsent(field, file.Document()) ||
         IsReadRight(field.value, *value, file.Model().IsS100))
       continue;
@@ -164,7 +143,7 @@ std::vector<Finding> MissingKeys(const Examined& file) {
   for (const ConstField& field : file.Fields()) {
     const std::string section = field.Section(), key = field.Key();
     if (std::holds_alternative<const ConfPhone*>(field.value) ||
-        !file.Document().SectionExists("", section) || file.Document().Find(section, key) ||
+        !file.Document().SectionExists("", section) || file.Written(field) ||
         MayBeAbsent(field, file.Document()))
       continue;
     if (found.empty() || found.back().section != section) {
@@ -261,7 +240,12 @@ std::vector<Finding> SharedNumbers(const Examined& file) {
   return found;
 }
 
-constexpr std::array<Rule, 30> kRules{{
+/// Section and key in one text, as the file's reader compares them.
+std::string PlaceInFile(std::string_view section, std::string_view key) {
+  return FoldText(WithoutBlanks(section)) + '\n' + FoldText(WithoutBlanks(key));
+}
+
+constexpr std::array<Rule, 31> kRules{{
     {"text-breaks-statement", Severity::Error,
      "a comma, a brace or a control character in a text that is sent", BrokenTexts},
     {"too-many-statements", Severity::Error, "more statements than an upload can number",
@@ -280,6 +264,8 @@ constexpr std::array<Rule, 30> kRules{{
     {"text-too-long", Severity::Warning, "a text longer than its box takes", LongTexts},
     {"value-cut", Severity::Warning, "a value of which the file's reader takes only a part",
      CutValues},
+    {"text-not-kept", Severity::Warning, "a text that the file does not give back as it is",
+     StrippedTexts},
     {"value-misread", Severity::Warning, "a value that is none of its kind", MisreadValues},
     {"action-not-offered", Severity::Warning, "an action that the model does not have",
      UnknownActions},
@@ -330,7 +316,18 @@ Examined::Examined(const ModelConfiguration& configuration, std::optional<std::i
       statements_(ComposeStatements(configuration.conf,
                                     {configuration.profile, features.value_or(kEveryFeature)})
                       .size()),
-      probe_(configuration.conf, {configuration.profile, features.value_or(kEveryFeature)}) {}
+      probe_(configuration.conf, {configuration.profile, features.value_or(kEveryFeature)}) {
+  std::string_view section;
+  document.Visit([&](std::string_view name) { section = name; },
+                 [&](std::string_view key, const std::string& value) {
+                   written_.try_emplace(PlaceInFile(section, key), &value);
+                 });
+}
+
+const std::string* Examined::Written(const ConstField& field) const {
+  const auto found = written_.find(PlaceInFile(field.Section(), field.Key()));
+  return found == written_.end() ? nullptr : found->second;
+}
 
 bool Examined::IsSet(std::size_t index) const {
   return !IsSameValue(fields_[index].value, emptyFields_[index].value) &&
