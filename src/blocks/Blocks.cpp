@@ -4,6 +4,9 @@
 #include <array>
 
 #include "blocks/FileKeys.h"
+#include "blocks/GprsParameters.h"
+#include "blocks/MacroPool.h"
+#include "blocks/VoiceNumbers.h"
 #include "blocks/bus/ModbusBus.h"
 #include "blocks/bus/ModbusChannels.h"
 #include "blocks/expansion/ExpansionInputs.h"
@@ -65,6 +68,14 @@ constexpr auto AsHeldOf() -> decltype(Block::asHeld) {
 }
 
 template <class Kind>
+constexpr auto BeginStreamOf() -> decltype(Block::beginStream) {
+  if constexpr (requires { &Kind::BeginStream; })
+    return &Kind::BeginStream;
+  else
+    return nullptr;
+}
+
+template <class Kind>
 Block MakeBlock(PageId page) {
   return {.page = page,
           .clear = &Kind::Clear,
@@ -73,6 +84,7 @@ Block MakeBlock(PageId page) {
           .restore = &RestoreFields<Kind>,
           .alarms = AlarmsOf<Kind>(),
           .asHeld = AsHeldOf<Kind>(),
+          .beginStream = BeginStreamOf<Kind>(),
           .lines = Kind::kLines};
 }
 
@@ -87,6 +99,8 @@ std::span<const Block> Blocks() {
       MakeBlock<MathChannels>(PageId::E_Math),       MakeBlock<ModbusBus>(PageId::CONF_MODBUS),
       MakeBlock<ModbusChannels>(PageId::E_MODBUS),   MakeBlock<ExpansionInputs>(PageId::E_Modular),
       MakeBlock<AuxiliaryInputs>(PageId::E_Aux),     MakeBlock<OffMeasurement>(PageId::Katodex),
+      MakeBlock<MacroPool>(PageId::Macros),          MakeBlock<GprsParameters>(PageId::GPRS),
+      MakeBlock<VoiceNumbers>(PageId::Aut_Voz),
   };
   return blocks;
 }

@@ -31,6 +31,9 @@ struct Block {
   /// Brings the block into the form in which a logger holds it, where that is not the form in
   /// which it is edited; null where both are the same.
   void (*asHeld)(DeviceConf& conf, const Receiver& receiver);
+  /// Makes ready for a stream of lines, ahead of each attempt of a download; null where a line says
+  /// itself what it replaces.
+  void (*beginStream)(DeviceConf& conf);
   /// How the lines of its keys are read from a logger.
   std::span<const LineSection> lines;
 };

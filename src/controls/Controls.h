@@ -94,12 +94,21 @@ class TextBox {
   void Type(std::string_view text);
   int MaxLength() const { return maxLength_; }
   void SetMaxLength(int maxLength) { maxLength_ = maxLength; }
+  /// What a red box lacks.
+  enum class Kind { Number, Address };
+  Kind Takes() const { return kind_; }
+  void SetTakes(Kind kind) { kind_ = kind; }
+  /// Whether dots stand for the text, which is a password.
+  bool Hidden() const { return hidden_; }
+  void SetHidden(bool hidden);
 
   Face face;
 
  private:
   std::string text_;
   int maxLength_;
+  Kind kind_ = Kind::Number;
+  bool hidden_ = false;
 };
 
 /// One row of a list, with the value that stands for it.

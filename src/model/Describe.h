@@ -18,6 +18,7 @@ enum class FieldSense {
   Action,     ///< number of an action; 0 or below for none
   Week,       ///< days of the week, bit 0 Monday to bit 6 Sunday
   Condition,  ///< 0 the constant "TRUE", n flag F(n-1)
+  Statement,  ///< a whole statement: commas and braces belong to it
 };
 
 /// How the number of a list place stands in the key of a file: "ACTHI( 0 7)" or "TLFM 7".
@@ -30,6 +31,7 @@ struct FieldMeta {
   FieldSense sense = FieldSense::Plain;
   int longest = 0;  ///< most characters that an operator may type; 0 for no limit
   PlaceForm placeForm = PlaceForm::InBrackets;
+  bool isSecret = false;  ///< a password: shown, compared and traced only when asked for
 };
 
 /// A field, such as a number, for which an operator may type only so many characters.
@@ -40,6 +42,11 @@ constexpr FieldMeta LimitedMeta(std::string_view word, std::string_view words, i
 /// A text field of a limited length.
 constexpr FieldMeta TextMeta(std::string_view word, std::string_view words, int longest) {
   return LimitedMeta(word, words, longest);
+}
+
+/// A password.
+constexpr FieldMeta SecretMeta(std::string_view word, std::string_view words) {
+  return {.word = word, .words = words, .isSecret = true};
 }
 
 /// Which of the values of one word a field is, where a record has several.

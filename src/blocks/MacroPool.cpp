@@ -1,0 +1,42 @@
+#include "blocks/MacroPool.h"
+
+#include <algorithm>
+
+namespace ostrel {
+namespace {
+
+/// Puts a line together of its number and its body in braces, at the next place.
+void TakeMacro(std::string_view word, LineReader& line, ConfMacro& pool) {
+  const auto number = RoundToEven<std::int32_t>(line.Number()).value_or(0);
+  constexpr int kBody = 2;
+  std::string& place = pool.LINE[pool.MacroPoolCount];
+  place = std::string(word) + std::to_string(number) + "={" +
+          std::string(BracedFieldOfLine(line.Line(), kBody)) + "}";
+  ++pool.MacroPoolCount;
+}
+
+void ReadMacro(LineReader& line, DeviceConf& conf, const DeviceInfo&) {
+  TakeMacro("MACRO", line, conf.Macro);
+}
+
+}  // namespace
+
+const std::array<LineSection, 3> MacroPool::kLines{{
+    {"MACROS", ReadMacro},
+    {"MACRO", ReadMacro},
+    {"F", [](LineReader& line, DeviceConf& conf,
+             const DeviceInfo&) { TakeMacro("F", line, conf.Macro); }},
+}};
+
+void MacroPool::Compose(const DeviceConf& conf, const Receiver&, int, StatementList& out) {
+  out.Add(Statement("CLEARMACRO"));
+  for (int place = 0; place < kMacroPlacesSent; ++place)
+    if (const std::string& line = conf.Macro.LINE[place]; !line.empty()) out.Add(line);
+}
+
+void MacroPool::AsHeld(DeviceConf& conf, const Receiver&) {
+  const auto sent = std::span(conf.Macro.LINE.begin(), kMacroPlacesSent);
+  std::ranges::stable_partition(sent, [](const std::string& line) { return !line.empty(); });
+}
+
+}  // namespace ostrel
