@@ -13,6 +13,7 @@
 #include "lang/Lang.h"
 #include "shell/ConfigurationFile.h"
 #include "shell/Configurator.h"
+#include "shell/FieldWords.h"
 
 namespace ostrel::cli {
 
@@ -51,6 +52,12 @@ class CommandContext {
   /// Finds the port of the options. Anything but Done after saying why there is none.
   ExitCode ChoosePort(PortChoice& choice);
   bool HasPort() const { return !options.port.empty(); }
+  Passwords ShownPasswords() const {
+    return options.secrets ? Passwords::Shown : Passwords::Hidden;
+  }
+
+  /// Statements as they may be shown.
+  std::vector<std::string> Shown(std::vector<std::string> statements) const;
 
   /// Writes a result to the output, in the form that the options ask for. Done, so that a command
   /// can end with it.

@@ -19,6 +19,7 @@ struct GlobalOptions {
   bool json = false;
   bool quiet = false;
   bool yes = false;
+  bool secrets = false;  ///< passwords are shown
 };
 
 }  // namespace ostrel::cli

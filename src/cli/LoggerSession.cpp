@@ -34,8 +34,10 @@ void LoggerSession::StartTrace() {
   if (context_.options.trace.empty()) return;
   trace_ = context_.environment.openLog(context_.options.trace);
   traceFailed_ = trace_ == nullptr;
-  if (trace_)
+  if (trace_) {
+    configurator_.comms.TracesPasswords = context_.options.secrets;
     configurator_.comms.Trace = [this](const std::string& line) { *trace_ << line << std::endl; };
+  }
 }
 
 ExitCode LoggerSession::Open() {

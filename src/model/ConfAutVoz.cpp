@@ -43,7 +43,8 @@ void SetNumbers(ConfAutVoz& list, std::span<const std::string> numbers) {
   CalcCRC(list);
 }
 
-std::vector<RefusedNumber> AddNumbers(std::string_view text, std::vector<std::string>& numbers) {
+std::vector<RefusedNumber> AddNumbers(std::string_view text, std::vector<std::string>& numbers,
+                                      Repeated repeated) {
   constexpr std::string_view kMark = "\xEF\xBB\xBF";  // of UTF-8, as some editors write it
   if (text.starts_with(kMark)) text.remove_prefix(kMark.size());
   std::vector<RefusedNumber> refused;
@@ -54,7 +55,7 @@ std::vector<RefusedNumber> AddNumbers(std::string_view text, std::vector<std::st
     if (number.empty()) continue;
     if (!IsIntText(number))
       refused.push_back({line, number, NumberFault::NotANumber});
-    else if (std::ranges::count(numbers, number) > 0)
+    else if (repeated == Repeated::Refused && std::ranges::count(numbers, number) > 0)
       refused.push_back({line, number, NumberFault::InTheListAlready});
     else if (numbers.size() >= static_cast<std::size_t>(kVoiceNumbers))
       refused.push_back({line, number, NumberFault::ListFull});

@@ -62,8 +62,12 @@ struct RefusedNumber {
   bool operator==(const RefusedNumber&) const = default;
 };
 
+/// What becomes of a number that stands in the list already.
+enum class Repeated { Refused, Taken };
+
 /// Adds the numbers of a text to others: one a line, as a column of a table or a text file has
 /// them. Blanks in a number and empty lines are passed over.
-std::vector<RefusedNumber> AddNumbers(std::string_view text, std::vector<std::string>& numbers);
+std::vector<RefusedNumber> AddNumbers(std::string_view text, std::vector<std::string>& numbers,
+                                      Repeated repeated = Repeated::Refused);
 
 }  // namespace ostrel

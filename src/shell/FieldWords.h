@@ -14,8 +14,16 @@ std::string SectionWords(const FieldId& id);
 /// Words for a field within its section: "alarm 0, actions, high, place 7".
 std::string KeyWords(const FieldId& id, const FieldMeta& meta);
 
+/// Whether passwords are shown, or "****" in their place.
+enum class Passwords { Hidden, Shown };
+
+/// The text of a field in a configuration file, as it may be shown.
+std::string ShownText(const FieldView& value, const FieldMeta& meta, bool isS100,
+                      Passwords passwords = Passwords::Hidden);
+
 /// A value as a person reads it: texts in quotes, numbers without a place for the sign, yes and no,
 /// the days of a week. Control characters are shown as such.
-std::string ReadableValue(const FieldView& value, const FieldMeta& meta, bool isS100);
+std::string ReadableValue(const FieldView& value, const FieldMeta& meta, bool isS100,
+                          Passwords passwords = Passwords::Hidden);
 
 }  // namespace ostrel

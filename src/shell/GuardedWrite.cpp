@@ -5,8 +5,10 @@
 namespace ostrel {
 namespace {
 
-Comparison CompareHeld(const Configurator& configurator, const DeviceConf& before,
+/// One side is what was read. The voice-call list is not compared, since no reading brings it.
+Comparison CompareHeld(const Configurator& configurator, DeviceConf before,
                        const DeviceConf& after) {
+  before.AutVoz = after.AutVoz;
   return Compare({configurator.profile, before}, {configurator.profile, after},
                  configurator.info.Features);
 }

@@ -58,14 +58,18 @@ std::vector<Section> BySection(const std::vector<ConstField>& fields) {
   return sections;
 }
 
-Json ConfigurationJson(const ModelConfiguration& configuration, const std::string& file) {
+Json ConfigurationJson(const ModelConfiguration& configuration, const std::string& file,
+                       Passwords passwords) {
   const auto& [profile, conf] = configuration;
   const auto fields = FieldsOf(conf, profile);
   Json sections = Json::object();
   for (const Section& section : BySection(fields)) {
     Json& keys = sections[section.name] = Json::object();
     for (const ConstField* field : section.fields)
-      keys[field->Key()] = std::visit(FieldJson{profile.IsS100}, field->value);
+      keys[field->Key()] =
+          field->meta.isSecret
+              ? Json(ShownText(field->value, field->meta, profile.IsS100, passwords))
+              : std::visit(FieldJson{profile.IsS100}, field->value);
   }
   return {{"file", file},
           {"model", profile.TargetName},
@@ -81,13 +85,13 @@ struct Line {
 };
 
 /// The lines of a section: the places of a list of actions are joined into one line.
-std::vector<Line> LinesOf(const Section& section, bool isS100) {
+std::vector<Line> LinesOf(const Section& section, bool isS100, Passwords passwords) {
   std::vector<Line> lines;
   for (const ConstField* field : section.fields) {
     FieldId id = field->id;
     const bool isListed = field->meta.sense == FieldSense::Action && id.slot.place >= 0;
     if (isListed) id.slot.place = -1;
-    const std::string value = ReadableValue(field->value, field->meta, isS100);
+    const std::string value = ReadableValue(field->value, field->meta, isS100, passwords);
     const auto same = isListed ? std::ranges::find(lines, id, &Line::id) : lines.end();
     if (same == lines.end())
       lines.push_back({id, KeyName(id, field->meta.placeForm), KeyWords(id, field->meta), value});
@@ -120,13 +124,13 @@ std::vector<ConstField> Shown(const ModelConfiguration& configuration, const Dev
 }
 
 void PrintReadable(std::ostream& out, const ModelConfiguration& configuration,
-                   const DeviceConf& empty, bool all) {
+                   const DeviceConf& empty, bool all, Passwords passwords) {
   const TargetProfile& profile = configuration.profile;
   const std::vector<ConstField> fields = Shown(configuration, empty, all);
   out << profile.TargetName << '\n';
   for (const Section& section : BySection(fields)) {
     out << '\n' << section.name << " (" << SectionWords(section.fields.front()->id) << ")\n";
-    for (const Line& line : LinesOf(section, profile.IsS100))
+    for (const Line& line : LinesOf(section, profile.IsS100, passwords))
       out << "  " << line.key << " (" << line.words << "): " << line.value << '\n';
   }
 }
@@ -134,11 +138,12 @@ void PrintReadable(std::ostream& out, const ModelConfiguration& configuration,
 ExitCode RunShow(CommandContext& context, const ShowOptions& options) {
   const auto configuration = context.OpenFile(options.file);
   if (!configuration) return ExitCode::BadFile;
-  return context.Show({[&] { return ConfigurationJson(*configuration, options.file); },
+  const Passwords passwords = context.ShownPasswords();
+  return context.Show({[&] { return ConfigurationJson(*configuration, options.file, passwords); },
                        [&](std::ostream& out) {
                          const DeviceConf empty =
                              EmptyConfiguration(configuration->profile, context.Translator());
-                         PrintReadable(out, *configuration, empty, options.all);
+                         PrintReadable(out, *configuration, empty, options.all, passwords);
                        }});
 }
 

@@ -10,7 +10,7 @@ ExitCode RunStatements(CommandContext& context, const std::string& file) {
   if (!configuration) return ExitCode::BadFile;
   const std::int32_t features = context.options.features.value_or(0);
   const auto statements =
-      ComposeStatements(configuration->conf, {configuration->profile, features});
+      context.Shown(ComposeStatements(configuration->conf, {configuration->profile, features}));
   return context.Show({[&] {
                          return Json{{"file", file},
                                      {"model", configuration->profile.TargetName},

@@ -107,10 +107,14 @@ Bound BindKind(OptionButton& option, const BindOptions& options, QWidget* parent
 /// Paints a box of a bad number and says what the number counts as.
 void FollowColour(QLineEdit& edit, const TextBox& box) {
   const bool isBad = box.face.Colour() == BackColour::Red;
-  edit.setToolTip(isBad ? Words::tr("This is not a number of the kind expected here. It counts as "
-                                    "%1.")
-                              .arg(ToQt(NumText(NumVal(box.Text()))).trimmed())
-                        : QString());
+  const QString reason =
+      box.Takes() == TextBox::Kind::Address
+          ? Words::tr(
+                "This is not an address: write four numbers from 0 to 255 with points between "
+                "them, or 0 for none.")
+          : Words::tr("This is not a number of the kind expected here. It counts as %1.")
+                .arg(ToQt(NumText(NumVal(box.Text()))).trimmed());
+  edit.setToolTip(isBad ? reason : QString());
   if (edit.property("bad").toBool() == isBad) return;
   edit.setProperty("bad", isBad);
   edit.style()->unpolish(&edit);
@@ -126,6 +130,7 @@ Bound BindKind(TextBox& box, const BindOptions& options, QWidget* parent) {
   return {widget, [widget, &box] {
             FollowFace(*widget, box.face);
             FollowColour(*widget, box);
+            widget->setEchoMode(box.Hidden() ? QLineEdit::Password : QLineEdit::Normal);
             const QString text = ToQt(box.Text());
             // The limit is one on typing: a longer text from a file or a logger is shown whole.
             const int limit = box.MaxLength() == 0 ? kUnlimited : box.MaxLength();

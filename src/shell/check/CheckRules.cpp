@@ -7,6 +7,7 @@
 #include "base/Channels.h"
 #include "base/Printable.h"
 #include "blocks/TelephoneWire.h"
+#include "blocks/VoiceNumbers.h"
 #include "model/Features.h"
 #include "pages/ActionCatalogue.h"
 #include "store/IniTool.h"
@@ -37,10 +38,11 @@ bool IsTextSent(const Examined& file, std::size_t index) {
 }
 
 /// Why a text cannot stand in a statement; empty for one that can.
-std::string_view TroubleOf(const std::string& text) {
-  if (text.find(',') != std::string::npos)
+std::string_view TroubleOf(const std::string& text, FieldSense sense) {
+  const bool isStatement = sense == FieldSense::Statement;
+  if (!isStatement && text.find(',') != std::string::npos)
     return "a comma ends the text on the line: write something else for it";
-  if (text.find_first_of("{}") != std::string::npos)
+  if (!isStatement && text.find_first_of("{}") != std::string::npos)
     return "a brace encloses commands on the line: write something else for it";
   return HasControl(text) ? "a control character breaks the line: remove it" : "";
 }
@@ -51,7 +53,7 @@ std::vector<Finding> BrokenTexts(const Examined& file) {
     const ConstField& field = file.Fields()[i];
     const std::string* text = TextOf(field.value);
     if (!text || text->empty()) continue;
-    const std::string_view trouble = TroubleOf(*text);
+    const std::string_view trouble = TroubleOf(*text, field.meta.sense);
     if (trouble.empty() || !IsTextSent(file, i)) continue;
     found.push_back({field.Section(), field.Key(), std::string(trouble)});
   }
@@ -212,6 +214,11 @@ std::vector<Finding> UnsentMasks(const Examined& file) {
 
 std::vector<Finding> BadNumbers(const Examined& file) {
   std::vector<Finding> found;
+  for (const ConstField& field : file.Fields())
+    if (const auto* text = std::get_if<const std::string*>(&field.value);
+        text && field.id.section == &VoiceNumbers::kSection && !(*text)->empty() &&
+        !IsIntText(**text))
+      found.push_back({field.Section(), field.Key(), **text + " is no telephone number"});
   for (const ConstField& field : file.Fields()) {
     const auto* phone = std::get_if<const ConfPhone*>(&field.value);
     if (!phone || (*phone)->TLF.empty()) continue;
@@ -225,7 +232,7 @@ std::vector<Finding> BadNumbers(const Examined& file) {
   return found;
 }
 
-constexpr std::array<Rule, 25> kRules{{
+constexpr std::array<Rule, 36> kRules{{
     {"text-breaks-statement", Severity::Error,
      "a comma, a brace or a control character in a text that is sent", BrokenTexts},
     {"too-many-statements", Severity::Error, "more statements than an upload can number",
@@ -236,6 +243,11 @@ constexpr std::array<Rule, 25> kRules{{
     {"expansion-out-of-range", Severity::Error,
      "an expansion input in a mode, on a module or in a group that does not exist",
      ExpansionOutOfRange},
+    {"macro-broken", Severity::Error, "a line of the macros that is none", BrokenMacros},
+    {"macro-memory-full", Severity::Error, "more macros than a logger has room for",
+     MacrosBeyondMemory},
+    {"equation-above-f15", Severity::Error, "an equation of a flag that does not exist",
+     EquationsWithoutFlag},
     {"section-missing", Severity::Error, "a section of the model that is not in the file",
      MissingSections},
     {"key-missing", Severity::Error, "a key of a section that is not in the file", MissingKeys},
@@ -255,6 +267,22 @@ constexpr std::array<Rule, 25> kRules{{
      WideHysteresis},
     {"alarm-of-silent-channel", Severity::Warning, "an alarm on a channel that is off or not read",
      AlarmsOfSilentChannels},
+    {"macro-number-twice", Severity::Warning, "a number that two macros or equations have",
+     RepeatedMacros},
+    {"macro-not-sent", Severity::Warning, "a line of the macros that a logger does not get",
+     UnsentMacros},
+    {"action-without-macro", Severity::Warning,
+     "an action that starts a macro that does not exist or is empty", ActionsWithoutMacro},
+    {"voice-macro-missing", Severity::Warning,
+     "a macro of voice calls that does not exist or is empty", VoiceCallsWithoutMacro},
+    {"condition-without-equation", Severity::Warning, "a condition that no equation sets",
+     ConditionsWithoutEquation},
+    {"gprs-without-apn", Severity::Warning, "alarms that notify by GPRS without an APN",
+     GprsWithoutApn},
+    {"gprs-without-server", Severity::Warning, "GPRS that is enabled without a server",
+     GprsWithoutServer},
+    {"mask-without-alarm", Severity::Warning,
+     "a telephone's mask that names channels without an alarm", MasksWithoutAlarm},
     {"probe-identity-shared", Severity::Warning, "two probes with one identity", SharedIdentities},
     {"equation-without-channel", Severity::Warning,
      "an equation of a channel that the model does not have", EquationsOfMissingChannels},

@@ -1,0 +1,192 @@
+#include <algorithm>
+#include <array>
+#include <map>
+
+#include "base/Utf8.h"
+#include "blocks/GprsParameters.h"
+#include "blocks/MacroPool.h"
+#include "blocks/VoiceNumbers.h"
+#include "shell/check/CheckRules.h"
+
+namespace ostrel {
+namespace {
+
+/// The line of a place of the pool, taken apart.
+struct PooledLine {
+  int place = 0;
+  MacroLine line;
+};
+
+Finding AtPlace(int place, std::string sentence) {
+  const FieldId id{&MacroPool::kSection, -1, "LINE", {.place = place}};
+  return {SectionName(id), KeyName(id, PlaceForm::InBrackets), std::move(sentence)};
+}
+
+/// The lines that a logger gets.
+std::vector<PooledLine> SentLines(const Examined& file) {
+  std::vector<PooledLine> lines;
+  for (int place = 0; place < kMacroPlacesSent; ++place)
+    if (const auto line = ReadMacroLine(file.Conf().Macro.LINE[place]))
+      lines.push_back({place, *line});
+  return lines;
+}
+
+std::string NameOf(const MacroLine& line) {
+  return (line.isEquation ? "F" : "MACRO") + std::to_string(line.number);
+}
+
+/// What a logger knows of macros and equations, by their numbers.
+class SentPool {
+ public:
+  explicit SentPool(const Examined& file) {
+    for (const PooledLine& one : SentLines(file))
+      (one.line.isEquation ? equations_ : macros_)[one.line.number] = !one.line.command.empty();
+  }
+  bool HasEquation(int number) const { return equations_.contains(number); }
+  /// Why starting a macro does nothing; empty where it does something.
+  std::string WhyNothing(int number) const {
+    const auto found = macros_.find(number);
+    const std::string name = "macro " + std::to_string(number);
+    if (found == macros_.end()) return "there is no " + name + ": write it or choose another one";
+    return found->second ? "" : name + " is empty: give it a command or choose another one";
+  }
+
+ private:
+  std::map<int, bool> macros_, equations_;  ///< by number, whether there is something in it
+};
+
+/// Runs `look` on each number of a sense that a logger gets to know.
+template <class Look>
+void EachSent(const Examined& file, FieldSense sense, const Look& look) {
+  const std::int16_t none = 0;
+  for (std::size_t i = 0; i < file.Fields().size(); ++i) {
+    const ConstField& field = file.Fields()[i];
+    const auto* number = std::get_if<const std::int16_t*>(&field.value);
+    if (number && field.meta.sense == sense && **number > 0 && file.IsSent(i, &none))
+      look(field, **number);
+  }
+}
+
+}  // namespace
+
+std::vector<Finding> BrokenMacros(const Examined& file) {
+  std::vector<Finding> found;
+  for (int place = 0; place < kMacroPlacesSent; ++place) {
+    const std::string& text = file.Conf().Macro.LINE[place];
+    const auto line = ReadMacroLine(text);
+    const bool isMacro = line && (line->isEquation || line->number < kMacroPlaces);
+    if (text.empty() || isMacro) continue;
+    found.push_back(AtPlace(place,
+                            "the line is neither MACRO and a number up to 55 nor F and a number, "
+                            "with the command in one pair of braces: write it anew"));
+  }
+  return found;
+}
+
+std::vector<Finding> EquationsWithoutFlag(const Examined& file) {
+  std::vector<Finding> found;
+  for (const auto& [place, line] : SentLines(file))
+    if (line.isEquation && line.number >= kEquations)
+      found.push_back(AtPlace(place, "there is no flag " + NameOf(line) +
+                                         ": equations are F0 to F15, so choose one of these"));
+  return found;
+}
+
+std::vector<Finding> MacrosBeyondMemory(const Examined& file) {
+  std::size_t used = 0;
+  for (int place = 0; place < kMacroPlacesSent; ++place)
+    used += CharacterCount(file.Conf().Macro.LINE[place]);
+  constexpr std::size_t kRoom = kMacroMemory;
+  if (used <= kRoom) return {};
+  return {AtPlace(0, "the lines have " + std::to_string(used - kRoom) +
+                         " characters more than the 1024 that a logger has room for: shorten or "
+                         "remove some")};
+}
+
+std::vector<Finding> UnsentMacros(const Examined& file) {
+  int unsent = 0, first = 0;
+  for (int place = kMacroPlaces - 1; place >= kMacroPlacesSent; --place) {
+    if (file.Conf().Macro.LINE[place].empty()) continue;
+    ++unsent;
+    first = place;
+  }
+  if (unsent == 0) return {};
+  const bool isOne = unsent == 1;
+  return {AtPlace(first, (isOne ? std::string("this line stands")
+                                : "this and " + std::to_string(unsent - 1) + " more lines stand") +
+                             " behind the 40 that a logger gets, and " + (isOne ? "is" : "are") +
+                             " left out of an upload: remove what is not needed")};
+}
+
+std::vector<Finding> RepeatedMacros(const Examined& file) {
+  std::vector<Finding> found;
+  std::map<std::string, int> places;
+  for (int place = 0; place < kMacroPlaces; ++place) {
+    const auto line = ReadMacroLine(file.Conf().Macro.LINE[place]);
+    if (!line) continue;
+    const auto [former, isNew] = places.try_emplace(NameOf(*line), place);
+    if (isNew) continue;
+    found.push_back(AtPlace(place, NameOf(*line) + " stands in line " +
+                                       std::to_string(former->second) +
+                                       " already: give one of them another number"));
+  }
+  return found;
+}
+
+std::vector<Finding> ActionsWithoutMacro(const Examined& file) {
+  std::vector<Finding> found;
+  const SentPool pool(file);
+  EachSent(file, FieldSense::Action, [&](const ConstField& field, int action) {
+    if (action > kMacrosOfActions) return;
+    if (const std::string why = pool.WhyNothing(action - 1); !why.empty())
+      found.push_back({field.Section(), field.Key(),
+                       "action " + std::to_string(action) + " starts nothing, for " + why});
+  });
+  return found;
+}
+
+std::vector<Finding> ConditionsWithoutEquation(const Examined& file) {
+  std::vector<Finding> found;
+  const SentPool pool(file);
+  EachSent(file, FieldSense::Condition, [&](const ConstField& field, int condition) {
+    const int flag = condition - 1;
+    if (pool.HasEquation(flag)) return;
+    found.push_back({field.Section(), field.Key(),
+                     "flag F" + std::to_string(flag) +
+                         " is the condition, and no equation sets it: write one or choose TRUE"});
+  });
+  return found;
+}
+
+std::vector<Finding> VoiceCallsWithoutMacro(const Examined& file) {
+  const std::int16_t macro = file.Conf().AutVoz.MACRO;
+  if (macro < 0) return {};
+  std::string why = SentPool(file).WhyNothing(macro);
+  if (macro >= kVoiceMacros) why = "voice calls start macros 0 to 39: choose one of these or none";
+  if (why.empty()) return {};
+  return {{SectionName(VoiceNumbers::kSection, -1), "MACRO", std::move(why)}};
+}
+
+std::vector<Finding> GprsWithoutApn(const Examined& file) {
+  if (!file.Conf().Gprs.APN_SERVER.empty()) return {};
+  int alarms = 0;
+  VisitEnabledAlarms(file, [&](const AlarmPlace&, const AlarmBlock& alarm) {
+    if (alarm.GPRS) ++alarms;
+  });
+  if (alarms == 0) return {};
+  return {{SectionName(GprsParameters::kSection, -1), "APN_SERVER",
+           (alarms == 1 ? std::string("an alarm notifies")
+                        : std::to_string(alarms) + " alarms notify") +
+               " by GPRS, and there is no APN: give one"}};
+}
+
+std::vector<Finding> GprsWithoutServer(const Examined& file) {
+  constexpr std::array<std::string_view, 3> kNone{"", "0", "0.0.0.0"};
+  const ConfGprs& gprs = file.Conf().Gprs;
+  const bool hasServer = std::ranges::find(kNone, gprs.SERVER_IP) == kNone.end();
+  if (!gprs.ENABLED || hasServer) return {};
+  return {{SectionName(GprsParameters::kSection, -1), "SERVER_IP",
+           "GPRS is enabled without a server: give its address"}};
+}
+
+}  // namespace ostrel
