@@ -4,7 +4,10 @@
 
 #include "PageFixture.h"
 #include "blocks/Configuration.h"
+#include "pages/Aut_Voz.h"
+#include "pages/GPRS.h"
 #include "pages/General.h"
+#include "pages/Macros.h"
 #include "pages/bus/CONF_MODBUS.h"
 #include "pages/bus/E_MODBUS.h"
 #include "pages/expansion/E_Modular.h"
@@ -43,6 +46,8 @@ const Walked kWalked[] = {
     {"E_Math", Make<E_Math>, 3, 1},      {"CONF_MODBUS", Make<CONF_MODBUS>, -1, 0},
     {"E_MODBUS", Make<E_MODBUS>, 31, 1}, {"E_Modular", Make<E_Modular>, 127, 1},
     {"E_Aux", Make<E_Aux>, 3, 4},        {"Katodex", Make<Katodex>, -1, 0},
+    {"Macros", Make<Macros>, -1, 0},     {"GPRS", Make<GPRS>, -1, 0},
+    {"Aut_Voz", Make<Aut_Voz>, -1, 0},
 };
 
 /// Values that a field may be tried with: the controls of some take only a few.
@@ -79,8 +84,9 @@ class PageWalk : public PageFixture, public testing::WithParamInterface<Walked> 
       if (field.meta.sense == FieldSense::Action) continue;
       // One group stands in the file alone.
       if (field.id.section->word == "MINPUT.A" && field.id.word == "GRUPO") continue;
-      // The rows of a list close up: only the first telephone stays where it was.
-      if (std::holds_alternative<ConfPhone*>(field.value) && field.id.slot.place > 0) continue;
+      // The rows of a list close up: only the first one stays where it was.
+      const bool isRow = field.id.slot.config < 0 && field.id.slot.place > 0;
+      if (isRow) continue;
       if (channel >= 0 && field.id.channel != channel) continue;
       if (field.id.slot.config >= 0 && field.id.slot.config != config) continue;
       shown.push_back(field);

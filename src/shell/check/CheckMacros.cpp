@@ -160,11 +160,13 @@ std::vector<Finding> ConditionsWithoutEquation(const Examined& file) {
 
 std::vector<Finding> VoiceCallsWithoutMacro(const Examined& file) {
   const std::int16_t macro = file.Conf().AutVoz.MACRO;
-  if (macro < 0) return {};
+  const std::string section = SectionName(VoiceNumbers::kSection, -1);
+  // A file without the key has chosen none.
+  if (macro < 0 || !file.Document().Find(section, "MACRO")) return {};
   std::string why = SentPool(file).WhyNothing(macro);
   if (macro >= kVoiceMacros) why = "voice calls start macros 0 to 39: choose one of these or none";
   if (why.empty()) return {};
-  return {{SectionName(VoiceNumbers::kSection, -1), "MACRO", std::move(why)}};
+  return {{section, "MACRO", std::move(why)}};
 }
 
 std::vector<Finding> GprsWithoutApn(const Examined& file) {
