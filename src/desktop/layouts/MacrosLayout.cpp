@@ -26,12 +26,14 @@ Card EntryCard(FormView& view) {
 
 /// Greys the lines that no logger gets. A line keeps its row as long as it stands.
 void GreyUnsent(QListWidget& list) {
-  QObject::connect(list.model(), &QAbstractItemModel::rowsInserted, &list, [&list] {
+  const auto grey = [&list] {
     for (int row = kMacroPlacesSent; row < list.count(); ++row) {
       list.item(row)->setForeground(list.palette().brush(QPalette::Disabled, QPalette::Text));
       list.item(row)->setToolTip(Words::tr("This line is not sent to the logger."));
     }
-  });
+  };
+  QObject::connect(list.model(), &QAbstractItemModel::rowsInserted, &list, grey);
+  grey();
 }
 
 }  // namespace

@@ -11,13 +11,15 @@
 namespace ostrel {
 namespace {
 
+constexpr int kGap = 8;  // between the controls of a row or column, in pixels
+
 /// A box that leaves of a list only the rows that hold its text in view.
 QLineEdit* FilterFor(FormView& view, QListWidget* list) {
   auto* box = view.Own(new QLineEdit(&view));
   box->setObjectName("Filter");
   box->setClearButtonEnabled(true);
-  box->setPlaceholderText(Words::tr("Filter"));
-  box->setAccessibleName(Words::tr("Filter"));
+  box->setPlaceholderText(Words::tr("Filter the numbers"));
+  box->setAccessibleName(Words::tr("Filter the numbers"));
   const auto filter = [list, box] {
     for (int row = 0; row < list->count(); ++row)
       list->item(row)->setHidden(!list->item(row)->text().contains(box->text()));
@@ -38,6 +40,7 @@ void PasteByKeys(QListWidget* list, QPushButton* button) {
 Card ListCard(FormView& view) {
   const Card card = MakeCard(view, Words::tr("Numbers"));
   auto* entry = new QHBoxLayout;
+  entry->setSpacing(kGap);
   entry->addWidget(view.LabelFor("PhoneText", std::string_view("PhoneLabel")));
   entry->addWidget(view.Show("PhoneText"), 1);
   for (const auto* name : {"Add", "SearchBut"}) entry->addWidget(view.Show(name));
@@ -50,6 +53,7 @@ Card ListCard(FormView& view) {
   auto* paste = view.Show<QPushButton>("PasteBut");
   PasteByKeys(list, paste);
   auto* buttons = new QVBoxLayout;
+  buttons->setSpacing(kGap);
   for (QWidget* button : {view.Show("Del"), static_cast<QWidget*>(paste), view.Show("ImportBut"),
                           view.Show("ExportBut")})
     buttons->addWidget(button);
@@ -72,6 +76,7 @@ Card CallCard(FormView& view) {
 Card LoggerCard(FormView& view) {
   const Card card = MakeCard(view, Words::tr("Logger"));
   auto* moves = new QHBoxLayout;
+  moves->setSpacing(kGap);
   for (const auto* name : {"ReadBut", "WriteBut"}) moves->addWidget(view.Show(name));
   moves->addWidget(view.ShowNamed("PBar", Words::tr("Progress")), 1);
   moves->addWidget(view.Show("StateLabel"));

@@ -924,5 +924,9 @@
         <source>lines were lost or arrived damaged: try again</source>
         <translation>se perdieron líneas o llegaron dañadas: inténtelo de nuevo</translation>
     </message>
+    <message>
+        <source>Filter the numbers</source>
+        <translation>Filtrar los números</translation>
+    </message>
 </context>
 </TS>
