@@ -90,4 +90,11 @@ std::string CommaToPoint(std::string_view text) {
   return result;
 }
 
+std::string WithDecimalPoint(std::string_view text) {
+  const bool isCandidate =
+      std::ranges::count(text, ',') == 1 && text.find('.') == std::string_view::npos;
+  std::string number = isCandidate ? CommaToPoint(text) : std::string(text);
+  return IsFloatText(number) ? number : std::string(text);
+}
+
 }  // namespace ostrel

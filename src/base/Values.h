@@ -64,6 +64,10 @@ std::string_view FieldOf(std::string_view text, int field);
 /// The text with every "," replaced by ".".
 std::string CommaToPoint(std::string_view text);
 
+/// A number as it is typed where the comma is the decimal sign: with a point for the comma when
+/// that is its only separator and makes it a number; else the text as it is.
+std::string WithDecimalPoint(std::string_view text);
+
 /// Moves a value right by one bit; the top bit becomes 0.
 constexpr std::uint16_t ShiftRight1(std::uint16_t value) {
   return static_cast<std::uint16_t>(value >> 1U);

@@ -60,9 +60,9 @@ constexpr auto AlarmsOf() -> decltype(Block::alarms) {
 }
 
 template <class Kind>
-constexpr auto AsHeldOf() -> decltype(Block::asHeld) {
-  if constexpr (requires { &Kind::AsHeld; })
-    return &Kind::AsHeld;
+constexpr auto AsSentOf() -> decltype(Block::asSent) {
+  if constexpr (requires { &Kind::AsSent; })
+    return &Kind::AsSent;
   else
     return nullptr;
 }
@@ -83,7 +83,7 @@ Block MakeBlock(PageId page) {
           .view = &ViewFields<Kind>,
           .restore = &RestoreFields<Kind>,
           .alarms = AlarmsOf<Kind>(),
-          .asHeld = AsHeldOf<Kind>(),
+          .asSent = AsSentOf<Kind>(),
           .beginStream = BeginStreamOf<Kind>(),
           .lines = Kind::kLines};
 }

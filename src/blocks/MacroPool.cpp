@@ -34,9 +34,13 @@ void MacroPool::Compose(const DeviceConf& conf, const Receiver&, int, StatementL
     if (const std::string& line = conf.Macro.LINE[place]; !line.empty()) out.Add(line);
 }
 
-void MacroPool::AsHeld(DeviceConf& conf, const Receiver&) {
-  const auto sent = std::span(conf.Macro.LINE.begin(), kMacroPlacesSent);
-  std::ranges::stable_partition(sent, [](const std::string& line) { return !line.empty(); });
+void MacroPool::AsSent(DeviceConf& read, const DeviceConf& sent, const Receiver&) {
+  ConfMacro held;
+  int count = 0;
+  for (int place = 0; place < kMacroPlacesSent; ++place)
+    if (const std::string& line = sent.Macro.LINE[place]; !line.empty()) held.LINE[count++] = line;
+  if (!std::ranges::equal(held.LINE, read.Macro.LINE)) return;
+  std::copy_n(sent.Macro.LINE.begin(), kMacroPlacesSent, read.Macro.LINE.begin());
 }
 
 }  // namespace ostrel

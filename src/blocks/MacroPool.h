@@ -28,8 +28,8 @@ struct MacroPool {
   static int Count(const Receiver&) { return 1; }
   /// The lines of the places that a logger gets, as they stand.
   static void Compose(const DeviceConf& conf, const Receiver&, int, StatementList& out);
-  /// A logger knows no empty places between its lines.
-  static void AsHeld(DeviceConf& conf, const Receiver&);
+  /// A logger reports the lines that it got without the empty places between them.
+  static void AsSent(DeviceConf& read, const DeviceConf& sent, const Receiver&);
 };
 
 }  // namespace ostrel

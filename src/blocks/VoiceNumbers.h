@@ -5,6 +5,7 @@
 #include "blocks/Clearing.h"
 #include "blocks/Fields.h"
 #include "blocks/LineSection.h"
+#include "blocks/Receiver.h"
 
 namespace ostrel {
 
@@ -21,6 +22,10 @@ struct VoiceNumbers {
     Describe(conf.AutVoz, AtRecord(kSection, -1, visit));
   }
   static constexpr std::array<LineSection, 0> kLines{};
+  /// No reading of a configuration brings the list.
+  static void AsSent(DeviceConf& read, const DeviceConf& sent, const Receiver&) {
+    read.AutVoz = sent.AutVoz;
+  }
 };
 
 }  // namespace ostrel

@@ -22,6 +22,11 @@ std::string Upper(std::string_view text) {
   return upper;
 }
 
+/// A file as sentences name it.
+std::string NameOf(const std::string& path) {
+  return path == kStandard ? std::string("standard input") : path;
+}
+
 std::optional<std::int16_t> PortNumber(std::string_view digits) {
   std::int16_t number = 0;
   const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), number);
@@ -34,9 +39,14 @@ std::optional<std::int16_t> PortNumber(std::string_view digits) {
 CommandContext::CommandContext(Environment& world, GlobalOptions shared)
     : environment(world),
       options(std::move(shared)),
-      console(world.out, world.err, options.quiet),
+      console(world.out, world.err, options.quiet, options.json),
       dialogs(world, console, options),
-      platform(world.platform.With(dialogs)),
+      files(world.platform.files,
+            [&world](std::string& octets) {
+              return world.readDescriptor ? world.readDescriptor(0, false, octets)
+                                          : FileResult{"there is none"};
+            }),
+      platform(world.platform.With(dialogs).With(files)),
       lang_(platform.files, SeedLang(platform.files, world.shippedLang, LangIn(world.dataFolder))) {
   lang_.Init();
   lang_.SetSelectedLang(options.lang);
@@ -50,15 +60,16 @@ std::unique_ptr<Configurator> CommandContext::MakeOnline(std::string_view model)
 }
 
 std::optional<ModelConfiguration> CommandContext::OpenFile(const std::string& path) {
-  if (!platform.files.Read(path)) {
-    console.Fail(ExitCode::BadFile, "cannot read " + path);
+  std::string octets;
+  if (const FileResult can = platform.files.ReadInto(path, octets); !can.Ok()) {
+    console.Fail(ExitCode::BadFile, "cannot read " + NameOf(path) + ": " + can.error);
     return {};
   }
   TargetProfile present;
   if (const auto model = ChooseModel({}, path)) SelectTarget(present, *model);
   auto read = ReadConfiguration(platform.files, path, present, Translator());
   if (!read) {
-    console.Fail(ExitCode::BadFile, path + " is no configuration of any of the six models");
+    console.Fail(ExitCode::BadFile, NameOf(path) + " is no configuration of any of the six models");
     return {};
   }
   if (!options.target.empty() && read->profile.TargetName != present.TargetName)

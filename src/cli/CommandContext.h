@@ -10,6 +10,7 @@
 #include "cli/Environment.h"
 #include "cli/GlobalOptions.h"
 #include "cli/Result.h"
+#include "cli/StandardFiles.h"
 #include "lang/Lang.h"
 #include "shell/ConfigurationFile.h"
 #include "shell/Configurator.h"
@@ -33,8 +34,11 @@ class CommandContext {
   const GlobalOptions options;
   Console console;
   ConsoleDialogs dialogs;
+  StandardFiles files;
   const Platform platform;  ///< that of the environment; the dialogs are those of the command line
   bool traceLost = false;   ///< the trace could not be written whole
+  /// What was to be done is done: output that cannot be written does not change that.
+  bool isDone = false;
 
   /// A configurator with the ports of the environment, on a model by its display name.
   std::unique_ptr<Configurator> MakeOnline(std::string_view model);
@@ -58,6 +62,9 @@ class CommandContext {
 
   /// Statements as they may be shown.
   std::vector<std::string> Shown(std::vector<std::string> statements) const;
+
+  /// Whether a signal has come that ends the program.
+  bool Interrupted() const { return environment.interrupted && environment.interrupted(); }
 
   /// Writes a result to the output, in the form that the options ask for. Done, so that a command
   /// can end with it.

@@ -1,5 +1,7 @@
 #include "cli/ConfFile.h"
 
+#include "base/CodePage.h"
+#include "blocks/Configuration.h"
 #include "shell/ForeignKeys.h"
 #include "shell/SafetyCopies.h"
 
@@ -13,17 +15,27 @@ ExitCode CannotWrite(CommandContext& context, const std::string& path, const Fil
 }  // namespace
 
 ExitCode SaveTo(CommandContext& context, Configurator& configurator, const std::string& path) {
+  if (path == kStandard) {
+    IniClass document(context.platform.files);
+    SaveConfiguration(configurator.conf, configurator.profile, document);
+    context.console.Out() << ToCodePage(document.OutputINI());
+    return ExitCode::Done;
+  }
   configurator.ConfFilePath = path;
-  const FileResult result = configurator.SaveConf();
+  // Whether a protected file may go was asked ahead of the session.
+  const FileResult result = configurator.SaveConf(Replacing::Any);
   return result.Ok() ? ExitCode::Done : CannotWrite(context, path, result);
 }
 
 ExitCode TryToWrite(CommandContext& context, const std::string& path) {
+  if (path == kStandard) return ExitCode::Done;
   Files& files = context.platform.files;
   if (files.Exists(path) && !files.Read(path))
     return CannotWrite(context, path, {"what stands there is no file to replace"});
-  const std::string trial = files.Resolve(path) + ".try";
-  if (files.Exists(trial)) return ExitCode::Done;
+  if (const FileResult may = files.MayReplace(path);
+      !may.Ok() && !context.dialogs.Confirm(path + ": " + may.error + ". Replace it all the same?"))
+    return CannotWrite(context, path, {may.error + ". --yes replaces it all the same"});
+  const std::string trial = files.TemporaryBeside(files.Resolve(path));
   const FileResult made = files.Create(trial);
   if (!made.Ok()) return CannotWrite(context, path, made);
   files.Remove(trial);
@@ -32,6 +44,7 @@ ExitCode TryToWrite(CommandContext& context, const std::string& path) {
 
 ExitCode MayReplace(CommandContext& context, const std::string& path,
                     const TargetProfile& profile) {
+  if (path == kStandard) return ExitCode::Done;
   const auto foreign = ForeignKeys(context.platform.files, path, profile);
   if (foreign.empty()) return ExitCode::Done;
   const std::string lost =

@@ -10,7 +10,8 @@ namespace ostrel::cli {
 /// failed.
 ExitCode SaveTo(CommandContext& context, Configurator& configurator, const std::string& path);
 
-/// Makes sure that a file can be made at a path before a logger is kept busy for it.
+/// Makes sure that a file can be made at a path before a logger is kept busy for it, and asks
+/// before a protected one is replaced. Anything but Done after saying why not.
 ExitCode TryToWrite(CommandContext& context, const std::string& path);
 
 /// Asks before a file is replaced that holds what a configuration of the model does not write.

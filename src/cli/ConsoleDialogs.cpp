@@ -7,7 +7,7 @@ namespace ostrel::cli {
 BoxAnswer ConsoleDialogs::ShowMessage(const MessageBox& box) {
   const std::string text = box.title.empty() ? box.text : box.title + ": " + box.text;
   if (box.buttons == BoxButtons::YesNo) return Confirm(text) ? BoxAnswer::Yes : BoxAnswer::No;
-  if (!mute) console_.Err() << Printable(text) << std::endl;
+  if (!mute) console_.Say(text);
   return BoxAnswer::Ok;
 }
 

@@ -22,15 +22,22 @@ struct Environment {
   std::ostream& out;
   std::ostream& err;
   bool errIsTerminal = false;
-  Ask ask;                  ///< empty when no operator sits at the terminal
+  bool outIsTerminal = false;
+  Ask ask;  ///< empty when no operator sits at the terminal
+  /// Reads an open descriptor to its end, or to the end of its first line, which it leaves out.
+  std::function<FileResult(int descriptor, bool lineOnly, std::string& octets)> readDescriptor;
+  std::string code;         ///< access code of the environment; empty for none
   std::string dataFolder;   ///< the user's own; made when needed
   std::string shippedLang;  ///< the installed translation table
   /// Number of a device path; 0 when there is none to give.
   std::function<int(const std::string& path)> numberOfDevice;
-  /// Opens a text file that grows while the command runs; null when it cannot be written.
-  std::function<std::unique_ptr<std::ostream>(const std::string& path)> openLog;
+  /// Opens a text file that grows while the command runs; null when it may not be written, which
+  /// `why` tells.
+  std::function<std::unique_ptr<std::ostream>(const std::string& path, std::string& why)> openLog;
   /// What an interrupt does; set by a command for as long as it has a port open.
   std::function<void()> onInterrupt;
+  /// Whether a signal has come that ends the program, served or not; empty where none can come.
+  std::function<bool()> interrupted;
 };
 
 }  // namespace ostrel::cli

@@ -8,12 +8,14 @@ namespace ostrel::cli {
 
 /// The options that every command takes.
 struct GlobalOptions {
-  std::string port;      ///< "COM7", the path of a device, or "sim:VR200"
-  std::string target;    ///< a model by any of its names
-  std::string phone;     ///< to be dialled by the modem at the port
-  std::string code;      ///< access code
-  std::string trace;     ///< file that gets what passes on the line
-  std::string simState;  ///< file in which a simulated logger is kept
+  std::string port;         ///< "COM7", the path of a device, or "sim:VR200"
+  std::string target;       ///< a model by any of its names
+  std::string phone;        ///< to be dialled by the modem at the port
+  std::string code;         ///< access code
+  std::string codeFile;     ///< file whose first line is the access code
+  int codeDescriptor = -1;  ///< open descriptor whose first line is the access code
+  std::string trace;        ///< file that gets what passes on the line
+  std::string simState;     ///< file in which a simulated logger is kept
   std::int16_t lang = 1;
   std::optional<std::int32_t> features;
   bool json = false;

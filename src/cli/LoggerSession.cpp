@@ -30,25 +30,32 @@ void LoggerSession::Close() {
   if (configurator_.comms.PortOpen()) configurator_.session.Close(!context_.options.phone.empty());
 }
 
-void LoggerSession::StartTrace() {
-  if (context_.options.trace.empty()) return;
-  trace_ = context_.environment.openLog(context_.options.trace);
-  traceFailed_ = trace_ == nullptr;
-  if (trace_) {
-    configurator_.comms.TracesPasswords = context_.options.secrets;
-    configurator_.comms.Trace = [this](const std::string& line) { *trace_ << line << std::endl; };
-  }
+ExitCode LoggerSession::StartTrace() {
+  const std::string& path = context_.options.trace;
+  if (path.empty()) return ExitCode::Done;
+  std::string why;
+  trace_ = context_.environment.openLog(path, why);
+  if (!trace_)
+    return context_.console.Fail(ExitCode::BadFile,
+                                 "cannot write the trace to " + path + ": " + why);
+  configurator_.comms.TracesPasswords = context_.options.secrets;
+  configurator_.comms.Trace = [this](const std::string& line) { *trace_ << line << std::endl; };
+  return ExitCode::Done;
+}
+
+ExitCode LoggerSession::TakeSimulatedState() {
+  const std::string& path = context_.options.simState;
+  if (port_.simulatedModel.empty() || path.empty()) return ExitCode::Done;
+  const FileResult taken = context_.environment.simulated.UseStateFile(context_.platform.files,
+                                                                       port_.simulatedModel, path);
+  if (taken.Ok()) return ExitCode::Done;
+  return context_.console.Fail(ExitCode::BadFile,
+                               path + " holds no simulated logger: " + taken.error);
 }
 
 ExitCode LoggerSession::Open() {
-  StartTrace();
-  if (traceFailed_)
-    return context_.console.Fail(ExitCode::BadFile, "cannot write " + context_.options.trace);
-  if (!port_.simulatedModel.empty() && !context_.options.simState.empty() &&
-      !context_.environment.simulated.UseStateFile(context_.platform.files, port_.simulatedModel,
-                                                   context_.options.simState))
-    return context_.console.Fail(ExitCode::BadFile,
-                                 context_.options.simState + " holds no simulated logger");
+  if (const ExitCode traced = StartTrace(); traced != ExitCode::Done) return traced;
+  if (const ExitCode taken = TakeSimulatedState(); taken != ExitCode::Done) return taken;
   if (!configurator_.session.Open(port_.number, context_.options.phone))
     return Fault(interrupted_ ? ExitCode::DialogueFailed : ExitCode::NoSession,
                  *configurator_.session.State().failed);
@@ -56,6 +63,8 @@ ExitCode LoggerSession::Open() {
   const bool isKnown = configurator_.session.CompleteInfo();
   if (interrupted_) return Failed({});
   if (isKnown) return ExitCode::Done;
+  const LinkFault& told = configurator_.comms.InfoFault();
+  if (!told.IsDamage() && told.kind != LinkFault::Kind::Silence) return Failed(told);
   return context_.console.Fail(ExitCode::DialogueFailed,
                                "the logger did not tell who it is: lines were lost or arrived "
                                "damaged. Check cable and earthing");
@@ -93,7 +102,8 @@ ExitCode LoggerSession::Upload() {
 
 ExitCode LoggerSession::Fault(ExitCode code, const SessionFault& fault) {
   FaultWords words = WordsOf(fault, port_.name);
-  if (fault.code == CodeAnswer::NotGiven) words.remedy = {"--code gives one"};
+  if (fault.code == CodeAnswer::NotGiven)
+    words.remedy = {"--code, --code-file, --code-fd or OSTREL_CODE gives one"};
   if (written_)
     words.outcome = {"the logger has taken the new configuration over, which is not verified"};
   return context_.console.Fail(code, FaultText(words));

@@ -38,13 +38,13 @@ class LoggerSession {
   /// Runs a transfer with its progress shown.
   bool Move(std::string_view label, bool (SessionDriver::*transfer)());
   ExitCode Fault(ExitCode code, const SessionFault& fault);
-  void StartTrace();
+  ExitCode StartTrace();
+  ExitCode TakeSimulatedState();
 
   CommandContext& context_;
   Configurator& configurator_;
   PortChoice port_;
   std::unique_ptr<std::ostream> trace_;
-  bool traceFailed_ = false;
   bool interrupted_ = false;
   bool written_ = false;  ///< the logger has taken a new configuration over
 };

@@ -1,5 +1,6 @@
 #include "cli/Ostrelctl.h"
 
+#include <algorithm>
 #include <vector>
 
 #include "cli/commands/Commands.h"
@@ -17,7 +18,7 @@ constexpr const char* kFooter =
     "  3  no session: port, modem or handshake\n"
     "  4  a dialogue failed or was interrupted\n"
     "  5  a file was refused, or cannot be read or written\n"
-    "130  interrupted while no dialogue was under way\n";
+    "130  interrupted while no dialogue was under way, or nobody reads the output\n";
 
 std::string NoModel(const std::string& name) {
   return FindTarget(name) ? std::string()
@@ -33,7 +34,15 @@ void AddGlobals(CLI::App& app, GlobalOptions& options) {
   app.add_option("--target", options.target, "Model: display name, type word or short name")
       ->check(NoModel);
   app.add_option("--phone", options.phone, "Number to dial through a modem");
-  app.add_option("--code", options.code, "Access code; asked for where absent and needed");
+  CLI::Option* code = app.add_option("--code", options.code,
+                                     "Access code; OSTREL_CODE of the environment gives one, too, "
+                                     "and it is asked for where absent and needed");
+  CLI::Option* codeFile =
+      app.add_option("--code-file", options.codeFile, "File whose first line is the access code");
+  CLI::Option* codeFd = app.add_option("--code-fd", options.codeDescriptor,
+                                       "Open descriptor whose first line is the access code");
+  codeFd->check(CLI::Range(0, 65535))->excludes(code)->excludes(codeFile);
+  codeFile->excludes(code);
   app.add_option("--trace", options.trace, "File that gets what passes on the line");
   app.add_option("--sim-state", options.simState, "File in which a simulated logger is kept");
   app.add_option("--lang", options.lang, "Column of the language table for the core's texts")
@@ -64,17 +73,45 @@ std::vector<Command> AddCommands(CLI::App& app) {
 
 /// What the parser had to say: help is a result, everything else a mistake in the command line.
 ExitCode TellParserResult(const CLI::App& app, const CLI::ParseError& error,
-                          Environment& environment) {
+                          Environment& environment, bool json) {
   if (error.get_exit_code() != 0) {
     const bool isUnknown = app.get_subcommands().empty() && !app.remaining().empty();
     const std::string says =
         isUnknown ? "there is no command " + app.remaining().front() : error.what();
-    environment.err << "ostrelctl: " << Printable(says) << " (--help tells more)\n";
-    return ExitCode::Usage;
+    return Console(environment.out, environment.err, false, json)
+        .Fail(ExitCode::Usage, says + " (--help tells more)");
   }
   app.exit(error, environment.out, environment.err);
   environment.out.flush();
   return environment.out ? ExitCode::Done : ExitCode::BadFile;
+}
+
+/// A reader that has gone says so by a signal.
+ExitCode OutputLost(CommandContext& context) {
+  if (context.Interrupted())
+    return context.console.Fail(ExitCode::Interrupted, "interrupted: nobody reads the output");
+  return context.console.Fail(ExitCode::BadFile, "cannot write the output");
+}
+
+/// Takes the access code from where the options or the environment have it, out of the list of
+/// processes.
+ExitCode TakeCode(const Environment& environment, GlobalOptions& options) {
+  FileResult read;
+  std::string from = options.codeFile;
+  if (!options.codeFile.empty()) {
+    read = environment.platform.files.ReadInto(options.codeFile, options.code);
+  } else if (options.codeDescriptor >= 0) {
+    from = "descriptor " + std::to_string(options.codeDescriptor);
+    read = environment.readDescriptor(options.codeDescriptor, true, options.code);
+  } else {
+    if (options.code.empty()) options.code = environment.code;
+    return ExitCode::Done;
+  }
+  options.code.resize(std::min(options.code.find_first_of("\r\n"), options.code.size()));
+  if (read.Ok() && options.code.empty()) read = {"its first line is empty"};
+  if (read.Ok()) return ExitCode::Done;
+  return Console(environment.out, environment.err, false, options.json)
+      .Fail(ExitCode::BadFile, "no access code from " + from + ": " + read.error);
 }
 
 ExitCode RunChosen(const std::vector<Command>& commands, Environment& environment,
@@ -88,7 +125,7 @@ ExitCode RunChosen(const std::vector<Command>& commands, Environment& environmen
     if (!kept.Ok())
       return context.console.Fail(ExitCode::BadFile,
                                   "cannot write " + options.simState + ": " + kept.error);
-    if (!environment.out) return context.console.Fail(ExitCode::BadFile, "cannot write the output");
+    if (!environment.out && !context.isDone) return OutputLost(context);
     if (context.traceLost)
       return context.console.Fail(ExitCode::BadFile, "cannot write " + options.trace);
     return result;
@@ -111,8 +148,10 @@ ExitCode RunOstrelctl(std::span<const std::string> args, Environment& environmen
   try {
     app.parse(std::vector<std::string>(args.rbegin(), args.rend()));
   } catch (const CLI::ParseError& error) {
-    return TellParserResult(app, error, environment);
+    return TellParserResult(app, error, environment,
+                            std::ranges::find(args, "--json") != args.end());
   }
+  if (const ExitCode given = TakeCode(environment, options); given != ExitCode::Done) return given;
   return RunChosen(commands, environment, options);
 }
 

@@ -10,7 +10,7 @@ constexpr int kBarWidth = 30;
 TransferLine::TransferLine(Console& console, TransferWatch& watch, std::string_view label,
                            bool isShown)
     : console_(console), watch_(watch), label_(label) {
-  if (isShown && !console.Quiet()) watch_.OnStep = [this] { Draw(); };
+  if (isShown && console.MayDraw()) watch_.OnStep = [this] { Draw(); };
 }
 
 TransferLine::~TransferLine() {

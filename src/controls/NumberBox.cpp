@@ -3,21 +3,13 @@
 #include <charconv>
 
 namespace ostrel {
+
+double NumberIn(const TextBox& box) { return NumVal(WithDecimalPoint(box.Text())); }
+
 namespace {
 
-void Paint(TextBox& box, bool valid) {
-  box.face.SetColour(valid ? BackColour::Window : BackColour::Red);
-}
-
-}  // namespace
-
-bool CheckNumberBox(TextBox& box, std::string_view kind) {
-  const bool valid =
-      (kind == "int" && IsIntText(box.Text())) || (kind == "float" && IsFloatText(box.Text()));
-  Paint(box, valid);
-  return valid;
-}
-
+/// "0", which stands for no address, four numbers from 0 to 255 with points between them, or the
+/// empty text of what a logger did not tell.
 bool IsAddressText(std::string_view text) {
   if (text.empty() || text == "0") return true;
   constexpr int kParts = 4;
@@ -31,10 +23,22 @@ bool IsAddressText(std::string_view text) {
   return true;
 }
 
-bool CheckAddressBox(TextBox& box) {
-  const bool valid = IsAddressText(box.Text());
-  Paint(box, valid);
+bool Colour(TextBox& box, std::string_view text, std::string_view kind) {
+  const bool valid = (kind == "int" && IsIntText(text)) || (kind == "float" && IsFloatText(text)) ||
+                     (kind == kAddressKind && IsAddressText(text));
+  box.face.SetColour(valid ? BackColour::Window : BackColour::Red);
   return valid;
+}
+
+}  // namespace
+
+bool TestNumberBox(TextBox& box) {
+  return box.NumberKind().empty() || Colour(box, WithDecimalPoint(box.Text()), box.NumberKind());
+}
+
+bool CheckNumberBox(TextBox& box, std::string_view kind) {
+  box.SetText(WithDecimalPoint(box.Text()));
+  return Colour(box, box.Text(), kind);
 }
 
 }  // namespace ostrel

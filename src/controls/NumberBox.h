@@ -6,15 +6,19 @@
 
 namespace ostrel {
 
-/// Tests the text of a box as "int" or "float" and colours it: window background when it is a
-/// number, pure red otherwise. Any other kind counts as invalid. The result tells which.
+/// The kind of a box for an address of four parts with points between them, or "0" for none.
+inline constexpr std::string_view kAddressKind = "address";
+
+/// The number that a box stands for. A comma as its only separator is the decimal sign.
+double NumberIn(const TextBox& box);
+
+/// Tests the text of a box as `CheckNumberBox` does, and colours it; the text stays as it is. A box
+/// for a text is always right.
+bool TestNumberBox(TextBox& box);
+
+/// Puts a decimal comma right into a point. Then tests the text of a box as "int", "float" or
+/// "address" and colours it: window background when it is a number, pure red otherwise. Any other
+/// kind counts as invalid. The result tells which.
 bool CheckNumberBox(TextBox& box, std::string_view kind);
-
-/// True for "0", which stands for no address, for four numbers from 0 to 255 with points between
-/// them, and for the empty text of what a logger did not tell.
-bool IsAddressText(std::string_view text);
-
-/// Tests the text of an address box, and colours it as `CheckNumberBox` does.
-bool CheckAddressBox(TextBox& box);
 
 }  // namespace ostrel

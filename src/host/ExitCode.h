@@ -10,6 +10,7 @@ enum class ExitCode {
   NoSession = 3,       ///< port, modem or handshake
   DialogueFailed = 4,  ///< a dialogue failed or was interrupted
   BadFile = 5,         ///< a file was refused, or cannot be read or written
+  Interrupted = 130,   ///< interrupted while no dialogue was under way
 };
 
 }  // namespace ostrel

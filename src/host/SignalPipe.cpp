@@ -12,14 +12,23 @@
 namespace ostrel {
 namespace {
 
+constexpr std::array kSignals{SIGINT, SIGTERM, SIGHUP, SIGQUIT, SIGPIPE};
+
 std::array<int, 2> pipeEnds{-1, -1};
+volatile std::sig_atomic_t hasCome = 0;
 
 extern "C" void OnSignal(int) {
   const int kept = errno;
+  hasCome = 1;
   const char octet = 's';
   // A full pipe already says that there was a signal.
   [[maybe_unused]] const auto written = write(pipeEnds[1], &octet, 1);
   errno = kept;
+}
+
+bool IsIgnored(int signal) {
+  struct sigaction present {};
+  return sigaction(signal, nullptr, &present) == 0 && present.sa_handler == SIG_IGN;
 }
 
 void SetHandler(void (*handler)(int)) {
@@ -27,12 +36,14 @@ void SetHandler(void (*handler)(int)) {
   action.sa_handler = handler;
   sigemptyset(&action.sa_mask);
   // Without SA_RESTART: a question on the terminal must end, too.
-  for (const int signal : {SIGINT, SIGTERM}) sigaction(signal, &action, nullptr);
+  for (const int signal : kSignals)
+    if (!IsIgnored(signal)) sigaction(signal, &action, nullptr);
 }
 
 }  // namespace
 
 SignalPipe::SignalPipe(QtEventLoop& loop, std::function<void()> onSignal) {
+  hasCome = 0;
   if (pipe2(pipeEnds.data(), O_NONBLOCK | O_CLOEXEC) != 0)
     throw std::system_error(errno, std::generic_category(), "pipe");
   notifier_ = std::make_unique<QSocketNotifier>(pipeEnds[0], QSocketNotifier::Read);
@@ -49,6 +60,8 @@ SignalPipe::~SignalPipe() {
   notifier_.reset();
   for (int& end : pipeEnds) close(std::exchange(end, -1));
 }
+
+bool SignalPipe::HasCome() { return hasCome != 0; }
 
 void SignalPipe::Drain() const {
   std::array<char, 64> octets{};

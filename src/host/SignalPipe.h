@@ -8,14 +8,20 @@
 
 namespace ostrel {
 
-/// Brings SIGINT and SIGTERM to the event loop, where it is safe to act on them. One of them may
-/// exist at a time. A read from the terminal that is under way ends when a signal comes.
+/// Brings the signals that end a program (from the keyboard, by `kill`, by a terminal that goes, by
+/// a reader of the output that goes) to the event loop, where it is safe to act on them. One of
+/// them may exist at a time. A read from the terminal that is under way ends when a signal comes.
+///
+/// What the program was started to ignore, as `nohup` does it, stays ignored.
 class SignalPipe {
  public:
   SignalPipe(QtEventLoop& loop, std::function<void()> onSignal);
   ~SignalPipe();
   SignalPipe(const SignalPipe&) = delete;
   SignalPipe& operator=(const SignalPipe&) = delete;
+
+  /// Whether a signal has come, be it that the loop has not got to it yet.
+  static bool HasCome();
 
  private:
   void Drain() const;

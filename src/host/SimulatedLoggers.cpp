@@ -4,6 +4,14 @@
 
 namespace ostrel {
 
+FileResult TakeState(Files& files, sim::Logger& logger, const std::string& path) {
+  std::string text;
+  const FileResult read = files.ReadInto(path, text);
+  if (!read.Ok()) return files.Exists(path) ? read : FileResult{};
+  std::string error;
+  return logger.LoadState(text, error) ? FileResult{} : FileResult{error};
+}
+
 SimulatedLoggers::SimulatedLoggers(EventLoop& loop, const Clock& clock,
                                    const MakeOptions& makeOptions)
     : port_(loop) {
@@ -36,18 +44,15 @@ std::string SimulatedLoggers::ModelAt(int number) const {
   return {};
 }
 
-bool SimulatedLoggers::UseStateFile(Files& files, std::string_view model, const std::string& path) {
+FileResult SimulatedLoggers::UseStateFile(Files& files, std::string_view model,
+                                          const std::string& path) {
   const std::int16_t number = NumberOf(model);
-  if (number == 0) return false;
-  kept_ = loggers_[static_cast<std::size_t>(number - kFirstSimulatedPort)];
-  std::string error;
-  const auto text = files.Read(path);
-  if (text && !kept_->LoadState(*text, error)) {
-    kept_ = nullptr;
-    return false;
-  }
+  if (number == 0) return {"there is no such model"};
+  sim::Logger* logger = loggers_[static_cast<std::size_t>(number - kFirstSimulatedPort)];
+  if (FileResult taken = TakeState(files, *logger, path); !taken.Ok()) return taken;
+  kept_ = logger;
   statePath_ = path;
-  return true;
+  return {};
 }
 
 FileResult SimulatedLoggers::SaveState(Files& files) {

@@ -15,6 +15,10 @@ namespace ostrel {
 /// Number of the first simulated logger; the others follow in the order of `sim::kModels`.
 inline constexpr int kFirstSimulatedPort = 251;
 
+/// Lets a simulated logger take its state from a file; where nothing stands it stays as it is. A
+/// file that cannot be read, or holds no state of its model, is a failure: it must not be replaced.
+FileResult TakeState(Files& files, sim::Logger& logger, const std::string& path);
+
 /// Six simulated loggers in this process, one of each model, each on a port of its own.
 class SimulatedLoggers {
  public:
@@ -34,8 +38,9 @@ class SimulatedLoggers {
   std::string ModelAt(int number) const;
 
   /// Keeps the logger of a model in a file: takes it from there if the file stands, and writes it
-  /// there with `SaveState`. False when the file holds none.
-  bool UseStateFile(Files& files, std::string_view model, const std::string& path);
+  /// there with `SaveState`. Fails when the file holds none or cannot be read, and leaves it alone
+  /// then.
+  FileResult UseStateFile(Files& files, std::string_view model, const std::string& path);
   FileResult SaveState(Files& files);
 
  private:

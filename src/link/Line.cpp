@@ -38,7 +38,8 @@ LinkFault Line::FaultNow(LinkFault::Kind kind, int number, std::string text) con
 
 LinkFault Line::WaitFault(int number) const {
   if (loop_.Now() >= limit_) return FaultNow(LinkFault::Kind::OutOfTime, number);
-  return FaultNow(damaged_ ? LinkFault::Kind::BadChecksum : LinkFault::Kind::Silence, number);
+  if (!damaged_) return FaultNow(LinkFault::Kind::Silence, number);
+  return FaultNow(tooLong_ ? LinkFault::Kind::LineTooLong : LinkFault::Kind::BadChecksum, number);
 }
 
 PortFault Line::Open(int number) {

@@ -137,6 +137,7 @@ class Line {
   std::uint64_t lostTold_ = 0;             ///< lost octets that the trace has been told of
   std::optional<TimePoint> awaitedSince_;  ///< last sign of the logger; none while none is due
   bool damaged_ = false;     ///< a bad frame has come since the last message or good frame
+  bool tooLong_ = false;     ///< the bad frame was longer than any line
   bool unsendable_ = false;  ///< a message of the dialogue could not be sent, which ends it
   bool heldOut_ = false;     ///< flow control has held the line for so long that the dialogue ends
   bool torn_ = false;        ///< the last message may have left in part, without its end

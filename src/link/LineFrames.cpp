@@ -45,6 +45,7 @@ bool Line::RxSer(int timeout) {
   RxLine.clear();
   if (line.tooLong || (line.complete && !ChecksumOk(line.text))) {
     damaged_ = true;
+    tooLong_ = line.tooLong;
     Note("RxSer Checksum error!");
     return false;
   }

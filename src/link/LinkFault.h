@@ -31,6 +31,7 @@ struct LinkFault {
     LineHeld,         ///< flow control held the line for too long; `number` as for Silence
     LineLost,         ///< the port's device has gone
     PortClosed,       ///< the port was closed in the middle
+    LineTooLong,      ///< a line without an end arrived; `number` as for Silence
   } kind = Kind::None;
   int number = 0;
   std::string text{};

@@ -1,8 +1,7 @@
 #include "link/NumberedStatements.h"
 
-#include "link/LinkTimes.h"
+#include "link/UploadPlan.h"
 #include "link/WireText.h"
-#include "model/Features.h"
 
 namespace ostrel {
 namespace {
@@ -18,7 +17,7 @@ LinkFault NumberedStatements::Send(std::string_view statement) {
   if (left_) left_();
   if (!hasLeft) return line_.WaitFault(number);
   line_.ExpectAnswer(true);  // none was due before this window
-  line_.RxSer(Has(info_.Features, Feature::FastRefusal) ? kFastRefusalMs : kRefusalMs);
+  line_.RxSer(RefusalWindowMs(info_.Features));
   if (!line_.GoesOn()) return line_.WaitFault(number);
   if (line_.RxLine.find(kStatementRefused) == std::string::npos) return {};
   return line_.FaultNow(LinkFault::Kind::Refused, number, std::string(statement));

@@ -34,20 +34,20 @@ void Describe(R& r, Visit&& visit) {
   visit(FieldMeta{"APN_SERVER", "APN"}, apnServer);
   visit(SecretMeta("APN_PASS", "APN password"), apnPass);
   visit(FieldMeta{"APN_USER", "APN user"}, apnUser);
-  visit(FieldMeta{"APN_RETRIES", "connection attempts"}, apnRetries);
-  visit(FieldMeta{"APN_RETIME", "seconds between attempts"}, apnRetime);
-  visit(FieldMeta{"APN_TIMEOUT", "disconnection timeout in seconds"}, apnTimeout);
+  visit(NumberMeta("APN_RETRIES", "connection attempts", "", {.least = 0}), apnRetries);
+  visit(NumberMeta("APN_RETIME", "time between attempts", "s", {.least = 0}), apnRetime);
+  visit(NumberMeta("APN_TIMEOUT", "disconnection timeout", "s", {.least = 0}), apnTimeout);
   visit(FieldMeta{"SERVER_IP", "server address"}, serverIp);
-  visit(FieldMeta{"SERVER_PORT", "server port"}, serverPort);
-  visit(FieldMeta{"SERVER_TIMEOUT", "server timeout in seconds"}, serverTimeout);
+  visit(NumberMeta("SERVER_PORT", "server port", "", {.least = 0, .most = 65'535}), serverPort);
+  visit(NumberMeta("SERVER_TIMEOUT", "server timeout", "s", {.least = 0}), serverTimeout);
   visit(FieldMeta{"ALWAYS_CON", "connection kept up"}, alwaysCon);
   visit(FieldMeta{"ENABLED", "GPRS enabled"}, enabled);
   visit(FieldMeta{"FTP_IP", "FTP server address"}, ftpIp);
   visit(FieldMeta{"FTP_PATH", "FTP path"}, ftpPath);
   visit(FieldMeta{"FTP_USER", "FTP user"}, ftpUser);
   visit(SecretMeta("FTP_PASS", "FTP password"), ftpPass);
-  visit(FieldMeta{"FTP_RETRIES", "FTP attempts"}, ftpRetries);
-  visit(FieldMeta{"FTP_RETIME", "seconds between FTP attempts"}, ftpRetime);
+  visit(NumberMeta("FTP_RETRIES", "FTP attempts", "", {.least = 0}), ftpRetries);
+  visit(NumberMeta("FTP_RETIME", "time between FTP attempts", "s", {.least = 0}), ftpRetime);
 }
 
 }  // namespace ostrel

@@ -79,7 +79,6 @@ void VoiceListControls::LoadText() {
   PNMacro.Add(context_.Translate("No"), kNoVoiceMacro);
   for (int macro = 0; macro < kVoiceMacros; ++macro) PNMacro.Add(NumText(macro), macro);
   PNMacro.SetPosition(position);
-  notice_.LoadText();
 }
 
 void VoiceListControls::LoadData() {

@@ -64,7 +64,7 @@ GprsControls::GprsControls(Form& form, PageContext& context)
   bindNumber(TextTimeout, &ConfGprs::SERVER_TIMEOUT);
   bindNumber(TextFTPRetry, &ConfGprs::FTP_RETRIES);
   bindNumber(TextFTPRetryTime, &ConfGprs::FTP_RETIME);
-  for (TextBox* box : {&IPInputBox, &IPInputBox1}) box->SetTakes(TextBox::Kind::Address);
+  for (TextBox* box : {&IPInputBox, &IPInputBox1}) box->SetNumberKind(kAddressKind);
   CheckMostrar.OnClick = [this] {
     for (TextBox* box : {&TextAPNPassword, &TextFTPPass}) box->SetHidden(!CheckMostrar.Checked());
   };
@@ -73,7 +73,7 @@ GprsControls::GprsControls(Form& form, PageContext& context)
 
 void GprsControls::CheckNumbers() {
   fields_.CheckNumbers();
-  for (TextBox* box : {&IPInputBox, &IPInputBox1}) CheckAddressBox(*box);
+  for (TextBox* box : {&IPInputBox, &IPInputBox1}) CheckNumberBox(*box, kAddressKind);
 }
 
 }  // namespace ostrel

@@ -66,7 +66,6 @@ General::General(PageContext& context)
 
 void General::LoadText() {
   form_.TranslateCaptions([this](std::string_view key) { return context_.Translate(key); });
-  notice_.LoadText();
 }
 
 void General::Form_Load() {

@@ -1,32 +1,50 @@
 #include "platform/Files.h"
 
+#include <functional>
+
 namespace ostrel {
 namespace {
 
-constexpr int kTemporaryNames = 100;
-
-/// Makes the first free one of the names beside `target`.
-FileResult CreateBeside(Files& files, const std::string& target, std::string& temporary) {
-  for (int i = 0; i < kTemporaryNames; ++i) {
-    temporary = target + ".new" + std::to_string(i);
-    if (files.Exists(temporary)) continue;
-    return files.Create(temporary);
-  }
-  return {"too many temporary files beside it"};
+/// Makes a temporary file with a content, and hands it to `finish`, which moves it to its place.
+/// `setMode` sets its permissions while it is still empty.
+FileResult ByTemporary(Files& files, const std::string& temporary, std::string_view octets,
+                       const std::function<FileResult()>& setMode,
+                       const std::function<FileResult()>& finish) {
+  FileResult result = files.Create(temporary);
+  if (!result.Ok()) return result;
+  result = setMode();
+  if (result.Ok()) result = files.Write(temporary, octets);
+  if (result.Ok()) result = files.Sync(temporary);
+  if (result.Ok()) result = finish();
+  if (!result.Ok()) files.Remove(temporary);
+  return result;
 }
 
 }  // namespace
 
-FileResult SaveWhole(Files& files, const std::string& path, std::string_view octets) {
+std::optional<std::string> Files::Read(const std::string& path) {
+  std::string octets;
+  if (!ReadInto(path, octets).Ok()) return std::nullopt;
+  return octets;
+}
+
+FileResult SaveWhole(Files& files, const std::string& path, std::string_view octets,
+                     Replacing replacing) {
+  if (replacing == Replacing::Unprotected)
+    if (FileResult may = files.MayReplace(path); !may.Ok()) return may;
   const std::string target = files.Resolve(path);
-  std::string temporary;
-  FileResult result = CreateBeside(files, target, temporary);
-  if (!result.Ok()) return result;
-  result = files.Write(temporary, octets);
-  if (result.Ok()) result = files.Sync(temporary);
-  if (result.Ok()) result = files.Rename(temporary, target);
-  if (!result.Ok()) files.Remove(temporary);
-  return result;
+  const std::string temporary = files.TemporaryBeside(target);
+  return ByTemporary(
+      files, temporary, octets,
+      [&] { return files.Exists(target) ? files.CopyMode(target, temporary) : FileResult{}; },
+      [&] { return files.Rename(temporary, target); });
+}
+
+FileResult SaveNew(Files& files, const std::string& path, std::string_view octets) {
+  const std::string temporary = files.TemporaryBeside(path);
+  return ByTemporary(
+      files, temporary, octets, [&] { return files.Protect(temporary); },
+      [&] { return files.MoveToNew(temporary, path); });
 }
 
 }  // namespace ostrel

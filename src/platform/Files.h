@@ -1,8 +1,10 @@
 #pragma once
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace ostrel {
 
@@ -10,36 +12,67 @@ namespace ostrel {
 /// without the path.
 struct FileResult {
   std::string error;
+  bool stands = false;  ///< failed because something stands at a name that was to be new
 
   bool Ok() const { return error.empty(); }
 };
+
+/// Most octets of a file that is read. No file of this program comes near it: a larger one was
+/// named by mistake.
+inline constexpr std::size_t kMostFileOctets = 16U * 1024U * 1024U;
 
 /// The file system as the few steps that reading and safe saving need; injected so that each step
 /// can be made to fail. Paths are UTF-8, contents are octets.
 class Files {
  public:
   virtual ~Files() = default;
+  /// Brings the whole content into a text, which is empty after a failure. What is no regular file
+  /// is not read, nor what is larger than `kMostFileOctets`.
+  virtual FileResult ReadInto(const std::string& path, std::string& octets) = 0;
   /// The whole content, or nothing when the file cannot be read.
-  virtual std::optional<std::string> Read(const std::string& path) = 0;
+  std::optional<std::string> Read(const std::string& path);
   virtual bool Exists(const std::string& path) = 0;
+  /// Names of the regular files of a folder, in the order of their octets; none where it cannot be
+  /// read.
+  virtual std::vector<std::string> List(const std::string& folder) = 0;
   /// Where a path leads through symbolic links; the path itself where it is no link.
   virtual std::string Resolve(const std::string& path) = 0;
+  /// Why a file should not be replaced without a question: it is read-only, or a link that leads in
+  /// a circle. Success where nothing stands.
+  virtual FileResult MayReplace(const std::string& path) = 0;
+  /// A name beside a file for its next content, which no other running program uses. What killed
+  /// programs have left under such names is removed.
+  virtual std::string TemporaryBeside(const std::string& path) = 0;
   /// Makes a new empty file, with the permissions that any new file gets; fails if it exists.
   virtual FileResult Create(const std::string& path) = 0;
+  /// Gives a file the permissions, and as far as possible the owner, of another one.
+  virtual FileResult CopyMode(const std::string& from, const std::string& to) = 0;
+  /// Makes a file or a folder accessible to its owner alone.
+  virtual FileResult Protect(const std::string& path) = 0;
   /// Replaces the content of an existing file.
   virtual FileResult Write(const std::string& path, std::string_view octets) = 0;
   /// Brings the content to the disk itself.
   virtual FileResult Sync(const std::string& path) = 0;
   /// Moves a file over another in one step.
   virtual FileResult Rename(const std::string& from, const std::string& to) = 0;
+  /// Moves a file to a name at which nothing stands, in one step.
+  virtual FileResult MoveToNew(const std::string& from, const std::string& to) = 0;
   virtual FileResult Remove(const std::string& path) = 0;
   /// Makes a folder and its parents; one that stands is success.
   virtual FileResult MakeFolder(const std::string& path) = 0;
 };
 
+/// Whether a file may be replaced that `Files::MayReplace` speaks against.
+enum class Replacing { Unprotected, Any };
+
 /// Saves so that after any failure the old or the new file stands whole: writes a temporary file
-/// beside the target, syncs it and renames it over. Follows a symbolic link at the target.
-/// After a failure no temporary file is left where removing it works.
-FileResult SaveWhole(Files& files, const std::string& path, std::string_view octets);
+/// beside the target, syncs it and renames it over. Follows a symbolic link at the target, and
+/// keeps the permissions of what it replaces. After a failure no temporary file is left where
+/// removing it works.
+FileResult SaveWhole(Files& files, const std::string& path, std::string_view octets,
+                     Replacing replacing = Replacing::Unprotected);
+
+/// Saves likewise at a name at which nothing may stand, readable by the owner alone.
+FileResult SaveNew(Files& files, const std::string& path, std::string_view octets);
 
 }  // namespace ostrel

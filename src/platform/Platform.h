@@ -24,6 +24,10 @@ struct Platform {
   Platform With(Dialogs& others) const {
     return {loop, port, settings, others, files, processes, clock};
   }
+  /// The same world with other files.
+  Platform With(Files& other) const {
+    return {loop, port, settings, dialogs, other, processes, clock};
+  }
   /// The same world with other ports.
   Platform With(SerialPort& other) const {
     return {loop, other, settings, dialogs, files, processes, clock};

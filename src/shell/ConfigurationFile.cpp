@@ -4,7 +4,6 @@
 #include <utility>
 
 #include "blocks/Configuration.h"
-#include "store/IniClass.h"
 #include "store/IniTool.h"
 
 namespace ostrel {
@@ -51,13 +50,6 @@ std::optional<ModelConfiguration> ReadConfiguration(Files& files, const std::str
                          return tool.ProfileRead(section, key, path);
                        });
   return read;
-}
-
-FileResult WriteConfiguration(Files& files, const std::string& path, const DeviceConf& conf,
-                              const TargetProfile& profile) {
-  IniClass document(files);
-  SaveConfiguration(conf, profile, document);
-  return document.SaveINI(path);
 }
 
 }  // namespace ostrel

@@ -27,8 +27,4 @@ std::optional<ModelConfiguration> ReadConfiguration(Files& files, const std::str
                                                     const TargetProfile& present,
                                                     const Translation& translate);
 
-/// Writes a configuration to a path, whole or not at all.
-FileResult WriteConfiguration(Files& files, const std::string& path, const DeviceConf& conf,
-                              const TargetProfile& profile);
-
 }  // namespace ostrel

@@ -110,7 +110,7 @@ void Configurator::ConnectPages() {
       dialog.ShowModal();
     };
   };
-  context.showActEdit = [this] { actEdit.ShowModal(); };
+  context.showActEdit = [this](std::string_view subject) { actEdit.ShowModal(subject); };
   context.showTotal = setsTotal(setTotal);
   context.showExpansionTotal = setsTotal(expSetTotal);
   context.showPulseCalculator = [this](TextBox& field) { ayuda.ShowModal(field); };

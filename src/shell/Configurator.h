@@ -72,7 +72,7 @@ class Configurator {
 
   // Files. Both work on `ConfFilePath`.
   /// Writes the configuration. The result is for those who show it: callers need not look.
-  FileResult SaveConf();
+  FileResult SaveConf(Replacing replacing = Replacing::Unprotected);
   /// Reads the configuration, after changing the model where the file is of another one.
   RestoreResult RestoreConf();
   /// Opens a file that the operator has chosen: restores it and brings the general page up to it.
@@ -85,6 +85,9 @@ class Configurator {
   /// Asks whether a file may be saved over that holds what this program does not write. True when
   /// nothing of it would be lost. Set by a face; without one nobody is asked.
   std::function<bool(const std::string& path, const std::vector<std::string>& lost)> OnForeignKeys;
+  /// Asks whether a file may be replaced that is protected, which `why` tells: "it is read-only".
+  /// Set by a face; without one it is not replaced.
+  std::function<bool(const std::string& path, const std::string& why)> OnProtected;
 
   /// Puts a configuration in place of the present one and shows it on all pages.
   void ShowConfiguration(const DeviceConf& shown);

@@ -29,14 +29,14 @@ class Hourglass {
 
 }  // namespace
 
-FileResult Configurator::SaveConf() {
+FileResult Configurator::SaveConf(Replacing replacing) {
   const Hourglass hourglass(general.GetForm());
   IniClass document(platform_.files);
   document.NewINI();
   document.WriteKey(kStampSection, kStampKey, profile.TargetType);
   for (const FileTurn& turn : kFileOrder)
     if (Page* page = PageOf(turn.page); page && turn.takesPart(profile)) page->SaveConf(document);
-  FileResult result = document.SaveINI(ConfFilePath);
+  FileResult result = document.SaveINI(ConfFilePath, replacing);
   iniTool.Forget();
   return result;
 }
@@ -100,8 +100,13 @@ std::optional<FileResult> Configurator::AskAndSave() {
     const auto lost = ForeignKeys(platform_.files, *path, profile);
     if (!lost.empty() && !OnForeignKeys(*path, lost)) return {};
   }
+  Replacing replacing = Replacing::Unprotected;
+  if (const FileResult may = platform_.files.MayReplace(*path); !may.Ok() && OnProtected) {
+    if (!OnProtected(*path, may.error)) return {};
+    replacing = Replacing::Any;
+  }
   ConfFilePath = *path;
-  return ConfFilePath.empty() ? FileResult{} : SaveConf();
+  return ConfFilePath.empty() ? FileResult{} : SaveConf(replacing);
 }
 
 }  // namespace ostrel

@@ -101,6 +101,11 @@ FaultWords LinkWords(const SessionFault& fault, const std::string& port) {
               {"check that the logger is switched on and that the cable has RTS and CTS"}};
     case Kind::LineLost:
       return {{"%1 has gone in the middle of the dialogue", {port}}, {kPlugIn}};
+    case Kind::LineTooLong:
+      return {AtPlace(fault, "a line arrived that is longer than any of a logger",
+                      "record %1 is longer than any line of a logger",
+                      "the answer to statement %1 is longer than any line of a logger"),
+              {"check that a logger is what is connected"}};
     case Kind::PortClosed:
       return {{"%1 was closed in the middle of the dialogue", {port}}};
   }
@@ -136,21 +141,6 @@ FaultWords WordsOf(const SessionFault& occurred, std::string_view port) {
   if (fault.during == SessionPhase::Reading)
     words.pages = {"the pages show again what was there before the reading"};
   return words;
-}
-
-std::string Filled(std::string_view text, const std::vector<std::string>& arguments) {
-  std::string filled;
-  for (std::size_t i = 0; i < text.size(); ++i) {
-    const char next = i + 1 < text.size() ? text[i + 1] : '\0';
-    const auto place = static_cast<std::size_t>(next - '1');
-    if (text[i] == '%' && next >= '1' && place < arguments.size()) {
-      filled += arguments[place];
-      ++i;
-    } else {
-      filled += text[i];
-    }
-  }
-  return filled;
 }
 
 }  // namespace ostrel

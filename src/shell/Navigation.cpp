@@ -102,6 +102,25 @@ std::optional<NodeTarget> FindNodeTarget(std::string_view key, const TargetProfi
   return FindByModel(key, model);
 }
 
+std::string NodeOf(PageId page, int channel) {
+  for (const PlainRow& row : kPlain)
+    if (row.target.form == FormId(page)) return std::string(row.key);
+  for (const auto& [stem, form, last] : kNumbered)
+    if (form == page && channel >= 0 && channel <= last)
+      return std::string(stem) + std::to_string(channel);
+  for (const auto& [stem, form] : kTimerPages)
+    for (const auto& [end, first] : kTimerBlocks)
+      if (form == page && channel >= first && channel < first + 4)
+        return std::string(stem) + std::string(end);
+  return {};
+}
+
+std::optional<PageId> PageOfGroup(std::string_view key) {
+  for (const auto& [stem, page, last] : kNumbered)
+    if (stem == std::string(key) + "_" || (key == "Flags" && page == PageId::Flags)) return page;
+  return {};
+}
+
 Navigation::Navigation(Configurator& configurator, std::span<const FormId> staysOpen)
     : configurator_(configurator), staysOpen_(staysOpen) {
   configurator_.OnTargetChanged = [this] {

@@ -2,7 +2,9 @@
 
 #include <algorithm>
 
-#include "shell/ConfigurationFile.h"
+#include "base/CodePage.h"
+#include "blocks/Configuration.h"
+#include "store/IniClass.h"
 
 namespace ostrel {
 namespace {
@@ -30,11 +32,20 @@ std::string StampOf(const DateTime& time) {
 
 SafetyCopies::Kept SafetyCopies::Keep(const DeviceConf& held, const TargetProfile& profile,
                                       std::string_view serialNumber) {
-  if (const FileResult made = files_.MakeFolder(folder_); !made.Ok()) return {made, folder_};
+  FileResult made = files_.MakeFolder(folder_);
+  if (made.Ok()) made = files_.Protect(folder_);
+  if (!made.Ok()) return {made, folder_};
+  IniClass document(files_);
+  SaveConfiguration(held, profile, document);
+  const std::string octets = ToCodePage(document.OutputINI());
   const std::string name = folder_ + "/" + NameOf(serialNumber) + "-" + StampOf(clock_.LocalNow());
-  std::string path = name + ".ocf";
-  for (int next = 2; files_.Exists(path); ++next) path = name + "-" + std::to_string(next) + ".ocf";
-  return {WriteConfiguration(files_, path, held, profile), path};
+  Kept kept{.result = {}, .path = name + ".ocf"};
+  kept.result = SaveNew(files_, kept.path, octets);
+  for (int next = 2; kept.result.stands; ++next) {
+    kept.path = name + "-" + std::to_string(next) + ".ocf";
+    kept.result = SaveNew(files_, kept.path, octets);
+  }
+  return kept;
 }
 
 }  // namespace ostrel

@@ -11,7 +11,8 @@
 namespace ostrel {
 
 /// The folder of the configurations that loggers were known to hold, named by serial number and
-/// time: "Q1234567-20260302-090507.ocf".
+/// time: "Q1234567-20260302-090507.ocf". Folder and copies are for their owner alone: passwords
+/// and telephones stand in them.
 class SafetyCopies {
  public:
   /// What keeping a copy came to, and where it stands.
@@ -24,7 +25,7 @@ class SafetyCopies {
       : files_(files), clock_(clock), folder_(dataFolder + "/backups") {}
 
   /// Keeps a configuration as what the logger of a serial number holds. A copy that stands is never
-  /// overwritten.
+  /// overwritten, whoever makes one at the same moment.
   Kept Keep(const DeviceConf& held, const TargetProfile& profile, std::string_view serialNumber);
   const std::string& Folder() const { return folder_; }
 

@@ -8,6 +8,12 @@
 
 namespace ostrel::sim {
 
+namespace {
+
+constexpr std::size_t kMostRequestOctets = 1'048'576;
+
+}  // namespace
+
 LoggerOptions MakeDefaultOptions(Model model) {
   const ModelTraits& traits = TraitsOf(model);
   LoggerOptions options;
@@ -64,7 +70,12 @@ void Logger::Receive(std::string_view octets) {
 }
 
 void Logger::TakeOctets(std::string_view octets) {
-  while (auto request = reader_.Take(octets)) requests_.push_back(std::move(*request));
+  while (auto request = reader_.Take(octets)) {
+    // A flood is lost beyond what the memory of a logger would hold many times over.
+    if (requestOctets_ + request->size() > kMostRequestOctets) continue;
+    requestOctets_ += request->size();
+    requests_.push_back(std::move(*request));
+  }
   AwaitAnswer();
 }
 
@@ -74,6 +85,7 @@ void Logger::AwaitAnswer() {
     answer_ = 0;
     const std::string request = std::move(requests_.front());
     requests_.pop_front();
+    requestOctets_ -= request.size();
     Answer(request);
     AwaitAnswer();
   });
@@ -120,6 +132,7 @@ void Logger::SetTerminalReady(bool ready) {
 void Logger::ForgetLine() {
   reader_.Reset();
   requests_.clear();
+  requestOctets_ = 0;
   loop_.Cancel(std::exchange(answer_, 0));
   sender_.Clear();
 }

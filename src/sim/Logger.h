@@ -130,6 +130,7 @@ class Logger final : public LineDevice {
   std::unique_ptr<Modem> modem_;
   FrameReader reader_;
   std::deque<std::string> requests_;  ///< received, not answered yet
+  std::size_t requestOctets_ = 0;     ///< in these
   TimerId answer_ = 0;
   bool admitted_ = true;  ///< false in a data call until the access code was right
 

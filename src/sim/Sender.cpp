@@ -1,5 +1,6 @@
 #include "sim/Sender.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "sim/Frame.h"
@@ -30,6 +31,8 @@ void Sender::Put(std::string_view octets) {
 }
 
 void Sender::Frame(std::string_view message, Duration tear) {
+  if (waiting_ > kMostWaiting) return;
+  waiting_ += message.size();
   if (plan_.Empty()) return AppendFrame(Last().octets, message);
   std::string frame = ComposeFrame(message);
   if (plan_.Count(FaultKind::BadChecksum)) frame[2] = frame[2] == '0' ? '1' : '0';
@@ -59,6 +62,8 @@ void Sender::Flush() {
     }
     const Piece piece = std::move(next);
     pieces_.pop_front();
+    waiting_ -= std::min(waiting_, piece.octets.size());
+    if (pieces_.empty()) waiting_ = 0;
     if (!piece.octets.empty()) line_.Send(piece.octets);
     if (piece.end == End::CarrierDrop) onCarrierDrop_();
     if (piece.end == End::Vanish) {
@@ -71,6 +76,7 @@ void Sender::Flush() {
 void Sender::Clear() {
   loop_.Cancel(std::exchange(wait_, 0));
   pieces_.clear();
+  waiting_ = 0;
 }
 
 }  // namespace ostrel::sim

@@ -21,6 +21,7 @@ class Sender {
   Sender& operator=(const Sender&) = delete;
 
   /// Queues a message as a frame; with a `tear`, its second half that much later than its first.
+  /// Where very much waits already it is lost.
   void Frame(std::string_view message, Duration tear = {});
   /// What is queued behind this leaves that much later.
   void Wait(Duration wait) { pieces_.push_back({wait, {}, End::None}); }
@@ -37,6 +38,8 @@ class Sender {
     End end = End::None;
   };
 
+  static constexpr std::size_t kMostWaiting = 4'194'304;
+
   Piece& Last();
   void Put(std::string_view octets);
 
@@ -45,6 +48,7 @@ class Sender {
   FaultPlan& plan_;
   std::function<void()> onCarrierDrop_;
   std::deque<Piece> pieces_;
+  std::size_t waiting_ = 0;  ///< octets in these
   TimerId wait_ = 0;
   bool gone_ = false;
 };

@@ -38,9 +38,14 @@ TEST_F(ReportBlocks, TheFirst40PlacesAreSentAsTheyStand) {
   conf.Macro.LINE[40] = "beyond";
   EXPECT_THAT(Statements(PageId::Macros),
               ElementsAre("CLEARMACRO", "MACRO1={S0=1,NAME=Paro}", "last"));
-  const DeviceConf held = AsHeld(conf, {profile, 0});
-  EXPECT_EQ(held.Macro.LINE[0] + held.Macro.LINE[1], conf.Macro.LINE[3] + "last");
-  EXPECT_EQ(held.Macro.LINE[39] + held.Macro.LINE[40], "beyond");
+  DeviceConf read = conf;
+  read.Macro = {};
+  for (const int place : {3, 39}) {
+    read.Macro.LINE[place == 3 ? 0 : 1] = conf.Macro.LINE[place];
+    const DeviceConf asSent = ReadAsSent(read, conf, {profile, 0});
+    EXPECT_EQ(asSent.Macro.LINE[3] == conf.Macro.LINE[3], place == 39) << "all of it, or as it is";
+    EXPECT_EQ(asSent.Macro.LINE[40], "") << "what was not sent has not come back";
+  }
   const std::string file = FileText(PageId::Macros);
   EXPECT_TRUE(file.starts_with("[MACROS]\r\nLINE( 0)=\r\n")) << file;
   EXPECT_TRUE(file.ends_with("\r\nLINE( 55)=")) << file;

@@ -110,8 +110,35 @@ TEST_F(EndToEnd, ConfigurationGoesRoundOverAPseudoTerminal) {
   EXPECT_EQ(Run("ostrelctl", "diff port " + Path("a.ocf") + port), 1);
   EXPECT_EQ(std::distance(fs::directory_iterator(folder_ / "data/ostrel-configurator/backups"), {}),
             1);
-  EXPECT_EQ(simulator.Stop(SIGTERM), 0);
-  EXPECT_THAT(Read("state"), HasSubstr("Depósito de la prueba")) << "the state is kept";
+  EXPECT_EQ(simulator.Stop(SIGKILL), -1);
+  EXPECT_THAT(Read("state"), HasSubstr("Depósito de la prueba")) << "kept whatever ends it";
+}
+
+TEST_F(EndToEnd, AStateThatCannotBeReadIsNotReplaced) {
+  const std::string state = "ostrel-sim-state=1\ncut off";
+  std::ofstream(Path("state")) << state;
+  EXPECT_EQ(Run("ostrel-sim", "--state " + Path("state")), 5);
+  EXPECT_EQ(Read("state"), state);
+  EXPECT_EQ(Run("ostrelctl", "info --port sim:VR200 --sim-state " + Path("state")), 5);
+  EXPECT_EQ(Read("state"), state);
+}
+
+/// Words that nobody reads do not undo a writing, nor pass for one.
+TEST_F(EndToEnd, AVerifiedUploadIsDoneWhoeverReadsItsWords) {
+  ASSERT_EQ(Run("ostrelctl", "download --port sim:BQ " + Path("a.ocf")), 0) << Read("err");
+  const std::string program = (Programs() / "ostrelctl").string();
+  const std::string file = " " + Path("a.ocf");
+  const auto closed = [&](const std::string& words) {
+    const std::string line =
+        "bash -c '" + program + words + " | true; exit ${PIPESTATUS[0]}' 2>" + Path("err");
+    return WEXITSTATUS(std::system(line.c_str()));
+  };
+  EXPECT_EQ(closed(" upload --json --port sim:BQ" + file), 0) << Read("err");
+  EXPECT_EQ(closed(" show --all" + file), 130);
+  EXPECT_THAT(Read("err"), HasSubstr("interrupted: nobody reads the output"));
+  EXPECT_EQ(
+      std::system((program + " upload --json --port sim:BQ" + file + " >/dev/full 2>&1").c_str()),
+      0);
 }
 
 TEST_F(EndToEnd, AnUploadKeepsToTheSpeedOfTheLine) {

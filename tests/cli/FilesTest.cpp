@@ -44,9 +44,12 @@ TEST(Show, TellsOnlyWhatIsSetUnlessToldAll) {
   EXPECT_THAT(world.out, HasSubstr("  HABIL( 1) (alarm 1, enabled): yes\n"));
   EXPECT_THAT(world.out, HasSubstr("\"Puerta\\x1b[31m\"")) << "a terminal gets no control";
   EXPECT_THAT(world.out, HasSubstr("(alarm 1, valid days): Mo Tu We Th Fr\n"));
-  EXPECT_THAT(world.out, HasSubstr("  ACTHI( 1) (alarm 1, actions, high): 5 12\n"));
+  EXPECT_THAT(
+      world.out,
+      HasSubstr(
+          "  ACTHI( 1) (alarm 1, actions, high): 5 - Ejecutar macro 4; 12 - Ejecutar macro 11\n"));
   EXPECT_EQ(world.Run("show /a.ocf --all"), 0);
-  EXPECT_THAT(world.out, HasSubstr("RENVT (minutes between resends): 10\n"));
+  EXPECT_THAT(world.out, HasSubstr("RENVT (time between resends): 10 minutes\n"));
   EXPECT_THAT(world.out, HasSubstr("TLFM 0 (telephone 0): free\n"));
 }
 
@@ -208,7 +211,8 @@ TEST(Check, FindsEachMistakeByItsRule) {
 
 TEST(Check, FindsEachMistakeOfABusByItsRule) {
   const std::string sound =
-      "[General]\r\nVERSION=VR200\r\n[ANALOG 1]\r\nINTERFAZ= 1\r\nHABIL( 2)=True\r\n"
+      "[General]\r\nVERSION=VR200\r\n[ANALOG 1]\r\nINTERFAZ= 1\r\nFE= 20\r\nEqFE= 6\r\nHABIL( "
+      "2)=True\r\n"
       "SIEMPRE( 2)=True\r\nMINIMO( 2)= 1\r\nMAXIMO( 2)= 5\r\nHISTERESIS( 2)= 4\r\n"
       "[MODBUS 9]\r\nSLAVE= 1\r\nMULT= 2\r\nANALOG_MODE=True\r\nHABIL( 0)=True\r\n"
       "SIEMPRE( 0)=True\r\nMAXIMO( 0)= 3\r\n[MODBUS]\r\nBAUD= 9600";
@@ -277,10 +281,38 @@ TEST(Check, FindsEachMistakeOfMacrosAndGprsByItsRule) {
   ExpectRule(sound, {"[MACROS]\r\n", full, "", "macro-memory-full", 1});
 }
 
+TEST(Check, FindsEachSenselessNumberByItsRule) {
+  const std::string sound =
+      "[General]\r\nVERSION=VR200\r\nRENVT= 10\r\nTLFM 3=600,Prio=1,PRV0,MASKMODE0\r\n"
+      "TLFM 9=601,Prio=1,PRV0,MASKMODE0\r\n[ANALOG 1]\r\n"
+      "INTERFAZ= 1\r\nIE= 4\r\nFE= 20\r\nEqIE=-1\r\nEqFE= 6\r\nHABIL( 2)=True\r\n"
+      "SIEMPRE( 2)=True\r\nPERSISTENCIA( 2)= 10000\r\n[CAUDAL 1]\r\nINTERFAZ= 6\r\n"
+      "[DIGITAL 0]\r\nHABIL( 0)=True\r\nSIEMPRE( 0)=True\r\nREARM( 0)= 86400\r\n"
+      "[MODBUS]\r\nBAUD= 9600";
+  for (const RuleCase& one : std::vector<RuleCase>{
+           {"IE= 4", "IE= 4", "", ""},
+           {"FE= 20", "FE= 4", "", "scale-useless"},
+           {"FE= 20", "FE= 3", "", "scale-useless"},
+           {"EqIE=-1", "EqIE= 6", "", "scale-useless"},
+           {"EqIE=-1", "EqIE= 7", "", "scale-useless"},
+           {"INTERFAZ= 6", "INTERFAZ= 1", "", "interface-unknown"},
+           {"INTERFAZ= 1", "INTERFAZ= 4", "", "interface-unknown"},
+           {"TLFM 9=601", "TLFM 9=600", "", "telephone-twice"},
+           {"( 2)= 10000", "( 2)= 10001", "", "number-senseless"},
+           {"( 2)= 10000", "( 2)=-1", "", "number-senseless"},
+           {"HABIL( 2)=True\r\nSIEMPRE( 2)=True\r\nPERSISTENCIA( 2)= 10000",
+            "PERSISTENCIA( 2)= 10001", "", ""},
+           {"REARM( 0)= 86400", "REARM( 0)= 86401", "", "number-senseless"},
+           {"RENVT= 10", "RENVT= 1441", "", "number-senseless"},
+       })
+    ExpectRule(sound, one);
+}
+
 TEST(Check, FindsEachMistakeOfExpansionInputsByItsRule) {
   const std::string sound =
       "[General]\r\nVERSION=OSTREL_S100\r\n[MINPUT 3]\r\nMODO= 1\r\nDIR= 2\r\nENTRADA= 5\r\n"
-      "[MINPUT 95]\r\nMODO= 4\r\nDIR= 2\r\nENTRADA= 6\r\n[MINPUT.A 95]\r\nINTERFAZ= 3\r\n"
+      "[MINPUT 95]\r\nMODO= 4\r\nDIR= 2\r\nENTRADA= 6\r\n[MINPUT.A 95]\r\nINTERFAZ= 3\r\nFE= "
+      "10\r\nEqFE= 6\r\n"
       "[MINPUT 96]\r\nMODO= 9\r\nDIR= 2\r\nENTRADA= 5";
   for (const RuleCase& one : std::vector<RuleCase>{
            {"DIR= 2", "DIR= 2", "", ""},
@@ -299,7 +331,7 @@ TEST(Check, FindsEachMistakeOfProbesAndEquationsByItsRule) {
   const std::string sound =
       "[General]\r\nVERSION=OSTREL_KA1\r\n[1WIRE 0]\r\nINTERFAZ= 4\r\nADDRESS1=40.113.0.1\r\n"
       "ADDRESS2=000.000.000.000\r\n[1WIRE 2]\r\nINTERFAZ= 5\r\nADDRESS1=040.113.000.002\r\n"
-      "ADDRESS2=0\r\n[MATH 3]\r\nINTERFAZ= 6\r\nECUACION=(FL7-DI0)*PB3+Q9";
+      "ADDRESS2=0.0.0.0\r\n[MATH 3]\r\nINTERFAZ= 6\r\nECUACION=(FL7-DI0)*PB3+Q9";
   for (const RuleCase& one : std::vector<RuleCase>{
            {"Q9", "Q9", "", ""},
            {"040.113.000.002", "040.113.000.001", "", "probe-identity-shared"},
@@ -309,6 +341,7 @@ TEST(Check, FindsEachMistakeOfProbesAndEquationsByItsRule) {
            {"40.113.0.1", "40.113.0.256", "", "probe-identity-broken", 1},
            {"40.113.0.1", "40.113.0.1.", "", "probe-identity-broken", 1},
            {"40.113.0.1", "a", "", "probe-identity-broken", 1},
+           {"40.113.0.1", "0", "", "probe-identity-broken", 1},
            {"FL7", "FL8", "", "equation-without-channel"},
            {"DI0", "MB0", "", "equation-without-channel"},
            {"INTERFAZ= 6\r\nECUACION=", "ECUACION=MB0", "", ""},
@@ -345,6 +378,64 @@ TEST(Check, SaysWhereAndWhatHelps) {
   EXPECT_EQ(world.out,
             "error: [GENERAL] NOMBRE: a comma ends the text on the line: write something else for "
             "it (text-breaks-statement)\n");
+}
+
+TEST(Files, ADashIsStandardInputOrOutput) {
+  World world;
+  world.HaveFile("/a.ocf");
+  const std::string file = world.files.contents["/a.ocf"];
+  EXPECT_EQ(world.Run("download - --port sim:VR200"), 0);
+  EXPECT_EQ(world.out, file);
+  EXPECT_THAT(world.err, HasSubstr("saved to standard output\n"));
+  EXPECT_EQ(world.Run("download - --json --port sim:VR200"), 2);
+  int reads = 0;
+  world.environment.readDescriptor = [&](int descriptor, bool, std::string& octets) {
+    EXPECT_EQ(descriptor, 0);
+    octets = file;
+    ++reads;
+    return FileResult{};
+  };
+  for (const std::string line : {"show -", "check -", "statements -", "diff /a.ocf -",
+                                 "diff - port --port sim:VR200", "upload - --port sim:VR200"})
+    EXPECT_EQ(world.Run(line), 0) << line << world.err;
+  EXPECT_EQ(reads, 6) << "once a command";
+  world.environment.readDescriptor = [](int, bool, std::string&) { return FileResult{"closed"}; };
+  EXPECT_EQ(world.Run("show -"), 5);
+  EXPECT_EQ(world.err, "ostrelctl: cannot read standard input: closed\n");
+}
+
+TEST(Files, ErrorsAreJsonForPrograms) {
+  World world;
+  for (const auto& [line, code] : std::vector<std::pair<std::string, int>>{
+           {"show /absent.ocf --json", 5}, {"--json fly", 2}, {"info --json --port COM300", 2}}) {
+    EXPECT_EQ(world.Run(line), code);
+    EXPECT_EQ(world.out, "") << line;
+    const QJsonObject error =
+        QJsonDocument::fromJson(QByteArray::fromStdString(world.err)).object();
+    EXPECT_EQ(error["exitCode"].toInt(), code) << world.err;
+    EXPECT_FALSE(error["error"].toString().isEmpty()) << world.err;
+  }
+}
+
+TEST(Files, AProtectedFileIsReplacedAfterAQuestion) {
+  World world;
+  world.HaveFile("/a.ocf");
+  world.files.modes["/a.ocf"] = 0444;
+  world.Edit("/a.ocf", "NOMBRE=", "NOMBRE=mine");
+  const std::string former = world.files.contents["/a.ocf"];
+  EXPECT_EQ(world.Run("download /a.ocf --port sim:VR200"), 5);
+  EXPECT_THAT(world.err, HasSubstr("cannot write /a.ocf: it is read-only. --yes replaces it"));
+  EXPECT_EQ(world.files.contents["/a.ocf"], former);
+  EXPECT_EQ(world.Run("download /a.ocf --yes --port sim:VR200"), 0) << world.err;
+  EXPECT_NE(world.files.contents["/a.ocf"], former);
+  EXPECT_EQ(world.files.modes["/a.ocf"], 0444);
+}
+
+TEST(Files, ALargeOneIsRefusedWithTheReason) {
+  World world;
+  world.files.contents["/a.ocf"] = std::string(kMostFileOctets + 1, 'x');
+  EXPECT_EQ(world.Run("show /a.ocf"), 5);
+  EXPECT_EQ(world.err, "ostrelctl: cannot read /a.ocf: it is larger than 16 MB\n");
 }
 
 }  // namespace

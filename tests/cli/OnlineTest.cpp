@@ -169,6 +169,7 @@ TEST(Online, LeavesNothingBehindAFailedDownload) {
            {"bad-checksum@9",
             "the logger did not tell who it is: lines were lost or arrived damaged"},
            {"vanish@20", "COM253 (sim:VR200) has gone"},
+           {"vanish@3", "COM253 (sim:VR200) has gone in the middle of the dialogue"},
        }) {
     World world(WithFaults({failure.fault}));
     world.files.contents["/old.ocf"] = "old";
@@ -227,7 +228,8 @@ TEST(Online, ShowsProgressWithTheTimeThatRemainsOnATerminalAlone) {
 TEST(Online, TracesTheLineWithItsPrefixes) {
   World world;
   std::ostringstream trace;
-  world.environment.openLog = [&](const std::string& path) -> std::unique_ptr<std::ostream> {
+  world.environment.openLog = [&](const std::string& path,
+                                  std::string&) -> std::unique_ptr<std::ostream> {
     if (path != "/trace.txt") return nullptr;
     return std::make_unique<std::ostream>(trace.rdbuf());
   };
@@ -235,7 +237,7 @@ TEST(Online, TracesTheLineWithItsPrefixes) {
   EXPECT_THAT(trace.str(), HasSubstr(" TxSer: #40\n"));
   EXPECT_THAT(trace.str(), HasSubstr(" RxSer: #BF"));
   EXPECT_EQ(world.Run("info --port sim:VR200 --trace /forbidden"), 5);
-  world.environment.openLog = [](const std::string&) {
+  world.environment.openLog = [](const std::string&, std::string&) {
     return std::make_unique<std::ostream>(nullptr);  // takes nothing
   };
   EXPECT_EQ(world.Run("info --port sim:VR200 --trace /full"), 5);
@@ -258,7 +260,23 @@ TEST(Online, GivesTheAccessCodeOnceFromTheOptionsOrAsksForIt) {
   EXPECT_EQ(world.Run("info --port sim:VR200 --phone 600100200 --code 1"), 3);
   EXPECT_THAT(world.err, HasSubstr("did not accept the access code"));
   EXPECT_EQ(world.Run("info --port sim:VR200 --phone 600100200"), 3);
-  EXPECT_THAT(world.err, HasSubstr("--code gives one"));
+  EXPECT_THAT(world.err, HasSubstr("--code, --code-file, --code-fd or OSTREL_CODE gives one"));
+  const std::string call = "info --port sim:VR200 --phone 600100200 ";
+  world.files.contents["/code"] = "4711\r\nmore";
+  EXPECT_EQ(world.Run(call + "--code-file /code"), 0) << world.err;
+  EXPECT_EQ(world.Run(call + "--code-file /none"), 5);
+  EXPECT_EQ(world.Run(call + "--code-file /code --code 4711"), 2);
+  world.environment.readDescriptor = [](int descriptor, bool lineOnly, std::string& octets) {
+    EXPECT_TRUE(lineOnly);
+    octets = descriptor == 9 ? "4711" : "";
+    return FileResult{};
+  };
+  EXPECT_EQ(world.Run(call + "--code-fd 9"), 0) << world.err;
+  EXPECT_EQ(world.Run(call + "--code-fd 8"), 5);
+  world.environment.code = "4711";
+  EXPECT_EQ(world.Run(call), 0) << world.err;
+  EXPECT_EQ(world.Run(call + "--code 1"), 3) << "the option counts more";
+  world.environment.code.clear();
   int asked = 0;
   world.environment.ask = [&](std::string_view prompt, bool echo) {
     EXPECT_FALSE(echo);

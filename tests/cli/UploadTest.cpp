@@ -1,5 +1,6 @@
 #include "cli/World.h"
-#include "shell/UploadPlan.h"
+#include "link/UploadPlan.h"
+#include "shell/SafetyCopies.h"
 
 namespace ostrel::cli {
 namespace {
@@ -21,6 +22,26 @@ TEST(Upload, WritesVerifiesAndKeepsTheFormerConfiguration) {
   const auto found = world.files.contents.lower_bound(backup);
   EXPECT_TRUE(found->first.starts_with(backup)) << found->first;
   EXPECT_EQ(found->second, former);
+  EXPECT_EQ(world.files.modes[found->first], 0600);
+  EXPECT_EQ(world.files.modes["/home/user/data/backups"], 0700);
+}
+
+TEST(Upload, TwoSafetyCopiesOfOneSecondAreBothKept) {
+  VirtualLoop loop;
+  const VirtualClock clock({2026, 3, 2, 9, 5, 7}, loop);
+  VirtualFiles files;
+  SafetyCopies copies(files, clock, "/data");
+  TargetProfile profile;
+  SelectTarget(profile, "Tavro BP");
+  DeviceConf first, second;
+  first.General.DNAME = "first";
+  second.General.DNAME = "second";
+  const auto one = copies.Keep(first, profile, "Q1");
+  const auto two = copies.Keep(second, profile, "Q1");
+  EXPECT_EQ(one.path, "/data/backups/Q1-20260302-090507.ocf");
+  EXPECT_EQ(two.path, "/data/backups/Q1-20260302-090507-2.ocf");
+  EXPECT_THAT(files.contents[one.path], HasSubstr("NOMBRE=first"));
+  EXPECT_THAT(files.contents[two.path], HasSubstr("NOMBRE=second"));
 }
 
 TEST(Upload, LeavesOutWhatItIsToldTo) {

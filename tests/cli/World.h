@@ -62,12 +62,16 @@ class World {
                           .out = outStream,
                           .err = errStream,
                           .errIsTerminal = false,
+                          .outIsTerminal = false,
                           .ask = {},
+                          .readDescriptor = {},
+                          .code = {},
                           .dataFolder = "/home/user/data",
                           .shippedLang = "/share/Lang.txt",
                           .numberOfDevice = [](const std::string&) { return 0; },
                           .openLog = {},
-                          .onInterrupt = {}};
+                          .onInterrupt = {},
+                          .interrupted = {}};
 
   std::string out, err;  ///< of the last command
 

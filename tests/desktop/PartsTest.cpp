@@ -40,7 +40,7 @@ TEST(FaultText, HasSpanishForEachPhrase) {
   UseLanguage("es");
   std::set<std::string> phrases;
   for (const SessionPhase during : {Opening, Open, Reading, Writing})
-    for (int kind = 0; kind <= static_cast<int>(LinkFault::Kind::PortClosed); ++kind)
+    for (int kind = 0; kind <= static_cast<int>(LinkFault::Kind::LineTooLong); ++kind)
       for (const char* text : {"", "answer"})
         for (int variant = 0; variant < 4; ++variant) {
           const FaultWords words = WordsOf({.during = during,

@@ -122,6 +122,13 @@ TEST_F(TransferTest, TheRestOfAFailedStreamDoesNotMeetTheNextAttempt) {
   EXPECT_GE(logger.lines.size(), 2U);
 }
 
+TEST_F(TransferTest, ALineWithoutAnEndIsToldAsSuch) {
+  logger.Always("#42", Frames("#BD000NAME,a", "#BD001NAME," + std::string(100'000, 'x')));
+  EXPECT_FALSE(comms.ReadConf());
+  EXPECT_EQ(comms.Fault().kind, Kind::LineTooLong);
+  EXPECT_EQ(comms.Fault().number, 1);
+}
+
 TEST_F(TransferTest, IndexOutsideItsArrayEndsTheDownload) {
   std::string trace;
   comms.Trace = [&trace](const std::string& line) { trace = line; };

@@ -173,13 +173,57 @@ TEST_P(PageWalk, RubbishInANumberBoxTurnsRed) {
     const auto boxes = Boxes();
     for (std::size_t b = 0; b < boxes.size(); ++b) {
       if (boxes[b]->Text() == before[b]) continue;
-      boxes[b]->Type("1,5");
+      boxes[b]->Type("1.5.2");
       loop.RunFor(std::chrono::seconds(1));
       EXPECT_EQ(boxes[b]->face.Colour(), BackColour::Red) << field.Key();
       boxes[b]->Type("7");
       loop.RunFor(std::chrono::seconds(1));
       EXPECT_EQ(boxes[b]->face.Colour(), BackColour::Window) << field.Key();
     }
+  }
+}
+
+/// A decimal comma counts as it is meant, in each number box, even when the page is left at once.
+TEST_P(PageWalk, ADecimalCommaIsCommittedAsAPoint) {
+  for (TextBox* box : Boxes()) {
+    if (box->NumberKind() != "float") continue;
+    page->LoadData();
+    box->Type("0.75");
+    page->SavePage();
+    const DeviceConf meant = conf;
+    page->LoadData();
+    box->Type("0,75");
+    conf = DeviceConf{};
+    page->SaveInto(conf);
+    DeviceConf plain;
+    box->Type("0.75");
+    page->SaveInto(plain);
+    EXPECT_EQ(conf, plain) << box->face.Name();
+    box->Type("0,75");
+    page->SavePage();
+    EXPECT_EQ(box->Text(), "0.75");
+    conf = meant;
+  }
+}
+
+/// Each field has a control that knows it: marks and findings stand there.
+TEST_P(PageWalk, EachFieldHasItsControl) {
+  for (const auto* model : {"Tavro BP", "Tavro BQ"}) {
+    SelectModel(model);
+    const Block& block = *FindBlock(page->Id());
+    block.view(conf, profile, [&](const FieldId& id, const FieldMeta& meta, const FieldView&) {
+      if (id.section->word == "MINPUT.A" && id.word == "GRUPO") return;  // in the file alone
+      int controls = 0;
+      for (const ControlRef& control : page->GetForm().Controls()) {
+        const EditedField& field = FaceOf(control).Field();
+        const bool isHere = field.word == id.word &&
+                            (field.section.empty() || field.section == id.section->word) &&
+                            (field.channel < 0 || field.channel == id.channel);
+        controls += isHere ? 1 : 0;
+        EXPECT_TRUE(!isHere || field.unit == meta.unit) << id.word;
+      }
+      EXPECT_EQ(controls, 1) << id.section->word << " " << id.channel << " " << id.word;
+    });
   }
 }
 

@@ -18,13 +18,13 @@ TEST(SaveWholeTest, WritesBesideSyncsAndRenames) {
   VirtualFiles files;
   EXPECT_TRUE(SaveWhole(files, "/a.ocf", kNew).Ok());
   EXPECT_EQ(files.Read("/a.ocf"), kNew);
-  EXPECT_THAT(files.log, ElementsAre("create /a.ocf.new0", "write /a.ocf.new0", "sync /a.ocf.new0",
-                                     "rename /a.ocf.new0 /a.ocf"));
+  EXPECT_THAT(files.log, ElementsAre("create /a.ocf~ostrel-1", "write /a.ocf~ostrel-1",
+                                     "sync /a.ocf~ostrel-1", "rename /a.ocf~ostrel-1 /a.ocf"));
 }
 
 TEST(SaveWholeTest, AnyFailureLeavesTheOldFileWholeAndNothingElse) {
   for (const bool exists : {false, true}) {
-    for (std::size_t n = 1; n <= 4; ++n) {
+    for (std::size_t n = 1; n <= (exists ? 5U : 4U); ++n) {
       SCOPED_TRACE(testing::Message() << "failure of step " << n << ", exists " << exists);
       VirtualFiles files;
       if (exists) files.contents["/a.ocf"] = kOld;
@@ -38,13 +38,13 @@ TEST(SaveWholeTest, AnyFailureLeavesTheOldFileWholeAndNothingElse) {
 }
 
 TEST(SaveWholeTest, KillAtAnyStepLeavesTheOldOrTheNewFileWhole) {
-  for (std::size_t n = 1; n <= 5; ++n) {
+  for (std::size_t n = 1; n <= 6; ++n) {
     VirtualFiles files;
     files.contents["/a.ocf"] = kOld;
     files.FailFrom(n);
     const bool saved = SaveWhole(files, "/a.ocf", kNew).Ok();
     EXPECT_EQ(files.Read("/a.ocf"), saved ? kNew : kOld) << "killed at step " << n;
-    EXPECT_EQ(saved, n == 5);
+    EXPECT_EQ(saved, n == 6);
     files.Heal();
     EXPECT_TRUE(SaveWhole(files, "/a.ocf", "third").Ok()) << "in spite of what is left about";
     EXPECT_EQ(files.Read("/a.ocf"), "third");
@@ -62,12 +62,12 @@ TEST(SaveWholeTest, FollowsALinkAndLeavesItInPlace) {
   EXPECT_EQ(files.Read("/desk.ocf"), kNew);
 }
 
-TEST(SaveWholeTest, LeavesForeignFilesAlone) {
+TEST(SaveNewTest, NeverTakesTheNameOfWhatStands) {
   VirtualFiles files;
-  files.contents["/a.ocf.new0"] = "someone's";
-  EXPECT_TRUE(SaveWhole(files, "/a.ocf", kNew).Ok());
-  EXPECT_EQ(files.contents["/a.ocf.new0"], "someone's");
-  EXPECT_EQ(files.contents.size(), 2u);
+  EXPECT_TRUE(SaveNew(files, "/copy", kOld).Ok());
+  EXPECT_TRUE(SaveNew(files, "/copy", kNew).stands);
+  EXPECT_EQ(files.contents, (std::map<std::string, std::string>{{"/copy", kOld}}));
+  EXPECT_EQ(files.modes["/copy"], 0600);
 }
 
 TEST(VirtualFilesTest, FailsTheChangeAskedForAndTellsWhy) {

@@ -2,6 +2,7 @@
 
 #include "platform/virtual/VirtualFiles.h"
 #include "shell/Comparison.h"
+#include "store/IniClass.h"
 
 namespace ostrel {
 namespace {
@@ -59,7 +60,9 @@ TEST(ReadConfiguration, IsBesideThePresentOne) {
   VirtualFiles files;
   ModelConfiguration saved = Empty("Ostrel VR200");
   saved.conf.Digital[1].NOMBRE = "door";
-  ASSERT_TRUE(WriteConfiguration(files, "/a.ocf", saved.conf, saved.profile).Ok());
+  IniClass document(files);
+  SaveConfiguration(saved.conf, saved.profile, document);
+  ASSERT_TRUE(document.SaveINI("/a.ocf").Ok());
   TargetProfile present;
   SelectTarget(present, "Ostrel KA1");
   const auto read = ReadConfiguration(files, "/a.ocf", present, Spanish);

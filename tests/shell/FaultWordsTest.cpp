@@ -17,7 +17,7 @@ std::string Told(const SessionFault& fault) {
 
 TEST(FaultWords, TellEachFaultDifferently) {
   std::set<std::string> told;
-  constexpr int kKinds = static_cast<int>(FaultKind::PortClosed) + 1;
+  constexpr int kKinds = static_cast<int>(FaultKind::LineTooLong) + 1;
   for (int kind = 0; kind < kKinds; ++kind)
     told.insert(Told({.link = {static_cast<FaultKind>(kind), 12, "text"}}));
   EXPECT_EQ(told.size(), static_cast<std::size_t>(kKinds));

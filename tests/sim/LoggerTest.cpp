@@ -230,5 +230,17 @@ TEST(SimLogger, AClosedPortForgetsWhatWasBegun) {
   EXPECT_NE(bench.Ask("#40"), "");
 }
 
+/// Requests beyond the memory are lost as octets on a line are; what comes later is answered.
+TEST(LoggerTest, AFloodIsBounded) {
+  SimBench bench(Model::BP);
+  int answered = 0;
+  bench.logger.OnExchange([&](const Exchange&) { ++answered; });
+  const std::string request = ComposeFrame("#99" + std::string(60'000, 'x'));
+  for (int i = 0; i < 100; ++i) bench.logger.Receive(request);
+  bench.loop.RunFor(std::chrono::seconds(10));
+  EXPECT_LT(answered, 20);
+  EXPECT_THAT(bench.Ask("#40"), testing::StartsWith("#BF"));
+}
+
 }  // namespace
 }  // namespace ostrel::sim

@@ -106,10 +106,14 @@ void ModbusChannels::Compose(const DeviceConf& conf, const Receiver& receiver, i
             PersistenceBy(receiver.features));
 }
 
-void ModbusChannels::AsHeld(DeviceConf& conf, const Receiver& receiver) {
-  if (!receiver.Has(Feature::ModbusConstant)) return;
-  for (int c = 0; c < kChannels; ++c)
-    if (!conf.Modbus[c].ANALOG_MODE) conf.Modbus[c].MULT = 0;
+void ModbusChannels::AsSent(DeviceConf& read, const DeviceConf& sent, const Receiver& receiver) {
+  const bool hasConstant = receiver.Has(Feature::ModbusConstant);
+  for (int c = 0; c < kChannels; ++c) {
+    const ConfModbus& from = sent.Modbus[c];
+    ConfModbus& channel = read.Modbus[c];
+    if (!hasConstant) channel.MASCARA = from.MASCARA;
+    if (hasConstant && !from.ANALOG_MODE && channel.MULT == 0) channel.MULT = from.MULT;
+  }
 }
 
 }  // namespace ostrel

@@ -38,8 +38,9 @@ struct ModbusChannels {
   /// Adds the statements of one channel. The alarm of one that is off goes all the same.
   static void Compose(const DeviceConf& conf, const Receiver& receiver, int channel,
                       StatementList& out);
-  /// A logger has no mode: it holds a digital channel with a multiplier of 0.
-  static void AsHeld(DeviceConf& conf, const Receiver& receiver);
+  /// A logger has no mode: it reports a digital channel with a multiplier of 0. A mask that it does
+  /// not know it cannot report.
+  static void AsSent(DeviceConf& read, const DeviceConf& sent, const Receiver& receiver);
 };
 
 }  // namespace ostrel

@@ -22,7 +22,7 @@ Json FoundJson(const std::string& file, const std::vector<FoundByRule>& found, s
                     {"severity", SeverityText(rule->severity)},
                     {"section", finding.section},
                     {"key", finding.key},
-                    {"sentence", finding.sentence}});
+                    {"sentence", Filled(finding.sentence)}});
   return {{"file", file},
           {"errors", errors},
           {"warnings", found.size() - errors},
@@ -66,7 +66,7 @@ std::string RuleList() {
 Command AddCheck(CLI::App& app) {
   CLI::App* parser = app.add_subcommand("check", "Look for what is wrong in a configuration file");
   const auto options = std::make_shared<CheckOptions>();
-  parser->add_option("FILE", options->file, "Configuration file")->required();
+  parser->add_option("FILE", options->file, "Configuration file, - for standard input")->required();
   parser->add_option("--silence", options->silenced, "Leave out a rule, by its id")
       ->allow_extra_args(false);
   parser->footer(RuleList());

@@ -44,8 +44,8 @@ ExitCode DiffWithPort(CommandContext& context, const DiffOptions& options, const
     if (downloaded != ExitCode::Done) return downloaded;
     const Configurator& logger = online.configurator;
     const std::int32_t features = context.options.features.value_or(logger.info.Features);
-    ModelConfiguration held{logger.profile, logger.conf};
-    held.conf.AutVoz = other->conf.AutVoz;  // no download brings it
+    const ModelConfiguration held{logger.profile,
+                                  ReadAsSent(logger.conf, other->conf, {logger.profile, features})};
     const ModelConfiguration &a = isPortFirst ? held : *other, &b = isPortFirst ? *other : held;
     return Report(context, options, Compare(a, b, features, context.ShownPasswords()), features);
   });
@@ -65,7 +65,10 @@ Command AddDiff(CLI::App& app) {
   CLI::App* parser = app.add_subcommand(
       "diff", "Compare two configurations; with known features, as a logger of these takes them");
   const auto options = std::make_shared<DiffOptions>();
-  parser->add_option("A", options->a, "File, or \"port\" for what the logger holds")->required();
+  parser
+      ->add_option("A", options->a,
+                   "File, - for standard input, or \"port\" for what the logger holds")
+      ->required();
   parser->add_option("B", options->b, "File, or \"port\"")->required();
   return {parser, [options](CommandContext& context) { return RunDiff(context, *options); }};
 }

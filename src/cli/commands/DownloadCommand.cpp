@@ -16,7 +16,8 @@ ExitCode RunDownload(Online& online, const std::string& file) {
   if (saved != ExitCode::Done) return saved;
   const Configurator& configurator = online.configurator;
   const std::string& serial = configurator.info.SerialNumber;
-  context.console.Note("configuration of " + serial + " saved to " + file);
+  context.console.Note("configuration of " + serial + " saved to " +
+                       (file == kStandard ? "standard output" : file));
   return context.Show({[&] {
                          return Json{{"file", file},
                                      {"model", configurator.profile.TargetName},
@@ -31,8 +32,15 @@ ExitCode RunDownload(Online& online, const std::string& file) {
 Command AddDownload(CLI::App& app) {
   CLI::App* parser = app.add_subcommand("download", "Read the logger's configuration into a file");
   const auto file = std::make_shared<std::string>();
-  parser->add_option("FILE", *file, "File to write; one that stands is replaced")->required();
+  parser
+      ->add_option("FILE", *file,
+                   "File to write, - for standard output; one that stands is replaced")
+      ->required();
   return {parser, [file](CommandContext& context) {
+            if (*file == kStandard && context.options.json)
+              return context.console.Fail(ExitCode::Usage,
+                                          "the file and the result of --json cannot both go to "
+                                          "standard output");
             const ExitCode writable = TryToWrite(context, *file);
             if (writable != ExitCode::Done) return writable;
             return RunOnline(context, "",

@@ -119,16 +119,20 @@ void Show(const Online& online, bool watch) {
 }
 
 ExitCode RunLive(Online& online, bool watch) {
-  EventLoop& loop = online.context.platform.loop;
+  CommandContext& context = online.context;
+  EventLoop& loop = context.platform.loop;
   const auto interrupted = [&] { return online.session.Interrupted(); };
   for (;;) {
     const TimePoint next = loop.Now() + kWatchInterval;
     const LinkResult read = online.configurator.comms.ReadRealTime();
     // Watching is ended by an interrupt, which is no failure then.
-    if (watch && interrupted()) return ExitCode::Done;
+    if (context.isDone = watch && interrupted(); context.isDone) return ExitCode::Done;
     if (!read) return online.session.Failed(read);
     Show(online, watch);
-    if (!online.context.console.Out()) return ExitCode::BadFile;
+    if (!context.console.Out()) {
+      context.isDone = watch && context.Interrupted();
+      return context.isDone ? ExitCode::Done : ExitCode::BadFile;
+    }
     if (!watch || loop.RunUntil(interrupted, next)) return ExitCode::Done;
   }
 }

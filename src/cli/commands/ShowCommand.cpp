@@ -1,8 +1,10 @@
 #include <algorithm>
+#include <map>
 #include <unordered_map>
 
 #include "base/Channels.h"
 #include "cli/commands/Commands.h"
+#include "pages/ActionCatalogue.h"
 #include "shell/FieldWords.h"
 
 namespace ostrel::cli {
@@ -84,19 +86,38 @@ struct Line {
   std::string value;
 };
 
+/// The actions of a model in words, by their numbers.
+using ActionWords = std::map<std::int16_t, std::string>;
+
+ActionWords WordsOfActions(const TargetProfile& model, const Translation& translate) {
+  ActionWords words;
+  for (const ActionItem& item : OfferedActions(model, translate)) words[item.number] = item.text;
+  return words;
+}
+
+/// The value of a place in a list of actions; empty for an empty place.
+std::string ActionText(std::int16_t number, const ActionWords& words) {
+  if (number <= 0) return {};
+  const auto found = words.find(number);
+  return found == words.end() ? std::to_string(number) + " - unknown to this model" : found->second;
+}
+
 /// The lines of a section: the places of a list of actions are joined into one line.
-std::vector<Line> LinesOf(const Section& section, bool isS100, Passwords passwords) {
+std::vector<Line> LinesOf(const Section& section, bool isS100, const ActionWords& actions,
+                          Passwords passwords) {
   std::vector<Line> lines;
   for (const ConstField* field : section.fields) {
     FieldId id = field->id;
     const bool isListed = field->meta.sense == FieldSense::Action && id.slot.place >= 0;
     if (isListed) id.slot.place = -1;
-    const std::string value = ReadableValue(field->value, field->meta, isS100, passwords);
+    const std::string value =
+        isListed ? ActionText(**std::get_if<const std::int16_t*>(&field->value), actions)
+                 : ReadableValue(field->value, field->meta, isS100, passwords);
     const auto same = isListed ? std::ranges::find(lines, id, &Line::id) : lines.end();
     if (same == lines.end())
       lines.push_back({id, KeyName(id, field->meta.placeForm), KeyWords(id, field->meta), value});
-    else
-      same->value += " " + value;
+    else if (!value.empty())
+      same->value += (same->value.empty() ? "" : "; ") + value;
   }
   return lines;
 }
@@ -124,13 +145,15 @@ std::vector<ConstField> Shown(const ModelConfiguration& configuration, const Dev
 }
 
 void PrintReadable(std::ostream& out, const ModelConfiguration& configuration,
-                   const DeviceConf& empty, bool all, Passwords passwords) {
+                   const DeviceConf& empty, bool all, const Translation& translate,
+                   Passwords passwords) {
   const TargetProfile& profile = configuration.profile;
+  const ActionWords actions = WordsOfActions(profile, translate);
   const std::vector<ConstField> fields = Shown(configuration, empty, all);
   out << profile.TargetName << '\n';
   for (const Section& section : BySection(fields)) {
     out << '\n' << section.name << " (" << SectionWords(section.fields.front()->id) << ")\n";
-    for (const Line& line : LinesOf(section, profile.IsS100, passwords))
+    for (const Line& line : LinesOf(section, profile.IsS100, actions, passwords))
       out << "  " << line.key << " (" << line.words << "): " << line.value << '\n';
   }
 }
@@ -139,12 +162,12 @@ ExitCode RunShow(CommandContext& context, const ShowOptions& options) {
   const auto configuration = context.OpenFile(options.file);
   if (!configuration) return ExitCode::BadFile;
   const Passwords passwords = context.ShownPasswords();
-  return context.Show({[&] { return ConfigurationJson(*configuration, options.file, passwords); },
-                       [&](std::ostream& out) {
-                         const DeviceConf empty =
-                             EmptyConfiguration(configuration->profile, context.Translator());
-                         PrintReadable(out, *configuration, empty, options.all, passwords);
-                       }});
+  return context.Show(
+      {[&] { return ConfigurationJson(*configuration, options.file, passwords); },
+       [&](std::ostream& out) {
+         const DeviceConf empty = EmptyConfiguration(configuration->profile, context.Translator());
+         PrintReadable(out, *configuration, empty, options.all, context.Translator(), passwords);
+       }});
 }
 
 }  // namespace
@@ -152,7 +175,7 @@ ExitCode RunShow(CommandContext& context, const ShowOptions& options) {
 Command AddShow(CLI::App& app) {
   CLI::App* parser = app.add_subcommand("show", "Show a configuration file in readable form");
   const auto options = std::make_shared<ShowOptions>();
-  parser->add_option("FILE", options->file, "Configuration file")->required();
+  parser->add_option("FILE", options->file, "Configuration file, - for standard input")->required();
   parser->add_flag("--all", options->all,
                    "Also what is as in an empty configuration (as with --json)");
   return {parser, [options](CommandContext& context) { return RunShow(context, *options); }};

@@ -29,7 +29,7 @@ Command AddStatements(CLI::App& app) {
   CLI::App* parser =
       app.add_subcommand("statements", "Show what an upload of a file would send, one a line");
   const auto file = std::make_shared<std::string>();
-  parser->add_option("FILE", *file, "Configuration file")->required();
+  parser->add_option("FILE", *file, "Configuration file, - for standard input")->required();
   return {parser, [file](CommandContext& context) { return RunStatements(context, *file); }};
 }
 

@@ -3,8 +3,8 @@
 #include "cli/commands/Commands.h"
 #include "cli/commands/OnlineCommand.h"
 #include "host/LoggerText.h"
+#include "link/UploadPlan.h"
 #include "shell/GuardedWrite.h"
-#include "shell/UploadPlan.h"
 #include "shell/WriteDoubts.h"
 
 namespace ostrel::cli {
@@ -77,6 +77,7 @@ ExitCode Report(Online& online, const UploadOptions& options, const DeviceConf& 
   if (!isSame)
     return context.console.Fail(ExitCode::Differences,
                                 "the logger holds another configuration than was sent");
+  context.isDone = true;
   context.console.Note(result.comparison ? "configuration written and verified"
                                          : "configuration written");
   return ExitCode::Done;
@@ -191,7 +192,7 @@ ExitCode RunUpload(CommandContext& context, const UploadOptions& options) {
 Command AddUpload(CLI::App& app) {
   CLI::App* parser = app.add_subcommand("upload", "Write a file's configuration into the logger");
   const auto options = std::make_shared<UploadOptions>();
-  parser->add_option("FILE", options->file, "Configuration file")->required();
+  parser->add_option("FILE", options->file, "Configuration file, - for standard input")->required();
   parser->add_flag("--no-verify", options->noVerify, "Do not read back and compare");
   parser->add_flag("--no-backup", options->noBackup, "Keep no copy of the former configuration");
   parser->add_flag("--force", options->force,

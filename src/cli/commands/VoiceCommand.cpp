@@ -3,6 +3,7 @@
 #include "cli/TransferLine.h"
 #include "cli/commands/Commands.h"
 #include "cli/commands/OnlineCommand.h"
+#include "store/IniClass.h"
 #include "store/IniTool.h"
 
 namespace ostrel::cli {
@@ -94,15 +95,17 @@ ExitCode Written(CommandContext& context, const std::string& path, const FileRes
 ExitCode ReadToConfiguration(CommandContext& context, const std::string& path) {
   auto configuration = context.OpenFile(path);
   if (!configuration) return ExitCode::BadFile;
+  const ExitCode tried = TryToWrite(context, path);
+  if (tried != ExitCode::Done) return tried;
   const ExitCode replaced = MayReplace(context, path, configuration->profile);
   if (replaced != ExitCode::Done) return replaced;
   return ReadOnline(context, path, [&](const ConfAutVoz& list) {
     ConfAutVoz& kept = configuration->conf.AutVoz;
     SetNumbers(kept, NumbersOf(list));
     kept.MACRO = list.MACRO;
-    return Written(context, path,
-                   WriteConfiguration(context.platform.files, path, configuration->conf,
-                                      configuration->profile));
+    IniClass document(context.platform.files);
+    SaveConfiguration(configuration->conf, configuration->profile, document);
+    return Written(context, path, document.SaveINI(path, Replacing::Any));
   });
 }
 
@@ -112,12 +115,12 @@ ExitCode ReadToText(CommandContext& context, const std::string& path) {
   return ReadOnline(context, "", [&](const ConfAutVoz& list) {
     std::string text;
     for (const std::string& number : NumbersOf(list)) text += number + "\n";
-    return Written(context, path, SaveWhole(context.platform.files, path, text));
+    return Written(context, path, SaveWhole(context.platform.files, path, text, Replacing::Any));
   });
 }
 
 ExitCode RunRead(CommandContext& context, const VoiceOptions& options) {
-  if (options.file.empty()) return ReadToOutput(context);
+  if (options.file.empty() || options.file == kStandard) return ReadToOutput(context);
   if (IsConfiguration(context, options.file)) return ReadToConfiguration(context, options.file);
   if (options.file.ends_with(kConfigurationEnd))
     return context.console.Fail(ExitCode::BadFile,

@@ -4,7 +4,6 @@
 
 #include <QCoreApplication>
 #include <exception>
-#include <fstream>
 #include <iostream>
 #include <vector>
 
@@ -12,6 +11,7 @@
 #include "host/Folders.h"
 #include "host/Machine.h"
 #include "host/SignalPipe.h"
+#include "host/TraceFile.h"
 #include "platform/SilentDialogs.h"
 #include "platform/qt/QtProcesses.h"
 
@@ -19,14 +19,6 @@ namespace {
 
 using namespace ostrel;
 using namespace ostrel::cli;
-
-constexpr int kInterrupted = 130;
-
-std::unique_ptr<std::ostream> OpenLog(const std::string& path) {
-  auto file = std::make_unique<std::ofstream>(path, std::ios::binary);
-  if (!*file) return nullptr;
-  return file;
-}
 
 int Run(const std::vector<std::string>& args) {
   Machine machine;
@@ -38,16 +30,21 @@ int Run(const std::vector<std::string>& args) {
       .out = std::cout,
       .err = std::cerr,
       .errIsTerminal = isatty(STDERR_FILENO) == 1,
+      .outIsTerminal = isatty(STDOUT_FILENO) == 1,
       .ask = {},
+      .readDescriptor = ReadDescriptor,
+      .code = qEnvironmentVariable("OSTREL_CODE").toStdString(),
       .dataFolder = UserDataFolder(),
       .shippedLang = LangIn(ShippedFolder()),
       .numberOfDevice = [&](const std::string& path) { return machine.NumberOfDevice(path); },
-      .openLog = OpenLog,
-      .onInterrupt = {}};
+      .openLog = OpenTrace,
+      .onInterrupt = {},
+      .interrupted = SignalPipe::HasCome};
   if (HasOperator()) environment.ask = AskOnTerminal;
   SignalPipe watch(machine.loop, [&] {
-    if (!environment.onInterrupt) std::_Exit(kInterrupted);
-    environment.onInterrupt();
+    if (environment.onInterrupt) return environment.onInterrupt();
+    std::cerr << "ostrelctl: interrupted" << std::endl;
+    std::_Exit(static_cast<int>(ExitCode::Interrupted));
   });
   return static_cast<int>(RunOstrelctl(args, environment));
 }

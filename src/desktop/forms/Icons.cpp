@@ -64,6 +64,12 @@ void DrawLanguage(QPainter& p) {
   p.drawLine(QPointF(3.5, 12), QPointF(20.5, 12));
 }
 
+void DrawFindings(QPainter& p) {
+  p.drawPolygon(QPolygonF({{12, 3.5}, {21.5, 20}, {2.5, 20}}));
+  p.drawLine(QPointF(12, 9.5), QPointF(12, 14));
+  p.drawPoint(QPointF(12, 17));
+}
+
 void Draw(QPainter& painter, Sign sign) {
   switch (sign) {
     case Sign::Open:
@@ -78,6 +84,8 @@ void Draw(QPainter& painter, Sign sign) {
       return DrawCompare(painter);
     case Sign::Trace:
       return DrawTrace(painter);
+    case Sign::Findings:
+      return DrawFindings(painter);
     case Sign::Language:
       return DrawLanguage(painter);
   }

@@ -6,6 +6,7 @@
 #include <QFileInfo>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QTimer>
 #include <QVBoxLayout>
 
 #include "desktop/forms/Icons.h"
@@ -87,7 +88,7 @@ std::optional<std::string> QtDialogs::ChooseFile(const FileQuestion& question) {
 /// The form of the window asks by itself; it has a prompt of its own.
 std::string QtDialogs::AskCode(const std::string&) { return window_ ? window_->AskCode() : ""; }
 
-void QtDialogs::ShowModal(Modal& modal) {
+void QtDialogs::ShowModal(Modal& modal, const std::function<void()>& shown) {
   Form& form = AsForm(modal);
   QDialog dialog(Parent());
   auto* layout = new QVBoxLayout(&dialog);
@@ -99,6 +100,7 @@ void QtDialogs::ShowModal(Modal& modal) {
     dialog.setWindowTitle(ToQt(form.Title()));
     if (!form.Visible()) dialog.accept();
   };
+  if (shown) QTimer::singleShot(0, &dialog, shown);
   dialog.exec();
   view->OnFormChanged = nullptr;
   form.Hide();

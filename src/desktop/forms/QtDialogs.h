@@ -24,7 +24,7 @@ class QtDialogs final : public Dialogs {
   BoxAnswer ShowMessage(const MessageBox& box) override;
   std::optional<std::string> ChooseFile(const FileQuestion& question) override;
   std::string AskCode(const std::string& prompt) override;
-  void ShowModal(Modal& modal) override;
+  void ShowModal(Modal& modal, const std::function<void()>& shown) override;
   void Beep() override;
 
   /// The folder in which choosing a file starts; follows the operator's choices.

@@ -117,9 +117,34 @@ QVBoxLayout* PhoneMask(FormView& view) {
   return column;
 }
 
+QString PrivilegeText(QString level) {
+  if (level == "PRV3") return "Kestrel";
+  if (level == "PRV2") return Words::tr("Administrator");
+  if (level == "PRV1") return Words::tr("Advanced user");
+  return level == "PRV0" ? Words::tr("User") : level;
+}
+
+QString MaskText(const QString& mode, const QString& channels) {
+  if (mode == "MASKMODE1") return channels.isEmpty() ? Words::tr("No alarms") : channels;
+  if (mode == "MASKMODE2" && !channels.isEmpty()) return Words::tr("All but %1").arg(channels);
+  return Words::tr("All alarms");
+}
+
+/// A telephone in words: its row reads "600111222,Prio=2,PRV1,MASKMODE1,DI0,AI1".
+QStringList PhoneCells(const ListRow& row) {
+  const QStringList parts = ToQt(row.text).split(u',');
+  const QString priority = parts.value(1).section(u'=', 1);
+  return {parts.value(0), priority == "0" ? Words::tr("None") : priority,
+          PrivilegeText(parts.value(2)), MaskText(parts.value(3), parts.mid(4).join(", "))};
+}
+
 QVBoxLayout* PhoneList(FormView& view) {
   auto* column = new QVBoxLayout;
   column->setSpacing(6);
+  view.SetColumns(
+      "ListaTlf",
+      {Words::tr("Number"), Words::tr("Priority"), Words::tr("Privilege"), Words::tr("Alarms of")},
+      PhoneCells);
   column->addWidget(view.LabelFor("ListaTlf", std::string_view("LabelEditar")));
   column->addWidget(view.Show("ListaTlf"), 1);
   auto* buttons = new QHBoxLayout;

@@ -6,6 +6,7 @@
 #include <QPushButton>
 #include <QSplitter>
 #include <QStatusBar>
+#include <QVBoxLayout>
 
 #include "desktop/forms/Icons.h"
 #include "desktop/forms/Words.h"
@@ -37,23 +38,38 @@ MainWindow::MainWindow(const WindowParts& parts)
              parts.guard),
       tree_(new TreePane(this)),
       pages_(new PageArea([this] { return Context(); }, this)),
+      group_(new GroupTable(this)),
       link_(new LinkPanel(this)),
-      trace_(new TraceView(this)) {
+      trace_(new TraceView(this)),
+      findings_(new FindingsPanel(this)),
+      overview_({configurator_, unsaved_, *tree_, *pages_, *group_, *findings_}) {
   auto* splitter = new QSplitter(this);
+  auto* sheet = new QWidget(this);
+  auto* sheets = new QVBoxLayout(sheet);
+  sheets->setContentsMargins(0, 0, 0, 0);
+  sheets->addWidget(pages_, 3);
+  sheets->addWidget(group_, 2);
+  group_->hide();
   splitter->addWidget(tree_);
-  splitter->addWidget(pages_);
+  splitter->addWidget(sheet);
   splitter->setStretchFactor(1, 1);
   splitter->setSizes({kTreeWidth, kFirstSize.width() - kTreeWidth});
   splitter->setChildrenCollapsible(false);
   setCentralWidget(splitter);
   addDockWidget(Qt::BottomDockWidgetArea, trace_);
   trace_->hide();
+  addDockWidget(Qt::BottomDockWidgetArea, findings_);
+  findings_->hide();
   statusBar()->addWidget(link_, 1);
   MakeToolBar();
   resize(kFirstSize);
   RestorePlace();
   setWindowIcon(ProgramIcon());
   tree_->OnNode = [this](const std::string& key) { parts_.guard([&] { GoTo(key); }); };
+  group_->OnChannel = [this](const std::string& key) { parts_.guard([&] { GoTo(key); }); };
+  findings_->OnFinding = [this](PageId page, const FieldId& field) {
+    parts_.guard([&] { GoToField(page, field); });
+  };
   pages_->OnChanged = [this] {
     const FormView* front = pages_->Front();
     if (front && front->GetForm().MousePointer() == Pointer::Hourglass)
@@ -71,6 +87,9 @@ MainWindow::MainWindow(const WindowParts& parts)
   configurator_.OnForeignKeys = [this](const std::string& path,
                                        const std::vector<std::string>& lost) {
     return MayLose(path, lost);
+  };
+  configurator_.OnProtected = [this](const std::string& path, const std::string& why) {
+    return MayReplace(path, why);
   };
   configurator_.OnOtherModel = [this](const std::string& model) { return MayChangeModel(model); };
   configurator_.session.ServeRead = [this] { parts_.guard([this] { Read(); }); };
@@ -103,6 +122,7 @@ void MainWindow::LetGo() {
   session.OnModelDoubt = nullptr;
   configurator_.comms.Trace = nullptr;
   configurator_.OnForeignKeys = nullptr;
+  configurator_.OnProtected = nullptr;
   configurator_.OnOtherModel = nullptr;
   configurator_.context.repaintTree = nullptr;
   navigation_.OnTargetChanged = navigation_.OnFrontChanged = nullptr;
@@ -129,6 +149,7 @@ void MainWindow::Follow() {
   unsaved_.Keep(unsaved_.WithFront());
   if (FileDifferences()) WorkOn(configurator_.ConfFilePath);
   Look();
+  overview_.ShowNode(shownNode_);
 }
 
 void MainWindow::BuildTree() {
@@ -138,6 +159,7 @@ void MainWindow::BuildTree() {
   tree_->SetNodes(BuildNavigationTree(configurator_.profile, translate));
   tree_->Select(shownNode_);
   PaintTree();
+  overview_.Forget();
 }
 
 void MainWindow::PaintTree() {
@@ -149,8 +171,31 @@ void MainWindow::GoTo(const std::string& key) {
   const NodeResult result = navigation_.NodeClick(key);
   shownNode_ = key;
   tree_->Select(key);
+  ShowGroup(key);
   isMissing_ = result == NodeResult::NotBuilt;
   ShowMissing();
+}
+
+void MainWindow::ShowGroup(const std::string& key) {
+  const bool isGroup = PageOfGroup(key).has_value();
+  const bool hasPage = FindNodeTarget(key, configurator_.profile, false).has_value();
+  // Some groups have a page of their own, which stands above the table.
+  pages_->setVisible(hasPage || !isGroup);
+  group_->setVisible(isGroup);
+  overview_.ShowNode(key);
+}
+
+void MainWindow::GoToField(PageId page, const FieldId& field) {
+  const std::string node = NodeOf(page, field.channel);
+  if (node.empty()) return;
+  GoTo(node);
+  FormView* front = pages_->Front();
+  if (!front) return;
+  const Form& form = front->GetForm();
+  const std::string config = "Config" + std::to_string(field.slot.config);
+  if (form.Contains(config)) form.Get<OptionButton>(config).SetSelected(true);
+  if (QWidget* control = front->WidgetOf(ControlOf(form, field))) control->setFocus();
+  overview_.ShowNode(node);
 }
 
 void MainWindow::ShowMissing() {
@@ -170,6 +215,7 @@ void MainWindow::ShowFront() {
 void MainWindow::Look() {
   ShowSession();
   ShowTitle();
+  overview_.Look();
 }
 
 void MainWindow::ShowSession() {
@@ -244,6 +290,16 @@ bool MainWindow::MayLose(const std::string& path, const std::vector<std::string>
       {.text = FromQt(Words::tr("%1 holds what this program does not write and would lose: %2. "
                                 "Replace it?")
                           .arg(ToQt(path), ToQt(ForeignKeysText(lost)))),
+       .title = configurator_.profile.TargetName,
+       .icon = BoxIcon::Question,
+       .buttons = BoxButtons::YesNo});
+  return answer == BoxAnswer::Yes;
+}
+
+bool MainWindow::MayReplace(const std::string& path, const std::string& why) {
+  const BoxAnswer answer = parts_.platform.dialogs.ShowMessage(
+      {.text = FromQt(Words::tr("%1 is protected: %2. Replace it all the same?")
+                          .arg(ToQt(path), Words::tr(why.c_str()))),
        .title = configurator_.profile.TargetName,
        .icon = BoxIcon::Question,
        .buttons = BoxButtons::YesNo});

@@ -8,6 +8,7 @@
 #include "desktop/forms/Icons.h"
 #include "desktop/program/PortWatch.h"
 #include "desktop/window/LinkPanel.h"
+#include "desktop/window/Overview.h"
 #include "desktop/window/PageArea.h"
 #include "desktop/window/TraceView.h"
 #include "desktop/window/TreePane.h"
@@ -50,6 +51,8 @@ class MainWindow final : public QMainWindow {
   void Follow();
   /// Goes to a node, as a click on it does.
   void GoTo(const std::string& key);
+  /// Goes to a field of the configuration: its page, its alarm configuration, its control.
+  void GoToField(PageId page, const FieldId& field);
   LayoutContext Context();
   PageArea& Pages() { return *pages_; }
   TreePane& Tree() { return *tree_; }
@@ -91,6 +94,9 @@ class MainWindow final : public QMainWindow {
   void ShowFault();
   void Rest(bool rests);
   void ShowMissing();
+  /// Shows the table of a group in the place of a page, or below that of the group; or the page
+  /// alone.
+  void ShowGroup(const std::string& key);
   void ShowTransfer();
   void ShowSession();
   /// What an event of the configurator does, once the window follows it.
@@ -119,6 +125,8 @@ class MainWindow final : public QMainWindow {
   void KeepPlace();
   /// Whether a file may be replaced that holds what this program does not write.
   bool MayLose(const std::string& path, const std::vector<std::string>& lost);
+  /// Whether a file may be replaced that is protected, for a reason in English.
+  bool MayReplace(const std::string& path, const std::string& why);
   /// True when the present configuration may go: nothing is unsaved, or the operator says so.
   bool MayLeave();
 
@@ -133,11 +141,15 @@ class MainWindow final : public QMainWindow {
   std::string shownNode_;  ///< key of the node in front
   std::string shownFile_;  ///< file whose configuration is worked on; empty for none
   PageArea* pages_;
+  GroupTable* group_;
   LinkPanel* link_;
   TraceView* trace_;
+  FindingsPanel* findings_;
+  Overview overview_;
   QToolBar* bar_ = nullptr;
   QAction *open_ = nullptr, *save_ = nullptr, *language_ = nullptr, *recentFiles_ = nullptr,
-          *safetyCopies_ = nullptr, *compare_ = nullptr, *traceSwitch_ = nullptr;
+          *safetyCopies_ = nullptr, *compare_ = nullptr, *traceSwitch_ = nullptr,
+          *findingsSwitch_ = nullptr;
   bool following_ = false;
   bool isWriting_ = false;  ///< a writing with its guards is under way
   bool traceShown_ = false;

@@ -47,6 +47,12 @@ void MainWindow::MakeToolBar() {
   connect(trace_, &QDockWidget::visibilityChanged, this, [this](bool) {
     if (trace_->isHidden()) traceSwitch_->setChecked(false);
   });
+  findingsSwitch_ = AddAction(Sign::Findings, QKeySequence("Ctrl+E"), {});
+  findingsSwitch_->setCheckable(true);
+  connect(findingsSwitch_, &QAction::toggled, findings_, &QWidget::setVisible);
+  connect(findings_, &QDockWidget::visibilityChanged, this, [this](bool) {
+    if (findings_->isHidden()) findingsSwitch_->setChecked(false);
+  });
   bar_->addSeparator();
   language_ = AddAction(Sign::Language, {}, [this] { AskLanguage(); });
 }
@@ -87,7 +93,11 @@ void MainWindow::Retranslate() {
        Words::tr("Configurations read from loggers or sent to them"));
   name(compare_, Words::tr("Compare"), Words::tr("Compare the configuration with a file"));
   name(traceSwitch_, Words::tr("Trace"), Words::tr("Show what goes over the line"));
+  name(findingsSwitch_, Words::tr("Findings"),
+       Words::tr("Show what the check finds in the configuration"));
   tree_->Retranslate();
+  findings_->Retranslate();
+  overview_.Forget();
   trace_->Retranslate();
   link_->Retranslate();
 }

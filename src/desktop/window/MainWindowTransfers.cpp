@@ -6,11 +6,11 @@
 #include "desktop/window/FaultText.h"
 #include "desktop/window/MainWindow.h"
 #include "desktop/window/WriteDialog.h"
+#include "link/UploadPlan.h"
 #include "platform/Dialogs.h"
 #include "shell/Configurator.h"
 #include "shell/GuardedWrite.h"
 #include "shell/RecordCounts.h"
-#include "shell/UploadPlan.h"
 #include "shell/WriteDoubts.h"
 
 namespace ostrel {

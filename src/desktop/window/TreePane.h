@@ -8,6 +8,7 @@
 #include <string_view>
 #include <vector>
 
+#include "shell/ChannelOverview.h"
 #include "shell/NavigationTree.h"
 
 class QLineEdit;
@@ -26,6 +27,10 @@ class TreePane final : public QWidget {
   /// Paints nodes red or not, as the predicate says of their keys. `mark` are words for those who
   /// do not see the colour.
   void Paint(const std::function<bool(const std::string& key)>& isRed, const QString& mark);
+  /// Puts names and marks beside the texts of nodes. A group shows the marks of what is below it.
+  void Decorate(const FactTable& facts);
+  /// The text of a node; empty when there is none.
+  QString TextOf(std::string_view key) const;
   bool Has(std::string_view key) const { return Find(key) != nullptr; }
   /// The window's own words anew.
   void Retranslate();
@@ -42,6 +47,8 @@ class TreePane final : public QWidget {
   void Filter(const QString& text);
   bool FilterItem(QTreeWidgetItem& item, const QString& text, bool parentMatches);
   std::set<QString> OpenKeys() const;
+  /// Decorates an item and what is below it. Gives the marks of both.
+  int DecorateItem(QTreeWidgetItem& item, const FactTable& facts);
   QTreeWidgetItem* Find(std::string_view key) const;
 
   QLineEdit* filter_;

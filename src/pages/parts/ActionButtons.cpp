@@ -12,6 +12,22 @@ ActionButtons::ActionButtons(Form& form, const ControlNames& names, bool hasNorm
   BotonNormal->OnClick = [this] { OnActions(&AlarmBlock::ACTNO); };
 }
 
+void ActionButtons::ShowCounts(const AlarmBlock& alarm) {
+  const auto count = [](const ActionList& list) {
+    int actions = 0;
+    for (int place = 0; place < kActionPlaces; ++place) actions += list[place] > 0 ? 1 : 0;
+    return actions;
+  };
+  BotonAlto.SetCount(count(alarm.ACTHI));
+  BotonBajo.SetCount(count(alarm.ACTLO));
+  if (BotonNormal) BotonNormal->SetCount(count(alarm.ACTNO));
+}
+
+const std::string& ActionButtons::CaptionOf(ActionList AlarmBlock::*list) const {
+  if (list == &AlarmBlock::ACTHI) return BotonAlto.face.Caption();
+  return list == &AlarmBlock::ACTLO ? BotonBajo.face.Caption() : BotonNormal->face.Caption();
+}
+
 void ActionButtons::SetEnabled(bool enabled) {
   BotonAlto.face.SetEnabled(enabled);
   BotonBajo.face.SetEnabled(enabled);

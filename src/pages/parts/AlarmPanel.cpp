@@ -44,6 +44,7 @@ void AlarmPanel::LoadHead(const AlarmBlock& alarm) {
   NotVoz.SetSelected(bool(alarm.VOZ));
   NotGPRS.SetSelected(bool(alarm.GPRS));
   TextoAlarma.SetText(alarm.TEXTO);
+  actions_.ShowCounts(alarm);
 }
 
 void AlarmPanel::SaveCommon(AlarmBlock& alarm) const {

@@ -129,7 +129,8 @@ void PseudoTerminal::Deliver() {
 }
 
 void PseudoTerminal::Send(std::string_view octets) {
-  if (inUse_) toProgram_.Put(octets);
+  const std::size_t kept = toProgram_.Underway() + unwritten_.size();
+  if (inUse_ && kept < kMostUnwritten) toProgram_.Put(octets);
 }
 
 /// Hands what has come off the line to the terminal, as far as that has room.

@@ -1,10 +1,13 @@
 #include "platform/qt/QtFiles.h"
 
 #include <fcntl.h>
+#include <signal.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
+#include <charconv>
 #include <cstdio>
 #include <filesystem>
 #include <system_error>
@@ -16,6 +19,11 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr int kMostLinks = 40;
+constexpr std::string_view kUnfinished = "~ostrel-";  // between a file's name and a process
+constexpr mode_t kPermissions = 0777;
+constexpr mode_t kWritable = 0222;
+constexpr mode_t kOwnFile = 0600;
+constexpr mode_t kOwnFolder = 0700;
 constexpr mode_t kAnyNewFile = 0666;  // less what the process's mask takes away
 
 /// An open file, closed at the end of its scope.
@@ -60,28 +68,72 @@ bool WriteAll(int handle, std::string_view octets) {
   return true;
 }
 
+/// Reads to the end, or beyond the most that is read of a file.
+bool ReadAll(int handle, std::string& octets) {
+  while (octets.size() <= kMostFileOctets) {
+    constexpr std::size_t kBlock = 65'536;
+    const std::size_t size = octets.size();
+    octets.resize(size + kBlock);
+    const ssize_t got = ::read(handle, octets.data() + size, kBlock);
+    octets.resize(size + static_cast<std::size_t>(got > 0 ? got : 0));
+    if (got < 0 && errno != EINTR) return false;
+    if (got == 0) break;
+  }
+  return true;
+}
+
+/// Brings a change of the folder of a file to the disk. A folder that cannot be read or synced, as
+/// on some network drives, is no reason to fail.
+FileResult SyncFolderOf(const std::string& path) {
+  const fs::path folder = fs::path(path).parent_path();
+  const Handle handle(folder.empty() ? "." : folder.string(), O_RDONLY | O_DIRECTORY);
+  return Outcome(!handle || SyncHandle(handle.Number()) || errno == EINVAL);
+}
+
+/// Whether a temporary file of this ending was left by a process that is gone, or by a former one
+/// of this process's number.
+bool IsLeftOver(std::string_view ending) {
+  pid_t process = 0;
+  const auto [end, error] = std::from_chars(ending.data(), ending.data() + ending.size(), process);
+  if (error != std::errc() || end != ending.data() + ending.size() || process <= 0) return false;
+  return process == ::getpid() || (::kill(process, 0) != 0 && errno == ESRCH);
+}
+
 }  // namespace
 
-std::optional<std::string> QtFiles::Read(const std::string& path) {
+FileResult QtFiles::ReadInto(const std::string& path, std::string& octets) {
+  octets.clear();
   // Non-blocking, so that a pipe by this name cannot hold the program up.
   const Handle file(path, O_RDONLY | O_NONBLOCK);
   struct stat state {};
-  if (!file || ::fstat(file.Number(), &state) != 0 || !S_ISREG(state.st_mode)) return std::nullopt;
-  std::string content;
-  while (true) {
-    constexpr std::size_t kBlock = 65'536;
-    const std::size_t size = content.size();
-    content.resize(size + kBlock);
-    const ssize_t got = ::read(file.Number(), content.data() + size, kBlock);
-    if (got < 0 && errno != EINTR) return std::nullopt;
-    content.resize(size + static_cast<std::size_t>(got > 0 ? got : 0));
-    if (got == 0) return content;
+  if (!file || ::fstat(file.Number(), &state) != 0) return Outcome(false);
+  if (!S_ISREG(state.st_mode)) return {"it is no regular file"};
+  const bool isLarge = state.st_size > static_cast<off_t>(kMostFileOctets);
+  if (!isLarge && !ReadAll(file.Number(), octets)) {
+    const FileResult failed = Outcome(false);
+    octets.clear();
+    return failed;
   }
+  if (!isLarge && octets.size() <= kMostFileOctets) return {};
+  octets.clear();
+  return {"it is larger than 16 MB"};
 }
 
 bool QtFiles::Exists(const std::string& path) {
   std::error_code error;
   return fs::exists(path, error);
+}
+
+std::vector<std::string> QtFiles::List(const std::string& folder) {
+  std::vector<std::string> names;
+  std::error_code error;
+  fs::directory_iterator entry(folder, error);
+  for (const fs::directory_iterator end; !error && entry != end; entry.increment(error)) {
+    std::error_code ignored;
+    if (entry->is_regular_file(ignored)) names.push_back(entry->path().filename().string());
+  }
+  std::ranges::sort(names);
+  return names;
 }
 
 std::string QtFiles::Resolve(const std::string& path) {
@@ -95,9 +147,50 @@ std::string QtFiles::Resolve(const std::string& path) {
   return target.string();
 }
 
+FileResult QtFiles::MayReplace(const std::string& path) {
+  struct stat state {};
+  if (::stat(path.c_str(), &state) != 0) {
+    if (errno == ELOOP) return {"it is a link that leads in a circle"};
+    return {};  // nothing stands there, or what is wrong shows at the writing
+  }
+  // The bits count also for who may write everywhere.
+  const bool isReadOnly =
+      S_ISREG(state.st_mode) &&
+      ((state.st_mode & kWritable) == 0 || (::access(path.c_str(), W_OK) != 0 && errno == EACCES));
+  return isReadOnly ? FileResult{"it is read-only"} : FileResult{};
+}
+
+std::string QtFiles::TemporaryBeside(const std::string& path) {
+  const fs::path folder = fs::path(path).parent_path();
+  const std::string start = fs::path(path).filename().string() + std::string(kUnfinished);
+  std::error_code error;
+  fs::directory_iterator entry(folder.empty() ? fs::path(".") : folder, error);
+  for (const fs::directory_iterator end; !error && entry != end; entry.increment(error)) {
+    const std::string name = entry->path().filename().string();
+    if (name.starts_with(start) && IsLeftOver(std::string_view(name).substr(start.size())))
+      Remove(entry->path().string());
+  }
+  return path + std::string(kUnfinished) + std::to_string(::getpid());
+}
+
 FileResult QtFiles::Create(const std::string& path) {
   const Handle file(path, O_WRONLY | O_CREAT | O_EXCL);
   return Outcome(bool(file));
+}
+
+FileResult QtFiles::CopyMode(const std::string& from, const std::string& to) {
+  struct stat state {};
+  const Handle file(to, O_WRONLY);
+  if (!file || ::stat(from.c_str(), &state) != 0) return Outcome(false);
+  // Only who may do everything can give a file away; for others it stays their own.
+  [[maybe_unused]] const int given = ::fchown(file.Number(), state.st_uid, state.st_gid);
+  return Outcome(::fchmod(file.Number(), state.st_mode & kPermissions) == 0);
+}
+
+FileResult QtFiles::Protect(const std::string& path) {
+  std::error_code error;
+  const mode_t mode = fs::is_directory(path, error) ? kOwnFolder : kOwnFile;
+  return Outcome(::chmod(path.c_str(), mode) == 0);
 }
 
 FileResult QtFiles::Write(const std::string& path, std::string_view octets) {
@@ -115,11 +208,17 @@ FileResult QtFiles::Rename(const std::string& from, const std::string& to) {
   if (std::error_code error; fs::exists(to, error) && !fs::is_regular_file(to, error))
     return {"what stands there is no file to replace"};
   if (std::rename(from.c_str(), to.c_str()) != 0) return Outcome(false);
-  const fs::path folder = fs::path(to).parent_path();
-  const Handle handle(folder.empty() ? "." : folder.string(), O_RDONLY | O_DIRECTORY);
-  // A folder that cannot be read or synced, as on some network drives, is no reason to fail.
-  const bool synced = !handle || SyncHandle(handle.Number()) || errno == EINVAL;
-  return Outcome(synced);
+  return SyncFolderOf(to);
+}
+
+FileResult QtFiles::MoveToNew(const std::string& from, const std::string& to) {
+  // A second name and then the first one taken away, where the system has no such move.
+  const bool moved =
+      ::renameat2(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), RENAME_NOREPLACE) == 0 ||
+      (errno != EEXIST && ::link(from.c_str(), to.c_str()) == 0 && ::unlink(from.c_str()) == 0);
+  if (moved) return SyncFolderOf(to);
+  const bool stands = errno == EEXIST;
+  return {Outcome(false).error, stands};
 }
 
 FileResult QtFiles::Remove(const std::string& path) { return Outcome(::unlink(path.c_str()) == 0); }

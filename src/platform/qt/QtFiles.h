@@ -1,8 +1,8 @@
 #pragma once
 
-#include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "platform/Files.h"
 
@@ -11,15 +11,21 @@ namespace ostrel {
 /// The file system of the machine.
 class QtFiles final : public Files {
  public:
-  /// Nothing also for what is no regular file.
-  std::optional<std::string> Read(const std::string& path) override;
+  FileResult ReadInto(const std::string& path, std::string& octets) override;
   bool Exists(const std::string& path) override;
+  std::vector<std::string> List(const std::string& folder) override;
   std::string Resolve(const std::string& path) override;
+  FileResult MayReplace(const std::string& path) override;
+  /// The name bears the number of this process. A file whose process is gone was left by a kill.
+  std::string TemporaryBeside(const std::string& path) override;
   FileResult Create(const std::string& path) override;
+  FileResult CopyMode(const std::string& from, const std::string& to) override;
+  FileResult Protect(const std::string& path) override;
   FileResult Write(const std::string& path, std::string_view octets) override;
   FileResult Sync(const std::string& path) override;
   /// Brings the change of the folder to the disk, too.
   FileResult Rename(const std::string& from, const std::string& to) override;
+  FileResult MoveToNew(const std::string& from, const std::string& to) override;
   FileResult Remove(const std::string& path) override;
   FileResult MakeFolder(const std::string& path) override;
 };

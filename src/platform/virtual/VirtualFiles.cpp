@@ -6,8 +6,10 @@ namespace ostrel {
 namespace {
 
 constexpr int kMostLinks = 40;
-constexpr std::array<std::string_view, 6> kChangeNames = {"create", "write",  "sync",
-                                                          "rename", "remove", "folder"};
+constexpr std::array<std::string_view, 8> kChangeNames = {"create", "mode", "write",  "sync",
+                                                          "rename", "move", "remove", "folder"};
+constexpr int kUsualMode = 0644;
+constexpr int kOwnerWrites = 0200;
 
 }  // namespace
 
@@ -33,15 +35,27 @@ bool VirtualFiles::Fails(Change kind, const std::string& what) {
          (failFrom_ && changes_ >= *failFrom_);
 }
 
-std::optional<std::string> VirtualFiles::Read(const std::string& path) {
+FileResult VirtualFiles::ReadInto(const std::string& path, std::string& octets) {
+  octets.clear();
   const auto found = contents.find(Resolve(path));
-  if (found == contents.end()) return std::nullopt;
-  return found->second;
+  if (found == contents.end()) return {"no such file"};
+  if (found->second.size() > kMostFileOctets) return {"it is larger than 16 MB"};
+  octets = found->second;
+  return {};
 }
 
 bool VirtualFiles::Exists(const std::string& path) {
   const std::string target = Resolve(path);
   return contents.contains(target) || folders.contains(target);
+}
+
+std::vector<std::string> VirtualFiles::List(const std::string& folder) {
+  std::vector<std::string> names;
+  const std::string start = folder + "/";
+  for (const auto& [path, octets] : contents)
+    if (path.starts_with(start) && path.find('/', start.size()) == std::string::npos)
+      names.push_back(path.substr(start.size()));
+  return names;
 }
 
 std::string VirtualFiles::Resolve(const std::string& path) {
@@ -54,10 +68,38 @@ std::string VirtualFiles::Resolve(const std::string& path) {
   return target;
 }
 
+FileResult VirtualFiles::MayReplace(const std::string& path) {
+  const std::string target = Resolve(path);
+  if (links.contains(target)) return {"it is a link that leads in a circle"};
+  const auto mode = modes.find(target);
+  const bool isReadOnly = mode != modes.end() && (mode->second & kOwnerWrites) == 0;
+  return {isReadOnly && contents.contains(target) ? "it is read-only" : ""};
+}
+
+std::string VirtualFiles::TemporaryBeside(const std::string& path) {
+  const std::string name = path + "~ostrel-1";
+  contents.erase(name);
+  links.erase(name);
+  return name;
+}
+
 FileResult VirtualFiles::Create(const std::string& path) {
   if (Fails(Change::Create, path)) return {"cannot create"};
   if (contents.contains(path) || links.contains(path)) return {"exists"};
   contents[path];
+  return {};
+}
+
+FileResult VirtualFiles::CopyMode(const std::string& from, const std::string& to) {
+  if (Fails(Change::Mode, to)) return {"cannot set the mode"};
+  const auto mode = modes.find(from);
+  modes[to] = mode == modes.end() ? kUsualMode : mode->second;
+  return {};
+}
+
+FileResult VirtualFiles::Protect(const std::string& path) {
+  if (Fails(Change::Mode, path)) return {"cannot set the mode"};
+  modes[path] = folders.contains(path) ? 0700 : 0600;
   return {};
 }
 
@@ -76,11 +118,24 @@ FileResult VirtualFiles::Sync(const std::string& path) {
 
 FileResult VirtualFiles::Rename(const std::string& from, const std::string& to) {
   if (Fails(Change::Rename, from + " " + to)) return {"cannot rename"};
-  auto moved = contents.extract(from);
-  if (moved.empty()) return {"no such file"};
-  links.erase(to);
-  contents[to] = std::move(moved.mapped());
+  if (!contents.contains(from)) return {"no such file"};
+  Move(from, to);
   return {};
+}
+
+FileResult VirtualFiles::MoveToNew(const std::string& from, const std::string& to) {
+  if (Fails(Change::MoveToNew, from + " " + to)) return {"cannot move"};
+  if (contents.contains(to) || links.contains(to)) return {"exists", true};
+  if (!contents.contains(from)) return {"no such file"};
+  Move(from, to);
+  return {};
+}
+
+void VirtualFiles::Move(const std::string& from, const std::string& to) {
+  links.erase(to);
+  contents[to] = std::move(contents.extract(from).mapped());
+  modes.erase(to);
+  if (auto mode = modes.extract(from)) modes[to] = mode.mapped();
 }
 
 FileResult VirtualFiles::Remove(const std::string& path) {

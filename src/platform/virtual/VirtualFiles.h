@@ -17,12 +17,13 @@ namespace ostrel {
 /// change can be made to fail. Folders are not asked for: a file may stand anywhere.
 class VirtualFiles final : public Files {
  public:
-  enum class Change { Create, Write, Sync, Rename, Remove, MakeFolder };
+  enum class Change { Create, Mode, Write, Sync, Rename, MoveToNew, Remove, MakeFolder };
 
   std::map<std::string, std::string> contents;  ///< octets by path
   std::map<std::string, std::string> links;     ///< symbolic links: where each path leads
   std::set<std::string> folders;
-  std::vector<std::string> log;  ///< one line a change tried: "rename /a.new0 /a"
+  std::map<std::string, int> modes;  ///< permissions by path, where they are not 0644
+  std::vector<std::string> log;      ///< one line a change tried: "rename /a.new0 /a"
 
   /// Makes the n-th change from now fail, counted from 1. A failing write leaves half the octets.
   void FailOperation(std::size_t n);
@@ -33,17 +34,25 @@ class VirtualFiles final : public Files {
   /// Nothing fails any more.
   void Heal();
 
-  std::optional<std::string> Read(const std::string& path) override;
+  FileResult ReadInto(const std::string& path, std::string& octets) override;
   bool Exists(const std::string& path) override;
+  std::vector<std::string> List(const std::string& folder) override;
   std::string Resolve(const std::string& path) override;
+  FileResult MayReplace(const std::string& path) override;
+  /// One process saves here: always the same name.
+  std::string TemporaryBeside(const std::string& path) override;
   FileResult Create(const std::string& path) override;
+  FileResult CopyMode(const std::string& from, const std::string& to) override;
+  FileResult Protect(const std::string& path) override;
   FileResult Write(const std::string& path, std::string_view octets) override;
   FileResult Sync(const std::string& path) override;
   FileResult Rename(const std::string& from, const std::string& to) override;
+  FileResult MoveToNew(const std::string& from, const std::string& to) override;
   FileResult Remove(const std::string& path) override;
   FileResult MakeFolder(const std::string& path) override;
 
  private:
+  void Move(const std::string& from, const std::string& to);
   bool Fails(Change kind, const std::string& what);
 
   std::size_t changes_ = 0;

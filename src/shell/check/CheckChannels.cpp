@@ -14,8 +14,7 @@ namespace ostrel {
 namespace {
 
 /// A finding at one field of a record.
-Finding AtField(const SectionMeta& section, int channel, std::string_view word,
-                std::string sentence) {
+Finding AtField(const SectionMeta& section, int channel, std::string_view word, Phrase sentence) {
   return {SectionName(section, channel), std::string(word), std::move(sentence)};
 }
 
@@ -120,9 +119,9 @@ std::vector<Finding> WrongOrderOfThresholds(const Examined& file) {
     const auto levels = table.Of(place);
     if (levels.minimum > levels.maximum)
       found.push_back(AtAlarm(place, "MINIMO",
-                              "the minimum " + InWords(levels.minimum) +
-                                  " lies above the maximum " + InWords(levels.maximum) +
-                                  ", so that every value is in alarm: exchange them"));
+                              {"the minimum %1 lies above the maximum %2, so that every value is "
+                               "in alarm: exchange them",
+                               {InWords(levels.minimum), InWords(levels.maximum)}}));
   });
   return found;
 }
@@ -134,11 +133,11 @@ std::vector<Finding> WideHysteresis(const Examined& file) {
     const auto levels = table.Of(place);
     const float band = levels.maximum - levels.minimum;
     if (band >= 0 && levels.hysteresis > band)
-      found.push_back(AtAlarm(place, "HISTERESIS",
-                              "the hysteresis " + InWords(levels.hysteresis) +
-                                  " is larger than the band from " + InWords(levels.minimum) +
-                                  " to " + InWords(levels.maximum) +
-                                  ", so that the alarm cannot end: make it smaller"));
+      found.push_back(AtAlarm(
+          place, "HISTERESIS",
+          {"the hysteresis %1 is larger than the band from %2 to %3, so that "
+           "the alarm cannot end: make it smaller",
+           {InWords(levels.hysteresis), InWords(levels.minimum), InWords(levels.maximum)}}));
   });
   return found;
 }
@@ -149,10 +148,9 @@ std::vector<Finding> AlarmsOfSilentChannels(const Examined& file) {
   VisitEnabledAlarms(file, [&](const AlarmPlace& place, const AlarmBlock&) {
     const std::string reason = silent.Reason(place);
     if (!reason.empty())
-      found.push_back(AtAlarm(place, "HABIL",
-                              "the alarm is enabled, but " + reason +
-                                  ": set up one or the "
-                                  "other"));
+      found.push_back(
+          AtAlarm(place, "HABIL",
+                  Phrase("the alarm is enabled, but " + reason + ": set up one or the other")));
   });
   return found;
 }
@@ -177,8 +175,9 @@ std::vector<Finding> OddBitRates(const Examined& file) {
   const std::int32_t rate = file.Conf().ModbusBus.BAUD;
   if (file.Model().ModbusCount <= 0 || std::ranges::count(kModbusBitRates, rate) > 0) return {};
   return {AtField(ModbusBus::kSection, -1, "BAUD",
-                  std::to_string(rate) + " is no bit rate of the bus: choose 1200, 2400, 4800, "
-                                         "9600, 19200, 38400 or 57600")};
+                  {"%1 is no bit rate of the bus: choose 1200, 2400, 4800, 9600, 19200, 38400 or "
+                   "57600",
+                   {std::to_string(rate)}})};
 }
 
 std::vector<Finding> ModbusNotKept(const Examined& file) {
@@ -210,9 +209,10 @@ std::vector<Finding> SharedExpansionInputs(const Examined& file) {
     const auto [first, isNew] = users.emplace(std::pair(input.DIR, input.ENTRADA), number);
     if (!isNew)
       found.push_back(AtField(ExpansionInputs::kFrame, number, "ENTRADA",
-                              "module address " + std::to_string(input.DIR) + ", input " +
-                                  std::to_string(input.ENTRADA) + " is that of expansion input " +
-                                  std::to_string(first->second) + ", too: give each its own"));
+                              {"module address %1, input %2 is that of expansion input %3, too: "
+                               "give each its own",
+                               {std::to_string(input.DIR), std::to_string(input.ENTRADA),
+                                std::to_string(first->second)}}));
   });
   return found;
 }
@@ -238,8 +238,8 @@ std::vector<Finding> ExpansionOutOfRange(const Examined& file) {
     for (const auto& [word, member, last] : kBounds)
       if (!IsWithin(input.*member, last))
         found.push_back(AtField(ExpansionInputs::kFrame, number, word,
-                                std::to_string(input.*member) + " is not within 0 to " +
-                                    std::to_string(last) + ": choose another one"));
+                                {"%1 is not within 0 to %2: choose another one",
+                                 {std::to_string(input.*member), std::to_string(last)}}));
   });
   return found;
 }

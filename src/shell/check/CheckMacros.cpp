@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <array>
 #include <map>
+#include <optional>
 
 #include "base/Utf8.h"
 #include "blocks/GprsParameters.h"
@@ -17,7 +18,7 @@ struct PooledLine {
   MacroLine line;
 };
 
-Finding AtPlace(int place, std::string sentence) {
+Finding AtPlace(int place, Phrase sentence) {
   const FieldId id{&MacroPool::kSection, -1, "LINE", {.place = place}};
   return {SectionName(id), KeyName(id, PlaceForm::InBrackets), std::move(sentence)};
 }
@@ -43,12 +44,14 @@ class SentPool {
       (one.line.isEquation ? equations_ : macros_)[one.line.number] = !one.line.command.empty();
   }
   bool HasEquation(int number) const { return equations_.contains(number); }
-  /// Why starting a macro does nothing; empty where it does something.
-  std::string WhyNothing(int number) const {
+  /// Why starting a macro does nothing; nothing where it does something.
+  std::optional<Phrase> WhyNothing(int number) const {
     const auto found = macros_.find(number);
-    const std::string name = "macro " + std::to_string(number);
-    if (found == macros_.end()) return "there is no " + name + ": write it or choose another one";
-    return found->second ? "" : name + " is empty: give it a command or choose another one";
+    const std::string name = std::to_string(number);
+    if (found == macros_.end())
+      return Phrase{"macro %1 does not exist: write it or choose another one", {name}};
+    if (found->second) return {};
+    return Phrase{"macro %1 is empty: give it a command or choose another one", {name}};
   }
 
  private:
@@ -87,8 +90,8 @@ std::vector<Finding> EquationsWithoutFlag(const Examined& file) {
   std::vector<Finding> found;
   for (const auto& [place, line] : SentLines(file))
     if (line.isEquation && line.number >= kEquations)
-      found.push_back(AtPlace(place, "there is no flag " + NameOf(line) +
-                                         ": equations are F0 to F15, so choose one of these"));
+      found.push_back(
+          AtPlace(place, {"there is no flag %1: equations are F0 to F15", {NameOf(line)}}));
   return found;
 }
 
@@ -98,9 +101,9 @@ std::vector<Finding> MacrosBeyondMemory(const Examined& file) {
     used += CharacterCount(file.Conf().Macro.LINE[place]);
   constexpr std::size_t kRoom = kMacroMemory;
   if (used <= kRoom) return {};
-  return {AtPlace(0, "the lines have " + std::to_string(used - kRoom) +
-                         " characters more than the 1024 that a logger has room for: shorten or "
-                         "remove some")};
+  return {AtPlace(0, {"the lines have %1 characters more than the 1024 that a logger has room for: "
+                      "shorten or remove some",
+                      {std::to_string(used - kRoom)}})};
 }
 
 std::vector<Finding> UnsentMacros(const Examined& file) {
@@ -111,11 +114,10 @@ std::vector<Finding> UnsentMacros(const Examined& file) {
     first = place;
   }
   if (unsent == 0) return {};
-  const bool isOne = unsent == 1;
-  return {AtPlace(first, (isOne ? std::string("this line stands")
-                                : "this and " + std::to_string(unsent - 1) + " more lines stand") +
-                             " behind the 40 that a logger gets, and " + (isOne ? "is" : "are") +
-                             " left out of an upload: remove what is not needed")};
+  return {
+      AtPlace(first, {"a logger gets the first 40 lines, and %1 are left out of an upload: remove "
+                      "what is not needed",
+                      {std::to_string(unsent)}})};
 }
 
 std::vector<Finding> RepeatedMacros(const Examined& file) {
@@ -126,9 +128,8 @@ std::vector<Finding> RepeatedMacros(const Examined& file) {
     if (!line) continue;
     const auto [former, isNew] = places.try_emplace(NameOf(*line), place);
     if (isNew) continue;
-    found.push_back(AtPlace(place, NameOf(*line) + " stands in line " +
-                                       std::to_string(former->second) +
-                                       " already: give one of them another number"));
+    found.push_back(AtPlace(place, {"%1 stands in line %2 already: give one of them another number",
+                                    {NameOf(*line), std::to_string(former->second)}}));
   }
   return found;
 }
@@ -138,9 +139,8 @@ std::vector<Finding> ActionsWithoutMacro(const Examined& file) {
   const SentPool pool(file);
   EachSent(file, FieldSense::Action, [&](const ConstField& field, int action) {
     if (action > kMacrosOfActions) return;
-    if (const std::string why = pool.WhyNothing(action - 1); !why.empty())
-      found.push_back({field.Section(), field.Key(),
-                       "action " + std::to_string(action) + " starts nothing, for " + why});
+    if (auto why = pool.WhyNothing(action - 1))
+      found.push_back({field.Section(), field.Key(), std::move(*why)});
   });
   return found;
 }
@@ -151,9 +151,11 @@ std::vector<Finding> ConditionsWithoutEquation(const Examined& file) {
   EachSent(file, FieldSense::Condition, [&](const ConstField& field, int condition) {
     const int flag = condition - 1;
     if (pool.HasEquation(flag)) return;
-    found.push_back({field.Section(), field.Key(),
-                     "flag F" + std::to_string(flag) +
-                         " is the condition, and no equation sets it: write one or choose TRUE"});
+    found.push_back(
+        {field.Section(),
+         field.Key(),
+         {"flag F%1 is the condition, and no equation sets it: write one or choose TRUE",
+          {std::to_string(flag)}}});
   });
   return found;
 }
@@ -163,10 +165,11 @@ std::vector<Finding> VoiceCallsWithoutMacro(const Examined& file) {
   const std::string section = SectionName(VoiceNumbers::kSection, -1);
   // A file without the key has chosen none.
   if (macro < 0 || !file.Document().Find(section, "MACRO")) return {};
-  std::string why = SentPool(file).WhyNothing(macro);
-  if (macro >= kVoiceMacros) why = "voice calls start macros 0 to 39: choose one of these or none";
-  if (why.empty()) return {};
-  return {{section, "MACRO", std::move(why)}};
+  auto why = SentPool(file).WhyNothing(macro);
+  if (macro >= kVoiceMacros)
+    why = Phrase{"voice calls start macros 0 to 39: choose one of these or none"};
+  if (!why) return {};
+  return {{section, "MACRO", std::move(*why)}};
 }
 
 std::vector<Finding> GprsWithoutApn(const Examined& file) {
@@ -176,10 +179,10 @@ std::vector<Finding> GprsWithoutApn(const Examined& file) {
     if (alarm.GPRS) ++alarms;
   });
   if (alarms == 0) return {};
-  return {{SectionName(GprsParameters::kSection, -1), "APN_SERVER",
-           (alarms == 1 ? std::string("an alarm notifies")
-                        : std::to_string(alarms) + " alarms notify") +
-               " by GPRS, and there is no APN: give one"}};
+  return {{SectionName(GprsParameters::kSection, -1),
+           "APN_SERVER",
+           {"alarms notify by GPRS, %1 in all, and there is no APN: give one",
+            {std::to_string(alarms)}}}};
 }
 
 std::vector<Finding> GprsWithoutServer(const Examined& file) {

@@ -16,7 +16,6 @@ namespace ostrel {
 namespace {
 
 constexpr std::size_t kMostStatements = 999;
-constexpr std::size_t kShortestNumber = 3;
 
 /// The text of a field that is one or has one; null for others.
 const std::string* TextOf(const FieldView& field) {
@@ -63,9 +62,10 @@ std::vector<Finding> BrokenTexts(const Examined& file) {
 std::vector<Finding> TooManyStatements(const Examined& file) {
   const std::size_t count = file.StatementCount();
   if (count <= kMostStatements) return {};
-  return {{"", "",
-           std::to_string(count) + " statements, and their numbers have three digits: "
-                                   "set up less"}};
+  return {{"",
+           "",
+           {"%1 statements, and their numbers have three digits: set up less",
+            {std::to_string(count)}}}};
 }
 
 std::vector<Finding> LongTexts(const Examined& file) {
@@ -75,9 +75,10 @@ std::vector<Finding> LongTexts(const Examined& file) {
     if (!text || field.meta.longest == 0) continue;
     const auto length = static_cast<int>(CharacterCount(*text));
     if (length > field.meta.longest)
-      found.push_back({field.Section(), field.Key(),
-                       std::to_string(length) + " characters, and its box takes " +
-                           std::to_string(field.meta.longest) + ": shorten it"});
+      found.push_back({field.Section(),
+                       field.Key(),
+                       {"%1 characters, and its box takes %2: shorten it",
+                        {std::to_string(length), std::to_string(field.meta.longest)}}});
   }
   return found;
 }
@@ -85,14 +86,15 @@ std::vector<Finding> LongTexts(const Examined& file) {
 std::vector<Finding> CutValues(const Examined& file) {
   std::vector<Finding> found;
   std::string section;
-  file.Document().Visit([&](std::string_view name) { section = name; },
-                        [&](std::string_view key, std::string_view value) {
-                          if (CharacterCount(value) <= kProfileValueLimit) return;
-                          found.push_back({section, std::string(key),
-                                           std::to_string(CharacterCount(value)) +
-                                               " characters, of which only the first 254 are read: "
-                                               "shorten it"});
-                        });
+  file.Document().Visit(
+      [&](std::string_view name) { section = name; },
+      [&](std::string_view key, std::string_view value) {
+        if (CharacterCount(value) <= kProfileValueLimit) return;
+        found.push_back({section,
+                         std::string(key),
+                         {"%1 characters, of which only the first 254 are read: shorten it",
+                          {std::to_string(CharacterCount(value))}}});
+      });
   return found;
 }
 
@@ -119,9 +121,10 @@ std::vector<Finding> MisreadValues(const Examined& file) {
   for (const ConstField& field : file.Fields()) {
     const std::string* value = file.Document().Find(field.Section(), field.Key());
     if (!value || IsReadRight(field.value, *value, file.Model().IsS100)) continue;
-    found.push_back({field.Section(), field.Key(),
-                     *value + " is no value for this: it is read as " +
-                         std::string(Trimmed(file.ValueText(field)))});
+    found.push_back({field.Section(),
+                     field.Key(),
+                     {"%1 is no value for this: it is read as %2",
+                      {*value, std::string(Trimmed(file.ValueText(field)))}}});
   }
   return found;
 }
@@ -134,10 +137,12 @@ std::vector<Finding> MissingSections(const Examined& file) {
     if (!file.Document().SectionExists("", section)) missing.push_back(std::move(section));
   }
   if (missing.empty()) return {};
-  return {{missing.front(), "",
-           missing.size() == 1 ? "the section is missing, and is read as empty"
-                               : "this section and " + std::to_string(missing.size() - 1) +
-                                     " more are missing, and are read as empty"}};
+  if (missing.size() == 1)
+    return {{missing.front(), "", "the section is missing, and is read as empty"}};
+  return {{missing.front(),
+           "",
+           {"this section and %1 more are missing, and are read as empty",
+            {std::to_string(missing.size() - 1)}}}};
 }
 
 /// One finding a section. A free telephone slot has no key.
@@ -153,8 +158,9 @@ std::vector<Finding> MissingKeys(const Examined& file) {
       found.push_back({section, key, "the key is missing, and is read as empty"});
       missing = 0;
     } else {
-      found.back().sentence = "this key and " + std::to_string(++missing) +
-                              " more of the section are missing, and are read as empty";
+      found.back().sentence = {
+          "this key and %1 more of the section are missing, and are read as empty",
+          {std::to_string(++missing)}};
     }
   }
   return found;
@@ -170,9 +176,10 @@ std::vector<Finding> UnknownActions(const Examined& file) {
     const auto* number = std::get_if<const std::int16_t*>(&field.value);
     if (!number || field.meta.sense != FieldSense::Action || **number <= 0) continue;
     if (!offered.contains(**number))
-      found.push_back({field.Section(), field.Key(),
-                       "the " + file.Model().TargetName + " has no action " +
-                           std::to_string(**number) + ": choose another one or 0"});
+      found.push_back({field.Section(),
+                       field.Key(),
+                       {"the %1 has no action %2: choose another one or 0",
+                        {file.Model().TargetName, std::to_string(**number)}}});
   }
   return found;
 }
@@ -201,10 +208,11 @@ std::vector<Finding> UnsentMasks(const Examined& file) {
       if (!token.empty() && !IsShortMaskToken(token)) dropped += " " + token;
     }
     if (!dropped.empty())
-      found.push_back({field.Section(), field.Key(),
-                       "this firmware knows masks of DI0 to DI7 and AI0 to AI3 alone, so these "
-                       "are left out:" +
-                           dropped});
+      found.push_back({field.Section(),
+                       field.Key(),
+                       {"this firmware knows masks of DI0 to DI7 and AI0 to AI3 alone, so these "
+                        "are left out:%1",
+                        {dropped}}});
     if ((*phone)->MASKMODE == 2)
       found.push_back({field.Section(), field.Key(),
                        "this firmware takes a mask as the channels to include, never to exclude"});
@@ -218,13 +226,13 @@ std::vector<Finding> BadNumbers(const Examined& file) {
     if (const auto* text = std::get_if<const std::string*>(&field.value);
         text && field.id.section == &VoiceNumbers::kSection && !(*text)->empty() &&
         !IsIntText(**text))
-      found.push_back({field.Section(), field.Key(), **text + " is no telephone number"});
+      found.push_back({field.Section(), field.Key(), {"%1 is no telephone number", {**text}}});
   for (const ConstField& field : file.Fields()) {
     const auto* phone = std::get_if<const ConfPhone*>(&field.value);
     if (!phone || (*phone)->TLF.empty()) continue;
     const std::string& number = (*phone)->TLF;
     if (!IsIntText(number))
-      found.push_back({field.Section(), field.Key(), number + " is no telephone number"});
+      found.push_back({field.Section(), field.Key(), {"%1 is no telephone number", {number}}});
     else if (CharacterCount(number) < kShortestNumber)
       found.push_back({field.Section(), field.Key(),
                        "a number of fewer than 3 digits does not read back from a logger"});
@@ -232,7 +240,20 @@ std::vector<Finding> BadNumbers(const Examined& file) {
   return found;
 }
 
-constexpr std::array<Rule, 36> kRules{{
+std::vector<Finding> SharedNumbers(const Examined& file) {
+  std::vector<Finding> found;
+  std::set<std::string> seen;
+  for (const ConstField& field : file.Fields()) {
+    const auto* phone = std::get_if<const ConfPhone*>(&field.value);
+    if (!phone || (*phone)->TLF.empty() || seen.insert((*phone)->TLF).second) continue;
+    found.push_back({field.Section(),
+                     field.Key(),
+                     {"%1 stands in the list twice: remove one of them", {(*phone)->TLF}}});
+  }
+  return found;
+}
+
+constexpr std::array<Rule, 40> kRules{{
     {"text-breaks-statement", Severity::Error,
      "a comma, a brace or a control character in a text that is sent", BrokenTexts},
     {"too-many-statements", Severity::Error, "more statements than an upload can number",
@@ -298,6 +319,13 @@ constexpr std::array<Rule, 36> kRules{{
     {"mask-not-sent", Severity::Warning, "a telephone's mask that the firmware cannot hold",
      UnsentMasks},
     {"bad-telephone", Severity::Warning, "a telephone number that is none", BadNumbers},
+    {"telephone-twice", Severity::Warning, "a telephone that stands in the list twice",
+     SharedNumbers},
+    {"scale-useless", Severity::Warning, "a scale that spans nothing, or is the wrong way round",
+     UselessScales},
+    {"interface-unknown", Severity::Warning, "an interface that does not exist", UnknownInterfaces},
+    {"number-senseless", Severity::Warning, "a number far outside what anybody means",
+     SenselessNumbers},
 }};
 
 }  // namespace
@@ -334,8 +362,10 @@ std::string FindingText(const Finding& finding) {
   if (!finding.section.empty())
     text = "[" + Printable(finding.section) + "]" + (finding.key.empty() ? "" : " ") +
            Printable(finding.key) + ": ";
-  return text + Printable(finding.sentence);
+  return text + SentenceText(finding);
 }
+
+std::string SentenceText(const Finding& finding) { return Printable(Filled(finding.sentence)); }
 
 std::span<const Rule> Rules() { return kRules; }
 

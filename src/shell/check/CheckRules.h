@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "shell/ConfigurationFile.h"
+#include "shell/Phrase.h"
 #include "shell/SentProbe.h"
 #include "store/IniClass.h"
 
@@ -19,7 +20,7 @@ enum class Severity { Error, Warning };
 /// Something that a rule has found, with a sentence that helps.
 struct Finding {
   std::string section, key;  ///< as a file names them; empty where it is about none
-  std::string sentence;
+  Phrase sentence;
 };
 
 /// A configuration under examination, with what the rules ask of it.
@@ -58,6 +59,8 @@ class Examined {
   mutable SentProbe fullProbe_;  ///< under all features
 };
 
+/// What a finding says, in English.
+std::string SentenceText(const Finding& finding);
 /// A finding in words: "[DIGITAL(0)] NOMBRE: a comma ends the text ...".
 std::string FindingText(const Finding& finding);
 
@@ -83,7 +86,7 @@ std::vector<FoundByRule> Examine(const Examined& file, std::span<const std::stri
 /// Visits the alarms that are enabled and that the logger gets to know.
 void VisitEnabledAlarms(const Examined& file, const AlarmVisitor& visit);
 /// A finding at one field of an alarm.
-Finding AtAlarm(const AlarmPlace& place, std::string_view word, std::string sentence);
+Finding AtAlarm(const AlarmPlace& place, std::string_view word, Phrase sentence);
 
 // The rules on alarms, which stand in a file of their own.
 std::vector<Finding> AlarmsForNobody(const Examined& file);
@@ -100,6 +103,11 @@ std::vector<Finding> ModbusNotKept(const Examined& file);
 std::vector<Finding> SharedExpansionInputs(const Examined& file);
 std::vector<Finding> ExpansionOutOfRange(const Examined& file);
 std::vector<Finding> ExpansionWithoutInterface(const Examined& file);
+
+// The rules on numbers and codes.
+std::vector<Finding> UselessScales(const Examined& file);
+std::vector<Finding> UnknownInterfaces(const Examined& file);
+std::vector<Finding> SenselessNumbers(const Examined& file);
 
 // The rules on probes and math channels.
 std::vector<Finding> BrokenIdentities(const Examined& file);

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "host/SignalPipe.h"
+#include "host/SimulatedLoggers.h"
 #include "platform/qt/PseudoTerminal.h"
 #include "platform/qt/QtClock.h"
 #include "platform/qt/QtFiles.h"
@@ -46,30 +47,48 @@ class Link {
   std::string path_;
 };
 
-int CannotKeep(const std::string& path, const FileResult& result) {
-  return Fail(ExitCode::BadFile, "cannot write " + path + ": " + result.error);
-}
+/// Keeps a logger in a file, where there is one: from the start on, at each exchange that changes
+/// it, and at the end. So it is kept whatever ends the program.
+class StateFile {
+ public:
+  StateFile(sim::Logger& logger, const std::string& path) : logger_(logger), path_(path) {}
 
-int Serve(QtEventLoop& loop, sim::Logger& logger, const std::string& path,
+  FileResult Take() { return path_.empty() ? FileResult{} : TakeState(files_, logger_, path_); }
+  /// Exit code of having written it; says why it could not be.
+  int Keep() {
+    if (path_.empty()) return 0;
+    const FileResult saved = SaveWhole(files_, path_, logger_.SaveState());
+    return saved.Ok() ? 0 : Fail(ExitCode::BadFile, "cannot write " + path_ + ": " + saved.error);
+  }
+  void KeepAfter(const sim::Exchange& exchange) {
+    for (const std::string_view head : {"#41", "#46", "#47", "#48", "#5C"})
+      if (exchange.request.starts_with(head)) Keep();
+  }
+
+ private:
+  QtFiles files_;
+  sim::Logger& logger_;
+  std::string path_;
+};
+
+int Serve(QtEventLoop& loop, sim::Logger& logger, StateFile& state, const std::string& path,
           const SimOptions& options) {
   bool isOver = false;
   const SignalPipe watch(loop, [&] { isOver = true; });
   const Link link(options.link, path);
   if (!link.Error().empty())
     return Fail(ExitCode::BadFile, "cannot make the link " + options.link + ": " + link.Error());
-  logger.OnExchange(
-      [](const sim::Exchange& exchange) { std::cout << ExchangeLine(exchange) << std::endl; });
+  logger.OnExchange([&](const sim::Exchange& exchange) {
+    state.KeepAfter(exchange);
+    std::cout << ExchangeLine(exchange) << std::endl;
+  });
   std::cout << path << std::endl;
   loop.RunUntil([&] { return isOver; }, kNever);
-  QtFiles files;
-  if (options.stateFile.empty()) return 0;
-  const FileResult saved = SaveWhole(files, options.stateFile, logger.SaveState());
-  return saved.Ok() ? 0 : CannotKeep(options.stateFile, saved);
+  return state.Keep();
 }
 
 int Run(SimOptions options) {
   QtEventLoop loop;
-  QtFiles files;
   options.logger.clockStart = QtClock().LocalNow();
   sim::Logger* logger = nullptr;
   const PseudoTerminal terminal(
@@ -81,16 +100,12 @@ int Run(SimOptions options) {
       },
       options.isPaced);
   if (!options.isEmpty) logger->SetConf(sim::DemoConfiguration(options.logger.model));
-  const auto state = options.stateFile.empty() ? std::nullopt : files.Read(options.stateFile);
-  std::string error;
-  if (state && !logger->LoadState(*state, error))
-    return Fail(ExitCode::BadFile, options.stateFile + ": " + error);
+  StateFile state(*logger, options.stateFile);
+  if (const FileResult taken = state.Take(); !taken.Ok())
+    return Fail(ExitCode::BadFile, options.stateFile + ": " + taken.error);
   // Found out now and not when a long session is to be kept.
-  if (!options.stateFile.empty())
-    if (const FileResult saved = SaveWhole(files, options.stateFile, logger->SaveState());
-        !saved.Ok())
-      return CannotKeep(options.stateFile, saved);
-  return Serve(loop, *logger, terminal.SlavePath(), options);
+  if (const int kept = state.Keep(); kept != 0) return kept;
+  return Serve(loop, *logger, state, terminal.SlavePath(), options);
 }
 
 }  // namespace

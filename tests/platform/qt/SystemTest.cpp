@@ -1,5 +1,7 @@
 #include <gmock/gmock.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 #include <QTemporaryDir>
 #include <filesystem>
@@ -22,6 +24,12 @@ class SystemTest : public testing::Test {
  protected:
   std::string Path(const std::string& name) const {
     return folder.path().toStdString() + "/" + name;
+  }
+
+  mode_t ModeOf(const std::string& name) const {
+    struct stat state {};
+    EXPECT_EQ(::stat(Path(name).c_str(), &state), 0);
+    return state.st_mode & 0777;
   }
 
   QTemporaryDir folder;
@@ -50,6 +58,64 @@ TEST_F(SystemTest, SavesThroughALinkWithThePermissionsOfANewFile) {
   EXPECT_EQ(std::distance(fs::directory_iterator(Path("store/deep")), {}), 1);
 }
 
+TEST_F(SystemTest, SavingKeepsThePermissionsOfWhatItReplaces) {
+  for (const mode_t mode : {0600U, 0664U}) {
+    ASSERT_TRUE(SaveWhole(files, Path("a"), "old").Ok());
+    ::chmod(Path("a").c_str(), mode);
+    EXPECT_EQ(SaveWhole(files, Path("a"), "new").error, "");
+    EXPECT_EQ(ModeOf("a"), mode);
+  }
+  ASSERT_TRUE(files.Protect(folder.path().toStdString()).Ok());
+  EXPECT_EQ(ModeOf(""), 0700U);
+  ASSERT_TRUE(SaveNew(files, Path("copy"), "x").Ok());
+  EXPECT_EQ(ModeOf("copy"), 0600U);
+  EXPECT_TRUE(SaveNew(files, Path("copy"), "y").stands);
+  EXPECT_EQ(files.Read(Path("copy")), "x");
+}
+
+TEST_F(SystemTest, WhatIsProtectedIsReplacedOnPurposeOnly) {
+  ASSERT_TRUE(SaveWhole(files, Path("a"), "old").Ok());
+  ::chmod(Path("a").c_str(), 0444);
+  fs::create_symlink(Path("loop"), Path("loop"));
+  for (const char* name : {"a", "loop"}) {
+    EXPECT_NE(SaveWhole(files, Path(name), "new").error, "") << name;
+    EXPECT_NE(files.Read(Path(name)), "new") << name;
+    EXPECT_EQ(SaveWhole(files, Path(name), "new", Replacing::Any).error, "");
+    EXPECT_EQ(files.Read(Path(name)), "new") << name;
+  }
+  EXPECT_EQ(ModeOf("a"), 0444U);
+}
+
+/// Names of killed programs, of a former one with the number of this process, a link that leads
+/// nowhere, and those of a program that runs and of somebody else.
+TEST_F(SystemTest, WhatKilledProgramsHaveLeftGoesAtTheNextSave) {
+  const pid_t gone = ::fork();
+  if (gone == 0) ::_exit(0);
+  ::waitpid(gone, nullptr, 0);
+  const std::string left = Path("a~ostrel-" + std::to_string(gone));
+  const std::string own = Path("a~ostrel-" + std::to_string(::getpid()));
+  fs::create_symlink(Path("nowhere"), own);
+  const std::vector<std::string> others{Path("a~ostrel-" + std::to_string(::getppid())),
+                                        Path("a~ostrel-9x"), Path("a.new0")};
+  for (const std::string& path : others) files.Create(path);
+  files.Create(left);
+  EXPECT_EQ(SaveWhole(files, Path("a"), "x").error, "");
+  EXPECT_FALSE(files.Exists(left) || fs::is_symlink(own));
+  for (const std::string& path : others) EXPECT_TRUE(files.Exists(path)) << path;
+}
+
+TEST_F(SystemTest, ReadsNoFileThatNobodyMeant) {
+  files.Create(Path("large"));
+  fs::resize_file(Path("large"), kMostFileOctets + 1);
+  std::string octets = "former";
+  EXPECT_EQ(files.ReadInto(Path("large"), octets).error, "it is larger than 16 MB");
+  EXPECT_EQ(octets, "");
+  fs::resize_file(Path("large"), kMostFileOctets);
+  EXPECT_TRUE(files.ReadInto(Path("large"), octets).Ok());
+  EXPECT_EQ(files.ReadInto(Path("none"), octets).error, "No such file or directory");
+  EXPECT_EQ(files.ReadInto(folder.path().toStdString(), octets).error, "it is no regular file");
+}
+
 TEST_F(SystemTest, FilesTellWhatFailed) {
   EXPECT_TRUE(files.Create(Path("a")).Ok());
   EXPECT_EQ(files.Create(Path("a")).error, "File exists");
@@ -61,13 +127,13 @@ TEST_F(SystemTest, FilesTellWhatFailed) {
   EXPECT_FALSE(SaveWhole(files, Path("no/folder.ocf"), "x").Ok());
   ASSERT_EQ(::mkfifo(Path("pipe").c_str(), 0600), 0);
   EXPECT_FALSE(SaveWhole(files, Path("pipe"), "x").Ok());
-  EXPECT_TRUE(fs::is_fifo(Path("pipe")) && !fs::exists(Path("pipe.new0")));
+  EXPECT_TRUE(fs::is_fifo(Path("pipe")));
+  EXPECT_EQ(std::distance(fs::directory_iterator(Path("")), {}), 2) << "no temporary file";
   EXPECT_EQ(files.Read(folder.path().toStdString()), std::nullopt);
   EXPECT_EQ(files.Read("/dev/zero"), std::nullopt);
   fs::create_symlink(Path("loop"), Path("loop"));
   EXPECT_FALSE(files.Exists(Path("loop")));
   EXPECT_EQ(files.Read(Path("loop")), std::nullopt);
-  EXPECT_TRUE(SaveWhole(files, Path("loop"), "x").Ok()) << "takes the place of what leads nowhere";
 }
 
 TEST_F(SystemTest, SettingsKeepThreeLevelsAndAnyText) {
@@ -102,7 +168,14 @@ TEST_F(SystemTest, PortMapNumbersDevices) {
   EXPECT_EQ(map.NumberFor("/dev/pts/3"), 164);
   EXPECT_EQ(map.NumberFor(Path("adapter")), 163);
   EXPECT_EQ(map.DeviceOf(164), "/dev/pts/3");
-  for (int number = 165; number <= 250; ++number) {
+  const fs::path former = fs::current_path();
+  fs::current_path(folder.path().toStdString());
+  fs::create_symlink("/dev/zero", "m");
+  EXPECT_EQ(map.NumberFor("m"), 165);
+  EXPECT_EQ(fs::path(map.DeviceOf(165)).filename(), "m");
+  EXPECT_TRUE(fs::path(map.DeviceOf(165)).is_absolute()) << "else the one in /dev is meant";
+  fs::current_path(former);
+  for (int number = 166; number <= 250; ++number) {
     EXPECT_EQ(map.NumberFor("/dev/x" + std::to_string(number)), number);
   }
   EXPECT_EQ(map.NumberFor("/dev/one too many"), 0);

@@ -1,0 +1,60 @@
+#pragma once
+
+#include <functional>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <utility>
+#include <vector>
+
+#include "platform/Files.h"
+
+namespace ostrel::cli {
+
+/// What stands for standard input or output where a command takes a file.
+inline constexpr std::string_view kStandard = "-";
+
+/// The file system of a machine, in which "-" is what comes in by standard input. That is read
+/// once, when it is first asked for, and then serves every reader.
+class StandardFiles final : public Files {
+ public:
+  /// Brings all that comes in into a text.
+  using ReadInput = std::function<FileResult(std::string& octets)>;
+
+  StandardFiles(Files& files, ReadInput readInput)
+      : files_(files), readInput_(std::move(readInput)) {}
+
+  FileResult ReadInto(const std::string& path, std::string& octets) override;
+  bool Exists(const std::string& path) override { return path == kStandard || files_.Exists(path); }
+  std::vector<std::string> List(const std::string& folder) override { return files_.List(folder); }
+  std::string Resolve(const std::string& path) override { return files_.Resolve(path); }
+  FileResult MayReplace(const std::string& path) override { return files_.MayReplace(path); }
+  std::string TemporaryBeside(const std::string& path) override {
+    return files_.TemporaryBeside(path);
+  }
+  FileResult Create(const std::string& path) override { return files_.Create(path); }
+  FileResult CopyMode(const std::string& from, const std::string& to) override {
+    return files_.CopyMode(from, to);
+  }
+  FileResult Protect(const std::string& path) override { return files_.Protect(path); }
+  FileResult Write(const std::string& path, std::string_view octets) override {
+    return files_.Write(path, octets);
+  }
+  FileResult Sync(const std::string& path) override { return files_.Sync(path); }
+  FileResult Rename(const std::string& from, const std::string& to) override {
+    return files_.Rename(from, to);
+  }
+  FileResult MoveToNew(const std::string& from, const std::string& to) override {
+    return files_.MoveToNew(from, to);
+  }
+  FileResult Remove(const std::string& path) override { return files_.Remove(path); }
+  FileResult MakeFolder(const std::string& path) override { return files_.MakeFolder(path); }
+
+ private:
+  Files& files_;
+  ReadInput readInput_;
+  std::optional<FileResult> read_;  ///< what reading the input came to
+  std::string input_;
+};
+
+}  // namespace ostrel::cli

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <memory>
+#include <ostream>
+#include <string>
+
+namespace ostrel {
+
+/// Opens a file for what passes on the line, readable by its owner alone. A former trace is
+/// replaced; any other file that holds something is not, since it was named by mistake. A device or
+/// a pipe is written to where another program reads it. Null when it cannot be written, which `why`
+/// tells.
+std::unique_ptr<std::ostream> OpenTrace(const std::string& path, std::string& why);
+
+}  // namespace ostrel

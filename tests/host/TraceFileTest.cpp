@@ -1,0 +1,64 @@
+#include <gmock/gmock.h>
+#include <sys/stat.h>
+
+#include <QTemporaryDir>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+
+#include "host/TraceFile.h"
+
+namespace ostrel {
+namespace {
+
+namespace fs = std::filesystem;
+
+class TraceFile : public testing::Test {
+ protected:
+  std::string Path(const std::string& name) const {
+    return folder_.path().toStdString() + "/" + name;
+  }
+  std::string Read(const std::string& name) const {
+    std::ifstream file(Path(name), std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+  }
+  /// What opening a trace says; it writes a line where it can.
+  std::string Open(const std::string& name) const {
+    std::string why;
+    if (const auto trace = OpenTrace(Path(name), why))
+      *trace << "        0 TxSer: #40" << std::endl;
+    return why;
+  }
+
+  QTemporaryDir folder_;
+};
+
+TEST_F(TraceFile, ReplacesATraceAndNothingElse) {
+  const std::string configuration = "[General]\r\nVERSION=TAVRO\r\nNOMBRE=x";
+  std::ofstream(Path("site.ocf"), std::ios::binary) << configuration;
+  std::ofstream(Path("empty")) << "";
+  std::ofstream(Path("old")) << "       12 RxSer Checksum error!\n" << std::string(9000, 'x');
+  ::chmod(Path("old").c_str(), 0644);
+  EXPECT_EQ(Open("site.ocf"), "it holds something else than a trace");
+  EXPECT_EQ(Read("site.ocf"), configuration);
+  for (const char* name : {"empty", "old", "new", "old"}) {
+    EXPECT_EQ(Open(name), "") << name;
+    EXPECT_EQ(Read(name), "        0 TxSer: #40\n") << name;
+    struct stat state {};
+    ASSERT_EQ(::stat(Path(name).c_str(), &state), 0);
+    EXPECT_EQ(state.st_mode & 0777, 0600U) << "a trace tells what was sent";
+  }
+}
+
+TEST_F(TraceFile, APipeHoldsNothingUp) {
+  ASSERT_EQ(::mkfifo(Path("pipe").c_str(), 0600), 0);
+  EXPECT_EQ(Open("pipe"), "no program reads the pipe");
+  EXPECT_EQ(Open("no/folder"), "No such file or directory");
+  std::string why;
+  const auto full = OpenTrace("/dev/full", why);
+  ASSERT_TRUE(full) << why;
+  EXPECT_FALSE(*full << "line" << std::flush);
+}
+
+}  // namespace
+}  // namespace ostrel
