@@ -4,6 +4,9 @@
 #include <array>
 
 #include "blocks/FileKeys.h"
+#include "blocks/GprsParameters.h"
+#include "blocks/MacroPool.h"
+#include "blocks/VoiceNumbers.h"
 #include "blocks/bus/ModbusBus.h"
 #include "blocks/bus/ModbusChannels.h"
 #include "blocks/expansion/ExpansionInputs.h"
@@ -69,6 +72,14 @@ constexpr auto AsSentOf() -> decltype(Block::asSent) {
 }
 
 template <class Kind>
+constexpr auto BeginStreamOf() -> decltype(Block::beginStream) {
+  if constexpr (requires { &Kind::BeginStream; })
+    return &Kind::BeginStream;
+  else
+    return nullptr;
+}
+
+template <class Kind>
 Block MakeBlock(PageId page) {
   return {.page = page,
           .clear = &Kind::Clear,
@@ -77,6 +88,7 @@ Block MakeBlock(PageId page) {
           .restore = &RestoreFields<Kind>,
           .alarms = AlarmsOf<Kind>(),
           .asSent = AsSentOf<Kind>(),
+          .beginStream = BeginStreamOf<Kind>(),
           .lines = Kind::kLines};
 }
 
@@ -93,6 +105,8 @@ std::span<const Block> Blocks() {
       MakeBlock<CyclicTimers>(PageId::CTimer),       MakeBlock<LongTimers>(PageId::LTimer),
       MakeBlock<WeeklyTimers>(PageId::WTimer),       MakeBlock<MonthlyTimers>(PageId::MTimer),
       MakeBlock<AuxiliaryInputs>(PageId::E_Aux),     MakeBlock<OffMeasurement>(PageId::Katodex),
+      MakeBlock<MacroPool>(PageId::Macros),          MakeBlock<GprsParameters>(PageId::GPRS),
+      MakeBlock<VoiceNumbers>(PageId::Aut_Voz),
   };
   return blocks;
 }

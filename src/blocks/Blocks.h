@@ -31,6 +31,9 @@ struct Block {
   /// Brings a reading into the form in which it was sent, where a logger reports the same thing in
   /// another; null where both are the same.
   void (*asSent)(DeviceConf& read, const DeviceConf& sent, const Receiver& receiver);
+  /// Makes ready for a stream of lines, ahead of each attempt of a download; null where a line says
+  /// itself what it replaces.
+  void (*beginStream)(DeviceConf& conf);
   /// How the lines of its keys are read from a logger.
   std::span<const LineSection> lines;
 };

@@ -1,6 +1,8 @@
 #include "blocks/Orders.h"
 
 #include "blocks/GeneralParameters.h"
+#include "blocks/GprsParameters.h"
+#include "blocks/MacroPool.h"
 #include "blocks/bus/ModbusBus.h"
 #include "blocks/bus/ModbusChannels.h"
 #include "blocks/expansion/ExpansionInputs.h"
@@ -65,6 +67,8 @@ std::span<const UploadStep> UploadOrder() {
       StepOf<Probes>("1-Wire probes", E_OneWire),
       StepOf<ExpansionInputs>("Expansion inputs", E_Modular),
       StepOf<MathChannels>("Math channels", E_Math),
+      StepOf<MacroPool>("Macros", Macros),
+      StepOf<GprsParameters>("GPRS", GPRS),
       StepOf<AuxiliaryInputs>("Auxiliary inputs", E_Aux),
   };
   return steps;

@@ -7,6 +7,7 @@
 #include "host/Folders.h"
 #include "host/LangSeed.h"
 #include "host/SimulatedLoggers.h"
+#include "link/WireText.h"
 
 namespace ostrel::cli {
 namespace {
@@ -132,6 +133,12 @@ ExitCode CommandContext::ChoosePort(PortChoice& choice) {
   if (number == 0) return console.Fail(ExitCode::NoSession, "there is no port " + options.port);
   choice = {.number = static_cast<std::int16_t>(number), .name = options.port};
   return ExitCode::Done;
+}
+
+std::vector<std::string> CommandContext::Shown(std::vector<std::string> statements) const {
+  if (!options.secrets)
+    for (std::string& statement : statements) statement = MaskPasswords(statement);
+  return statements;
 }
 
 ExitCode CommandContext::Show(const Result& result, JsonLayout layout) {

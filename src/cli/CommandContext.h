@@ -14,6 +14,7 @@
 #include "lang/Lang.h"
 #include "shell/ConfigurationFile.h"
 #include "shell/Configurator.h"
+#include "shell/FieldWords.h"
 
 namespace ostrel::cli {
 
@@ -55,6 +56,12 @@ class CommandContext {
   /// Finds the port of the options. Anything but Done after saying why there is none.
   ExitCode ChoosePort(PortChoice& choice);
   bool HasPort() const { return !options.port.empty(); }
+  Passwords ShownPasswords() const {
+    return options.secrets ? Passwords::Shown : Passwords::Hidden;
+  }
+
+  /// Statements as they may be shown.
+  std::vector<std::string> Shown(std::vector<std::string> statements) const;
 
   /// Whether a signal has come that ends the program.
   bool Interrupted() const { return environment.interrupted && environment.interrupted(); }

@@ -21,6 +21,7 @@ struct GlobalOptions {
   bool json = false;
   bool quiet = false;
   bool yes = false;
+  bool secrets = false;  ///< passwords are shown
 };
 
 }  // namespace ostrel::cli

@@ -38,6 +38,7 @@ ExitCode LoggerSession::StartTrace() {
   if (!trace_)
     return context_.console.Fail(ExitCode::BadFile,
                                  "cannot write the trace to " + path + ": " + why);
+  configurator_.comms.TracesPasswords = context_.options.secrets;
   configurator_.comms.Trace = [this](const std::string& line) { *trace_ << line << std::endl; };
   return ExitCode::Done;
 }

@@ -53,6 +53,8 @@ void AddGlobals(CLI::App& app, GlobalOptions& options) {
          "Firmware features to count with, hexadecimal, where no logger tells them")
       ->check(NoFeatures);
   app.add_flag("--json", options.json, "Results as JSON");
+  app.add_flag("--secrets", options.secrets,
+               "Show the passwords of the configuration in results and in the trace");
   app.add_flag("--quiet", options.quiet, "No progress and no words about the work");
   app.add_flag("--yes", options.yes,
                "Answer questions with yes; sets a logger's clock that is off, too");
@@ -60,9 +62,9 @@ void AddGlobals(CLI::App& app, GlobalOptions& options) {
 
 std::vector<Command> AddCommands(CLI::App& app) {
   std::vector<Command> commands;
-  for (const auto add :
-       {AddPorts, AddInfo, AddClock, AddLive, AddOutput, AddTotal, AddProbe, AddDownload, AddUpload,
-        AddBackups, AddRestore, AddStatements, AddDiff, AddShow, AddCheck, AddSchedule, AddCalc})
+  for (const auto add : {AddPorts, AddInfo, AddClock, AddLive, AddOutput, AddTotal, AddVoice,
+                         AddProbe, AddDownload, AddUpload, AddBackups, AddRestore, AddStatements,
+                         AddDiff, AddShow, AddCheck, AddSchedule, AddCalc})
     commands.push_back(add(app));
   for (const Command& command : commands) command.parser->fallthrough();
   app.require_subcommand(1);

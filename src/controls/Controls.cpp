@@ -83,6 +83,12 @@ void TextBox::Type(std::string_view text) {
   SetText(maxLength_ == 0 ? text : FirstCharacters(text, static_cast<std::size_t>(maxLength_)));
 }
 
+void TextBox::SetHidden(bool hidden) {
+  if (hidden == hidden_) return;
+  hidden_ = hidden;
+  face.Changed();
+}
+
 ComboBox::ComboBox(Form& form, std::string_view name) : face(name, "") { form.Register(this); }
 
 void ComboBox::Add(std::string_view text, std::int32_t value) {

@@ -103,6 +103,9 @@ class TextBox {
   /// The kind of number that belongs into the box, as `CheckNumberBox` knows it; empty for a text.
   std::string_view NumberKind() const { return numberKind_; }
   void SetNumberKind(std::string_view kind) { numberKind_ = kind; }
+  /// Whether dots stand for the text, which is a password.
+  bool Hidden() const { return hidden_; }
+  void SetHidden(bool hidden);
 
   Face face;
 
@@ -110,6 +113,7 @@ class TextBox {
   std::string text_;
   int maxLength_;
   std::string_view numberKind_;
+  bool hidden_ = false;
 };
 
 /// One row of a list, with the value that stands for it.

@@ -6,6 +6,9 @@
 
 namespace ostrel {
 
+/// The kind of a box for an address of four parts with points between them, or "0" for none.
+inline constexpr std::string_view kAddressKind = "address";
+
 /// The number that a box stands for. A comma as its only separator is the decimal sign.
 double NumberIn(const TextBox& box);
 
@@ -13,9 +16,9 @@ double NumberIn(const TextBox& box);
 /// for a text is always right.
 bool TestNumberBox(TextBox& box);
 
-/// Puts a decimal comma right into a point. Then tests the text of a box as "int" or "float" and
-/// colours it: window background when it is a number, pure red otherwise. Any other kind counts as
-/// invalid. The result tells which.
+/// Puts a decimal comma right into a point. Then tests the text of a box as "int", "float" or
+/// "address" and colours it: window background when it is a number, pure red otherwise. Any other
+/// kind counts as invalid. The result tells which.
 bool CheckNumberBox(TextBox& box, std::string_view kind);
 
 }  // namespace ostrel

@@ -9,8 +9,8 @@
 namespace ostrel {
 
 /// Brings the signals that end a program (from the keyboard, by `kill`, by a terminal that goes, by
-/// a reader of the output that goes) to the event loop, where it is safe to act on them. One of them
-/// may exist at a time. A read from the terminal that is under way ends when a signal comes.
+/// a reader of the output that goes) to the event loop, where it is safe to act on them. One of
+/// them may exist at a time. A read from the terminal that is under way ends when a signal comes.
 ///
 /// What the program was started to ignore, as `nohup` does it, stays ignored.
 class SignalPipe {

@@ -24,8 +24,10 @@ Comms::Comms(const Platform& platform, const LinkRecords& records, LinkHooks hoo
       records_(records),
       hooks_(std::move(hooks)),
       line_(platform.loop, platform.port),
-      download_(line_, progress_, {hooks_.clearPages, hooks_.loadPages, records.ComBusy}),
-      upload_(line_, progress_, records.info, hooks_.composed) {
+      download_(line_, progress_,
+                {hooks_.clearPages, hooks_.beginStream, hooks_.loadPages, records.ComBusy}),
+      upload_(line_, progress_, records.info, hooks_.composed),
+      voice_(line_, progress_, records.info) {
   platform_.port.SetOnComm([this] {
     if (platform_.port.CommEvent() != kCommEventCarrier) return;
     carrierGoneAt_.reset();
@@ -141,6 +143,14 @@ LinkResult Comms::SetExpValue(std::int16_t index, std::int32_t value) {
 
 LinkResult Comms::ReadProbeIdentity(ProbeIdentity& identity) {
   return Keep(line_.Converse(line_.TimeFor(1), [&] { return ReadProbe(line_, identity); }));
+}
+
+LinkResult Comms::WriteAutVoz(const ConfAutVoz& list) {
+  return Keep(line_.Converse(kAnyTime, [&] { return voice_.Write(list); }));
+}
+
+LinkResult Comms::ReadAutVozList(ConfAutVoz& list) {
+  return Keep(line_.Converse(kAnyTime, [&] { return voice_.Read(list); }));
 }
 
 LinkResult Comms::Set(std::string message, std::string_view answer) {

@@ -12,6 +12,7 @@
 #include "link/Line.h"
 #include "link/Progress.h"
 #include "link/Upload.h"
+#include "link/VoiceDialogue.h"
 #include "link/Wire.h"
 #include "model/DeviceInfo.h"
 #include "model/ProbeIdentity.h"
@@ -32,9 +33,10 @@ struct LinkRecords {
 
 /// What the link asks of the pages above it. All are called on the event thread.
 struct LinkHooks {
-  std::function<void()> clearPages;  ///< empties the model, ahead of a download
-  std::function<void()> loadPages;   ///< shows the model, after a download
-  std::function<void()> composed;    ///< an attempt of an upload has taken its state from the model
+  std::function<void()> clearPages;     ///< empties the model, ahead of a download
+  std::function<void()> beginStream{};  ///< makes the model ready for an attempt of a download
+  std::function<void()> loadPages;      ///< shows the model, after a download
+  std::function<void()> composed;  ///< an attempt of an upload has taken its state from the model
   std::function<void(std::string_view key)> infoChanged;  ///< one value of `DeviceInfo` has arrived
   std::function<void()> showPWForm;   ///< asks the access code, modal, into AccessCode
   std::function<void()> carrierLost;  ///< tells the operator
@@ -115,6 +117,11 @@ class Comms {
   LinkResult SetExpValue(std::int16_t index, std::int32_t value);
   /// Reads the identity of the one probe on the logger's 1-Wire bus.
   LinkResult ReadProbeIdentity(ProbeIdentity& identity);
+  /// Writes the voice-call list, whose count and check sum are up to date. Success: the logger
+  /// holds it.
+  LinkResult WriteAutVoz(const ConfAutVoz& list);
+  /// Reads the voice-call list. After a failure some of its numbers may have come.
+  LinkResult ReadAutVozList(ConfAutVoz& list);
 
   /// Why the last opening, transfer or setting failed; kept until the next one ends. What is only
   /// read now and then does not change it.
@@ -143,6 +150,7 @@ class Comms {
   ProgressFeed progress_;
   Download download_;
   Upload upload_;
+  VoiceDialogue voice_;
   LinkFault fault_;
   LinkFault infoFault_{LinkFault::Kind::Silence};
   bool opened_ = false;  ///< the open port is ours to close
@@ -156,8 +164,9 @@ class Comms {
   std::int32_t& RxChars = line_.RxChars;  ///< characters taken behind the "#" of frames
   /// Gets a line of text for each thing sent or received, once set: a time stamp in ms, then
   /// "TxGsm: ", "RxGsm: ", "TxSer: ", "RxSer: " and the text, or "RxSer Checksum error!". Access
-  /// codes are masked.
+  /// codes are masked, and passwords unless `TracesPasswords` is set.
   std::function<void(const std::string& line)>& Trace = line_.Trace;
+  bool& TracesPasswords = line_.TracesPasswords;
 };
 
 }  // namespace ostrel

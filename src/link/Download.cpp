@@ -36,6 +36,7 @@ LinkFault Download::RunAttempts() {
     if (attempt > 0) line_.AwaitQuiet();  // the stream that failed may still be running
     line_.RxChars = 0;
     lines_.clear();
+    if (model_.begin) model_.begin();
     fault = stream_.Read([this](const StreamRecord& record) { return TakeRecord(record); });
     const bool isFinal = fault.Ok() || fault.kind == LinkFault::Kind::IndexOutOfRange;
     if (isFinal || !line_.GoesOn()) break;

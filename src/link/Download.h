@@ -18,6 +18,7 @@ class Download {
   /// What it does to the model besides reading records into it.
   struct Model {
     std::function<void()> clear;  ///< ahead of the first attempt
+    std::function<void()> begin;  ///< ahead of each attempt
     std::function<void()> load;   ///< shows it, after success
     bool& ComBusy;                ///< true meanwhile
   };

@@ -194,7 +194,8 @@ void Line::Note(std::string_view what, std::string_view text) const {
   constexpr std::size_t kStampWidth = 9;
   std::string line = std::to_string(loop_.Now() / std::chrono::milliseconds(1));
   if (line.size() < kStampWidth) line.insert(0, kStampWidth - line.size(), ' ');
-  Trace(line.append(" ").append(what).append(Printable(MaskCode(text))));
+  const std::string shown = MaskCode(TracesPasswords ? std::string(text) : MaskPasswords(text));
+  Trace(line.append(" ").append(what).append(Printable(shown)));
 }
 
 Line::Dialogue::Dialogue(Line& line) : line_(line), wasBusy_(std::exchange(line.LinkBusy, true)) {

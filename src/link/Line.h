@@ -56,8 +56,9 @@ class Line {
   void TxSer(std::string& message, int timeout);
   /// Waits for one frame; on success `RxLine` is its message form.
   bool RxSer(int timeout);
-  /// Sends a message and awaits the reply; false when there is none.
-  bool Ask(std::string message);
+  /// Sends a message and awaits the reply, `extraMs` longer than is usual; false when there is
+  /// none.
+  bool Ask(std::string message, int extraMs = 0);
   /// Sends a message and awaits a reply that starts with `head`.
   LinkFault AskFor(std::string message, std::string_view head);
   /// Sends a message that has no reply of its own, and waits until it has left; false when it does
@@ -112,6 +113,7 @@ class Line {
   std::string RxLine;
   std::int32_t RxChars = 0;
   std::function<void(const std::string& line)> Trace;
+  bool TracesPasswords = false;  ///< those of the configuration; access codes never
 
  private:
   /// What came of waiting for one line.

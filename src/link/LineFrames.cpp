@@ -60,9 +60,9 @@ bool Line::RxSer(int timeout) {
   return true;
 }
 
-bool Line::Ask(std::string message) {
+bool Line::Ask(std::string message, int extraMs) {
   RxLine.clear();  // a closed port leaves it alone, and an old line is no answer
-  TxSer(message, ReplyTimeout);
+  TxSer(message, ReplyTimeout + extraMs);
   return !RxLine.empty();
 }
 

@@ -23,6 +23,7 @@ struct LinkFault {
     IndexOutOfRange,  ///< `number` is the record, `text` the line
     Refused,          ///< `number` is the statement last sent, `text` its text
     NotTakenOver,     ///< wrong answer to a closing message or a setting; `text` is the answer
+    SumDiffers,       ///< the logger's list has another check sum than the one sent or read
     WrongAnswer,      ///< an answer to something else; `text` is the answer
     Busy,             ///< another dialogue is running, and goes on
     OutOfTime,        ///< the dialogue came to no end in its time; `number` as for Silence

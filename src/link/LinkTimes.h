@@ -18,6 +18,8 @@ inline constexpr int kHangUpMs = 5000;
 inline constexpr int kProbeReplyMs = 500;
 inline constexpr int kRefusalMs = 200;  ///< for the refusal of a statement
 inline constexpr int kFastRefusalMs = 10;
+inline constexpr int kEraseMs = 10'000;   ///< on top of the reply wait, while a list is erased
+inline constexpr int kVoicePauseMs = 50;  ///< behind each number of the voice-call list
 
 /// How often a message is sent, and a dialogue tried, before it counts as failed.
 inline constexpr int kLinkAttempts = 3;

@@ -7,7 +7,12 @@
 namespace ostrel {
 
 /// The dialogues that tell how far they are.
-enum class DialogueKind { Download, Upload };
+enum class DialogueKind { Download, Upload, VoiceReading, VoiceWriting };
+
+/// Whether it is a configuration that a dialogue moves.
+constexpr bool MovesConfiguration(DialogueKind kind) {
+  return kind == DialogueKind::Download || kind == DialogueKind::Upload;
+}
 
 /// How far a dialogue is.
 struct Progress {
@@ -15,7 +20,8 @@ struct Progress {
 
   DialogueKind kind;
   Stage stage;
-  int step = 0;      ///< records or statements that have passed in the attempt under way
+  int step = 0;      ///< records or statements that have passed in the attempt under way; in a
+                     ///< reading of the voice-call list the place that is due
   int expected = 0;  ///< how many there will be; 0 while that is not known
 };
 

@@ -3,8 +3,6 @@
 #include <utility>
 
 #include "link/LinkTimes.h"
-#include "link/UploadPlan.h"
-#include "link/WireText.h"
 
 namespace ostrel {
 namespace {
@@ -16,7 +14,10 @@ constexpr std::string_view kTakenOver = "#B91";
 
 Upload::Upload(Line& line, ProgressFeed& progress, const DeviceInfo& info,
                std::function<void()> composed)
-    : line_(line), progress_(progress), info_(info), composed_(std::move(composed)) {}
+    : line_(line),
+      progress_(progress),
+      statements_(line, info, [this] { Tell(Progress::Stage::Step); }),
+      composed_(std::move(composed)) {}
 
 StatementList Upload::Compose() const {
   StatementList statements;
@@ -25,7 +26,8 @@ StatementList Upload::Compose() const {
 }
 
 LinkFault Upload::Run() {
-  statementNo_ = 0;
+  statements_.Restart();
+  expected_ = 0;
   Tell(Progress::Stage::Begun);
   LinkFault fault;
   for (int attempt = 0; attempt < kLinkAttempts; ++attempt) {
@@ -38,45 +40,35 @@ LinkFault Upload::Run() {
 }
 
 LinkFault Upload::RunOnce() {
-  statementNo_ = 0;
+  statements_.Restart();
   // Composed at once, so that what is sent is one state of the model.
   const StatementList composed = Compose();
   if (!composed.Fault().Ok()) return composed.Fault();
   const std::vector<std::string>& statements = composed.All();
   if (composed_) composed_();
+  expected_ = static_cast<int>(statements.size());
   for (const std::string& statement : statements) {
-    LinkFault fault = SendStatement(statement, static_cast<int>(statements.size()));
+    LinkFault fault = statements_.Send(statement);
     if (!fault.Ok()) return fault;
   }
   return Close(statements);
 }
 
-LinkFault Upload::SendStatement(std::string_view statement, int expected) {
-  const int number = statementNo_;
-  const bool hasLeft = line_.Post("#45" + Padded(number, kRecordDigits) + std::string(statement));
-  ++statementNo_;
-  Tell(Progress::Stage::Step, expected);
-  if (!hasLeft) return line_.WaitFault(number);
-  line_.ExpectAnswer(true);  // none was due before this window
-  line_.RxSer(RefusalWindowMs(info_.Features));
-  if (!line_.GoesOn()) return line_.WaitFault(number);
-  if (line_.RxLine.find(kRefusal) == std::string::npos) return {};
-  return line_.FaultNow(LinkFault::Kind::Refused, number, std::string(statement));
-}
-
 LinkFault Upload::Close(const std::vector<std::string>& statements) {
   line_.NoteQuestion();
-  const bool hasLeft = line_.Post("#46" + Padded(statementNo_, kRecordDigits));
-  if (!hasLeft || !line_.RxSer(line_.ReplyTimeout)) return line_.WaitFault(statementNo_);
+  const int sent = statements_.Sent();
+  const bool hasLeft = line_.Post(statements_.Closing());
+  if (!hasLeft || !line_.RxSer(line_.ReplyTimeout)) return line_.WaitFault(sent);
   if (line_.RxLine.starts_with(kTakenOver)) return {};
   const bool isLateRefusal = line_.RxLine.find(kRefusal) != std::string::npos;
   if (isLateRefusal && !statements.empty())
-    return line_.FaultNow(LinkFault::Kind::Refused, statementNo_ - 1, statements.back());
-  return line_.FaultNow(LinkFault::Kind::NotTakenOver, statementNo_, line_.RxLine);
+    return line_.FaultNow(LinkFault::Kind::Refused, sent - 1, statements.back());
+  return line_.FaultNow(LinkFault::Kind::NotTakenOver, sent, line_.RxLine);
 }
 
-void Upload::Tell(Progress::Stage stage, int expected) {
-  progress_.Tell({DialogueKind::Upload, stage, statementNo_, expected});
+void Upload::Tell(Progress::Stage stage) {
+  const bool isStep = stage == Progress::Stage::Step;
+  progress_.Tell({DialogueKind::Upload, stage, statements_.Sent(), isStep ? expected_ : 0});
 }
 
 }  // namespace ostrel

@@ -1,12 +1,11 @@
 #pragma once
 
-#include <cstdint>
 #include <functional>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "link/Line.h"
+#include "link/NumberedStatements.h"
 #include "link/Progress.h"
 #include "link/Wire.h"
 #include "model/DeviceInfo.h"
@@ -29,17 +28,15 @@ class Upload {
 
  private:
   LinkFault RunOnce();
-  /// Sends one statement. The logger may refuse it within its window; silence is good.
-  LinkFault SendStatement(std::string_view statement, int expected);
   LinkFault Close(const std::vector<std::string>& statements);
-  void Tell(Progress::Stage stage, int expected = 0);
+  void Tell(Progress::Stage stage);
 
   Line& line_;
   ProgressFeed& progress_;
-  const DeviceInfo& info_;
+  NumberedStatements statements_;
+  int expected_ = 0;  ///< statements of the attempt under way
   std::function<void()> composed_;
   std::vector<WireBlock> blocks_;
-  int statementNo_ = 0;  ///< number of the next statement
 };
 
 }  // namespace ostrel

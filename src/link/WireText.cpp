@@ -1,6 +1,48 @@
 #include "link/WireText.h"
 
+#include <algorithm>
+#include <array>
+
+#include "base/Values.h"
+
 namespace ostrel {
+namespace {
+
+constexpr std::string_view kMask = "****";
+/// Statements that carry a password, up to where it starts.
+constexpr std::array<std::string_view, 2> kPasswordStatements{"APNPASS=", "FTPPASS="};
+/// The line of the configuration stream that carries both.
+constexpr std::string_view kPasswordLine = "GPRS,";
+constexpr std::string_view kStreamHead = "BD";
+constexpr std::array<std::size_t, 2> kPasswordFields{3, 16};
+/// How many fields that line has, with the key: of a logger without FTP, and of one with it.
+constexpr std::array<std::size_t, 2> kFieldCounts{12, 18};
+
+/// Where the line with the passwords starts in a text; npos where it does not.
+std::size_t FindPasswordLine(std::string_view text) {
+  const std::size_t keyAt = kStreamHead.size() + kRecordDigits;
+  for (std::size_t at = text.find(kStreamHead); at != std::string_view::npos;
+       at = text.find(kStreamHead, at + 1))
+    if (text.substr(std::min(at + keyAt, text.size())).starts_with(kPasswordLine)) return at;
+  return std::string_view::npos;
+}
+
+/// Masks the two fields of a line; all behind the key where they cannot be told from the others.
+std::string MaskFields(std::string_view line) {
+  const auto fields = static_cast<std::size_t>(std::ranges::count(line, ',')) + 1;
+  if (std::ranges::count(kFieldCounts, fields) == 0)
+    return std::string(line.substr(0, line.find(',') + 1)) + std::string(kMask);
+  std::string masked;
+  for (std::size_t field = 1; field <= fields; ++field) {
+    const std::string_view text = FieldOf(line, static_cast<int>(field));
+    const bool isPassword = std::ranges::count(kPasswordFields, field) > 0 && !text.empty();
+    if (field > 1) masked += ',';
+    masked += isPassword ? kMask : text;
+  }
+  return masked;
+}
+
+}  // namespace
 
 std::string Padded(int number, std::size_t digits) {
   std::string text = std::to_string(number);
@@ -21,10 +63,19 @@ std::string MaskCode(std::string_view text) {
   constexpr std::string_view kCommand = "#11";
   constexpr std::string_view kFramed = ";11";
   constexpr std::size_t kFrameHead = 3;  // "#" and two digits
-  if (text.starts_with(kCommand)) return std::string(kCommand) + "****";
+  if (text.starts_with(kCommand)) return std::string(kCommand).append(kMask);
   const bool framed = text.starts_with('#') && text.substr(0, kFrameHead + 3).ends_with(kFramed);
-  return framed ? std::string(text.substr(0, kFrameHead + kFramed.size())) + "****"
+  return framed ? std::string(text.substr(0, kFrameHead + kFramed.size())).append(kMask)
                 : std::string(text);
+}
+
+std::string MaskPasswords(std::string_view text) {
+  for (const std::string_view statement : kPasswordStatements)
+    if (const std::size_t at = text.find(statement); at != std::string_view::npos)
+      return std::string(text.substr(0, at + statement.size())).append(kMask);
+  const std::size_t line = FindPasswordLine(text);
+  if (line == std::string_view::npos) return std::string(text);
+  return std::string(text.substr(0, line)) + MaskFields(text.substr(line));
 }
 
 }  // namespace ostrel

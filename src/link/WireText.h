@@ -26,4 +26,8 @@ std::string_view Characters(std::string_view line, std::size_t first,
 /// its frame carries it.
 std::string MaskCode(std::string_view text);
 
+/// A text in which "****" stands for the passwords of a statement or of a line of the configuration
+/// stream that it holds.
+std::string MaskPasswords(std::string_view text);
+
 }  // namespace ostrel

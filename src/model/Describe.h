@@ -21,6 +21,7 @@ enum class FieldSense {
   Week,       ///< days of the week, bit 0 Monday to bit 6 Sunday
   Month,      ///< days of the month, bit 0 the first to bit 30; bit 31 the last, whichever
   Condition,  ///< 0 the constant "TRUE", n flag F(n-1)
+  Statement,  ///< a whole statement: commas and braces belong to it
 };
 
 /// How the number of a list place stands in the key of a file: "ACTHI( 0 7)" or "TLFM 7".
@@ -48,6 +49,7 @@ struct FieldMeta {
   std::string_view unit = {};             ///< of a number: "s", "readings"; empty for none
   SensibleRange range = {};               ///< of a number
   std::span<const CodeWords> codes = {};  ///< of a number that stands for something, all of them
+  bool isSecret = false;  ///< a password: shown, compared and traced only when asked for
 };
 
 /// A number with the unit that it is in.
@@ -70,6 +72,11 @@ constexpr FieldMeta LimitedMeta(std::string_view word, std::string_view words, i
 /// A text field of a limited length.
 constexpr FieldMeta TextMeta(std::string_view word, std::string_view words, int longest) {
   return LimitedMeta(word, words, longest);
+}
+
+/// A password.
+constexpr FieldMeta SecretMeta(std::string_view word, std::string_view words) {
+  return {.word = word, .words = words, .isSecret = true};
 }
 
 /// Which of the values of one word a field is, where a record has several.

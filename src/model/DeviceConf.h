@@ -6,9 +6,12 @@
 
 #include "base/Bounded.h"
 #include "model/AlarmBlock.h"
+#include "model/ConfAutVoz.h"
 #include "model/ConfAux.h"
 #include "model/ConfExpansion.h"
 #include "model/ConfFlow.h"
+#include "model/ConfGprs.h"
+#include "model/ConfMacro.h"
 #include "model/ConfMath.h"
 #include "model/ConfModbus.h"
 #include "model/ConfOneWire.h"
@@ -169,6 +172,9 @@ struct DeviceConf {
   Bounded<ConfModulo, 129> Modulo;
   Bounded<ConfAux, 5> Aux;
   ConfKatodex Katodex;
+  ConfMacro Macro;
+  ConfGprs Gprs;
+  ConfAutVoz AutVoz;
 
   bool operator==(const DeviceConf&) const = default;
 };

@@ -52,6 +52,11 @@ struct PageContext {
   std::function<void()> showMaskCalculator{};
   /// Reads the identity of the one probe on the bus; nothing when there is no answer.
   std::function<std::optional<ProbeIdentity>()> readProbeIdentity{};
+  // The voice-call list and the logger; false when the dialogue failed.
+  std::function<bool(ConfAutVoz& list)> readVoiceList{};
+  std::function<bool(const ConfAutVoz& list)> writeVoiceList{};
+  /// The text that the operator has copied elsewhere. Null without a clipboard.
+  std::function<std::string()> clipboardText{};
 
   /// The text in the language in use; the text itself when the table is full.
   std::string Translate(std::string_view text) const;

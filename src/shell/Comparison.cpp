@@ -21,12 +21,27 @@ bool IsNothing(const ConstField& field) {
   return phone && (*phone)->TLF.empty();
 }
 
-Difference DifferenceOf(const ConstField& field, const std::string& before,
-                        const std::string& after) {
-  return {.id = field.id, .meta = field.meta, .before = before, .after = after};
+/// One side of a difference.
+struct Side {
+  std::string text{}, words{kAbsent};
+};
+
+Side SideOf(const ConstField& field, bool isS100, Passwords passwords) {
+  return {ShownText(field.value, field.meta, isS100, passwords),
+          ReadableValue(field.value, field.meta, isS100, passwords)};
 }
 
-Comparison CompareModels(const ModelConfiguration& before, const ModelConfiguration& after) {
+Difference DifferenceOf(const ConstField& field, Side before, Side after) {
+  return {.id = field.id,
+          .meta = field.meta,
+          .before = std::move(before.text),
+          .after = std::move(after.text),
+          .beforeWords = std::move(before.words),
+          .afterWords = std::move(after.words)};
+}
+
+Comparison CompareModels(const ModelConfiguration& before, const ModelConfiguration& after,
+                         Passwords passwords) {
   Comparison comparison{.isSame = false};
   const std::string &nameBefore = before.profile.TargetName, &nameAfter = after.profile.TargetName;
   comparison.differences.push_back({.id = {&GeneralParameters::kSection, -1, kStampKey, {}},
@@ -35,9 +50,6 @@ Comparison CompareModels(const ModelConfiguration& before, const ModelConfigurat
                                     .after = nameAfter,
                                     .beforeWords = nameBefore,
                                     .afterWords = nameAfter});
-  const auto words = [](const ConstField& field, bool isS100) {
-    return ReadableValue(field.value, field.meta, isS100);
-  };
   const auto fieldsBefore = FieldsOf(before.conf, before.profile);
   const auto fieldsAfter = FieldsOf(after.conf, after.profile);
   std::unordered_map<std::string, const ConstField*> others;
@@ -50,22 +62,18 @@ Comparison CompareModels(const ModelConfiguration& before, const ModelConfigurat
     const std::string otherText = other == others.end()
                                       ? std::string()
                                       : FieldText(other->second->value, after.profile.IsS100);
-    if (text != otherText) {
-      Difference difference = DifferenceOf(field, text, otherText);
-      difference.beforeWords = words(field, before.profile.IsS100);
-      difference.afterWords =
-          other == others.end() ? kAbsent : words(*other->second, after.profile.IsS100);
-      comparison.differences.push_back(std::move(difference));
-    }
+    if (text != otherText)
+      comparison.differences.push_back(DifferenceOf(
+          field, SideOf(field, before.profile.IsS100, passwords),
+          other == others.end() ? Side{}
+                                : SideOf(*other->second, after.profile.IsS100, passwords)));
     if (other != others.end()) others.erase(other);
   }
   for (const ConstField& field : fieldsAfter) {
     const std::string text = FieldText(field.value, after.profile.IsS100);
     if (text.empty() || !others.contains(Address(field))) continue;
-    Difference difference = DifferenceOf(field, "", text);
-    difference.beforeWords = kAbsent;
-    difference.afterWords = words(field, after.profile.IsS100);
-    comparison.differences.push_back(std::move(difference));
+    comparison.differences.push_back(
+        DifferenceOf(field, Side{}, SideOf(field, after.profile.IsS100, passwords)));
   }
   return comparison;
 }
@@ -102,9 +110,10 @@ class SentSides {
 }  // namespace
 
 Comparison Compare(const ModelConfiguration& before, const ModelConfiguration& after,
-                   std::optional<std::int32_t> features) {
+                   std::optional<std::int32_t> features, Passwords passwords) {
   const TargetProfile& profile = before.profile;
-  if (profile.TargetName != after.profile.TargetName) return CompareModels(before, after);
+  if (profile.TargetName != after.profile.TargetName)
+    return CompareModels(before, after, passwords);
   const auto fieldsBefore = FieldsOf(before.conf, profile);
   const auto fieldsAfter = FieldsOf(after.conf, profile);
   std::optional<SentSides> sides;
@@ -112,12 +121,9 @@ Comparison Compare(const ModelConfiguration& before, const ModelConfiguration& a
   Comparison comparison;
   for (std::size_t i = 0; i < fieldsBefore.size(); ++i) {
     const ConstField &one = fieldsBefore[i], &other = fieldsAfter[i];
-    const std::string text = FieldText(one.value, profile.IsS100);
-    const std::string otherText = FieldText(other.value, profile.IsS100);
-    if (text == otherText) continue;
-    Difference difference = DifferenceOf(one, text, otherText);
-    difference.beforeWords = ReadableValue(one.value, one.meta, profile.IsS100);
-    difference.afterWords = ReadableValue(other.value, other.meta, profile.IsS100);
+    if (FieldText(one.value, profile.IsS100) == FieldText(other.value, profile.IsS100)) continue;
+    Difference difference = DifferenceOf(one, SideOf(one, profile.IsS100, passwords),
+                                         SideOf(other, profile.IsS100, passwords));
     difference.isSent = !sides || sides->Differ(i);
     comparison.differences.push_back(std::move(difference));
   }

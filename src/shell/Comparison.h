@@ -7,6 +7,7 @@
 
 #include "blocks/Configuration.h"
 #include "shell/ConfigurationFile.h"
+#include "shell/FieldWords.h"
 
 namespace ostrel {
 
@@ -14,7 +15,8 @@ namespace ostrel {
 struct Difference {
   FieldId id;
   FieldMeta meta;
-  std::string before{}, after{};  ///< as a file holds them; empty for a side that lacks the field
+  /// As a file holds them, save for hidden passwords; empty for a side that lacks the field.
+  std::string before{}, after{};
   std::string beforeWords{}, afterWords{};  ///< as a person reads them
   bool isSent = true;  ///< a statement carries it under the features in question
 
@@ -33,8 +35,9 @@ struct Comparison {
 /// Compares two configurations. With features they are the same when they give the same statements,
 /// and a difference counts as sent when copying that one field from either to the other changes a
 /// statement. Configurations of different models differ in the model too, and are compared field by
-/// field.
+/// field. Passwords are compared in any case, and shown when asked for.
 Comparison Compare(const ModelConfiguration& before, const ModelConfiguration& after,
-                   std::optional<std::int32_t> features = {});
+                   std::optional<std::int32_t> features = {},
+                   Passwords passwords = Passwords::Hidden);
 
 }  // namespace ostrel

@@ -3,6 +3,9 @@
 #include "base/Scope.h"
 #include "blocks/Blocks.h"
 #include "blocks/Orders.h"
+#include "pages/Aut_Voz.h"
+#include "pages/GPRS.h"
+#include "pages/Macros.h"
 #include "pages/bus/CONF_MODBUS.h"
 #include "pages/bus/E_MODBUS.h"
 #include "pages/expansion/E_Modular.h"
@@ -48,6 +51,9 @@ std::vector<std::unique_ptr<Page>> MakePages(PageContext& context) {
   pages.push_back(std::make_unique<MTimer>(context));
   pages.push_back(std::make_unique<E_Aux>(context));
   pages.push_back(std::make_unique<Katodex>(context));
+  pages.push_back(std::make_unique<Macros>(context));
+  pages.push_back(std::make_unique<GPRS>(context));
+  pages.push_back(std::make_unique<Aut_Voz>(context));
   return pages;
 }
 
@@ -79,6 +85,9 @@ Configurator::Configurator(const Platform& platform, ConfiguratorOptions options
       comms(platform_, {profile, info, live, totals, ComBusy}, MakeHooks()),
       bar_(comms.OnProgress(
           [&bar = general.Session().PBar](const Progress& progress) { ShowOnBar(progress, bar); })),
+      voiceBar_(
+          comms.OnProgress([&bar = PageOf(PageId::Aut_Voz)->GetForm().Get<ProgressBar>("PBar")](
+                               const Progress& progress) { ShowListOnBar(progress, bar); })),
       session(context, comms, general, Connected, [this] { ShowPages(); }),
       tools{.comms = comms,
             .dialogs = platform_.dialogs,
@@ -119,12 +128,19 @@ void Configurator::ConnectPages() {
     if (!comms.ReadProbeIdentity(identity)) return {};
     return identity;
   };
+  context.readVoiceList = [this](ConfAutVoz& list) { return comms.ReadAutVozList(list); };
+  context.writeVoiceList = [this](const ConfAutVoz& list) { return comms.WriteAutVoz(list); };
 }
 
 LinkHooks Configurator::MakeHooks() {
   SessionFrame& frame = general.Session();
   return {
       .clearPages = [this] { ForEach(kClearAtDownload, &Page::Clear); },
+      .beginStream =
+          [this] {
+            for (const Block& block : Blocks())
+              if (block.beginStream) block.beginStream(conf);
+          },
       .loadPages =
           [this] {
             hasOrigin_ = true;

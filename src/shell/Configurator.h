@@ -157,7 +157,8 @@ class Configurator {
   Comms comms;
 
  private:
-  ProgressFeed::Subscription bar_;  ///< of the general page
+  ProgressFeed::Subscription bar_;       ///< of the general page
+  ProgressFeed::Subscription voiceBar_;  ///< of the page with the voice-call list
 
  public:
   SessionDriver session;

@@ -2,6 +2,8 @@
 
 #include <cstddef>
 
+#include "link/WireText.h"
+
 namespace ostrel {
 namespace {
 
@@ -79,6 +81,9 @@ FaultWords LinkWords(const SessionFault& fault, const std::string& port) {
       return {{"the logger refused statement %1: \"%2\"", {number, link.text}}};
     case Kind::NotTakenOver:
       return NotTakenOver(fault);
+    case Kind::SumDiffers:
+      return {{"the check sum of the logger's list differs"},
+              {"lines were lost or arrived damaged: try again"}};
     case Kind::WrongAnswer:
       return {{"the logger answered something else: \"%1\"", {link.text}}};
     case Kind::Busy:
@@ -126,7 +131,9 @@ Phrase Outcome(const SessionFault& fault) {
 
 }  // namespace
 
-FaultWords WordsOf(const SessionFault& fault, std::string_view port) {
+FaultWords WordsOf(const SessionFault& occurred, std::string_view port) {
+  SessionFault fault = occurred;
+  fault.link.text = MaskPasswords(occurred.link.text);
   FaultWords words;
   if (!fault.brokenOff)
     words = LinkWords(fault, std::string(port));

@@ -15,7 +15,8 @@ struct FaultWords {
   Phrase pages{};    ///< what the pages show now, for a face that has pages
 };
 
-/// The words for a fault of a session. `port` names what stands behind the port.
+/// The words for a fault of a session, without any password. `port` names what stands behind the
+/// port.
 FaultWords WordsOf(const SessionFault& fault, std::string_view port);
 
 }  // namespace ostrel

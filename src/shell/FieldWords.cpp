@@ -44,8 +44,15 @@ std::string KeyWords(const FieldId& id, const FieldMeta& meta) {
   return words + (config >= 0 ? ", place " : " ") + std::to_string(place);
 }
 
-std::string ReadableValue(const FieldView& value, const FieldMeta& meta, bool isS100) {
-  const std::string text = Printable(FieldText(value, isS100));
+std::string ShownText(const FieldView& value, const FieldMeta& meta, bool isS100,
+                      Passwords passwords) {
+  std::string text = FieldText(value, isS100);
+  return meta.isSecret && passwords == Passwords::Hidden && !text.empty() ? "****" : text;
+}
+
+std::string ReadableValue(const FieldView& value, const FieldMeta& meta, bool isS100,
+                          Passwords passwords) {
+  const std::string text = Printable(ShownText(value, meta, isS100, passwords));
   if (std::holds_alternative<const std::string*>(value)) return '"' + text + '"';
   if (const auto* flag = std::get_if<const Bool16*>(&value)) return bool(**flag) ? "yes" : "no";
   if (std::holds_alternative<const ConfPhone*>(value)) return text.empty() ? "free" : text;

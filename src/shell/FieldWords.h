@@ -17,8 +17,16 @@ std::string KeyWords(const FieldId& id, const FieldMeta& meta);
 /// What a code stands for; null for a field that is none, or a code that is unknown.
 const CodeWords* CodeOf(const FieldView& value, const FieldMeta& meta);
 
+/// Whether passwords are shown, or "****" in their place.
+enum class Passwords { Hidden, Shown };
+
+/// The text of a field in a configuration file, as it may be shown.
+std::string ShownText(const FieldView& value, const FieldMeta& meta, bool isS100,
+                      Passwords passwords = Passwords::Hidden);
+
 /// A value as a person reads it: texts in quotes, numbers with their unit and without a place for
 /// the sign, codes in words, yes and no, the days of a week. Control characters are shown as such.
-std::string ReadableValue(const FieldView& value, const FieldMeta& meta, bool isS100);
+std::string ReadableValue(const FieldView& value, const FieldMeta& meta, bool isS100,
+                          Passwords passwords = Passwords::Hidden);
 
 }  // namespace ostrel

@@ -48,7 +48,9 @@ SessionDriver::SessionDriver(PageContext& context, Comms& comms, General& genera
       session_(general.Session()),
       Connected_(Connected),
       watch_(context.platform.loop, context.platform.settings),
-      progress_(comms.OnProgress([this](const Progress& progress) { watch_.Follow(progress); })) {
+      progress_(comms.OnProgress([this](const Progress& progress) {
+        if (watch_.Running()) watch_.Follow(progress);
+      })) {
   session_.TimerComms.OnTimer = [this] {
     Tick();
     if (OnTick) OnTick();

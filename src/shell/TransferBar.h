@@ -9,4 +9,7 @@ namespace ostrel {
 /// count of statements sent, on a bar of a fixed length.
 void ShowOnBar(const Progress& progress, ProgressBar& bar);
 
+/// Moves the bar of the voice-call list along with its dialogues, on a bar as long as the list.
+void ShowListOnBar(const Progress& progress, ProgressBar& bar);
+
 }  // namespace ostrel

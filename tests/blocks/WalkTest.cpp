@@ -2,6 +2,8 @@
 #include <set>
 
 #include "BlockFixture.h"
+#include "blocks/MacroPool.h"
+#include "blocks/VoiceNumbers.h"
 #include "blocks/bus/ModbusChannels.h"
 #include "blocks/expansion/ExpansionInputs.h"
 #include "blocks/inputs/FlowMeters.h"
@@ -35,8 +37,10 @@ bool IsKeptByEmptying(const ConstField& field) {
     return field.id.section == &section && std::ranges::count(words, field.id.word) > 0;
   };
   if (field.id.section == &ModbusChannels::kSection && field.id.channel >= 4) return true;
+  if (field.id.section == &MacroPool::kSection) return true;
   return is(ModbusChannels::kSection, {"ANALOG_MODE", "CONSTANTE", "PERSIST", "FLAG"}) ||
          is(ExpansionInputs::kAnalog, {"INTERFAZ"}) || is(CyclicTimers::kSection, {"EQ"}) ||
+         is(VoiceNumbers::kSection, {"SEND_ACK"}) ||
          is(FlowMeters::kSection, {"PERSISTENCIA", "FLAG"}) || is(Probes::kSection, {"ID"});
 }
 
@@ -131,7 +135,8 @@ TEST_P(FieldWalk, EveryFieldOfTheModelIsSent) {
     // stands in the file alone.
     const bool isImplied = field.id.word == "SMS" || field.id.word == "ID";
     const bool isFileOnly =
-        field.id.section == &ExpansionInputs::kAnalog && field.id.word == "GRUPO";
+        (field.id.section == &ExpansionInputs::kAnalog && field.id.word == "GRUPO") ||
+        (field.page == PageId::Macros && field.id.slot.place >= kMacroPlacesSent);
     if (std::max(field.id.channel, 0) >= channels || isImplied || isFileOnly) continue;
     std::visit(
         [&](auto* value) {
@@ -189,10 +194,12 @@ TEST(Orders, EveryBlockHasItsPlaces) {
   for (const UploadStep& step : UploadOrder()) sent.insert(step.pages.begin(), step.pages.end());
   for (const Block& block : Blocks()) {
     EXPECT_EQ(std::ranges::count(kClearAtDownload, block.page), 1);
-    // Of cathodic protection nothing reaches a file, and one half of it is only read.
+    // Of cathodic protection nothing reaches a file, and one half of it is only read. The
+    // voice-call list is sent by itself.
     EXPECT_EQ(filed.contains(block.page),
               block.page != PageId::E_Aux && block.page != PageId::Katodex);
-    EXPECT_EQ(sent.contains(block.page), block.page != PageId::Katodex);
+    EXPECT_EQ(sent.contains(block.page),
+              block.page != PageId::Katodex && block.page != PageId::Aut_Voz);
   }
 }
 

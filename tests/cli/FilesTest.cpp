@@ -19,7 +19,7 @@ TEST(Statements, AreThoseThatAnUploadSends) {
   const auto features = world.Logger().Self().features;
   std::ostringstream hex;
   hex << std::hex << features;
-  EXPECT_EQ(world.Run("statements /a.ocf --features 0x" + hex.str()), 0);
+  EXPECT_EQ(world.Run("statements /a.ocf --secrets --features 0x" + hex.str()), 0);
   EXPECT_EQ(world.out, sent);
   EXPECT_EQ(world.Run("statements /a.ocf --json"), 0);
   const QJsonArray statements = world.Json().object()["statements"].toArray();
@@ -178,7 +178,8 @@ std::string Sound() {
   text += "TLFM 0=+34600100200,Prio=1,PRV0,MASKMODE1,DI2\r\n[DIGITAL 2]\r\nNOMBRE=Puerta\r\n";
   text += "HABIL( 0)=True\r\nSMS( 0)=True\r\nTEXTO( 0)=Abierta\r\nSIEMPRE( 0)=True\r\n";
   text +=
-      "SEMANA( 0)= 127\r\nACTHI( 0 0)= 5\r\n[MODBUS 0]\r\nOTHER=1\r\n[MODBUS]\r\nBAUD= 9600\r\n";
+      "SEMANA( 0)= 127\r\nACTHI( 0 0)= 5\r\n[MACROS]\r\nLINE( 3)=MACRO4={S0=1}\r\n[MODBUS "
+      "0]\r\nOTHER=1\r\n[MODBUS]\r\nBAUD= 9600\r\n";
   return text;
 }
 
@@ -211,7 +212,8 @@ void ExpectRule(const std::string& sound, const RuleCase& one) {
 }
 
 TEST(Check, FindsEachMistakeByItsRule) {
-  const std::string shortMasks = " --features ffeffff";
+  const std::string anyMask = " --silence mask-without-alarm";
+  const std::string shortMasks = " --features ffeffff" + anyMask;
   for (const RuleCase& one : std::vector<RuleCase>{
            {"Bomba", "Bomba", "", ""},
            {"Bomba", "Bomba", " --features ffffffff", ""},
@@ -220,7 +222,7 @@ TEST(Check, FindsEachMistakeByItsRule) {
            {"Abierta", "Abierta {ya", "", "text-breaks-statement", 1},
            {"NOMBRE=Puerta", "NOMBRE=Puerta, norte", "", "text-breaks-statement", 1},
            {"HABIL( 0)=True\r\nSMS( 0)=True\r\nTEXTO( 0)=Abierta", "TEXTO( 0)=cerrada, no enviada",
-            "", ""},
+            anyMask, ""},
            {"Bomba", std::string(51, 'x'), "", "text-too-long"},
            {"Bomba", std::string(50, 'x'), "", ""},
            {"NOMBRE=Puerta", "NOMBRE=" + std::string(60, 'x'), "", "text-too-long"},
@@ -235,9 +237,9 @@ TEST(Check, FindsEachMistakeByItsRule) {
            {"OTHER=1", "OTHER=" + std::string(255, 'x'), "", "value-cut"},
            {"ACTHI( 0 0)= 5", "ACTHI( 0 0)= 41", "", "action-not-offered"},
            {"ACTHI( 0 0)= 5", "ACTHI( 0 0)=-1", "", ""},
-           {"MASKMODE1,DI2", "MASKMODE1,DI3", "", "alarm-for-nobody"},
+           {"MASKMODE1,DI2", "MASKMODE1,DI3", anyMask, "alarm-for-nobody"},
            {"MASKMODE1,DI2", "MASKMODE2,DI2", "", "alarm-for-nobody"},
-           {"MASKMODE1,DI2", "MASKMODE2,DI3", "", ""},
+           {"MASKMODE1,DI2", "MASKMODE2,DI3", anyMask, ""},
            {"MASKMODE1,DI2", "MASKMODE0", "", ""},
            {"TLFM 0=+34600100200", "TLFX 0=", "", "alarm-for-nobody"},
            {"SMS( 0)=True", "SMS( 0)=False", "", ""},
@@ -246,7 +248,7 @@ TEST(Check, FindsEachMistakeByItsRule) {
            {"RENVN= 3", "RENVN= 4", " --features fffffffe", "setting-not-sent"},
            {"RENVN= 3", "RENVN= 4", "", ""},
            {"MASKMODE1,DI2", "MASKMODE1,DI2,FG3", shortMasks, "mask-not-sent"},
-           {"MASKMODE1,DI2", "MASKMODE1,DI2,FG3", "", ""},
+           {"MASKMODE1,DI2", "MASKMODE1,DI2,FG3", "", "mask-without-alarm"},
            {"+34600100200", "34-600", "", "bad-telephone"},
            {"+34600100200", "12", "", "bad-telephone"},
        }) {
@@ -329,6 +331,48 @@ TEST(Check, TakesFilesOfEarlierPrograms) {
   EXPECT_EQ(world.Run("check /a.ocf"), 0) << world.out;
   replace("BAUD=", "OTHER=");
   EXPECT_EQ(world.Run("check /a.ocf"), 1);
+}
+
+TEST(Check, FindsEachMistakeOfMacrosAndGprsByItsRule) {
+  const std::string sound =
+      "[General]\r\nVERSION=TAVRO\r\n[DIGITAL 1]\r\nHABIL( 0)=True\r\nGPRS( 0)=True\r\n"
+      "SIEMPRE( 0)=True\r\nACTHI( 0 0)= 39\r\nFLAG( 0)= 16\r\n[MACROS]\r\nLINE( 1)=F15={D0}\r\n"
+      "LINE( 7)=MACRO38={S0=1,NAME=a, b}\r\nLINE( 39)=MACRO55={X}\r\n[GPRS]\r\nAPN_SERVER=a\r\n"
+      "SERVER_IP=1.2.3.4\r\nENABLED=True\r\n[AUT_VOZ]\r\nMACRO= 38\r\nTEL 0=600";
+  const std::string otherVoice = " --silence voice-macro-missing";
+  for (const RuleCase& one : std::vector<RuleCase>{
+           {"MACRO38", "MACRO38", "", ""},
+           {"LINE( 39)", "LINE( 40)", "", "macro-not-sent"},
+           {"MACRO55", "MACRO38", "", "macro-number-twice"},
+           {"MACRO55={X}", "MACRO56={X}", "", "macro-broken", 1},
+           {"MACRO55={X}", "MACRO55={X}}", "", "macro-broken", 1},
+           {"MACRO55={X}", "MACRO55={\tX}", "", "text-breaks-statement", 1},
+           {"MACRO55={X}", "F16={X}", "", "equation-above-f15", 1},
+           {"MACRO55={X}", "MACRO15={X}", "", ""},
+           {"MACRO38", "MACRO37", otherVoice, "action-without-macro"},
+           {"S0=1,NAME=a, b", ",NAME=a", otherVoice, "action-without-macro"},
+           {"LINE( 7)", "LINE( 41)", otherVoice + " --silence macro-not-sent",
+            "action-without-macro"},
+           {"HABIL( 0)=True", "HABIL( 0)=False", "", ""},
+           {"ACTHI( 0 0)= 39", "ACTHI( 0 0)= 42", "", ""},
+           {"FLAG( 0)= 16", "FLAG( 0)= 15", "", "condition-without-equation"},
+           {"MACRO= 38", "MACRO= 37", "", "voice-macro-missing"},
+           {"MACRO= 38", "MACRO= 40", "", "voice-macro-missing"},
+           {"MACRO= 38", "MACRO=-1", "", ""},
+           {"MACRO= 38\r\n", "", "", ""},
+           {"APN_SERVER=a", "APN_SERVER=", "", "gprs-without-apn"},
+           {"APN_SERVER=a\r\nSERVER_IP=1.2.3.4", "APN_SERVER=a\r\nSERVER_IP=0", "",
+            "gprs-without-server"},
+           {"1.2.3.4\r\nENABLED=True", "0\r\nENABLED=False", "", ""},
+           {"TEL 0=600", "TEL 0=6x", "", "bad-telephone"},
+       })
+    ExpectRule(sound, one);
+  std::string full = "[MACROS]\r\n";
+  for (int line = 10; line < 15; ++line)
+    full += "LINE( " + std::to_string(line) + ")=F" + std::to_string(line) + "={" +
+            std::string(198, 'x') + "}\r\n";
+  // Five lines of 203 or 204 characters, and of those that stand there 8, 26 and 11.
+  ExpectRule(sound, {"[MACROS]\r\n", full, "", "macro-memory-full", 1});
 }
 
 TEST(Check, FindsEachSenselessNumberByItsRule) {

@@ -83,13 +83,13 @@ TEST_F(WindowTools, KeepsItsOwnWordsOutOfTheTable) {
   for (const auto* key : {"General", "E_Digital_0", "Macros", "Grupos", "Tavro"})
     Window().GoTo(key);
   const std::string table = *files.Read(Path("Lang.txt"));
-  for (const auto* own : {"{Sesi", "{Session}", "{Puerto:}", "{Port:}", "{Recientes}", "{Compar"})
+  for (const auto* own : {"{Sesi", "{Session}", "{Recientes}", "{Recent}", "{Compar"})
     EXPECT_EQ(table.find(own), std::string::npos) << own;
 }
 
 TEST_F(WindowTools, SaysThatAPageDoesNotExistYet) {
   UseLanguage("en");
-  Window().GoTo("Macros");
+  Window().GoTo("Firmware");
   EXPECT_EQ(Window().Pages().Front(), nullptr);
   auto* empty = Window().Pages().findChild<QLabel*>("EmptyPage");
   EXPECT_EQ(empty->text(), "This page does not exist in this version yet.");

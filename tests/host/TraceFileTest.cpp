@@ -25,7 +25,8 @@ class TraceFile : public testing::Test {
   /// What opening a trace says; it writes a line where it can.
   std::string Open(const std::string& name) const {
     std::string why;
-    if (const auto trace = OpenTrace(Path(name), why)) *trace << "        0 TxSer: #40" << std::endl;
+    if (const auto trace = OpenTrace(Path(name), why))
+      *trace << "        0 TxSer: #40" << std::endl;
     return why;
   }
 

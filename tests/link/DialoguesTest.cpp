@@ -30,9 +30,12 @@ class EveryDialogue : public LinkTest {
       {"SetSingleOutput", [this] { return comms.SetSingleOutput(1, true); }, "#any"},
       {"SetTotalCNT", [this] { return comms.SetTotalCNT(1, 2); }, "#BE1"},
       {"SetExpValue", [this] { return comms.SetExpValue(1, 2); }, "#BE1"},
-      {"ReadProbeIdentity", [this] { return comms.ReadProbeIdentity(probe); }, "#05001,2"}};
+      {"ReadProbeIdentity", [this] { return comms.ReadProbeIdentity(probe); }, "#05001,2"},
+      {"WriteAutVoz", [this] { return comms.WriteAutVoz(voice); }, "#BE1"},
+      {"ReadAutVozList", [this] { return comms.ReadAutVozList(voice); }, "#B00"}};
 
   ProbeIdentity probe;
+  ConfAutVoz voice;
 
   void Prepare() {
     SelectTarget(profile, "Ostrel S100");
@@ -91,9 +94,9 @@ TEST_F(EveryDialogue, IsTurnedAwayByABusyLinkOrAClosedPort) {
 
 TEST_F(EveryDialogue, OfASilentLoggerSaysSo) {
   Prepare();
-  for (const char* name :
-       {"ReadConf", "WriteConf", "ReadInfo", "ReadDeviceRTC", "WriteDeviceRTC", "ReadTotalCount",
-        "ReadRealTime", "SetTotalCNT", "SetExpValue", "ReadProbeIdentity"})
+  for (const char* name : {"ReadConf", "WriteConf", "ReadInfo", "ReadDeviceRTC", "WriteDeviceRTC",
+                           "ReadTotalCount", "ReadRealTime", "SetTotalCNT", "SetExpValue",
+                           "ReadProbeIdentity", "WriteAutVoz", "ReadAutVozList"})
     for (const Case& c : inSession)
       EXPECT_TRUE(c.name != std::string(name) || c.run().Fault().kind == Kind::Silence) << name;
 }

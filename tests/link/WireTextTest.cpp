@@ -47,5 +47,21 @@ TEST(WireText, TraceHidesAccessCodes) {
   for (const auto& [text, shown] : cases) EXPECT_EQ(MaskCode(text), shown);
 }
 
+TEST(MaskPasswords, LeavesNothingOfThem) {
+  const std::string withFtp = "#BD042GPRS,apn,P,user,1,2,3,0,ip,4,5,1,fip,/p,fu,Q,6,7";
+  for (const auto& [text, masked] : std::vector<std::pair<std::string, std::string>>{
+           {"#45007APNPASS=a,b", "#45007APNPASS=****"},
+           {"#1F;45007FTPPASS=", "#1F;45007FTPPASS=****"},
+           {"APNPASS=x", "APNPASS=****"},
+           {withFtp, "#BD042GPRS,apn,****,user,1,2,3,0,ip,4,5,1,fip,/p,fu,****,6,7"},
+           {"#00;" + withFtp.substr(1),
+            "#00;BD042GPRS,apn,****,user,1,2,3,0,ip,4,5,1,fip,/p,fu,****,6,7"},
+           {"#BD042GPRS,apn,,user,1,2,3,0,ip,4,5,1", "#BD042GPRS,apn,,user,1,2,3,0,ip,4,5,1"},
+           {"#BD042GPRS,apn,a,b,user,1,2,3,0,ip,4,5,1", "#BD042GPRS,****"},
+           {"#45009+ALMD0=x,INDEX= 0,GPRS,EQ= 0", "#45009+ALMD0=x,INDEX= 0,GPRS,EQ= 0"},
+           {"#BD", "#BD"}})
+    EXPECT_EQ(MaskPasswords(text), masked) << text;
+}
+
 }  // namespace
 }  // namespace ostrel

@@ -34,21 +34,22 @@ class PageFixture : public testing::Test, protected VirtualWorld {
   bool Connected = false;
   bool ComBusy = false;
   std::string ConfFilePath = "conf.ocf";
-  PageContext context{.platform = platform,
-                      .lang = lang,
-                      .iniTool = iniTool,
-                      .conf = conf,
-                      .profile = profile,
-                      .info = info,
-                      .live = live,
-                      .totals = totals,
-                      .ActionBuffer = ActionBuffer,
-                      .Connected = Connected,
-                      .ComBusy = ComBusy,
-                      .ConfFilePath = ConfFilePath,
-                      .timersRun = true,
-                      .programFolder = "/opt/ostrel",
-                      .showActEdit = [this](std::string_view subject) { actEdit.ShowModal(subject); }};
+  PageContext context{
+      .platform = platform,
+      .lang = lang,
+      .iniTool = iniTool,
+      .conf = conf,
+      .profile = profile,
+      .info = info,
+      .live = live,
+      .totals = totals,
+      .ActionBuffer = ActionBuffer,
+      .Connected = Connected,
+      .ComBusy = ComBusy,
+      .ConfFilePath = ConfFilePath,
+      .timersRun = true,
+      .programFolder = "/opt/ostrel",
+      .showActEdit = [this](std::string_view subject) { actEdit.ShowModal(subject); }};
   ActEdit actEdit{context};
 };
 

@@ -4,7 +4,10 @@
 
 #include "PageFixture.h"
 #include "blocks/Configuration.h"
+#include "pages/Aut_Voz.h"
+#include "pages/GPRS.h"
 #include "pages/General.h"
+#include "pages/Macros.h"
 #include "pages/bus/CONF_MODBUS.h"
 #include "pages/bus/E_MODBUS.h"
 #include "pages/expansion/E_Modular.h"
@@ -50,6 +53,8 @@ const Walked kWalked[] = {
     {"E_Aux", Make<E_Aux>, 3, 4},        {"Katodex", Make<Katodex>, -1, 0},
     {"CTimer", Make<CTimer>, 12, 0, 4},  {"LTimer", Make<LTimer>, 12, 0, 4},
     {"WTimer", Make<WTimer>, 12, 0, 4},  {"MTimer", Make<MTimer>, 12, 0, 4},
+    {"Macros", Make<Macros>, -1, 0},     {"GPRS", Make<GPRS>, -1, 0},
+    {"Aut_Voz", Make<Aut_Voz>, -1, 0},
 };
 
 /// Values that a field may be tried with: the controls of some take only a few.
@@ -86,8 +91,9 @@ class PageWalk : public PageFixture, public testing::WithParamInterface<Walked> 
       if (field.meta.sense == FieldSense::Action) continue;
       // One group stands in the file alone.
       if (field.id.section->word == "MINPUT.A" && field.id.word == "GRUPO") continue;
-      // The rows of a list close up: only the first telephone stays where it was.
-      if (std::holds_alternative<ConfPhone*>(field.value) && field.id.slot.place > 0) continue;
+      // The rows of a list close up: only the first one stays where it was.
+      const bool isRow = field.id.slot.config < 0 && field.id.slot.place > 0;
+      if (isRow) continue;
       const int slot = field.id.channel - channel;
       if (channel >= 0 && (slot < 0 || slot >= GetParam().atOnce)) continue;
       if (field.id.slot.config >= 0 && field.id.slot.config != config) continue;
@@ -214,7 +220,7 @@ TEST_P(PageWalk, EachFieldHasItsControl) {
     SelectModel(model);
     const Block& block = *FindBlock(page->Id());
     block.view(conf, profile, [&](const FieldId& id, const FieldMeta& meta, const FieldView&) {
-      if (id.section->word == "MINPUT.A" && id.word == "GRUPO") return;  // in the file alone
+      if (id.section->word == "MINPUT.A" && id.word == "GRUPO") return;      // in the file alone
       if (GetParam().atOnce > 1 && id.channel >= GetParam().atOnce) return;  // not shown now
       int controls = 0;
       for (const ControlRef& control : page->GetForm().Controls()) {

@@ -54,8 +54,14 @@ TEST(Orders, AnUploadSendsItsBlocksInTheOrderThatLoggersExpect) {
     Configurator program(world.platform, world.Options(false));
     program.StartForCommand(model, 1);
     program.conf.Phone[0].TLF = program.conf.Phone[7].TLF = "600";
+    program.conf.Macro.LINE[39] = "MACRO0={X}";
     program.info.Features = -1;
-    EXPECT_EQ(Heads(program.comms.ComposeStatements()), start + rest + "DISMC 4, -ALMM 4, ")
+    EXPECT_EQ(Heads(program.comms.ComposeStatements()),
+              start + rest +
+                  "DISMC 4, -ALMM 4, CLEARMACRO 1, MACRO 1, "
+                  "APNSERVER 1, APNPASS 1, APNUSER 1, APNRETRIES 1, APNRETRYTIME 1, APNTIMEOUT 1, "
+                  "APNALCON 1, SERVERIP 1, SERVERPORT 1, SERVERTIMEOUT 1, GPRSDIS 1, FTPIP 1, "
+                  "FTPPATH 1, FTPUSER 1, FTPPASS 1, FTPRETRIES 1, FTPRETRYTIME 1, ")
         << model;
   }
 }
@@ -79,9 +85,9 @@ TEST(Orders, ADownloadEmptiesAllPagesAndThenShowsThem) {
           if (order.empty() || order.back() != form->Name()) order.push_back(form->Name());
         };
   ASSERT_TRUE(program.session.Download());
-  const std::vector<std::string> pages{"Caudal",    "CTimer",  "E_Analog", "E_Math",
-                                       "E_Digital", "General", "Grupos",   "LTimer",
-                                       "WTimer",    "MTimer",  "Flags",    "SampleRate"};
+  const std::vector<std::string> pages{"Caudal",  "CTimer", "E_Analog",  "E_Math", "E_Digital",
+                                       "General", "Grupos", "LTimer",    "WTimer", "MTimer",
+                                       "GPRS",    "Flags",  "SampleRate"};
   std::vector<std::string> emptiedThenShown = pages;
   emptiedThenShown.insert(emptiedThenShown.end(), pages.begin(), pages.end());
   EXPECT_EQ(order, emptiedThenShown);

@@ -69,6 +69,72 @@ TEST_F(RoundTrip, ALoggersConfigurationComesBackAsItWas) {
   });
 }
 
+/// Fills what a random logger leaves to chance: each field of these with a value of its own.
+void FillApart(DeviceConf& conf) {
+  conf.Gprs = {"apn.net", "pass1", "user1",    11,     12,      13,      kTrue, "10.1.2.3", 1415,
+               16,        kTrue,   "10.4.5.6", "/p/7", "user8", "pass9", 20,    21};
+  conf.Macro = {};
+  for (int place = 0; place < kMacroPlacesSent; ++place)
+    conf.Macro.LINE[place] =
+        place < kEquations ? "F" + std::to_string(place) + "={D" + std::to_string(place) + "}"
+                           : "MACRO" + std::to_string(place) + "={S0=" + std::to_string(place) +
+                                 ",NAME=m" + std::to_string(place) + "}";
+  std::vector<std::string> numbers;
+  for (int number = 0; number < kVoiceNumbers; ++number)
+    numbers.push_back("+346" + std::to_string(10'000 + number));
+  SetNumbers(conf.AutVoz, numbers);
+  conf.AutVoz.MACRO = 39;
+}
+
+/// A file into an empty logger and out of it again. On older firmware only what no statement
+/// carries may come back otherwise.
+TEST_F(RoundTrip, AFileComesBackByteForByteWhereTheFirmwareKnowsItsFields) {
+  for (const sim::Model model : sim::kModels) {
+    const std::uint32_t full = sim::TraitsOf(model).features | sim::kFastRefusal;
+    for (const std::uint32_t missing : {0U, 0x2U, 0x10U}) {
+      SCOPED_TRACE(testing::Message()
+                   << sim::TraitsOf(model).displayName << " without " << missing);
+      sim::LoggerOptions options = sim::MakeDefaultOptions(model);
+      options.features = full & ~missing;
+      SimWorld world(options);
+      Configurator program(world.platform, world.Options(false));
+      program.StartForCommand(world.TargetName(), 1);
+      {
+        sim::LoggerOptions newest = options;
+        newest.features = full;
+        SimWorld source(newest);
+        source.logger->SetConf(sim::RandomConfiguration(model, full, 7, 1.0));
+        Configurator reader(source.platform, source.Options(false));
+        reader.StartForCommand(source.TargetName(), 1);
+        ASSERT_TRUE(reader.session.Open(SimWorld::kPort, "") && reader.session.Download());
+        program.conf = reader.conf;
+      }
+      FillApart(program.conf);
+      program.ConfFilePath = "/a.ocf";
+      SaveAndRestore(program);
+      const ModelConfiguration written{program.profile, program.conf};
+      ASSERT_TRUE(program.session.Open(SimWorld::kPort, ""));
+      ASSERT_TRUE(program.session.Upload()) << program.comms.Fault().text;
+      SetNumbers(program.conf.AutVoz, NumbersOf(program.conf.AutVoz));
+      ASSERT_TRUE(program.comms.WriteAutVoz(program.conf.AutVoz));
+      program.conf = DeviceConf{};
+      ASSERT_TRUE(program.session.Download());
+      ASSERT_TRUE(program.comms.ReadAutVozList(program.conf.AutVoz));
+      const Comparison lost =
+          Compare(written, {program.profile, program.conf}, program.info.Features);
+      for (const Difference& field : lost.differences)
+        EXPECT_FALSE(field.isSent) << field.Section() << " " << field.Key();
+      EXPECT_TRUE(lost.isSame);
+      program.ConfFilePath = "/b.ocf";
+      ASSERT_TRUE(program.SaveConf().Ok());
+      if (missing == 0)
+        EXPECT_EQ(world.files.contents["/a.ocf"], world.files.contents["/b.ocf"]);
+      else
+        EXPECT_NE(world.files.contents["/a.ocf"], world.files.contents["/b.ocf"]);
+    }
+  }
+}
+
 TEST_F(RoundTrip, TheLongestTextsOfAnyCharactersComeBack) {
   std::mt19937 random(5);
   OnEachLogger(1.0, [&random](SimWorld&, Configurator& program) {

@@ -44,7 +44,8 @@ std::string WholeHalf(std::string_view half) {
   const std::vector<int> octets = OctetsOfHalf(half);
   if (octets.empty()) return std::string(half);
   std::string whole;
-  for (const int octet : octets) whole.append(whole.empty() ? "" : ".").append(Padded(octet, kOctetDigits));
+  for (const int octet : octets)
+    whole.append(whole.empty() ? "" : ".").append(Padded(octet, kOctetDigits));
   return whole;
 }
 

@@ -21,6 +21,7 @@ Command AddClock(CLI::App& app);
 Command AddLive(CLI::App& app);
 Command AddOutput(CLI::App& app);
 Command AddTotal(CLI::App& app);
+Command AddVoice(CLI::App& app);
 Command AddProbe(CLI::App& app);
 Command AddDownload(CLI::App& app);
 Command AddUpload(CLI::App& app);

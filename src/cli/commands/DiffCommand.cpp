@@ -32,7 +32,7 @@ ExitCode DiffFiles(CommandContext& context, const DiffOptions& options) {
   const auto b = a ? context.OpenFile(options.b) : std::nullopt;
   if (!b) return ExitCode::BadFile;
   const auto features = context.options.features;
-  return Report(context, options, Compare(*a, *b, features), features);
+  return Report(context, options, Compare(*a, *b, features, context.ShownPasswords()), features);
 }
 
 ExitCode DiffWithPort(CommandContext& context, const DiffOptions& options, const std::string& file,
@@ -44,10 +44,10 @@ ExitCode DiffWithPort(CommandContext& context, const DiffOptions& options, const
     if (downloaded != ExitCode::Done) return downloaded;
     const Configurator& logger = online.configurator;
     const std::int32_t features = context.options.features.value_or(logger.info.Features);
-    const ModelConfiguration held{logger.profile, logger.conf};
-    return Report(context, options,
-                  isPortFirst ? Compare(held, *other, features) : Compare(*other, held, features),
-                  features);
+    const ModelConfiguration held{logger.profile,
+                                  ReadAsSent(logger.conf, other->conf, {logger.profile, features})};
+    const ModelConfiguration &a = isPortFirst ? held : *other, &b = isPortFirst ? *other : held;
+    return Report(context, options, Compare(a, b, features, context.ShownPasswords()), features);
   });
 }
 

@@ -91,14 +91,17 @@ FirmwareView ViewOf(CommandContext& context, const ModelConfiguration& configura
 }
 
 Json ConfigurationJson(const ModelConfiguration& configuration, const std::string& file,
-                       const FirmwareView& firmware) {
+                       const FirmwareView& firmware, Passwords passwords) {
   const auto& [profile, conf] = configuration;
   const auto fields = FieldsOf(conf, profile);
   Json sections = Json::object();
   for (const Section& section : BySection(fields)) {
     Json& keys = sections[section.name] = Json::object();
     for (const ConstField* field : section.fields)
-      keys[field->Key()] = std::visit(FieldJson{profile.IsS100}, field->value);
+      keys[field->Key()] =
+          field->meta.isSecret
+              ? Json(ShownText(field->value, field->meta, profile.IsS100, passwords))
+              : std::visit(FieldJson{profile.IsS100}, field->value);
   }
   return {{"file", file},
           {"model", profile.TargetName},
@@ -132,7 +135,8 @@ std::string ActionText(std::int16_t number, const ActionWords& words) {
 }
 
 /// The lines of a section: the places of a list of actions are joined into one line.
-std::vector<Line> LinesOf(const Section& section, bool isS100, const ActionWords& actions) {
+std::vector<Line> LinesOf(const Section& section, bool isS100, const ActionWords& actions,
+                          Passwords passwords) {
   std::vector<Line> lines;
   for (const ConstField* field : section.fields) {
     FieldId id = field->id;
@@ -140,7 +144,7 @@ std::vector<Line> LinesOf(const Section& section, bool isS100, const ActionWords
     if (isListed) id.slot.place = -1;
     const std::string value =
         isListed ? ActionText(**std::get_if<const std::int16_t*>(&field->value), actions)
-                 : ReadableValue(field->value, field->meta, isS100);
+                 : ReadableValue(field->value, field->meta, isS100, passwords);
     const auto same = isListed ? std::ranges::find(lines, id, &Line::id) : lines.end();
     if (same == lines.end())
       lines.push_back({id, KeyName(id, field->meta.placeForm), KeyWords(id, field->meta), value});
@@ -180,14 +184,14 @@ std::vector<ConstField> Shown(const ModelConfiguration& configuration, const Dev
 
 void PrintReadable(std::ostream& out, const ModelConfiguration& configuration,
                    const DeviceConf& empty, bool all, const FirmwareView& firmware,
-                   const Translation& translate) {
+                   const Translation& translate, Passwords passwords) {
   const TargetProfile& profile = configuration.profile;
   const ActionWords actions = WordsOfActions(profile, translate);
   const std::vector<ConstField> fields = Shown(configuration, empty, all);
   out << profile.TargetName << '\n';
   for (const Section& section : BySection(fields)) {
     out << '\n' << section.name << " (" << SectionWords(section.fields.front()->id) << ")\n";
-    for (const Line& line : LinesOf(section, profile.IsS100, actions))
+    for (const Line& line : LinesOf(section, profile.IsS100, actions, passwords))
       out << "  " << line.key << " (" << line.words << "): " << line.value
           << (firmware.features && std::ranges::count(firmware.notTaken, line.id) > 0
                   ? "  (not taken by this firmware)\n"
@@ -197,11 +201,13 @@ void PrintReadable(std::ostream& out, const ModelConfiguration& configuration,
 
 ExitCode Report(CommandContext& context, const ShowOptions& options,
                 const ModelConfiguration& configuration, const FirmwareView& firmware) {
-  context.Show({[&] { return ConfigurationJson(configuration, options.file, firmware); },
+  const Passwords passwords = context.ShownPasswords();
+  context.Show({[&] { return ConfigurationJson(configuration, options.file, firmware, passwords); },
                 [&](std::ostream& out) {
                   const DeviceConf empty =
                       EmptyConfiguration(configuration.profile, context.Translator());
-                  PrintReadable(out, configuration, empty, options.all, firmware, context.Translator());
+                  PrintReadable(out, configuration, empty, options.all, firmware,
+                                context.Translator(), passwords);
                 }});
   if (!firmware.features && !firmware.names.empty())
     context.console.Note(std::to_string(firmware.names.size()) +

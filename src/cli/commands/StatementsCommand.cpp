@@ -26,6 +26,7 @@ ExitCode Report(CommandContext& context, const std::string& file,
   const ExitCode made =
       MakeStatements(context, configuration.conf, {configuration.profile, mask}, statements);
   if (made != ExitCode::Done) return made;
+  statements = context.Shown(std::move(statements));
   const auto leftOut = features ? std::vector<std::string>() : BlocksOfFirmware(configuration);
   context.Show({[&] {
                   return Json{{"file", file},

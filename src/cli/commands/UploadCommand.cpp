@@ -42,11 +42,12 @@ ExitCode ShowPlan(CommandContext& context, const ModelConfiguration& configurati
   return context.Show(
       {[&] {
          Json plan = PlanJson(configuration.profile, features, statements);
-         plan["statementTexts"] = statements;
+         plan["statementTexts"] = context.Shown(statements);
          return plan;
        },
        [&](std::ostream& out) {
-         for (const std::string& statement : statements) out << Printable(statement) << '\n';
+         for (const std::string& statement : context.Shown(statements))
+           out << Printable(statement) << '\n';
          out << PlanText(statements.size(), features, PlanUpload(statements, features)) << '\n';
        }});
 }

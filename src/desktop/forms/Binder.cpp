@@ -138,6 +138,7 @@ Bound BindKind(TextBox& box, const BindOptions& options, QWidget* parent) {
   return {widget, [widget, &box] {
             FollowFace(*widget, box.face);
             FollowColour(*widget, box);
+            widget->setEchoMode(box.Hidden() ? QLineEdit::Password : QLineEdit::Normal);
             const QString text = ToQt(box.Text());
             // The limit is one on typing: a longer text from a file or a logger is shown whole.
             const int limit = box.MaxLength() == 0 ? kUnlimited : box.MaxLength();

@@ -186,8 +186,12 @@ QString FormView::NoteOf(std::string_view control) const {
   const ControlRef ref = form_[control];
   if (auto* const* box = std::get_if<TextBox*>(&ref);
       box && (*box)->face.Colour() == BackColour::Red)
-    notes << Words::tr("This is not a number of the kind expected here. It counts as %1.")
-                 .arg(ToQt(NumText(NumberIn(**box))).trimmed());
+    notes << ((*box)->NumberKind() == kAddressKind
+                  ? Words::tr(
+                        "This is not an address: write four numbers from 0 to 255 with points "
+                        "between them, or 0 for none.")
+                  : Words::tr("This is not a number of the kind expected here. It counts as %1.")
+                        .arg(ToQt(NumText(NumberIn(**box))).trimmed()));
   if (const auto note = notes_.find(control); note != notes_.end()) notes << note->second;
   return notes.join(u' ');
 }

@@ -16,7 +16,7 @@ void Plain(FormView& view, const LayoutContext&) {
   kLayOut(view);
 }
 
-constexpr std::array<LayoutOf, 26> kLayouts{{
+constexpr std::array<LayoutOf, 29> kLayouts{{
     {"General", LayOutGeneral},
     {"E_Digital", Plain<LayOutDigital>},
     {"E_Analog", Plain<LayOutAnalog>},
@@ -35,6 +35,9 @@ constexpr std::array<LayoutOf, 26> kLayouts{{
     {"LTimer", Plain<LayOutLongTimers>},
     {"WTimer", Plain<LayOutWeeklyTimers>},
     {"MTimer", Plain<LayOutMonthlyTimers>},
+    {"Macros", Plain<LayOutMacros>},
+    {"GPRS", Plain<LayOutGprs>},
+    {"Aut_Voz", Plain<LayOutVoice>},
     {"ActEdit", Plain<LayOutActEdit>},
     {"SetTotal", Plain<LayOutSetTotal>},
     {"ExpSetTotal", Plain<LayOutSetTotal>},

@@ -1,5 +1,7 @@
 #include "desktop/program/Desktop.h"
 
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QLocale>
 
 #include "base/Scope.h"
@@ -17,7 +19,9 @@ Desktop::Desktop(const Platform& platform, const ConfiguratorOptions& options,
                .navigation = navigation_,
                .platform = platform_,
                .guard = [this](const std::function<void()>& run) { Guarded(run); },
-               .dataFolder = dataFolder}) {}
+               .dataFolder = dataFolder}) {
+  configurator_.context.clipboardText = [] { return FromQt(QGuiApplication::clipboard()->text()); };
+}
 
 void Desktop::Start(const std::string& file) {
   // The first questions come ahead of the choice of a language.

@@ -1123,6 +1123,40 @@
     <message>
         <source>Groups</source>
         <translation>Grupos</translation>
+        <source>New line</source>
+        <translation>Línea nueva</translation>
+    </message>
+    <message>
+        <source>Lines</source>
+        <translation>Líneas</translation>
+    </message>
+    <message>
+        <source>This line is not sent to the logger.</source>
+        <translation>Esta línea no se envía al equipo.</translation>
+    </message>
+    <message>
+        <source>Numbers</source>
+        <translation>Números</translation>
+    </message>
+    <message>
+        <source>Call</source>
+        <translation>Llamada</translation>
+    </message>
+    <message>
+        <source>This is not an address: write four numbers from 0 to 255 with points between them, or 0 for none.</source>
+        <translation>Esto no es una dirección: escriba cuatro números de 0 a 255 separados por puntos, o 0 si no hay ninguna.</translation>
+    </message>
+    <message>
+        <source>the check sum of the logger&apos;s list differs</source>
+        <translation>la suma de control de la lista del equipo es distinta</translation>
+    </message>
+    <message>
+        <source>lines were lost or arrived damaged: try again</source>
+        <translation>se perdieron líneas o llegaron dañadas: inténtelo de nuevo</translation>
+    </message>
+    <message>
+        <source>Filter the numbers</source>
+        <translation>Filtrar los números</translation>
     </message>
     <message>
         <source>Findings</source>
@@ -1855,6 +1889,148 @@
     <message>
         <source>days of the month</source>
         <translation>días del mes</translation>
+        <source>the line is neither MACRO and a number up to 55 nor F and a number, with the command in one pair of braces: write it anew</source>
+        <translation>la línea no es MACRO y un número hasta 55, ni F y un número, con el comando entre un par de llaves: escríbala de nuevo</translation>
+    </message>
+    <message>
+        <source>there is no flag %1: equations are F0 to F15</source>
+        <translation>no existe el flag %1: las ecuaciones son F0 a F15</translation>
+    </message>
+    <message>
+        <source>the lines have %1 characters more than the 1024 that a logger has room for: shorten or remove some</source>
+        <translation>las líneas tienen %1 caracteres más de los 1024 que caben en un equipo: acorte o elimine algunas</translation>
+    </message>
+    <message>
+        <source>a logger gets the first 40 lines, and %1 are left out of an upload: remove what is not needed</source>
+        <translation>un equipo recibe las primeras 40 líneas, y %1 quedan fuera de una escritura: elimine lo que no haga falta</translation>
+    </message>
+    <message>
+        <source>%1 stands in line %2 already: give one of them another number</source>
+        <translation>%1 ya está en la línea %2: dé otro número a una de las dos</translation>
+    </message>
+    <message>
+        <source>macro %1 does not exist: write it or choose another one</source>
+        <translation>no existe la macro %1: escríbala o elija otra</translation>
+    </message>
+    <message>
+        <source>macro %1 is empty: give it a command or choose another one</source>
+        <translation>la macro %1 está vacía: déle un comando o elija otra</translation>
+    </message>
+    <message>
+        <source>flag F%1 is the condition, and no equation sets it: write one or choose TRUE</source>
+        <translation>la condición es el flag F%1, y ninguna ecuación lo fija: escriba una o elija TRUE</translation>
+    </message>
+    <message>
+        <source>voice calls start macros 0 to 39: choose one of these or none</source>
+        <translation>las llamadas de voz ejecutan las macros 0 a 39: elija una de ellas o ninguna</translation>
+    </message>
+    <message>
+        <source>alarms notify by GPRS, %1 in all, and there is no APN: give one</source>
+        <translation>hay alarmas que avisan por GPRS, %1 en total, y no hay APN: indique una</translation>
+    </message>
+    <message>
+        <source>GPRS is enabled without a server: give its address</source>
+        <translation>el GPRS está habilitado sin servidor: indique su dirección</translation>
+    </message>
+    <message>
+        <source>the mask names channels that have no enabled alarm:%1</source>
+        <translation>la máscara nombra canales sin ninguna alarma habilitada:%1</translation>
+    </message>
+    <message>
+        <source>macros and equations</source>
+        <translation>macros y ecuaciones</translation>
+    </message>
+    <message>
+        <source>GPRS and FTP</source>
+        <translation>GPRS y FTP</translation>
+    </message>
+    <message>
+        <source>voice-call list</source>
+        <translation>lista de llamadas de voz</translation>
+    </message>
+    <message>
+        <source>line</source>
+        <translation>línea</translation>
+    </message>
+    <message>
+        <source>macro of a voice call</source>
+        <translation>macro de una llamada de voz</translation>
+    </message>
+    <message>
+        <source>acknowledgement</source>
+        <translation>acuse de recibo</translation>
+    </message>
+    <message>
+        <source>number</source>
+        <translation>número</translation>
+    </message>
+    <message>
+        <source>APN</source>
+        <translation>APN</translation>
+    </message>
+    <message>
+        <source>APN password</source>
+        <translation>contraseña de la APN</translation>
+    </message>
+    <message>
+        <source>APN user</source>
+        <translation>usuario de la APN</translation>
+    </message>
+    <message>
+        <source>connection attempts</source>
+        <translation>intentos de conexión</translation>
+    </message>
+    <message>
+        <source>time between attempts</source>
+        <translation>tiempo entre intentos</translation>
+    </message>
+    <message>
+        <source>disconnection timeout</source>
+        <translation>tiempo máximo de desconexión</translation>
+    </message>
+    <message>
+        <source>server address</source>
+        <translation>dirección del servidor</translation>
+    </message>
+    <message>
+        <source>server port</source>
+        <translation>puerto del servidor</translation>
+    </message>
+    <message>
+        <source>server timeout</source>
+        <translation>tiempo máximo del servidor</translation>
+    </message>
+    <message>
+        <source>connection kept up</source>
+        <translation>conexión permanente</translation>
+    </message>
+    <message>
+        <source>GPRS enabled</source>
+        <translation>GPRS habilitado</translation>
+    </message>
+    <message>
+        <source>FTP server address</source>
+        <translation>dirección del servidor FTP</translation>
+    </message>
+    <message>
+        <source>FTP path</source>
+        <translation>ruta FTP</translation>
+    </message>
+    <message>
+        <source>FTP user</source>
+        <translation>usuario FTP</translation>
+    </message>
+    <message>
+        <source>FTP password</source>
+        <translation>contraseña FTP</translation>
+    </message>
+    <message>
+        <source>FTP attempts</source>
+        <translation>intentos FTP</translation>
+    </message>
+    <message>
+        <source>time between FTP attempts</source>
+        <translation>tiempo entre intentos FTP</translation>
     </message>
 </context>
 </TS>

@@ -1,4 +1,5 @@
 #include <functional>
+#include <set>
 
 #include "base/Channels.h"
 #include "blocks/TelephoneWire.h"
@@ -64,6 +65,29 @@ std::vector<Finding> AlarmsForNobody(const Examined& file) {
                              "telephone or widen a mask",
                              {token}}));
   });
+  return found;
+}
+
+std::vector<Finding> MasksWithoutAlarm(const Examined& file) {
+  const bool isS100 = file.Model().IsS100;
+  std::set<std::string> alarmed;
+  VisitEnabledAlarms(file, [&](const AlarmPlace& place, const AlarmBlock&) {
+    alarmed.insert(TokenOf(place, isS100));
+  });
+  std::vector<Finding> found;
+  for (const ConstField& field : file.Fields()) {
+    const auto* phone = std::get_if<const ConfPhone*>(&field.value);
+    if (!phone || (*phone)->TLF.empty() || (*phone)->MASKMODE == 0) continue;
+    std::string silent;
+    for (int place = 0; place < kMaskPlaces; ++place) {
+      const std::string token = ChannelToToken((*phone)->ListaMask[place], isS100);
+      if (!token.empty() && !alarmed.contains(token)) silent += " " + token;
+    }
+    if (!silent.empty())
+      found.push_back({field.Section(),
+                       field.Key(),
+                       {"the mask names channels that have no enabled alarm:%1", {silent}}});
+  }
   return found;
 }
 

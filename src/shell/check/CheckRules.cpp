@@ -8,6 +8,7 @@
 #include "base/CodePage.h"
 #include "base/Printable.h"
 #include "blocks/TelephoneWire.h"
+#include "blocks/VoiceNumbers.h"
 #include "blocks/bus/ModbusBus.h"
 #include "blocks/bus/ModbusChannels.h"
 #include "model/Features.h"
@@ -32,10 +33,11 @@ bool IsTextSent(const Examined& file, std::size_t index) {
 }
 
 /// Why a text cannot stand in a statement; empty for one that can.
-std::string_view TroubleOf(const std::string& text) {
-  if (text.find(',') != std::string::npos)
+std::string_view TroubleOf(const std::string& text, FieldSense sense) {
+  const bool isStatement = sense == FieldSense::Statement;
+  if (!isStatement && text.find(',') != std::string::npos)
     return "a comma ends the text on the line: write something else for it";
-  if (text.find_first_of("{}") != std::string::npos)
+  if (!isStatement && text.find_first_of("{}") != std::string::npos)
     return "a brace encloses commands on the line: write something else for it";
   return HasControl(text) ? "a control character breaks the line: remove it" : "";
 }
@@ -46,7 +48,7 @@ std::vector<Finding> BrokenTexts(const Examined& file) {
     const ConstField& field = file.Fields()[i];
     const std::string* text = TextOf(field.value);
     if (!text || text->empty()) continue;
-    const std::string_view trouble = TroubleOf(*text);
+    const std::string_view trouble = TroubleOf(*text, field.meta.sense);
     if (trouble.empty() || !IsTextSent(file, i)) continue;
     found.push_back({field.Section(), field.Key(), std::string(trouble)});
   }
@@ -100,8 +102,7 @@ bool MayBeAbsent(const ConstField& field, const IniClass& document) {
   const std::string section = field.Section();
   if (field.id.section == &ModbusBus::kSection)
     return field.id.word != "BAUD" && !document.Find(section, std::string(ModbusBus::kRole));
-  return field.id.section == &ModbusChannels::kSection &&
-         field.id.word == ModbusChannels::kSize &&
+  return field.id.section == &ModbusChannels::kSection && field.id.word == ModbusChannels::kSize &&
          document.Find(section, std::string(ModbusChannels::kEarlierSize));
 }
 
@@ -214,6 +215,11 @@ std::vector<Finding> UnsentMasks(const Examined& file) {
 
 std::vector<Finding> BadNumbers(const Examined& file) {
   std::vector<Finding> found;
+  for (const ConstField& field : file.Fields())
+    if (const auto* text = std::get_if<const std::string*>(&field.value);
+        text && field.id.section == &VoiceNumbers::kSection && !(*text)->empty() &&
+        !IsIntText(**text))
+      found.push_back({field.Section(), field.Key(), {"%1 is no telephone number", {**text}}});
   for (const ConstField& field : file.Fields()) {
     const auto* phone = std::get_if<const ConfPhone*>(&field.value);
     if (!phone || (*phone)->TLF.empty()) continue;
@@ -245,7 +251,7 @@ std::string PlaceInFile(std::string_view section, std::string_view key) {
   return FoldText(WithoutBlanks(section)) + '\n' + FoldText(WithoutBlanks(key));
 }
 
-constexpr std::array<Rule, 35> kRules{{
+constexpr std::array<Rule, 46> kRules{{
     {"text-breaks-statement", Severity::Error,
      "a comma, a brace or a control character in a text that is sent", BrokenTexts},
     {"too-many-statements", Severity::Error, "more statements than an upload can number",
@@ -260,6 +266,11 @@ constexpr std::array<Rule, 35> kRules{{
      ExpansionOutOfRange},
     {"period-too-long", Severity::Error, "a long timer whose period does not fit its statement",
      LongPeriods},
+    {"macro-broken", Severity::Error, "a line of the macros that is none", BrokenMacros},
+    {"macro-memory-full", Severity::Error, "more macros than a logger has room for",
+     MacrosBeyondMemory},
+    {"equation-above-f15", Severity::Error, "an equation of a flag that does not exist",
+     EquationsWithoutFlag},
     {"section-missing", Severity::Error, "a section of the model that is not in the file",
      MissingSections},
     {"key-missing", Severity::Error, "a key of a section that is not in the file", MissingKeys},
@@ -287,9 +298,26 @@ constexpr std::array<Rule, 35> kRules{{
      TimersWithoutActions},
     {"modbus-never-read", Severity::Warning, "a MODBUS channel that no timer reads",
      ModbusNeverRead},
+    {"macro-number-twice", Severity::Warning, "a number that two macros or equations have",
+     RepeatedMacros},
+    {"macro-not-sent", Severity::Warning, "a line of the macros that a logger does not get",
+     UnsentMacros},
+    {"action-without-macro", Severity::Warning,
+     "an action that starts a macro that does not exist or is empty", ActionsWithoutMacro},
+    {"voice-macro-missing", Severity::Warning,
+     "a macro of voice calls that does not exist or is empty", VoiceCallsWithoutMacro},
+    {"condition-without-equation", Severity::Warning, "a condition that no equation sets",
+     ConditionsWithoutEquation},
+    {"gprs-without-apn", Severity::Warning, "alarms that notify by GPRS without an APN",
+     GprsWithoutApn},
+    {"gprs-without-server", Severity::Warning, "GPRS that is enabled without a server",
+     GprsWithoutServer},
+    {"mask-without-alarm", Severity::Warning,
+     "a telephone's mask that names channels without an alarm", MasksWithoutAlarm},
     {"probe-identity-shared", Severity::Warning, "two probes with one identity", SharedIdentities},
     {"equation-without-channel", Severity::Warning,
-     "an equation with a mask's word for a channel that the model does not have", EquationsOfMissingChannels},
+     "an equation with a mask's word for a channel that the model does not have",
+     EquationsOfMissingChannels},
     {"modbus-bit-rate", Severity::Warning, "a bit rate that the bus does not have", OddBitRates},
     {"modbus-not-kept", Severity::Warning, "a MODBUS setting that does not come back as it is",
      ModbusNotKept},

@@ -106,6 +106,7 @@ std::vector<Finding> StrippedTexts(const Examined& file);
 // The rules on alarms, which stand in a file of their own.
 std::vector<Finding> AlarmsForNobody(const Examined& file);
 std::vector<Finding> AlarmsNeverValid(const Examined& file);
+std::vector<Finding> MasksWithoutAlarm(const Examined& file);
 
 // The rules on channels, which stand in another one.
 std::vector<Finding> WrongOrderOfThresholds(const Examined& file);
@@ -134,5 +135,17 @@ std::vector<Finding> SenselessNumbers(const Examined& file);
 std::vector<Finding> BrokenIdentities(const Examined& file);
 std::vector<Finding> SharedIdentities(const Examined& file);
 std::vector<Finding> EquationsOfMissingChannels(const Examined& file);
+
+// The rules on macros, on what starts them or hangs on an equation, and on GPRS.
+std::vector<Finding> BrokenMacros(const Examined& file);
+std::vector<Finding> EquationsWithoutFlag(const Examined& file);
+std::vector<Finding> MacrosBeyondMemory(const Examined& file);
+std::vector<Finding> UnsentMacros(const Examined& file);
+std::vector<Finding> RepeatedMacros(const Examined& file);
+std::vector<Finding> ActionsWithoutMacro(const Examined& file);
+std::vector<Finding> ConditionsWithoutEquation(const Examined& file);
+std::vector<Finding> VoiceCallsWithoutMacro(const Examined& file);
+std::vector<Finding> GprsWithoutApn(const Examined& file);
+std::vector<Finding> GprsWithoutServer(const Examined& file);
 
 }  // namespace ostrel

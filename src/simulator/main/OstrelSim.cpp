@@ -58,8 +58,7 @@ class StateFile {
   int Keep() {
     if (path_.empty()) return 0;
     const FileResult saved = SaveWhole(files_, path_, logger_.SaveState());
-    return saved.Ok() ? 0
-                      : Fail(ExitCode::BadFile, "cannot write " + path_ + ": " + saved.error);
+    return saved.Ok() ? 0 : Fail(ExitCode::BadFile, "cannot write " + path_ + ": " + saved.error);
   }
   void KeepAfter(const sim::Exchange& exchange) {
     for (const std::string_view head : {"#41", "#46", "#47", "#48", "#5C"})

@@ -1,0 +1,223 @@
+#include "blocks/Configuration.h"
+#include "cli/ConfFile.h"
+#include "cli/TransferLine.h"
+#include "cli/commands/Commands.h"
+#include "cli/commands/OnlineCommand.h"
+#include "store/IniClass.h"
+#include "store/IniTool.h"
+
+namespace ostrel::cli {
+namespace {
+
+constexpr std::string_view kNoMacroWord = "none";
+constexpr std::string_view kConfigurationEnd = ".ocf";
+
+struct VoiceOptions {
+  std::string file;
+  std::string macro;  ///< a number, "none", or empty where none was given
+};
+
+std::string NoMacroChoice(const std::string& text) {
+  const auto number = RoundToEven<std::int16_t>(NumVal(text));
+  const bool isMacro = text.find_first_not_of("0123456789") == std::string::npos && !text.empty() &&
+                       number && *number < kVoiceMacros;
+  return isMacro || text == kNoMacroWord ? std::string() : text + " is neither 0 to 39 nor none";
+}
+
+std::int16_t MacroOf(const std::string& text) {
+  return text == kNoMacroWord ? kNoVoiceMacro
+                              : RoundToEven<std::int16_t>(NumVal(text)).value_or(kNoVoiceMacro);
+}
+
+std::string MacroWords(std::int16_t macro) {
+  return macro < 0 ? "no macro" : "macro " + std::to_string(macro);
+}
+
+std::string CountWords(std::size_t count) {
+  return std::to_string(count) + (count == 1 ? " number, " : " numbers, ");
+}
+
+/// Whether a file is a configuration, by its stamp; any other is a list in plain text.
+bool IsConfiguration(CommandContext& context, const std::string& path) {
+  IniTool tool(context.platform.files);
+  return !ModelOfStamp(tool.ProfileRead(kStampSection, kStampKey, path)).empty();
+}
+
+/// Says that the firmware has no such list; Done where it has one.
+ExitCode WantList(const Online& online) {
+  if (Has(online.configurator.info.Features, Feature::MissedCallMacro)) return ExitCode::Done;
+  return online.context.console.Fail(
+      ExitCode::DialogueFailed,
+      "the firmware of the " + online.configurator.profile.TargetName + " has no voice-call list");
+}
+
+// ---- Reading
+
+ExitCode Read(const Online& online, ConfAutVoz& list) {
+  const ExitCode wanted = WantList(online);
+  if (wanted != ExitCode::Done) return wanted;
+  return online.session.Run([&] { return online.configurator.comms.ReadAutVozList(list); });
+}
+
+/// Reads the list and puts it where it belongs by `keep`.
+ExitCode ReadOnline(CommandContext& context, const std::string& file,
+                    const std::function<ExitCode(const ConfAutVoz&)>& keep) {
+  return RunOnline(context, file, [&](Online& online) {
+    ConfAutVoz list;
+    const ExitCode read = Read(online, list);
+    if (read != ExitCode::Done) return read;
+    const ExitCode kept = keep(list);
+    if (kept == ExitCode::Done)
+      context.console.Note(CountWords(NumbersOf(list).size()) + MacroWords(list.MACRO));
+    return kept;
+  });
+}
+
+ExitCode ReadToOutput(CommandContext& context) {
+  return ReadOnline(context, "", [&](const ConfAutVoz& list) {
+    return context.Show({[&] {
+                           return Json{{"numbers", NumbersOf(list)},
+                                       {"macro", list.MACRO < 0 ? Json() : Json(list.MACRO)}};
+                         },
+                         [&](std::ostream& out) {
+                           for (const std::string& number : NumbersOf(list))
+                             out << Printable(number) << '\n';
+                         }});
+  });
+}
+
+ExitCode Written(CommandContext& context, const std::string& path, const FileResult& result) {
+  if (result.Ok()) return ExitCode::Done;
+  return context.console.Fail(ExitCode::BadFile, "cannot write " + path + ": " + result.error);
+}
+
+/// Into a configuration, the rest of which stays as it is.
+ExitCode ReadToConfiguration(CommandContext& context, const std::string& path) {
+  auto configuration = context.OpenFile(path);
+  if (!configuration) return ExitCode::BadFile;
+  const ExitCode tried = TryToWrite(context, path);
+  if (tried != ExitCode::Done) return tried;
+  const ExitCode replaced = MayReplace(context, path, configuration->profile);
+  if (replaced != ExitCode::Done) return replaced;
+  return ReadOnline(context, path, [&](const ConfAutVoz& list) {
+    ConfAutVoz& kept = configuration->conf.AutVoz;
+    SetNumbers(kept, NumbersOf(list));
+    kept.MACRO = list.MACRO;
+    IniClass document(context.platform.files);
+    SaveConfiguration(configuration->conf, configuration->profile, document);
+    return Written(context, path, document.SaveINI(path, Replacing::Any));
+  });
+}
+
+ExitCode ReadToText(CommandContext& context, const std::string& path) {
+  const ExitCode tried = TryToWrite(context, path);
+  if (tried != ExitCode::Done) return tried;
+  return ReadOnline(context, "", [&](const ConfAutVoz& list) {
+    std::string text;
+    for (const std::string& number : NumbersOf(list)) text += number + "\n";
+    return Written(context, path, SaveWhole(context.platform.files, path, text, Replacing::Any));
+  });
+}
+
+ExitCode RunRead(CommandContext& context, const VoiceOptions& options) {
+  if (options.file.empty() || options.file == kStandard) return ReadToOutput(context);
+  if (IsConfiguration(context, options.file)) return ReadToConfiguration(context, options.file);
+  if (options.file.ends_with(kConfigurationEnd))
+    return context.console.Fail(ExitCode::BadFile,
+                                options.file + " holds no configuration to put the list into");
+  return ReadToText(context, options.file);
+}
+
+// ---- Writing
+
+/// The list of a text file, without a macro. Nothing, after saying why, when a line is no number.
+std::optional<ConfAutVoz> OpenText(CommandContext& context, const std::string& path) {
+  const auto text = context.platform.files.Read(path);
+  std::vector<std::string> numbers;
+  if (!text) {
+    context.console.Fail(ExitCode::BadFile, "cannot read " + path);
+    return {};
+  }
+  const auto refused = AddNumbers(*text, numbers, Repeated::Taken);
+  for (const RefusedNumber& one : refused)
+    context.console.Fail(ExitCode::BadFile, path + ", line " + std::to_string(one.line) + ": " +
+                                                (one.fault == NumberFault::ListFull
+                                                     ? "a list has 250 numbers at the most"
+                                                     : one.text + " is no telephone number"));
+  if (!refused.empty()) return {};
+  ConfAutVoz list;
+  SetNumbers(list, numbers);
+  return list;
+}
+
+ExitCode WriteOnline(Online& online, ConfAutVoz list, bool keepsMacro) {
+  CommandContext& context = online.context;
+  const ExitCode wanted = WantList(online);
+  if (wanted != ExitCode::Done) return wanted;
+  if (keepsMacro) {
+    ConfAutVoz held;
+    const ExitCode read = Read(online, held);
+    if (read != ExitCode::Done) return read;
+    list.MACRO = held.MACRO;
+  }
+  TransferWatch& watch = online.configurator.session.Watch();
+  ExitCode code = ExitCode::Done;
+  {
+    const TransferLine shown(context.console, watch, "voice-call list",
+                             context.environment.errIsTerminal);
+    watch.BeginWriting(list.AutVozCount);
+    code = online.session.Run([&] { return online.configurator.comms.WriteAutVoz(list); });
+    watch.End();
+  }
+  if (code != ExitCode::Done) return code;
+  const std::size_t count = NumbersOf(list).size();
+  context.Show(
+      {[&] {
+         return Json{{"written", count}, {"macro", list.MACRO < 0 ? Json() : Json(list.MACRO)}};
+       },
+       [](std::ostream&) {}});
+  context.console.Note(CountWords(count) + MacroWords(list.MACRO) + " written");
+  return ExitCode::Done;
+}
+
+ExitCode RunWrite(CommandContext& context, const VoiceOptions& options) {
+  const bool isConfiguration = IsConfiguration(context, options.file);
+  std::optional<ConfAutVoz> list;
+  if (!isConfiguration) {
+    list = OpenText(context, options.file);
+  } else if (const auto configuration = context.OpenFile(options.file)) {
+    list = configuration->conf.AutVoz;
+    SetNumbers(*list, NumbersOf(*list));
+  }
+  if (!list) return ExitCode::BadFile;
+  if (!options.macro.empty()) list->MACRO = MacroOf(options.macro);
+  const bool keepsMacro = !isConfiguration && options.macro.empty();
+  return RunOnline(context, isConfiguration ? options.file : std::string(),
+                   [&](Online& online) { return WriteOnline(online, *list, keepsMacro); });
+}
+
+}  // namespace
+
+Command AddVoice(CLI::App& app) {
+  CLI::App* parser =
+      app.add_subcommand("voice", "Read or write the list of numbers whose voice calls are taken");
+  const auto options = std::make_shared<VoiceOptions>();
+  CLI::App* read = parser->add_subcommand("read", "Read the list: one number a line");
+  read->add_option("FILE", options->file,
+                   "Configuration file that gets the list, or text file; the output where absent");
+  CLI::App* write = parser->add_subcommand(
+      "write",
+      "Write the list. With a text file the logger keeps its macro, unless told otherwise");
+  write
+      ->add_option("FILE", options->file, "Configuration file, or text file with one number a line")
+      ->required();
+  write->add_option("--macro", options->macro, "Macro that a call starts: 0 to 39, or none")
+      ->check(NoMacroChoice);
+  for (CLI::App* each : {read, write}) each->fallthrough();
+  parser->require_subcommand(1);
+  return {parser, [options, read](CommandContext& context) {
+            return read->parsed() ? RunRead(context, *options) : RunWrite(context, *options);
+          }};
+}
+
+}  // namespace ostrel::cli

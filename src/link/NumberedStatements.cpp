@@ -1,0 +1,28 @@
+#include "link/NumberedStatements.h"
+
+#include "link/UploadPlan.h"
+#include "link/WireText.h"
+
+namespace ostrel {
+namespace {
+
+constexpr std::string_view kStatementRefused = "#BA0";
+
+}  // namespace
+
+LinkFault NumberedStatements::Send(std::string_view statement) {
+  const int number = sent_;
+  const bool hasLeft = line_.Post("#45" + Padded(number, kRecordDigits) + std::string(statement));
+  ++sent_;
+  if (left_) left_();
+  if (!hasLeft) return line_.WaitFault(number);
+  line_.ExpectAnswer(true);  // none was due before this window
+  line_.RxSer(RefusalWindowMs(info_.Features));
+  if (!line_.GoesOn()) return line_.WaitFault(number);
+  if (line_.RxLine.find(kStatementRefused) == std::string::npos) return {};
+  return line_.FaultNow(LinkFault::Kind::Refused, number, std::string(statement));
+}
+
+std::string NumberedStatements::Closing() const { return "#46" + Padded(sent_, kRecordDigits); }
+
+}  // namespace ostrel

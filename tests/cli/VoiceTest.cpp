@@ -1,0 +1,141 @@
+#include "cli/World.h"
+
+namespace ostrel::cli {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::Not;
+
+/// What the simulated logger has to begin with: three numbers and macro 0.
+struct VoiceWorld : World {
+  explicit VoiceWorld(std::vector<std::string> faults = {}) : World(WithFaults(std::move(faults))) {
+    sim::Configuration held = Logger().Conf();
+    held.voice = {{"+34600", "601", "602"}, 7};
+    Logger().SetConf(held);
+  }
+  const sim::VoiceList& Held() { return Logger().Conf().voice; }
+  int Voice(const std::string& command) { return Run("voice " + command + " --port sim:VR200"); }
+};
+
+TEST(Voice, IsReadToOutputTextAndConfiguration) {
+  VoiceWorld world;
+  EXPECT_EQ(world.Voice("read"), 0);
+  EXPECT_EQ(world.out, "+34600\n601\n602\n");
+  EXPECT_THAT(world.err, HasSubstr("3 numbers, macro 7"));
+  EXPECT_EQ(world.Voice("read --json"), 0);
+  EXPECT_EQ(world.Json().object()["numbers"].toArray().size(), 3);
+  EXPECT_EQ(world.Json().object()["macro"].toInt(), 7);
+  EXPECT_EQ(world.Voice("read /list.txt"), 0);
+  EXPECT_EQ(world.files.contents["/list.txt"], "+34600\n601\n602\n");
+  EXPECT_EQ(world.Voice("read /new.ocf"), 5) << "no configuration stands there";
+  world.HaveFile("/a.ocf");
+  const std::string before = world.files.contents["/a.ocf"];
+  EXPECT_EQ(world.Voice("read /a.ocf"), 0);
+  world.SetKey("/a.ocf", "AUT_VOZ", "MACRO", "-1");
+  for (const auto* key : {"TEL 0", "TEL 1", "TEL 2"}) world.SetKey("/a.ocf", "AUT_VOZ", key, "");
+  EXPECT_EQ(world.files.contents["/a.ocf"], before) << "nothing else has changed";
+}
+
+TEST(Voice, IsWrittenFromTextAndConfiguration) {
+  VoiceWorld world;
+  world.files.contents["/list.txt"] = "801\r\n802\n801\n";
+  EXPECT_EQ(world.Voice("write /list.txt"), 0) << world.err;
+  EXPECT_THAT(world.Held().numbers, ElementsAre("801", "802", "801"));
+  EXPECT_EQ(world.Held().macro, 7) << "the logger keeps its macro";
+  EXPECT_EQ(world.Voice("write /list.txt --macro 39 --json"), 0);
+  EXPECT_EQ(world.Held().macro, 39);
+  EXPECT_EQ(world.Json().object()["written"].toInt(), 3);
+  EXPECT_EQ(world.Voice("write /list.txt --macro none"), 0);
+  EXPECT_EQ(world.Held().macro, -1);
+  world.HaveFile("/a.ocf");
+  world.SetKey("/a.ocf", "AUT_VOZ", "MACRO", " 3");
+  world.SetKey("/a.ocf", "AUT_VOZ", "TEL 9", "900");
+  EXPECT_EQ(world.Voice("write /a.ocf"), 0);
+  EXPECT_THAT(world.Held().numbers, ElementsAre("900"));
+  EXPECT_EQ(world.Held().macro, 3);
+}
+
+TEST(Voice, RefusesWhatIsNoListOrNoMacro) {
+  VoiceWorld world;
+  world.files.contents["/list.txt"] = "801\nAna\n";
+  EXPECT_EQ(world.Voice("write /list.txt"), 5);
+  EXPECT_THAT(world.err, HasSubstr("/list.txt, line 2: Ana is no telephone number"));
+  EXPECT_EQ(world.Voice("write /none.txt"), 5);
+  for (const auto* macro : {"40", "-1", "x", "1.5"})
+    EXPECT_EQ(world.Voice("write /list.txt --macro " + std::string(macro)), 2) << macro;
+  EXPECT_EQ(world.Run("voice"), 2);
+  EXPECT_EQ(world.Run("voice read"), 2) << "no port";
+  EXPECT_EQ(world.Held().numbers.size(), 3U);
+}
+
+TEST(Voice, ExitsWith4WhereItFails) {
+  for (const auto* fault : {"wrong-sum", "silent-after-number@2"}) {
+    VoiceWorld world({fault});
+    EXPECT_EQ(world.Voice("read"), 4) << fault;
+    EXPECT_EQ(world.out, "");
+  }
+  VoiceWorld once({"wrong-sum@1!once"});
+  EXPECT_EQ(once.Voice("read"), 0) << "three attempts are made";
+  VoiceWorld differing({"wrong-sum"});
+  differing.files.contents["/list.txt"] = "801\n";
+  EXPECT_EQ(differing.Voice("write /list.txt --macro none"), 4);
+  EXPECT_THAT(differing.err, HasSubstr("check sum"));
+  World old([](sim::Model model) {
+    sim::LoggerOptions options = sim::MakeDefaultOptions(model);
+    options.features &= ~sim::kMissedCall;
+    return options;
+  });
+  old.files.contents["/list.txt"] = "801\n";
+  for (const auto* command : {"read", "write /list.txt --macro 1"}) {
+    EXPECT_EQ(old.Run("voice " + std::string(command) + " --port sim:BP"), 4);
+    EXPECT_THAT(old.err, HasSubstr("has no voice-call list"));
+  }
+}
+
+/// Neither results nor messages nor the trace tell a password, unless they are asked for.
+TEST(Passwords, AreToldOnlyWhenAskedFor) {
+  World world;
+  world.environment.openLog = [&](const std::string& path, std::string&) {
+    struct Log : std::ostringstream {
+      Log(std::string& into) : kept(into) {}
+      ~Log() override { kept = str(); }
+      std::string& kept;
+    };
+    return std::make_unique<Log>(world.files.contents[path]);
+  };
+  sim::Configuration held = world.Logger().Conf();
+  held.gprs.apnPassword = "Secreto1";
+  held.gprs.ftpPassword = "Secreto2";
+  world.Logger().SetConf(held);
+  world.HaveFile("/a.ocf");
+  EXPECT_THAT(world.files.contents["/a.ocf"], HasSubstr("APN_PASS=Secreto1")) << "as the format is";
+  world.files.contents["/b.ocf"] = world.files.contents["/a.ocf"];
+  world.SetKey("/b.ocf", "GPRS", "FTP_PASS", "Secreto3");
+  for (const auto& [command, code] :
+       std::map<std::string, int>{{"show /a.ocf", 0},
+                                  {"show /a.ocf --json", 0},
+                                  {"diff /a.ocf /b.ocf", 1},
+                                  {"diff /a.ocf /b.ocf --json", 1},
+                                  {"diff port /b.ocf --port sim:VR200 --trace /trace", 1},
+                                  {"check /a.ocf", 0},
+                                  {"statements /a.ocf --features ffffffff", 0},
+                                  {"upload /b.ocf --dry-run --json --features ffffffff", 0},
+                                  {"upload /b.ocf --port sim:VR200 --trace /trace --force", 0}}) {
+    EXPECT_EQ(world.Run(command), code) << command << world.err;
+    EXPECT_THAT(world.out + world.err + world.files.contents["/trace"], Not(HasSubstr("Secreto")))
+        << command;
+  }
+  EXPECT_EQ(world.Logger().Conf().gprs.ftpPassword, "Secreto3") << "on the wire as ever";
+  EXPECT_THAT(world.files.contents["/trace"], HasSubstr("FTPPASS=****"));
+  for (const auto* command : {"show /a.ocf", "show /a.ocf --json", "diff /a.ocf /b.ocf",
+                              "statements /a.ocf --features ffffffff"}) {
+    world.Run(command + std::string(" --secrets"));
+    EXPECT_THAT(world.out, HasSubstr("Secreto2")) << command;
+  }
+  world.Run("diff port /b.ocf --port sim:VR200 --trace /trace --secrets");
+  EXPECT_THAT(world.files.contents["/trace"], HasSubstr("GPRS,telemetria.example,Secreto1"));
+}
+
+}  // namespace
+}  // namespace ostrel::cli
