@@ -91,9 +91,12 @@ std::string CommaToPoint(std::string_view text) {
 }
 
 std::string WithDecimalPoint(std::string_view text) {
-  const bool isCandidate =
-      std::ranges::count(text, ',') == 1 && text.find('.') == std::string_view::npos;
-  std::string number = isCandidate ? CommaToPoint(text) : std::string(text);
+  const std::size_t comma = text.find(',');
+  if (comma == std::string_view::npos || text.find('.') != std::string_view::npos ||
+      text.find_first_of("0123456789", comma) != comma + 1)
+    return std::string(text);
+  std::string number(text);
+  number[comma] = '.';
   return IsFloatText(number) ? number : std::string(text);
 }
 

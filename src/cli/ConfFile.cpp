@@ -3,7 +3,7 @@
 #include "base/CodePage.h"
 #include "blocks/Configuration.h"
 #include "shell/ForeignKeys.h"
-#include "shell/SafetyCopies.h"
+#include "shell/check/CheckRules.h"
 
 namespace ostrel::cli {
 namespace {
@@ -53,14 +53,28 @@ ExitCode MayReplace(CommandContext& context, const std::string& path,
   return context.console.Fail(ExitCode::BadFile, lost + ". --yes replaces it all the same");
 }
 
+SafetyCopies CopiesOf(const CommandContext& context) {
+  return {context.platform.files, context.platform.clock, context.environment.dataFolder};
+}
+
+bool TellTextsNotKept(CommandContext& context, const ModelConfiguration& configuration) {
+  const std::vector<Finding> lost = TextsNotKept(configuration);
+  for (const Finding& finding : lost) context.console.Note("warning: " + FindingText(finding));
+  return !lost.empty();
+}
+
 ExitCode SaveBackup(CommandContext& context, const Configurator& configurator,
                     const DeviceConf& held, std::string& path) {
-  SafetyCopies copies(context.platform.files, context.platform.clock,
-                      context.environment.dataFolder);
+  SafetyCopies copies = CopiesOf(context);
   const SafetyCopies::Kept kept =
-      copies.Keep(held, configurator.profile, configurator.info.SerialNumber);
+      copies.Keep({held, configurator.profile, configurator.info.SerialNumber,
+                   configurator.comms.DownloadedLines()});
   path = kept.path;
-  return kept.result.Ok() ? ExitCode::Done : CannotWrite(context, path, kept.result);
+  if (!kept.result.Ok()) return CannotWrite(context, path, kept.result);
+  context.console.Note("what the logger holds is kept in " + path);
+  if (TellTextsNotKept(context, {configurator.profile, held}))
+    context.console.Note("the logger's own lines are kept in " + SafetyCopies::LinesBeside(path));
+  return ExitCode::Done;
 }
 
 }  // namespace ostrel::cli

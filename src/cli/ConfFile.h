@@ -3,6 +3,7 @@
 #include <string>
 
 #include "cli/CommandContext.h"
+#include "shell/SafetyCopies.h"
 
 namespace ostrel::cli {
 
@@ -18,8 +19,15 @@ ExitCode TryToWrite(CommandContext& context, const std::string& path);
 /// Anything but Done after saying what would be lost.
 ExitCode MayReplace(CommandContext& context, const std::string& path, const TargetProfile& profile);
 
+/// The safety copies of the user.
+SafetyCopies CopiesOf(const CommandContext& context);
+
+/// Tells which texts of a configuration a file does not keep as they are, and whether there are
+/// any.
+bool TellTextsNotKept(CommandContext& context, const ModelConfiguration& configuration);
+
 /// Keeps what the logger of a session holds as a safety copy in the user's data folder, named by
-/// serial number and time. `path` tells where.
+/// serial number and time, with the logger's own lines beside it. `path` tells where.
 ExitCode SaveBackup(CommandContext& context, const Configurator& configurator,
                     const DeviceConf& held, std::string& path);
 

@@ -64,7 +64,7 @@ std::vector<Command> AddCommands(CLI::App& app) {
   std::vector<Command> commands;
   for (const auto add :
        {AddPorts, AddInfo, AddClock, AddLive, AddOutput, AddTotal, AddVoice, AddProbe, AddDownload,
-        AddUpload, AddStatements, AddDiff, AddShow, AddCheck, AddCalc})
+        AddUpload, AddBackups, AddRestore, AddStatements, AddDiff, AddShow, AddCheck, AddCalc})
     commands.push_back(add(app));
   for (const Command& command : commands) command.parser->fallthrough();
   app.require_subcommand(1);

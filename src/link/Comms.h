@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -93,6 +94,10 @@ class Comms {
   /// Asks the logger who it is. Always false; the values stand in the records.
   bool ReadInfo();
   /// What the last `ReadInfo` came to: no fault when it got the stream to its end.
+  /// Reads lines of a former download into the model, over what it holds.
+  void TakeKeptLines(std::span<const std::string> lines) { download_.TakeKept(lines); }
+  /// The logger's own lines of the last download, as messages.
+  const std::vector<std::string>& DownloadedLines() const { return download_.Lines(); }
   const LinkFault& InfoFault() const { return infoFault_; }
   /// Brings the logger's clock into `DeviceClock`, which stays as it was on failure.
   LinkResult ReadDeviceRTC();
@@ -122,6 +127,11 @@ class Comms {
   /// read now and then does not change it.
   const LinkFault& Fault() const { return fault_; }
   Duration SilentFor() const { return line_.SilentFor(); }
+  Duration SinceAnswer() const { return line_.SinceAnswer(); }
+  Duration UnansweredFor() const { return line_.UnansweredFor(); }
+  /// True when nothing can come any more as far as the machine knows: the port is closed, its
+  /// device has gone, or the carrier has and nothing was heard since.
+  bool LineLost() const;
   /// Tells a listener how far downloads and uploads are, as long as the subscription lives.
   [[nodiscard]] ProgressFeed::Subscription OnProgress(ProgressFeed::Listener listener) {
     return progress_.Listen(std::move(listener));
@@ -144,6 +154,7 @@ class Comms {
   LinkFault fault_;
   LinkFault infoFault_{LinkFault::Kind::Silence};
   bool opened_ = false;  ///< the open port is ours to close
+  std::optional<TimePoint> carrierGoneAt_;
 
  public:
   std::string AccessCode;  ///< as typed by the operator; written while `showPWForm` runs

@@ -36,6 +36,7 @@ LinkFault Download::RunAttempts() {
     if (attempt > 0) line_.AwaitQuiet();  // the stream that failed may still be running
     line_.RxChars = 0;
     if (model_.begin) model_.begin();
+    lines_.clear();
     fault = stream_.Read([this](const StreamRecord& record) { return TakeRecord(record); });
     const bool isFinal = fault.Ok() || fault.kind == LinkFault::Kind::IndexOutOfRange;
     if (isFinal || !line_.GoesOn()) break;
@@ -45,9 +46,17 @@ LinkFault Download::RunAttempts() {
 
 LinkFault Download::TakeRecord(const StreamRecord& record) {
   Tell(Progress::Stage::Step);
+  lines_.emplace_back(record.line);
   const auto section = sections_.find(std::string(record.key));
   if (section == sections_.end()) return {};  // of a newer firmware
   return Read(section->second, record);
+}
+
+void Download::TakeKept(std::span<const std::string> lines) {
+  for (const std::string& line : lines) {
+    const auto section = sections_.find(std::string(KeyOf(line)));
+    if (section != sections_.end()) Read(section->second, {0, section->first, line});
+  }
 }
 
 /// Lets a section read a record. An index beyond its array ends the whole download.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <span>
 #include <string>
 #include <unordered_map>
 #include <vector>
@@ -27,6 +28,11 @@ class Download {
   /// Makes known how the lines of each key are read. The first section of a key counts.
   void SetSections(std::vector<WireSection> sections);
   LinkFault Run();
+  /// Reads lines of a former download into the model, over what it holds. Those of unknown keys and
+  /// of channels that do not exist are passed over.
+  void TakeKept(std::span<const std::string> lines);
+  /// The lines of the last attempt as they came, messages in UTF-8.
+  const std::vector<std::string>& Lines() const { return lines_; }
 
  private:
   LinkFault RunAttempts();
@@ -38,6 +44,7 @@ class Download {
   ProgressFeed& progress_;
   Model model_;
   NumberedStream stream_;
+  std::vector<std::string> lines_;
   std::unordered_map<std::string, std::function<void(LineReader&)>> sections_;
 };
 

@@ -11,6 +11,8 @@ constexpr std::size_t kKeyAt = 7;
 
 }  // namespace
 
+std::string_view KeyOf(std::string_view line) { return Characters(FieldOf(line, 1), kKeyAt); }
+
 LinkFault NumberedStream::Read(const Take& take) {
   Restart();
   if (!line_.Ask(std::string(request_))) return line_.WaitFault(expected_);
@@ -27,7 +29,7 @@ LinkFault NumberedStream::TakeRecord(const Take& take) {
   const double number = NumVal(Characters(line, kNumberAt, kRecordDigits));
   if (!line.starts_with(head_) || RoundToEven<int>(number) != expected_)
     return line_.FaultNow(LinkFault::Kind::OutOfSequence, expected_, line_.RxLine);
-  return take({expected_++, Characters(FieldOf(line, 1), kKeyAt), line});
+  return take({expected_++, KeyOf(line), line});
 }
 
 }  // namespace ostrel

@@ -14,6 +14,9 @@ struct StreamRecord {
   std::string_view line;  ///< the whole message
 };
 
+/// The key of a line of such a stream.
+std::string_view KeyOf(std::string_view line);
+
 /// A stream of lines that a logger sends for one request: each has the head, a number of three
 /// digits that rises from 0, a key and its fields; the bare head ends it.
 class NumberedStream {

@@ -53,6 +53,7 @@ LinkFault Upload::RunOnce() {
 
 LinkFault Upload::Close(const std::vector<std::string>& statements) {
   const int sent = statements_.Sent();
+  line_.NoteQuestion();
   const bool hasLeft = line_.Post(statements_.Closing());
   if (!hasLeft || !line_.RxSer(line_.ReplyTimeout)) return line_.WaitFault(sent);
   if (line_.RxLine.starts_with(kTakenOver)) return {};

@@ -64,7 +64,7 @@ void Describe(R& r, Visit&& visit) {
   auto& [nombre, unidad, timebase, ratio, alarm] = r;
   visit(FieldMeta{"NOMBRE", "name"}, nombre);
   visit(FieldMeta{"UNIDAD", "unit"}, unidad);
-  visit(NumberMeta("TIMEBASE", "time base", "s", kTimeBase), timebase);
+  visit(NumberMeta("TIMEBASE", "time base", "s", SensibleRange{}), timebase);
   visit(NumberMeta("RATIO", "units of a pulse", {}, kPulseWeight), ratio);
   DescribeAlarms(alarm, ModuloFlow::kShape, visit);
 }

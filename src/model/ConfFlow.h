@@ -32,7 +32,7 @@ void Describe(R& r, Visit&& visit) {
   visit(TextMeta("NOMBRE", "name", 31), nombre);
   visit(TextMeta("UNIDAD", "unit", 9), unidad);
   visit(CodeMeta("INTERFAZ", "interface", kOnOrOffWords), interfaz);
-  visit(NumberMeta("TIMEBASE", "time base", "s", kTimeBase, 6), timeBase);
+  visit(NumberMeta("TIMEBASE", "time base", "s", SensibleRange{}, 6), timeBase);
   visit(NumberMeta("RATIO", "units a pulse", {}, kPulseWeight), ratio);
   DescribeAlarms(alarm, ConfCaudal::kShape, visit);
 }

@@ -34,6 +34,9 @@ void SetFieldText(const FieldRef& field, std::string_view text);
 /// Copies the value of a field to another of the same kind.
 void CopyField(const FieldView& from, const FieldRef& to);
 
+/// Whether two fields of one kind have the same value.
+bool IsSameValue(const FieldView& a, const FieldView& b);
+
 /// The same field for looking only.
 FieldView ViewOf(const FieldRef& field);
 

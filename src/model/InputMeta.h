@@ -9,8 +9,6 @@ namespace ostrel {
 /// Codes of an interface where there is nothing to choose but on or off.
 inline constexpr std::array<CodeWords, 2> kOnOrOffWords{{{0, "off"}, {6, "on"}}};
 
-/// Seconds in which pulses are counted for a flow.
-inline constexpr SensibleRange kTimeBase{0, 32'767};
 /// Engineering units of a pulse.
 inline constexpr SensibleRange kPulseWeight{0, 1e6};
 

@@ -29,13 +29,7 @@ bool IsOfChannel(const FieldId& id) { return id.slot.config < 0 && id.slot.place
 
 /// Whether two fields of one place read alike.
 bool IsSame(const ConstField& a, const ConstField& b, bool isS100) {
-  const bool isEqual = std::visit(
-      [&](const auto* value) {
-        const auto* const* other = std::get_if<decltype(value)>(&b.value);
-        return other && **other == *value;
-      },
-      a.value);
-  return isEqual || FieldText(a.value, isS100) == FieldText(b.value, isS100);
+  return IsSameValue(a.value, b.value) || FieldText(a.value, isS100) == FieldText(b.value, isS100);
 }
 
 /// Finds the facts of a field's node. Fields of one record stand together.
@@ -136,7 +130,15 @@ ChannelTable TableOfGroup(std::string_view group, const ModelConfiguration& conf
     if (row.cells.size() <= place) row.cells.resize(place + 1);
     row.cells[place] = field;
   }
-  for (ChannelTable::Row& row : table.rows) row.cells.resize(table.columns.size());
+  // The name stands first, by which people know a channel.
+  const auto name = std::ranges::find(table.columns, "NOMBRE", &FieldMeta::word);
+  const auto place = name == table.columns.end() ? 0 : name - table.columns.begin();
+  for (ChannelTable::Row& row : table.rows) {
+    row.cells.resize(table.columns.size());
+    std::rotate(row.cells.begin(), row.cells.begin() + place,
+                row.cells.begin() + std::min<std::ptrdiff_t>(place + 1, std::ssize(row.cells)));
+  }
+  if (place > 0) std::rotate(table.columns.begin(), name, name + 1);
   return table;
 }
 

@@ -113,6 +113,8 @@ FaultWords LinkWords(const SessionFault& fault, const std::string& port) {
 }
 
 Phrase Outcome(const SessionFault& fault) {
+  if (fault.unverified)
+    return {"the logger has taken the new configuration over, which is not verified"};
   switch (fault.during) {
     case SessionPhase::Writing:
       if (fault.allSent)

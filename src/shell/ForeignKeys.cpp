@@ -1,32 +1,34 @@
 #include "shell/ForeignKeys.h"
 
 #include <algorithm>
+#include <set>
+#include <utility>
 
+#include "base/CodePage.h"
 #include "blocks/Configuration.h"
 #include "store/IniClass.h"
+#include "store/ProfileIndex.h"
 
 namespace ostrel {
 namespace {
 
 constexpr std::size_t kMostNamed = 5;
 
-/// Keys that earlier files have in place of present ones: they are read, and written anew.
-bool IsEarlierForm(std::string_view section, std::string_view key) {
-  return section == GeneralParameters::kSection.word && key.starts_with("TLF ");
-}
+/// Sections and keys as the file's reader compares them.
+using Names = std::set<std::pair<std::string, std::string>>;
 
-std::string UpperCase(std::string_view name) {
-  std::string upper(name);
-  for (char& c : upper)
-    if (c >= 'a' && c <= 'z') c = static_cast<char>(c - 'a' + 'A');
-  return upper;
+std::string NameRead(std::string_view name) { return FoldText(WithoutBlanks(name)); }
+
+/// Keys that earlier files have in place of present ones: they are read, and written anew.
+bool IsEarlierForm(const std::string& section, const std::string& key) {
+  return section == FoldText(GeneralParameters::kSection.word) && key.starts_with(FoldText("TLF "));
 }
 
 /// Notes the keys that a configuration of a model writes.
-void WriteKeysOf(const TargetProfile& profile, IniClass& document) {
+void WriteKeysOf(const TargetProfile& profile, Names& written) {
   const DeviceConf conf;
   for (const ConstField& field : FieldsOf(conf, profile))
-    document.WriteKey(field.Section(), field.Key(), "");
+    written.emplace(NameRead(field.Section()), NameRead(field.Key()));
 }
 
 }  // namespace
@@ -34,9 +36,8 @@ void WriteKeysOf(const TargetProfile& profile, IniClass& document) {
 std::vector<std::string> ForeignKeys(Files& files, const std::string& path,
                                      const TargetProfile& profile) {
   if (!files.Exists(path)) return {};
-  IniClass written(files), standing(files);
-  written.NewINI();
-  written.WriteKey(kStampSection, kStampKey, profile.TargetType);
+  IniClass standing(files);
+  Names written{{NameRead(kStampSection), NameRead(kStampKey)}};
   WriteKeysOf(profile, written);
   standing.OpenINI(path, false);
   // What only another model has is no loss in a file of that model, which is replaced as a whole.
@@ -48,12 +49,12 @@ std::vector<std::string> ForeignKeys(Files& files, const std::string& path,
     WriteKeysOf(own, written);
   }
   std::vector<std::string> foreign;
-  std::string section;
+  std::string_view section;
   standing.Visit([&](std::string_view name) { section = name; },
                  [&](std::string_view key, std::string_view) {
-                   if (written.KeyExists(section, key) || IsEarlierForm(UpperCase(section), key))
-                     return;
-                   foreign.push_back("[" + section + "] " + std::string(key));
+                   const std::pair names(NameRead(section), NameRead(key));
+                   if (written.contains(names) || IsEarlierForm(names.first, names.second)) return;
+                   foreign.push_back("[" + std::string(section) + "] " + std::string(key));
                  });
   return foreign;
 }

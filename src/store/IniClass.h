@@ -90,14 +90,14 @@ class IniClass {
   void SetSectionExists(std::string_view first, std::string_view second, bool exists);
 
   /// Visits the document in order: `onSection(name)`, then `onKey(key, value)` for each of its
-  /// keys. The document must not be changed meanwhile.
+  /// keys, where the value is a string that stands as long as the key. The document must not be
+  /// changed meanwhile.
   template <class OnSection, class OnKey>
   void Visit(OnSection&& onSection, OnKey&& onKey) const {
     for (const auto& section : root_) {
       onSection(std::string_view(section.key));
       if (!section.value) continue;
-      for (const auto& entry : *section.value)
-        onKey(std::string_view(entry.key), std::string_view(entry.value));
+      for (const auto& entry : *section.value) onKey(std::string_view(entry.key), entry.value);
     }
   }
 

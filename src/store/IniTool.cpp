@@ -2,6 +2,7 @@
 
 #include "base/CodePage.h"
 #include "base/Printable.h"
+#include "base/Utf8.h"
 
 namespace ostrel {
 namespace {
@@ -22,6 +23,22 @@ std::string IniTool::ProfileRead(std::string_view section, std::string_view key,
   }
   const std::string_view value = index_->Find(ToCodePage(section), ToCodePage(key));
   return FromCodePage(WithoutQuotes(value).substr(0, kProfileValueLimit));
+}
+
+std::string_view ProfilePart(std::string_view value) { return WithoutQuotes(WithoutBlanks(value)); }
+
+std::string LossInProfile(std::string_view text) {
+  const std::size_t length = CharacterCount(text);
+  if (UpToControl(text).size() < text.size())
+    return "the file keeps it up to its control character alone";
+  if (WithoutBlanks(text).size() < text.size())
+    return "the file does not keep the blanks around it";
+  if (ProfilePart(text).size() < text.size()) return "the file does not keep the quotes around it";
+  if (length > kProfileValueLimit)
+    return "the file gives back " + std::to_string(kProfileValueLimit) + " of its " +
+           std::to_string(length) + " characters";
+  if (FromCodePage(ToCodePage(text)) != text) return "the file has no code for some of its letters";
+  return {};
 }
 
 void ConfWriteKey(std::string_view value, std::string_view section, std::string_view key,

@@ -35,6 +35,13 @@ class IniTool {
   std::optional<ProfileIndex> index_;
 };
 
+/// The part of a written value, in UTF-8, that the reader looks at: without the blanks around it
+/// and the quotes around that. It is cut to `kProfileValueLimit` when it is read.
+std::string_view ProfilePart(std::string_view value);
+
+/// Why a text that is written as a value is not read back as it is; empty when it is.
+std::string LossInProfile(std::string_view text);
+
 /// Writes a key of an open document. A value ends before its first control character, which would
 /// tear the line. Raises `IniError` as `IniClass::WriteKey` does.
 void ConfWriteKey(std::string_view value, std::string_view section, std::string_view key,

@@ -109,7 +109,8 @@ TEST_F(EndToEnd, ConfigurationGoesRoundOverAPseudoTerminal) {
   EXPECT_EQ(Run("ostrelctl", "diff port " + Path("b.ocf") + port), 0) << Read("out");
   EXPECT_EQ(Run("ostrelctl", "diff port " + Path("a.ocf") + port), 1);
   EXPECT_EQ(std::distance(fs::directory_iterator(folder_ / "data/ostrel-configurator/backups"), {}),
-            1);
+            2)
+      << "a copy, and the logger's own lines";
   EXPECT_EQ(simulator.Stop(SIGKILL), -1);
   EXPECT_THAT(Read("state"), HasSubstr("Depósito de la prueba")) << "kept whatever ends it";
 }

@@ -34,7 +34,8 @@ TEST(Show, TellsOnlyWhatIsSetUnlessToldAll) {
       "[General]\r\nVERSION=VR200\r\nNOMBRE=Dep\xF3sito\r\nRENVT= 10\r\nRENVN= 3\r\n"
       "TLFM 1=600100200,Prio=2,PRV1,MASKMODE1,DI3,FG0\r\n"
       "[DIGITAL 2]\r\nHABIL( 1)=True\r\nSIEMPRE( 1)=True\r\nSEMANA( 1)= 31\r\n"
-      "TEXTO( 1)=Puerta\x1B[31m\r\nACTHI( 1 0)= 5\r\nACTHI( 1 3)= 12";
+      "TEXTO( 1)=Puerta\x1B[31m\r\nACTHI( 1 0)= 5\r\nACTHI( 1 3)= 12\r\nREARM( 1)= 7\r\n"
+      "[ANALOG 1]\r\nINTERFAZ= 3";
   EXPECT_EQ(world.Run("show /a.ocf"), 0);
   EXPECT_THAT(world.out, HasSubstr("Ostrel VR200\n"));
   EXPECT_THAT(world.out, HasSubstr("GENERAL (general)\n  NOMBRE (name): \"Dep\xC3\xB3sito\"\n"));
@@ -48,6 +49,8 @@ TEST(Show, TellsOnlyWhatIsSetUnlessToldAll) {
       world.out,
       HasSubstr(
           "  ACTHI( 1) (alarm 1, actions, high): 5 - Ejecutar macro 4; 12 - Ejecutar macro 11\n"));
+  EXPECT_THAT(world.out, HasSubstr("(alarm 1, rearming): 7 s\n"));
+  EXPECT_THAT(world.out, HasSubstr("INTERFAZ (interface): 0-10 V\n"));
   EXPECT_EQ(world.Run("show /a.ocf --all"), 0);
   EXPECT_THAT(world.out, HasSubstr("RENVT (time between resends): 10 minutes\n"));
   EXPECT_THAT(world.out, HasSubstr("TLFM 0 (telephone 0): free\n"));
@@ -220,6 +223,8 @@ TEST(Check, FindsEachMistakeOfABusByItsRule) {
            {"BAUD= 9600", "BAUD= 9600", "", ""},
            {"MINIMO( 2)= 1", "MINIMO( 2)= 6", "", "thresholds-reversed"},
            {"HISTERESIS( 2)= 4", "HISTERESIS( 2)= 4.5", "", "hysteresis-too-large"},
+           {"= 1\r\nMAXIMO( 2)= 5\r\nHISTERESIS( 2)= 4",
+            "= 1.2\r\nMAXIMO( 2)= 1.3\r\nHISTERESIS( 2)= .1", "", ""},
            {"HABIL( 2)=True\r\nSIEMPRE( 2)=True\r\nMINIMO( 2)= 1", "MINIMO( 2)= 6", "", ""},
            {"INTERFAZ= 1", "INTERFAZ= 0", "", "alarm-of-silent-channel"},
            {"MULT= 2", "MULT= 0", "", "alarm-of-silent-channel"},
@@ -234,6 +239,7 @@ TEST(Check, FindsEachMistakeOfABusByItsRule) {
            {"MULT= 2", "MULT= 2\r\nTYPE= 3", "", "modbus-not-kept"},
            {"MULT= 2", "MULT= 2\r\nSIZE32=True", "", "modbus-not-kept"},
            {"MULT= 2", "MULT= 2\r\nSIZE32=False", "", ""},
+           {"MULT= 2\r\nANALOG_MODE=True", "NOMBRE=Bomba\r\nMULT= 2", "", "modbus-not-kept"},
            {"MULT= 2\r\nANALOG_MODE=True", "MASCARA= 1\r\nMINIMO( 0)= 9", "", ""},
        })
     ExpectRule(sound, one);
@@ -281,6 +287,22 @@ TEST(Check, FindsEachMistakeOfMacrosAndGprsByItsRule) {
   ExpectRule(sound, {"[MACROS]\r\n", full, "", "macro-memory-full", 1});
 }
 
+TEST(Check, TakesFilesOfEarlierPrograms) {
+  World world;
+  world.HaveFile("/a.ocf");
+  std::string& text = world.files.contents["/a.ocf"];
+  const auto replace = [&](std::string_view from, std::string_view by) {
+    const std::size_t at = text.find(from, text.find("[MODBUS"));
+    ASSERT_NE(at, std::string::npos) << from;
+    text.replace(at, from.size(), by);
+  };
+  replace("MASTER=True\r\n", "");
+  replace("TYPE= 0\r\n", "SIZE32=False\r\n");
+  EXPECT_EQ(world.Run("check /a.ocf"), 0) << world.out;
+  replace("BAUD=", "OTHER=");
+  EXPECT_EQ(world.Run("check /a.ocf"), 1);
+}
+
 TEST(Check, FindsEachSenselessNumberByItsRule) {
   const std::string sound =
       "[General]\r\nVERSION=VR200\r\nRENVT= 10\r\nTLFM 3=600,Prio=1,PRV0,MASKMODE0\r\n"
@@ -302,6 +324,10 @@ TEST(Check, FindsEachSenselessNumberByItsRule) {
            {"( 2)= 10000", "( 2)=-1", "", "number-senseless"},
            {"HABIL( 2)=True\r\nSIEMPRE( 2)=True\r\nPERSISTENCIA( 2)= 10000",
             "PERSISTENCIA( 2)= 10001", "", ""},
+           {"INTERFAZ= 6", "INTERFAZ= 6\r\nTIMEBASE=-5", "", "number-out-of-range", 1},
+           {"INTERFAZ= 6", "INTERFAZ= 6\r\nHABIL( 0)=True\r\nSIEMPRE( 0)=True", "",
+            "alarm-of-silent-channel"},
+           {"REARM( 0)=", "FLAG( 0)= 17\r\nREARM( 0)=", "", "number-out-of-range", 1},
            {"REARM( 0)= 86400", "REARM( 0)= 86401", "", "number-senseless"},
            {"RENVT= 10", "RENVT= 1441", "", "number-senseless"},
        })
@@ -378,6 +404,69 @@ TEST(Check, SaysWhereAndWhatHelps) {
   EXPECT_EQ(world.out,
             "error: [GENERAL] NOMBRE: a comma ends the text on the line: write something else for "
             "it (text-breaks-statement)\n");
+}
+
+/// What a file gives back changed is told, and nothing of what the logger held is lost.
+TEST(Files, ATextThatAFileDoesNotKeepIsTold) {
+  World world;
+  sim::Configuration conf = world.Logger().Conf();
+  conf.name = " a\nCSM=600111222";
+  conf.digitals[0].name = "\"quoted\"";
+  conf.digitals[1].name = " edges ";
+  world.Logger().SetConf(conf);
+  EXPECT_EQ(world.Run("download /a.ocf --port sim:VR200"), 0) << world.err;
+  EXPECT_THAT(world.err, HasSubstr("[GENERAL] NOMBRE: the file keeps it up to its control "));
+  EXPECT_THAT(world.err, HasSubstr("[DIGITAL 0] NOMBRE: the file does not keep the quotes around"));
+  EXPECT_THAT(world.err, HasSubstr("[DIGITAL 1] NOMBRE: the file does not keep the blanks around"));
+  ASSERT_EQ(world.Backups(), 1U);
+  const auto lines = std::ranges::find_if(
+      world.files.contents, [](const auto& file) { return file.first.ends_with(".lines"); });
+  EXPECT_THAT(lines->second, testing::StartsWith("#BD000DNAME, a\nCSM=600111222\r\n#BD001"));
+  EXPECT_THAT(lines->second, HasSubstr(",\"quoted\""));
+  EXPECT_THAT(world.err, HasSubstr("own lines are kept in " + lines->first + "\n"));
+  EXPECT_EQ(world.Run("check /a.ocf"), 0) << world.out;
+  EXPECT_THAT(world.out, HasSubstr("[DIGITAL 1] NOMBRE: the file does not keep the blanks"));
+  EXPECT_THAT(world.out, HasSubstr("(text-not-kept)"));
+}
+
+/// Names of a file fold, as its reader folds them, and what the reader strips does not count.
+TEST(Files, AreCheckedAsTheirReaderReadsThem) {
+  World world;
+  world.HaveFile("/a.ocf");
+  world.Edit("/a.ocf", "UNIDAD=", "Unidad =");
+  world.SetKey("/a.ocf", "DIGITAL 0", "NOMBRE", std::string(300, ' ') + "x");
+  world.Edit("/a.ocf", "HISTERESIS( 0)=", "Histeresis( 0)=rubbish");
+  EXPECT_EQ(world.Run("check /a.ocf"), 0) << world.out << "no key is missing";
+  EXPECT_THAT(world.out, Not(HasSubstr("value-cut")));
+  EXPECT_THAT(world.out, HasSubstr("is no value for this"));
+  world.SetKey("/a.ocf", "DIGITAL 0", "NOMBRE", "\"" + std::string(254, 'x') + "\"");
+  EXPECT_EQ(world.Run("check /a.ocf"), 0);
+  EXPECT_THAT(world.out, Not(HasSubstr("value-cut")));
+  EXPECT_EQ(world.Run("download /a.ocf --port sim:VR200"), 0) << "nothing would be lost";
+}
+
+TEST(Files, AreShownAsTheConnectedFirmwareTakesThem) {
+  World world([](sim::Model model) {
+    sim::LoggerOptions options = sim::MakeDefaultOptions(model);
+    options.features &= ~0x4U;
+    return options;
+  });
+  world.HaveFile("/a.ocf");
+  world.SetKey("/a.ocf", "FLAG 0", "TEXTO( 0)", "Bombeo");
+  world.SetKey("/a.ocf", "FLAG 0", "HABIL( 0)", "True");
+  EXPECT_EQ(world.Run("statements /a.ocf"), 0);
+  EXPECT_THAT(world.out, Not(HasSubstr("+ALMF0")));
+  EXPECT_THAT(world.err, HasSubstr("left out of: Resend rules, "));
+  EXPECT_THAT(world.err, HasSubstr("Flags"));
+  EXPECT_EQ(world.Run("statements /a.ocf --port sim:VR200"), 0);
+  EXPECT_THAT(world.out, HasSubstr("RETRYMAX="));
+  EXPECT_THAT(world.out, Not(HasSubstr("+ALMF0")));
+  EXPECT_EQ(world.err, "");
+  EXPECT_EQ(world.Run("show /a.ocf --port sim:VR200"), 0);
+  EXPECT_THAT(world.out, HasSubstr("\"Bombeo\"  (not taken by this firmware)\n"));
+  EXPECT_EQ(world.Run("show /a.ocf"), 0);
+  EXPECT_THAT(world.out, Not(HasSubstr("not taken")));
+  EXPECT_THAT(world.err, HasSubstr("settings are not taken by every firmware"));
 }
 
 TEST(Files, ADashIsStandardInputOrOutput) {

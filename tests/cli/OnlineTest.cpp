@@ -72,6 +72,11 @@ TEST(Online, WatchesUntilInterrupted) {
     EXPECT_TRUE(QJsonDocument::fromJson(QByteArray::fromStdString(line)).isObject()) << line;
   EXPECT_THAT(count, testing::AllOf(testing::Ge(5), testing::Le(10)));
   EXPECT_EQ(world.err, "");
+  world.environment.outIsTerminal = true;
+  world.loop.After(std::chrono::seconds(5), "interrupt", [&] { world.environment.onInterrupt(); });
+  EXPECT_EQ(world.Run("live --watch --port sim:KA1"), 0);
+  EXPECT_THAT(world.out, testing::StartsWith("\x1b[H2026-03-02 09:05:"));
+  EXPECT_THAT(world.out, testing::EndsWith("\x1b[K\n\x1b[J")) << "nothing of the former one stays";
 }
 
 TEST(Online, SetsOutputsAndTotals) {

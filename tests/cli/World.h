@@ -117,7 +117,7 @@ class World {
   std::size_t Backups() const {
     std::size_t count = 0;
     for (const auto& [path, octets] : files.contents)
-      count += path.starts_with("/home/user/data/backups/") ? 1U : 0U;
+      count += path.starts_with("/home/user/data/backups/") && path.ends_with(".ocf") ? 1U : 0U;
     return count;
   }
 };

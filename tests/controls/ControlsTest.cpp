@@ -155,7 +155,9 @@ TEST(CheckNumberBox, PutsADecimalCommaRight) {
                                             {" -12,5 ", " -12.5 ", -12.5},
                                             {"1,2,3", "1,2,3", 1.0},
                                             {"1,000.5", "1,000.5", 1.0},
-                                            {"9,x", "9,x", 9.0}}) {
+                                            {"9,x", "9,x", 9.0},
+                                            {"7,", "7,", 7.0},
+                                            {",5", ".5", 0.5}}) {
     box.Type(typed);
     EXPECT_EQ(NumberIn(box), number) << "ahead of the check, too";
     CheckNumberBox(box, "float");

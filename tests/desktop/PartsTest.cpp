@@ -42,11 +42,12 @@ TEST(FaultText, HasSpanishForEachPhrase) {
   for (const SessionPhase during : {Opening, Open, Reading, Writing})
     for (int kind = 0; kind <= static_cast<int>(LinkFault::Kind::LineTooLong); ++kind)
       for (const char* text : {"", "answer"})
-        for (int variant = 0; variant < 4; ++variant) {
+        for (int variant = 0; variant < 5; ++variant) {
           const FaultWords words = WordsOf({.during = during,
                                             .link = {static_cast<LinkFault::Kind>(kind), 1, text},
                                             .brokenOff = variant == 3,
                                             .allSent = variant == 1,
+                                            .unverified = variant == 4,
                                             .code = static_cast<CodeAnswer>(variant % 3)},
                                            "COM7");
           for (const Phrase* phrase : {&words.what, &words.remedy, &words.outcome})

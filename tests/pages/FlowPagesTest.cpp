@@ -64,7 +64,7 @@ TEST_F(FlowPages, AnOlderFirmwareKeepsThresholdsInPulses) {
   flow.SavePage();
   EXPECT_EQ(limits, (LevelThresholds{20, 40, 4, 3})) << "the new ratio counts";
   flow.GetForm().Get<TextBox>("Ratio").Type("0");
-  flow.GetForm().Get<TextBox>("Persist").Type("7,");
+  flow.GetForm().Get<TextBox>("Persist").Type("7x");
   flow.SavePage();
   EXPECT_EQ(limits, (LevelThresholds{20, 40, 4, 7})) << "a ratio of 0 leaves the value";
   EXPECT_EQ(flow.GetForm().Get<TextBox>("Persist").face.Colour(), BackColour::Red);

@@ -12,7 +12,7 @@ TEST(ForeignKeys, AreThoseThatSavingWouldLose) {
   SelectTarget(profile, "Tavro BP");
   EXPECT_TRUE(ForeignKeys(files, "/none.ocf", profile).empty());
   files.contents["/a.ocf"] =
-      "[general]\r\nVERSION=TAVRO\r\nNOMBRE=x\r\nTLF 3=600\r\nCOLOUR=red\r\n[ANALOG 3]\r\n"
+      "[general]\r\nVERSION=TAVRO\r\nnombre =x\r\ntlf 3=600\r\nCOLOUR=red\r\n[ANALOG 3]\r\n"
       "ACTHI( 3 7)= 1\r\n[ANALOG 4]\r\nNOMBRE=x\r\n[MINE]\r\nA=1\r\nB=2";
   const std::vector<std::string> foreign{"[general] COLOUR", "[ANALOG 4] NOMBRE", "[MINE] A",
                                          "[MINE] B"};

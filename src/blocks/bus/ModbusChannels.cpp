@@ -6,7 +6,6 @@ namespace ostrel {
 namespace {
 
 constexpr int kCleared = 4;
-constexpr std::string_view kSizeWord = "TYPE";
 /// Constant, mask and negation on a line.
 constexpr int kConstantFields = 3;
 
@@ -77,7 +76,7 @@ void ModbusChannels::Restore(DeviceConf& conf, const TargetProfile& profile,
                              const KeyReader& read) {
   const auto restore = [&](const FieldId& id, const FieldMeta& meta, auto& field) {
     const std::string section = SectionName(id);
-    const bool isSize = id.word == kSizeWord;
+    const bool isSize = id.word == kSize;
     if (isSize && TextBool(read(section, std::string(kEarlierSize)))) return;
     SetFieldText(FieldRef(&field), read(section, KeyName(id, meta.placeForm)));
   };

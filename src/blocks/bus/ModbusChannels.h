@@ -18,6 +18,7 @@ struct ModbusChannels {
   static constexpr int kChannels = 32;
   /// Earlier files mark a register of 32 bits by this key. Where it says so the size is not read.
   static constexpr std::string_view kEarlierSize = "SIZE32";
+  static constexpr std::string_view kSize = "TYPE";
 
   /// Resets the first four channels alone, and not all of these.
   static void Clear(DeviceConf& conf, const TargetProfile&, const Translation&);

@@ -25,6 +25,8 @@ Command AddVoice(CLI::App& app);
 Command AddProbe(CLI::App& app);
 Command AddDownload(CLI::App& app);
 Command AddUpload(CLI::App& app);
+Command AddBackups(CLI::App& app);
+Command AddRestore(CLI::App& app);
 Command AddStatements(CLI::App& app);
 Command AddDiff(CLI::App& app);
 Command AddShow(CLI::App& app);

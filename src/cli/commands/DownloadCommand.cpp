@@ -2,6 +2,7 @@
 #include "cli/commands/Commands.h"
 #include "cli/commands/OnlineCommand.h"
 #include "host/LoggerText.h"
+#include "shell/check/CheckRules.h"
 
 namespace ostrel::cli {
 namespace {
@@ -18,6 +19,11 @@ ExitCode RunDownload(Online& online, const std::string& file) {
   const std::string& serial = configurator.info.SerialNumber;
   context.console.Note("configuration of " + serial + " saved to " +
                        (file == kStandard ? "standard output" : file));
+  const ModelConfiguration read{configurator.profile, configurator.conf};
+  if (std::string copy; !TextsNotKept(read).empty()) {
+    const ExitCode kept = SaveBackup(context, configurator, read.conf, copy);
+    if (kept != ExitCode::Done) return kept;
+  }
   return context.Show({[&] {
                          return Json{{"file", file},
                                      {"model", configurator.profile.TargetName},

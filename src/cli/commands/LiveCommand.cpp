@@ -1,3 +1,4 @@
+#include <sstream>
 #include <variant>
 
 #include "cli/commands/Commands.h"
@@ -111,9 +112,25 @@ void PrintLive(std::ostream& out, const Online& online) {
     }
 }
 
+/// Each time anew on a terminal: the former values stand under the present ones then, which are
+/// drawn over them line by line, so that nothing flickers.
+void DrawLive(std::ostream& out, const Online& online) {
+  constexpr const char* kHome = "\x1b[H";
+  constexpr const char* kRestOfLine = "\x1b[K\n";
+  constexpr const char* kRestOfScreen = "\x1b[J";
+  std::ostringstream text;
+  PrintLive(text, online);
+  out << kHome;
+  std::istringstream lines(text.str());
+  for (std::string line; std::getline(lines, line);) out << line << kRestOfLine;
+  out << kRestOfScreen;
+}
+
 void Show(const Online& online, bool watch) {
+  const bool inPlace = watch && online.context.environment.outIsTerminal;
   online.context.Show(
-      {[&] { return LiveJson(online); }, [&](std::ostream& out) { PrintLive(out, online); }},
+      {[&] { return LiveJson(online); },
+       [&](std::ostream& out) { inPlace ? DrawLive(out, online) : PrintLive(out, online); }},
       watch ? JsonLayout::OneLine : JsonLayout::Indented);
   online.context.console.Out().flush();
 }
@@ -142,7 +159,8 @@ ExitCode RunLive(Online& online, bool watch) {
 Command AddLive(CLI::App& app) {
   CLI::App* parser = app.add_subcommand("live", "Show the live values of the logger");
   const auto watch = std::make_shared<bool>(false);
-  parser->add_flag("--watch", *watch, "Again each second, until interrupted");
+  parser->add_flag("--watch", *watch,
+                   "Again each second, in place on a terminal, until interrupted");
   return {parser, [watch](CommandContext& context) {
             return RunOnline(context, "", [&](Online& online) { return RunLive(online, *watch); });
           }};

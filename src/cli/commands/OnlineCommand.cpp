@@ -17,4 +17,11 @@ ExitCode RunOnline(CommandContext& context, const std::string& file,
   return work(online);
 }
 
+ExitCode WithFeatures(CommandContext& context, const std::string& file,
+                      const std::function<ExitCode(std::optional<std::int32_t> features)>& work) {
+  if (context.options.features || !context.HasPort()) return work(context.options.features);
+  return RunOnline(context, file,
+                   [&](Online& online) { return work(online.configurator.info.Features); });
+}
+
 }  // namespace ostrel::cli

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <cstdint>
 #include <functional>
+#include <optional>
 
 #include "cli/CommandContext.h"
 #include "cli/LoggerSession.h"
@@ -18,5 +20,10 @@ struct Online {
 /// counts when the options name none.
 ExitCode RunOnline(CommandContext& context, const std::string& file,
                    const std::function<ExitCode(Online&)>& work);
+
+/// Runs a command on a file with the firmware's features: those of the options, else those of the
+/// logger at the port of the options, else none, since they are not known.
+ExitCode WithFeatures(CommandContext& context, const std::string& file,
+                      const std::function<ExitCode(std::optional<std::int32_t> features)>& work);
 
 }  // namespace ostrel::cli

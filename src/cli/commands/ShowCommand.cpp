@@ -4,8 +4,11 @@
 
 #include "base/Channels.h"
 #include "cli/commands/Commands.h"
+#include "cli/commands/OnlineCommand.h"
+#include "host/LoggerText.h"
 #include "pages/ActionCatalogue.h"
 #include "shell/FieldWords.h"
+#include "shell/check/CheckRules.h"
 
 namespace ostrel::cli {
 namespace {
@@ -60,8 +63,30 @@ std::vector<Section> BySection(const std::vector<ConstField>& fields) {
   return sections;
 }
 
+/// What the firmware makes of a configuration.
+struct FirmwareView {
+  std::optional<std::int32_t> features;  ///< nothing when they are not known
+  /// Settings that it does not take; where it is not known, those that not every one takes.
+  std::vector<FieldId> notTaken;
+  std::vector<std::string> names;  ///< of these
+};
+
+FirmwareView ViewOf(CommandContext& context, const ModelConfiguration& configuration,
+                    std::optional<std::int32_t> features) {
+  const IniClass none(context.platform.files);
+  const Examined examined(configuration, features.value_or(0), none, context.Translator());
+  FirmwareView view{.features = features, .notTaken = {}, .names = {}};
+  for (std::size_t i = 0; i < examined.Fields().size(); ++i) {
+    if (!examined.IsSet(i) || !examined.IsUnknownToFirmware(i)) continue;
+    const ConstField& field = examined.Fields()[i];
+    view.notTaken.push_back(field.id);
+    view.names.push_back("[" + field.Section() + "] " + field.Key());
+  }
+  return view;
+}
+
 Json ConfigurationJson(const ModelConfiguration& configuration, const std::string& file,
-                       Passwords passwords) {
+                       const FirmwareView& firmware, Passwords passwords) {
   const auto& [profile, conf] = configuration;
   const auto fields = FieldsOf(conf, profile);
   Json sections = Json::object();
@@ -76,6 +101,8 @@ Json ConfigurationJson(const ModelConfiguration& configuration, const std::strin
   return {{"file", file},
           {"model", profile.TargetName},
           {"type", profile.TargetType},
+          {"features", firmware.features ? Json(FeaturesText(*firmware.features)) : Json()},
+          {firmware.features ? "notTaken" : "notTakenByAll", firmware.names},
           {"sections", std::move(sections)}};
 }
 
@@ -145,8 +172,8 @@ std::vector<ConstField> Shown(const ModelConfiguration& configuration, const Dev
 }
 
 void PrintReadable(std::ostream& out, const ModelConfiguration& configuration,
-                   const DeviceConf& empty, bool all, const Translation& translate,
-                   Passwords passwords) {
+                   const DeviceConf& empty, bool all, const FirmwareView& firmware,
+                   const Translation& translate, Passwords passwords) {
   const TargetProfile& profile = configuration.profile;
   const ActionWords actions = WordsOfActions(profile, translate);
   const std::vector<ConstField> fields = Shown(configuration, empty, all);
@@ -154,20 +181,37 @@ void PrintReadable(std::ostream& out, const ModelConfiguration& configuration,
   for (const Section& section : BySection(fields)) {
     out << '\n' << section.name << " (" << SectionWords(section.fields.front()->id) << ")\n";
     for (const Line& line : LinesOf(section, profile.IsS100, actions, passwords))
-      out << "  " << line.key << " (" << line.words << "): " << line.value << '\n';
+      out << "  " << line.key << " (" << line.words << "): " << line.value
+          << (firmware.features && std::ranges::count(firmware.notTaken, line.id) > 0
+                  ? "  (not taken by this firmware)\n"
+                  : "\n");
   }
+}
+
+ExitCode Report(CommandContext& context, const ShowOptions& options,
+                const ModelConfiguration& configuration, const FirmwareView& firmware) {
+  context.Show(
+      {[&] {
+         return ConfigurationJson(configuration, options.file, firmware, context.ShownPasswords());
+       },
+       [&](std::ostream& out) {
+         const DeviceConf empty = EmptyConfiguration(configuration.profile, context.Translator());
+         PrintReadable(out, configuration, empty, options.all, firmware, context.Translator(),
+                       context.ShownPasswords());
+       }});
+  if (!firmware.features && !firmware.names.empty())
+    context.console.Note(std::to_string(firmware.names.size()) +
+                         " settings are not taken by every firmware, and which it is is not known: "
+                         "--port or --features tells it, and they are marked");
+  return ExitCode::Done;
 }
 
 ExitCode RunShow(CommandContext& context, const ShowOptions& options) {
   const auto configuration = context.OpenFile(options.file);
   if (!configuration) return ExitCode::BadFile;
-  const Passwords passwords = context.ShownPasswords();
-  return context.Show(
-      {[&] { return ConfigurationJson(*configuration, options.file, passwords); },
-       [&](std::ostream& out) {
-         const DeviceConf empty = EmptyConfiguration(configuration->profile, context.Translator());
-         PrintReadable(out, *configuration, empty, options.all, context.Translator(), passwords);
-       }});
+  return WithFeatures(context, options.file, [&](std::optional<std::int32_t> features) {
+    return Report(context, options, *configuration, ViewOf(context, *configuration, features));
+  });
 }
 
 }  // namespace

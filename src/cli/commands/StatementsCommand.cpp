@@ -1,26 +1,56 @@
 #include "blocks/Configuration.h"
+#include "blocks/Orders.h"
 #include "cli/commands/Commands.h"
+#include "cli/commands/OnlineCommand.h"
 #include "host/LoggerText.h"
 
 namespace ostrel::cli {
 namespace {
 
+/// The blocks that some firmware takes, and one without any features does not, or takes otherwise.
+std::vector<std::string> BlocksOfFirmware(const ModelConfiguration& configuration) {
+  std::vector<std::string> names;
+  for (const UploadStep& step : UploadOrder()) {
+    StatementList without, with;
+    ComposeStep(step, configuration.conf, {configuration.profile, 0}, without);
+    ComposeStep(step, configuration.conf, {configuration.profile, kEveryFeature}, with);
+    if (without.All() != with.All()) names.emplace_back(step.name);
+  }
+  return names;
+}
+
+ExitCode Report(CommandContext& context, const std::string& file,
+                const ModelConfiguration& configuration, std::optional<std::int32_t> features) {
+  const std::int32_t mask = features.value_or(0);
+  const auto statements =
+      context.Shown(ComposeStatements(configuration.conf, {configuration.profile, mask}));
+  const auto leftOut = features ? std::vector<std::string>() : BlocksOfFirmware(configuration);
+  context.Show({[&] {
+                  return Json{{"file", file},
+                              {"model", configuration.profile.TargetName},
+                              {"features", FeaturesText(mask)},
+                              {"featuresKnown", features.has_value()},
+                              {"leftOut", leftOut},
+                              {"statements", statements}};
+                },
+                [&](std::ostream& out) {
+                  for (const std::string& statement : statements)
+                    out << Printable(statement) << '\n';
+                }});
+  if (leftOut.empty()) return ExitCode::Done;
+  std::string names;
+  for (const std::string& name : leftOut) names += (names.empty() ? "" : ", ") + name;
+  context.console.Note("the firmware is not known, so what depends on it is left out of: " + names +
+                       ". --port or --features tells it");
+  return ExitCode::Done;
+}
+
 ExitCode RunStatements(CommandContext& context, const std::string& file) {
   const auto configuration = context.OpenFile(file);
   if (!configuration) return ExitCode::BadFile;
-  const std::int32_t features = context.options.features.value_or(0);
-  const auto statements =
-      context.Shown(ComposeStatements(configuration->conf, {configuration->profile, features}));
-  return context.Show({[&] {
-                         return Json{{"file", file},
-                                     {"model", configuration->profile.TargetName},
-                                     {"features", FeaturesText(features)},
-                                     {"statements", statements}};
-                       },
-                       [&](std::ostream& out) {
-                         for (const std::string& statement : statements)
-                           out << Printable(statement) << '\n';
-                       }});
+  return WithFeatures(context, file, [&](std::optional<std::int32_t> features) {
+    return Report(context, file, *configuration, features);
+  });
 }
 
 }  // namespace

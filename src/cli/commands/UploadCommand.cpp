@@ -2,6 +2,7 @@
 #include "cli/DifferenceText.h"
 #include "cli/commands/Commands.h"
 #include "cli/commands/OnlineCommand.h"
+#include "cli/commands/UploadRun.h"
 #include "host/LoggerText.h"
 #include "link/UploadPlan.h"
 #include "shell/GuardedWrite.h"
@@ -9,14 +10,6 @@
 
 namespace ostrel::cli {
 namespace {
-
-struct UploadOptions {
-  std::string file;
-  bool noVerify = false;
-  bool noBackup = false;
-  bool dryRun = false;
-  bool force = false;
-};
 
 /// What an upload came to.
 struct UploadResult {
@@ -127,9 +120,7 @@ ExitCode Send(Online& online, const UploadOptions& options) {
   if (!options.noBackup)
     road.keep = [&](const DeviceConf& held) {
       if (!step(Refuse(context, options, DoubtsOfModel(online.configurator)))) return false;
-      if (!step(SaveBackup(context, online.configurator, held, result.backup))) return false;
-      context.console.Note("former configuration kept in " + result.backup);
-      return true;
+      return step(SaveBackup(context, online.configurator, held, result.backup));
     };
   const WriteResult written = WriteGuarded(online.configurator, road);
   if (written.end != WriteEnd::Written) return code;
@@ -161,6 +152,28 @@ ExitCode LoadFile(CommandContext& context, Configurator& configurator,
                               file + " is for another model: --yes sends it all the same");
 }
 
+/// What speaks against a safety copy of another logger than the one that answers.
+ExitCode MayTakeCopy(const Online& online, const std::string& name) {
+  const std::string& serial = online.configurator.info.SerialNumber;
+  if (name.empty() || SafetyCopies::IsOf(name, serial)) return ExitCode::Done;
+  const std::string says = "the copy " + name + " is not of the logger " + serial;
+  if (online.context.dialogs.Confirm(says + ". Write it all the same?")) return ExitCode::Done;
+  return online.context.console.Fail(ExitCode::BadFile, says + ": --yes writes it all the same");
+}
+
+/// Takes the texts of a safety copy from the logger's own lines, where these stand beside it. What
+/// cannot be sent is left out, as in the copy.
+void TakeLines(const Online& online, const std::string& name) {
+  if (name.empty()) return;
+  Configurator& configurator = online.configurator;
+  configurator.comms.TakeKeptLines(CopiesOf(online.context).Lines(name));
+  for (const Field& field : FieldsOf(configurator.conf, configurator.profile))
+    if (const auto* text = std::get_if<std::string*>(&field.value))
+      (*text)->resize(UpToControl(**text).size());
+}
+
+}  // namespace
+
 ExitCode RunUpload(CommandContext& context, const UploadOptions& options) {
   if (options.dryRun && !context.HasPort()) {
     const auto configuration = context.OpenFile(options.file);
@@ -178,26 +191,31 @@ ExitCode RunUpload(CommandContext& context, const UploadOptions& options) {
   LoggerSession session(context, *configurator, port);
   const ExitCode opened = session.Open();
   if (opened != ExitCode::Done) return opened;
+  Online online{context, *configurator, session};
+  const ExitCode mayTake = MayTakeCopy(online, options.copy);
+  if (mayTake != ExitCode::Done) return mayTake;
+  TakeLines(online, options.copy);
   if (options.dryRun)
     return ShowPlan(context, {configurator->profile, configurator->conf},
                     configurator->info.Features);
   const ExitCode refused = Refuse(context, options, DoubtsOfModel(*configurator));
   if (refused != ExitCode::Done) return refused;
-  Online online{context, *configurator, session};
   return Send(online, options);
 }
 
-}  // namespace
+void AddUploadFlags(CLI::App& parser, UploadOptions& options) {
+  parser.add_flag("--no-verify", options.noVerify, "Do not read back and compare");
+  parser.add_flag("--no-backup", options.noBackup, "Keep no copy of the former configuration");
+  parser.add_flag("--force", options.force,
+                  "Write in spite of errors in the file, or of a logger of another model");
+  parser.add_flag("--dry-run", options.dryRun, "Show what would be sent, and how long it takes");
+}
 
 Command AddUpload(CLI::App& app) {
   CLI::App* parser = app.add_subcommand("upload", "Write a file's configuration into the logger");
   const auto options = std::make_shared<UploadOptions>();
   parser->add_option("FILE", options->file, "Configuration file, - for standard input")->required();
-  parser->add_flag("--no-verify", options->noVerify, "Do not read back and compare");
-  parser->add_flag("--no-backup", options->noBackup, "Keep no copy of the former configuration");
-  parser->add_flag("--force", options->force,
-                   "Write in spite of errors in the file, or of a logger of another model");
-  parser->add_flag("--dry-run", options->dryRun, "Show what would be sent, and how long it takes");
+  AddUploadFlags(*parser, *options);
   return {parser, [options](CommandContext& context) { return RunUpload(context, *options); }};
 }
 

@@ -211,6 +211,7 @@ Bound BindTable(ListBox& box, const BindOptions& options, QWidget* parent) {
   widget->setSelectionMode(QAbstractItemView::SingleSelection);
   widget->setTabKeyNavigation(false);
   widget->verticalHeader()->hide();
+  widget->verticalHeader()->setDefaultSectionSize(24);
   widget->horizontalHeader()->setStretchLastSection(true);
   QObject::connect(
       widget, &QTableWidget::currentCellChanged, widget,

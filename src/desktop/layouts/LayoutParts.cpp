@@ -97,6 +97,9 @@ QLabel* UnitBeside(FormView& view, const std::string& control, const std::string
   auto* label = new QLabel(&view);
   label->setObjectName("Unit of " + ToQt(control));
   label->setTextFormat(Qt::PlainText);
+  view.Whenever({control}, [label, face = &FaceOf(view.GetForm()[control])] {
+    label->setEnabled(face->Enabled());
+  });
   const std::string unit(FaceOf(view.GetForm()[control]).Field().unit);
   if (!unit.empty()) {
     label->setText(Words::tr(unit.c_str()));

@@ -13,6 +13,8 @@ struct LayoutContext {
   Guard guard;
   /// How a row of the port list reads, with the device behind the number.
   std::function<QString(const ListRow&)> portText;
+  /// How a row reads that is a word of the product, in the language in use.
+  std::function<QString(const ListRow&)> wordText;
 };
 
 /// Draws any form of the program. One that has no layout is drawn from its controls in order.

@@ -35,7 +35,9 @@ QString ValueText(const ConstField& field, bool isS100) {
   if (const CodeWords* code = CodeOf(field.value, field.meta)) return Translated(code->words);
   FieldMeta plain = field.meta;
   plain.unit = {};
-  const QString value = ToQt(ReadableValue(field.value, plain, isS100));
+  const auto* number = std::get_if<const float*>(&field.value);
+  const QString value =
+      ToQt(number ? DecText(**number) : ReadableValue(field.value, plain, isS100));
   return field.meta.unit.empty() ? value : value + u' ' + Translated(field.meta.unit);
 }
 

@@ -24,6 +24,7 @@ GroupTable::GroupTable(QWidget* parent)
   table_->setAlternatingRowColors(true);
   table_->setTabKeyNavigation(false);
   table_->verticalHeader()->hide();
+  table_->verticalHeader()->setDefaultSectionSize(24);
   column->addWidget(table_);
   connect(table_, &QTableWidget::cellActivated, this, [this](int row, int) {
     if (OnChannel) OnChannel(nodes_[static_cast<std::size_t>(row)]);
@@ -33,26 +34,25 @@ GroupTable::GroupTable(QWidget* parent)
 void GroupTable::ShowGroup(const QString& title, const ChannelTable& table, bool isS100) {
   heading_->setText(title);
   table_->setAccessibleName(title);
-  const int last = static_cast<int>(table.columns.size()) + 1;
+  constexpr int kOwnColumns = 2;  // channel and alarm, ahead of the fields
   const int chosen = table_->currentRow();
   table_->clear();
   nodes_.clear();
-  table_->setColumnCount(last + 1);
+  table_->setColumnCount(static_cast<int>(table.columns.size()) + kOwnColumns);
   table_->setRowCount(static_cast<int>(table.rows.size()));
-  QStringList headers{Words::tr("Channel")};
+  QStringList headers{Words::tr("Channel"), Words::tr("Alarm")};
   for (const FieldMeta& column : table.columns) headers << Capitalised(WordsOf(column));
-  table_->setHorizontalHeaderLabels(headers << Words::tr("Alarm"));
+  table_->setHorizontalHeaderLabels(headers);
   for (int row = 0; row < table_->rowCount(); ++row) {
     const ChannelTable::Row& channel = table.rows[static_cast<std::size_t>(row)];
     nodes_.push_back(channel.node);
-    table_->setItem(row, 0, new QTableWidgetItem(QString::number(channel.channel)));
-    for (int column = 1; column < last; ++column) {
-      const auto& field = channel.cells[static_cast<std::size_t>(column) - 1];
-      table_->setItem(row, column,
-                      new QTableWidgetItem(field ? ValueText(*field, isS100) : QString()));
-    }
-    table_->setItem(row, last,
-                    new QTableWidgetItem(channel.hasAlarm ? Words::tr("yes") : QString()));
+    int column = 0;
+    const auto add = [&](const QString& text) {
+      table_->setItem(row, column++, new QTableWidgetItem(text));
+    };
+    add(QString::number(channel.channel));
+    add(channel.hasAlarm ? Words::tr("yes") : QString());
+    for (const auto& field : channel.cells) add(field ? ValueText(*field, isS100) : QString());
   }
   table_->resizeColumnsToContents();
   if (table_->rowCount() > 0)

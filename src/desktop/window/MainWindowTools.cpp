@@ -23,6 +23,7 @@ namespace {
 
 constexpr qsizetype kCopiesOffered = 15;
 constexpr int kTraceHeight = 170;
+constexpr int kFindingsHeight = 130;
 
 }  // namespace
 
@@ -35,6 +36,7 @@ void MainWindow::MakeToolBar() {
   bar_->setIconSize({22, 22});
   open_ = AddAction(Sign::Open, QKeySequence::Open, [this] { Open(); });
   save_ = AddAction(Sign::Save, QKeySequence::Save, [this] { Save(); });
+  saveAs_ = AddAction(Sign::SaveAs, QKeySequence("Ctrl+Shift+S"), [this] { SaveAs(); });
   recentFiles_ = AddAction(Sign::Recent, {}, {});
   AddMenu(recentFiles_, [this](QMenu& menu) { FillRecent(menu); });
   safetyCopies_ = AddAction(Sign::Copies, {}, {});
@@ -49,11 +51,19 @@ void MainWindow::MakeToolBar() {
   });
   findingsSwitch_ = AddAction(Sign::Findings, QKeySequence("Ctrl+E"), {});
   findingsSwitch_->setCheckable(true);
-  connect(findingsSwitch_, &QAction::toggled, findings_, &QWidget::setVisible);
+  connect(findingsSwitch_, &QAction::toggled, this, [this](bool on) {
+    findings_->setVisible(on);
+    if (on) resizeDocks({findings_}, {kFindingsHeight}, Qt::Vertical);
+  });
   connect(findings_, &QDockWidget::visibilityChanged, this, [this](bool) {
     if (findings_->isHidden()) findingsSwitch_->setChecked(false);
   });
   bar_->addSeparator();
+  trace_->OnSave = [this] { parts_.guard([this] { SaveTrace(); }); };
+  auto* find = new QAction(this);
+  find->setShortcut(QKeySequence::Find);
+  connect(find, &QAction::triggered, this, [this] { tree_->FocusFilter(); });
+  addAction(find);
   language_ = AddAction(Sign::Language, {}, [this] { AskLanguage(); });
 }
 
@@ -87,6 +97,7 @@ void MainWindow::Retranslate() {
   };
   name(open_, core("Abrir"), Words::tr("Open a configuration file"));
   name(save_, core("Guardar"), Words::tr("Save the configuration to a file"));
+  name(saveAs_, Words::tr("Save as"), Words::tr("Save the configuration to another file"));
   name(language_, core("Idioma"), Words::tr("Choose the language"));
   name(recentFiles_, Words::tr("Recent"), Words::tr("Files opened or saved lately"));
   name(safetyCopies_, Words::tr("Safety copies"),
@@ -99,7 +110,7 @@ void MainWindow::Retranslate() {
   findings_->Retranslate();
   overview_.Forget();
   trace_->Retranslate();
-  link_->Retranslate();
+  session_->Retranslate();
 }
 
 void MainWindow::Open() {
@@ -111,8 +122,7 @@ void MainWindow::Open() {
 void MainWindow::OpenPath(const std::string& path) {
   if (!parts_.platform.files.Exists(path)) {
     recent_.Remove(path);
-    Tell(Words::tr("%1 does not exist any more.").arg(ToQt(path)));
-    return;
+    return TellMissing(path);
   }
   if (!MayLeave()) return;
   navigation_.CommitFront();
@@ -120,19 +130,34 @@ void MainWindow::OpenPath(const std::string& path) {
   Opened();
 }
 
+void MainWindow::TellMissing(const std::string& path) {
+  Tell(Words::tr("%1 does not exist.").arg(ToQt(path)));
+}
+
 void MainWindow::Opened() {
+  ForgetSuccess();
   if (FileDifferences()) WorkOn(configurator_.ConfFilePath);
   // The file may be of a model that has not the channel in front.
   if (!tree_->Has(shownNode_)) GoTo("General");
 }
 
 bool MainWindow::Save() {
+  if (shownFile_.empty()) return SaveAs();
+  navigation_.CommitFront();
+  const auto saved = configurator_.SaveTo(shownFile_);
+  return saved && Saved(*saved);
+}
+
+bool MainWindow::SaveAs() {
   navigation_.CommitFront();
   const auto saved = configurator_.AskAndSave();
-  if (!saved) return false;
-  const std::string& path = configurator_.ConfFilePath;
-  if (!saved->Ok()) {
-    Tell(Words::tr("%1 could not be written: %2").arg(ToQt(path), ToQt(saved->error)));
+  return saved && Saved(*saved);
+}
+
+bool MainWindow::Saved(const FileResult& result) {
+  const std::string path = configurator_.ConfFilePath;
+  if (!result.Ok()) {
+    Tell(Words::tr("%1 could not be written: %2").arg(ToQt(path), ToQt(result.error)));
     return false;
   }
   WorkOn(path);
@@ -230,10 +255,21 @@ void MainWindow::ShowTrace(bool on) {
     traceShown_ = true;
     resizeDocks({trace_}, {kTraceHeight}, Qt::Vertical);
   }
-  if (on)
-    configurator_.comms.Trace = [this](const std::string& line) { trace_->Add(line); };
-  else
-    configurator_.comms.Trace = nullptr;
+  if (on) trace_->Follow();
+}
+
+void MainWindow::SaveTrace() {
+  const auto path = parts_.platform.dialogs.ChooseFile(
+      {.mode = FileQuestion::Mode::Save,
+       .filter = FromQt(Words::tr("Trace") + "|*.txt|" + Words::tr("All files") + "|*.*"),
+       .overwritePrompt = true});
+  if (!path) return;
+  // It may tell what is nobody else's business; a file that is replaced keeps its permissions.
+  Files& files = parts_.platform.files;
+  const FileResult saved = files.Exists(*path) ? SaveWhole(files, *path, trace_->Text())
+                                               : SaveNew(files, *path, trace_->Text());
+  if (!saved.Ok())
+    Tell(Words::tr("%1 could not be written: %2").arg(ToQt(*path), ToQt(saved.error)));
 }
 
 }  // namespace ostrel

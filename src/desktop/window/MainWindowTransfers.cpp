@@ -26,6 +26,7 @@ void MainWindow::Read() {
 }
 
 void MainWindow::Write() {
+  if (const auto why = WhyWritingRests(configurator_.session.Life())) return Tell(SentenceOf(*why));
   navigation_.CommitFront();
   const WriteQuestion question = AskedBeforeWriting();
   WriteDialog dialog(question, this);
@@ -34,9 +35,13 @@ void MainWindow::Write() {
     configurator_.session.Upload();
     return;
   }
-  const Lent writing(isWriting_, true);
-  WriteRoad road{.read = [this] { return configurator_.session.Download(); },
-                 .write = [this] { return configurator_.session.Upload(); },
+  const AtEnd written([this] { writeStep_ = 0; });
+  const auto step = [this](bool (SessionDriver::*transfer)()) {
+    ++writeStep_;
+    return (configurator_.session.*transfer)();
+  };
+  WriteRoad road{.read = [step] { return step(&SessionDriver::Download); },
+                 .write = [step] { return step(&SessionDriver::Upload); },
                  .keep = [this](const DeviceConf& held) { return KeepFormer(held); }};
   if (dialog.ShowsChanges())
     road.mayWrite = [this](const Comparison& changes) { return MayChange(changes); };
@@ -44,9 +49,7 @@ void MainWindow::Write() {
 }
 
 WriteQuestion MainWindow::AskedBeforeWriting() const {
-  WriteQuestion question{.logger = Words::tr("%1, serial number %2")
-                                       .arg(ToQt(configurator_.profile.TargetName),
-                                            ToQt(configurator_.info.SerialNumber))};
+  WriteQuestion question{.logger = NameOfLogger()};
   for (const Phrase& doubt : DoubtsOfWriting(configurator_)) question.doubts += SentenceOf(doubt);
   question.plain =
       PlanUpload(configurator_.comms.ComposeStatements(), configurator_.info.Features).duration;
@@ -57,8 +60,10 @@ WriteQuestion MainWindow::AskedBeforeWriting() const {
 }
 
 bool MainWindow::KeepFormer(const DeviceConf& held) {
-  const FileResult kept =
-      copies_.Keep(held, configurator_.profile, configurator_.info.SerialNumber).result;
+  const FileResult kept = copies_
+                              .Keep({held, configurator_.profile, configurator_.info.SerialNumber,
+                                     configurator_.comms.DownloadedLines()})
+                              .result;
   if (!kept.Ok())
     Tell(Words::tr("Nothing was sent, since no safety copy could be kept: %1")
              .arg(ToQt(kept.error)));
@@ -78,9 +83,10 @@ bool MainWindow::MayChange(const Comparison& changes) {
 /// A failed step is told as any other fault of the session.
 void MainWindow::ShowWritten(const WriteResult& result) {
   if (result.end == WriteEnd::Written) configurator_.session.ShowWritten();
-  if (result.IsAsSent())
-    statusBar()->showMessage(
-        Words::tr("Written and verified: the logger holds what the pages show."), kMessageTime);
+  if (result.IsAsSent()) {
+    success_ = Words::tr("Written and verified: the logger holds what the pages show.");
+    statusBar()->showMessage(success_, kMessageTime);
+  }
   if (!result.verified || result.verified->isSame) return;
   CompareDialog dialog({.title = Words::tr("The logger holds another configuration than was sent"),
                         .note = {},
@@ -91,11 +97,12 @@ void MainWindow::ShowWritten(const WriteResult& result) {
 }
 
 void MainWindow::TransferEnded(const TransferEnd& end) {
-  if (!end.done || (isWriting_ && end.kind == SessionPhase::Reading)) return;
+  if (!end.done || (writeStep_ > 0 && end.kind == SessionPhase::Reading)) return;
   unsaved_.Keep(end.held);
   if (end.kind == SessionPhase::Reading) shownFile_.clear();
-  const FileResult kept =
-      copies_.Keep(end.held, configurator_.profile, configurator_.info.SerialNumber).result;
+  SafetyCopies::Held held{end.held, configurator_.profile, configurator_.info.SerialNumber};
+  if (end.kind == SessionPhase::Reading) held.lines = configurator_.comms.DownloadedLines();
+  const FileResult kept = copies_.Keep(held).result;
   if (!kept.Ok())
     statusBar()->showMessage(Words::tr("No safety copy could be kept: %1").arg(ToQt(kept.error)),
                              kMessageTime);

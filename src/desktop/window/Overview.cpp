@@ -47,7 +47,8 @@ void Overview::Examine() {
   const std::optional<std::int32_t> features =
       core.Connected ? std::optional(core.info.Features) : std::nullopt;
   found_ = ostrel::Examine(Examined(configuration, features, noFile, translate), kRulesOnFiles);
-  const std::vector<ConstField> fields = FieldsOf(std::as_const(present_), core.profile);
+  const std::vector<ConstField> fields =
+      found_.empty() ? std::vector<ConstField>() : FieldsOf(std::as_const(present_), core.profile);
   placed_.clear();
   for (const auto& [rule, finding] : found_) {
     PlacedFinding placed{rule->severity, finding};
@@ -71,7 +72,7 @@ void Overview::ShowNode(const std::string& node) {
 
 void Overview::ShowFront() {
   const Configurator& core = parts_.configurator;
-  if (parts_.group.isVisible())
+  if (!parts_.group.isHidden())
     parts_.group.ShowGroup(
         parts_.tree.TextOf(node_),
         TableOfGroup(node_, {core.profile, present_},
@@ -83,7 +84,8 @@ void Overview::ShowFront() {
   const int config = ShownConfig(form);
   std::map<std::string, QString, std::less<>> notes;
   for (const PlacedFinding& placed : placed_) {
-    if (!placed.field || &core.PageOf(*placed.page)->GetForm() != &form) continue;
+    Page* page = placed.page ? core.PageOf(*placed.page) : nullptr;
+    if (!page || &page->GetForm() != &form) continue;
     if (placed.field->slot.config >= 0 && placed.field->slot.config != config) continue;
     if (NodeOf(*placed.page, placed.field->channel) != node_) continue;
     const std::string control = ControlOf(form, *placed.field);

@@ -69,6 +69,11 @@ void TreePane::Retranslate() {
   tree_->setAccessibleName(Words::tr("Pages"));
 }
 
+void TreePane::FocusFilter() {
+  filter_->setFocus();
+  filter_->selectAll();
+}
+
 void TreePane::SetNodes(const std::vector<TreeNode>& nodes) {
   const bool wasQuiet = std::exchange(quiet_, true);
   const QTreeWidgetItem* current = tree_->currentItem();

@@ -22,6 +22,8 @@ class TreePane final : public QWidget {
 
   /// Shows another tree. Nothing is clicked by that.
   void SetNodes(const std::vector<TreeNode>& nodes);
+  /// Gives the filter the focus, with its text selected.
+  void FocusFilter();
   /// Marks a node as the one in front. Nothing is clicked by that.
   void Select(std::string_view key);
   /// Paints nodes red or not, as the predicate says of their keys. `mark` are words for those who

@@ -119,10 +119,6 @@
         <source>&amp;Leave</source>
         <translation>&amp;Salir</translation>
     </message>
-    <message>
-        <source>%1 does not exist any more.</source>
-        <translation>%1 ya no existe.</translation>
-    </message>
     <message numerus="yes">
         <source>The file cannot keep %n text(s) as they are, the first of them %1 in %2: &quot;%3&quot; reads back as &quot;%4&quot;.</source>
         <translation><numerusform>El archivo no puede guardar un texto tal como está, %1 en %2: &quot;%3&quot; se lee como &quot;%4&quot;.</numerusform><numerusform>El archivo no puede guardar %n textos tal como están, el primero %1 en %2: &quot;%3&quot; se lee como &quot;%4&quot;.</numerusform></translation>
@@ -142,10 +138,6 @@
     <message>
         <source>Contact at rest:</source>
         <translation>Contacto en reposo:</translation>
-    </message>
-    <message>
-        <source>What went wrong</source>
-        <translation>Qué ha fallado</translation>
     </message>
     <message>
         <source>there is no port %1</source>
@@ -500,6 +492,11 @@
         <translation>Abrir</translation>
     </message>
     <message>
+        <source>Open</source>
+        <comment>the state of the link</comment>
+        <translation>Sesión abierta</translation>
+    </message>
+    <message>
         <source>Reading</source>
         <translation>Leyendo</translation>
     </message>
@@ -514,14 +511,6 @@
     <message>
         <source>%1, a transfer waits for the general page</source>
         <translation>%1, una transferencia espera a la página general</translation>
-    </message>
-    <message>
-        <source>Break off</source>
-        <translation>Interrumpir</translation>
-    </message>
-    <message>
-        <source>Give up opening the session</source>
-        <translation>Dejar de abrir la sesión</translation>
     </message>
     <message>
         <source>Closing</source>
@@ -678,11 +667,6 @@
     <message>
         <source>Pages</source>
         <translation>Páginas</translation>
-    </message>
-    <message>
-        <source>Open</source>
-        <comment>the state of the link</comment>
-        <translation>Sesión abierta</translation>
     </message>
     <message>
         <source>Channel</source>
@@ -955,6 +939,94 @@
     <message>
         <source>Filter the numbers</source>
         <translation>Filtrar los números</translation>
+    </message>
+    <message>
+        <source>Open, last answer %1 ago</source>
+        <translation>Sesión abierta, última respuesta hace %1</translation>
+    </message>
+    <message>
+        <source>Silent, last answer %1 ago</source>
+        <translation>Sin respuesta, la última hace %1</translation>
+    </message>
+    <message>
+        <source>Line lost</source>
+        <translation>Línea perdida</translation>
+    </message>
+    <message>
+        <source>%1, step %2 of %3</source>
+        <translation>%1, paso %2 de %3</translation>
+    </message>
+    <message>
+        <source>Read the logger's configuration</source>
+        <translation>Leer la configuración del registrador</translation>
+    </message>
+    <message>
+        <source>Write the configuration to the logger</source>
+        <translation>Escribir la configuración en el registrador</translation>
+    </message>
+    <message>
+        <source>Break off what is under way and close the session</source>
+        <translation>Interrumpir lo que está en curso y cerrar la sesión</translation>
+    </message>
+    <message>
+        <source>Received</source>
+        <translation>Recibido</translation>
+    </message>
+    <message>
+        <source>Modem</source>
+        <translation>Módem</translation>
+    </message>
+    <message>
+        <source>Remarks</source>
+        <translation>Notas</translation>
+    </message>
+    <message>
+        <source>Search, Enter finds the next</source>
+        <translation>Buscar; Intro encuentra el siguiente</translation>
+    </message>
+    <message>
+        <source>Search in the trace</source>
+        <translation>Buscar en la traza</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pausa</translation>
+    </message>
+    <message>
+        <source>Save...</source>
+        <translation>Guardar...</translation>
+    </message>
+    <message>
+        <source>Save as</source>
+        <translation>Guardar como</translation>
+    </message>
+    <message>
+        <source>Save the configuration to another file</source>
+        <translation>Guardar la configuración en otro archivo</translation>
+    </message>
+    <message>
+        <source>%1 does not exist.</source>
+        <translation>%1 no existe.</translation>
+    </message>
+    <message>
+        <source>nothing can be written without a session</source>
+        <translation>no se puede escribir nada sin una sesión</translation>
+    </message>
+    <message>
+        <source>nothing was sent, since the logger has not answered for %1 s</source>
+        <translation>no se ha enviado nada, ya que el registrador no responde desde hace %1 s</translation>
+    </message>
+    <message>
+        <source>nothing was sent, since the line to the logger is lost</source>
+        <translation>no se ha enviado nada, ya que se ha perdido la línea con el registrador</translation>
+    </message>
+    <message>
+        <source>the logger has taken the new configuration over, which is not verified</source>
+        <translation>el registrador ha adoptado la nueva configuración, que no está verificada</translation>
+    </message>
+    <message>
+        <source>Groups</source>
+        <translation>Grupos</translation>
     </message>
     <message>
         <source>Findings</source>

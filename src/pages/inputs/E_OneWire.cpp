@@ -12,6 +12,12 @@ constexpr std::array<CodeOption, 3> kProbeInterfaces{{
     {"Int_1WHum", "Humedad", kInterfaceHumidity},
 }};
 
+/// The boxes hold three digits an octet.
+ConfOneWire WithWholeIdentity(ConfOneWire record) {
+  for (std::string* half : {&record.ADDRESS1, &record.ADDRESS2}) *half = WholeHalf(*half);
+  return record;
+}
+
 }  // namespace
 
 ProbeChannel::ProbeChannel(Form& form, const PageContext& context)
@@ -64,13 +70,12 @@ void ProbeChannel::Load(const ConfOneWire& record) {
   interface_.Load(record.INTERFAZ);
   (record.ID ? OptionId : OptionNoId).SetSelected(true);
   EnableIdentity(bool(record.ID));
-  fields_.Load(record);
-  for (TextBox* half : {&ID0, &ID1}) half->SetText(WholeHalf(half->Text()));
+  fields_.Load(WithWholeIdentity(record));
 }
 
 void ProbeChannel::Save(ConfOneWire& record) const {
   fields_.Save(record);
-  for (std::string* half : {&record.ADDRESS1, &record.ADDRESS2}) *half = WholeHalf(*half);
+  record = WithWholeIdentity(record);
   record.INTERFAZ = interface_.Code();
   record.ID = Bool16(OptionId.Selected());
 }

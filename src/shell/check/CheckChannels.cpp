@@ -8,6 +8,7 @@
 #include "blocks/bus/ModbusChannels.h"
 #include "blocks/expansion/ExpansionInputs.h"
 #include "blocks/inputs/AnalogInputs.h"
+#include "blocks/inputs/FlowMeters.h"
 #include "shell/check/CheckRules.h"
 
 namespace ostrel {
@@ -21,6 +22,8 @@ Finding AtField(const SectionMeta& section, int channel, std::string_view word, 
 bool IsOff(const ConfModbus& channel) { return channel.MULT == 0 && channel.MASCARA == 0; }
 
 // ---- Alarms of all kinds of channels
+
+constexpr float kTrifle = 1e-5F;
 
 /// A number of the file in words.
 std::string InWords(float number) { return DecText(number); }
@@ -69,6 +72,8 @@ class SilentChannels {
         continue;
       if (**code == kInterfaceOff) off_[{field.id.section, field.id.channel}] = true;
     }
+    for (int i = 0; i < FlowMeters::kChannels; ++i)
+      if (conf_.Caudal[i].TIMEBASE == 0) off_[{&FlowMeters::kSection, i}] = true;
   }
 
   std::string Reason(const AlarmPlace& place) const {
@@ -132,7 +137,8 @@ std::vector<Finding> WideHysteresis(const Examined& file) {
   VisitEnabledAlarms(file, [&](const AlarmPlace& place, const AlarmBlock&) {
     const auto levels = table.Of(place);
     const float band = levels.maximum - levels.minimum;
-    if (band >= 0 && levels.hysteresis > band)
+    // Decimals such as 1.3 and 1.2 lie a trifle off.
+    if (band >= 0 && levels.hysteresis > band * (1 + kTrifle))
       found.push_back(AtAlarm(
           place, "HISTERESIS",
           {"the hysteresis %1 is larger than the band from %2 to %3, so that "
@@ -157,7 +163,9 @@ std::vector<Finding> AlarmsOfSilentChannels(const Examined& file) {
 
 std::vector<Finding> ModbusOutOfRange(const Examined& file) {
   std::vector<Finding> found;
-  if (file.Model().ModbusCount > 0 && !IsSlaveAddress(file.Conf().ModbusBus.SLAVE_ADDRESS))
+  const bool isTold = !file.Features() || Has(*file.Features(), Feature::ModbusSlave);
+  if (file.Model().ModbusCount > 0 && isTold &&
+      !IsSlaveAddress(file.Conf().ModbusBus.SLAVE_ADDRESS))
     found.push_back(AtField(ModbusBus::kSection, -1, "SLAVE_ADDRESS",
                             "an address on the bus is 0 to 247: choose another one"));
   EachModbusChannel(file, [&](int number, const ConfModbus& channel) {
@@ -190,6 +198,10 @@ std::vector<Finding> ModbusNotKept(const Examined& file) {
       find(number, "MULT",
            "an analog channel whose multiplier is not above 0 reads back as a digital one: choose "
            "another multiplier");
+    if (!channel.ANALOG_MODE && channel.MASCARA == 0 && !channel.NOMBRE.empty())
+      find(number, "MASCARA",
+           "a digital channel without a mask reads back as one that is off, and writing what was "
+           "read ends it: choose a mask");
     if (!IsWithin(channel.TYPE, kRegisterFloat))
       find(number, "TYPE", "the register size is none of the three and is sent as 16 bits");
     const std::string* earlier = file.Document().Find(SectionName(ModbusChannels::kSection, number),

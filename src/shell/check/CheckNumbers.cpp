@@ -12,6 +12,8 @@
 namespace ostrel {
 namespace {
 
+constexpr int kFlags = 16;
+
 /// The scale of one channel that is on.
 struct Scale {
   const SectionMeta& section;
@@ -108,6 +110,23 @@ std::vector<Finding> UnknownInterfaces(const Examined& file) {
                      {"there is no interface %1, and the logger keeps the one that it has: choose "
                       "another one",
                       {DecText(*number)}}});
+  }
+  return found;
+}
+
+std::vector<Finding> NumbersBeyondLogger(const Examined& file) {
+  std::vector<Finding> found;
+  for (const ConstField& field : file.Fields()) {
+    const auto number = NumberOf(field.value);
+    if (!number) continue;
+    if (field.meta.sense == FieldSense::Condition && (*number < 0 || *number > kFlags))
+      found.push_back({field.Section(),
+                       field.Key(),
+                       {"there is no flag %1: choose 0 for always, or 1 to 16 for F0 to F15",
+                        {DecText(*number)}}});
+    if (field.id.word == "TIMEBASE" && *number < 0)
+      found.push_back({field.Section(), field.Key(),
+                       "a time base is never below 0: write its seconds, or 0 for off"});
   }
   return found;
 }

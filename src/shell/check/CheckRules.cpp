@@ -5,24 +5,20 @@
 #include <set>
 
 #include "base/Channels.h"
+#include "base/CodePage.h"
 #include "base/Printable.h"
 #include "blocks/TelephoneWire.h"
 #include "blocks/VoiceNumbers.h"
+#include "blocks/bus/ModbusBus.h"
+#include "blocks/bus/ModbusChannels.h"
 #include "model/Features.h"
 #include "pages/ActionCatalogue.h"
-#include "store/IniTool.h"
+#include "store/ProfileIndex.h"
 
 namespace ostrel {
 namespace {
 
 constexpr std::size_t kMostStatements = 999;
-
-/// The text of a field that is one or has one; null for others.
-const std::string* TextOf(const FieldView& field) {
-  if (const auto* text = std::get_if<const std::string*>(&field)) return *text;
-  if (const auto* phone = std::get_if<const ConfPhone*>(&field)) return &(*phone)->TLF;
-  return nullptr;
-}
 
 bool HasControl(std::string_view text) {
   return std::ranges::any_of(
@@ -83,21 +79,6 @@ std::vector<Finding> LongTexts(const Examined& file) {
   return found;
 }
 
-std::vector<Finding> CutValues(const Examined& file) {
-  std::vector<Finding> found;
-  std::string section;
-  file.Document().Visit(
-      [&](std::string_view name) { section = name; },
-      [&](std::string_view key, std::string_view value) {
-        if (CharacterCount(value) <= kProfileValueLimit) return;
-        found.push_back({section,
-                         std::string(key),
-                         {"%1 characters, of which only the first 254 are read: shorten it",
-                          {std::to_string(CharacterCount(value))}}});
-      });
-  return found;
-}
-
 /// A value without the blanks around it.
 std::string_view Trimmed(std::string_view text) {
   const std::size_t first = text.find_first_not_of(' ');
@@ -116,11 +97,22 @@ bool IsReadRight(const FieldView& field, std::string_view value, bool isS100) {
   return IsFloatText(text) && NumVal(text) == NumVal(read);
 }
 
+/// Whether the absence of a key has a meaning of its own: files of earlier programs lack it.
+bool MayBeAbsent(const ConstField& field, const IniClass& document) {
+  const std::string section = field.Section();
+  if (field.id.section == &ModbusBus::kSection)
+    return field.id.word != "BAUD" && !document.Find(section, std::string(ModbusBus::kRole));
+  return field.id.section == &ModbusChannels::kSection && field.id.word == ModbusChannels::kSize &&
+         document.Find(section, std::string(ModbusChannels::kEarlierSize));
+}
+
 std::vector<Finding> MisreadValues(const Examined& file) {
   std::vector<Finding> found;
   for (const ConstField& field : file.Fields()) {
-    const std::string* value = file.Document().Find(field.Section(), field.Key());
-    if (!value || IsReadRight(field.value, *value, file.Model().IsS100)) continue;
+    const std::string* value = file.Written(field);
+    if (!value || MayBeAbsent(field, file.Document()) ||
+        IsReadRight(field.value, *value, file.Model().IsS100))
+      continue;
     found.push_back({field.Section(),
                      field.Key(),
                      {"%1 is no value for this: it is read as %2",
@@ -152,7 +144,8 @@ std::vector<Finding> MissingKeys(const Examined& file) {
   for (const ConstField& field : file.Fields()) {
     const std::string section = field.Section(), key = field.Key();
     if (std::holds_alternative<const ConfPhone*>(field.value) ||
-        !file.Document().SectionExists("", section) || file.Document().Find(section, key))
+        !file.Document().SectionExists("", section) || file.Written(field) ||
+        MayBeAbsent(field, file.Document()))
       continue;
     if (found.empty() || found.back().section != section) {
       found.push_back({section, key, "the key is missing, and is read as empty"});
@@ -253,13 +246,20 @@ std::vector<Finding> SharedNumbers(const Examined& file) {
   return found;
 }
 
-constexpr std::array<Rule, 40> kRules{{
+/// Section and key in one text, as the file's reader compares them.
+std::string PlaceInFile(std::string_view section, std::string_view key) {
+  return FoldText(WithoutBlanks(section)) + '\n' + FoldText(WithoutBlanks(key));
+}
+
+constexpr std::array<Rule, 42> kRules{{
     {"text-breaks-statement", Severity::Error,
      "a comma, a brace or a control character in a text that is sent", BrokenTexts},
     {"too-many-statements", Severity::Error, "more statements than an upload can number",
      TooManyStatements},
     {"modbus-out-of-range", Severity::Error, "a MODBUS address that the bus does not have",
      ModbusOutOfRange},
+    {"number-out-of-range", Severity::Error, "a number or a flag that a logger refuses",
+     NumbersBeyondLogger},
     {"probe-identity-broken", Severity::Error, "a probe's identity that is none", BrokenIdentities},
     {"expansion-out-of-range", Severity::Error,
      "an expansion input in a mode, on a module or in a group that does not exist",
@@ -275,6 +275,8 @@ constexpr std::array<Rule, 40> kRules{{
     {"text-too-long", Severity::Warning, "a text longer than its box takes", LongTexts},
     {"value-cut", Severity::Warning, "a value of which the file's reader takes only a part",
      CutValues},
+    {"text-not-kept", Severity::Warning, "a text that the file does not give back as it is",
+     StrippedTexts},
     {"value-misread", Severity::Warning, "a value that is none of its kind", MisreadValues},
     {"action-not-offered", Severity::Warning, "an action that the model does not have",
      UnknownActions},
@@ -306,7 +308,8 @@ constexpr std::array<Rule, 40> kRules{{
      "a telephone's mask that names channels without an alarm", MasksWithoutAlarm},
     {"probe-identity-shared", Severity::Warning, "two probes with one identity", SharedIdentities},
     {"equation-without-channel", Severity::Warning,
-     "an equation of a channel that the model does not have", EquationsOfMissingChannels},
+     "an equation with a mask's word for a channel that the model does not have",
+     EquationsOfMissingChannels},
     {"modbus-bit-rate", Severity::Warning, "a bit rate that the bus does not have", OddBitRates},
     {"modbus-not-kept", Severity::Warning, "a MODBUS setting that does not come back as it is",
      ModbusNotKept},
@@ -341,16 +344,30 @@ Examined::Examined(const ModelConfiguration& configuration, std::optional<std::i
       statements_(ComposeStatements(configuration.conf,
                                     {configuration.profile, features.value_or(kEveryFeature)})
                       .size()),
-      probe_(configuration.conf, {configuration.profile, features.value_or(kEveryFeature)}),
-      fullProbe_(configuration.conf, {configuration.profile, kEveryFeature}) {}
+      probe_(configuration.conf, {configuration.profile, features.value_or(kEveryFeature)}) {
+  std::string_view section;
+  document.Visit([&](std::string_view name) { section = name; },
+                 [&](std::string_view key, const std::string& value) {
+                   written_.try_emplace(PlaceInFile(section, key), &value);
+                 });
+}
+
+const std::string* Examined::Written(const ConstField& field) const {
+  const auto found = written_.find(PlaceInFile(field.Section(), field.Key()));
+  return found == written_.end() ? nullptr : found->second;
+}
 
 bool Examined::IsSet(std::size_t index) const {
-  return ValueText(fields_[index]) != ValueText(emptyFields_[index]);
+  return !IsSameValue(fields_[index].value, emptyFields_[index].value) &&
+         ValueText(fields_[index]) != ValueText(emptyFields_[index]);
 }
 
 bool Examined::IsUnknownToFirmware(std::size_t index) const {
   const FieldView& empty = emptyFields_[index].value;
-  return !probe_.Changes(index, empty) && fullProbe_.Changes(index, empty);
+  if (!fullProbe_) fullProbe_.emplace(Conf(), Receiver{Model(), kEveryFeature});
+  // Most records are the same to every firmware.
+  return probe_.StatementsOf(index) != fullProbe_->StatementsOf(index) &&
+         !probe_.Changes(index, empty) && fullProbe_->Changes(index, empty);
 }
 
 std::string Examined::ValueText(const ConstField& field) const {

@@ -5,6 +5,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 #include "shell/ConfigurationFile.h"
@@ -36,6 +37,9 @@ class Examined {
   const std::optional<std::int32_t>& Features() const { return features_; }
   const IniClass& Document() const { return document_; }
   const std::vector<ConstField>& Fields() const { return fields_; }
+  /// The value of a field as it stands in the file; null where it stands nowhere. Names compare as
+  /// the file's reader compares them: ignoring letter case and the blanks around them.
+  const std::string* Written(const ConstField& field) const;
 
   /// Whether a field holds something else than in an empty configuration.
   bool IsSet(std::size_t index) const;
@@ -54,14 +58,15 @@ class Examined {
   const IniClass& document_;
   DeviceConf empty_;
   std::vector<ConstField> fields_, emptyFields_;
+  std::unordered_map<std::string, const std::string*> written_;  ///< by section and key
   std::size_t statements_;
-  mutable SentProbe probe_;      ///< under the features, or under all where they are not known
-  mutable SentProbe fullProbe_;  ///< under all features
+  mutable SentProbe probe_;  ///< under the features, or under all where they are not known
+  mutable std::optional<SentProbe> fullProbe_;  ///< under all features, once it is asked
 };
 
 /// What a finding says, in English.
 std::string SentenceText(const Finding& finding);
-/// A finding in words: "[DIGITAL(0)] NOMBRE: a comma ends the text ...".
+/// A finding in words: "[DIGITAL 0] NOMBRE: a comma ends the text ...".
 std::string FindingText(const Finding& finding);
 
 struct Rule {
@@ -88,6 +93,16 @@ void VisitEnabledAlarms(const Examined& file, const AlarmVisitor& visit);
 /// A finding at one field of an alarm.
 Finding AtAlarm(const AlarmPlace& place, std::string_view word, Phrase sentence);
 
+/// The text of a field that is one or has one; null for others.
+const std::string* TextOf(const FieldView& field);
+
+/// The texts of a configuration that a file does not keep as they are.
+std::vector<Finding> TextsNotKept(const ModelConfiguration& configuration);
+
+// The rules on what the file's reader makes of values, which stand in a file of their own.
+std::vector<Finding> CutValues(const Examined& file);
+std::vector<Finding> StrippedTexts(const Examined& file);
+
 // The rules on alarms, which stand in a file of their own.
 std::vector<Finding> AlarmsForNobody(const Examined& file);
 std::vector<Finding> AlarmsNeverValid(const Examined& file);
@@ -105,6 +120,7 @@ std::vector<Finding> ExpansionOutOfRange(const Examined& file);
 std::vector<Finding> ExpansionWithoutInterface(const Examined& file);
 
 // The rules on numbers and codes.
+std::vector<Finding> NumbersBeyondLogger(const Examined& file);
 std::vector<Finding> UselessScales(const Examined& file);
 std::vector<Finding> UnknownInterfaces(const Examined& file);
 std::vector<Finding> SenselessNumbers(const Examined& file);
