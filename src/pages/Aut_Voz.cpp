@@ -4,6 +4,7 @@
 
 #include "base/Scope.h"
 #include "model/Assign.h"
+#include "pages/parts/Edits.h"
 #include "platform/Files.h"
 
 namespace ostrel {
@@ -62,6 +63,9 @@ VoiceListControls::VoiceListControls(Form& form, PageContext& context)
       WriteBut(form, "WriteBut", "Escribir"),
       PBar(form, "PBar"),
       StateLabel(form, "StateLabel", "Preparado") {
+  Edits(PhoneList.face, FieldMeta{"TEL", "number"});
+  Edits(PNMacro.face, &ConfAutVoz::MACRO);
+  Edits(ACKCheck.face, &ConfAutVoz::SEND_ACK);
   Add_.OnClick = [this] { Add(); };
   Del.OnClick = [this] { Delete(); };
   SearchBut.OnClick = [this] { Search(); };

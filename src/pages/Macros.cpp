@@ -1,6 +1,7 @@
 #include "pages/Macros.h"
 
 #include "base/Utf8.h"
+#include "pages/parts/Edits.h"
 
 namespace ostrel {
 namespace {
@@ -30,6 +31,7 @@ MacroControls::MacroControls(Form& form, PageContext& context)
       NotSent(form, "NotSent") {
   for (int number = 0; number < kMacroPlaces; ++number) MacroNum.Add(NumText(number), number);
   MacroNum.SetPosition(0);
+  Edits(MacroPool.face, FieldMeta{"LINE", "line"});
   AddBut.OnClick = [this] { AddMacro(); };
   AddEqBut.OnClick = [this] { AddEquation(); };
   DelBut.OnClick = [this] { Delete(); };

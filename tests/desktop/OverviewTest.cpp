@@ -235,8 +235,8 @@ TEST(OwnWords, HaveSpanishForWhatTheModelSays) {
   words.erase("");
   EXPECT_GT(words.size(), 100u);
   UseLanguage("es");
-  const std::set<std::string> same{"general", "flag",   "s",       "V",       "bit/s",  "4/20 mA",
-                                   "0-5 V",   "0-10 V", "digital", "16 bits", "32 bits"};
+  const std::set<std::string> same{"general", "flag",   "s",       "V",       "bit/s",   "4/20 mA",
+                                   "0-5 V",   "0-10 V", "digital", "16 bits", "32 bits", "APN"};
   for (const std::string& word : words)
     EXPECT_TRUE(FromQt(Words::tr(word.c_str())) != word || same.contains(word)) << word;
   UseLanguage("en");

@@ -1037,6 +1037,46 @@
         <translation>acórtelo</translation>
     </message>
     <message>
+        <source>days of the month</source>
+        <translation>días del mes</translation>
+    </message>
+    <message>
+        <source>New line</source>
+        <translation>Línea nueva</translation>
+    </message>
+    <message>
+        <source>Lines</source>
+        <translation>Líneas</translation>
+    </message>
+    <message>
+        <source>This line is not sent to the logger.</source>
+        <translation>Esta línea no se envía al equipo.</translation>
+    </message>
+    <message>
+        <source>Numbers</source>
+        <translation>Números</translation>
+    </message>
+    <message>
+        <source>Call</source>
+        <translation>Llamada</translation>
+    </message>
+    <message>
+        <source>This is not an address: write four numbers from 0 to 255 with points between them, or 0 for none.</source>
+        <translation>Esto no es una dirección: escriba cuatro números de 0 a 255 separados por puntos, o 0 si no hay ninguna.</translation>
+    </message>
+    <message>
+        <source>the check sum of the logger&apos;s list differs</source>
+        <translation>la suma de control de la lista del equipo es distinta</translation>
+    </message>
+    <message>
+        <source>lines were lost or arrived damaged: try again</source>
+        <translation>se perdieron líneas o llegaron dañadas: inténtelo de nuevo</translation>
+    </message>
+    <message>
+        <source>Filter the numbers</source>
+        <translation>Filtrar los números</translation>
+    </message>
+    <message>
         <source>Open, last answer %1 ago</source>
         <translation>Sesión abierta, última respuesta hace %1</translation>
     </message>
@@ -1123,40 +1163,6 @@
     <message>
         <source>Groups</source>
         <translation>Grupos</translation>
-        <source>New line</source>
-        <translation>Línea nueva</translation>
-    </message>
-    <message>
-        <source>Lines</source>
-        <translation>Líneas</translation>
-    </message>
-    <message>
-        <source>This line is not sent to the logger.</source>
-        <translation>Esta línea no se envía al equipo.</translation>
-    </message>
-    <message>
-        <source>Numbers</source>
-        <translation>Números</translation>
-    </message>
-    <message>
-        <source>Call</source>
-        <translation>Llamada</translation>
-    </message>
-    <message>
-        <source>This is not an address: write four numbers from 0 to 255 with points between them, or 0 for none.</source>
-        <translation>Esto no es una dirección: escriba cuatro números de 0 a 255 separados por puntos, o 0 si no hay ninguna.</translation>
-    </message>
-    <message>
-        <source>the check sum of the logger&apos;s list differs</source>
-        <translation>la suma de control de la lista del equipo es distinta</translation>
-    </message>
-    <message>
-        <source>lines were lost or arrived damaged: try again</source>
-        <translation>se perdieron líneas o llegaron dañadas: inténtelo de nuevo</translation>
-    </message>
-    <message>
-        <source>Filter the numbers</source>
-        <translation>Filtrar los números</translation>
     </message>
     <message>
         <source>Findings</source>

@@ -26,16 +26,16 @@ std::vector<Finding> TextsNotKept(const ModelConfiguration& configuration) {
 std::vector<Finding> CutValues(const Examined& file) {
   std::vector<Finding> found;
   std::string section;
-  file.Document().Visit([&](std::string_view name) { section = name; },
-                        [&](std::string_view key, std::string_view value) {
-                          const std::size_t length = CharacterCount(ProfilePart(value));
-                          if (length <= kProfileValueLimit) return;
-                          found.push_back(
-                              {section,
-                               std::string(key),
-                               {"%1 characters, of which only the first 254 are read: shorten it",
-                                {std::to_string(length)}}});
-                        });
+  file.Document().Visit(
+      [&](std::string_view name) { section = name; },
+      [&](std::string_view key, std::string_view value) {
+        const std::size_t length = CharacterCount(ProfilePart(value));
+        if (length <= kProfileValueLimit) return;
+        found.push_back({section,
+                         std::string(key),
+                         {"%1 characters, of which only the first 254 are read: shorten it",
+                          {std::to_string(length)}}});
+      });
   return found;
 }
 
