@@ -22,6 +22,7 @@ if(OSTREL_WERROR)
   add_compile_options(-Werror)
 endif()
 if(OSTREL_SANITIZE)
+  add_compile_options(-Wno-maybe-uninitialized)  # false alarms on the library's own moves
   add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
   add_link_options(-fsanitize=address,undefined)
 endif()

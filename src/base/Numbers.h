@@ -54,4 +54,10 @@ std::optional<T> RoundToEven(double number) {
   return static_cast<T>(rounded);
 }
 
+/// The number as a 32-bit float; nothing when it is beyond the largest one, or no number.
+inline std::optional<float> ToFloat(double number) {
+  if (!(std::abs(number) <= std::numeric_limits<float>::max())) return std::nullopt;
+  return static_cast<float>(number);
+}
+
 }  // namespace ostrel

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 
 namespace ostrel {
 namespace {
@@ -75,6 +76,18 @@ std::string WeekText(std::uint8_t week) {
   return text;
 }
 
+std::string Dec2Bin(double mask) {
+  constexpr std::size_t kBits = 32;
+  std::string text(kBits, '0');
+  for (std::size_t bit = kBits; bit-- > 0;) {
+    const double worth = std::ldexp(1.0, static_cast<int>(bit));
+    if (worth > mask) continue;
+    text[bit] = '1';
+    mask -= worth;
+  }
+  return text;
+}
+
 std::string_view FieldOf(std::string_view text, int field) {
   for (int at = 1; at < field; ++at) {
     const std::size_t comma = text.find(',');
@@ -88,6 +101,16 @@ std::string CommaToPoint(std::string_view text) {
   std::string result(text);
   std::replace(result.begin(), result.end(), ',', '.');
   return result;
+}
+
+std::string WithDecimalPoint(std::string_view text) {
+  const std::size_t comma = text.find(',');
+  if (comma == std::string_view::npos || text.find('.') != std::string_view::npos ||
+      text.find_first_of("0123456789", comma) != comma + 1)
+    return std::string(text);
+  std::string number(text);
+  number[comma] = '.';
+  return IsFloatText(number) ? number : std::string(text);
 }
 
 }  // namespace ostrel

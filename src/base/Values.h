@@ -57,12 +57,20 @@ std::optional<TimeOfDay> TextTime(std::string_view text);
 /// shown.
 std::string WeekText(std::uint8_t week);
 
+/// The 32 bits of a mask of days of the month, as characters "0" and "1", the lowest bit first. What
+/// lies above bit 31 is not shown.
+std::string Dec2Bin(double mask);
+
 /// Comma-separated field of a text, counted from 1; 0 counts as 1. There is no quoting. Empty
 /// beyond the last field. A view into `text`.
 std::string_view FieldOf(std::string_view text, int field);
 
 /// The text with every "," replaced by ".".
 std::string CommaToPoint(std::string_view text);
+
+/// A number as it is typed where the comma is the decimal sign: with a point for the comma when that
+/// is its only separator and makes it a number; else the text as it is.
+std::string WithDecimalPoint(std::string_view text);
 
 /// Moves a value right by one bit; the top bit becomes 0.
 constexpr std::uint16_t ShiftRight1(std::uint16_t value) {

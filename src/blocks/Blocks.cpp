@@ -15,6 +15,10 @@
 #include "blocks/inputs/MathChannels.h"
 #include "blocks/inputs/Probes.h"
 #include "blocks/inputs/Sampling.h"
+#include "blocks/timers/CyclicTimers.h"
+#include "blocks/timers/LongTimers.h"
+#include "blocks/timers/MonthlyTimers.h"
+#include "blocks/timers/WeeklyTimers.h"
 #include "store/IniTool.h"
 
 namespace ostrel {
@@ -57,9 +61,9 @@ constexpr auto AlarmsOf() -> decltype(Block::alarms) {
 }
 
 template <class Kind>
-constexpr auto AsHeldOf() -> decltype(Block::asHeld) {
-  if constexpr (requires { &Kind::AsHeld; })
-    return &Kind::AsHeld;
+constexpr auto AsSentOf() -> decltype(Block::asSent) {
+  if constexpr (requires { &Kind::AsSent; })
+    return &Kind::AsSent;
   else
     return nullptr;
 }
@@ -72,7 +76,7 @@ Block MakeBlock(PageId page) {
           .view = &ViewFields<Kind>,
           .restore = &RestoreFields<Kind>,
           .alarms = AlarmsOf<Kind>(),
-          .asHeld = AsHeldOf<Kind>(),
+          .asSent = AsSentOf<Kind>(),
           .lines = Kind::kLines};
 }
 
@@ -86,6 +90,8 @@ std::span<const Block> Blocks() {
       MakeBlock<FlagAlarms>(PageId::Flags),          MakeBlock<Probes>(PageId::E_OneWire),
       MakeBlock<MathChannels>(PageId::E_Math),       MakeBlock<ModbusBus>(PageId::CONF_MODBUS),
       MakeBlock<ModbusChannels>(PageId::E_MODBUS),   MakeBlock<ExpansionInputs>(PageId::E_Modular),
+      MakeBlock<CyclicTimers>(PageId::CTimer),       MakeBlock<LongTimers>(PageId::LTimer),
+      MakeBlock<WeeklyTimers>(PageId::WTimer),       MakeBlock<MonthlyTimers>(PageId::MTimer),
       MakeBlock<AuxiliaryInputs>(PageId::E_Aux),     MakeBlock<OffMeasurement>(PageId::Katodex),
   };
   return blocks;

@@ -28,9 +28,9 @@ struct Block {
   void (*restore)(DeviceConf& conf, const TargetProfile& profile, const KeyReader& read);
   /// The alarms that a logger gets to know; null where the block has none.
   void (*alarms)(const DeviceConf& conf, const Receiver& receiver, const AlarmVisitor& visit);
-  /// Brings the block into the form in which a logger holds it, where that is not the form in
-  /// which it is edited; null where both are the same.
-  void (*asHeld)(DeviceConf& conf, const Receiver& receiver);
+  /// Brings a reading into the form in which it was sent, where a logger reports the same thing in
+  /// another; null where both are the same.
+  void (*asSent)(DeviceConf& read, const DeviceConf& sent, const Receiver& receiver);
   /// How the lines of its keys are read from a logger.
   std::span<const LineSection> lines;
 };

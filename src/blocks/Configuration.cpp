@@ -13,6 +13,20 @@ void InFileOrder(const TargetProfile& profile, const Work& work) {
     if (const Block* block = FindBlock(turn.page); block && turn.takesPart(profile)) work(*block);
 }
 
+/// A range that covers everything is read back as valid at all times, however it was sent.
+void TakeWholeRanges(DeviceConf& read, const DeviceConf& sent, const TargetProfile& profile) {
+  const auto readFields = FieldsOf(read, profile);
+  const auto sentFields = FieldsOf(sent, profile);
+  for (std::size_t i = 0; i < readFields.size(); ++i) {
+    if (readFields[i].id.word != kAlwaysWord) continue;
+    const auto start = *std::get<const TimeOfDay*>(sentFields[i + 1].value);
+    const auto stop = *std::get<const TimeOfDay*>(sentFields[i + 2].value);
+    const auto days = *std::get<const std::uint8_t*>(sentFields[i + 3].value);
+    if (CheckSiempre(start.seconds, stop.seconds, days) && *std::get<Bool16*>(readFields[i].value))
+      CopyField(sentFields[i].value, readFields[i].value);
+  }
+}
+
 }  // namespace
 
 DeviceConf EmptyConfiguration(const TargetProfile& profile, const Translation& translate) {
@@ -48,17 +62,21 @@ void VisitAlarms(const DeviceConf& conf, const Receiver& receiver, const AlarmVi
   });
 }
 
-DeviceConf AsHeld(const DeviceConf& conf, const Receiver& receiver) {
-  DeviceConf held = conf;
+DeviceConf ReadAsSent(DeviceConf read, const DeviceConf& sent, const Receiver& receiver) {
   for (const Block& block : Blocks())
-    if (block.asHeld) block.asHeld(held, receiver);
-  return held;
+    if (block.asSent) block.asSent(read, sent, receiver);
+  TakeWholeRanges(read, sent, receiver.profile);
+  return read;
+}
+
+StatementList ComposeUpload(const DeviceConf& conf, const Receiver& receiver) {
+  StatementList statements;
+  for (const UploadStep& step : UploadOrder()) ComposeStep(step, conf, receiver, statements);
+  return statements;
 }
 
 std::vector<std::string> ComposeStatements(const DeviceConf& conf, const Receiver& receiver) {
-  StatementList statements;
-  for (const UploadStep& step : UploadOrder()) ComposeStep(step, conf, receiver, statements);
-  return statements.All();
+  return ComposeUpload(conf, receiver).All();
 }
 
 void SaveConfiguration(const DeviceConf& conf, const TargetProfile& profile, IniClass& document) {

@@ -37,10 +37,13 @@ std::vector<ConstField> FieldsOf(const DeviceConf& conf, const TargetProfile& pr
 /// Visits every alarm that a logger gets to know.
 void VisitAlarms(const DeviceConf& conf, const Receiver& receiver, const AlarmVisitor& visit);
 
-/// The configuration as a logger holds it that has got it.
-DeviceConf AsHeld(const DeviceConf& conf, const Receiver& receiver);
+/// A reading beside what was sent, or is to be: where a logger tells the same thing in another
+/// form, the reading takes the form of what was sent. All else stays as it was read.
+DeviceConf ReadAsSent(DeviceConf read, const DeviceConf& sent, const Receiver& receiver);
 
-/// The statements of a whole upload, in the order of sending and without their numbers.
+/// A whole upload, in the order of sending and without numbers.
+StatementList ComposeUpload(const DeviceConf& conf, const Receiver& receiver);
+/// The statements of it that can be made.
 std::vector<std::string> ComposeStatements(const DeviceConf& conf, const Receiver& receiver);
 
 /// Section and key of a file's stamp, which names the model that the file is of.

@@ -10,8 +10,6 @@
 namespace ostrel {
 namespace {
 
-constexpr int kShortestNumber = 3;
-
 /// The channels of a mask in the form of older firmware, lowest bit first.
 constexpr std::array<std::string_view, 12> kShortMaskChannels{
     "DI0", "DI1", "DI2", "DI3", "DI4", "DI5", "DI6", "DI7", "AI0", "AI1", "AI2", "AI3"};

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string_view>
 
@@ -10,12 +11,15 @@
 
 namespace ostrel {
 
+/// A number of fewer characters does not read back from a logger.
+inline constexpr std::size_t kShortestNumber = 3;
+
 /// Whether the mask form of firmware without extended masks can name a channel: it knows DI0 to DI7
 /// and AI0 to AI3.
 bool IsShortMaskToken(std::string_view token);
 
-/// Reads the line of one slot, whose next fields are index and number. A number of fewer than three
-/// characters is a free slot, and passed over.
+/// Reads the line of one slot, whose next fields are index and number. A number that is too short
+/// is a free slot, and passed over.
 void ReadPhone(LineReader& line, std::int32_t features, DeviceConf& conf);
 
 /// The statement that adds a telephone to the list of a logger.

@@ -23,7 +23,7 @@ class ConsoleDialogs final : public Dialogs {
   /// Gives the code of the options once, or asks for one on the terminal.
   std::string AskCode(const std::string& prompt) override;
   /// Forms are for a face that draws: always dismissed.
-  void ShowModal(Modal&) override {}
+  void ShowModal(Modal&, const std::function<void()>&) override {}
   void Beep() override {}
 
   /// Asks a question of the command line itself.

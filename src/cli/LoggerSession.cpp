@@ -94,8 +94,7 @@ ExitCode LoggerSession::Download() {
 }
 
 ExitCode LoggerSession::Upload() {
-  written_ = Move("upload", &SessionDriver::Upload);
-  if (written_) return ExitCode::Done;
+  if (Move("upload", &SessionDriver::Upload)) return ExitCode::Done;
   return Fault(ExitCode::DialogueFailed, *configurator_.session.State().failed);
 }
 
@@ -103,8 +102,6 @@ ExitCode LoggerSession::Fault(ExitCode code, const SessionFault& fault) {
   FaultWords words = WordsOf(fault, port_.name);
   if (fault.code == CodeAnswer::NotGiven)
     words.remedy = {"--code, --code-file, --code-fd or OSTREL_CODE gives one"};
-  if (written_)
-    words.outcome = {"the logger has taken the new configuration over, which is not verified"};
   return context_.console.Fail(code, FaultText(words));
 }
 

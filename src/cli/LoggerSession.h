@@ -46,7 +46,6 @@ class LoggerSession {
   PortChoice port_;
   std::unique_ptr<std::ostream> trace_;
   bool interrupted_ = false;
-  bool written_ = false;  ///< the logger has taken a new configuration over
 };
 
 }  // namespace ostrel::cli

@@ -28,6 +28,12 @@ Button::Button(Form& form, std::string_view name, std::string_view key) : face(n
   form.Register(this);
 }
 
+void Button::SetCount(int count) {
+  if (count == count_) return;
+  count_ = count;
+  face.Changed();
+}
+
 void Button::Click() {
   if (face.Enabled()) Run(OnClick);
 }
@@ -123,6 +129,22 @@ void ListBox::Remove(int row) {
     position_ = -1;
   else if (position_ > row)
     --position_;
+  face.Changed();
+}
+
+void ListBox::Replace(int row, std::string_view text) {
+  if (row < 0 || row >= static_cast<int>(rows_.size())) return;
+  rows_[static_cast<std::size_t>(row)].text = text;
+  face.Changed();
+}
+
+void ListBox::Move(int row, int place) {
+  const int count = static_cast<int>(rows_.size());
+  if (row < 0 || row >= count || place < 0 || place >= count) return;
+  ListRow moved = std::move(rows_[static_cast<std::size_t>(row)]);
+  rows_.erase(rows_.begin() + row);
+  rows_.insert(rows_.begin() + place, std::move(moved));
+  position_ = place;
   face.Changed();
 }
 

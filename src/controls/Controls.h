@@ -37,9 +37,15 @@ class Button {
   Button(Form& form, std::string_view name, std::string_view key);
   /// Runs the click logic, unless the button is disabled.
   void Click();
+  /// How many things stand behind the button, for one that opens a list; -1 for none to tell.
+  int Count() const { return count_; }
+  void SetCount(int count);
 
   Face face;
   std::function<void()> OnClick;
+
+ private:
+  int count_ = -1;
 };
 
 class CheckBox {
@@ -94,12 +100,16 @@ class TextBox {
   void Type(std::string_view text);
   int MaxLength() const { return maxLength_; }
   void SetMaxLength(int maxLength) { maxLength_ = maxLength; }
+  /// The kind of number that belongs into the box, as `CheckNumberBox` knows it; empty for a text.
+  std::string_view NumberKind() const { return numberKind_; }
+  void SetNumberKind(std::string_view kind) { numberKind_ = kind; }
 
   Face face;
 
  private:
   std::string text_;
   int maxLength_;
+  std::string_view numberKind_;
 };
 
 /// One row of a list, with the value that stands for it.
@@ -142,6 +152,10 @@ class ListBox {
   void Add(std::string_view text, std::int32_t value = 0);
   /// Removes a row; one that does not exist changes nothing. The selection is lost when it was it.
   void Remove(int row);
+  /// Puts another text in the place of a row; one that does not exist changes nothing.
+  void Replace(int row, std::string_view text);
+  /// Moves a row to another place and selects it; a place that does not exist changes nothing.
+  void Move(int row, int place);
   void Clear();
   int Position() const { return position_; }
   void SetPosition(int position);
@@ -150,6 +164,7 @@ class ListBox {
 
   Face face;
   std::function<void()> OnDoubleClick;
+  bool isOrdered = false;  ///< the operator may move rows
 
  private:
   std::vector<ListRow> rows_;

@@ -9,6 +9,14 @@ namespace ostrel {
 /// Back colours that the logic gives a control.
 enum class BackColour { Window, Red };
 
+/// The field of a configuration that a control edits, as a file names it.
+struct EditedField {
+  std::string_view word{};     ///< of its key; empty for a control that edits none
+  std::string_view unit{};     ///< of a number
+  std::string_view section{};  ///< where the form edits several; else that of its page
+  int channel = -1;            ///< where the form edits several records; else that of its page
+};
+
 /// What every control shows of itself besides its value. `name` addresses it within its form;
 /// `key` is its Spanish caption, under which the language table knows it.
 class Face {
@@ -23,6 +31,8 @@ class Face {
   bool Enabled() const { return enabled_; }
   bool Visible() const { return visible_; }
   BackColour Colour() const { return colour_; }
+  const EditedField& Field() const { return field_; }
+  void SetField(const EditedField& field) { field_ = field; }
 
   void SetCaption(std::string_view caption) { Change(caption_, std::string(caption)); }
   /// Shows another text of the table from now on: its key, and the caption in the language in use.
@@ -54,6 +64,7 @@ class Face {
   bool enabled_ = true;
   bool visible_ = true;
   BackColour colour_ = BackColour::Window;
+  EditedField field_;
 };
 
 }  // namespace ostrel

@@ -37,7 +37,8 @@ inline constexpr std::array<FlowUnit, 4> kFlowUnits{{
 }};
 
 /// The ratio of a flow channel: the flow that one pulse within the time base, in seconds, stands
-/// for. Nothing for a time base of 0, or a result that no 32-bit float holds.
+/// for, as the number that its text shows. Nothing for a time base of 0, or a result that no 32-bit
+/// float holds.
 std::optional<float> PulseRatio(float amount, const PulseUnit& unit, std::int16_t timeBase,
                                 const FlowUnit& flow);
 

@@ -27,8 +27,11 @@ Comms::Comms(const Platform& platform, const LinkRecords& records, LinkHooks hoo
       download_(line_, progress_, {hooks_.clearPages, hooks_.loadPages, records.ComBusy}),
       upload_(line_, progress_, records.info, hooks_.composed) {
   platform_.port.SetOnComm([this] {
-    const bool changed = platform_.port.CommEvent() == kCommEventCarrier;
-    if (changed && !platform_.port.CDHolding() && hooks_.carrierLost) hooks_.carrierLost();
+    if (platform_.port.CommEvent() != kCommEventCarrier) return;
+    carrierGoneAt_.reset();
+    if (platform_.port.CDHolding()) return;
+    carrierGoneAt_ = platform_.loop.Now();
+    if (hooks_.carrierLost) hooks_.carrierLost();
   });
 }
 
@@ -48,7 +51,13 @@ void Comms::ScanPorts() {
       hooks_.portFound(PortName(number));
 }
 
+bool Comms::LineLost() const {
+  if (!line_.PortOpen() || platform_.port.LineLost()) return true;
+  return carrierGoneAt_ && line_.AnsweredAt() <= *carrierGoneAt_;
+}
+
 LinkResult Comms::StartComs(std::int16_t port, const std::string& phone) {
+  carrierGoneAt_.reset();
   const LinkResult result = Keep(Opening(line_, AccessCode, hooks_.showPWForm).Run(port, phone));
   opened_ = result;
   // A flag left behind by whatever ran before must not block the session.

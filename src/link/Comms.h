@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -87,7 +88,7 @@ class Comms {
   /// Uploads the configuration. Success: the logger has taken it over.
   LinkResult WriteConf();
   /// The statements that `WriteConf` would send now, without their numbers.
-  std::vector<std::string> ComposeStatements() const { return upload_.Compose(); }
+  std::vector<std::string> ComposeStatements() const { return upload_.Compose().All(); }
   /// Asks the logger who it is. Always false; the values stand in the records.
   bool ReadInfo();
   /// What the last `ReadInfo` came to: no fault when it got the stream to its end.
@@ -119,6 +120,11 @@ class Comms {
   /// read now and then does not change it.
   const LinkFault& Fault() const { return fault_; }
   Duration SilentFor() const { return line_.SilentFor(); }
+  Duration SinceAnswer() const { return line_.SinceAnswer(); }
+  Duration UnansweredFor() const { return line_.UnansweredFor(); }
+  /// True when nothing can come any more as far as the machine knows: the port is closed, its
+  /// device has gone, or the carrier has and nothing was heard since.
+  bool LineLost() const;
   /// Tells a listener how far downloads and uploads are, as long as the subscription lives.
   [[nodiscard]] ProgressFeed::Subscription OnProgress(ProgressFeed::Listener listener) {
     return progress_.Listen(std::move(listener));
@@ -140,6 +146,7 @@ class Comms {
   LinkFault fault_;
   LinkFault infoFault_{LinkFault::Kind::Silence};
   bool opened_ = false;  ///< the open port is ours to close
+  std::optional<TimePoint> carrierGoneAt_;
 
  public:
   std::string AccessCode;  ///< as typed by the operator; written while `showPWForm` runs

@@ -51,6 +51,8 @@ PortFault Line::Open(int number) {
   port_.SetRTSEnable(false);
   port_.SetDTREnable(true);
   torn_ = false;
+  answeredAt_ = loop_.Now();
+  askedAt_.reset();
   return port_.SetPortOpen(true);
 }
 
@@ -172,6 +174,14 @@ void Line::Delay(int ms) {
 Duration Line::SilentFor() const {
   if (!LinkBusy || !awaitedSince_) return Duration::zero();
   return loop_.Now() - *awaitedSince_;
+}
+
+Duration Line::UnansweredFor() const {
+  return askedAt_ ? loop_.Now() - *askedAt_ : Duration::zero();
+}
+
+void Line::NoteQuestion() {
+  if (!askedAt_) askedAt_ = loop_.Now();
 }
 
 void Line::ExpectAnswer(bool due) {

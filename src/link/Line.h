@@ -95,6 +95,14 @@ class Line {
   /// How long a reply or a line has been awaited in vain: time since the last good frame, while a
   /// dialogue runs and expects one; zero otherwise.
   Duration SilentFor() const;
+  /// Time since the last good frame; since the opening where none has come.
+  Duration SinceAnswer() const { return loop_.Now() - answeredAt_; }
+  /// When the last good frame came, or the port was opened.
+  TimePoint AnsweredAt() const { return answeredAt_; }
+  /// How long the oldest question is out to which nothing has come since; zero for none.
+  Duration UnansweredFor() const;
+  /// A question goes out that wants an answer.
+  void NoteQuestion();
   /// From now on an answer is due, or none.
   void ExpectAnswer(bool due);
   void Note(std::string_view what, std::string_view text = {}) const;
@@ -134,6 +142,8 @@ class Line {
   TimePoint heardAt_{};                    ///< when characters were last taken
   std::uint64_t lostTold_ = 0;             ///< lost octets that the trace has been told of
   std::optional<TimePoint> awaitedSince_;  ///< last sign of the logger; none while none is due
+  TimePoint answeredAt_{};                 ///< when the last good frame came
+  std::optional<TimePoint> askedAt_;       ///< of the oldest question that nothing has answered
   bool damaged_ = false;     ///< a bad frame has come since the last message or good frame
   bool tooLong_ = false;     ///< the bad frame was longer than any line
   bool unsendable_ = false;  ///< a message of the dialogue could not be sent, which ends it

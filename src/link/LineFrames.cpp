@@ -32,6 +32,7 @@ void Line::TxSer(std::string& message, int timeout) {
   if (timeout <= 0) return send();
   DrainFrames(kStaleMs, kLongestStale);
   damaged_ = false;
+  NoteQuestion();
   for (int attempt = 0; attempt < kLinkAttempts && GoesOn(); ++attempt) {
     send();
     if (!AwaitSent() || RxSer(timeout)) return;
@@ -53,6 +54,8 @@ bool Line::RxSer(int timeout) {
   damaged_ = false;
   RxLine = FromCodePage(MessageOf(line.text));
   ExpectAnswer(true);
+  answeredAt_ = loop_.Now();
+  askedAt_.reset();
   Note("RxSer: ", RxLine);
   return true;
 }

@@ -22,6 +22,17 @@ std::string HalfOf(std::string_view reply, int first) {
   return half;
 }
 
+/// Eight numbers of up to three digits.
+bool AreOctets(std::string_view reply) {
+  for (int field = 1; field <= 2 * kOctetsOfHalf; ++field) {
+    const std::string_view octet = FieldOf(reply, field);
+    if (octet.empty() || octet.size() > kOctetDigits ||
+        octet.find_first_not_of("0123456789") != std::string_view::npos)
+      return false;
+  }
+  return true;
+}
+
 }  // namespace
 
 LinkFault ReadProbe(Line& line, ProbeIdentity& identity) {
@@ -36,6 +47,7 @@ LinkFault ReadProbe(Line& line, ProbeIdentity& identity) {
   const std::size_t firstEnd = std::min(reply.find(','), reply.size());
   const std::size_t digits = std::min(kOctetDigits, firstEnd - kHead.size());
   const std::string_view octets = reply.substr(firstEnd - digits);
+  if (!AreOctets(octets)) return line.FaultNow(LinkFault::Kind::WrongAnswer, 0, line.RxLine);
   identity = {HalfOf(octets, 1), HalfOf(octets, 1 + kOctetsOfHalf)};
   return {};
 }

@@ -3,8 +3,8 @@
 #include <utility>
 
 #include "link/LinkTimes.h"
+#include "link/UploadPlan.h"
 #include "link/WireText.h"
-#include "model/Features.h"
 
 namespace ostrel {
 namespace {
@@ -18,10 +18,10 @@ Upload::Upload(Line& line, ProgressFeed& progress, const DeviceInfo& info,
                std::function<void()> composed)
     : line_(line), progress_(progress), info_(info), composed_(std::move(composed)) {}
 
-std::vector<std::string> Upload::Compose() const {
+StatementList Upload::Compose() const {
   StatementList statements;
   for (const WireBlock& block : blocks_) block.compose(statements);
-  return statements.All();
+  return statements;
 }
 
 LinkFault Upload::Run() {
@@ -30,7 +30,8 @@ LinkFault Upload::Run() {
   LinkFault fault;
   for (int attempt = 0; attempt < kLinkAttempts; ++attempt) {
     fault = RunOnce();
-    if (fault.Ok() || !line_.GoesOn()) break;
+    // What cannot be composed now cannot be at the next attempt.
+    if (fault.Ok() || !line_.GoesOn() || fault.kind == LinkFault::Kind::PeriodTooLong) break;
   }
   Tell(fault.Ok() ? Progress::Stage::Done : Progress::Stage::Failed);
   return fault;
@@ -39,7 +40,9 @@ LinkFault Upload::Run() {
 LinkFault Upload::RunOnce() {
   statementNo_ = 0;
   // Composed at once, so that what is sent is one state of the model.
-  const std::vector<std::string> statements = Compose();
+  const StatementList composed = Compose();
+  if (!composed.Fault().Ok()) return composed.Fault();
+  const std::vector<std::string>& statements = composed.All();
   if (composed_) composed_();
   for (const std::string& statement : statements) {
     LinkFault fault = SendStatement(statement, static_cast<int>(statements.size()));
@@ -55,13 +58,14 @@ LinkFault Upload::SendStatement(std::string_view statement, int expected) {
   Tell(Progress::Stage::Step, expected);
   if (!hasLeft) return line_.WaitFault(number);
   line_.ExpectAnswer(true);  // none was due before this window
-  line_.RxSer(Has(info_.Features, Feature::FastRefusal) ? kFastRefusalMs : kRefusalMs);
+  line_.RxSer(RefusalWindowMs(info_.Features));
   if (!line_.GoesOn()) return line_.WaitFault(number);
   if (line_.RxLine.find(kRefusal) == std::string::npos) return {};
   return line_.FaultNow(LinkFault::Kind::Refused, number, std::string(statement));
 }
 
 LinkFault Upload::Close(const std::vector<std::string>& statements) {
+  line_.NoteQuestion();
   const bool hasLeft = line_.Post("#46" + Padded(statementNo_, kRecordDigits));
   if (!hasLeft || !line_.RxSer(line_.ReplyTimeout)) return line_.WaitFault(statementNo_);
   if (line_.RxLine.starts_with(kTakenOver)) return {};

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 #include "base/Bounded.h"
 #include "base/Values.h"
@@ -15,6 +16,8 @@ struct AlarmShape {
   int configs;     ///< alarm configurations in use, from cell 0
   bool hasFlag;    ///< FLAG exists
   bool hasNormal;  ///< ACTNO exists
+  /// What the persistence of a level alarm counts.
+  std::string_view persistence = "readings";
 };
 
 /// When something is valid: at all times, or in a range of the day on some days.
@@ -77,29 +80,39 @@ struct Alarm {
   bool operator==(const Alarm&) const = default;
 };
 
+/// A persistence beyond this is a slip of the hand, in whatever it counts.
+inline constexpr SensibleRange kPersistence{0, 10'000};
+/// Seconds of a contact's persistence: a day at the most.
+inline constexpr SensibleRange kContactSeconds{0, 86'400};
+/// Levels lie where any unit of engineering has them.
+inline constexpr SensibleRange kLevel{-1e9, 1e9};
+
 template <Is<LevelThresholds> T, class Visit>
 void Describe(T& t, Visit&& visit) {
   auto& [minimo, maximo, histeresis, persistencia] = t;
-  visit(FieldMeta{"MINIMO", "minimum"}, minimo);
-  visit(FieldMeta{"MAXIMO", "maximum"}, maximo);
-  visit(FieldMeta{"HISTERESIS", "hysteresis"}, histeresis);
-  visit(FieldMeta{"PERSISTENCIA", "persistence"}, persistencia);
+  visit(NumberMeta("MINIMO", "minimum", {}, kLevel), minimo);
+  visit(NumberMeta("MAXIMO", "maximum", {}, kLevel), maximo);
+  visit(NumberMeta("HISTERESIS", "hysteresis", {}, {0, kLevel.most}), histeresis);
+  visit(NumberMeta("PERSISTENCIA", "persistence", {}, kPersistence), persistencia);
 }
 
 template <Is<ContactThresholds> T, class Visit>
 void Describe(T& t, Visit&& visit) {
   auto& [persist, rearm] = t;
-  visit(FieldMeta{"PERSIST", "persistence"}, persist);
-  visit(FieldMeta{"REARM", "rearming"}, rearm);
+  visit(NumberMeta("PERSIST", "persistence", "s", kContactSeconds), persist);
+  visit(NumberMeta("REARM", "rearming", "s", kContactSeconds), rearm);
 }
 
 template <Is<NoThresholds> T, class Visit>
 void Describe(T&, Visit&&) {}
 
+/// The word of the first field of a range; start, stop and days follow it.
+inline constexpr std::string_view kAlwaysWord = "SIEMPRE";
+
 template <Is<ValidityRange> T, class Visit>
 void Describe(T& t, Visit&& visit) {
   auto& [siempre, inicio, final, semana] = t;
-  visit(FieldMeta{"SIEMPRE", "always valid"}, siempre);
+  visit(FieldMeta{kAlwaysWord, "always valid"}, siempre);
   visit(FieldMeta{"INICIO", "valid from"}, inicio);
   visit(FieldMeta{"FINAL", "valid until"}, final);
   visit(FieldMeta{"SEMANA", "valid days", FieldSense::Week}, semana);
@@ -122,7 +135,10 @@ void DescribeAlarm(AlarmCell& cell, int config, AlarmShape shape, Visit&& visit)
   one(FieldMeta{"VOZ", "notify by SMS and voice"}, voz);
   one(FieldMeta{"GPRS", "notify by GPRS"}, gprs);
   one(TextMeta("TEXTO", "text", kAlarmTextLength), texto);
-  Describe(cell.thresholds, one);
+  Describe(cell.thresholds, [&](FieldMeta meta, auto& field) {
+    if (meta.words == "persistence" && meta.unit.empty()) meta.unit = shape.persistence;
+    one(meta, field);
+  });
   Describe(valid, one);
   if (shape.hasFlag) one(FieldMeta{"FLAG", "condition flag", FieldSense::Condition}, flag);
   for (int place = 0; place < kActionPlaces; ++place) {

@@ -1,8 +1,6 @@
 #pragma once
 
-#include <cmath>
 #include <concepts>
-#include <limits>
 
 #include "base/Values.h"
 
@@ -15,8 +13,8 @@ void Assign(T& field, double number) {
   field = RoundToEven<T>(number).value_or(field);
 }
 
-inline void Assign(float& field, double number) {
-  if (std::abs(number) <= std::numeric_limits<float>::max()) field = static_cast<float>(number);
-}
+inline void Assign(float& field, double number) { field = ToFloat(number).value_or(field); }
+
+inline void Assign(double& field, double number) { field = number; }
 
 }  // namespace ostrel

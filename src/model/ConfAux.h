@@ -6,6 +6,7 @@
 #include "base/Bounded.h"
 #include "model/AlarmBlock.h"
 #include "model/Describe.h"
+#include "model/InputMeta.h"
 
 namespace ostrel {
 
@@ -27,7 +28,7 @@ void Describe(R& r, Visit&& visit) {
   auto& [nombre, unidad, interfaz, ie, fe, eqIe, eqFe, alarm] = r;
   visit(FieldMeta{"NOMBRE", "name"}, nombre);
   visit(FieldMeta{"UNIDAD", "unit"}, unidad);
-  visit(FieldMeta{"INTERFAZ", "interface"}, interfaz);
+  visit(CodeMeta("INTERFAZ", "interface", kOnOrOffWords), interfaz);
   visit(FieldMeta{"IE", "start of scale"}, ie);
   visit(FieldMeta{"FE", "full scale"}, fe);
   visit(FieldMeta{"EqIE", "value at start of scale"}, eqIe);
@@ -47,7 +48,7 @@ struct ConfKatodex {
 template <Is<ConfKatodex> R, class Visit>
 void Describe(R& r, Visit&& visit) {
   auto& [offtime, samplerate, aux1ratio] = r;
-  visit(FieldMeta{"OFFTIME", "length of an OFF measurement"}, offtime);
+  visit(NumberMeta("OFFTIME", "length of an OFF measurement", "s", {1, 3}), offtime);
   visit(FieldMeta{"SAMPLERATE", "sampling of an OFF measurement"}, samplerate);
   visit(FieldMeta{"AUX1RATIO", "amperes of a volt at the shunt"}, aux1ratio);
 }

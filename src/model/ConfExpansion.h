@@ -1,11 +1,13 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <string>
 
 #include "base/Bounded.h"
 #include "model/AlarmBlock.h"
 #include "model/Describe.h"
+#include "model/InputMeta.h"
 
 namespace ostrel {
 
@@ -17,6 +19,13 @@ enum ExpansionMode : std::int16_t {
   kModeCounter = 3,
   kModeAnalog = 4,
 };
+
+inline constexpr std::array<CodeWords, 5> kModeWords{{{kModeOff, "off"},
+                                                      {kModeDigital, "digital"},
+                                                      {kModeFlow, "flow meter"},
+                                                      {kModeCounter, "counter"},
+                                                      {kModeAnalog, "analog"}}};
+inline constexpr std::array<CodeWords, 2> kExpansionInterfaceWords{{{1, "4/20 mA"}, {3, "0-10 V"}}};
 
 /// What an expansion input is as a contact.
 struct ModuloDigital {
@@ -39,7 +48,8 @@ void Describe(R& r, Visit&& visit) {
 
 /// What an expansion input is as a flow meter.
 struct ModuloFlow {
-  static constexpr AlarmShape kShape{.configs = 1, .hasFlag = true, .hasNormal = true};
+  static constexpr AlarmShape kShape{
+      .configs = 1, .hasFlag = true, .hasNormal = true, .persistence = "cycles"};
 
   std::string NOMBRE, UNIDAD;
   std::int16_t TIMEBASE = 0;  ///< seconds
@@ -54,8 +64,8 @@ void Describe(R& r, Visit&& visit) {
   auto& [nombre, unidad, timebase, ratio, alarm] = r;
   visit(FieldMeta{"NOMBRE", "name"}, nombre);
   visit(FieldMeta{"UNIDAD", "unit"}, unidad);
-  visit(FieldMeta{"TIMEBASE", "time base"}, timebase);
-  visit(FieldMeta{"RATIO", "units of a pulse"}, ratio);
+  visit(NumberMeta("TIMEBASE", "time base", "s", SensibleRange{}), timebase);
+  visit(NumberMeta("RATIO", "units of a pulse", {}, kPulseWeight), ratio);
   DescribeAlarms(alarm, ModuloFlow::kShape, visit);
 }
 
@@ -72,7 +82,7 @@ void Describe(R& r, Visit&& visit) {
   auto& [nombre, unidad, ratio] = r;
   visit(FieldMeta{"NOMBRE", "name"}, nombre);
   visit(FieldMeta{"UNIDAD", "unit"}, unidad);
-  visit(FieldMeta{"RATIO", "units of a pulse"}, ratio);
+  visit(NumberMeta("RATIO", "units of a pulse", {}, kPulseWeight), ratio);
 }
 
 /// What an expansion input is as an analog one.
@@ -94,7 +104,7 @@ void Describe(R& r, Visit&& visit) {
   auto& [nombre, unidad, interfaz, ie, fe, eqIe, eqFe, grupo, alarm] = r;
   visit(FieldMeta{"NOMBRE", "name"}, nombre);
   visit(FieldMeta{"UNIDAD", "unit"}, unidad);
-  visit(FieldMeta{"INTERFAZ", "interface"}, interfaz);
+  visit(CodeMeta("INTERFAZ", "interface", kExpansionInterfaceWords), interfaz);
   visit(FieldMeta{"IE", "start of scale"}, ie);
   visit(FieldMeta{"FE", "full scale"}, fe);
   visit(FieldMeta{"EqIE", "value at start of scale"}, eqIe);
@@ -122,7 +132,7 @@ struct ConfModulo {
 template <Is<ConfModulo> R, class Visit>
 void Describe(R& r, Visit&& visit) {
   auto& [modo, dir, entrada, grupo, digital, flow, counter, analog] = r;
-  visit(FieldMeta{"MODO", "mode"}, modo);
+  visit(CodeMeta("MODO", "mode", kModeWords), modo);
   visit(FieldMeta{"DIR", "module address"}, dir);
   visit(FieldMeta{"ENTRADA", "input on the module"}, entrada);
   visit(FieldMeta{"GRUPO", "group"}, grupo);

@@ -6,12 +6,14 @@
 #include "base/Bounded.h"
 #include "model/AlarmBlock.h"
 #include "model/Describe.h"
+#include "model/InputMeta.h"
 
 namespace ostrel {
 
 /// A flow meter: a pulse input with the weight of a pulse.
 struct ConfCaudal {
-  static constexpr AlarmShape kShape{.configs = 4, .hasFlag = true, .hasNormal = true};
+  static constexpr AlarmShape kShape{
+      .configs = 4, .hasFlag = true, .hasNormal = true, .persistence = "cycles"};
 
   std::string NOMBRE, UNIDAD;
   std::int16_t INTERFAZ = 0;  ///< 0 off, 6 on
@@ -29,9 +31,9 @@ void Describe(R& r, Visit&& visit) {
   auto& [nombre, unidad, interfaz, ratio, timeBase, totalRatio, alarm] = r;
   visit(TextMeta("NOMBRE", "name", 31), nombre);
   visit(TextMeta("UNIDAD", "unit", 9), unidad);
-  visit(FieldMeta{"INTERFAZ", "interface"}, interfaz);
-  visit(TextMeta("TIMEBASE", "time base in seconds", 6), timeBase);
-  visit(FieldMeta{"RATIO", "units a pulse"}, ratio);
+  visit(CodeMeta("INTERFAZ", "interface", kOnOrOffWords), interfaz);
+  visit(NumberMeta("TIMEBASE", "time base", "s", SensibleRange{}, 6), timeBase);
+  visit(NumberMeta("RATIO", "units a pulse", {}, kPulseWeight), ratio);
   DescribeAlarms(alarm, ConfCaudal::kShape, visit);
 }
 

@@ -6,6 +6,7 @@
 #include "base/Bounded.h"
 #include "model/AlarmBlock.h"
 #include "model/Describe.h"
+#include "model/InputMeta.h"
 
 namespace ostrel {
 
@@ -26,7 +27,7 @@ void Describe(R& r, Visit&& visit) {
   auto& [nombre, unidad, interfaz, ecuacion, alarm] = r;
   visit(TextMeta("NOMBRE", "name", 19), nombre);
   visit(TextMeta("UNIDAD", "unit", 9), unidad);
-  visit(FieldMeta{"INTERFAZ", "interface"}, interfaz);
+  visit(CodeMeta("INTERFAZ", "interface", kOnOrOffWords), interfaz);
   visit(TextMeta("ECUACION", "equation", 31), ecuacion);
   DescribeAlarms(alarm, ConfMath::kShape, visit);
 }

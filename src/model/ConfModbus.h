@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <string>
 
@@ -21,7 +22,7 @@ struct ConfModbusBus {
 template <Is<ConfModbusBus> R, class Visit>
 void Describe(R& r, Visit&& visit) {
   auto& [baud, master, slaveAddress] = r;
-  visit(FieldMeta{"BAUD", "bit rate"}, baud);
+  visit(NumberMeta("BAUD", "bit rate", "bit/s", {}), baud);
   visit(FieldMeta{"MASTER", "bus master"}, master);
   visit(FieldMeta{"SLAVE_ADDRESS", "own address as a slave"}, slaveAddress);
 }
@@ -37,14 +38,19 @@ struct RegisterThresholds {
 template <Is<RegisterThresholds> T, class Visit>
 void Describe(T& t, Visit&& visit) {
   auto& [minimo, maximo, histeresis, persist] = t;
-  visit(FieldMeta{"MINIMO", "minimum, or rearming of a digital one"}, minimo);
-  visit(FieldMeta{"MAXIMO", "maximum, or persistence of a digital one"}, maximo);
-  visit(FieldMeta{"HISTERESIS", "hysteresis"}, histeresis);
-  visit(FieldMeta{"PERSIST", "persistence"}, persist);
+  visit(NumberMeta("MINIMO", "minimum, or rearming of a digital one", {}, kLevel), minimo);
+  visit(NumberMeta("MAXIMO", "maximum, or persistence of a digital one", {}, kLevel), maximo);
+  visit(NumberMeta("HISTERESIS", "hysteresis", {}, {0, kLevel.most}), histeresis);
+  visit(NumberMeta("PERSIST", "persistence", {}, kPersistence), persist);
 }
 
 /// Codes of the size of a register.
 enum RegisterSize : std::int16_t { kRegister16Bits = 0, kRegister32Bits = 1, kRegisterFloat = 2 };
+
+inline constexpr std::array<CodeWords, 3> kRegisterSizeWords{
+    {{kRegister16Bits, "16 bits"}, {kRegister32Bits, "32 bits"}, {kRegisterFloat, "float"}}};
+/// Registers of a bus have addresses of 16 bits.
+inline constexpr SensibleRange kRegisterAddresses{.most = 65'535};
 
 /// A register of a slave that is read as a channel.
 struct ConfModbus {
@@ -70,13 +76,13 @@ void Describe(R& r, Visit&& visit) {
   visit(FieldMeta{"NOMBRE", "name"}, nombre);
   visit(FieldMeta{"UNIDAD", "unit"}, unidad);
   visit(FieldMeta{"SLAVE", "slave address"}, slave);
-  visit(FieldMeta{"REGADD", "register address"}, regadd);
+  visit(NumberMeta("REGADD", "register address", {}, kRegisterAddresses), regadd);
   visit(FieldMeta{"MULT", "multiplier"}, mult);
   visit(FieldMeta{"ANALOG_MODE", "analog"}, analog);
   visit(FieldMeta{"CONSTANTE", "constant"}, constante);
   visit(FieldMeta{"MASCARA", "bit mask"}, mascara);
   visit(FieldMeta{"NEGATE", "negated"}, negate);
-  visit(FieldMeta{"TYPE", "register size"}, type);
+  visit(CodeMeta("TYPE", "register size", kRegisterSizeWords), type);
   DescribeAlarms(alarm, ConfModbus::kShape, visit);
 }
 

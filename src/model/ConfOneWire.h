@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <string>
 
@@ -8,6 +9,10 @@
 #include "model/Describe.h"
 
 namespace ostrel {
+
+/// What a probe measures.
+inline constexpr std::array<CodeWords, 3> kProbeInterfaceWords{
+    {{0, "off"}, {4, "temperature"}, {5, "humidity"}}};
 
 /// A 1-Wire probe.
 struct ConfOneWire {
@@ -27,7 +32,7 @@ void Describe(R& r, Visit&& visit) {
   auto& [nombre, unidad, interfaz, id, address1, address2, alarm] = r;
   visit(FieldMeta{"NOMBRE", "name"}, nombre);
   visit(FieldMeta{"UNIDAD", "unit"}, unidad);
-  visit(FieldMeta{"INTERFAZ", "interface"}, interfaz);
+  visit(CodeMeta("INTERFAZ", "interface", kProbeInterfaceWords), interfaz);
   visit(FieldMeta{"ID", "addressed by identity"}, id);
   visit(TextMeta("ADDRESS1", "first half of the identity", 15), address1);
   visit(TextMeta("ADDRESS2", "second half of the identity", 15), address2);

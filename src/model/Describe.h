@@ -2,6 +2,8 @@
 
 #include <concepts>
 #include <cstdint>
+#include <limits>
+#include <span>
 #include <string_view>
 #include <type_traits>
 
@@ -17,11 +19,24 @@ enum class FieldSense {
   Enabled,    ///< whether an alarm or a timer is in force at all
   Action,     ///< number of an action; 0 or below for none
   Week,       ///< days of the week, bit 0 Monday to bit 6 Sunday
+  Month,      ///< days of the month, bit 0 the first to bit 30; bit 31 the last, whichever
   Condition,  ///< 0 the constant "TRUE", n flag F(n-1)
 };
 
 /// How the number of a list place stands in the key of a file: "ACTHI( 0 7)" or "TLFM 7".
 enum class PlaceForm { InBrackets, Bare };
+
+/// What a code of a field stands for, in words for people.
+struct CodeWords {
+  std::int32_t code;
+  std::string_view words;
+};
+
+/// Numbers that make sense for a field. A logger takes others; nobody means them.
+struct SensibleRange {
+  double least = -std::numeric_limits<double>::max();
+  double most = std::numeric_limits<double>::max();
+};
 
 /// What is known of a field besides its value.
 struct FieldMeta {
@@ -30,7 +45,22 @@ struct FieldMeta {
   FieldSense sense = FieldSense::Plain;
   int longest = 0;  ///< most characters that an operator may type; 0 for no limit
   PlaceForm placeForm = PlaceForm::InBrackets;
+  std::string_view unit = {};             ///< of a number: "s", "readings"; empty for none
+  SensibleRange range = {};               ///< of a number
+  std::span<const CodeWords> codes = {};  ///< of a number that stands for something, all of them
 };
+
+/// A number with the unit that it is in.
+constexpr FieldMeta NumberMeta(std::string_view word, std::string_view words, std::string_view unit,
+                               SensibleRange range, int longest = 0) {
+  return {.word = word, .words = words, .longest = longest, .unit = unit, .range = range};
+}
+
+/// A code, and what each of its values stands for.
+constexpr FieldMeta CodeMeta(std::string_view word, std::string_view words,
+                             std::span<const CodeWords> codes) {
+  return {.word = word, .words = words, .codes = codes};
+}
 
 /// A field, such as a number, for which an operator may type only so many characters.
 constexpr FieldMeta LimitedMeta(std::string_view word, std::string_view words, int longest) {

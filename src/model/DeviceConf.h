@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <string>
 
@@ -11,6 +12,7 @@
 #include "model/ConfMath.h"
 #include "model/ConfModbus.h"
 #include "model/ConfOneWire.h"
+#include "model/ConfTimers.h"
 #include "model/Describe.h"
 
 namespace ostrel {
@@ -38,8 +40,8 @@ void Describe(R& r, Visit&& visit) {
   auto& [dname, csm, renvt, renvn, ptlf, rest] = r;
   visit(TextMeta("NOMBRE", "name", 50), dname);
   visit(TextMeta("CSM", "SMS centre", kNumberLength), csm);
-  visit(LimitedMeta("RENVT", "minutes between resends", 3), renvt);
-  visit(LimitedMeta("RENVN", "resends", 3), renvn);
+  visit(NumberMeta("RENVT", "time between resends", "minutes", {0, 1440}, 3), renvt);
+  visit(NumberMeta("RENVN", "resends", "times", {0, 100}, 3), renvn);
   visit(TextMeta("PTLF", "own number", kNumberLength), ptlf);
   visit(TextMeta("RESTORE", "text of a restoration", 19), rest);
 }
@@ -82,6 +84,10 @@ void Describe(R& r, Visit&& visit) {
   DescribeAlarms(alarm, ConfDigital::kShape, visit);
 }
 
+/// What an analog input measures with. A model has some of these.
+inline constexpr std::array<CodeWords, 5> kAnalogInterfaceWords{
+    {{0, "off"}, {1, "4/20 mA"}, {2, "0-5 V"}, {3, "0-10 V"}, {7, "pressure"}}};
+
 /// An analog input.
 struct ConfAnalog {
   static constexpr AlarmShape kShape{.configs = 4, .hasFlag = true, .hasNormal = true};
@@ -101,12 +107,12 @@ void Describe(R& r, Visit&& visit) {
   auto& [nombre, unidad, interfaz, ie, fe, eqIe, eqFe, grupo, alarm] = r;
   visit(TextMeta("NOMBRE", "name", 19), nombre);
   visit(TextMeta("UNIDAD", "unit", 9), unidad);
-  visit(FieldMeta{"INTERFAZ", "interface"}, interfaz);
+  visit(CodeMeta("INTERFAZ", "interface", kAnalogInterfaceWords), interfaz);
   visit(FieldMeta{"IE", "start of scale"}, ie);
   visit(FieldMeta{"FE", "full scale"}, fe);
   visit(FieldMeta{"EqIE", "value at start of scale"}, eqIe);
   visit(FieldMeta{"EqFE", "value at full scale"}, eqFe);
-  visit(FieldMeta{"GRUPO", "group"}, grupo);
+  visit(NumberMeta("GRUPO", "group", {}, {0, 3}), grupo);
   DescribeAlarms(alarm, ConfAnalog::kShape, visit);
 }
 
@@ -122,9 +128,9 @@ struct ConfGrupo {
 template <Is<ConfGrupo> R, class Visit>
 void Describe(R& r, Visit&& visit) {
   auto& [salida, voltaje, period] = r;
-  visit(FieldMeta{"SALIDA", "output"}, salida);
-  visit(FieldMeta{"VOLTAJE", "voltage"}, voltaje);
-  visit(LimitedMeta("PERIOD", "period", 5), period);
+  visit(NumberMeta("SALIDA", "output", {}, {0, 3}), salida);
+  visit(NumberMeta("VOLTAJE", "voltage", "V", {0, 24}), voltaje);
+  visit(NumberMeta("PERIOD", "period", "hundredths of a second", {0, 60'000}, 5), period);
 }
 
 /// A flag of the logger, with the alarm that its change can raise.
@@ -149,6 +155,10 @@ struct DeviceConf {
   Bounded<ConfDigital, 10> Digital;
   Bounded<ConfAnalog, 5> Analog;
   Bounded<ConfGrupo, 5> Grupo;
+  Bounded<ConfCTimer, kTimers + 1> CTimer;
+  Bounded<ConfLTimer, kTimers + 1> LTimer;
+  Bounded<ConfWTimer, kTimers + 1> WTimer;
+  Bounded<ConfMTimer, kTimers + 1> MTimer;
   Bounded<ConfCaudal, 10> Caudal;
   std::int16_t SAMPLERATE = 0;  ///< of the flow meters, in hertz: 64 or 256
   Bounded<ConfFlag, 17> Flag;

@@ -53,6 +53,15 @@ void CopyField(const FieldView& from, const FieldRef& to) {
       to);
 }
 
+bool IsSameValue(const FieldView& a, const FieldView& b) {
+  return std::visit(
+      [&](const auto* value) {
+        const auto* const* other = std::get_if<decltype(value)>(&b);
+        return other != nullptr && **other == *value;
+      },
+      a);
+}
+
 FieldView ViewOf(const FieldRef& field) {
   return std::visit([](auto* typed) { return FieldView(typed); }, field);
 }

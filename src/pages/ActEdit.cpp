@@ -16,7 +16,10 @@ ActEdit::ActEdit(PageContext& context)
       OKButton(form_, "OKButton", "Aceptar"),
       CancelButton(form_, "CancelButton", "Cancelar") {
   AddButton.OnClick = [this] { Add(); };
-  DelButton.OnClick = [this] { DeviceList.Remove(DeviceList.Position()); };
+  DelButton.OnClick = [this] { RemoveChosen(); };
+  RefList.OnDoubleClick = [this] { Add(); };
+  DeviceList.OnDoubleClick = [this] { RemoveChosen(); };
+  DeviceList.isOrdered = true;
   OKButton.OnClick = [this] {
     StoreActionList();
     form_.Close();
@@ -24,8 +27,9 @@ ActEdit::ActEdit(PageContext& context)
   CancelButton.OnClick = [this] { form_.Close(); };
 }
 
-void ActEdit::ShowModal() {
+void ActEdit::ShowModal(std::string_view subject) {
   Form_Load();
+  if (!subject.empty()) form_.SetTitle(form_.Title() + ": " + std::string(subject));
   context_.ShowModal(form_);
 }
 

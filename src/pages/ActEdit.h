@@ -14,8 +14,9 @@ class ActEdit {
   explicit ActEdit(PageContext& context);
 
   Form& GetForm() { return form_; }
-  /// Loads the dialog from the buffer and shows it until it closes.
-  void ShowModal();
+  /// Loads the dialog from the buffer and shows it until it closes. Its title says whose list it
+  /// is.
+  void ShowModal(std::string_view subject = {});
 
  private:
   void Form_Load();
@@ -24,6 +25,7 @@ class ActEdit {
   /// Writes the lines of `DeviceList` into the buffer, the rest of it 0.
   void StoreActionList();
   void Add();
+  void RemoveChosen() { DeviceList.Remove(DeviceList.Position()); }
 
   PageContext& context_;
   Form form_{"ActEdit", "Editar acciones"};

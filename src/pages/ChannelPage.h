@@ -9,6 +9,7 @@
 #include "pages/Page.h"
 #include "pages/PageBlock.h"
 #include "pages/PageContext.h"
+#include "pages/parts/AlarmFields.h"
 #include "pages/parts/AlarmPanel.h"
 #include "pages/parts/ConfigChoice.h"
 
@@ -105,6 +106,8 @@ ChannelPage<Channel>::ChannelPage(PageContext& context)
       panel_(form_, {}, Record::kShape, kTraits.thresholds, Channel::kThresholds),
       help_(form_, "Help", ""),
       Timer1_(form_, "Timer1", context.platform.loop, std::chrono::seconds(1)) {
+  NoteAlarmFields<decltype(Record{}.ALARM[0].thresholds)>(form_, {}, Record::kShape,
+                                                          Channel::kThresholds);
   configs_.OnLeave = [this] { Commit(); };
   configs_.OnShow = [this] { LoadData(); };
   panel_.OnActions() = [this](ActionList AlarmBlock::*list) { EditActions(list); };
@@ -193,7 +196,17 @@ void ChannelPage<Channel>::Tick() {
 template <AlarmChannel Channel>
 void ChannelPage<Channel>::EditActions(ActionList AlarmBlock::*list) {
   if (context_.ComBusy) return;  // the list is being replaced
-  context_.EditActions(Current().ALARM[CurrentConfig()].common.*list);
+  Record& record = Current();
+  AlarmBlock& alarm = record.ALARM[CurrentConfig()].common;
+  std::string subject = form_.Title();
+  if constexpr (requires { record.NOMBRE; }) {
+    Record shown = record;
+    channel_.Save(shown);
+    if (!shown.NOMBRE.empty()) subject += " \"" + shown.NOMBRE + '"';
+  }
+  if (Record::kShape.configs > 1) subject += ", " + configs_.Caption();
+  context_.EditActions(alarm.*list, subject + ", " + panel_.CaptionOf(list));
+  panel_.ShowActionCounts(alarm);
 }
 
 }  // namespace ostrel

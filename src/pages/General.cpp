@@ -66,7 +66,6 @@ General::General(PageContext& context)
 
 void General::LoadText() {
   form_.TranslateCaptions([this](std::string_view key) { return context_.Translate(key); });
-  notice_.LoadText();
 }
 
 void General::Form_Load() {
@@ -143,6 +142,7 @@ void General::CSMCheck() {
 
 void General::ShowInfo(std::string_view key) {
   const DeviceInfo& info = context_.info;
+  const std::string records = " " + context_.Translate("Registros");
   if (key == "VERSION") FirmText.face.SetCaption(VersionText(info.FirmwareVersion));
   if (key == "SERIAL") SerialText.face.SetCaption(info.SerialNumber);
   if (key == "VBAT") VBatText.face.SetCaption(DecText(info.BatteryVoltage) + "V");
@@ -150,8 +150,8 @@ void General::ShowInfo(std::string_view key) {
     RSSIBar.SetValue(info.Rssi);
     LabelRSSI.face.SetCaption("(" + std::to_string(info.Rssi) + ")");
   }
-  if (key == "LOG.SIZE") MaxHText.face.SetCaption(DecText(info.LogSize) + " Registros");
-  if (key == "LOG.USE") UsedHText.face.SetCaption(DecText(info.LogUsed) + " Registros");
+  if (key == "LOG.SIZE") MaxHText.face.SetCaption(DecText(info.LogSize) + records);
+  if (key == "LOG.USE") UsedHText.face.SetCaption(DecText(info.LogUsed) + records);
 }
 
 }  // namespace ostrel

@@ -15,9 +15,9 @@ std::string PageContext::ConfReadKey(std::string_view section, std::string_view 
   return std::string(iniTool.ProfileRead(section, key, ConfFilePath));
 }
 
-void PageContext::EditActions(ActionList& actions) const {
+void PageContext::EditActions(ActionList& actions, std::string_view subject) const {
   CopyActions(actions, ActionBuffer);
-  showActEdit();
+  showActEdit(subject);
   CopyActions(ActionBuffer, actions);
 }
 
@@ -26,6 +26,13 @@ void PageContext::ShowHelp(std::string_view word) const {
 }
 
 void PageContext::ShowModal(Form& form) const { ostrel::ShowModal(platform.dialogs, form); }
+
+bool PageContext::Ask(std::string_view question) const {
+  return platform.dialogs.ShowMessage({.text = Translate(question),
+                                       .title = profile.TargetName,
+                                       .icon = BoxIcon::Question,
+                                       .buttons = BoxButtons::YesNo}) == BoxAnswer::Yes;
+}
 
 void PageContext::ShowMessage(std::string_view text, BoxIcon icon) const {
   platform.dialogs.ShowMessage(

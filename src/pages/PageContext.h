@@ -35,9 +35,10 @@ struct PageContext {
   const bool& Connected;
   const bool& ComBusy;
   const std::string& ConfFilePath;
-  bool timersRun = false;               ///< whether loaded pages tick each second
-  std::string programFolder;            ///< where the help pages stand, without a separator
-  std::function<void()> showActEdit{};  ///< shows the action editor on `ActionBuffer`, modal
+  bool timersRun = false;     ///< whether loaded pages tick each second
+  std::string programFolder;  ///< where the help pages stand, without a separator
+  /// Shows the action editor on `ActionBuffer`, modal. `subject` says whose list it is.
+  std::function<void(std::string_view subject)> showActEdit{};
   /// Lets the tree show anew which expansion inputs are in use. Null without a tree.
   std::function<void()> repaintTree{};
   // The tools that a page opens, each modal.
@@ -56,12 +57,14 @@ struct PageContext {
   std::string Translate(std::string_view text) const;
   /// Reads a key of the file at `ConfFilePath`; empty when it is absent.
   std::string ConfReadKey(std::string_view section, std::string_view key) const;
-  /// Lets the operator edit an action list.
-  void EditActions(ActionList& actions) const;
+  /// Lets the operator edit an action list. `subject` says whose it is.
+  void EditActions(ActionList& actions, std::string_view subject = {}) const;
   /// Opens the help page of a word.
   void ShowHelp(std::string_view word) const;
   /// Shows a form until its logic closes it or the operator dismisses it.
   void ShowModal(Form& form) const;
+  /// Asks a question of the table with Yes and No, titled with the model's name.
+  bool Ask(std::string_view question) const;
   /// Shows a box with an OK button, titled with the model's name.
   void ShowMessage(std::string_view text, BoxIcon icon) const;
 };

@@ -4,6 +4,7 @@
 #include <tuple>
 #include <utility>
 
+#include "blocks/GeneralParameters.h"
 #include "model/PhoneRow.h"
 
 namespace ostrel {
@@ -38,6 +39,7 @@ PhoneFrame::PhoneFrame(Form& form, PageContext& context)
   for (int prio = 1; prio <= kPriorities; ++prio)
     PrioBox.Add("Prio. " + std::to_string(prio), prio);
   for (const auto& [text, level] : kPrivileges) Privilegios.Add(text, level);
+  ListaTlf.face.SetField({.word = GeneralParameters::kPhoneMeta.word});
   CheckMask.OnClick = [this] { ApplyCheckMask(); };
   Anadir.OnClick = [this] { AddPhone(); };
   Borrar.OnClick = [this] { ListaTlf.Remove(ListaTlf.Position()); };
@@ -93,6 +95,12 @@ std::string PhoneFrame::EnteredRow(int& channels) const {
   return row;
 }
 
+int PhoneFrame::RowOf(std::string_view number) const {
+  for (int row = 0; row < static_cast<int>(ListaTlf.Rows().size()); ++row)
+    if (FieldOf(ListaTlf.RowText(row), 1) == number) return row;
+  return -1;
+}
+
 void PhoneFrame::AddPhone() {
   if (!NewTlf.Text().empty()) {
     if (!IsIntText(NewTlf.Text())) {
@@ -101,7 +109,10 @@ void PhoneFrame::AddPhone() {
       form_.SetFocus(NewTlf.face);
       return;
     }
-    if (ListaTlf.Rows().size() >= kMostRows) {
+    const int former = RowOf(NewTlf.Text());
+    const bool replaces =
+        former >= 0 && context_.Ask("El numero ya esta en la lista. Desea reemplazarlo?");
+    if (!replaces && ListaTlf.Rows().size() >= kMostRows) {
       context_.ShowMessage(context_.Translate("Lista llena"), BoxIcon::Information);
     } else {
       int channels = 0;
@@ -111,7 +122,10 @@ void PhoneFrame::AddPhone() {
                              BoxIcon::Exclamation);
         return;
       }
-      ListaTlf.Add(row);
+      if (replaces)
+        ListaTlf.Replace(former, row);
+      else
+        ListaTlf.Add(row);
     }
   }
   ResetEntry();
@@ -164,8 +178,7 @@ void PhoneFrame::LoadList() {
 }
 
 void PhoneFrame::SaveList(DeviceConf& conf) const {
-  for (int slot = 0; slot < kPhones; ++slot)
-    ReadPhoneRow(ListaTlf.RowText(slot), conf.Phone[slot]);
+  for (int slot = 0; slot < kPhones; ++slot) ReadPhoneRow(ListaTlf.RowText(slot), conf.Phone[slot]);
 }
 
 }  // namespace ostrel

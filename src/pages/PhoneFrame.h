@@ -21,7 +21,11 @@ class PhoneFrame {
 
  private:
   void ApplyCheckMask();
+  /// Adds the telephone of the entry controls, or replaces the one of the same number when the
+  /// operator agrees.
   void AddPhone();
+  /// The row of a number; -1 when it is not in the list.
+  int RowOf(std::string_view number) const;
   /// The row of the entry controls; `channels` counts the channels in its mask.
   std::string EnteredRow(int& channels) const;
   /// Empties the entry controls for the next number.

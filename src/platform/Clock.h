@@ -1,5 +1,7 @@
 #pragma once
 
+#include <chrono>
+
 #include "platform/DateTime.h"
 
 namespace ostrel {
@@ -8,8 +10,12 @@ namespace ostrel {
 class Clock {
  public:
   virtual ~Clock() = default;
+  /// Present local time since 1 January 1970 at midnight, without time zones.
+  virtual std::chrono::milliseconds LocalTime() const = 0;
   /// Present local date and time.
-  virtual DateTime LocalNow() const = 0;
+  DateTime LocalNow() const {
+    return FromSeconds(std::chrono::floor<std::chrono::seconds>(LocalTime()).count());
+  }
 };
 
 }  // namespace ostrel

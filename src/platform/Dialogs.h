@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 
@@ -44,8 +45,9 @@ class Dialogs {
   /// Asks for the access code of a logger; `prompt` is translated. Empty when the operator gives
   /// none.
   virtual std::string AskCode(const std::string& prompt) = 0;
-  /// Shows a form until its logic closes it or the operator dismisses it.
-  virtual void ShowModal(Modal& modal) = 0;
+  /// Shows a form until its logic closes it or the operator dismisses it. `shown`, if any, runs
+  /// once it is on the screen.
+  virtual void ShowModal(Modal& modal, const std::function<void()>& shown) = 0;
   virtual void Beep() = 0;
 };
 

@@ -16,7 +16,7 @@ class SilentDialogs final : public Dialogs {
   }
   std::optional<std::string> ChooseFile(const FileQuestion&) override { return {}; }
   std::string AskCode(const std::string&) override { return {}; }
-  void ShowModal(Modal&) override {}
+  void ShowModal(Modal&, const std::function<void()>&) override {}
   void Beep() override {}
 };
 

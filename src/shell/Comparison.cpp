@@ -70,16 +70,16 @@ Comparison CompareModels(const ModelConfiguration& before, const ModelConfigurat
   return comparison;
 }
 
-/// Two configurations of one model as a logger holds them.
+/// Two configurations of one model as they are sent.
 class SentSides {
  public:
   SentSides(const ModelConfiguration& before, const ModelConfiguration& after,
             std::int32_t features)
       : receiver_{before.profile, features},
-        before_(AsHeld(before.conf, receiver_)),
-        after_(AsHeld(after.conf, receiver_)),
-        fieldsBefore_(FieldsOf(std::as_const(before_), before.profile)),
-        fieldsAfter_(FieldsOf(std::as_const(after_), before.profile)),
+        before_(before.conf),
+        after_(after.conf),
+        fieldsBefore_(FieldsOf(before_, before.profile)),
+        fieldsAfter_(FieldsOf(after_, before.profile)),
         probeBefore_(before_, receiver_),
         probeAfter_(after_, receiver_) {}
 
@@ -94,7 +94,7 @@ class SentSides {
 
  private:
   Receiver receiver_;
-  DeviceConf before_, after_;
+  const DeviceConf &before_, &after_;
   std::vector<ConstField> fieldsBefore_, fieldsAfter_;
   SentProbe probeBefore_, probeAfter_;
 };

@@ -16,6 +16,10 @@
 #include "pages/inputs/Grupos.h"
 #include "pages/inputs/Katodex.h"
 #include "pages/inputs/SampleRate.h"
+#include "pages/timers/CTimer.h"
+#include "pages/timers/LTimer.h"
+#include "pages/timers/MTimer.h"
+#include "pages/timers/WTimer.h"
 #include "platform/Dialogs.h"
 #include "platform/EventLoop.h"
 #include "platform/Files.h"
@@ -38,6 +42,10 @@ std::vector<std::unique_ptr<Page>> MakePages(PageContext& context) {
   pages.push_back(std::make_unique<CONF_MODBUS>(context));
   pages.push_back(std::make_unique<E_MODBUS>(context));
   pages.push_back(std::make_unique<E_Modular>(context));
+  pages.push_back(std::make_unique<CTimer>(context));
+  pages.push_back(std::make_unique<LTimer>(context));
+  pages.push_back(std::make_unique<WTimer>(context));
+  pages.push_back(std::make_unique<MTimer>(context));
   pages.push_back(std::make_unique<E_Aux>(context));
   pages.push_back(std::make_unique<Katodex>(context));
   return pages;
@@ -101,7 +109,7 @@ void Configurator::ConnectPages() {
       dialog.ShowModal();
     };
   };
-  context.showActEdit = [this] { actEdit.ShowModal(); };
+  context.showActEdit = [this](std::string_view subject) { actEdit.ShowModal(subject); };
   context.showTotal = setsTotal(setTotal);
   context.showExpansionTotal = setsTotal(expSetTotal);
   context.showPulseCalculator = [this](TextBox& field) { ayuda.ShowModal(field); };

@@ -82,6 +82,8 @@ class Configurator {
   /// The tool bar's "Guardar": asks for a path. Nothing when the operator cancels, or declines to
   /// lose what only the file holds; else what writing came to, for those who show it.
   std::optional<FileResult> AskAndSave();
+  /// Saves to a path that is known, with the same question about what would be lost.
+  std::optional<FileResult> SaveTo(const std::string& path);
   /// Asks whether a file may be saved over that holds what this program does not write. True when
   /// nothing of it would be lost. Set by a face; without one nobody is asked.
   std::function<bool(const std::string& path, const std::vector<std::string>& lost)> OnForeignKeys;

@@ -96,16 +96,20 @@ std::optional<FileResult> Configurator::AskAndSave() {
                                                   .overwritePrompt = true,
                                                   .suggested = ConfFilePath});
   if (!path) return {};
+  return SaveTo(*path);
+}
+
+std::optional<FileResult> Configurator::SaveTo(const std::string& path) {
   if (OnForeignKeys) {
-    const auto lost = ForeignKeys(platform_.files, *path, profile);
-    if (!lost.empty() && !OnForeignKeys(*path, lost)) return {};
+    const auto lost = ForeignKeys(platform_.files, path, profile);
+    if (!lost.empty() && !OnForeignKeys(path, lost)) return {};
   }
   Replacing replacing = Replacing::Unprotected;
-  if (const FileResult may = platform_.files.MayReplace(*path); !may.Ok() && OnProtected) {
-    if (!OnProtected(*path, may.error)) return {};
+  if (const FileResult may = platform_.files.MayReplace(path); !may.Ok() && OnProtected) {
+    if (!OnProtected(path, may.error)) return {};
     replacing = Replacing::Any;
   }
-  ConfFilePath = *path;
+  ConfFilePath = path;
   return ConfFilePath.empty() ? FileResult{} : SaveConf(replacing);
 }
 

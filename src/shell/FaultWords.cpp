@@ -91,6 +91,8 @@ FaultWords LinkWords(const SessionFault& fault, const std::string& port) {
                       "a text with a control character cannot be sent",
                       "statement %1 holds a control character and cannot be sent"),
               {"type that text anew"}};
+    case Kind::PeriodTooLong:
+      return {{"the period of long timer %1 is above 24855 days", {number}}, {"shorten it"}};
     case Kind::LineHeld:
       return {{"the line at %1 was held", {port}},
               {"check that the logger is switched on and that the cable has RTS and CTS"}};
@@ -108,6 +110,8 @@ FaultWords LinkWords(const SessionFault& fault, const std::string& port) {
 }
 
 Phrase Outcome(const SessionFault& fault) {
+  if (fault.unverified)
+    return {"the logger has taken the new configuration over, which is not verified"};
   switch (fault.during) {
     case SessionPhase::Writing:
       if (fault.allSent)
@@ -134,21 +138,6 @@ FaultWords WordsOf(const SessionFault& fault, std::string_view port) {
   if (fault.during == SessionPhase::Reading)
     words.pages = {"the pages show again what was there before the reading"};
   return words;
-}
-
-std::string Filled(std::string_view text, const std::vector<std::string>& arguments) {
-  std::string filled;
-  for (std::size_t i = 0; i < text.size(); ++i) {
-    const char next = i + 1 < text.size() ? text[i + 1] : '\0';
-    const auto place = static_cast<std::size_t>(next - '1');
-    if (text[i] == '%' && next >= '1' && place < arguments.size()) {
-      filled += arguments[place];
-      ++i;
-    } else {
-      filled += text[i];
-    }
-  }
-  return filled;
 }
 
 }  // namespace ostrel

@@ -1,5 +1,6 @@
 #include "shell/FieldWords.h"
 
+#include <algorithm>
 #include <array>
 
 #include "base/Printable.h"
@@ -13,6 +14,17 @@ std::string DayNames(std::uint8_t week) {
   for (std::size_t day = 0; day < names.size(); ++day)
     if ((week >> day & 1U) != 0) days += (days.empty() ? "" : " ") + std::string(names[day]);
   return days.empty() ? "no day" : days;
+}
+
+std::string MonthDayNames(double month) {
+  const std::string days = Dec2Bin(month);
+  std::string names;
+  for (std::size_t day = 0; day < days.size(); ++day) {
+    if (days[day] != '1') continue;
+    names += (names.empty() ? "" : " ") +
+             (day + 1 == days.size() ? std::string("last") : std::to_string(day + 1));
+  }
+  return names.empty() ? "no day" : names;
 }
 
 }  // namespace
@@ -37,9 +49,20 @@ std::string ReadableValue(const FieldView& value, const FieldMeta& meta, bool is
   if (std::holds_alternative<const std::string*>(value)) return '"' + text + '"';
   if (const auto* flag = std::get_if<const Bool16*>(&value)) return bool(**flag) ? "yes" : "no";
   if (std::holds_alternative<const ConfPhone*>(value)) return text.empty() ? "free" : text;
+  if (const CodeWords* code = CodeOf(value, meta)) return std::string(code->words);
   const auto* week = std::get_if<const std::uint8_t*>(&value);
   if (week && meta.sense == FieldSense::Week) return DayNames(**week);
-  return text.starts_with(' ') ? text.substr(1) : text;
+  const auto* month = std::get_if<const double*>(&value);
+  if (month && meta.sense == FieldSense::Month) return MonthDayNames(**month);
+  const std::string number = text.starts_with(' ') ? text.substr(1) : text;
+  return meta.unit.empty() ? number : number + " " + std::string(meta.unit);
+}
+
+const CodeWords* CodeOf(const FieldView& value, const FieldMeta& meta) {
+  const auto* number = std::get_if<const std::int16_t*>(&value);
+  if (!number) return nullptr;
+  const auto found = std::ranges::find(meta.codes, **number, &CodeWords::code);
+  return found == meta.codes.end() ? nullptr : &*found;
 }
 
 }  // namespace ostrel

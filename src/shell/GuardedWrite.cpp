@@ -5,11 +5,22 @@
 namespace ostrel {
 namespace {
 
-Comparison CompareHeld(const Configurator& configurator, const DeviceConf& before,
-                       const DeviceConf& after) {
-  return Compare({configurator.profile, before}, {configurator.profile, after},
-                 configurator.info.Features);
-}
+/// What was sent, or is to be, against what the logger has reported.
+class Against {
+ public:
+  Against(const Configurator& configurator, const DeviceConf& sent, const DeviceConf& read)
+      : features_(configurator.info.Features),
+        sent_{configurator.profile, sent},
+        read_{configurator.profile,
+              ReadAsSent(read, sent, {configurator.profile, configurator.info.Features})} {}
+
+  Comparison WhatChanges() const { return Compare(read_, sent_, features_); }
+  Comparison WhatCameBack() const { return Compare(sent_, read_, features_); }
+
+ private:
+  std::int32_t features_;
+  ModelConfiguration sent_, read_;
+};
 
 /// Reads what the logger holds, and gets the consent to replace it. Nothing when all is well.
 std::optional<WriteEnd> Prepare(Configurator& configurator, const WriteRoad& road,
@@ -19,7 +30,7 @@ std::optional<WriteEnd> Prepare(Configurator& configurator, const WriteRoad& roa
   const DeviceConf held = configurator.conf;
   configurator.ShowConfiguration(toSend);
   if (road.keep && !road.keep(held)) return WriteEnd::NotKept;
-  if (road.mayWrite && !road.mayWrite(CompareHeld(configurator, held, toSend)))
+  if (road.mayWrite && !road.mayWrite(Against(configurator, toSend, held).WhatChanges()))
     return WriteEnd::Declined;
   return {};
 }
@@ -29,7 +40,7 @@ WriteEnd Send(Configurator& configurator, const WriteRoad& road, WriteResult& re
   if (!road.write()) return WriteEnd::NotWritten;
   if (!road.verify) return WriteEnd::Written;
   if (!road.read()) return WriteEnd::NotReadBack;
-  result.verified = CompareHeld(configurator, result.sent, configurator.conf);
+  result.verified = Against(configurator, result.sent, configurator.conf).WhatCameBack();
   return WriteEnd::Written;
 }
 

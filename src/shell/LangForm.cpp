@@ -22,7 +22,10 @@ bool LangForm::AskUser() {
   accepted_ = false;
   ComboLang.Clear();
   for (const std::string& name : context_.lang.OfferedNames()) ComboLang.Add(name);
-  ComboLang.SetPosition(0);
+  // Columns count from 1; before the first choice none is in use.
+  const int inUse = context_.lang.SelectedLang() - 1;
+  const int offered = static_cast<int>(ComboLang.Rows().size());
+  ComboLang.SetPosition(inUse >= 0 && inUse < offered ? inUse : 0);
   context_.ShowModal(form_);
   return accepted_;
 }

@@ -37,6 +37,13 @@ struct NodeTarget {
 std::optional<NodeTarget> FindNodeTarget(std::string_view key, const TargetProfile& model,
                                          bool universal);
 
+/// Key of the node under which a page shows a record; empty when none does. `channel` is -1 for
+/// what a logger has only once.
+std::string NodeOf(PageId page, int channel);
+
+/// The page that shows the channels of a group; nothing for a node that is no such group.
+std::optional<PageId> PageOfGroup(std::string_view key);
+
 /// The pages that stay open once they have been opened: those of single MODBUS channels, of
 /// expansion inputs and of one test. The page shown next covers them.
 inline constexpr std::array<FormId, 3> kPagesThatStayOpen{PageId::E_MODBUS, PageId::E_Modular,

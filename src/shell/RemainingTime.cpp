@@ -11,7 +11,7 @@ constexpr Duration kSettling = std::chrono::seconds(1);  // before this no speed
 
 void RemainingTime::Start(TimePoint now, int steps) {
   start_ = lastStep_ = now;
-  steps_ = std::max(steps, 1);
+  steps_ = expected_ = std::max(steps, 1);
   done_ = 0;
 }
 
@@ -24,7 +24,7 @@ void RemainingTime::Step(TimePoint now, int done) {
 
 std::optional<Duration> RemainingTime::Left(TimePoint now) const {
   const Duration worked = lastStep_ - start_;
-  if (done_ <= 0 || worked < kSettling) return {};
+  if (done_ <= 0 || worked < kSettling || IsOverrun()) return {};
   // The speed is that of the steps done; waiting for the next one is taken off what is left.
   const Duration left = worked * (steps_ - done_) / done_ - (now - lastStep_);
   return std::max(left, Duration::zero());

@@ -18,11 +18,14 @@ class RemainingTime {
   std::optional<Duration> Left(TimePoint now) const;
   int Steps() const { return steps_; }
   int Done() const { return done_; }
+  /// Whether more steps have come than were expected: how many there will be is not known then.
+  bool IsOverrun() const { return done_ > expected_; }
 
  private:
   TimePoint start_{};
   TimePoint lastStep_{};
-  int steps_ = 1;
+  int expected_ = 1;
+  int steps_ = 1;  ///< those expected, or done where these are more
   int done_ = 0;
 };
 

@@ -9,7 +9,7 @@ namespace ostrel {
 SentProbe::SentProbe(const DeviceConf& conf, const Receiver& receiver)
     : receiver_(receiver), conf_(conf), fields_(FieldsOf(conf_, receiver.profile)) {}
 
-bool SentProbe::Changes(std::size_t index, const FieldView& value) {
+const std::vector<std::string>& SentProbe::StatementsOf(std::size_t index) {
   const Field& field = fields_[index];
   if (!hasKept_ || keptPage_ != field.page || keptChannel_ != field.id.channel) {
     kept_ = StatementsFor(field);
@@ -17,12 +17,18 @@ bool SentProbe::Changes(std::size_t index, const FieldView& value) {
     keptChannel_ = field.id.channel;
     hasKept_ = true;
   }
+  return kept_;
+}
+
+bool SentProbe::Changes(std::size_t index, const FieldView& value) {
+  const Field& field = fields_[index];
+  const std::vector<std::string>& present = StatementsOf(index);
   // The one field is changed and put back.
   return std::visit(
       [&](auto* tried) {
         const auto former = *tried;
         CopyField(value, tried);
-        const bool changes = StatementsFor(field) != kept_;
+        const bool changes = StatementsFor(field) != present;
         *tried = former;
         return changes;
       },

@@ -18,6 +18,8 @@ class SentProbe {
 
   /// Whether the statements change when field `index`, in file order, takes another value.
   bool Changes(std::size_t index, const FieldView& value);
+  /// The statements that can carry field `index`, as it is.
+  const std::vector<std::string>& StatementsOf(std::size_t index);
 
  private:
   std::vector<std::string> StatementsFor(const Field& field) const;

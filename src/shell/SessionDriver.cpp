@@ -61,10 +61,17 @@ void SessionDriver::Tick() {
   const Lent ticking(ticking_, true);
   if (session_.IniRequest && !Connected_) comms_.LinkBusy = false;
   if (!comms_.LinkBusy && session_.IniRequest) OpenOrClose();
-  if (!Connected_ || !general_.PageActive) return;
+  if (!Serves()) return;
   Serve(session_.WriteRequest, ServeWrite, &SessionDriver::Upload);
   Serve(session_.ReadRequest, ServeRead, &SessionDriver::Download);
-  if (Connected_) comms_.ReadInfo();
+  if (Connected_ && general_.PageActive) comms_.ReadInfo();
+}
+
+void SessionDriver::AskFor(SessionPhase kind) {
+  if (!Connected_) return;
+  fromAnyPage_ = true;
+  (kind == SessionPhase::Writing ? session_.Escribir : session_.Leer).Click();
+  fromAnyPage_ = HasRequest();  // a button that rests takes no click
 }
 
 void SessionDriver::Serve(bool& request, const std::function<void()>& byFace,
@@ -72,6 +79,7 @@ void SessionDriver::Serve(bool& request, const std::function<void()>& byFace,
   if (!request || !Connected_) return;
   const AtEnd served([&] {
     request = false;
+    fromAnyPage_ = fromAnyPage_ && HasRequest();
     general_.GetForm().SetMousePointer(Pointer::Default);
     SetState(state_);
   });
@@ -107,6 +115,7 @@ bool SessionDriver::Open(std::int16_t port, const std::string& phone) {
       Connected_ = comms_.PortOpen();  // whoever breaks the opening off closes the port
       ShowState();
     });
+    unverified_ = false;
     greeting_.clear();
     fitting_.clear();
     Connected_ = comms_.StartComs(port, phone);
@@ -122,7 +131,7 @@ bool SessionDriver::Open(std::int16_t port, const std::string& phone) {
 
 void SessionDriver::BreakOff() {
   brokenOff_ = true;
-  session_.ReadRequest = session_.WriteRequest = false;
+  session_.ReadRequest = session_.WriteRequest = fromAnyPage_ = false;
   general_.GetForm().SetMousePointer(Pointer::Default);
   comms_.Abort();
   if (state_.phase != SessionPhase::Open) return;  // what is under way ends by itself now
@@ -168,19 +177,24 @@ void SessionDriver::CompareClocks() {
 
 void SessionDriver::ShowState() {
   const std::string_view caption = Connected_ ? "Cerrar comunicacion" : "Iniciar comunicacion";
-  SetStatus(Connected_ ? "Comunicacion iniciada" : "Comunicacion no iniciada");
+  SetStatus(Connected_ ? kStands : "Comunicacion no iniciada");
   session_.IniCom.face.SetCaption(caption, context_.Translate(caption));
   session_.EnableTransfers(Connected_);
+  fromAnyPage_ = fromAnyPage_ && Connected_;
+}
+
+void SessionDriver::ForgetSuccess() {
+  const std::string& shown = session_.ComStat.face.Key();
+  if (state_.phase == SessionPhase::Open && (shown == kWritten || shown == kRead))
+    SetStatus(kStands);
 }
 
 bool SessionDriver::Upload() {
-  return Transfer(SessionPhase::Writing, "Escribiendo configuracion...",
-                  "Configuracion escrita con exito");
+  return Transfer(SessionPhase::Writing, "Escribiendo configuracion...", kWritten);
 }
 
 bool SessionDriver::Download() {
-  return Transfer(SessionPhase::Reading, "Descargando configuracion...",
-                  "Configuracion descargada con exito");
+  return Transfer(SessionPhase::Reading, "Descargando configuracion...", kRead);
 }
 
 bool SessionDriver::Transfer(SessionPhase kind, std::string_view status, std::string_view success) {
@@ -209,6 +223,7 @@ bool SessionDriver::Transfer(SessionPhase kind, std::string_view status, std::st
     const bool reads = kind == SessionPhase::Reading;
     end.done = reads ? ReadOrPutBack() : comms_.WriteConf();
     end.held = reads ? context_.conf : std::move(sent_);
+    if (end.done) unverified_ = !reads;
     working.Ended(end.done);
   }
   if (OnTransferEnded) OnTransferEnded(end);
@@ -256,7 +271,7 @@ void SessionDriver::BeginWatch(SessionPhase kind) {
 }
 
 bool SessionDriver::OwnsModel() const {
-  return IsTransfer(state_.phase) || (HasRequest() && Connected_ && general_.PageActive);
+  return IsTransfer(state_.phase) || (HasRequest() && Serves());
 }
 
 bool SessionDriver::RequestWaits() const { return HasRequest() && !OwnsModel(); }
@@ -266,6 +281,7 @@ SessionFault SessionDriver::FaultDuring(SessionPhase phase) const {
           .link = comms_.Fault(),
           .brokenOff = brokenOff_,
           .allSent = phase == SessionPhase::Writing && watch_.ReachedEnd(),
+          .unverified = unverified_ && phase != SessionPhase::Writing,
           .code = phase == SessionPhase::Opening ? code_ : CodeAnswer::NotAsked};
 }
 

@@ -11,6 +11,7 @@
 #include "pages/General.h"
 #include "pages/PageContext.h"
 #include "shell/FaultWords.h"
+#include "shell/LinkLife.h"
 #include "shell/SessionState.h"
 #include "shell/TransferWatch.h"
 
@@ -51,6 +52,9 @@ class SessionDriver {
   bool Download();
   /// Uploads the configuration, likewise.
   bool Upload();
+  /// Asks for a transfer from wherever the operator is: a click on its button, which the next tick
+  /// serves even when the general page is not in front.
+  void AskFor(SessionPhase kind);
 
   const SessionState& State() const { return state_; }
   /// Number of the port that a session was last asked on; 0 before.
@@ -63,6 +67,8 @@ class SessionDriver {
   bool RequestWaits() const;
   /// What the last dialogue failed of, in the words of a session in a phase.
   SessionFault FaultDuring(SessionPhase phase) const;
+  /// How the line of the session does.
+  LinkLife Life() const { return LifeOf(comms_, Connected_, state_.phase); }
   /// What speaks against the model chosen: what the logger that answers has told of its own.
   std::optional<Phrase> ModelDoubt() const;
   /// Whether the last download failed.
@@ -71,7 +77,9 @@ class SessionDriver {
   TransferWatch& Watch() { return watch_; }
 
   /// Tells that a configuration is written, after it has been read back.
-  void ShowWritten() { SetStatus("Configuracion escrita con exito"); }
+  void ShowWritten() { SetStatus(kWritten); }
+  /// What the logger holds is not on the pages any more: the words of the last success go.
+  void ForgetSuccess();
 
   // What the link tells.
   /// An attempt of an upload has taken its state from the model.
@@ -92,6 +100,10 @@ class SessionDriver {
   std::function<void(const TransferEnd&)> OnTransferEnded;
 
  private:
+  static constexpr std::string_view kWritten = "Configuracion escrita con exito";
+  static constexpr std::string_view kRead = "Configuracion descargada con exito";
+  static constexpr std::string_view kStands = "Comunicacion iniciada";
+
   /// Holds a phase to the end of a scope, then sets what the work in it has come to.
   class Working;
 
@@ -107,6 +119,8 @@ class SessionDriver {
   void SetStatus(std::string_view key);
   void SetState(SessionState state);
   bool HasRequest() const { return session_.ReadRequest || session_.WriteRequest; }
+  /// Whether requests are served: the general page is in front, or need not be.
+  bool Serves() const { return Connected_ && (general_.PageActive || fromAnyPage_); }
 
   PageContext& context_;
   Comms& comms_;
@@ -119,6 +133,8 @@ class SessionDriver {
   SessionState state_;
   std::int16_t port_ = 0;
   bool ticking_ = false;
+  bool fromAnyPage_ = false;  ///< the request that waits needs no general page
+  bool unverified_ = false;   ///< the logger has taken over what was not read back since
   bool brokenOff_ = false;
   CodeAnswer code_ = CodeAnswer::NotAsked;
   bool lastReadFailed_ = false;

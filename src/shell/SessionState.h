@@ -22,8 +22,9 @@ struct SessionFault {
   /// Opening, Reading or Writing; Open for any shorter dialogue.
   SessionPhase during = SessionPhase::Open;
   LinkFault link{};
-  bool brokenOff = false;  ///< by the operator
-  bool allSent = false;    ///< an upload had nothing left to send but its end
+  bool brokenOff = false;   ///< by the operator
+  bool allSent = false;     ///< an upload had nothing left to send but its end
+  bool unverified = false;  ///< an earlier upload of the session was taken over, not yet read back
   CodeAnswer code = CodeAnswer::NotAsked;
 };
 

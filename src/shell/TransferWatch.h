@@ -30,6 +30,8 @@ class TransferWatch {
   bool Running() const { return running_; }
   int Done() const { return time_.Done(); }
   int Steps() const { return time_.Steps(); }
+  /// Whether it is known how many steps there will be.
+  bool KnowsSteps() const { return !time_.IsOverrun(); }
   /// Whether any attempt of the transfer has come to its last step.
   bool ReachedEnd() const { return reachedEnd_; }
   /// The time that is left, or nothing as long as no speed is known.

@@ -20,7 +20,14 @@ class UnsavedMark {
   /// A state is safe in a file or in a logger.
   void Keep(const DeviceConf& safe);
   /// The configuration, the page in front or the model may have changed since the last look.
-  void Touch() { touched_ = true; }
+  void Touch() {
+    touched_ = true;
+    ++touches_;
+  }
+  /// Grows with each touch, for those who look only when something may have changed.
+  unsigned Touches() const { return touches_; }
+  /// The state that was last saved, sent or read.
+  const DeviceConf& Kept() const { return kept_; }
   /// Whether anything is neither saved nor sent. Looks only when something may have changed, and
   /// not while a download replaces the model.
   bool Changed();
@@ -36,6 +43,7 @@ class UnsavedMark {
   DeviceConf kept_;
   bool touched_ = true;
   bool changed_ = false;
+  unsigned touches_ = 0;
 };
 
 }  // namespace ostrel

@@ -56,13 +56,14 @@ void Ayuda::Calculate() {
   if (!CheckNumberBox(TextTimeBase, "int")) return;
   if (!CheckNumberBox(TextPulsos, "float")) return;
   const auto timeBase = RoundToEven<std::int16_t>(NumVal(TextTimeBase.Text()));
+  if (!timeBase || *timeBase == 0) return TextTimeBase.face.SetColour(BackColour::Red);
+  const auto amount = ToFloat(NumVal(TextPulsos.Text()));
   const auto result =
-      timeBase ? PulseRatio(static_cast<float>(NumVal(TextPulsos.Text())),
-                            kPulseUnits[static_cast<std::size_t>(ComboPulso.Position())], *timeBase,
-                            kFlowUnits[static_cast<std::size_t>(ComboEq.Position())])
-               : std::nullopt;
-  // A time base of 0, or too long a one, gives nothing.
-  if (!result) return TextTimeBase.face.SetColour(BackColour::Red);
+      amount ? PulseRatio(*amount, kPulseUnits[static_cast<std::size_t>(ComboPulso.Position())],
+                          *timeBase, kFlowUnits[static_cast<std::size_t>(ComboEq.Position())])
+             : std::nullopt;
+  // More than a number holds.
+  if (!result) return TextPulsos.face.SetColour(BackColour::Red);
   result_ = *result;
   TextEqUn.SetText(NumText(result_));
   UseButton.face.SetEnabled(field_ && field_->face.Enabled());

@@ -38,14 +38,20 @@ void SetTotal::SetState(std::string_view text) {
 
 void SetTotal::ShowModal() {
   Form_Load();
-  ostrel::ShowModal(context_.dialogs, form_);
+  ostrel::ShowModal(context_.dialogs, form_, [this] { Refresh(); });
 }
 
 void SetTotal::Form_Load() {
   form_.TranslateCaptions(context_.Translate);
-  if (!context_.Connected) return SetState("Sin comunicacion");
-  SetState("Actualizando...");
+  SetState(context_.Connected ? "Actualizando..." : "Sin comunicacion");
+}
+
+/// The dialog stands while the logger is asked: nothing behind it can begin another dialogue.
+void SetTotal::Refresh() {
+  if (!context_.Connected) return;
+  OKButton.face.SetEnabled(false);
   context_.comms.ReadTotalCount();
+  OKButton.face.SetEnabled(true);
   ShowPresent();
   SetState("Preparado");
 }
@@ -57,6 +63,12 @@ void SetTotal::Update() {
   };
   if (!IsIntText(TextNew.Text())) return refuse("Escriba un valor numerico valido");
   if (!context_.Connected) return refuse("No hay comunicacion con el dispositivo");
+  OKButton.face.SetEnabled(false);
+  Write();
+  OKButton.face.SetEnabled(true);
+}
+
+void SetTotal::Write() {
   SetState("Escribiendo...");
   // A number beyond 32 bits is not sent.
   const auto value = RoundToEven<std::int32_t>(NumVal(TextNew.Text()));

@@ -27,12 +27,14 @@ class SetTotal {
   Form& GetForm() { return form_; }
   /// Chooses the counter, and shows its total as it was read last where there is one.
   void SetIndex(std::int16_t index);
-  /// Refreshes the totals of a session and shows the dialog until it closes.
+  /// Shows the dialog until it closes, and in a session refreshes the totals in it.
   void ShowModal();
 
  private:
   void Form_Load();
+  void Refresh();
   void Update();
+  void Write();
   void ShowPresent();
   void SetState(std::string_view text);
 

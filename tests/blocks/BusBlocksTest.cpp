@@ -115,14 +115,37 @@ TEST_F(BusBlocks, ChannelStatements) {
   }
 }
 
-TEST_F(BusBlocks, ALoggerHoldsADigitalChannelWithoutAMultiplier) {
-  const auto held = [&](std::int32_t features) {
-    return AsHeld(conf, {profile, features}).Modbus[0].MULT;
+TEST_F(BusBlocks, AReadingTakesTheFormOfWhatWasSent) {
+  ConfModbus& sent = conf.Modbus[6];
+  sent.NOMBRE = "Bomba";
+  sent.MULT = 5;
+  sent.MASCARA = 4;
+  DeviceConf read = conf;
+  read.Modbus[6].MULT = 0;
+  const auto taken = [&](std::int32_t features) {
+    return ReadAsSent(read, conf, {profile, features}).Modbus[6];
   };
-  EXPECT_EQ(held(kConstants), 0) << "fresh channels are digital ones with a multiplier of 1";
-  EXPECT_EQ(held(0), 1) << "without the constant it is sent all the same";
-  conf.Modbus[0].ANALOG_MODE = kTrue;
-  EXPECT_EQ(held(kConstants), 1);
+  EXPECT_EQ(taken(kConstants), sent) << "a digital channel is reported without a multiplier";
+  EXPECT_EQ(taken(0).MULT, 0) << "without the constant it is sent all the same";
+  sent.ANALOG_MODE = kTrue;
+  EXPECT_EQ(taken(kConstants).MULT, 0);
+  read.Modbus[6].MASCARA = 0;
+  read.Modbus[6].NOMBRE = "Pozo";
+  EXPECT_EQ(taken(kConstants).MASCARA, 0);
+  EXPECT_EQ(taken(0).MASCARA, 4) << "a mask that the firmware does not know";
+  EXPECT_EQ(taken(kConstants).NOMBRE, "Pozo");
+}
+
+TEST_F(BusBlocks, ARangeThatCoversAllIsReadAsAlways) {
+  ValidityRange& sent = conf.Modbus[2].ALARM[0].common.valid;
+  DeviceConf read = conf;
+  read.Modbus[2].ALARM[0].common.valid.SIEMPRE = kTrue;
+  for (const auto& [stop, days, same] :
+       {std::tuple{86'399, 127, true}, {86'399, 126, false}, {86'398, 127, false}}) {
+    sent = {kFalse, {}, {stop}, static_cast<std::uint8_t>(days)};
+    const DeviceConf taken = ReadAsSent(read, conf, {profile, 0});
+    EXPECT_EQ(!taken.Modbus[2].ALARM[0].common.valid.SIEMPRE, same) << stop << ' ' << days;
+  }
 }
 
 TEST_F(BusBlocks, EmptyingResetsFourChannelsInPart) {

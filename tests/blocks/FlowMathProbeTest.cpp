@@ -136,14 +136,24 @@ TEST_F(ProbeBlock, LinesStatementsAndFile) {
   EXPECT_FALSE(conf.OneWire[1].ID);
   Receive("ONEWIRE,0,Sonda,C,1,0,0,0,0,0,0,0,0");
   EXPECT_TRUE(conf.OneWire[0].ID) << "three digits an octet tell of no identity";
-  Receive("ONEWIRE,1,Sonda,C,2,040,113,000,000,000,000,000,011");
-  EXPECT_TRUE(conf.OneWire[1].ID);
+  for (const char* halves : {"040,113,000,000,000,000,000,000", "000,000,000,000,000,000,000,011",
+                             "040,113,000,000,000,000,000,011"}) {
+    conf.OneWire[1].ID = Bool16(false);
+    Receive(std::string("ONEWIRE,1,Sonda,C,2,") + halves);
+    EXPECT_TRUE(conf.OneWire[1].ID) << halves;
+  }
   Receive("ONEWIRE.ALM,1,0,Helada,1,2,3,0,86400,127,1,9,4");
   Receive("ONEWIRE.ACT,1,0,1,2,3");
   EXPECT_EQ(Statements(PageId::E_OneWire)[5],
             "ONEWCONF1=Sonda,UNIT=C,ONEWADD=040.113.000.000.000.000.000.011,1WHUM");
   EXPECT_EQ(Statements(PageId::E_OneWire)[6],
             "+ALMOW1=Helada,INDEX= 0,MAX= 2,MIN= 1,HIST= 3,P= 4,EQ= 9,ACTHI= 1,ACTLO= 3,ACTNOM= 2");
+  DeviceConf sent = conf;
+  sent.OneWire[1].ADDRESS1 = "40.113.0.0";
+  sent.OneWire[1].ADDRESS2 = "0.0.0.12";
+  const DeviceConf read = ReadAsSent(conf, sent, {profile, 0});
+  EXPECT_EQ(read.OneWire[1].ADDRESS1, "40.113.0.0") << "the same octets";
+  EXPECT_EQ(read.OneWire[1].ADDRESS2, "000.000.000.011") << "others";
   FindBlock(PageId::E_OneWire)->clear(conf, profile, translate);
   EXPECT_TRUE(conf.OneWire[1].ID) << "kept";
   EXPECT_TRUE(FileText(PageId::E_OneWire)

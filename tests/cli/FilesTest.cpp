@@ -34,7 +34,8 @@ TEST(Show, TellsOnlyWhatIsSetUnlessToldAll) {
       "[General]\r\nVERSION=VR200\r\nNOMBRE=Dep\xF3sito\r\nRENVT= 10\r\nRENVN= 3\r\n"
       "TLFM 1=600100200,Prio=2,PRV1,MASKMODE1,DI3,FG0\r\n"
       "[DIGITAL 2]\r\nHABIL( 1)=True\r\nSIEMPRE( 1)=True\r\nSEMANA( 1)= 31\r\n"
-      "TEXTO( 1)=Puerta\x1B[31m\r\nACTHI( 1 0)= 5\r\nACTHI( 1 3)= 12";
+      "TEXTO( 1)=Puerta\x1B[31m\r\nACTHI( 1 0)= 5\r\nACTHI( 1 3)= 12\r\nREARM( 1)= 7\r\n"
+      "[ANALOG 1]\r\nINTERFAZ= 3";
   EXPECT_EQ(world.Run("show /a.ocf"), 0);
   EXPECT_THAT(world.out, HasSubstr("Ostrel VR200\n"));
   EXPECT_THAT(world.out, HasSubstr("GENERAL (general)\n  NOMBRE (name): \"Dep\xC3\xB3sito\"\n"));
@@ -44,9 +45,14 @@ TEST(Show, TellsOnlyWhatIsSetUnlessToldAll) {
   EXPECT_THAT(world.out, HasSubstr("  HABIL( 1) (alarm 1, enabled): yes\n"));
   EXPECT_THAT(world.out, HasSubstr("\"Puerta\\x1b[31m\"")) << "a terminal gets no control";
   EXPECT_THAT(world.out, HasSubstr("(alarm 1, valid days): Mo Tu We Th Fr\n"));
-  EXPECT_THAT(world.out, HasSubstr("  ACTHI( 1) (alarm 1, actions, high): 5 12\n"));
+  EXPECT_THAT(
+      world.out,
+      HasSubstr(
+          "  ACTHI( 1) (alarm 1, actions, high): 5 - Ejecutar macro 4; 12 - Ejecutar macro 11\n"));
+  EXPECT_THAT(world.out, HasSubstr("(alarm 1, rearming): 7 s\n"));
+  EXPECT_THAT(world.out, HasSubstr("INTERFAZ (interface): 0-10 V\n"));
   EXPECT_EQ(world.Run("show /a.ocf --all"), 0);
-  EXPECT_THAT(world.out, HasSubstr("RENVT (minutes between resends): 10\n"));
+  EXPECT_THAT(world.out, HasSubstr("RENVT (time between resends): 10 minutes\n"));
   EXPECT_THAT(world.out, HasSubstr("TLFM 0 (telephone 0): free\n"));
 }
 
@@ -80,6 +86,50 @@ TEST(Show, GivesTypedJson) {
   EXPECT_TRUE(analog["HABIL( 0)"].isBool());
   EXPECT_TRUE(analog["INICIO( 0)"].isString());
   EXPECT_TRUE(sections["FLAG 15"].isObject());
+}
+
+TEST(Show, TellsTimersInWordsUnlessTheyAreOff) {
+  World world;
+  world.files.contents["/a.ocf"] =
+      "[General]\r\nVERSION=VR200\r\n[CTIMER 3]\r\nHABIL=False\r\nPERIOD= 77\r\n[MTIMER 2]\r\n"
+      "HABIL=True\r\nINICIO=6:00:00\r\nMES= 2147483653\r\nACT( 0)= 5\r\nACT( 3)= 7";
+  EXPECT_EQ(world.Run("show /a.ocf"), 0);
+  EXPECT_THAT(world.out,
+              HasSubstr("MTIMER 2 (monthly timer 2)\n  HABIL (enabled): yes\n"
+                        "  INICIO (time of day): 6:00:00\n"
+                        "  MES (days of the month): 1 3 last\n"
+                        "  ACT (actions): 5 - Ejecutar macro 4; 7 - Ejecutar macro 6\n"));
+  EXPECT_EQ(world.out.find("77"), std::string::npos) << world.out;
+  EXPECT_EQ(world.Run("show /a.ocf --json"), 0);
+  EXPECT_THAT(world.out, HasSubstr("\"MES\": 2147483653,"));
+}
+
+TEST(Schedule, TellsFiringsOfTimersAndMacros) {
+  World world;
+  world.files.contents["/a.ocf"] =
+      "[General]\r\nVERSION=VR200\r\n[CTIMER 3]\r\nHABIL=True\r\nPERIOD= 200000\r\nSIEMPRE=True\r\n"
+      "EQ= 3\r\nACT( 0)= 42\r\nACT( 2)= 5";
+  EXPECT_EQ(world.Run("schedule /a.ocf --from 2026-03-02T08:00"), 0) << world.err;
+  EXPECT_EQ(world.out,
+            "from 2026-03-02 08:00:00, 7 days\n\ncyclic timer 3: every 200000 s, if F2\n"
+            "  runs 42 - Sincronizar reloj\n  runs 5 - Ejecutar macro 4\n"
+            "  We 2026-03-04: 15:33:20\n  Fr 2026-03-06: 23:06:40\n  Mo 2026-03-09: 6:40:00\n\n"
+            "macro 4\n  We 2026-03-04: 15:33:20 (cyclic timer 3)\n"
+            "  Fr 2026-03-06: 23:06:40 (cyclic timer 3)\n"
+            "  Mo 2026-03-09: 6:40:00 (cyclic timer 3)\n");
+  EXPECT_EQ(world.Run("schedule /a.ocf --json"), 0);
+  const QJsonObject json = world.Json().object();
+  EXPECT_EQ(json["from"].toString(), "2026-03-02 09:05:07") << "now";
+  const QJsonObject timer = json["timers"].toArray().at(0).toObject();
+  EXPECT_EQ(timer["section"].toString() + timer["condition"].toString(), "CTIMER 3F2");
+  EXPECT_EQ(timer["firings"].toArray().at(0).toString(), "2026-03-04 16:38:27");
+  EXPECT_EQ(json["macros"].toArray().at(0).toObject()["macro"].toInt(), 4);
+  for (const std::string moment : {"tomorrow", "2026-02-29", "2026-03-02T8:00", "2026-03-02_08:00"})
+    EXPECT_EQ(world.Run("schedule /a.ocf --from " + moment), 2) << moment;
+  EXPECT_EQ(world.Run("schedule /none.ocf"), 5);
+  world.Edit("/a.ocf", "HABIL=True", "HABIL=False");
+  EXPECT_EQ(world.Run("schedule /a.ocf"), 0);
+  EXPECT_EQ(world.err, "/a.ocf: no timer is enabled\n");
 }
 
 TEST(Diff, TellsDifferencesInWordsAndByExitCode) {
@@ -206,7 +256,8 @@ TEST(Check, FindsEachMistakeByItsRule) {
 
 TEST(Check, FindsEachMistakeOfABusByItsRule) {
   const std::string sound =
-      "[General]\r\nVERSION=VR200\r\n[ANALOG 1]\r\nINTERFAZ= 1\r\nHABIL( 2)=True\r\n"
+      "[General]\r\nVERSION=VR200\r\n[CTIMER 0]\r\nHABIL=True\r\nPERIOD= 60\r\nSIEMPRE=True\r\n"
+      "ACT( 3)= 74\r\n[ANALOG 1]\r\nINTERFAZ= 1\r\nFE= 20\r\nEqFE= 6\r\nHABIL( 2)=True\r\n"
       "SIEMPRE( 2)=True\r\nMINIMO( 2)= 1\r\nMAXIMO( 2)= 5\r\nHISTERESIS( 2)= 4\r\n"
       "[MODBUS 9]\r\nSLAVE= 1\r\nMULT= 2\r\nANALOG_MODE=True\r\nHABIL( 0)=True\r\n"
       "SIEMPRE( 0)=True\r\nMAXIMO( 0)= 3\r\n[MODBUS]\r\nBAUD= 9600";
@@ -214,6 +265,8 @@ TEST(Check, FindsEachMistakeOfABusByItsRule) {
            {"BAUD= 9600", "BAUD= 9600", "", ""},
            {"MINIMO( 2)= 1", "MINIMO( 2)= 6", "", "thresholds-reversed"},
            {"HISTERESIS( 2)= 4", "HISTERESIS( 2)= 4.5", "", "hysteresis-too-large"},
+           {"= 1\r\nMAXIMO( 2)= 5\r\nHISTERESIS( 2)= 4",
+            "= 1.2\r\nMAXIMO( 2)= 1.3\r\nHISTERESIS( 2)= .1", "", ""},
            {"HABIL( 2)=True\r\nSIEMPRE( 2)=True\r\nMINIMO( 2)= 1", "MINIMO( 2)= 6", "", ""},
            {"INTERFAZ= 1", "INTERFAZ= 0", "", "alarm-of-silent-channel"},
            {"MULT= 2", "MULT= 0", "", "alarm-of-silent-channel"},
@@ -228,7 +281,83 @@ TEST(Check, FindsEachMistakeOfABusByItsRule) {
            {"MULT= 2", "MULT= 2\r\nTYPE= 3", "", "modbus-not-kept"},
            {"MULT= 2", "MULT= 2\r\nSIZE32=True", "", "modbus-not-kept"},
            {"MULT= 2", "MULT= 2\r\nSIZE32=False", "", ""},
+           {"ACT( 3)= 74", "ACT( 3)= 75", "", "modbus-never-read"},
+           {"MULT= 2\r\nANALOG_MODE=True", "NOMBRE=Bomba\r\nMULT= 2", "", "modbus-not-kept"},
            {"MULT= 2\r\nANALOG_MODE=True", "MASCARA= 1\r\nMINIMO( 0)= 9", "", ""},
+       })
+    ExpectRule(sound, one);
+  ExpectRule(sound + "\r\nMASTER=False", {"ACT( 3)= 74", "ACT( 3)= 75", "", ""});
+}
+
+TEST(Check, FindsEachMistakeOfTimersByItsRule) {
+  const std::string sound =
+      "[General]\r\nVERSION=TAVRO\r\n[CTIMER 0]\r\nHABIL=True\r\nPERIOD= 60\r\nSIEMPRE=False\r\n"
+      "FINAL=1:00:00\r\nSEMANA= 1\r\nACT( 0)= 5\r\n[LTIMER 15]\r\nHABIL=True\r\nPERIOD= 24855\r\n"
+      "ACT( 7)= 6\r\n[WTIMER 1]\r\nHABIL=True\r\nSEMANA= 64\r\nACT( 0)= 7\r\n[MTIMER 2]\r\n"
+      "HABIL=True\r\nMES= 1\r\nACT( 0)= 8\r\n[MTIMER 3]\r\nHABIL=False\r\nACT( 0)= 8";
+  const std::string never = "timer-never-runs", idle = "timer-without-actions";
+  for (const RuleCase& one : std::vector<RuleCase>{
+           {"PERIOD= 60", "PERIOD= 60", "", ""},
+           {"PERIOD= 60", "PERIOD= 0", "", never},
+           {"SEMANA= 1", "SEMANA= 0", "", never},
+           {"SIEMPRE=False\r\nFINAL=1:00:00\r\nSEMANA= 1", "SIEMPRE=True\r\nSEMANA= 0", "", ""},
+           {"SEMANA= 64", "SEMANA= 128", "", never},
+           {"MES= 1", "MES= 0", "", never},
+           {"MES= 1", "MES= 2147483648", "", ""},
+           {"ACT( 0)= 5", "ACT( 0)= 0", "", idle},
+           {"ACT( 7)= 6", "ACT( 7)=-1", "", idle},
+           {"ACT( 0)= 7", "ACT( 0)= 0", "", idle},
+           {"ACT( 0)= 8", "ACT( 0)= 0", "", idle},
+           {"MES= 1\r\nACT( 0)= 8", "MES= 0", "", never},
+           {"24855", "24856", "", "period-too-long", 1},
+           {"HABIL=True\r\nPERIOD= 24855", "HABIL=False\r\nPERIOD= 24856", "", ""},
+       })
+    ExpectRule(sound, one);
+}
+
+TEST(Check, TakesFilesOfEarlierPrograms) {
+  World world;
+  world.HaveFile("/a.ocf");
+  std::string& text = world.files.contents["/a.ocf"];
+  const auto replace = [&](std::string_view from, std::string_view by) {
+    const std::size_t at = text.find(from, text.find("[MODBUS"));
+    ASSERT_NE(at, std::string::npos) << from;
+    text.replace(at, from.size(), by);
+  };
+  replace("MASTER=True\r\n", "");
+  replace("TYPE= 0\r\n", "SIZE32=False\r\n");
+  EXPECT_EQ(world.Run("check /a.ocf"), 0) << world.out;
+  replace("BAUD=", "OTHER=");
+  EXPECT_EQ(world.Run("check /a.ocf"), 1);
+}
+
+TEST(Check, FindsEachSenselessNumberByItsRule) {
+  const std::string sound =
+      "[General]\r\nVERSION=VR200\r\nRENVT= 10\r\nTLFM 3=600,Prio=1,PRV0,MASKMODE0\r\n"
+      "TLFM 9=601,Prio=1,PRV0,MASKMODE0\r\n[ANALOG 1]\r\n"
+      "INTERFAZ= 1\r\nIE= 4\r\nFE= 20\r\nEqIE=-1\r\nEqFE= 6\r\nHABIL( 2)=True\r\n"
+      "SIEMPRE( 2)=True\r\nPERSISTENCIA( 2)= 10000\r\n[CAUDAL 1]\r\nINTERFAZ= 6\r\n"
+      "[DIGITAL 0]\r\nHABIL( 0)=True\r\nSIEMPRE( 0)=True\r\nREARM( 0)= 86400\r\n"
+      "[MODBUS]\r\nBAUD= 9600";
+  for (const RuleCase& one : std::vector<RuleCase>{
+           {"IE= 4", "IE= 4", "", ""},
+           {"FE= 20", "FE= 4", "", "scale-useless"},
+           {"FE= 20", "FE= 3", "", "scale-useless"},
+           {"EqIE=-1", "EqIE= 6", "", "scale-useless"},
+           {"EqIE=-1", "EqIE= 7", "", "scale-useless"},
+           {"INTERFAZ= 6", "INTERFAZ= 1", "", "interface-unknown"},
+           {"INTERFAZ= 1", "INTERFAZ= 4", "", "interface-unknown"},
+           {"TLFM 9=601", "TLFM 9=600", "", "telephone-twice"},
+           {"( 2)= 10000", "( 2)= 10001", "", "number-senseless"},
+           {"( 2)= 10000", "( 2)=-1", "", "number-senseless"},
+           {"HABIL( 2)=True\r\nSIEMPRE( 2)=True\r\nPERSISTENCIA( 2)= 10000",
+            "PERSISTENCIA( 2)= 10001", "", ""},
+           {"INTERFAZ= 6", "INTERFAZ= 6\r\nTIMEBASE=-5", "", "number-out-of-range", 1},
+           {"INTERFAZ= 6", "INTERFAZ= 6\r\nHABIL( 0)=True\r\nSIEMPRE( 0)=True", "",
+            "alarm-of-silent-channel"},
+           {"REARM( 0)=", "FLAG( 0)= 17\r\nREARM( 0)=", "", "number-out-of-range", 1},
+           {"REARM( 0)= 86400", "REARM( 0)= 86401", "", "number-senseless"},
+           {"RENVT= 10", "RENVT= 1441", "", "number-senseless"},
        })
     ExpectRule(sound, one);
 }
@@ -236,7 +365,8 @@ TEST(Check, FindsEachMistakeOfABusByItsRule) {
 TEST(Check, FindsEachMistakeOfExpansionInputsByItsRule) {
   const std::string sound =
       "[General]\r\nVERSION=OSTREL_S100\r\n[MINPUT 3]\r\nMODO= 1\r\nDIR= 2\r\nENTRADA= 5\r\n"
-      "[MINPUT 95]\r\nMODO= 4\r\nDIR= 2\r\nENTRADA= 6\r\n[MINPUT.A 95]\r\nINTERFAZ= 3\r\n"
+      "[MINPUT 95]\r\nMODO= 4\r\nDIR= 2\r\nENTRADA= 6\r\n[MINPUT.A 95]\r\nINTERFAZ= 3\r\nFE= "
+      "10\r\nEqFE= 6\r\n"
       "[MINPUT 96]\r\nMODO= 9\r\nDIR= 2\r\nENTRADA= 5";
   for (const RuleCase& one : std::vector<RuleCase>{
            {"DIR= 2", "DIR= 2", "", ""},
@@ -255,7 +385,7 @@ TEST(Check, FindsEachMistakeOfProbesAndEquationsByItsRule) {
   const std::string sound =
       "[General]\r\nVERSION=OSTREL_KA1\r\n[1WIRE 0]\r\nINTERFAZ= 4\r\nADDRESS1=40.113.0.1\r\n"
       "ADDRESS2=000.000.000.000\r\n[1WIRE 2]\r\nINTERFAZ= 5\r\nADDRESS1=040.113.000.002\r\n"
-      "ADDRESS2=0\r\n[MATH 3]\r\nINTERFAZ= 6\r\nECUACION=(FL7-DI0)*PB3+Q9";
+      "ADDRESS2=0.0.0.0\r\n[MATH 3]\r\nINTERFAZ= 6\r\nECUACION=(FL7-DI0)*PB3+Q9";
   for (const RuleCase& one : std::vector<RuleCase>{
            {"Q9", "Q9", "", ""},
            {"040.113.000.002", "040.113.000.001", "", "probe-identity-shared"},
@@ -265,6 +395,7 @@ TEST(Check, FindsEachMistakeOfProbesAndEquationsByItsRule) {
            {"40.113.0.1", "40.113.0.256", "", "probe-identity-broken", 1},
            {"40.113.0.1", "40.113.0.1.", "", "probe-identity-broken", 1},
            {"40.113.0.1", "a", "", "probe-identity-broken", 1},
+           {"40.113.0.1", "0", "", "probe-identity-broken", 1},
            {"FL7", "FL8", "", "equation-without-channel"},
            {"DI0", "MB0", "", "equation-without-channel"},
            {"INTERFAZ= 6\r\nECUACION=", "ECUACION=MB0", "", ""},

@@ -140,10 +140,29 @@ TEST(CheckNumberBox, ColoursByKind) {
   TextBox box(form, "Box");
   for (const auto& [text, kind, valid] :
        {Case{" 12", "int", true}, Case{"12.5", "int", false}, Case{"12.5", "float", true},
-        Case{"1,5", "float", false}, Case{"", "float", false}, Case{"12", "text", false}}) {
+        Case{"1,5,2", "float", false}, Case{"1,5.2", "float", false}, Case{"1,5", "int", false},
+        Case{"", "float", false}, Case{"12", "text", false}}) {
     box.SetText(text);
     EXPECT_EQ(CheckNumberBox(box, kind), valid) << text << " as " << kind;
     EXPECT_EQ(box.face.Colour(), valid ? BackColour::Window : BackColour::Red);
+  }
+}
+
+TEST(CheckNumberBox, PutsADecimalCommaRight) {
+  Form form("F", "");
+  TextBox box(form, "Box");
+  for (const auto& [typed, text, number] : {std::tuple{"0,9", "0.9", 0.9},
+                                            {" -12,5 ", " -12.5 ", -12.5},
+                                            {"1,2,3", "1,2,3", 1.0},
+                                            {"1,000.5", "1,000.5", 1.0},
+                                            {"9,x", "9,x", 9.0},
+                                            {"7,", "7,", 7.0},
+                                            {",5", ".5", 0.5}}) {
+    box.Type(typed);
+    EXPECT_EQ(NumberIn(box), number) << "ahead of the check, too";
+    CheckNumberBox(box, "float");
+    EXPECT_EQ(box.Text(), text);
+    EXPECT_EQ(NumberIn(box), number);
   }
 }
 

@@ -17,6 +17,7 @@
 #include "platform/virtual/VirtualLoop.h"
 #include "platform/virtual/VirtualProcesses.h"
 #include "shell/FaultWords.h"
+#include "shell/schedule/ScheduleWords.h"
 
 namespace ostrel {
 namespace {
@@ -42,17 +43,19 @@ TEST(FaultText, HasSpanishForEachPhrase) {
   for (const SessionPhase during : {Opening, Open, Reading, Writing})
     for (int kind = 0; kind <= static_cast<int>(LinkFault::Kind::LineTooLong); ++kind)
       for (const char* text : {"", "answer"})
-        for (int variant = 0; variant < 4; ++variant) {
+        for (int variant = 0; variant < 5; ++variant) {
           const FaultWords words = WordsOf({.during = during,
                                             .link = {static_cast<LinkFault::Kind>(kind), 1, text},
                                             .brokenOff = variant == 3,
                                             .allSent = variant == 1,
+                                            .unverified = variant == 4,
                                             .code = static_cast<CodeAnswer>(variant % 3)},
                                            "COM7");
           for (const Phrase* phrase : {&words.what, &words.remedy, &words.outcome})
             phrases.insert(phrase->text);
         }
   phrases.erase("");
+  for (const std::string& phrase : SchedulePhrases()) phrases.insert(phrase);
   EXPECT_GT(phrases.size(), 35u);
   for (const std::string& phrase : phrases) {
     const QString spanish = Words::tr(phrase.c_str());

@@ -9,6 +9,7 @@
 #include <QMessageBox>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QTableWidget>
 #include <QToolBar>
 #include <QToolButton>
 
@@ -132,18 +133,18 @@ void Road::Download() {
 }
 
 void Road::EditATelephone() {
-  auto* list = On<QListWidget>(*desktop, "ListaTlf");
-  DoubleClick(list->viewport(), list->visualItemRect(list->item(0)).center());
+  auto* list = On<QTableWidget>(*desktop, "ListaTlf");
+  DoubleClick(list->viewport(), list->visualItemRect(list->item(0, 0)).center());
   Type(On(*desktop, "NewTlf"), "+34611222333");
   Click(On(*desktop, "CheckMask"));
   auto* mask = On<QListWidget>(*desktop, "MaskSelection");
   mask->setCurrentRow(1);
   Press(mask, Qt::Key_Space);
   Click(On(*desktop, "Anadir"));
-  Click(list->viewport(), list->visualItemRect(list->item(0)).center());
+  Click(list->viewport(), list->visualItemRect(list->item(0, 0)).center());
   Click(On(*desktop, "Borrar"));
   loop.RunFor(seconds(2));
-  EXPECT_EQ(list->item(list->count() - 1)->text().section(u',', 0, 0), "+34611222333");
+  EXPECT_EQ(list->item(list->rowCount() - 1, 0)->text(), "+34611222333");
   EXPECT_TRUE(desktop->Window().isWindowModified());
 }
 
@@ -208,8 +209,11 @@ void Road::StartAgain() {
   EXPECT_EQ(modals.Left(), 0u);
   EXPECT_EQ(On<QPushButton>(*desktop, "Leer")->accessibleName(), "Read");
   EXPECT_EQ(On<QLineEdit>(*desktop, "NameBox")->text(), "Station 9");
-  auto* list = On<QListWidget>(*desktop, "ListaTlf");
-  EXPECT_EQ(list->item(list->count() - 1)->text(), "+34611222333,Prio=1,PRV2,MASKMODE1,DI1");
+  auto* list = On<QTableWidget>(*desktop, "ListaTlf");
+  QStringList words;
+  for (int column = 0; column < 4; ++column)
+    words << list->item(list->rowCount() - 1, column)->text();
+  EXPECT_EQ(words, QStringList({"+34611222333", "1", "Administrator", "DI1"}));
   ClickNode("E_Digital", "E_Digital_3");
   Click(On(*desktop, "Config1"));
   EXPECT_EQ(On<QLineEdit>(*desktop, "TextoAlarma")->text(), "Puerta");

@@ -1,59 +1,24 @@
-#include <gtest/gtest.h>
-
-#include <QAction>
 #include <QCheckBox>
 #include <QDir>
 #include <QDockWidget>
-#include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTableWidget>
-#include <QToolBar>
-#include <QToolButton>
 #include <QTreeWidget>
 #include <QTreeWidgetItemIterator>
 
-#include "Input.h"
-#include "WindowWorld.h"
+#include "OpenWindow.h"
 #include "base/CodePage.h"
 #include "desktop/program/Language.h"
-#include "desktop/window/FaultDetails.h"
 
 namespace ostrel {
 namespace {
 
 using std::chrono::seconds;
 
-class WindowTools : public testing::Test, protected WindowWorld<VirtualLoop> {
- protected:
-  WindowTools() {
-    StartBefore("Tavro BP", "1");
-    desktop = Make(&dialogs);
-    desktop->Start("");
-  }
-  Configurator& Core() { return desktop->Core(); }
-  MainWindow& Window() { return desktop->Window(); }
-  /// The tool of a text; the tools are made in Spanish.
-  QAction* Tool(const QString& text) {
-    for (QAction* action : Window().findChild<QToolBar*>("Tools")->actions())
-      if (action->text() == text) return action;
-    throw std::invalid_argument("no tool " + FromQt(text));
-  }
-  /// Asks for a session on the logger's port.
-  void Connect() {
-    SessionFrame& session = Core().general.Session();
-    session.Puerto.Add("COM7");
-    session.Puerto.SetPosition(0);
-    Window().GoTo("General");
-    session.IniCom_Click();
-    loop.RunFor(seconds(5));
-  }
-
-  VirtualDialogs dialogs;
-  std::unique_ptr<Desktop> desktop;
-};
+class WindowTools : public OpenWindow {};
 
 TEST_F(WindowTools, MarksWhatIsNotSavedWithoutCommittingIt) {
   const auto isMarked = [this] {
@@ -153,56 +118,59 @@ TEST_F(WindowTools, NamesTheDeviceThatFailedWhateverIsChosenSince) {
   Core().general.Session().Puerto.Add("COM1");
   Core().general.Session().Puerto.SetPosition(1);
   Window().Look();
-  auto* details = Window().Pages().Front()->findChild<FaultDetails*>("FaultDetails");
-  EXPECT_TRUE(details->Text().startsWith("COM7 is in use")) << FromQt(details->Text());
+  EXPECT_TRUE(Fault().startsWith("COM7 is in use")) << FromQt(Fault());
   port.SetOpenFault(kPort, PortFault::None);
   Core().general.Session().Puerto.SetPosition(0);
   Core().general.Session().IniCom_Click();
   loop.RunFor(seconds(5));
   EXPECT_TRUE(Core().Connected);
-  EXPECT_TRUE(details->isHidden());
+  EXPECT_TRUE(Fault().isEmpty());
 }
 
-TEST_F(WindowTools, TellsWhereADownloadBrokeOffAndTracesTheLine) {
-  UseLanguage("en");
-  std::string error;
-  AddLogger(sim::Model::BP, {*sim::ParseFault("silent-after-record@9", error)});
+/// The trace runs from the start of the program, shown or not.
+TEST_F(WindowTools, TracesAllTheTimeAndShowsWhatIsWanted) {
+  AddLogger(sim::Model::BP);
   Connect();
   auto* trace = Window().findChild<QDockWidget*>("Trace");
-  QAction* traceSwitch = Tool("Traza");
-  traceSwitch->trigger();
-  Core().general.Session().Leer.Click();
-  auto* state = Window().findChild<QLabel*>("LinkState");
-  loop.RunFor(std::chrono::minutes(2));
-  EXPECT_EQ(state->text(), "Open");
-  EXPECT_EQ(Core().general.Session().ComStat.face.Key(), "Error!");
-  auto* details = Window().Pages().Front()->findChild<FaultDetails*>("FaultDetails");
-  EXPECT_TRUE(details->Text().contains("silent at record 10")) << FromQt(details->Text());
-  auto* lines = trace->findChild<QPlainTextEdit*>();
-  EXPECT_TRUE(lines->toPlainText().contains("TxSer: "));
-  const int count = lines->blockCount();
-  traceSwitch->trigger();
+  const auto shown = [&] { return trace->findChild<QPlainTextEdit*>()->toPlainText(); };
+  EXPECT_EQ(shown(), "") << "nothing is drawn while nobody looks";
+  Tool("Traza")->trigger();
+  EXPECT_TRUE(shown().contains("TxSer: #40") && shown().contains("RxSer: #BF"));
+  EXPECT_TRUE(shown().startsWith(QString::fromStdString(DateTimeText(clock.LocalNow())).left(10)));
+  trace->findChild<QCheckBox*>("Kind0")->setChecked(false);
+  EXPECT_FALSE(shown().contains("TxSer: "));
+  trace->findChild<QPushButton*>("Pause")->setChecked(true);
+  const QString paused = shown();
   loop.RunFor(seconds(5));
-  EXPECT_EQ(lines->blockCount(), count);
+  EXPECT_EQ(shown(), paused);
+  trace->findChild<QPushButton*>("Pause")->setChecked(false);
+  EXPECT_GT(shown().size(), paused.size());
+  dialogs.ChoosePath(Path("trace.txt"));
+  trace->findChild<QPushButton*>("Save")->click();
+  EXPECT_EQ(ToQt(*files.Read(Path("trace.txt"))).trimmed(), shown());
+  auto* search = trace->findChild<QLineEdit*>("Search");
+  auto* text = trace->findChild<QPlainTextEdit*>();
+  search->setText("#BF");
+  for (int i = 0; i < 2; ++i) {
+    Press(search, Qt::Key_Return);
+    EXPECT_EQ(text->textCursor().selectedText(), "#BF") << "it begins anew at the end";
+  }
 }
 
-TEST_F(WindowTools, BreaksOffASessionThatIsBeingOpened) {
+TEST_F(WindowTools, CancelsASessionThatIsBeingOpened) {
   UseLanguage("en");
   std::string error;
   AddLogger(sim::Model::BP, {*sim::ParseFault("silent", error)});
-  auto* button = Window().findChild<QToolButton*>("BreakOff");
-  EXPECT_TRUE(button->isHidden());
+  QAction* cancel = SessionTool("CancelTool");
+  EXPECT_FALSE(cancel->isEnabled());
   loop.After(std::chrono::milliseconds(4500), "break off", [&] {
-    const QString state = Window().findChild<QLabel*>("LinkState")->text();
-    EXPECT_TRUE(state.startsWith("Detecting, silent for ")) << FromQt(state);
-    EXPECT_FALSE(button->isHidden());
-    button->click();
+    EXPECT_TRUE(LinkWords().startsWith("Detecting, silent for ")) << FromQt(LinkWords());
+    cancel->trigger();
   });
   Connect();
-  EXPECT_TRUE(button->isHidden());
-  EXPECT_EQ(Window().findChild<QLabel*>("LinkState")->text(), "Idle");
-  auto* details = Window().Pages().Front()->findChild<FaultDetails*>("FaultDetails");
-  EXPECT_EQ(details->Text(),
+  EXPECT_FALSE(cancel->isEnabled());
+  EXPECT_EQ(LinkWords(), "Idle");
+  EXPECT_EQ(Fault(),
             "Interrupted before a session stood. The logger's configuration is unchanged.");
 }
 
@@ -216,8 +184,7 @@ TEST_F(WindowTools, StaysFreeWhenARequestHasNoSession) {
   EXPECT_FALSE(Window().Pages().isEnabled());
   loop.RunFor(seconds(3));
   EXPECT_TRUE(Tool("Guardar")->isEnabled() && Window().Pages().isEnabled());
-  EXPECT_EQ(Window().findChild<QLabel*>("LinkState")->text(),
-            "Idle, a transfer waits for a session");
+  EXPECT_EQ(LinkWords(), "Idle, a transfer waits for a session");
 }
 
 /// Whatever has been shown, at whatever time.
@@ -364,11 +331,6 @@ TEST_F(WindowTools, RestsFromTheRequestToTheEndOfATransfer) {
   Core().general.Session().Escribir.Click();
   Window().Look();
   EXPECT_FALSE(Tool("Guardar")->isEnabled() || Window().Pages().isEnabled());
-  modals.Expect([](QWidget* modal) {
-    EXPECT_EQ(modal->findChildren<QPushButton*>().size(), 2) << "leave or stay, nothing is saved";
-    Press(modal, Qt::Key_Escape);
-  });
-  loop.After(seconds(2), "close", [&] { EXPECT_FALSE(Window().close()) << "it asks"; });
   loop.RunFor(seconds(30));
   EXPECT_EQ(modals.Left(), 0u);
   EXPECT_EQ(logger->UploadsTaken(), 1U);
@@ -424,6 +386,30 @@ TEST_F(WindowTools, ComparesWithAFileWithoutTouchingAnything) {
   Tool("Comparar")->trigger();
   EXPECT_EQ(modals.Left(), 0u);
   EXPECT_EQ(Core().conf.Digital[2].NOMBRE, "");
+}
+
+TEST_F(WindowTools, ShowsWhenTimersFireAsThePageInFrontHasThem) {
+  Core().conf.LTimer[0] = {kTrue, 5, {}};
+  Core().conf.LTimer[0].ACT[0] = 3;
+  Core().PageOf(PageId::LTimer)->LoadData();
+  Window().GoTo("LTimer0_3");
+  Core().PageOf(PageId::LTimer)->GetForm().Get<TextBox>("Period(0)").Type("7");
+  ModalScript modals;
+  modals.Expect([](QWidget* modal) {
+    auto* table = modal->findChild<QTableWidget*>();
+    ASSERT_EQ(table->rowCount(), 2);
+    QStringList texts;
+    for (int column = 0; column < 4; ++column) texts << table->item(0, column)->text();
+    EXPECT_EQ(texts.join(u'|'), "temporizador largo 0|cada 7 días||3 - Ejecutar macro 2");
+    EXPECT_EQ(table->item(1, 0)->text() + table->item(1, 1)->text(), "macro 2temporizador largo 0");
+    EXPECT_EQ(table->item(1, 4)->text(), table->item(0, 4)->text());
+    Press(modal, Qt::Key_Escape);
+  });
+  UseLanguage("es");
+  Tool("Calendario")->trigger();
+  EXPECT_EQ(modals.Left(), 0u);
+  EXPECT_EQ(Core().conf.LTimer[0].PERIOD, 5) << "it only shows";
+  UseLanguage("en");
 }
 
 TEST_F(WindowTools, SaysWhyAFileCouldNotBeWritten) {

@@ -44,7 +44,7 @@ struct WindowWorld {
   }
   /// Puts a simulated logger on the port.
   void AddLogger(sim::Model model, const sim::Faults& faults = {}) {
-    port.AddDevice(kPort, "/dev/sim", "", [&](LineEnd& end) {
+    line = &port.AddDevice(kPort, "/dev/sim", "", [&](LineEnd& end) {
       sim::LoggerOptions options = sim::MakeDefaultOptions(model);
       options.faults = faults;
       auto made = std::make_unique<sim::Logger>(loop, end, options);
@@ -80,6 +80,7 @@ struct WindowWorld {
   VirtualClock clock;
   QtDialogs dialogsOfWindow;
   sim::Logger* logger = nullptr;
+  LineEnd* line = nullptr;  ///< the logger's end
 };
 
 /// The widget of a control of the page in front.

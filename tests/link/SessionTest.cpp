@@ -128,10 +128,13 @@ TEST_F(SessionTest, AProbeTellsItsIdentity) {
   logger.Always("#FA", Frames("#05040,113,000,000,000,000,000,011"));
   EXPECT_TRUE(comms.ReadProbeIdentity(identity));
   EXPECT_EQ(identity, (ProbeIdentity{"040.113.000.000", "000.000.000.011"}));
-  for (const char* cut : {"#05", "#0540", "#05,,"}) {
+  for (const char* cut : {"#05", "#0540", "#05,,", "#05040,113,000,000,000,000,000",
+                          "#05040,113,000,000,000,000,000,x11"}) {
     logger.Always("#FA", Frames(cut));
-    EXPECT_TRUE(comms.ReadProbeIdentity(identity)) << cut;
+    EXPECT_FALSE(comms.ReadProbeIdentity(identity)) << cut;
+    EXPECT_EQ(comms.Fault().kind, Kind::WrongAnswer);
   }
+  EXPECT_EQ(identity, (ProbeIdentity{"040.113.000.000", "000.000.000.011"}));
   logger.Forget();
   EXPECT_EQ(Took([&] { comms.ReadProbeIdentity(identity); }), milliseconds(100 + 3 * 500))
       << "a stale line, then three attempts";

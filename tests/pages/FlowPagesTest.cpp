@@ -64,11 +64,13 @@ TEST_F(FlowPages, AnOlderFirmwareKeepsThresholdsInPulses) {
   flow.SavePage();
   EXPECT_EQ(limits, (LevelThresholds{20, 40, 4, 3})) << "the new ratio counts";
   flow.GetForm().Get<TextBox>("Ratio").Type("0");
-  flow.GetForm().Get<TextBox>("Persist").Type("7,");
+  flow.GetForm().Get<TextBox>("Persist").Type("7x");
   flow.SavePage();
   EXPECT_EQ(limits, (LevelThresholds{20, 40, 4, 7})) << "a ratio of 0 leaves the value";
   EXPECT_EQ(flow.GetForm().Get<TextBox>("Persist").face.Colour(), BackColour::Red);
   info.Features = 0x200000;
+  flow.SavePage();
+  EXPECT_EQ(limits, (LevelThresholds{20, 40, 4, 7})) << "another logger scales nothing anew";
   flow.LoadData();
   EXPECT_EQ(text("Minimo") + text("Maximo"), "2040");
 }
@@ -125,6 +127,10 @@ TEST_F(FlowPages, SamplingWarnsOfAFirmwareWithoutWeights) {
   EXPECT_EQ(Caption(sampling, "WarningText"),
             "La version de firmware del Tavro BQ no soporta la configuracion del peso por pulso en "
             "los totalizadores.");
+  SelectModel("Ostrel S100");
+  info.Features = 0;
+  loop.RunFor(std::chrono::seconds(1));
+  EXPECT_TRUE(Caption(sampling, "WarningText").find("Ostrel S100") != std::string::npos);
 }
 
 TEST_F(FlowPages, AMathChannelStaysEditableWhileItIsOff) {
@@ -145,7 +151,7 @@ TEST_F(FlowPages, TheIdentityOfAProbeIsLostWithItsOption) {
   TextBox& first = probe.GetForm().Get<TextBox>("ID0");
   TextBox& second = probe.GetForm().Get<TextBox>("ID1");
   auto& read = probe.GetForm().Get<Button>("BotonLeerId");
-  EXPECT_EQ(first.Text(), "0") << "as emptied";
+  EXPECT_EQ(first.Text(), "000.000.000.000") << "three digits an octet, as emptied";
   EXPECT_FALSE(first.face.Enabled() || read.face.Enabled());
   Choose(probe, "OptionId");
   EXPECT_TRUE(first.face.Enabled() && second.face.Enabled() && read.face.Enabled());
@@ -153,10 +159,18 @@ TEST_F(FlowPages, TheIdentityOfAProbeIsLostWithItsOption) {
   context.readProbeIdentity = [&] { return answer; };
   read.Click();
   EXPECT_EQ(dialogs.boxes.at(0).text, "Recuerde que solo debe haber una sonda conectada");
-  EXPECT_EQ(first.Text(), "0");
+  EXPECT_EQ(first.Text(), "000.000.000.000");
+  context.readProbeIdentity = [&] {
+    probe.ChangeIndex(1);
+    return std::optional<ProbeIdentity>({"001.001.001.001", "001.001.001.001"});
+  };
+  read.Click();
+  EXPECT_EQ(first.Text(), "000.000.000.000") << "another probe was opened meanwhile";
+  probe.ChangeIndex(0);
+  context.readProbeIdentity = [&] { return answer; };
   answer = {"040.113.000.000", "000.000.000.011"};
   read.Click();
-  EXPECT_EQ(conf.OneWire[0].ADDRESS1, "0") << "only a commit reaches the model";
+  EXPECT_EQ(conf.OneWire[0].ADDRESS1, "000.000.000.000") << "only a commit reaches the model";
   Choose(probe, "Int_1WHum");
   probe.SavePage();
   EXPECT_EQ(conf.OneWire[0].ADDRESS2, "000.000.000.011");

@@ -127,6 +127,26 @@ TEST_F(GeneralPage, BadTelephonesAreRefused) {
   EXPECT_EQ(list.Rows().size(), 1U);
 }
 
+TEST_F(GeneralPage, ANumberThatIsInTheListIsReplacedWhenTheOperatorAgrees) {
+  Enter("600");
+  Enter("601");
+  Get<ComboBox>("PrioBox").SetPosition(4);
+  dialogs.Answer(BoxAnswer::Yes);
+  Enter("600");
+  EXPECT_EQ(list.Rows().size(), 2U);
+  EXPECT_EQ(list.RowText(0), "600,Prio=4,PRV2,MASKMODE0");
+  dialogs.Answer(BoxAnswer::No);
+  Enter("600");
+  EXPECT_EQ(list.Rows().size(), 3U) << "as a further one";
+  EXPECT_EQ(list.RowText(0), "600,Prio=4,PRV2,MASKMODE0");
+  EXPECT_EQ(dialogs.boxes.back().buttons, BoxButtons::YesNo);
+  for (int i = 2; i < 20; ++i) Enter(std::to_string(600 + i));
+  ASSERT_EQ(list.Rows().size(), 21U);
+  Get<ComboBox>("PrioBox").SetPosition(5);
+  Enter("619");
+  EXPECT_EQ(list.RowText(20), "619,Prio=5,PRV2,MASKMODE0") << "a full list takes it, too";
+}
+
 TEST_F(GeneralPage, TheListTakesOneRowMoreThanIsKept) {
   for (int i = 0; i < 22; ++i) Enter(std::to_string(600 + i));
   EXPECT_EQ(list.Rows().size(), 21U);

@@ -48,7 +48,7 @@ class PageFixture : public testing::Test, protected VirtualWorld {
                       .ConfFilePath = ConfFilePath,
                       .timersRun = true,
                       .programFolder = "/opt/ostrel",
-                      .showActEdit = [this] { actEdit.ShowModal(); }};
+                      .showActEdit = [this](std::string_view subject) { actEdit.ShowModal(subject); }};
   ActEdit actEdit{context};
 };
 

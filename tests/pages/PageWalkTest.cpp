@@ -18,6 +18,10 @@
 #include "pages/inputs/Grupos.h"
 #include "pages/inputs/Katodex.h"
 #include "pages/inputs/SampleRate.h"
+#include "pages/timers/CTimer.h"
+#include "pages/timers/LTimer.h"
+#include "pages/timers/MTimer.h"
+#include "pages/timers/WTimer.h"
 
 namespace ostrel {
 namespace {
@@ -28,6 +32,7 @@ struct Walked {
   std::unique_ptr<Page> (*make)(PageContext& context);
   int lastChannel;  ///< -1 for a page without channels
   int configs;      ///< alarm configurations; 0 for none
+  int atOnce = 1;   ///< channels that it shows at a time
 };
 
 template <class Kind>
@@ -43,6 +48,8 @@ const Walked kWalked[] = {
     {"E_Math", Make<E_Math>, 3, 1},      {"CONF_MODBUS", Make<CONF_MODBUS>, -1, 0},
     {"E_MODBUS", Make<E_MODBUS>, 31, 1}, {"E_Modular", Make<E_Modular>, 127, 1},
     {"E_Aux", Make<E_Aux>, 3, 4},        {"Katodex", Make<Katodex>, -1, 0},
+    {"CTimer", Make<CTimer>, 12, 0, 4},  {"LTimer", Make<LTimer>, 12, 0, 4},
+    {"WTimer", Make<WTimer>, 12, 0, 4},  {"MTimer", Make<MTimer>, 12, 0, 4},
 };
 
 /// Values that a field may be tried with: the controls of some take only a few.
@@ -81,7 +88,8 @@ class PageWalk : public PageFixture, public testing::WithParamInterface<Walked> 
       if (field.id.section->word == "MINPUT.A" && field.id.word == "GRUPO") continue;
       // The rows of a list close up: only the first telephone stays where it was.
       if (std::holds_alternative<ConfPhone*>(field.value) && field.id.slot.place > 0) continue;
-      if (channel >= 0 && field.id.channel != channel) continue;
+      const int slot = field.id.channel - channel;
+      if (channel >= 0 && (slot < 0 || slot >= GetParam().atOnce)) continue;
       if (field.id.slot.config >= 0 && field.id.slot.config != config) continue;
       shown.push_back(field);
     }
@@ -167,13 +175,58 @@ TEST_P(PageWalk, RubbishInANumberBoxTurnsRed) {
     const auto boxes = Boxes();
     for (std::size_t b = 0; b < boxes.size(); ++b) {
       if (boxes[b]->Text() == before[b]) continue;
-      boxes[b]->Type("1,5");
+      boxes[b]->Type("1.5.2");
       loop.RunFor(std::chrono::seconds(1));
       EXPECT_EQ(boxes[b]->face.Colour(), BackColour::Red) << field.Key();
       boxes[b]->Type("7");
       loop.RunFor(std::chrono::seconds(1));
       EXPECT_EQ(boxes[b]->face.Colour(), BackColour::Window) << field.Key();
     }
+  }
+}
+
+/// A decimal comma counts as it is meant, in each number box, even when the page is left at once.
+TEST_P(PageWalk, ADecimalCommaIsCommittedAsAPoint) {
+  for (TextBox* box : Boxes()) {
+    if (box->NumberKind() != "float") continue;
+    page->LoadData();
+    box->Type("0.75");
+    page->SavePage();
+    const DeviceConf meant = conf;
+    page->LoadData();
+    box->Type("0,75");
+    conf = DeviceConf{};
+    page->SaveInto(conf);
+    DeviceConf plain;
+    box->Type("0.75");
+    page->SaveInto(plain);
+    EXPECT_EQ(conf, plain) << box->face.Name();
+    box->Type("0,75");
+    page->SavePage();
+    EXPECT_EQ(box->Text(), "0.75");
+    conf = meant;
+  }
+}
+
+/// Each field has a control that knows it: marks and findings stand there.
+TEST_P(PageWalk, EachFieldHasItsControl) {
+  for (const auto* model : {"Tavro BP", "Tavro BQ"}) {
+    SelectModel(model);
+    const Block& block = *FindBlock(page->Id());
+    block.view(conf, profile, [&](const FieldId& id, const FieldMeta& meta, const FieldView&) {
+      if (id.section->word == "MINPUT.A" && id.word == "GRUPO") return;  // in the file alone
+      if (GetParam().atOnce > 1 && id.channel >= GetParam().atOnce) return;  // not shown now
+      int controls = 0;
+      for (const ControlRef& control : page->GetForm().Controls()) {
+        const EditedField& field = FaceOf(control).Field();
+        const bool isHere = field.word == id.word &&
+                            (field.section.empty() || field.section == id.section->word) &&
+                            (field.channel < 0 || field.channel == id.channel);
+        controls += isHere ? 1 : 0;
+        EXPECT_TRUE(!isHere || field.unit == meta.unit) << id.word;
+      }
+      EXPECT_EQ(controls, 1) << id.section->word << " " << id.channel << " " << id.word;
+    });
   }
 }
 

@@ -35,6 +35,9 @@ TEST(FaultWords, TellPlaceTextRemedyAndHowTheLoggerStands) {
            {{.during = Writing, .link = {FaultKind::Silence, 6, ""}},
             "the logger fell silent at statement 6||" + former},
            {{.link = {FaultKind::Silence, 0, ""}}, "the logger fell silent||"},
+           {{.during = Reading, .link = {FaultKind::Silence, 6, ""}, .unverified = true},
+            "the logger fell silent at record 6||the logger has taken the new configuration over, "
+            "which is not verified"},
            {{.during = Writing, .link = {FaultKind::BadChecksum, 6, ""}, .allSent = true},
             "lines arrived damaged at statement 6|check cable and earthing|" + unknown},
            {{.during = Writing, .link = {FaultKind::Refused, 3, "50%1%2"}},

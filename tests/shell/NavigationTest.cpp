@@ -184,47 +184,51 @@ TEST_F(NavigationFixture, ActivatesTheFrontAnewWhenTheModelChanges) {
   EXPECT_TRUE(offers("Int_0_5"));
 }
 
-/// Pages that stay open: two of this build stand for those.
+/// The pages of single MODBUS channels and of expansion inputs stay open.
 class StayingPages : public NavigationFixture {
  protected:
-  void TypeName(PageId page, const char* name) { On<TextBox>(page, "Nombre").Type(name); }
+  void TypeName(const char* name) { On<TextBox>(PageId::E_MODBUS, "Nombre").Type(name); }
+  void TypeInputName(const char* name) { On<TextBox>(PageId::E_Modular, "D_Nombre").Type(name); }
+  const std::string& Name(int channel = 3) { return core.conf.Modbus[channel].NOMBRE; }
+  const std::string& InputName() { return core.conf.Modulo[5].D.NOMBRE; }
   std::string FrontName() {
-    const Form* front = staying.Front();
+    const Form* front = navigation.Front();
     return front ? front->Name() : "";
   }
-
-  static constexpr std::array<FormId, 2> kStaying{PageId::E_Digital, PageId::E_Analog};
-  Navigation staying{core, kStaying};
 };
 
 TEST_F(StayingPages, KeepTheFrontWhenAClickOpensNothing) {
-  staying.NodeClick("E_Digital_0");
-  TypeName(PageId::E_Digital, "first");
-  EXPECT_EQ(staying.NodeClick("CTimer"), NodeResult::Nothing);
-  EXPECT_EQ(FrontName(), "E_Digital");
-  EXPECT_EQ(core.conf.Digital[0].NOMBRE, "") << "it has not been left";
-  staying.CommitFront();
-  EXPECT_EQ(core.conf.Digital[0].NOMBRE, "first");
-  TypeName(PageId::E_Digital, "again");
-  staying.NodeClick("E_Digital_1");
-  EXPECT_EQ(core.conf.Digital[0].NOMBRE, "again");
+  navigation.NodeClick("MODBUS_3");
+  TypeName("first");
+  EXPECT_EQ(navigation.NodeClick("CTimer"), NodeResult::Nothing);
+  EXPECT_EQ(FrontName(), "E_MODBUS");
+  EXPECT_EQ(Name(), "") << "it has not been left";
+  navigation.CommitFront();
+  EXPECT_EQ(Name(), "first");
+  TypeName("again");
+  navigation.NodeClick("MODBUS_4");
+  EXPECT_EQ(Name(), "again");
 }
 
 TEST_F(StayingPages, AreCoveredByTheNextPageAndComeBackBehindIt) {
-  staying.NodeClick("E_Analog_0");
-  staying.NodeClick("E_Digital_0");
-  TypeName(PageId::E_Digital, "covered");
-  staying.NodeClick("General");
-  EXPECT_EQ(core.conf.Digital[0].NOMBRE, "covered");
-  EXPECT_THAT(Visible(), ElementsAre("General", "E_Digital", "E_Analog"));
+  core.TargetDeviceChange("Ostrel S100");
+  navigation.NodeClick("E_Digital_0");
+  navigation.NodeClick("MODBUS_3");
+  TypeName("register");
+  navigation.NodeClick("Modulo_5");
+  TypeInputName("input");
+  navigation.NodeClick("General");
+  EXPECT_EQ(Name(), "register");
+  EXPECT_EQ(InputName(), "input");
+  EXPECT_THAT(Visible(), ElementsAre("General", "E_MODBUS", "E_Modular"));
   EXPECT_EQ(FrontName(), "General");
-  staying.NodeClick("Timer");
-  EXPECT_EQ(FrontName(), "E_Digital") << "the one that was shown last";
-  TypeName(PageId::E_Digital, "back");
-  core.TargetDeviceChange("Tavro BQ");
-  staying.NodeClick("E_Analog_0");
-  EXPECT_EQ(core.conf.Digital[0].NOMBRE, "back");
-  EXPECT_TRUE(On<OptionButton>(PageId::E_Analog, "Int_Press").face.Enabled());
+  navigation.NodeClick("Timer");
+  EXPECT_EQ(FrontName(), "E_Modular") << "the one that was shown last";
+  TypeInputName("back");
+  core.ConfFilePath = "/saved.ocf";
+  navigation.CommitFront();
+  ASSERT_TRUE(core.SaveConf().Ok());
+  EXPECT_NE(files.contents["/saved.ocf"].find("NOMBRE=back"), std::string::npos);
 }
 
 }  // namespace

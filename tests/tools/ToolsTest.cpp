@@ -38,9 +38,12 @@ TEST_F(Tools, TotalsAreSetInASession) {
   Connect();
   Page& page = *program.PageOf(PageId::Caudal);
   page.ChangeIndex(1);
+  std::size_t shownBefore = 0;
+  program.comms.Trace = [&](const std::string&) { shownBefore = world.dialogs.modals; };
   In([&] { page.GetForm().Get<Button>("BotonModificar").Click(); },
      [&](Form& form) {
        EXPECT_EQ(form.Name(), "SetTotal");
+       EXPECT_EQ(shownBefore, 1u) << "nothing is asked before the dialog stands";
        EXPECT_EQ(Caption(form, "LabelEstado"), "Preparado");
        EXPECT_EQ(Caption(form, "LabelPreValue"), NumText(program.totals[1]));
        form.Get<TextBox>("TextNew").Type("-5");

@@ -17,7 +17,7 @@ void ModbusBus::Restore(DeviceConf& conf, const TargetProfile&, const KeyReader&
   Describe(bus, [&](const FieldMeta& meta, auto& field) {
     SetFieldText(FieldRef(&field), read(section, std::string(meta.word)));
   });
-  if (!read(section, "MASTER").empty()) return;
+  if (!read(section, std::string(kRole)).empty()) return;
   bus.MASTER = kTrue;
   bus.SLAVE_ADDRESS = 0;
 }

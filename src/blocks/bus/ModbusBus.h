@@ -18,6 +18,8 @@ inline constexpr std::array<std::int32_t, 7> kModbusBitRates{1200,   2400,   480
 /// The MODBUS port of a configuration.
 struct ModbusBus {
   static constexpr SectionMeta kSection{"MODBUS", "MODBUS bus", ""};
+  /// The key of the role, which earlier files lack.
+  static constexpr std::string_view kRole = "MASTER";
 
   static void Clear(DeviceConf& conf, const TargetProfile&, const Translation&);
   template <class Visit>

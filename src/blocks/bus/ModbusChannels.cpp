@@ -6,7 +6,6 @@ namespace ostrel {
 namespace {
 
 constexpr int kCleared = 4;
-constexpr std::string_view kSizeWord = "TYPE";
 /// Constant, mask and negation on a line.
 constexpr int kConstantFields = 3;
 
@@ -37,7 +36,7 @@ void ReadChannel(LineReader& line, DeviceConf& conf, const DeviceInfo& info) {
 }
 
 Statement ChannelStatement(const ConfModbus& channel, const Receiver& receiver, int number) {
-  if (channel.MULT == 0 && channel.MASCARA == 0) return Statement("DISMB").Digits(number);
+  if (ModbusChannels::IsOff(channel)) return Statement("DISMB").Digits(number);
   Statement statement("MBCONF");
   statement.Digits(number).Text("=").Text(channel.NOMBRE);
   statement.Text(",UNIT=").Text(channel.UNIDAD);
@@ -77,7 +76,7 @@ void ModbusChannels::Restore(DeviceConf& conf, const TargetProfile& profile,
                              const KeyReader& read) {
   const auto restore = [&](const FieldId& id, const FieldMeta& meta, auto& field) {
     const std::string section = SectionName(id);
-    const bool isSize = id.word == kSizeWord;
+    const bool isSize = id.word == kSize;
     if (isSize && TextBool(read(section, std::string(kEarlierSize)))) return;
     SetFieldText(FieldRef(&field), read(section, KeyName(id, meta.placeForm)));
   };
@@ -106,10 +105,14 @@ void ModbusChannels::Compose(const DeviceConf& conf, const Receiver& receiver, i
             PersistenceBy(receiver.features));
 }
 
-void ModbusChannels::AsHeld(DeviceConf& conf, const Receiver& receiver) {
-  if (!receiver.Has(Feature::ModbusConstant)) return;
-  for (int c = 0; c < kChannels; ++c)
-    if (!conf.Modbus[c].ANALOG_MODE) conf.Modbus[c].MULT = 0;
+void ModbusChannels::AsSent(DeviceConf& read, const DeviceConf& sent, const Receiver& receiver) {
+  const bool hasConstant = receiver.Has(Feature::ModbusConstant);
+  for (int c = 0; c < kChannels; ++c) {
+    const ConfModbus& from = sent.Modbus[c];
+    ConfModbus& channel = read.Modbus[c];
+    if (!hasConstant) channel.MASCARA = from.MASCARA;
+    if (hasConstant && !from.ANALOG_MODE && channel.MULT == 0) channel.MULT = from.MULT;
+  }
 }
 
 }  // namespace ostrel

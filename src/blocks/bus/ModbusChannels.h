@@ -18,6 +18,7 @@ struct ModbusChannels {
   static constexpr int kChannels = 32;
   /// Earlier files mark a register of 32 bits by this key. Where it says so the size is not read.
   static constexpr std::string_view kEarlierSize = "SIZE32";
+  static constexpr std::string_view kSize = "TYPE";
 
   /// Resets the first four channels alone, and not all of these.
   static void Clear(DeviceConf& conf, const TargetProfile&, const Translation&);
@@ -35,11 +36,16 @@ struct ModbusChannels {
   static int Count(const Receiver& receiver) {
     return receiver.profile.ModbusCount > 0 ? kChannels : 0;
   }
+  /// A logger has no mark for "off": it is a channel without a multiplier and without a mask.
+  static bool IsOff(const ConfModbus& channel) {
+    return channel.MULT == 0 && channel.MASCARA == 0;
+  }
   /// Adds the statements of one channel. The alarm of one that is off goes all the same.
   static void Compose(const DeviceConf& conf, const Receiver& receiver, int channel,
                       StatementList& out);
-  /// A logger has no mode: it holds a digital channel with a multiplier of 0.
-  static void AsHeld(DeviceConf& conf, const Receiver& receiver);
+  /// A logger has no mode: it reports a digital channel with a multiplier of 0. A mask that it does
+  /// not know it cannot report.
+  static void AsSent(DeviceConf& read, const DeviceConf& sent, const Receiver& receiver);
 };
 
 }  // namespace ostrel

@@ -2,11 +2,14 @@
 
 #include "blocks/AlarmWire.h"
 #include "blocks/inputs/InterfaceCodes.h"
+#include "link/WireText.h"
 
 namespace ostrel {
 namespace {
 
-constexpr std::string_view kUnsetHalf = "0";
+constexpr std::size_t kOctetsOfHalf = 4;
+constexpr std::size_t kOctetDigits = 3;
+constexpr int kMostOctet = 255;
 
 /// The next four fields of a line, as they stand, with points between them.
 std::string ReadHalf(LineReader& line) {
@@ -22,6 +25,28 @@ std::string_view KindToken(std::int16_t code) {
 }
 
 }  // namespace
+
+std::vector<int> OctetsOfHalf(std::string_view half) {
+  if (half == kUnsetHalf) return std::vector<int>(kOctetsOfHalf, 0);
+  std::vector<int> octets;
+  for (std::size_t at = 0; at <= half.size();) {
+    const std::string_view digits = half.substr(at, half.find('.', at) - at);
+    const bool isPlain = digits.find_first_not_of("0123456789") == std::string_view::npos;
+    if (digits.empty() || digits.size() > kOctetDigits || !isPlain) return {};
+    octets.push_back(static_cast<int>(NumVal(digits)));
+    if (octets.back() > kMostOctet) return {};
+    at += digits.size() + 1;
+  }
+  return octets.size() == kOctetsOfHalf ? octets : std::vector<int>();
+}
+
+std::string WholeHalf(std::string_view half) {
+  const std::vector<int> octets = OctetsOfHalf(half);
+  if (octets.empty()) return std::string(half);
+  std::string whole;
+  for (const int octet : octets) whole.append(whole.empty() ? "" : ".").append(Padded(octet, kOctetDigits));
+  return whole;
+}
 
 void Probes::Clear(DeviceConf& conf, const TargetProfile&, const Translation&) {
   for (int c = 0; c < kChannels; ++c) {
@@ -77,6 +102,13 @@ void Probes::Compose(const DeviceConf& conf, const Receiver&, int channel, State
                 .Text(probe.ADDRESS2)
                 .Text(KindToken(probe.INTERFAZ)));
   AddAlarms(out, "ALMOW", channel, ConfOneWire::kShape, probe.ALARM);
+}
+
+void Probes::AsSent(DeviceConf& read, const DeviceConf& sent, const Receiver&) {
+  for (int c = 0; c < kChannels; ++c)
+    for (std::string ConfOneWire::*half : {&ConfOneWire::ADDRESS1, &ConfOneWire::ADDRESS2})
+      if (const std::string& from = sent.OneWire[c].*half; WholeHalf(from) == read.OneWire[c].*half)
+        read.OneWire[c].*half = from;
 }
 
 }  // namespace ostrel

@@ -1,6 +1,9 @@
 #pragma once
 
 #include <array>
+#include <string>
+#include <string_view>
+#include <vector>
 
 #include "blocks/Clearing.h"
 #include "blocks/Fields.h"
@@ -12,6 +15,16 @@ namespace ostrel {
 
 /// Interface codes of a 1-Wire probe, besides that of one that is off.
 enum ProbeInterface : std::int16_t { kInterfaceTemperature = 4, kInterfaceHumidity = 5 };
+
+/// Half of an identity that was never set.
+inline constexpr std::string_view kUnsetHalf = "0";
+
+/// The four octets of half an identity as numbers; empty when it is none. A half that was never set
+/// is all zeros.
+std::vector<int> OctetsOfHalf(std::string_view half);
+
+/// Half of an identity in three digits an octet; what is none stays as it is.
+std::string WholeHalf(std::string_view half);
 
 /// The 1-Wire probes of a configuration.
 struct Probes {
@@ -34,6 +47,8 @@ struct Probes {
   static int Count(const Receiver& receiver) { return receiver.profile.OneWireCount; }
   /// Adds the statements of one probe. The alarms of one that is off go all the same.
   static void Compose(const DeviceConf& conf, const Receiver&, int channel, StatementList& out);
+  /// A logger reports each octet of an identity in three digits.
+  static void AsSent(DeviceConf& read, const DeviceConf& sent, const Receiver&);
 };
 
 }  // namespace ostrel

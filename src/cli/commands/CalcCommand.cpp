@@ -31,9 +31,10 @@ const auto& UnitOf(const Units& units, const std::string& word) {
 }
 
 ExitCode RunPulse(CommandContext& context, const PulseOptions& options) {
-  const auto ratio =
-      PulseRatio(static_cast<float>(NumVal(options.amount)), UnitOf(kPulseUnits, options.unit),
-                 options.timeBase, UnitOf(kFlowUnits, options.flow));
+  const auto amount = ToFloat(NumVal(options.amount));
+  const auto ratio = amount ? PulseRatio(*amount, UnitOf(kPulseUnits, options.unit),
+                                         options.timeBase, UnitOf(kFlowUnits, options.flow))
+                            : std::nullopt;
   if (!ratio)
     return context.console.Fail(ExitCode::Usage,
                                 "there is no ratio for a time base of 0 seconds, nor one beyond "

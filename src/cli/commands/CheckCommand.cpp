@@ -22,7 +22,7 @@ Json FoundJson(const std::string& file, const std::vector<FoundByRule>& found, s
                     {"severity", SeverityText(rule->severity)},
                     {"section", finding.section},
                     {"key", finding.key},
-                    {"sentence", finding.sentence}});
+                    {"sentence", Filled(finding.sentence)}});
   return {{"file", file},
           {"errors", errors},
           {"warnings", found.size() - errors},

@@ -61,7 +61,7 @@ QString WithoutAccessKey(const QString& text) {
 
 QString WithAccessKey(const QString& caption, std::set<QChar>& taken) {
   for (const bool atWordStart : {true, false}) {
-    for (qsizetype i = 0; i < caption.size(); ++i) {
+    for (qsizetype i = 0; i < caption.size() && caption[i] != u'('; ++i) {
       if (atWordStart && i > 0 && caption[i - 1].isLetterOrNumber()) continue;
       if (!IsKey(caption[i]) || !taken.insert(caption[i].toLower()).second) continue;
       return Marked(caption, i);

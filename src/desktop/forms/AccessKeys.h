@@ -14,7 +14,7 @@ QString EscapedCaption(const QString& caption);
 QString WithoutAccessKey(const QString& text);
 
 /// The caption with a mark ahead of a letter that `taken` does not hold, which joins it: the first
-/// letter of a word where possible. Without a mark when no letter is left.
+/// letter of a word where possible, and none in brackets. Without a mark when no letter is left.
 QString WithAccessKey(const QString& caption, std::set<QChar>& taken);
 
 /// Gives the buttons, boxes and field labels below a widget access keys, each letter once.

@@ -3,6 +3,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGroupBox>
+#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -13,10 +14,12 @@
 #include <QSignalBlocker>
 #include <QStackedWidget>
 #include <QStyle>
+#include <QTableWidget>
 #include <QTimeEdit>
 #include <algorithm>
 
 #include "base/Values.h"
+#include "controls/NumberBox.h"
 #include "desktop/forms/AccessKeys.h"
 #include "desktop/forms/Words.h"
 
@@ -34,11 +37,15 @@ void FollowFace(QWidget& widget, const Face& face) {
 
 /// Sets a caption, unless it is shown already, an access key in it or not.
 template <class Widget>
-void FollowCaption(Widget& widget, const Face& face) {
-  const QString caption = ToQt(face.Caption());
+void FollowCaption(Widget& widget, const QString& caption) {
   if (WithoutAccessKey(widget.text()) == caption) return;
   widget.setText(EscapedCaption(caption));
   widget.setAccessibleName(caption);
+}
+
+template <class Widget>
+void FollowCaption(Widget& widget, const Face& face) {
+  FollowCaption(widget, ToQt(face.Caption()));
 }
 
 Bound BindKind(Label& label, const BindOptions&, QWidget* parent) {
@@ -71,7 +78,9 @@ Bound BindKind(Button& button, const BindOptions& options, QWidget* parent) {
                    [&button, guard = options.guard] { guard([&] { button.Click(); }); });
   return {widget, [widget, &button] {
             FollowFace(*widget, button.face);
-            if (!button.face.Caption().empty()) FollowCaption(*widget, button.face);
+            QString caption = ToQt(button.face.Caption());
+            if (button.Count() >= 0) caption += QString(" (%1)").arg(button.Count());
+            if (!button.face.Caption().empty()) FollowCaption(*widget, caption);
           }};
 }
 
@@ -104,13 +113,9 @@ Bound BindKind(OptionButton& option, const BindOptions& options, QWidget* parent
           }};
 }
 
-/// Paints a box of a bad number and says what the number counts as.
+/// Paints a box of a bad number.
 void FollowColour(QLineEdit& edit, const TextBox& box) {
   const bool isBad = box.face.Colour() == BackColour::Red;
-  edit.setToolTip(isBad ? Words::tr("This is not a number of the kind expected here. It counts as "
-                                    "%1.")
-                              .arg(ToQt(NumText(NumVal(box.Text()))).trimmed())
-                        : QString());
   if (edit.property("bad").toBool() == isBad) return;
   edit.setProperty("bad", isBad);
   edit.style()->unpolish(&edit);
@@ -121,8 +126,15 @@ Bound BindKind(TextBox& box, const BindOptions& options, QWidget* parent) {
   auto* widget = new QLineEdit(parent);
   QObject::connect(widget, &QLineEdit::textEdited, widget,
                    [&box, guard = options.guard](const QString& text) {
-                     guard([&] { box.Type(FromQt(text)); });
+                     guard([&] {
+                       box.Type(FromQt(text));
+                       TestNumberBox(box);
+                     });
                    });
+  // A decimal comma is put right when the box is left: in the middle of typing it may be another.
+  QObject::connect(widget, &QLineEdit::editingFinished, widget, [&box, guard = options.guard] {
+    if (!box.NumberKind().empty()) guard([&] { CheckNumberBox(box, box.NumberKind()); });
+  });
   return {widget, [widget, &box] {
             FollowFace(*widget, box.face);
             FollowColour(*widget, box);
@@ -133,8 +145,10 @@ Bound BindKind(TextBox& box, const BindOptions& options, QWidget* parent) {
             // Setting it again would send the cursor to the end and forget what can be undone.
             if (widget->maxLength() != length) widget->setMaxLength(length);
             if (widget->text() == text) return;
+            const int cursor = widget->cursorPosition();
             widget->setText(text);
-            if (!widget->hasFocus()) widget->setCursorPosition(0);  // its beginning is seen
+            // Its beginning is seen, or the place at which it is being edited.
+            widget->setCursorPosition(widget->hasFocus() ? cursor : 0);
           }};
 }
 
@@ -173,7 +187,74 @@ void FollowRows(QListWidget& widget, const std::vector<ListRow>& rows) {
   }
 }
 
+/// Runs something when Enter is pressed in a list.
+template <class Run>
+void OnEnter(QWidget& widget, const Run& run) {
+  for (const auto key : {Qt::Key_Return, Qt::Key_Enter}) {
+    auto* shortcut = new QShortcut(QKeySequence(key), &widget);
+    shortcut->setContext(Qt::WidgetShortcut);
+    QObject::connect(shortcut, &QShortcut::activated, &widget, run);
+  }
+}
+
+/// An open list of several columns.
+Bound BindTable(ListBox& box, const BindOptions& options, QWidget* parent) {
+  auto* widget = new QTableWidget(parent);
+  const auto doubleClick = [widget, &box, guard = options.guard] {
+    guard([&] { box.DoubleClick(widget->currentRow()); });
+  };
+  widget->setColumnCount(static_cast<int>(options.columns.size()));
+  widget->setHorizontalHeaderLabels(options.columns);
+  widget->setEditTriggers(QAbstractItemView::NoEditTriggers);
+  widget->setSelectionBehavior(QAbstractItemView::SelectRows);
+  widget->setSelectionMode(QAbstractItemView::SingleSelection);
+  widget->setTabKeyNavigation(false);
+  widget->verticalHeader()->hide();
+  widget->verticalHeader()->setDefaultSectionSize(24);
+  widget->horizontalHeader()->setStretchLastSection(true);
+  QObject::connect(
+      widget, &QTableWidget::currentCellChanged, widget,
+      [&box, guard = options.guard](int row) { guard([&] { box.SetPosition(row); }); });
+  QObject::connect(widget, &QTableWidget::cellDoubleClicked, widget, doubleClick);
+  OnEnter(*widget, doubleClick);
+  return {widget, [widget, &box, cells = options.cells] {
+            FollowFace(*widget, box.face);
+            const QSignalBlocker blocker(widget);
+            const auto& rows = box.Rows();
+            widget->setRowCount(static_cast<int>(rows.size()));
+            for (int row = 0; row < widget->rowCount(); ++row) {
+              const QStringList texts = cells(rows[static_cast<std::size_t>(row)]);
+              for (int column = 0; column < widget->columnCount(); ++column) {
+                const QTableWidgetItem* item = widget->item(row, column);
+                if (!item || item->text() != texts.value(column))
+                  widget->setItem(row, column, new QTableWidgetItem(texts.value(column)));
+              }
+            }
+            if (widget->currentRow() != box.Position())
+              widget->setCurrentCell(box.Position(), box.Position() < 0 ? -1 : 0);
+            for (int column = 0; column + 1 < widget->columnCount(); ++column)
+              widget->resizeColumnToContents(column);
+          }};
+}
+
+/// Lets the operator move the rows of a list, by drag and by Alt with the arrow keys.
+void LetMove(QListWidget& widget, ListBox& box, const Guard& guard) {
+  widget.setDragDropMode(QAbstractItemView::InternalMove);
+  QObject::connect(widget.model(), &QAbstractItemModel::rowsMoved, &widget,
+                   [&box, guard](const QModelIndex&, int row, int, const QModelIndex&, int before) {
+                     guard([&] { box.Move(row, before > row ? before - 1 : before); });
+                   });
+  for (const auto& [key, step] : {std::pair{Qt::Key_Up, -1}, std::pair{Qt::Key_Down, 1}}) {
+    auto* shortcut = new QShortcut(QKeySequence(Qt::AltModifier | key), &widget);
+    shortcut->setContext(Qt::WidgetShortcut);
+    QObject::connect(shortcut, &QShortcut::activated, &widget, [&box, guard, way = step] {
+      guard([&] { box.Move(box.Position(), box.Position() + way); });
+    });
+  }
+}
+
 Bound BindKind(ListBox& box, const BindOptions& options, QWidget* parent) {
+  if (options.cells) return BindTable(box, options, parent);
   auto* widget = new QListWidget(parent);
   const auto doubleClick = [widget, &box, guard = options.guard] {
     guard([&] { box.DoubleClick(widget->currentRow()); });
@@ -182,11 +263,8 @@ Bound BindKind(ListBox& box, const BindOptions& options, QWidget* parent) {
       widget, &QListWidget::currentRowChanged, widget,
       [&box, guard = options.guard](int row) { guard([&] { box.SetPosition(row); }); });
   QObject::connect(widget, &QListWidget::itemDoubleClicked, widget, doubleClick);
-  for (const auto key : {Qt::Key_Return, Qt::Key_Enter}) {
-    auto* shortcut = new QShortcut(QKeySequence(key), widget);
-    shortcut->setContext(Qt::WidgetShortcut);
-    QObject::connect(shortcut, &QShortcut::activated, widget, doubleClick);
-  }
+  OnEnter(*widget, doubleClick);
+  if (box.isOrdered) LetMove(*widget, box, options.guard);
   return {widget, [widget, &box] {
             FollowFace(*widget, box.face);
             const QSignalBlocker blocker(widget);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 #include <QWidget>
 #include <functional>
 
@@ -21,6 +22,10 @@ struct BindOptions {
   Guard guard;
   /// Text of a row of a drop-down list, where the plain one is not enough.
   std::function<QString(const ListRow&)> rowText;
+  /// The columns of an open list that is shown as a table, where one row of text is not enough, and
+  /// what a row has in them.
+  QStringList columns{};
+  std::function<QStringList(const ListRow&)> cells{};
   /// Makes the view of a picture.
   std::function<Bound(Picture&, QWidget* parent)> pictureView;
 };

@@ -4,17 +4,25 @@
 #include <QComboBox>
 #include <QEvent>
 #include <QHBoxLayout>
+#include <QStyle>
 #include <QTimeEdit>
 #include <utility>
 
+#include "base/Values.h"
+#include "controls/NumberBox.h"
 #include "desktop/forms/AccessKeys.h"
+#include "desktop/forms/NoteBubble.h"
 #include "desktop/forms/PictureView.h"
 #include "desktop/forms/Words.h"
 
 namespace ostrel {
 
 FormView::FormView(Form& form, Guard guard, QWidget* parent)
-    : QWidget(parent), form_(form), guard_(std::move(guard)), seen_(Look()) {
+    : QWidget(parent),
+      form_(form),
+      guard_(std::move(guard)),
+      bubble_(new NoteBubble(this)),
+      seen_(Look()) {
   setObjectName(ToQt(form.Name()));
   form_.OnChanged = [this] { FollowForm(); };
 }
@@ -31,9 +39,13 @@ void FormView::Detach() {
 QWidget* FormView::Show(std::string_view control) {
   if (QWidget* widget = WidgetOf(control)) return widget;
   const auto rowText = rowTexts_.find(control);
-  const BindOptions options{.guard = guard_,
-                            .rowText = rowText == rowTexts_.end() ? nullptr : rowText->second,
-                            .pictureView = MakePictureView};
+  BindOptions options{.guard = guard_,
+                      .rowText = rowText == rowTexts_.end() ? nullptr : rowText->second,
+                      .pictureView = MakePictureView};
+  if (const auto columns = columns_.find(control); columns != columns_.end()) {
+    options.columns = columns->second.names;
+    options.cells = columns->second.cells;
+  }
   const ControlRef ref = form_[control];
   const Bound bound = Bind(ref, options, this);
   bound_.emplace(control, bound);
@@ -41,10 +53,11 @@ QWidget* FormView::Show(std::string_view control) {
     Follow(name);
     if (OnControlChanged) OnControlChanged();
   };
-  if (qobject_cast<QComboBox*>(bound.widget) || qobject_cast<QTimeEdit*>(bound.widget)) {
+  if (!bound.widget) return nullptr;
+  if (qobject_cast<QComboBox*>(bound.widget) || qobject_cast<QTimeEdit*>(bound.widget))
     bound.widget->setFocusPolicy(Qt::StrongFocus);
-    bound.widget->installEventFilter(this);
-  }
+  if (bound.widget->focusPolicy() != Qt::NoFocus) bound.widget->installEventFilter(this);
+  ShowNote(control);
   return bound.widget;
 }
 
@@ -88,9 +101,23 @@ QWidget* FormView::ShowNamed(std::string_view control, const QString& accessible
   return widget;
 }
 
+void FormView::Whenever(std::initializer_list<std::string_view> controls,
+                        std::function<void()> run) {
+  for (const std::string_view control : controls) {
+    Show(control);
+    whenever_.emplace(control, run);
+  }
+  run();
+}
+
 void FormView::SetRowText(std::string_view control,
                           std::function<QString(const ListRow&)> rowText) {
   rowTexts_.emplace(control, std::move(rowText));
+}
+
+void FormView::SetColumns(std::string_view control, const QStringList& columns,
+                          std::function<QStringList(const ListRow&)> cells) {
+  columns_.emplace(control, Columns{columns, std::move(cells)});
 }
 
 QWidget* FormView::Heading(const QString& untitled) {
@@ -118,6 +145,7 @@ void FormView::Follow(std::string_view control) {
   QWidget* widget = found->second.widget;
   const QString before = widget->accessibleName();
   found->second.follow();
+  ShowNote(control);
   if (const auto labels = companions_.find(control); labels != companions_.end()) {
     const Face& face = FaceOf(form_[control]);
     for (QLabel* label : labels->second) {
@@ -126,6 +154,8 @@ void FormView::Follow(std::string_view control) {
     }
   }
   if (const auto label = labels_.find(control); label != labels_.end()) Follow(label->second);
+  const auto [first, last] = whenever_.equal_range(control);
+  for (auto run = first; run != last; ++run) run->second();
   if (finished_ && widget->accessibleName() != before) AssignAccessKeys(*this);
 }
 
@@ -144,10 +174,50 @@ FormView::Seen FormView::Look() const {
   return {form_.Title(), form_.Focus(), form_.Visible(), form_.Enabled(), form_.MousePointer()};
 }
 
+void FormView::SetNotes(std::map<std::string, QString, std::less<>> notes) {
+  if (notes == notes_) return;
+  const auto former = std::exchange(notes_, std::move(notes));
+  for (const auto& [control, note] : former) ShowNote(control);
+  for (const auto& [control, note] : notes_) ShowNote(control);
+}
+
+QString FormView::NoteOf(std::string_view control) const {
+  QStringList notes;
+  const ControlRef ref = form_[control];
+  if (auto* const* box = std::get_if<TextBox*>(&ref);
+      box && (*box)->face.Colour() == BackColour::Red)
+    notes << Words::tr("This is not a number of the kind expected here. It counts as %1.")
+                 .arg(ToQt(NumText(NumberIn(**box))).trimmed());
+  if (const auto note = notes_.find(control); note != notes_.end()) notes << note->second;
+  return notes.join(u' ');
+}
+
+void FormView::ShowNote(std::string_view control) {
+  QWidget* widget = WidgetOf(control);
+  if (!widget) return;
+  const QString note = NoteOf(control);
+  const bool isNoted = !note.isEmpty();
+  if (isNoted || widget->property("noted").toBool()) {
+    widget->setToolTip(note);
+    widget->setAccessibleDescription(note);
+  }
+  if (widget->property("noted").toBool() != isNoted) {
+    widget->setProperty("noted", isNoted);
+    widget->style()->unpolish(widget);
+    widget->style()->polish(widget);
+  }
+  if (widget->hasFocus()) bubble_->Tell(*widget, note);
+}
+
 bool FormView::eventFilter(QObject* watched, QEvent* event) {
-  if (event->type() != QEvent::Wheel) return QWidget::eventFilter(watched, event);
   const auto* widget = qobject_cast<QWidget*>(watched);
-  if (widget && widget->hasFocus()) return false;
+  if (widget && event->type() == QEvent::FocusIn)
+    bubble_->Tell(*widget, NoteOf(FromQt(widget->objectName())));
+  if (event->type() == QEvent::FocusOut) bubble_->hide();
+  const bool isBox =
+      qobject_cast<const QComboBox*>(widget) || qobject_cast<const QTimeEdit*>(widget);
+  if (event->type() != QEvent::Wheel || !isBox) return QWidget::eventFilter(watched, event);
+  if (widget->hasFocus()) return false;
   event->ignore();
   return true;
 }

@@ -4,6 +4,7 @@
 #include <QString>
 #include <QWidget>
 #include <functional>
+#include <initializer_list>
 #include <map>
 #include <set>
 #include <string>
@@ -15,6 +16,8 @@
 #include "desktop/forms/Guard.h"
 
 namespace ostrel {
+
+class NoteBubble;
 
 /// Draws one form: makes the widget of each control that a layout asks for, and keeps them up to
 /// their controls. It holds no state of its own, so that it can be thrown away and made anew at any
@@ -48,8 +51,13 @@ class FormView final : public QWidget {
     own_.insert(widget);
     return widget;
   }
+  /// Runs something now, and whenever what a control shows has changed.
+  void Whenever(std::initializer_list<std::string_view> controls, std::function<void()> run);
   /// How the rows of a drop-down list read. Ahead of the first asking for it.
   void SetRowText(std::string_view control, std::function<QString(const ListRow&)> rowText);
+  /// Shows an open list as a table. Ahead of the first asking for it.
+  void SetColumns(std::string_view control, const QStringList& columns,
+                  std::function<QStringList(const ListRow&)> cells);
   /// A heading with the form's title above the rest, with a place for more at its right.
   QWidget* Heading(const QString& untitled);
   /// Called by a layout when all stands: access keys, and the present state of the form.
@@ -62,6 +70,9 @@ class FormView final : public QWidget {
   const std::set<const QWidget*>& OwnWidgets() const { return own_; }
   /// Brings one widget up to its control.
   void Follow(std::string_view control);
+  /// What is to be told of controls, by their names, in the place of what was told before: each
+  /// gets a mark, and says it while it has the focus.
+  void SetNotes(std::map<std::string, QString, std::less<>> notes);
   /// Lets go of the controls, ahead of being replaced.
   void Detach();
 
@@ -71,11 +82,15 @@ class FormView final : public QWidget {
   std::function<void()> OnControlChanged;
 
  protected:
-  /// Keeps a turn of the wheel over a box that has not the focus from changing it unseen.
+  /// Keeps a turn of the wheel over a box that has not the focus from changing it unseen, and shows
+  /// what is told of the control that gets the focus.
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
   void FollowForm();
+  /// Marks a control of which something is to be told, and tells it where it has the focus.
+  void ShowNote(std::string_view control);
+  QString NoteOf(std::string_view control) const;
 
   Form& form_;
   Guard guard_;
@@ -85,7 +100,15 @@ class FormView final : public QWidget {
   /// The form's label of a control.
   std::map<std::string, std::string, std::less<>> labels_;
   std::map<std::string, std::function<QString(const ListRow&)>, std::less<>> rowTexts_;
+  struct Columns {
+    QStringList names;
+    std::function<QStringList(const ListRow&)> cells;
+  };
+  std::map<std::string, Columns, std::less<>> columns_;
+  std::multimap<std::string, std::function<void()>, std::less<>> whenever_;
   std::set<const QWidget*> own_;
+  std::map<std::string, QString, std::less<>> notes_;
+  NoteBubble* bubble_;
   QLabel* heading_ = nullptr;
   QString untitled_;
   /// What the form showed of itself when it was last looked at.

@@ -11,6 +11,20 @@ namespace {
 constexpr int kBoxPicture = 44;  // side in pixels
 constexpr qreal kGrid = 24;      // signs are drawn on a square of this side
 
+/// An arrow between a logger's tray and the program; `up` away from the tray.
+void DrawArrow(QPainter& p, bool up) {
+  p.drawPolyline(QPolygonF({{4, 15}, {4, 20}, {20, 20}, {20, 15}}));
+  p.drawLine(QPointF(12, 4), QPointF(12, 15));
+  const qreal tip = up ? 4 : 15, side = up ? 8.5 : 10.5;
+  p.drawPolyline(QPolygonF({{7.5, side}, {12, tip}, {16.5, side}}));
+}
+
+void DrawCancel(QPainter& p) {
+  p.drawEllipse(QPointF(12, 12), 8.5, 8.5);
+  p.drawLine(QPointF(8.8, 8.8), QPointF(15.2, 15.2));
+  p.drawLine(QPointF(15.2, 8.8), QPointF(8.8, 15.2));
+}
+
 void DrawOpen(QPainter& p) {
   QPainterPath back;
   back.moveTo(3, 18);
@@ -27,6 +41,12 @@ void DrawSave(QPainter& p) {
   p.drawPolygon(QPolygonF({{4, 4}, {16.5, 4}, {20, 7.5}, {20, 20}, {4, 20}}));
   p.drawRect(QRectF(8, 4, 7, 5));
   p.drawRect(QRectF(7, 13, 10, 7));
+}
+
+void DrawSaveAs(QPainter& p) {
+  p.drawPolyline(QPolygonF({{12, 20}, {4, 20}, {4, 4}, {16.5, 4}, {20, 7.5}, {20, 11}}));
+  p.drawRect(QRectF(8, 4, 7, 5));
+  p.drawPolygon(QPolygonF({{14, 18}, {20, 12}, {22, 14}, {16, 20}, {13.4, 20.6}}));
 }
 
 void DrawRecent(QPainter& p) {
@@ -58,26 +78,53 @@ void DrawTrace(QPainter& p) {
   p.drawLine(QPointF(11.5, 15), QPointF(16.5, 15));
 }
 
+/// A sheet of a calendar.
+void DrawSchedule(QPainter& p) {
+  p.drawRoundedRect(QRectF(4, 5, 16, 15.5), 2, 2);
+  p.drawLine(QPointF(4, 10), QPointF(20, 10));
+  for (const qreal x : {8.5, 15.5}) p.drawLine(QPointF(x, 3), QPointF(x, 7));
+  for (const qreal x : {8.5, 12.0, 15.5}) p.drawPoint(QPointF(x, 14));
+  for (const qreal x : {8.5, 12.0}) p.drawPoint(QPointF(x, 17));
+}
+
 void DrawLanguage(QPainter& p) {
   p.drawEllipse(QPointF(12, 12), 8.5, 8.5);
   p.drawEllipse(QPointF(12, 12), 3.8, 8.5);
   p.drawLine(QPointF(3.5, 12), QPointF(20.5, 12));
 }
 
+void DrawFindings(QPainter& p) {
+  p.drawPolygon(QPolygonF({{12, 3.5}, {21.5, 20}, {2.5, 20}}));
+  p.drawLine(QPointF(12, 9.5), QPointF(12, 14));
+  p.drawPoint(QPointF(12, 17));
+}
+
 void Draw(QPainter& painter, Sign sign) {
   switch (sign) {
+    case Sign::Read:
+      return DrawArrow(painter, true);
+    case Sign::Write:
+      return DrawArrow(painter, false);
+    case Sign::Cancel:
+      return DrawCancel(painter);
     case Sign::Open:
       return DrawOpen(painter);
     case Sign::Save:
       return DrawSave(painter);
+    case Sign::SaveAs:
+      return DrawSaveAs(painter);
     case Sign::Recent:
       return DrawRecent(painter);
     case Sign::Copies:
       return DrawCopies(painter);
     case Sign::Compare:
       return DrawCompare(painter);
+    case Sign::Schedule:
+      return DrawSchedule(painter);
     case Sign::Trace:
       return DrawTrace(painter);
+    case Sign::Findings:
+      return DrawFindings(painter);
     case Sign::Language:
       return DrawLanguage(painter);
   }

@@ -12,7 +12,21 @@ class QPalette;
 namespace ostrel {
 
 /// The signs of the tool bar.
-enum class Sign { Open, Save, Recent, Copies, Compare, Trace, Language };
+enum class Sign {
+  Read,
+  Write,
+  Cancel,
+  Open,
+  Save,
+  SaveAs,
+  Recent,
+  Copies,
+  Compare,
+  Schedule,
+  Trace,
+  Findings,
+  Language
+};
 
 /// A sign drawn in the colours of a palette, sharp at any scale.
 QIcon MakeIcon(Sign sign, const QPalette& palette);

@@ -6,8 +6,10 @@
 #include <QFileInfo>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QTimer>
 #include <QVBoxLayout>
 
+#include "base/Scope.h"
 #include "desktop/forms/Icons.h"
 #include "desktop/forms/Words.h"
 #include "desktop/window/MainWindow.h"
@@ -47,6 +49,10 @@ QWidget* QtDialogs::Parent() const {
 }
 
 BoxAnswer QtDialogs::ShowMessage(const MessageBox& box) {
+  if (box.buttons == BoxButtons::Ok && !isFormUp_ && window_ && window_->IsLineInUse()) {
+    ShowBeside(box);
+    return BoxAnswer::Ok;
+  }
   QMessageBox message(QMessageBox::NoIcon, ToQt(box.title), ToQt(box.text), QMessageBox::NoButton,
                       Parent());
   message.setTextFormat(Qt::PlainText);
@@ -62,6 +68,22 @@ BoxAnswer QtDialogs::ShowMessage(const MessageBox& box) {
   message.setEscapeButton(no);
   message.exec();
   return message.clickedButton() == yes ? BoxAnswer::Yes : BoxAnswer::No;
+}
+
+/// Shows what wants no answer and goes on: a dialogue with a logger that is under way would wait
+/// for whoever waits here. What still stands is not said twice.
+void QtDialogs::ShowBeside(const MessageBox& box) {
+  beside_.removeAll(nullptr);
+  for (const auto& shown : beside_)
+    if (shown->text() == ToQt(box.text)) return;
+  auto* message = new QMessageBox(QMessageBox::NoIcon, ToQt(box.title), ToQt(box.text),
+                                  QMessageBox::NoButton, Parent());
+  message->setAttribute(Qt::WA_DeleteOnClose);
+  message->setTextFormat(Qt::PlainText);
+  message->setIconPixmap(BoxPicture(box.icon));
+  message->addButton(Words::tr("OK"), QMessageBox::AcceptRole);
+  beside_.append(message);
+  message->open();
 }
 
 std::optional<std::string> QtDialogs::ChooseFile(const FileQuestion& question) {
@@ -87,7 +109,7 @@ std::optional<std::string> QtDialogs::ChooseFile(const FileQuestion& question) {
 /// The form of the window asks by itself; it has a prompt of its own.
 std::string QtDialogs::AskCode(const std::string&) { return window_ ? window_->AskCode() : ""; }
 
-void QtDialogs::ShowModal(Modal& modal) {
+void QtDialogs::ShowModal(Modal& modal, const std::function<void()>& shown) {
   Form& form = AsForm(modal);
   QDialog dialog(Parent());
   auto* layout = new QVBoxLayout(&dialog);
@@ -95,10 +117,12 @@ void QtDialogs::ShowModal(Modal& modal) {
   layout->addWidget(view);
   dialog.setWindowTitle(ToQt(form.Title()));
   form.Show();
+  const Lent up(isFormUp_, true);
   view->OnFormChanged = [&] {
     dialog.setWindowTitle(ToQt(form.Title()));
     if (!form.Visible()) dialog.accept();
   };
+  if (shown) QTimer::singleShot(0, &dialog, shown);
   dialog.exec();
   view->OnFormChanged = nullptr;
   form.Hide();

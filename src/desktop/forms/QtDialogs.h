@@ -1,11 +1,13 @@
 #pragma once
 
+#include <QList>
 #include <QPointer>
 #include <QString>
 #include <QStringList>
 
 #include "platform/Dialogs.h"
 
+class QMessageBox;
 class QWidget;
 
 namespace ostrel {
@@ -24,7 +26,7 @@ class QtDialogs final : public Dialogs {
   BoxAnswer ShowMessage(const MessageBox& box) override;
   std::optional<std::string> ChooseFile(const FileQuestion& question) override;
   std::string AskCode(const std::string& prompt) override;
-  void ShowModal(Modal& modal) override;
+  void ShowModal(Modal& modal, const std::function<void()>& shown) override;
   void Beep() override;
 
   /// The folder in which choosing a file starts; follows the operator's choices.
@@ -33,7 +35,11 @@ class QtDialogs final : public Dialogs {
  private:
   QWidget* Parent() const;
 
+  void ShowBeside(const MessageBox& box);
+
   QPointer<MainWindow> window_;
+  bool isFormUp_ = false;                ///< a form is asked for, and all waits for it already
+  QList<QPointer<QMessageBox>> beside_;  ///< boxes that stand while the program goes on
 };
 
 /// The name filters of a file dialog, from description and pattern pairs joined by "|".

@@ -22,8 +22,11 @@ void LayOutThreshold(FormView& view, const Card& card, const ThresholdWords& thr
                      const ControlNames& names) {
   QLabel* label = ThresholdLabel(view, threshold, names);
   QWidget* box = Narrow(view.Show(names(threshold.control)), 12);
-  if (!threshold.beside.empty())
-    box = Joined(view, {box, view.Show(threshold.beside)}, Qt::Horizontal, true);
+  QWidget* unit = UnitBeside(view, names(threshold.control), names("Unidad"));
+  if (threshold.beside.empty())
+    box = Joined(view, {box, unit}, Qt::Horizontal, true);
+  else
+    box = Joined(view, {box, view.Show(threshold.beside), unit}, Qt::Horizontal, true);
   AddField(card, label, box);
 }
 

@@ -96,7 +96,8 @@ void LayOutCounterTab(FormView& view, QVBoxLayout& tab) {
   const Card weight = MakeCard(view, std::string_view("C_FrameConversion"));
   weight.grid->addWidget(view.LabelFor("C_Ratio", std::string_view("C_Label1")), 0, 0);
   weight.grid->addWidget(Narrow(view.Show("C_Ratio"), 12), 0, 1);
-  weight.grid->setColumnStretch(2, 1);
+  weight.grid->addWidget(UnitBeside(view, "C_Ratio", "C_Unidad"), 0, 2);
+  weight.grid->setColumnStretch(3, 1);
   const Card total = MakeCard(view, Words::tr("Totaliser"));
   total.grid->addWidget(view.Show("C_TotalText"), 0, 0);
   total.grid->addWidget(view.Show("C_BotonModificar"), 0, 1);

@@ -3,15 +3,34 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QProgressBar>
+#include <QStackedWidget>
 #include <QVBoxLayout>
 
 #include "desktop/forms/Words.h"
 #include "desktop/layouts/LayoutParts.h"
 #include "desktop/layouts/Layouts.h"
-#include "desktop/window/FaultDetails.h"
+#include "desktop/window/FaultNote.h"
+#include "desktop/window/TransferMeter.h"
 
 namespace ostrel {
 namespace {
+
+/// The form's bar has one length for all transfers. While one runs, what is known of that one
+/// stands in its place.
+QWidget* ProgressPlace(FormView& view) {
+  auto* place = new QStackedWidget(&view);
+  place->setObjectName("ProgressPlace");
+  auto* former = new QWidget(place);
+  auto* row = new QHBoxLayout(former);
+  row->setContentsMargins(0, 0, 0, 0);
+  view.ShowNamed("PBar", Words::tr("Progress"));
+  view.Show<QProgressBar>("PBar")->setTextVisible(false);
+  row->addWidget(view.Show("PBar"));
+  place->addWidget(former);
+  place->addWidget(view.Own(new TransferMeter(place)));
+  place->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
+  return place;
+}
 
 Card SessionCard(FormView& view, const LayoutContext& context) {
   const Card card = MakeCard(view, Words::tr("Session"));
@@ -34,15 +53,10 @@ Card SessionCard(FormView& view, const LayoutContext& context) {
   auto* status = view.Show<QLabel>("ComStat");
   status->setObjectName("Status");
   status->setWordWrap(true);
-  auto* left = view.Own(new QLabel(&view));
-  left->setObjectName("TimeLeft");
-  auto* details = view.Own(new FaultDetails(&view));
-  view.ShowNamed("PBar", Words::tr("Progress"));
-  view.Show<QProgressBar>("PBar")->setTextVisible(false);
+  auto* fault = view.Own(new FaultNote("FaultNote", &view));
   card.grid->addWidget(status, 4, 0, 1, 3);
-  card.grid->addWidget(details, 5, 0, 1, 3);
-  card.grid->addWidget(view.Show("PBar"), 6, 0, 1, 2);
-  card.grid->addWidget(left, 6, 2);
+  card.grid->addWidget(fault, 5, 0, 1, 3);
+  card.grid->addWidget(ProgressPlace(view), 6, 0, 1, 3);
   card.grid->setColumnStretch(1, 1);
   card.grid->setRowStretch(7, 1);
   return card;
@@ -92,7 +106,8 @@ Card LoggerCard(FormView& view) {
 }
 
 /// The controls in which one telephone is entered.
-QGridLayout* PhoneEntry(FormView& view) {
+QGridLayout* PhoneEntry(FormView& view, const LayoutContext& context) {
+  view.SetRowText("Privilegios", context.wordText);
   auto* grid = new QGridLayout;
   grid->setSpacing(6);
   int row = 0;
@@ -117,9 +132,34 @@ QVBoxLayout* PhoneMask(FormView& view) {
   return column;
 }
 
+QString PrivilegeText(QString level) {
+  if (level == "PRV3") return "Kestrel";
+  if (level == "PRV2") return Words::tr("Administrator");
+  if (level == "PRV1") return Words::tr("Advanced user");
+  return level == "PRV0" ? Words::tr("User") : level;
+}
+
+QString MaskText(const QString& mode, const QString& channels) {
+  if (mode == "MASKMODE1") return channels.isEmpty() ? Words::tr("No alarms") : channels;
+  if (mode == "MASKMODE2" && !channels.isEmpty()) return Words::tr("All but %1").arg(channels);
+  return Words::tr("All alarms");
+}
+
+/// A telephone in words: its row reads "600111222,Prio=2,PRV1,MASKMODE1,DI0,AI1".
+QStringList PhoneCells(const ListRow& row) {
+  const QStringList parts = ToQt(row.text).split(u',');
+  const QString priority = parts.value(1).section(u'=', 1);
+  return {parts.value(0), priority == "0" ? Words::tr("None") : priority,
+          PrivilegeText(parts.value(2)), MaskText(parts.value(3), parts.mid(4).join(", "))};
+}
+
 QVBoxLayout* PhoneList(FormView& view) {
   auto* column = new QVBoxLayout;
   column->setSpacing(6);
+  view.SetColumns(
+      "ListaTlf",
+      {Words::tr("Number"), Words::tr("Priority"), Words::tr("Privilege"), Words::tr("Alarms of")},
+      PhoneCells);
   column->addWidget(view.LabelFor("ListaTlf", std::string_view("LabelEditar")));
   column->addWidget(view.Show("ListaTlf"), 1);
   auto* buttons = new QHBoxLayout;
@@ -131,15 +171,22 @@ QVBoxLayout* PhoneList(FormView& view) {
   return column;
 }
 
-Card PhoneCard(FormView& view) {
+/// A list is as high as the room below the rest of the page allows.
+void TakesWhatIsLeft(QWidget* list) {
+  constexpr int kLeast = 80;
+  list->setMinimumHeight(kLeast);
+  list->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
+}
+
+Card PhoneCard(FormView& view, const LayoutContext& context) {
   const Card card = MakeCard(view, Words::tr("Authorised telephones"));
   card.grid->setHorizontalSpacing(18);
-  card.grid->addLayout(PhoneEntry(view), 0, 0);
+  card.grid->addLayout(PhoneEntry(view, context), 0, 0);
   card.grid->addLayout(PhoneMask(view), 0, 1);
   card.grid->addLayout(PhoneList(view), 0, 2);
   card.grid->setColumnStretch(1, 2);
   card.grid->setColumnStretch(2, 5);
-  for (const auto* list : {"MaskSelection", "ListaTlf"}) view.Show(list)->setMinimumHeight(80);
+  for (const auto* list : {"MaskSelection", "ListaTlf"}) TakesWhatIsLeft(view.Show(list));
   return card;
 }
 
@@ -157,7 +204,7 @@ void LayOutGeneral(FormView& view, const LayoutContext& context) {
   static_cast<QBoxLayout*>(notice->layout())->setStretch(1, 1);
   page->addWidget(notice);
   page->addLayout(top);
-  page->addWidget(PhoneCard(view).box, 1);
+  page->addWidget(PhoneCard(view, context).box, 1);
 }
 
 }  // namespace ostrel

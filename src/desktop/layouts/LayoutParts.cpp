@@ -3,6 +3,7 @@
 #include <QAbstractButton>
 #include <QBoxLayout>
 #include <QFontMetrics>
+#include <QLabel>
 #include <QPushButton>
 
 #include "desktop/forms/Words.h"
@@ -90,6 +91,24 @@ QHBoxLayout* EndButtons(QWidget* accept, QWidget* leave) {
   row->addWidget(leave);
   static_cast<QPushButton*>(accept)->setDefault(true);
   return row;
+}
+
+QLabel* UnitBeside(FormView& view, const std::string& control, const std::string& unitBox) {
+  auto* label = new QLabel(&view);
+  label->setObjectName("Unit of " + ToQt(control));
+  label->setTextFormat(Qt::PlainText);
+  view.Whenever({control}, [label, face = &FaceOf(view.GetForm()[control])] {
+    label->setEnabled(face->Enabled());
+  });
+  const std::string unit(FaceOf(view.GetForm()[control]).Field().unit);
+  if (!unit.empty()) {
+    label->setText(Words::tr(unit.c_str()));
+  } else if (view.Has(unitBox)) {
+    view.Whenever({unitBox}, [label, box = &view.GetForm().Get<TextBox>(unitBox)] {
+      label->setText(ToQt(box->Text()));
+    });
+  }
+  return label;
 }
 
 QWidget* Narrow(QWidget* field, int characters) {

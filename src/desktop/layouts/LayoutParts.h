@@ -42,6 +42,10 @@ QVBoxLayout* MakeSheet(FormView& view, const QString& untitled = {});
 /// The row that ends a dialog: the button that Return presses, and the one that leaves.
 QHBoxLayout* EndButtons(QWidget* accept, QWidget* leave);
 
+/// A label with the unit of a number: that of its field, else the one that stands in the box of the
+/// channel's unit, if the form has such a box.
+QLabel* UnitBeside(FormView& view, const std::string& control, const std::string& unitBox = {});
+
 /// Makes a box for numbers as narrow as numbers are.
 QWidget* Narrow(QWidget* field, int characters);
 

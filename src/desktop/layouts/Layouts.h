@@ -13,6 +13,8 @@ struct LayoutContext {
   Guard guard;
   /// How a row of the port list reads, with the device behind the number.
   std::function<QString(const ListRow&)> portText;
+  /// How a row reads that is a word of the product, in the language in use.
+  std::function<QString(const ListRow&)> wordText;
 };
 
 /// Draws any form of the program. One that has no layout is drawn from its controls in order.
@@ -38,6 +40,10 @@ void LayOutModbusChannel(FormView& view);
 void LayOutExpansion(FormView& view);
 void LayOutAux(FormView& view);
 void LayOutKatodex(FormView& view);
+void LayOutCyclicTimers(FormView& view);
+void LayOutLongTimers(FormView& view);
+void LayOutWeeklyTimers(FormView& view);
+void LayOutMonthlyTimers(FormView& view);
 void LayOutActEdit(FormView& view);
 void LayOutPWForm(FormView& view);
 void LayOutLang(FormView& view);

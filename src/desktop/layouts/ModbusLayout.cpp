@@ -50,6 +50,17 @@ Card ConversionCard(FormView& view) {
   return card;
 }
 
+/// On a digital channel two of the thresholds are times.
+void ShowUnitsByMode(FormView& view) {
+  const auto& digital = view.GetForm().Get<OptionButton>("OptDigital");
+  const auto& unit = view.GetForm().Get<TextBox>("Unidad");
+  for (const auto* name : {"Unit of Minimo", "Unit of Maximo"})
+    view.Whenever({"OptDigital", "Unidad"},
+                  [label = view.findChild<QLabel*>(name), &digital, &unit] {
+                    label->setText(digital.Selected() ? Words::tr("s") : ToQt(unit.Text()));
+                  });
+}
+
 }  // namespace
 
 void LayOutModbusBus(FormView& view) {
@@ -89,6 +100,7 @@ void LayOutModbusChannel(FormView& view) {
                                           {"Maximo", {}, {}, "LabelMax"},
                                           {"Histeresis", {}, {}, "LabelHist"},
                                           {"Persist", {}, {}, "LabelPersist"}}));
+  ShowUnitsByMode(view);
   for (const auto* name : {"Notice", "NoticeTimer"}) {
     auto* notice = view.Show<QLabel>(name);
     notice->setWordWrap(true);

@@ -34,6 +34,11 @@ void LayOutSampleRate(FormView& view) {
   autonomy->setWordWrap(true);
   sampling.grid->addWidget(autonomy, sampling.grid->rowCount(), 0, 1, 2);
   sampling.grid->setColumnStretch(1, 1);
+  // Not every model has a rate to choose.
+  view.Whenever({"ComboSampleRate"},
+                [box = sampling.box, &rate = view.GetForm().Get<ComboBox>("ComboSampleRate")] {
+                  box->setVisible(rate.face.Visible());
+                });
   for (const Card& card : {weights, sampling}) {
     card.box->setMaximumWidth(640);
     page->addWidget(card.box);

@@ -1,11 +1,10 @@
 #include "desktop/layouts/ScaleLayout.h"
 
-#include <QAbstractButton>
 #include <QLabel>
-#include <QLineEdit>
 #include <array>
 
 #include "base/Numbers.h"
+#include "controls/NumberBox.h"
 #include "desktop/forms/Words.h"
 
 namespace ostrel {
@@ -25,7 +24,9 @@ constexpr std::array<SignalUnit, 4> kSignalUnits{{
 }};
 
 QString NumberIn(const Form& form, const std::string& box) {
-  return ToQt(DecText(static_cast<float>(NumVal(form.Get<TextBox>(box).Text()))));
+  const double number = NumberIn(form.Get<TextBox>(box));
+  const auto kept = ToFloat(number);
+  return ToQt(kept ? DecText(*kept) : DecText(number));
 }
 
 QString UnitOfSignal(const Form& form, const ControlNames& names) {
@@ -57,12 +58,10 @@ QLabel* WordsOfScale(FormView& view, const ControlNames& names) {
   const auto say = [label, &form = view.GetForm(), names] {
     label->setText(ScaleInWords(form, names));
   };
-  for (const auto* box : {"IE", "FE", "EqIE", "EqFE", "Unidad"})
-    QObject::connect(view.Show<QLineEdit>(names(box)), &QLineEdit::textChanged, label, say);
+  for (const auto* box : {"IE", "FE", "EqIE", "EqFE", "Unidad"}) view.Whenever({names(box)}, say);
   for (const SignalUnit& signal : kSignalUnits)
     if (const std::string option = names(signal.option); view.Has(option))
-      QObject::connect(view.Show<QAbstractButton>(option), &QAbstractButton::toggled, label, say);
-  say();
+      view.Whenever({option}, say);
   return label;
 }
 

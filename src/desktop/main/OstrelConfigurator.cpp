@@ -38,6 +38,7 @@ int RunWindow(const CommandLine& line) {
                   UserDataFolder());
   dialogs.StandBefore(desktop.Window());
   machine.loop.SetFaultHandler([&](std::exception_ptr fault) { desktop.ShowFault(fault); });
+  desktop.Window().show();  // ahead of the first questions, which want a window behind them
   desktop.Start(line.file);
   if (!line.page.empty()) {
     if (!FindNodeTarget(line.page, desktop.Core().profile, true)) {
@@ -46,7 +47,6 @@ int RunWindow(const CommandLine& line) {
     }
     desktop.Window().GoTo(line.page);
   }
-  desktop.Window().show();
   return QApplication::exec();
 }
 

@@ -22,12 +22,14 @@ Desktop::Desktop(const Platform& platform, const ConfiguratorOptions& options,
 void Desktop::Start(const std::string& file) {
   // The first questions come ahead of the choice of a language.
   UseLanguage(QLocale::system().language() == QLocale::Spanish ? "es" : "en");
-  configurator_.Start(file.empty() ? std::string() : '"' + file + '"');
+  const bool isMissing = !file.empty() && !platform_.files.Exists(file);
+  configurator_.Start(file.empty() || isMissing ? std::string() : '"' + file + '"');
   UseLanguage(LanguageCode(configurator_.lang));
   navigation_.HideAll();
   if (configurator_.Universal) navigation_.ShowForm(ToolId::TargetSelect);
   if (!file.empty()) navigation_.ShowForm(PageId::General);
   window_.Follow();
+  if (isMissing) window_.TellMissing(file);
 }
 
 void Desktop::Guarded(const std::function<void()>& run) {

@@ -108,8 +108,16 @@ QPushButton[primary="true"]:enabled { background: palette(highlight);
 QPushButton[primary="true"]:enabled:hover,
 QPushButton[primary="true"]:enabled:focus { border-color: palette(text); }
 QLineEdit[bad="true"] { background: #ff0000; color: #ffffff; }
+QLineEdit[noted="true"], QComboBox[noted="true"], QListWidget[noted="true"],
+QPushButton[noted="true"], QTableWidget[noted="true"] {
+            border: 2px solid #d97706; border-radius: 4px; }
+QCheckBox[noted="true"], QRadioButton[noted="true"] {
+            color: #d97706; text-decoration: underline; }
+QLabel#NoteBubble { background: palette(base); color: palette(text);
+            border: 1px solid #d97706; border-radius: 4px; padding: 4px 8px; }
 QTreeWidget#Tree { border: 1px solid palette(mid); border-radius: 4px; }
 QTreeWidget#Tree::item { padding: 2px 0; }
+QHeaderView::section { padding: 2px 6px; }
 QListWidget::item { padding: 1px 0; }
 QToolButton[popupMode="2"] { padding-right: 14px; }
 QToolButton::menu-indicator { subcontrol-origin: padding; subcontrol-position: center right; }

@@ -2,88 +2,91 @@
 
 #include <QHBoxLayout>
 
-#include "desktop/forms/Words.h"
-
 namespace ostrel {
 namespace {
 
+constexpr const char* kUnknown = "#868e96";
+constexpr const char* kGood = "#2f9e44";
+constexpr const char* kDoubtful = "#f59f00";
+constexpr const char* kBad = "#e03131";
+constexpr const char* kBusy = "#1c7ed6";
+
 const char* ColourOf(const LinkState& state) {
-  if (state.silentSeconds > 0) return "#f59f00";
+  if (state.life.health == LinkHealth::Lost) return kBad;
+  if (state.life.health == LinkHealth::Silent || state.silentSeconds > 0) return kDoubtful;
   switch (state.phase) {
     case SessionPhase::Closed:
-      return "#868e96";
+      return kUnknown;
     case SessionPhase::Open:
-      return "#2f9e44";
+      return kGood;
     case SessionPhase::Opening:
     case SessionPhase::Reading:
     case SessionPhase::Writing:
     case SessionPhase::Closing:
-      return "#1c7ed6";
+      return kBusy;
   }
   return "";
+}
+
+/// A lamp that only burns while the logger is heard; a ring stands for a state that is not known.
+QString LampStyle(const LinkState& state) {
+  const bool isRing = state.phase == SessionPhase::Open && state.life.health == LinkHealth::Resting;
+  return QString(isRing ? "border: 2px solid %1; border-radius: 6px;"
+                        : "background: %1; border-radius: 6px;")
+      .arg(ColourOf(state));
 }
 
 }  // namespace
 
 LinkPanel::LinkPanel(QWidget* parent)
     : QWidget(parent),
+      who_(new QLabel(this)),
       lamp_(new QLabel(this)),
       words_(new QLabel(this)),
-      breakOff_(new QToolButton(this)),
-      bar_(new QProgressBar(this)),
-      left_(new QLabel(this)) {
+      meter_(new TransferMeter(this)) {
   auto* row = new QHBoxLayout(this);
   row->setContentsMargins(8, 0, 8, 0);
+  QFont strong = font();
+  strong.setBold(true);
+  who_->setFont(strong);
+  who_->setObjectName("Logger");
+  who_->setTextInteractionFlags(Qt::TextSelectableByMouse);
+  who_->setMinimumWidth(1);
+  words_->setMinimumWidth(1);
   lamp_->setFixedSize(12, 12);
+  lamp_->setObjectName("Lamp");
   words_->setObjectName("LinkState");
-  breakOff_->setObjectName("BreakOff");
-  breakOff_->setAutoRaise(true);
-  connect(breakOff_, &QToolButton::clicked, this, [this] {
-    if (OnBreakOff) OnBreakOff();
-  });
-  bar_->setFixedWidth(200);
-  for (QWidget* comesAndGoes : {static_cast<QWidget*>(bar_), static_cast<QWidget*>(breakOff_)}) {
-    QSizePolicy policy = comesAndGoes->sizePolicy();
-    policy.setRetainSizeWhenHidden(true);  // the page above is not to jump
-    comesAndGoes->setSizePolicy(policy);
-  }
-  bar_->setTextVisible(false);
+  QSizePolicy policy = meter_->sizePolicy();
+  policy.setRetainSizeWhenHidden(true);  // the bar is not to jump
+  meter_->setSizePolicy(policy);
+  row->addWidget(who_);
+  row->addSpacing(12);
   row->addWidget(lamp_);
   row->addWidget(words_);
-  row->addSpacing(12);
-  row->addWidget(breakOff_);
-  row->addWidget(bar_);
-  row->addWidget(left_);
   row->addStretch(1);
-  HideProgress();
-  ShowState({});
+  row->addWidget(meter_);
+  meter_->hide();
+  ShowState({}, {});
 }
 
-void LinkPanel::Retranslate() {
-  bar_->setAccessibleName(Words::tr("Progress"));
-  breakOff_->setText(Words::tr("Break off"));
-  breakOff_->setToolTip(Words::tr("Give up opening the session"));
+QSize LinkPanel::sizeHint() const {
+  constexpr int kLeast = 120;
+  return {kLeast, QWidget::sizeHint().height()};
 }
 
-void LinkPanel::ShowState(const LinkState& state) {
-  breakOff_->setVisible(state.phase == SessionPhase::Opening);
-  const QString words = LinkStateWords(state);
-  if (words == words_->text()) return;
-  words_->setText(words);
-  lamp_->setStyleSheet(QString("background: %1; border-radius: 6px;").arg(ColourOf(state)));
+void LinkPanel::ShowState(const LinkState& state, const QString& who) {
+  if (who != who_->text()) who_->setText(who);
+  if (const QString words = LinkStateWords(state); words != words_->text()) {
+    words_->setText(words);
+    words_->setToolTip(words);
+  }
+  if (const QString style = LampStyle(state); style != lamp_->styleSheet())
+    lamp_->setStyleSheet(style);
 }
 
-void LinkPanel::ShowProgress(int done, int steps, const QString& left) {
-  bar_->setMaximum(steps);
-  bar_->setValue(done);
-  bar_->setVisible(true);
-  left_->setVisible(true);
-  left_->setText(left);
-}
-
-void LinkPanel::HideProgress() {
-  bar_->hide();
-  left_->hide();
+void LinkPanel::ShowProgress(const TransferWatch* transfer) {
+  if (transfer) meter_->Show(*transfer);
+  meter_->setVisible(transfer != nullptr);
 }
 
 }  // namespace ostrel

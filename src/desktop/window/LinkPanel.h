@@ -1,37 +1,34 @@
 #pragma once
 
 #include <QLabel>
-#include <QProgressBar>
-#include <QToolButton>
 #include <QWidget>
-#include <functional>
 
 #include "desktop/window/LinkState.h"
+#include "desktop/window/TransferMeter.h"
 
 namespace ostrel {
 
-/// The link's part of the status bar: a lamp, the state in words, a way to break off a session that
-/// is being opened, and how far a transfer is.
+/// The link's part of the session bar: who the logger is, a lamp, the state in words, and how far a
+/// transfer is.
 class LinkPanel final : public QWidget {
  public:
   explicit LinkPanel(QWidget* parent);
 
+  /// It asks for little, so that a narrow bar shortens it instead of leaving it out.
+  QSize sizeHint() const override;
+  QSize minimumSizeHint() const override { return sizeHint(); }
   /// Sets its own words anew; the others come with the next state.
-  void Retranslate();
-  void ShowState(const LinkState& state);
-  /// Shows a transfer of `steps` steps at step `done`, and words on the time left.
-  void ShowProgress(int done, int steps, const QString& left);
-  void HideProgress();
-
-  /// Runs when the operator breaks the opening of a session off. Set by the window.
-  std::function<void()> OnBreakOff;
+  void Retranslate() { meter_->Retranslate(); }
+  /// `who` names the model and, in a session, the logger.
+  void ShowState(const LinkState& state, const QString& who);
+  /// Shows a transfer; null for none.
+  void ShowProgress(const TransferWatch* transfer);
 
  private:
+  QLabel* who_;
   QLabel* lamp_;
   QLabel* words_;
-  QToolButton* breakOff_;
-  QProgressBar* bar_;
-  QLabel* left_;
+  TransferMeter* meter_;
 };
 
 }  // namespace ostrel

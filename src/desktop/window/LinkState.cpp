@@ -2,6 +2,7 @@
 
 #include "desktop/forms/Words.h"
 #include "shell/Configurator.h"
+#include "shell/RemainingTime.h"
 
 namespace ostrel {
 namespace {
@@ -31,6 +32,28 @@ RequestWait WaitOf(const Configurator& configurator) {
   return configurator.Connected ? RequestWait::GeneralPage : RequestWait::Session;
 }
 
+/// How a session stands in which no dialogue runs.
+QString OpenWords(const LinkLife& life) {
+  const QString age = ToQt(DurationText(life.sinceAnswer));
+  switch (life.health) {
+    case LinkHealth::NoSession:
+    case LinkHealth::Alive:
+      break;
+    case LinkHealth::Resting:
+      return Words::tr("Open, last answer %1 ago").arg(age);
+    case LinkHealth::Silent:
+      return Words::tr("Silent, last answer %1 ago").arg(age);
+    case LinkHealth::Lost:
+      return Words::tr("Line lost");
+  }
+  return PhaseWords(SessionPhase::Open);
+}
+
+QString WithStep(const QString& words, int step) {
+  constexpr int kSteps = 3;
+  return step > 0 ? Words::tr("%1, step %2 of %3").arg(words).arg(step).arg(kSteps) : words;
+}
+
 QString WithWait(const QString& words, RequestWait wait) {
   switch (wait) {
     case RequestWait::None:
@@ -49,13 +72,16 @@ LinkState LinkStateOf(Configurator& configurator) {
   const auto silent =
       std::chrono::duration_cast<std::chrono::seconds>(configurator.comms.SilentFor()).count();
   return {.phase = configurator.session.State().phase,
+          .life = configurator.session.Life(),
           .silentSeconds = silent >= kWorthTelling ? static_cast<int>(silent) : 0,
           .wait = WaitOf(configurator)};
 }
 
 QString LinkStateWords(const LinkState& state) {
-  const QString words = WithWait(PhaseWords(state.phase), state.wait);
-  if (state.silentSeconds == 0) return words;
+  const bool isOpen = state.phase == SessionPhase::Open;
+  const QString standing = isOpen ? OpenWords(state.life) : PhaseWords(state.phase);
+  const QString words = WithStep(WithWait(standing, state.wait), state.step);
+  if (state.silentSeconds == 0 || (isOpen && state.life.health != LinkHealth::Alive)) return words;
   return Words::tr("%1, silent for %2 s").arg(words).arg(state.silentSeconds);
 }
 

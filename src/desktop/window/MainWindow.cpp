@@ -4,12 +4,14 @@
 #include <QCloseEvent>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScreen>
 #include <QSplitter>
 #include <QStatusBar>
+#include <QStyle>
+#include <QVBoxLayout>
 
 #include "desktop/forms/Icons.h"
 #include "desktop/forms/Words.h"
-#include "desktop/window/FaultDetails.h"
 #include "desktop/window/FaultText.h"
 #include "platform/Settings.h"
 #include "shell/Configurator.h"
@@ -37,23 +39,49 @@ MainWindow::MainWindow(const WindowParts& parts)
              parts.guard),
       tree_(new TreePane(this)),
       pages_(new PageArea([this] { return Context(); }, this)),
-      link_(new LinkPanel(this)),
-      trace_(new TraceView(this)) {
+      group_(new GroupTable(this)),
+      session_(new SessionBar(this)),
+      fault_(new FaultNote("FaultStrip", this)),
+      traceLog_(parts.platform.loop, parts.platform.clock),
+      trace_(new TraceView(traceLog_, this)),
+      findings_(new FindingsPanel(this)),
+      overview_({configurator_, unsaved_, *tree_, *pages_, *group_, *findings_}) {
   auto* splitter = new QSplitter(this);
+  auto* sheet = new QWidget(this);
+  auto* sheets = new QVBoxLayout(sheet);
+  sheets->setContentsMargins(0, 0, 0, 0);
+  sheets->addWidget(pages_, 3);
+  sheets->addWidget(group_, 2);
+  group_->hide();
   splitter->addWidget(tree_);
-  splitter->addWidget(pages_);
+  splitter->addWidget(sheet);
   splitter->setStretchFactor(1, 1);
   splitter->setSizes({kTreeWidth, kFirstSize.width() - kTreeWidth});
   splitter->setChildrenCollapsible(false);
-  setCentralWidget(splitter);
+  auto* centre = new QWidget(this);
+  auto* column = new QVBoxLayout(centre);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->setSpacing(0);
+  column->addWidget(fault_);
+  column->addWidget(splitter, 1);
+  fault_->setContentsMargins(8, 0, 8, 0);
+  setCentralWidget(centre);
   addDockWidget(Qt::BottomDockWidgetArea, trace_);
   trace_->hide();
-  statusBar()->addWidget(link_, 1);
+  addDockWidget(Qt::BottomDockWidgetArea, findings_);
+  findings_->hide();
+  statusBar()->show();
   MakeToolBar();
+  MakeSessionBar();
   resize(kFirstSize);
   RestorePlace();
+  FitToScreen();
   setWindowIcon(ProgramIcon());
   tree_->OnNode = [this](const std::string& key) { parts_.guard([&] { GoTo(key); }); };
+  group_->OnChannel = [this](const std::string& key) { parts_.guard([&] { GoTo(key); }); };
+  findings_->OnFinding = [this](PageId page, const FieldId& field) {
+    parts_.guard([&] { GoToField(page, field); });
+  };
   pages_->OnChanged = [this] {
     const FormView* front = pages_->Front();
     if (front && front->GetForm().MousePointer() == Pointer::Hourglass)
@@ -62,10 +90,11 @@ MainWindow::MainWindow(const WindowParts& parts)
       unsetCursor();
   };
   pages_->OnControlChanged = [this] { unsaved_.Touch(); };
-  link_->OnBreakOff = [this] { parts_.guard([this] { configurator_.session.BreakOff(); }); };
+  configurator_.comms.Trace = [this](const std::string& line) { traceLog_.Add(line); };
   navigation_.OnTargetChanged = [this] {
     BuildTree();
     shownFile_.clear();  // it is of the former model
+    ForgetSuccess();
     unsaved_.Touch();
   };
   configurator_.OnForeignKeys = [this](const std::string& path,
@@ -113,12 +142,15 @@ void MainWindow::LetGo() {
 }
 
 LayoutContext MainWindow::Context() {
-  return {.guard =
-              [this](const std::function<void()>& run) {
-                parts_.guard(run);
-                unsaved_.Touch();
-              },
-          .portText = [this](const ListRow& row) { return ports_.RowText(row); }};
+  return {
+      .guard =
+          [this](const std::function<void()>& run) {
+            parts_.guard(run);
+            unsaved_.Touch();
+          },
+      .portText = [this](const ListRow& row) { return ports_.RowText(row); },
+      .wordText =
+          [this](const ListRow& row) { return ToQt(configurator_.context.Translate(row.text)); }};
 }
 
 void MainWindow::Follow() {
@@ -133,15 +165,20 @@ void MainWindow::Follow() {
   unsaved_.Keep(unsaved_.WithFront());
   if (FileDifferences()) WorkOn(configurator_.ConfFilePath);
   Look();
+  overview_.ShowNode(shownNode_);
 }
 
 void MainWindow::BuildTree() {
   const auto translate = [this](std::string_view text) {
     return configurator_.context.Translate(text);
   };
-  tree_->SetNodes(BuildNavigationTree(configurator_.profile, translate));
+  auto nodes = BuildNavigationTree(configurator_.profile, translate);
+  for (TreeNode& node : nodes)
+    if (node.key == "Grupos") node.text = FromQt(Words::tr("Groups"));
+  tree_->SetNodes(nodes);
   tree_->Select(shownNode_);
   PaintTree();
+  overview_.Forget();
 }
 
 void MainWindow::PaintTree() {
@@ -153,8 +190,31 @@ void MainWindow::GoTo(const std::string& key) {
   const NodeResult result = navigation_.NodeClick(key);
   shownNode_ = key;
   tree_->Select(key);
+  ShowGroup(key);
   isMissing_ = result == NodeResult::NotBuilt;
   ShowMissing();
+}
+
+void MainWindow::ShowGroup(const std::string& key) {
+  const bool isGroup = PageOfGroup(key).has_value();
+  const bool hasPage = FindNodeTarget(key, configurator_.profile, false).has_value();
+  // Some groups have a page of their own, which stands above the table.
+  pages_->setVisible(hasPage || !isGroup);
+  group_->setVisible(isGroup);
+  overview_.ShowNode(key);
+}
+
+void MainWindow::GoToField(PageId page, const FieldId& field) {
+  const std::string node = NodeOf(page, field.channel);
+  if (node.empty()) return;
+  GoTo(node);
+  FormView* front = pages_->Front();
+  if (!front) return;
+  const Form& form = front->GetForm();
+  const std::string config = "Config" + std::to_string(field.slot.config);
+  if (form.Contains(config)) form.Get<OptionButton>(config).SetSelected(true);
+  if (QWidget* control = front->WidgetOf(ControlOf(form, field))) control->setFocus();
+  overview_.ShowNode(node);
 }
 
 void MainWindow::ShowMissing() {
@@ -174,53 +234,7 @@ void MainWindow::ShowFront() {
 void MainWindow::Look() {
   ShowSession();
   ShowTitle();
-}
-
-void MainWindow::ShowSession() {
-  ShowLink();
-  ShowTransfer();
-  ShowFault();
-}
-
-void MainWindow::ShowLink() {
-  link_->ShowState(LinkStateOf(configurator_));
-  Rest(configurator_.session.OwnsModel());
-}
-
-/// A transfer owns the model: nothing may be edited, opened, saved or compared under it, and a
-/// dialog that is opened in it would hold it up.
-void MainWindow::Rest(bool rests) {
-  for (QAction* action : {open_, save_, recentFiles_, safetyCopies_, compare_, language_})
-    action->setEnabled(!rests);
-  pages_->setEnabled(!rests);
-}
-
-void MainWindow::ShowTransfer() {
-  QString words;
-  const TransferWatch& transfer = configurator_.session.Watch();
-  if (transfer.Running()) {
-    if (const auto left = transfer.Left())
-      words = Words::tr("%1 left").arg(ToQt(DurationText(*left)));
-    // The general page has a bar of its own.
-    if (shownNode_ == "General")
-      link_->HideProgress();
-    else
-      link_->ShowProgress(transfer.Done(), transfer.Steps(), words);
-  } else {
-    link_->HideProgress();
-  }
-  const FormView* front = pages_->Front();
-  auto* label = front ? front->findChild<QLabel*>("TimeLeft") : nullptr;
-  if (label && label->text() != words) label->setText(words);
-}
-
-void MainWindow::ShowFault() {
-  const FormView* front = pages_->Front();
-  auto* details = front ? front->findChild<FaultDetails*>("FaultDetails") : nullptr;
-  if (!details) return;
-  const auto& failed = configurator_.session.State().failed;
-  const QString device = ports_.DeviceOf("COM" + std::to_string(configurator_.session.Port()));
-  details->SetText(failed ? FaultText(*failed, device) : QString());
+  overview_.Look();
 }
 
 void MainWindow::ShowTitle() {
@@ -229,6 +243,7 @@ void MainWindow::ShowTitle() {
     title = ToQt(shownFile_).section(u'/', -1) + "[*] - " + ToQt(configurator_.MainCaption());
   if (windowTitle() != title) setWindowTitle(title);
   setWindowModified(unsaved_.Changed());
+  if (isWindowModified()) ForgetSuccess();
 }
 
 std::optional<ModelConfiguration> MainWindow::ReadFile(const std::string& path) const {
@@ -265,30 +280,46 @@ bool MainWindow::MayReplace(const std::string& path, const std::string& why) {
 }
 
 bool MainWindow::MayLeave() {
-  const SessionPhase phase = configurator_.session.State().phase;
   unsaved_.Touch();
-  if (!unsaved_.Changed() && phase != SessionPhase::Writing) return true;
-  // A transfer owns the model: what stands there now is no state to save.
-  const bool mayBeSaved = !IsTransfer(phase);
+  if (!unsaved_.Changed()) return true;
   QMessageBox box(QMessageBox::NoIcon, ToQt(configurator_.profile.TargetName),
-                  mayBeSaved ? Words::tr("The configuration has changes that are neither saved "
-                                         "nor sent.")
-                             : Words::tr("A transfer is under way. Leaving breaks it off, and "
-                                         "changes that are neither saved nor sent are lost."),
+                  Words::tr("The configuration has changes that are neither saved nor sent."),
                   QMessageBox::NoButton, this);
   box.setIconPixmap(BoxPicture(BoxIcon::Question));
-  QPushButton* save =
-      mayBeSaved ? box.addButton(Words::tr("&Save"), QMessageBox::AcceptRole) : nullptr;
+  QPushButton* save = box.addButton(Words::tr("&Save"), QMessageBox::AcceptRole);
   QPushButton* discard =
-      box.addButton(mayBeSaved ? Words::tr("&Go on without saving") : Words::tr("&Leave"),
-                    QMessageBox::DestructiveRole);
+      box.addButton(Words::tr("&Go on without saving"), QMessageBox::DestructiveRole);
   QPushButton* stay = box.addButton(Words::tr("&Cancel"), QMessageBox::RejectRole);
-  box.setDefaultButton(save ? save : stay);
+  box.setDefaultButton(save);
   box.setEscapeButton(stay);
   box.exec();
   if (box.clickedButton() == discard) return true;
-  if (!save || box.clickedButton() != save) return false;
+  if (box.clickedButton() != save) return false;
   return !IsTransfer(configurator_.session.State().phase) && Save();
+}
+
+void MainWindow::AskToBreakOff() {
+  if (leaveBox_) return leaveBox_->raise();
+  auto* box = new QMessageBox(QMessageBox::NoIcon, ToQt(configurator_.profile.TargetName),
+                              Words::tr("A transfer is under way. Leaving breaks it off, and "
+                                        "changes that are neither saved nor sent are lost."),
+                              QMessageBox::NoButton, this);
+  box->setAttribute(Qt::WA_DeleteOnClose);
+  box->setIconPixmap(BoxPicture(BoxIcon::Question));
+  QPushButton* leave = box->addButton(Words::tr("&Leave"), QMessageBox::DestructiveRole);
+  QPushButton* stay = box->addButton(Words::tr("&Cancel"), QMessageBox::RejectRole);
+  box->setDefaultButton(stay);
+  box->setEscapeButton(stay);
+  connect(leave, &QPushButton::clicked, this, [this] { parts_.guard([this] { Leave(); }); });
+  leaveBox_ = box;
+  box->open();
+}
+
+void MainWindow::Leave() {
+  KeepPlace();
+  configurator_.ShutDown();
+  isLeaving_ = true;
+  close();
 }
 
 std::string MainWindow::AskCode() {
@@ -302,14 +333,25 @@ void MainWindow::RestorePlace() {
   restoreGeometry(QByteArray::fromBase64(QByteArray::fromStdString(place)));
 }
 
+void MainWindow::FitToScreen() {
+  const QRect room = screen()->availableGeometry();
+  const int title = style()->pixelMetric(QStyle::PM_TitleBarHeight);
+  resize(size().boundedTo({room.width(), room.height() - title}));
+}
+
 void MainWindow::KeepPlace() {
   parts_.platform.settings.Set(kMaker, kWindowPart, kPlace,
                                saveGeometry().toBase64().toStdString());
 }
 
 void MainWindow::closeEvent(QCloseEvent* event) {
+  if (isLeaving_) return event->accept();
   event->ignore();
   parts_.guard([&] {
+    unsaved_.Touch();
+    const SessionPhase phase = configurator_.session.State().phase;
+    const bool losesNothing = phase != SessionPhase::Writing && !unsaved_.Changed();
+    if (IsTransfer(phase) && !losesNothing) return AskToBreakOff();
     if (!MayLeave()) return;
     KeepPlace();
     configurator_.ShutDown();

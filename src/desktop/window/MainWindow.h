@@ -1,14 +1,17 @@
 #pragma once
 
 #include <QMainWindow>
+#include <QPointer>
 #include <QString>
 #include <functional>
 #include <string>
 
 #include "desktop/forms/Icons.h"
 #include "desktop/program/PortWatch.h"
-#include "desktop/window/LinkPanel.h"
+#include "desktop/window/FaultNote.h"
+#include "desktop/window/Overview.h"
 #include "desktop/window/PageArea.h"
+#include "desktop/window/SessionBar.h"
 #include "desktop/window/TraceView.h"
 #include "desktop/window/TreePane.h"
 #include "platform/Platform.h"
@@ -18,10 +21,12 @@
 #include "shell/RecentFiles.h"
 #include "shell/SafetyCopies.h"
 #include "shell/SessionDriver.h"
+#include "shell/TraceLog.h"
 #include "shell/UnsavedMark.h"
 
 class QAction;
 class QMenu;
+class QMessageBox;
 class QToolBar;
 
 namespace ostrel {
@@ -40,7 +45,8 @@ struct WindowParts {
 
 /// The window: tool bar, tree, the page in front, and the state of the link. It draws and asks; all
 /// rules are the configurator's. It follows what the session, the transfer, the pages and the ports
-/// tell, and what changes with time at the session's own tick: it has no timer.
+/// tell, and what changes with time at the session's own tick: it has no timer. No question waits
+/// in an event while a transfer runs, since the transfer would wait with it.
 class MainWindow final : public QMainWindow {
  public:
   explicit MainWindow(const WindowParts& parts);
@@ -50,13 +56,19 @@ class MainWindow final : public QMainWindow {
   void Follow();
   /// Goes to a node, as a click on it does.
   void GoTo(const std::string& key);
+  /// Goes to a field of the configuration: its page, its alarm configuration, its control.
+  void GoToField(PageId page, const FieldId& field);
   LayoutContext Context();
   PageArea& Pages() { return *pages_; }
   TreePane& Tree() { return *tree_; }
   /// Brings link, transfer, faults and title up to the configurator.
   void Look();
+  /// Says that a file does not exist.
+  void TellMissing(const std::string& path);
   /// Asks for an access code.
   std::string AskCode();
+  /// Whether a dialogue with a logger runs: whoever waits in an event now holds it up.
+  bool IsLineInUse() const;
 
  protected:
   void closeEvent(QCloseEvent* event) override;
@@ -74,11 +86,16 @@ class MainWindow final : public QMainWindow {
   void Opened();
   /// False when it was left, or when writing failed.
   bool Save();
+  bool SaveAs();
+  /// What saving came to, in words where it failed; false for that.
+  bool Saved(const FileResult& result);
   void AskLanguage();
   void FillRecent(QMenu& menu);
   void FillCopies(QMenu& menu);
   void Compare();
+  void ShowSchedule();
   void ShowTrace(bool on);
+  void SaveTrace();
   /// Says in a box what went wrong.
   void Tell(const QString& words);
 
@@ -91,11 +108,24 @@ class MainWindow final : public QMainWindow {
   void ShowFault();
   void Rest(bool rests);
   void ShowMissing();
+  /// Shows the table of a group in the place of a page, or below that of the group; or the page
+  /// alone.
+  void ShowGroup(const std::string& key);
   void ShowTransfer();
   void ShowSession();
   /// What an event of the configurator does, once the window follows it.
   std::function<void()> Following(void (MainWindow::*react)());
   void LetGo();
+
+  // The session on every page.
+  void MakeSessionBar();
+  /// Asks for a transfer from wherever the operator is.
+  void AskFor(SessionPhase transfer);
+  QString NameOfLogger() const;
+  /// What went wrong last, in words; empty for nothing.
+  QString FaultNow();
+  /// Takes back words of success that are not true any more.
+  void ForgetSuccess();
 
   // Transfers.
   void Read();
@@ -116,6 +146,8 @@ class MainWindow final : public QMainWindow {
   /// Notes a file as the one worked on.
   void WorkOn(const std::string& path);
   void RestorePlace();
+  /// Makes the window small enough to stand on its screen whole, its frame included.
+  void FitToScreen();
   void KeepPlace();
   /// Whether a file may be replaced that holds what this program does not write.
   bool MayLose(const std::string& path, const std::vector<std::string>& lost);
@@ -123,6 +155,9 @@ class MainWindow final : public QMainWindow {
   bool MayReplace(const std::string& path, const std::string& why);
   /// True when the present configuration may go: nothing is unsaved, or the operator says so.
   bool MayLeave();
+  /// Asks whether to leave in the midst of a transfer, which goes on meanwhile.
+  void AskToBreakOff();
+  void Leave();
 
   WindowParts parts_;
   Configurator& configurator_;
@@ -135,13 +170,24 @@ class MainWindow final : public QMainWindow {
   std::string shownNode_;  ///< key of the node in front
   std::string shownFile_;  ///< file whose configuration is worked on; empty for none
   PageArea* pages_;
-  LinkPanel* link_;
+  GroupTable* group_;
+  SessionBar* session_;
+  FaultNote* fault_;  ///< on the pages that have no place of their own for it
+  TraceLog traceLog_;
   TraceView* trace_;
+  FindingsPanel* findings_;
+  Overview overview_;
   QToolBar* bar_ = nullptr;
-  QAction *open_ = nullptr, *save_ = nullptr, *language_ = nullptr, *recentFiles_ = nullptr,
-          *safetyCopies_ = nullptr, *compare_ = nullptr, *traceSwitch_ = nullptr;
+  QAction *open_ = nullptr, *save_ = nullptr, *saveAs_ = nullptr, *language_ = nullptr,
+          *recentFiles_ = nullptr, *safetyCopies_ = nullptr, *compare_ = nullptr,
+          *schedule_ = nullptr,
+          *traceSwitch_ = nullptr, *findingsSwitch_ = nullptr;
   bool following_ = false;
-  bool isWriting_ = false;  ///< a writing with its guards is under way
+  QString success_;                   ///< what the status bar says of the last writing
+  int writeStep_ = 0;                 ///< of a writing with its guards; 0 while there is none
+  bool isLeaving_ = false;            ///< the operator has agreed to it
+  QPointer<QMessageBox> leaveBox_;    ///< the question that stands while a transfer runs
+  QPointer<QWidget> focus_, refuge_;  ///< where the focus was, and went, when the pages rested
   bool traceShown_ = false;
   bool isMissing_ = false;  ///< the node in front has no page in this build
 };

@@ -14,6 +14,8 @@
 #include "desktop/program/Language.h"
 #include "desktop/window/CompareDialog.h"
 #include "desktop/window/MainWindow.h"
+#include "desktop/window/ScheduleDialog.h"
+#include "platform/Clock.h"
 #include "platform/Dialogs.h"
 #include "platform/Files.h"
 #include "shell/Configurator.h"
@@ -23,6 +25,7 @@ namespace {
 
 constexpr qsizetype kCopiesOffered = 15;
 constexpr int kTraceHeight = 170;
+constexpr int kFindingsHeight = 130;
 
 }  // namespace
 
@@ -35,19 +38,35 @@ void MainWindow::MakeToolBar() {
   bar_->setIconSize({22, 22});
   open_ = AddAction(Sign::Open, QKeySequence::Open, [this] { Open(); });
   save_ = AddAction(Sign::Save, QKeySequence::Save, [this] { Save(); });
+  saveAs_ = AddAction(Sign::SaveAs, QKeySequence("Ctrl+Shift+S"), [this] { SaveAs(); });
   recentFiles_ = AddAction(Sign::Recent, {}, {});
   AddMenu(recentFiles_, [this](QMenu& menu) { FillRecent(menu); });
   safetyCopies_ = AddAction(Sign::Copies, {}, {});
   AddMenu(safetyCopies_, [this](QMenu& menu) { FillCopies(menu); });
   bar_->addSeparator();
   compare_ = AddAction(Sign::Compare, {}, [this] { Compare(); });
+  schedule_ = AddAction(Sign::Schedule, {}, [this] { ShowSchedule(); });
   traceSwitch_ = AddAction(Sign::Trace, QKeySequence("Ctrl+T"), {});
   traceSwitch_->setCheckable(true);
   connect(traceSwitch_, &QAction::toggled, this, [this](bool on) { ShowTrace(on); });
   connect(trace_, &QDockWidget::visibilityChanged, this, [this](bool) {
     if (trace_->isHidden()) traceSwitch_->setChecked(false);
   });
+  findingsSwitch_ = AddAction(Sign::Findings, QKeySequence("Ctrl+E"), {});
+  findingsSwitch_->setCheckable(true);
+  connect(findingsSwitch_, &QAction::toggled, this, [this](bool on) {
+    findings_->setVisible(on);
+    if (on) resizeDocks({findings_}, {kFindingsHeight}, Qt::Vertical);
+  });
+  connect(findings_, &QDockWidget::visibilityChanged, this, [this](bool) {
+    if (findings_->isHidden()) findingsSwitch_->setChecked(false);
+  });
   bar_->addSeparator();
+  trace_->OnSave = [this] { parts_.guard([this] { SaveTrace(); }); };
+  auto* find = new QAction(this);
+  find->setShortcut(QKeySequence::Find);
+  connect(find, &QAction::triggered, this, [this] { tree_->FocusFilter(); });
+  addAction(find);
   language_ = AddAction(Sign::Language, {}, [this] { AskLanguage(); });
 }
 
@@ -81,15 +100,21 @@ void MainWindow::Retranslate() {
   };
   name(open_, core("Abrir"), Words::tr("Open a configuration file"));
   name(save_, core("Guardar"), Words::tr("Save the configuration to a file"));
+  name(saveAs_, Words::tr("Save as"), Words::tr("Save the configuration to another file"));
   name(language_, core("Idioma"), Words::tr("Choose the language"));
   name(recentFiles_, Words::tr("Recent"), Words::tr("Files opened or saved lately"));
   name(safetyCopies_, Words::tr("Safety copies"),
        Words::tr("Configurations read from loggers or sent to them"));
   name(compare_, Words::tr("Compare"), Words::tr("Compare the configuration with a file"));
+  name(schedule_, Words::tr("Schedule"), Words::tr("Show when the timers fire"));
   name(traceSwitch_, Words::tr("Trace"), Words::tr("Show what goes over the line"));
+  name(findingsSwitch_, Words::tr("Findings"),
+       Words::tr("Show what the check finds in the configuration"));
   tree_->Retranslate();
+  findings_->Retranslate();
+  overview_.Forget();
   trace_->Retranslate();
-  link_->Retranslate();
+  session_->Retranslate();
 }
 
 void MainWindow::Open() {
@@ -101,8 +126,7 @@ void MainWindow::Open() {
 void MainWindow::OpenPath(const std::string& path) {
   if (!parts_.platform.files.Exists(path)) {
     recent_.Remove(path);
-    Tell(Words::tr("%1 does not exist any more.").arg(ToQt(path)));
-    return;
+    return TellMissing(path);
   }
   if (!MayLeave()) return;
   navigation_.CommitFront();
@@ -110,19 +134,34 @@ void MainWindow::OpenPath(const std::string& path) {
   Opened();
 }
 
+void MainWindow::TellMissing(const std::string& path) {
+  Tell(Words::tr("%1 does not exist.").arg(ToQt(path)));
+}
+
 void MainWindow::Opened() {
+  ForgetSuccess();
   if (FileDifferences()) WorkOn(configurator_.ConfFilePath);
   // The file may be of a model that has not the channel in front.
   if (!tree_->Has(shownNode_)) GoTo("General");
 }
 
 bool MainWindow::Save() {
+  if (shownFile_.empty()) return SaveAs();
+  navigation_.CommitFront();
+  const auto saved = configurator_.SaveTo(shownFile_);
+  return saved && Saved(*saved);
+}
+
+bool MainWindow::SaveAs() {
   navigation_.CommitFront();
   const auto saved = configurator_.AskAndSave();
-  if (!saved) return false;
-  const std::string& path = configurator_.ConfFilePath;
-  if (!saved->Ok()) {
-    Tell(Words::tr("%1 could not be written: %2").arg(ToQt(path), ToQt(saved->error)));
+  return saved && Saved(*saved);
+}
+
+bool MainWindow::Saved(const FileResult& result) {
+  const std::string path = configurator_.ConfFilePath;
+  if (!result.Ok()) {
+    Tell(Words::tr("%1 could not be written: %2").arg(ToQt(path), ToQt(result.error)));
     return false;
   }
   WorkOn(path);
@@ -214,16 +253,39 @@ void MainWindow::Compare() {
   dialog.exec();
 }
 
+void MainWindow::ShowSchedule() {
+  const TargetProfile& profile = configurator_.profile;
+  // What no logger has told counts as a firmware that can do everything.
+  const std::int32_t features =
+      configurator_.Connected ? configurator_.info.Features : kEveryFeature;
+  ScheduleDialog dialog(
+      MakeSchedule(unsaved_.WithFront(), {profile, features}, parts_.platform.clock.LocalNow()),
+      profile, [this](std::string_view text) { return configurator_.context.Translate(text); },
+      this);
+  dialog.exec();
+}
+
 void MainWindow::ShowTrace(bool on) {
   trace_->setVisible(on);
   if (on && !traceShown_) {
     traceShown_ = true;
     resizeDocks({trace_}, {kTraceHeight}, Qt::Vertical);
   }
-  if (on)
-    configurator_.comms.Trace = [this](const std::string& line) { trace_->Add(line); };
-  else
-    configurator_.comms.Trace = nullptr;
+  if (on) trace_->Follow();
+}
+
+void MainWindow::SaveTrace() {
+  const auto path = parts_.platform.dialogs.ChooseFile(
+      {.mode = FileQuestion::Mode::Save,
+       .filter = FromQt(Words::tr("Trace") + "|*.txt|" + Words::tr("All files") + "|*.*"),
+       .overwritePrompt = true});
+  if (!path) return;
+  // It may tell what is nobody else's business; a file that is replaced keeps its permissions.
+  Files& files = parts_.platform.files;
+  const FileResult saved = files.Exists(*path) ? SaveWhole(files, *path, trace_->Text())
+                                               : SaveNew(files, *path, trace_->Text());
+  if (!saved.Ok())
+    Tell(Words::tr("%1 could not be written: %2").arg(ToQt(*path), ToQt(saved.error)));
 }
 
 }  // namespace ostrel

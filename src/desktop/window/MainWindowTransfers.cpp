@@ -6,11 +6,11 @@
 #include "desktop/window/FaultText.h"
 #include "desktop/window/MainWindow.h"
 #include "desktop/window/WriteDialog.h"
+#include "link/UploadPlan.h"
 #include "platform/Dialogs.h"
 #include "shell/Configurator.h"
 #include "shell/GuardedWrite.h"
 #include "shell/RecordCounts.h"
-#include "shell/UploadPlan.h"
 #include "shell/WriteDoubts.h"
 
 namespace ostrel {
@@ -26,6 +26,7 @@ void MainWindow::Read() {
 }
 
 void MainWindow::Write() {
+  if (const auto why = WhyWritingRests(configurator_.session.Life())) return Tell(SentenceOf(*why));
   navigation_.CommitFront();
   const WriteQuestion question = AskedBeforeWriting();
   WriteDialog dialog(question, this);
@@ -34,9 +35,13 @@ void MainWindow::Write() {
     configurator_.session.Upload();
     return;
   }
-  const Lent writing(isWriting_, true);
-  WriteRoad road{.read = [this] { return configurator_.session.Download(); },
-                 .write = [this] { return configurator_.session.Upload(); },
+  const AtEnd written([this] { writeStep_ = 0; });
+  const auto step = [this](bool (SessionDriver::*transfer)()) {
+    ++writeStep_;
+    return (configurator_.session.*transfer)();
+  };
+  WriteRoad road{.read = [step] { return step(&SessionDriver::Download); },
+                 .write = [step] { return step(&SessionDriver::Upload); },
                  .keep = [this](const DeviceConf& held) { return KeepFormer(held); }};
   if (dialog.ShowsChanges())
     road.mayWrite = [this](const Comparison& changes) { return MayChange(changes); };
@@ -44,9 +49,7 @@ void MainWindow::Write() {
 }
 
 WriteQuestion MainWindow::AskedBeforeWriting() const {
-  WriteQuestion question{.logger = Words::tr("%1, serial number %2")
-                                       .arg(ToQt(configurator_.profile.TargetName),
-                                            ToQt(configurator_.info.SerialNumber))};
+  WriteQuestion question{.logger = NameOfLogger()};
   for (const Phrase& doubt : DoubtsOfWriting(configurator_)) question.doubts += SentenceOf(doubt);
   question.plain =
       PlanUpload(configurator_.comms.ComposeStatements(), configurator_.info.Features).duration;
@@ -80,9 +83,10 @@ bool MainWindow::MayChange(const Comparison& changes) {
 /// A failed step is told as any other fault of the session.
 void MainWindow::ShowWritten(const WriteResult& result) {
   if (result.end == WriteEnd::Written) configurator_.session.ShowWritten();
-  if (result.IsAsSent())
-    statusBar()->showMessage(
-        Words::tr("Written and verified: the logger holds what the pages show."), kMessageTime);
+  if (result.IsAsSent()) {
+    success_ = Words::tr("Written and verified: the logger holds what the pages show.");
+    statusBar()->showMessage(success_, kMessageTime);
+  }
   if (!result.verified || result.verified->isSame) return;
   CompareDialog dialog({.title = Words::tr("The logger holds another configuration than was sent"),
                         .note = {},
@@ -93,7 +97,7 @@ void MainWindow::ShowWritten(const WriteResult& result) {
 }
 
 void MainWindow::TransferEnded(const TransferEnd& end) {
-  if (!end.done || (isWriting_ && end.kind == SessionPhase::Reading)) return;
+  if (!end.done || (writeStep_ > 0 && end.kind == SessionPhase::Reading)) return;
   unsaved_.Keep(end.held);
   if (end.kind == SessionPhase::Reading) shownFile_.clear();
   SafetyCopies::Held held{end.held, configurator_.profile, configurator_.info.SerialNumber};

@@ -1,25 +1,48 @@
 #pragma once
 
 #include <QDockWidget>
-#include <string>
+#include <array>
+#include <functional>
 
+#include "shell/TraceLog.h"
+
+class QCheckBox;
+class QLineEdit;
 class QPlainTextEdit;
 class QPushButton;
 
 namespace ostrel {
 
-/// What goes over the line, as text at the foot of the window.
+/// Shows the trace at the foot of the window: all of it or some kinds, as it comes or stopped.
 class TraceView final : public QDockWidget {
  public:
-  explicit TraceView(QWidget* parent);
+  TraceView(TraceLog& log, QWidget* parent);
 
-  void Add(const std::string& line);
   /// The window's own words anew.
   void Retranslate();
+  /// The lines of the kinds that are shown, one a line.
+  std::string Text();
+  /// Brings what is shown up to the log, unless it is paused.
+  void Follow();
+  /// Whether what it offers may ask a question now.
+  void SetMaySave(bool may);
+
+  /// Saves what is shown. Set by the window.
+  std::function<void()> OnSave;
 
  private:
+  static constexpr std::size_t kKinds = 4;
+
+  bool Shows(TraceKind kind) const;
+  void Add(const TraceEntry& entry);
+  void Refill();
+  void FindNext();
+
+  TraceLog& log_;
+  std::array<QCheckBox*, kKinds> kinds_{};
+  QLineEdit* search_;
+  QPushButton *pause_, *save_, *clear_;
   QPlainTextEdit* text_;
-  QPushButton* clear_;
 };
 
 }  // namespace ostrel

@@ -8,12 +8,36 @@
 #include <utility>
 
 #include "desktop/forms/Words.h"
+#include "desktop/window/NodeDelegate.h"
 
 namespace ostrel {
 namespace {
 
-constexpr int kKeyRole = Qt::UserRole;
-constexpr int kOpenRole = Qt::UserRole + 1;  // expanded ahead of filtering
+int MarksOf(const NodeFacts& facts) {
+  int marks = (facts.hasAlarm ? kMarkAlarm : 0) | (facts.isChanged ? kMarkChanged : 0);
+  if (facts.worst) marks |= *facts.worst == Severity::Error ? kMarkError : kMarkWarning;
+  return marks;
+}
+
+/// Marks in words, for those who do not see them.
+QString MarkWords(int marks) {
+  QStringList words;
+  if (marks & kMarkAlarm) words << Words::tr("alarm enabled");
+  if (marks & kMarkChanged) words << Words::tr("changed");
+  if (marks & kMarkError) words << Words::tr("the check finds an error");
+  if (marks & kMarkWarning) words << Words::tr("the check has a warning");
+  return words.join(", ");
+}
+
+/// Says in words what colour, name and marks of an item show.
+void Describe(QTreeWidgetItem& item) {
+  QStringList words{item.data(0, kNodeRed).toString(), item.data(0, kNodeName).toString(),
+                    MarkWords(item.data(0, kNodeMarks).toInt())};
+  words.removeAll(QString());
+  const QString description = words.join(", ");
+  item.setToolTip(0, description);
+  item.setData(0, Qt::AccessibleDescriptionRole, description);
+}
 
 }  // namespace
 
@@ -31,9 +55,10 @@ TreePane::TreePane(QWidget* parent)
   tree_->setUniformRowHeights(true);
   tree_->setRootIsDecorated(true);
   tree_->setIndentation(16);
+  tree_->setItemDelegate(new NodeDelegate(tree_));
   connect(filter_, &QLineEdit::textChanged, this, [this](const QString& text) { Filter(text); });
   connect(tree_, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem* item) {
-    if (item && !quiet_ && OnNode) OnNode(FromQt(item->data(0, kKeyRole).toString()));
+    if (item && !quiet_ && OnNode) OnNode(FromQt(item->data(0, kNodeKey).toString()));
   });
   Retranslate();
 }
@@ -44,17 +69,22 @@ void TreePane::Retranslate() {
   tree_->setAccessibleName(Words::tr("Pages"));
 }
 
+void TreePane::FocusFilter() {
+  filter_->setFocus();
+  filter_->selectAll();
+}
+
 void TreePane::SetNodes(const std::vector<TreeNode>& nodes) {
   const bool wasQuiet = std::exchange(quiet_, true);
   const QTreeWidgetItem* current = tree_->currentItem();
-  const std::string key = current ? FromQt(current->data(0, kKeyRole).toString()) : "";
+  const std::string key = current ? FromQt(current->data(0, kNodeKey).toString()) : "";
   const std::set<QString> open = OpenKeys();
   tree_->clear();
   for (const TreeNode& node : nodes) {
     QTreeWidgetItem* parent = Find(node.parent);
     auto* item = parent ? new QTreeWidgetItem(parent) : new QTreeWidgetItem(tree_);
     item->setText(0, ToQt(node.text));
-    item->setData(0, kKeyRole, ToQt(node.key));
+    item->setData(0, kNodeKey, ToQt(node.key));
     item->setExpanded(node.expanded || open.contains(ToQt(node.key)));
   }
   Filter(filter_->text());
@@ -69,22 +99,43 @@ void TreePane::Paint(const std::function<bool(const std::string& key)>& isRed,
   const bool isDark = palette().color(QPalette::Base).lightness() < kMiddle;
   for (QTreeWidgetItemIterator it(tree_); *it; ++it) {
     QTreeWidgetItem& item = **it;
-    const bool red = isRed(FromQt(item.data(0, kKeyRole).toString()));
+    const bool red = isRed(FromQt(item.data(0, kNodeKey).toString()));
     const QVariant colour = red ? QVariant(QBrush(isDark ? kRedOnDark : kRedOnLight)) : QVariant();
     if (item.data(0, Qt::ForegroundRole) == colour) continue;
     item.setData(0, Qt::ForegroundRole, colour);
-    item.setToolTip(0, red ? mark : QString());
-    item.setData(0, Qt::AccessibleDescriptionRole, red ? mark : QString());
+    item.setData(0, kNodeRed, red ? mark : QString());
+    Describe(item);
   }
+}
+
+void TreePane::Decorate(const FactTable& facts) {
+  for (int i = 0; i < tree_->topLevelItemCount(); ++i) DecorateItem(*tree_->topLevelItem(i), facts);
+  Filter(filter_->text());
+}
+
+int TreePane::DecorateItem(QTreeWidgetItem& item, const FactTable& facts) {
+  const auto found = facts.find(FromQt(item.data(0, kNodeKey).toString()));
+  int marks = found == facts.end() ? 0 : MarksOf(found->second);
+  for (int i = 0; i < item.childCount(); ++i) marks |= DecorateItem(*item.child(i), facts);
+  if (!item.parent()) return marks;  // it would have the marks of all
+  item.setData(0, kNodeName, found == facts.end() ? QString() : ToQt(found->second.name));
+  item.setData(0, kNodeMarks, marks);
+  Describe(item);
+  return marks;
+}
+
+QString TreePane::TextOf(std::string_view key) const {
+  const QTreeWidgetItem* item = Find(key);
+  return item ? item->text(0) : QString();
 }
 
 /// Keys of the groups that are open, or will be when the filter is taken away.
 std::set<QString> TreePane::OpenKeys() const {
   std::set<QString> keys;
   for (QTreeWidgetItemIterator it(tree_); *it; ++it) {
-    const QVariant unfiltered = (*it)->data(0, kOpenRole);
+    const QVariant unfiltered = (*it)->data(0, kNodeOpen);
     if (unfiltered.isValid() ? unfiltered.toBool() : (*it)->isExpanded())
-      keys.insert((*it)->data(0, kKeyRole).toString());
+      keys.insert((*it)->data(0, kNodeKey).toString());
   }
   return keys;
 }
@@ -97,7 +148,7 @@ void TreePane::Select(std::string_view key) {
 
 QTreeWidgetItem* TreePane::Find(std::string_view key) const {
   for (QTreeWidgetItemIterator it(tree_); *it; ++it)
-    if ((*it)->data(0, kKeyRole).toString() == ToQt(key)) return *it;
+    if ((*it)->data(0, kNodeKey).toString() == ToQt(key)) return *it;
   return nullptr;
 }
 
@@ -105,11 +156,11 @@ void TreePane::Filter(const QString& text) {
   for (QTreeWidgetItemIterator it(tree_); *it; ++it) {
     // What was open is remembered when filtering starts and comes back at its end.
     QTreeWidgetItem& item = **it;
-    if (!text.isEmpty() && !item.data(0, kOpenRole).isValid())
-      item.setData(0, kOpenRole, item.isExpanded());
-    if (text.isEmpty() && item.data(0, kOpenRole).isValid()) {
-      item.setExpanded(item.data(0, kOpenRole).toBool());
-      item.setData(0, kOpenRole, QVariant());
+    if (!text.isEmpty() && !item.data(0, kNodeOpen).isValid())
+      item.setData(0, kNodeOpen, item.isExpanded());
+    if (text.isEmpty() && item.data(0, kNodeOpen).isValid()) {
+      item.setExpanded(item.data(0, kNodeOpen).toBool());
+      item.setData(0, kNodeOpen, QVariant());
     }
   }
   for (int i = 0; i < tree_->topLevelItemCount(); ++i)
@@ -119,7 +170,9 @@ void TreePane::Filter(const QString& text) {
 /// Shows an item when it matches, or one below or above it does. Says whether it is shown.
 bool TreePane::FilterItem(QTreeWidgetItem& item, const QString& text, bool parentMatches) {
   const bool matches =
-      parentMatches || (item.parent() && item.text(0).contains(text, Qt::CaseInsensitive));
+      parentMatches ||
+      (item.parent() && (item.text(0).contains(text, Qt::CaseInsensitive) ||
+                         item.data(0, kNodeName).toString().contains(text, Qt::CaseInsensitive)));
   bool below = false;
   for (int i = 0; i < item.childCount(); ++i)
     below = FilterItem(*item.child(i), text, matches) || below;

@@ -8,6 +8,7 @@
 #include <string_view>
 #include <vector>
 
+#include "shell/ChannelOverview.h"
 #include "shell/NavigationTree.h"
 
 class QLineEdit;
@@ -21,11 +22,17 @@ class TreePane final : public QWidget {
 
   /// Shows another tree. Nothing is clicked by that.
   void SetNodes(const std::vector<TreeNode>& nodes);
+  /// Gives the filter the focus, with its text selected.
+  void FocusFilter();
   /// Marks a node as the one in front. Nothing is clicked by that.
   void Select(std::string_view key);
   /// Paints nodes red or not, as the predicate says of their keys. `mark` are words for those who
   /// do not see the colour.
   void Paint(const std::function<bool(const std::string& key)>& isRed, const QString& mark);
+  /// Puts names and marks beside the texts of nodes. A group shows the marks of what is below it.
+  void Decorate(const FactTable& facts);
+  /// The text of a node; empty when there is none.
+  QString TextOf(std::string_view key) const;
   bool Has(std::string_view key) const { return Find(key) != nullptr; }
   /// The window's own words anew.
   void Retranslate();
@@ -42,6 +49,8 @@ class TreePane final : public QWidget {
   void Filter(const QString& text);
   bool FilterItem(QTreeWidgetItem& item, const QString& text, bool parentMatches);
   std::set<QString> OpenKeys() const;
+  /// Decorates an item and what is below it. Gives the marks of both.
+  int DecorateItem(QTreeWidgetItem& item, const FactTable& facts);
   QTreeWidgetItem* Find(std::string_view key) const;
 
   QLineEdit* filter_;

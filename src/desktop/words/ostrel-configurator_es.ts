@@ -119,10 +119,6 @@
         <source>&amp;Leave</source>
         <translation>&amp;Salir</translation>
     </message>
-    <message>
-        <source>%1 does not exist any more.</source>
-        <translation>%1 ya no existe.</translation>
-    </message>
     <message numerus="yes">
         <source>The file cannot keep %n text(s) as they are, the first of them %1 in %2: &quot;%3&quot; reads back as &quot;%4&quot;.</source>
         <translation><numerusform>El archivo no puede guardar un texto tal como está, %1 en %2: &quot;%3&quot; se lee como &quot;%4&quot;.</numerusform><numerusform>El archivo no puede guardar %n textos tal como están, el primero %1 en %2: &quot;%3&quot; se lee como &quot;%4&quot;.</numerusform></translation>
@@ -142,10 +138,6 @@
     <message>
         <source>Contact at rest:</source>
         <translation>Contacto en reposo:</translation>
-    </message>
-    <message>
-        <source>What went wrong</source>
-        <translation>Qué ha fallado</translation>
     </message>
     <message>
         <source>there is no port %1</source>
@@ -500,6 +492,11 @@
         <translation>Abrir</translation>
     </message>
     <message>
+        <source>Open</source>
+        <comment>the state of the link</comment>
+        <translation>Sesión abierta</translation>
+    </message>
+    <message>
         <source>Reading</source>
         <translation>Leyendo</translation>
     </message>
@@ -514,14 +511,6 @@
     <message>
         <source>%1, a transfer waits for the general page</source>
         <translation>%1, una transferencia espera a la página general</translation>
-    </message>
-    <message>
-        <source>Break off</source>
-        <translation>Interrumpir</translation>
-    </message>
-    <message>
-        <source>Give up opening the session</source>
-        <translation>Dejar de abrir la sesión</translation>
     </message>
     <message>
         <source>Closing</source>
@@ -678,11 +667,6 @@
     <message>
         <source>Pages</source>
         <translation>Páginas</translation>
-    </message>
-    <message>
-        <source>Open</source>
-        <comment>the state of the link</comment>
-        <translation>Sesión abierta</translation>
     </message>
     <message>
         <source>Channel</source>
@@ -919,6 +903,958 @@
     <message>
         <source>the check finds %1 error(s), the first: %2</source>
         <translation>la comprobación encuentra %1 errores, el primero: %2</translation>
+    </message>
+    <message>
+        <source>Schedule</source>
+        <translation>Calendario</translation>
+    </message>
+    <message>
+        <source>Show when the timers fire</source>
+        <translation>Mostrar cuándo se ejecutan los temporizadores</translation>
+    </message>
+    <message>
+        <source>What happens when</source>
+        <translation>Qué ocurre y cuándo</translation>
+    </message>
+    <message>
+        <source>No timer is enabled.</source>
+        <translation>No hay ningún temporizador habilitado.</translation>
+    </message>
+    <message>
+        <source>The next %1 times within %2 days from %3. Cyclic and long timers are told as if they began to count then, and conditions as if they held.</source>
+        <translation>Las próximas %1 veces en %2 días desde %3. Los temporizadores cíclicos y largos se muestran como si empezaran a contar entonces, y las condiciones como si se cumplieran.</translation>
+    </message>
+    <message>
+        <source>Timer</source>
+        <translation>Temporizador</translation>
+    </message>
+    <message>
+        <source>When</source>
+        <translation>Cuándo</translation>
+    </message>
+    <message>
+        <source>If</source>
+        <translation>Si</translation>
+    </message>
+    <message>
+        <source>Runs</source>
+        <translation>Ejecuta</translation>
+    </message>
+    <message>
+        <source>Next times</source>
+        <translation>Próximas veces</translation>
+    </message>
+    <message>
+        <source>macro %1</source>
+        <translation>macro %1</translation>
+    </message>
+    <message>
+        <source>Not within %1 days</source>
+        <translation>No en %1 días</translation>
+    </message>
+    <message>
+        <source>every %1 s</source>
+        <translation>cada %1 s</translation>
+    </message>
+    <message>
+        <source>%1, from %2 to %3, %4</source>
+        <translation>%1, de %2 a %3, %4</translation>
+    </message>
+    <message>
+        <source>every day</source>
+        <translation>cada día</translation>
+    </message>
+    <message>
+        <source>every %1 days</source>
+        <translation>cada %1 días</translation>
+    </message>
+    <message>
+        <source>on %1</source>
+        <translation>los días %1</translation>
+    </message>
+    <message>
+        <source>on no day</source>
+        <translation>ningún día</translation>
+    </message>
+    <message>
+        <source>%1 at %2</source>
+        <translation>%1 a las %2</translation>
+    </message>
+    <message>
+        <source>last</source>
+        <translation>último</translation>
+    </message>
+    <message>
+        <source>Mo</source>
+        <translation>Lu</translation>
+    </message>
+    <message>
+        <source>Tu</source>
+        <translation>Ma</translation>
+    </message>
+    <message>
+        <source>We</source>
+        <translation>Mi</translation>
+    </message>
+    <message>
+        <source>Th</source>
+        <translation>Ju</translation>
+    </message>
+    <message>
+        <source>Fr</source>
+        <translation>Vi</translation>
+    </message>
+    <message>
+        <source>Sa</source>
+        <translation>Sá</translation>
+    </message>
+    <message>
+        <source>Su</source>
+        <translation>Do</translation>
+    </message>
+    <message>
+        <source>cyclic timer</source>
+        <translation>temporizador cíclico</translation>
+    </message>
+    <message>
+        <source>long timer</source>
+        <translation>temporizador largo</translation>
+    </message>
+    <message>
+        <source>weekly timer</source>
+        <translation>temporizador semanal</translation>
+    </message>
+    <message>
+        <source>monthly timer</source>
+        <translation>temporizador mensual</translation>
+    </message>
+    <message>
+        <source>the period of long timer %1 is above 24855 days</source>
+        <translation>el período del temporizador largo %1 supera los 24855 días</translation>
+    </message>
+    <message>
+        <source>shorten it</source>
+        <translation>acórtelo</translation>
+    </message>
+    <message>
+        <source>Open, last answer %1 ago</source>
+        <translation>Sesión abierta, última respuesta hace %1</translation>
+    </message>
+    <message>
+        <source>Silent, last answer %1 ago</source>
+        <translation>Sin respuesta, la última hace %1</translation>
+    </message>
+    <message>
+        <source>Line lost</source>
+        <translation>Línea perdida</translation>
+    </message>
+    <message>
+        <source>%1, step %2 of %3</source>
+        <translation>%1, paso %2 de %3</translation>
+    </message>
+    <message>
+        <source>Read the logger's configuration</source>
+        <translation>Leer la configuración del registrador</translation>
+    </message>
+    <message>
+        <source>Write the configuration to the logger</source>
+        <translation>Escribir la configuración en el registrador</translation>
+    </message>
+    <message>
+        <source>Break off what is under way and close the session</source>
+        <translation>Interrumpir lo que está en curso y cerrar la sesión</translation>
+    </message>
+    <message>
+        <source>Received</source>
+        <translation>Recibido</translation>
+    </message>
+    <message>
+        <source>Modem</source>
+        <translation>Módem</translation>
+    </message>
+    <message>
+        <source>Remarks</source>
+        <translation>Notas</translation>
+    </message>
+    <message>
+        <source>Search, Enter finds the next</source>
+        <translation>Buscar; Intro encuentra el siguiente</translation>
+    </message>
+    <message>
+        <source>Search in the trace</source>
+        <translation>Buscar en la traza</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation>Pausa</translation>
+    </message>
+    <message>
+        <source>Save...</source>
+        <translation>Guardar...</translation>
+    </message>
+    <message>
+        <source>Save as</source>
+        <translation>Guardar como</translation>
+    </message>
+    <message>
+        <source>Save the configuration to another file</source>
+        <translation>Guardar la configuración en otro archivo</translation>
+    </message>
+    <message>
+        <source>%1 does not exist.</source>
+        <translation>%1 no existe.</translation>
+    </message>
+    <message>
+        <source>nothing can be written without a session</source>
+        <translation>no se puede escribir nada sin una sesión</translation>
+    </message>
+    <message>
+        <source>nothing was sent, since the logger has not answered for %1 s</source>
+        <translation>no se ha enviado nada, ya que el registrador no responde desde hace %1 s</translation>
+    </message>
+    <message>
+        <source>nothing was sent, since the line to the logger is lost</source>
+        <translation>no se ha enviado nada, ya que se ha perdido la línea con el registrador</translation>
+    </message>
+    <message>
+        <source>the logger has taken the new configuration over, which is not verified</source>
+        <translation>el registrador ha adoptado la nueva configuración, que no está verificada</translation>
+    </message>
+    <message>
+        <source>Groups</source>
+        <translation>Grupos</translation>
+    </message>
+    <message>
+        <source>Findings</source>
+        <translation>Hallazgos</translation>
+    </message>
+    <message>
+        <source>Show what the check finds in the configuration</source>
+        <translation>Mostrar lo que encuentra la comprobación en la configuración</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Tipo</translation>
+    </message>
+    <message>
+        <source>Where</source>
+        <translation>Dónde</translation>
+    </message>
+    <message>
+        <source>What to know</source>
+        <translation>Qué conviene saber</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Error</translation>
+    </message>
+    <message>
+        <source>alarm enabled</source>
+        <translation>alarma habilitada</translation>
+    </message>
+    <message>
+        <source>changed</source>
+        <translation>modificado</translation>
+    </message>
+    <message>
+        <source>the check finds an error</source>
+        <translation>la comprobación encuentra un error</translation>
+    </message>
+    <message>
+        <source>the check has a warning</source>
+        <translation>la comprobación avisa</translation>
+    </message>
+    <message>
+        <source>yes</source>
+        <translation>sí</translation>
+    </message>
+    <message>
+        <source>no</source>
+        <translation>no</translation>
+    </message>
+    <message>
+        <source>alarm %1, %2</source>
+        <translation>alarma %1, %2</translation>
+    </message>
+    <message>
+        <source>Administrator</source>
+        <translation>Administrador</translation>
+    </message>
+    <message>
+        <source>Advanced user</source>
+        <translation>U. avanzado</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>Usuario</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Ninguna</translation>
+    </message>
+    <message>
+        <source>No alarms</source>
+        <translation>Ninguna alarma</translation>
+    </message>
+    <message>
+        <source>All but %1</source>
+        <translation>Todas menos %1</translation>
+    </message>
+    <message>
+        <source>All alarms</source>
+        <translation>Todas las alarmas</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>Número</translation>
+    </message>
+    <message>
+        <source>Priority</source>
+        <translation>Prioridad</translation>
+    </message>
+    <message>
+        <source>Privilege</source>
+        <translation>Privilegio</translation>
+    </message>
+    <message>
+        <source>Alarms of</source>
+        <translation>Alarmas de</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Buscar</translation>
+    </message>
+    <message>
+        <source>Search the available actions</source>
+        <translation>Buscar en las acciones disponibles</translation>
+    </message>
+    <message>
+        <source>They run from top to bottom. Drag them, or move them by Alt and the arrow keys; Delete removes.</source>
+        <translation>Se ejecutan de arriba abajo. Arrástrelas, o muévalas con Alt y las flechas; Supr elimina.</translation>
+    </message>
+    <message>
+        <source>general</source>
+        <translation>general</translation>
+    </message>
+    <message>
+        <source>digital input</source>
+        <translation>entrada digital</translation>
+    </message>
+    <message>
+        <source>analog input</source>
+        <translation>entrada analógica</translation>
+    </message>
+    <message>
+        <source>analog group</source>
+        <translation>grupo de analógicas</translation>
+    </message>
+    <message>
+        <source>auxiliary input</source>
+        <translation>entrada auxiliar</translation>
+    </message>
+    <message>
+        <source>OFF measurement</source>
+        <translation>medida OFF</translation>
+    </message>
+    <message>
+        <source>flag</source>
+        <translation>flag</translation>
+    </message>
+    <message>
+        <source>flow meter</source>
+        <translation>caudalímetro</translation>
+    </message>
+    <message>
+        <source>math channel</source>
+        <translation>canal matemático</translation>
+    </message>
+    <message>
+        <source>1-Wire probe</source>
+        <translation>sonda 1-Wire</translation>
+    </message>
+    <message>
+        <source>MODBUS bus</source>
+        <translation>bus MODBUS</translation>
+    </message>
+    <message>
+        <source>MODBUS channel</source>
+        <translation>canal MODBUS</translation>
+    </message>
+    <message>
+        <source>expansion input</source>
+        <translation>entrada de expansión</translation>
+    </message>
+    <message>
+        <source>digital expansion input</source>
+        <translation>entrada digital de expansión</translation>
+    </message>
+    <message>
+        <source>flow meter expansion input</source>
+        <translation>caudalímetro de expansión</translation>
+    </message>
+    <message>
+        <source>counter expansion input</source>
+        <translation>contador de expansión</translation>
+    </message>
+    <message>
+        <source>analog expansion input</source>
+        <translation>entrada analógica de expansión</translation>
+    </message>
+    <message>
+        <source>name</source>
+        <translation>nombre</translation>
+    </message>
+    <message>
+        <source>unit</source>
+        <translation>unidad</translation>
+    </message>
+    <message>
+        <source>interface</source>
+        <translation>interfaz</translation>
+    </message>
+    <message>
+        <source>normally closed</source>
+        <translation>normalmente cerrado</translation>
+    </message>
+    <message>
+        <source>time between resends</source>
+        <translation>tiempo entre reenvíos</translation>
+    </message>
+    <message>
+        <source>resends</source>
+        <translation>reenvíos</translation>
+    </message>
+    <message>
+        <source>own number</source>
+        <translation>número propio</translation>
+    </message>
+    <message>
+        <source>text of a restoration</source>
+        <translation>texto de restauración</translation>
+    </message>
+    <message>
+        <source>telephone</source>
+        <translation>teléfono</translation>
+    </message>
+    <message>
+        <source>start of scale</source>
+        <translation>inicio de escala</translation>
+    </message>
+    <message>
+        <source>full scale</source>
+        <translation>fondo de escala</translation>
+    </message>
+    <message>
+        <source>value at start of scale</source>
+        <translation>valor al inicio de escala</translation>
+    </message>
+    <message>
+        <source>value at full scale</source>
+        <translation>valor a fondo de escala</translation>
+    </message>
+    <message>
+        <source>group</source>
+        <translation>grupo</translation>
+    </message>
+    <message>
+        <source>output</source>
+        <translation>salida</translation>
+    </message>
+    <message>
+        <source>voltage</source>
+        <translation>tensión</translation>
+    </message>
+    <message>
+        <source>period</source>
+        <translation>periodo</translation>
+    </message>
+    <message>
+        <source>enabled</source>
+        <translation>habilitada</translation>
+    </message>
+    <message>
+        <source>restoration message</source>
+        <translation>mensaje de restauración</translation>
+    </message>
+    <message>
+        <source>resend</source>
+        <translation>reenviar</translation>
+    </message>
+    <message>
+        <source>notify by SMS</source>
+        <translation>avisar por SMS</translation>
+    </message>
+    <message>
+        <source>notify by SMS and voice</source>
+        <translation>avisar por SMS y voz</translation>
+    </message>
+    <message>
+        <source>notify by GPRS</source>
+        <translation>avisar por GPRS</translation>
+    </message>
+    <message>
+        <source>text</source>
+        <translation>texto</translation>
+    </message>
+    <message>
+        <source>minimum</source>
+        <translation>mínimo</translation>
+    </message>
+    <message>
+        <source>maximum</source>
+        <translation>máximo</translation>
+    </message>
+    <message>
+        <source>hysteresis</source>
+        <translation>histéresis</translation>
+    </message>
+    <message>
+        <source>persistence</source>
+        <translation>persistencia</translation>
+    </message>
+    <message>
+        <source>rearming</source>
+        <translation>rearme</translation>
+    </message>
+    <message>
+        <source>always valid</source>
+        <translation>siempre válida</translation>
+    </message>
+    <message>
+        <source>valid from</source>
+        <translation>válida desde</translation>
+    </message>
+    <message>
+        <source>valid until</source>
+        <translation>válida hasta</translation>
+    </message>
+    <message>
+        <source>valid days</source>
+        <translation>días válidos</translation>
+    </message>
+    <message>
+        <source>condition flag</source>
+        <translation>flag de condición</translation>
+    </message>
+    <message>
+        <source>actions, high</source>
+        <translation>acciones, alto</translation>
+    </message>
+    <message>
+        <source>actions, low</source>
+        <translation>acciones, bajo</translation>
+    </message>
+    <message>
+        <source>actions, normal</source>
+        <translation>acciones, normal</translation>
+    </message>
+    <message>
+        <source>minimum, or rearming of a digital one</source>
+        <translation>mínimo, o rearme si es digital</translation>
+    </message>
+    <message>
+        <source>maximum, or persistence of a digital one</source>
+        <translation>máximo, o persistencia si es digital</translation>
+    </message>
+    <message>
+        <source>slave address</source>
+        <translation>dirección del esclavo</translation>
+    </message>
+    <message>
+        <source>register address</source>
+        <translation>dirección del registro</translation>
+    </message>
+    <message>
+        <source>multiplier</source>
+        <translation>multiplicador</translation>
+    </message>
+    <message>
+        <source>analog</source>
+        <translation>analógico</translation>
+    </message>
+    <message>
+        <source>constant</source>
+        <translation>constante</translation>
+    </message>
+    <message>
+        <source>bit mask</source>
+        <translation>máscara de bits</translation>
+    </message>
+    <message>
+        <source>negated</source>
+        <translation>negado</translation>
+    </message>
+    <message>
+        <source>register size</source>
+        <translation>tamaño del registro</translation>
+    </message>
+    <message>
+        <source>bit rate</source>
+        <translation>velocidad</translation>
+    </message>
+    <message>
+        <source>bus master</source>
+        <translation>maestro del bus</translation>
+    </message>
+    <message>
+        <source>own address as a slave</source>
+        <translation>dirección propia como esclavo</translation>
+    </message>
+    <message>
+        <source>time base</source>
+        <translation>base de tiempo</translation>
+    </message>
+    <message>
+        <source>units a pulse</source>
+        <translation>unidades por pulso</translation>
+    </message>
+    <message>
+        <source>units of a pulse</source>
+        <translation>unidades por pulso</translation>
+    </message>
+    <message>
+        <source>equation</source>
+        <translation>ecuación</translation>
+    </message>
+    <message>
+        <source>length of an OFF measurement</source>
+        <translation>duración de una medida OFF</translation>
+    </message>
+    <message>
+        <source>sampling of an OFF measurement</source>
+        <translation>muestreo de una medida OFF</translation>
+    </message>
+    <message>
+        <source>amperes of a volt at the shunt</source>
+        <translation>amperios por voltio en el shunt</translation>
+    </message>
+    <message>
+        <source>addressed by identity</source>
+        <translation>direccionada por identidad</translation>
+    </message>
+    <message>
+        <source>first half of the identity</source>
+        <translation>primera mitad de la identidad</translation>
+    </message>
+    <message>
+        <source>second half of the identity</source>
+        <translation>segunda mitad de la identidad</translation>
+    </message>
+    <message>
+        <source>mode</source>
+        <translation>modo</translation>
+    </message>
+    <message>
+        <source>module address</source>
+        <translation>dirección del módulo</translation>
+    </message>
+    <message>
+        <source>input on the module</source>
+        <translation>entrada del módulo</translation>
+    </message>
+    <message>
+        <source>group, in the file alone</source>
+        <translation>grupo, solo en el fichero</translation>
+    </message>
+    <message>
+        <source>sampling rate in hertz</source>
+        <translation>frecuencia de muestreo en hercios</translation>
+    </message>
+    <message>
+        <source>weight of a pulse in the totaliser</source>
+        <translation>peso de un pulso en el totalizador</translation>
+    </message>
+    <message>
+        <source>readings</source>
+        <translation>lecturas</translation>
+    </message>
+    <message>
+        <source>cycles</source>
+        <translation>ciclos</translation>
+    </message>
+    <message>
+        <source>s</source>
+        <translation>s</translation>
+    </message>
+    <message>
+        <source>V</source>
+        <translation>V</translation>
+    </message>
+    <message>
+        <source>bit/s</source>
+        <translation>bit/s</translation>
+    </message>
+    <message>
+        <source>hundredths of a second</source>
+        <translation>centésimas de segundo</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <translation>no habilitado</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <translation>habilitado</translation>
+    </message>
+    <message>
+        <source>4/20 mA</source>
+        <translation>4/20 mA</translation>
+    </message>
+    <message>
+        <source>0-5 V</source>
+        <translation>0-5 V</translation>
+    </message>
+    <message>
+        <source>0-10 V</source>
+        <translation>0-10 V</translation>
+    </message>
+    <message>
+        <source>pressure</source>
+        <translation>presión</translation>
+    </message>
+    <message>
+        <source>temperature</source>
+        <translation>temperatura</translation>
+    </message>
+    <message>
+        <source>humidity</source>
+        <translation>humedad</translation>
+    </message>
+    <message>
+        <source>digital</source>
+        <translation>digital</translation>
+    </message>
+    <message>
+        <source>counter</source>
+        <translation>contador</translation>
+    </message>
+    <message>
+        <source>16 bits</source>
+        <translation>16 bits</translation>
+    </message>
+    <message>
+        <source>32 bits</source>
+        <translation>32 bits</translation>
+    </message>
+    <message>
+        <source>float</source>
+        <translation>coma flotante</translation>
+    </message>
+    <message>
+        <source>a comma ends the text on the line: write something else for it</source>
+        <translation>una coma termina el texto en la línea: escriba otra cosa en su lugar</translation>
+    </message>
+    <message>
+        <source>a brace encloses commands on the line: write something else for it</source>
+        <translation>una llave encierra órdenes en la línea: escriba otra cosa en su lugar</translation>
+    </message>
+    <message>
+        <source>a control character breaks the line: remove it</source>
+        <translation>un carácter de control rompe la línea: quítelo</translation>
+    </message>
+    <message>
+        <source>%1 statements, and their numbers have three digits: set up less</source>
+        <translation>%1 sentencias, y sus números tienen tres cifras: configure menos cosas</translation>
+    </message>
+    <message>
+        <source>%1 characters, and its box takes %2: shorten it</source>
+        <translation>%1 caracteres, y en el campo caben %2: acórtelo</translation>
+    </message>
+    <message>
+        <source>%1 characters, of which only the first 254 are read: shorten it</source>
+        <translation>%1 caracteres, de los que solo se leen los primeros 254: acórtelo</translation>
+    </message>
+    <message>
+        <source>%1 is no value for this: it is read as %2</source>
+        <translation>%1 no es un valor para este campo: se lee como %2</translation>
+    </message>
+    <message>
+        <source>the section is missing, and is read as empty</source>
+        <translation>falta la sección, y se lee como vacía</translation>
+    </message>
+    <message>
+        <source>this section and %1 more are missing, and are read as empty</source>
+        <translation>faltan esta sección y %1 más, y se leen como vacías</translation>
+    </message>
+    <message>
+        <source>the key is missing, and is read as empty</source>
+        <translation>falta la clave, y se lee como vacía</translation>
+    </message>
+    <message>
+        <source>this key and %1 more of the section are missing, and are read as empty</source>
+        <translation>faltan esta clave y %1 más de la sección, y se leen como vacías</translation>
+    </message>
+    <message>
+        <source>the %1 has no action %2: choose another one or 0</source>
+        <translation>el %1 no tiene la acción %2: elija otra o 0</translation>
+    </message>
+    <message>
+        <source>this firmware does not take the setting: it is left out of an upload</source>
+        <translation>este firmware no admite el ajuste: no se incluye en una escritura</translation>
+    </message>
+    <message>
+        <source>this firmware knows masks of DI0 to DI7 and AI0 to AI3 alone, so these are left out:%1</source>
+        <translation>este firmware solo conoce máscaras de DI0 a DI7 y AI0 a AI3, así que estas se omiten:%1</translation>
+    </message>
+    <message>
+        <source>this firmware takes a mask as the channels to include, never to exclude</source>
+        <translation>este firmware toma una máscara como los canales incluidos, nunca excluidos</translation>
+    </message>
+    <message>
+        <source>%1 is no telephone number</source>
+        <translation>%1 no es un número de teléfono</translation>
+    </message>
+    <message>
+        <source>a number of fewer than 3 digits does not read back from a logger</source>
+        <translation>un número de menos de 3 cifras no se puede volver a leer del equipo</translation>
+    </message>
+    <message>
+        <source>%1 stands in the list twice: remove one of them</source>
+        <translation>%1 está dos veces en la lista: quite uno de los dos</translation>
+    </message>
+    <message>
+        <source>the alarm notifies, but no telephone's mask admits %1: add a telephone or widen a mask</source>
+        <translation>la alarma avisa, pero la máscara de ningún teléfono admite %1: añada un teléfono o amplíe una máscara</translation>
+    </message>
+    <message>
+        <source>the alarm is enabled but valid on no day, which a logger takes for disabled: choose days</source>
+        <translation>la alarma está habilitada pero no es válida ningún día, lo que el equipo toma por no habilitada: elija días</translation>
+    </message>
+    <message>
+        <source>the minimum %1 lies above the maximum %2, so that every value is in alarm: exchange them</source>
+        <translation>el mínimo %1 está por encima del máximo %2, y todo valor está en alarma: intercámbielos</translation>
+    </message>
+    <message>
+        <source>the hysteresis %1 is larger than the band from %2 to %3, so that the alarm cannot end: make it smaller</source>
+        <translation>la histéresis %1 es mayor que la banda de %2 a %3, y la alarma no puede terminar: redúzcala</translation>
+    </message>
+    <message>
+        <source>the alarm is enabled, but the channel is off: set up one or the other</source>
+        <translation>la alarma está habilitada, pero el canal no: configure lo uno o lo otro</translation>
+    </message>
+    <message>
+        <source>the alarm is enabled, but the channel is off, having neither a multiplier nor a mask: set up one or the other</source>
+        <translation>la alarma está habilitada, pero el canal no, pues no tiene multiplicador ni máscara: configure lo uno o lo otro</translation>
+    </message>
+    <message>
+        <source>the alarm is enabled, but the channel is never read, its slave address being 0: set up one or the other</source>
+        <translation>la alarma está habilitada, pero el canal no se lee nunca, pues la dirección del esclavo es 0: configure lo uno o lo otro</translation>
+    </message>
+    <message>
+        <source>an address on the bus is 0 to 247: choose another one</source>
+        <translation>una dirección del bus va de 0 a 247: elija otra</translation>
+    </message>
+    <message>
+        <source>a register has no address below 0: choose another one</source>
+        <translation>un registro no tiene dirección menor que 0: elija otra</translation>
+    </message>
+    <message>
+        <source>%1 is no bit rate of the bus: choose 1200, 2400, 4800, 9600, 19200, 38400 or 57600</source>
+        <translation>%1 no es una velocidad del bus: elija 1200, 2400, 4800, 9600, 19200, 38400 o 57600</translation>
+    </message>
+    <message>
+        <source>an analog channel whose multiplier is not above 0 reads back as a digital one: choose another multiplier</source>
+        <translation>un canal analógico cuyo multiplicador no es mayor que 0 se vuelve a leer como digital: elija otro multiplicador</translation>
+    </message>
+    <message>
+        <source>the register size is none of the three and is sent as 16 bits</source>
+        <translation>el tamaño del registro no es ninguno de los tres y se envía como 16 bits</translation>
+    </message>
+    <message>
+        <source>an earlier program's mark of 32 bits is not taken over: choose the register size</source>
+        <translation>la marca de 32 bits de un programa anterior no se conserva: elija el tamaño del registro</translation>
+    </message>
+    <message>
+        <source>module address %1, input %2 is that of expansion input %3, too: give each its own</source>
+        <translation>la dirección de módulo %1, entrada %2 es también la de la entrada de expansión %3: dé a cada una la suya</translation>
+    </message>
+    <message>
+        <source>there is no such mode, and nothing is sent of the input: choose 0 to 4</source>
+        <translation>ese modo no existe, y no se envía nada de la entrada: elija de 0 a 4</translation>
+    </message>
+    <message>
+        <source>%1 is not within 0 to %2: choose another one</source>
+        <translation>%1 no está entre 0 y %2: elija otro</translation>
+    </message>
+    <message>
+        <source>no interface is chosen, and the logger keeps the one that it has: choose 1 for 4/20 mA or 3 for 0-10 V</source>
+        <translation>no hay interfaz elegida, y el equipo conserva la que tiene: elija 1 para 4/20 mA o 3 para 0-10 V</translation>
+    </message>
+    <message>
+        <source>%1 is no half of an identity: write four numbers up to 255 with points between them</source>
+        <translation>%1 no es la mitad de una identidad: escriba cuatro números hasta 255 separados por puntos</translation>
+    </message>
+    <message>
+        <source>probe %1 has the same identity: read that of the other one</source>
+        <translation>la sonda %1 tiene la misma identidad: lea la de la otra</translation>
+    </message>
+    <message>
+        <source>the %1 has no channel %2: name another one</source>
+        <translation>el %1 no tiene el canal %2: nombre otro</translation>
+    </message>
+    <message>
+        <source>start of scale and full scale are the same signal, so that there is no value: set up both</source>
+        <translation>el inicio y el fondo de escala son la misma señal, y no hay valor: configure los dos</translation>
+    </message>
+    <message>
+        <source>full scale lies below the start of scale: exchange them, and their values</source>
+        <translation>el fondo de escala está por debajo del inicio: intercámbielos, y sus valores</translation>
+    </message>
+    <message>
+        <source>both ends of the scale have the same value, so that the channel never changes: set up both</source>
+        <translation>los dos extremos de la escala tienen el mismo valor, y el canal no cambia nunca: configure los dos</translation>
+    </message>
+    <message>
+        <source>the value falls as the signal rises: exchange the values, unless the sensor is such a one</source>
+        <translation>el valor baja cuando la señal sube: intercambie los valores, salvo que el sensor sea así</translation>
+    </message>
+    <message>
+        <source>there is no interface %1, and the logger keeps the one that it has: choose another one</source>
+        <translation>no existe la interfaz %1, y el equipo conserva la que tiene: elija otra</translation>
+    </message>
+    <message>
+        <source>%1 makes no sense here, where %2 does: correct it</source>
+        <translation>%1 no tiene sentido aquí, donde lo tiene %2: corríjalo</translation>
+    </message>
+    <message>
+        <source>the timer is enabled, but its period is not above 0: give it one</source>
+        <translation>el temporizador está habilitado, pero su período no es mayor que 0: indique uno</translation>
+    </message>
+    <message>
+        <source>the timer is enabled, but on no day: choose days</source>
+        <translation>el temporizador está habilitado, pero ningún día: elija días</translation>
+    </message>
+    <message>
+        <source>%1 days do not fit a statement, and nothing can be sent: choose at most 24855</source>
+        <translation>%1 días no caben en una instrucción y no se puede enviar nada: elija 24855 como máximo</translation>
+    </message>
+    <message>
+        <source>the timer is enabled, but runs no action: choose one</source>
+        <translation>el temporizador está habilitado, pero no ejecuta ninguna acción: elija una</translation>
+    </message>
+    <message>
+        <source>no timer reads the channel: let one run action 70, or that of its group</source>
+        <translation>ningún temporizador lee el canal: haga que uno ejecute la acción 70 o la de su grupo</translation>
+    </message>
+    <message>
+        <source>days</source>
+        <translation>días</translation>
+    </message>
+    <message>
+        <source>actions</source>
+        <translation>acciones</translation>
+    </message>
+    <message>
+        <source>time of day</source>
+        <translation>hora</translation>
+    </message>
+    <message>
+        <source>days of the week</source>
+        <translation>días de la semana</translation>
+    </message>
+    <message>
+        <source>days of the month</source>
+        <translation>días del mes</translation>
     </message>
 </context>
 </TS>

@@ -18,6 +18,8 @@ ModbusBusControls::ModbusBusControls(Form& form, PageContext& context)
       notice_(form, context, Feature::ModbusSlave, "no soporta el modo esclavo en MODBUS.") {
   for (const std::int32_t rate : kModbusBitRates) ComboVelocidad.Add(std::to_string(rate), rate);
   fields_.Bind(SlaveAddress, &ConfModbusBus::SLAVE_ADDRESS, NumberForm::Num, kInt);
+  Edits(ComboVelocidad.face, &ConfModbusBus::BAUD);
+  Edits(MasterOpt.face, &ConfModbusBus::MASTER);
   MasterOpt.OnClick = [this] { ShowRole(false); };
   SlaveOpt.OnClick = [this] { ShowRole(true); };
 }

@@ -16,7 +16,6 @@ class ModbusBusControls {
 
   ModbusBusControls(Form& form, PageContext& context);
 
-  void LoadText() { notice_.LoadText(); }
   void LoadData();
   void Save(DeviceConf& conf) const;
   void CheckNumbers() const { fields_.CheckNumbers(); }

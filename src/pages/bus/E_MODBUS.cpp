@@ -38,6 +38,8 @@ ModbusChannelControls::ModbusChannelControls(Form& form, PageContext& context)
       NoticeTimer(form, "NoticeTimer",
                   "Recuerde configurar un temporizador para la lectura de este canal.") {
   fields_.Bind(Nombre, &ConfModbus::NOMBRE);
+  Edits(OptAnalog.face, &ConfModbus::ANALOG_MODE);
+  size_.NoteField(&ConfModbus::TYPE);
   fields_.Bind(Unidad, &ConfModbus::UNIDAD);
   fields_.Bind(SlaveAddres, &ConfModbus::SLAVE, NumberForm::Num, kInt);
   fields_.Bind(RegAddres, &ConfModbus::REGADD, NumberForm::Num, kInt);

@@ -9,6 +9,24 @@ namespace {
 
 constexpr std::string_view kInputTitle = "Canal ";
 
+/// Notes at the controls of each tab in which section of a file their fields stand.
+void NoteSections(Form& form) {
+  constexpr std::array<std::pair<std::string_view, const SectionMeta*>, 5> kSections{{
+      {"D_", &ExpansionInputs::kDigital},
+      {"Q_", &ExpansionInputs::kFlow},
+      {"C_", &ExpansionInputs::kCounter},
+      {"A_", &ExpansionInputs::kAnalog},
+      {"", &ExpansionInputs::kFrame},
+  }};
+  for (const ControlRef& control : form.Controls()) {
+    Face& face = FaceOf(control);
+    EditedField field = face.Field();
+    for (const auto& [prefix, section] : kSections)
+      if (field.section.empty() && face.Name().starts_with(prefix)) field.section = section->word;
+    face.SetField(field);
+  }
+}
+
 }  // namespace
 
 E_Modular::E_Modular(PageContext& context)
@@ -21,9 +39,10 @@ E_Modular::E_Modular(PageContext& context)
       analog_(form_, context),
       help_(form_, "Help", ""),
       Timer1_(form_, "Timer1", context.platform.loop, std::chrono::seconds(1)) {
-  digital_.OnActions = [this](auto list) { EditActionsOf<&ConfModulo::D>(list); };
-  flow_.OnActions = [this](auto list) { EditActionsOf<&ConfModulo::Q>(list); };
-  analog_.OnActions = [this](auto list) { EditActionsOf<&ConfModulo::A>(list); };
+  NoteSections(form_);
+  digital_.OnActions = [this](auto list) { EditActionsOf<&ConfModulo::D>(list, digital_); };
+  flow_.OnActions = [this](auto list) { EditActionsOf<&ConfModulo::Q>(list, flow_); };
+  analog_.OnActions = [this](auto list) { EditActionsOf<&ConfModulo::A>(list, analog_); };
   counter_.OnModify = [this] {
     if (context_.showExpansionTotal) context_.showExpansionTotal(CurrentIndex_);
   };
@@ -88,21 +107,30 @@ void E_Modular::Commit() {
 }
 
 void E_Modular::Tick() {
-  digital_.Tick();
   flow_.Tick();
-  counter_.CheckNumbers();
-  analog_.Tick();
+  CheckNumbers();
   RepaintTree();
+}
+
+void E_Modular::CheckNumbers() {
+  digital_.CheckNumbers();
+  flow_.CheckNumbers();
+  counter_.CheckNumbers();
+  analog_.CheckNumbers();
 }
 
 void E_Modular::RepaintTree() const {
   if (context_.repaintTree) context_.repaintTree();
 }
 
-template <auto kPart>
-void E_Modular::EditActionsOf(ActionList AlarmBlock::*list) {
+template <auto kPart, class Tab>
+void E_Modular::EditActionsOf(ActionList AlarmBlock::*list, Tab& tab) {
   if (context_.ComBusy) return;  // the list is being replaced
-  context_.EditActions((Current().*kPart).ALARM[0].common.*list);
+  auto& record = Current().*kPart;
+  std::string subject = context_.Translate(kInputTitle) + NumText(CurrentIndex_);
+  if (const std::string name = tab.NameOf(record); !name.empty()) subject += " \"" + name + '"';
+  context_.EditActions(record.ALARM[0].common.*list, subject + ", " + tab.CaptionOf(list));
+  tab.ShowActionCounts(record);
 }
 
 void E_Modular::ShowHelp() const {

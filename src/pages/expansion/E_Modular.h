@@ -23,7 +23,10 @@ class E_Modular final : public Page {
   void LoadData() override;
   void SaveConf(IniClass& document) override { SaveBlock(context_, Id(), document); }
   void RestoreConf() override;
-  void SavePage() override { SaveInto(context_.conf); }
+  void SavePage() override {
+    SaveInto(context_.conf);
+    CheckNumbers();
+  }
   void SaveInto(DeviceConf& conf) const override;
   void Form_Load() override;
   void Form_Activate() override {}
@@ -36,10 +39,11 @@ class E_Modular final : public Page {
   /// Commits, unless a download is replacing the model.
   void Commit();
   void Tick();
+  void CheckNumbers();
   /// Lets the tree show which inputs are in use.
   void RepaintTree() const;
-  template <auto kPart>
-  void EditActionsOf(ActionList AlarmBlock::*list);
+  template <auto kPart, class Tab>
+  void EditActionsOf(ActionList AlarmBlock::*list, Tab& tab);
   void ShowHelp() const;
 
   PageContext& context_;

@@ -4,6 +4,8 @@
 #include <string>
 #include <utility>
 
+#include "pages/parts/Edits.h"
+
 namespace ostrel {
 namespace {
 
@@ -40,6 +42,10 @@ InputFrame::InputFrame(Form& form)
   for (const char digit : kHexDigits) AddressCombo.Add(std::string(1, digit));
   for (int input = 0; input < kInputsOfModule; ++input) InputCombo.Add(std::to_string(input));
   for (int group = 0; group < kReadingGroups; ++group) GroupCombo.Add(std::to_string(group));
+  Edits(ModeCombo.face, &ConfModulo::MODO);
+  Edits(AddressCombo.face, &ConfModulo::DIR);
+  Edits(InputCombo.face, &ConfModulo::ENTRADA);
+  Edits(GroupCombo.face, &ConfModulo::GRUPO);
   ModeCombo.OnClick = [this] { SSTab1.SetTab(std::max(ModeCombo.Position(), 0)); };
 }
 

@@ -19,6 +19,7 @@ ModuloDigitalControls::ModuloDigitalControls(Form& form, const PageContext&)
       Int_NA(form, contact_, "D_Int_NA", "N.A."),
       Int_NC(form, contact_, "D_Int_NC", "N.C.") {
   fields_.Bind(Nombre, &ModuloDigital::NOMBRE);
+  Edits(Int_NC.face, &ModuloDigital::NC);
   Int_NA.OnClick = [this] { CurrentNC_ = false; };
   Int_NC.OnClick = [this] { CurrentNC_ = true; };
 }
@@ -88,6 +89,7 @@ ModuloAnalogControls::ModuloAnalogControls(Form& form, const PageContext&)
       EqIE(form, "A_EqIE"),
       EqFE(form, "A_EqFE") {
   fields_.Bind(Nombre, &ModuloAnalog::NOMBRE);
+  interface_.NoteField(&ModuloAnalog::INTERFAZ);
   fields_.Bind(Unidad, &ModuloAnalog::UNIDAD);
   fields_.Bind(IE, &ModuloAnalog::IE, NumberForm::Dec, kFloat);
   fields_.Bind(FE, &ModuloAnalog::FE, NumberForm::Dec, kFloat);

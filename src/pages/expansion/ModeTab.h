@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "pages/PageContext.h"
+#include "pages/parts/AlarmFields.h"
 #include "pages/parts/AlarmPanel.h"
 #include "pages/parts/BoundFields.h"
 #include "pages/parts/ConfigChoice.h"
@@ -22,6 +23,8 @@ class ModeTab {
         configs_(form, Content::kNames(), Record::kShape.configs),
         panel_(form, Content::kNames(), Record::kShape, Content::kNumberForm,
                Content::kThresholds) {
+    NoteAlarmFields<decltype(Record{}.ALARM[0].thresholds)>(form, Content::kNames(), Record::kShape,
+                                                            Content::kThresholds);
     panel_.OnActions() = [this](ActionList AlarmBlock::*list) {
       if (OnActions) OnActions(list);
     };
@@ -42,9 +45,23 @@ class ModeTab {
   }
   void Tick() {
     if constexpr (requires { content_.Tick(); }) content_.Tick();
+  }
+  void CheckNumbers() {
     content_.CheckNumbers();
     panel_.CheckNumbers();
   }
+
+  /// The name of the input as it stands on the tab.
+  std::string NameOf(Record record) const {
+    content_.Save(record);
+    return record.NOMBRE;
+  }
+  /// What an action list of the tab is called.
+  const std::string& CaptionOf(ActionList AlarmBlock::*list) const {
+    return panel_.CaptionOf(list);
+  }
+  /// Shows how many actions the lists of the alarm have.
+  void ShowActionCounts(const Record& record) { panel_.ShowActionCounts(record.ALARM[0].common); }
 
   /// Called by an action button with the list that it stands for.
   std::function<void(ActionList AlarmBlock::*list)> OnActions;

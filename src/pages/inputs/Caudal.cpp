@@ -35,6 +35,7 @@ FlowChannel::FlowChannel(Form& form, const PageContext& context)
              "* La persistencia se expresa en ciclos de la base de tiempo. T= Persistencia * Base "
              "de tiempos.") {
   fields_.Bind(Nombre, &ConfCaudal::NOMBRE);
+  interface_.NoteField(&ConfCaudal::INTERFAZ);
   fields_.Bind(Unidad, &ConfCaudal::UNIDAD);
   fields_.Bind(TimeBase, &ConfCaudal::TIMEBASE, NumberForm::Num, kInt);
   fields_.Bind(Ratio, &ConfCaudal::RATIO, NumberForm::Dec, kFloat);
@@ -55,6 +56,7 @@ void FlowChannel::ApplyInterface(std::int16_t code) {
 }
 
 void FlowChannel::Load(const ConfCaudal& record) {
+  hasPulses_ = !Has(context_.info.Features, Feature::FlowThresholds);
   interface_.Load(record.INTERFAZ);
   ApplyInterface(record.INTERFAZ);
   fields_.Load(record);
@@ -69,10 +71,6 @@ void FlowChannel::Save(ConfCaudal& record) const {
 void FlowChannel::LoadLive(std::int16_t index) {
   index_ = index;
   TotalText.face.SetCaption(NumText(context_.totals[index]));
-}
-
-float FlowChannel::Factor(const ConfCaudal& record) const {
-  return Has(context_.info.Features, Feature::FlowThresholds) ? 1 : record.RATIO;
 }
 
 }  // namespace ostrel

@@ -28,8 +28,9 @@ class FlowChannel {
   void Load(const ConfCaudal& record);
   void Save(ConfCaudal& record) const;
   void LoadLive(std::int16_t index);
-  /// An older firmware keeps the thresholds in pulses.
-  float Factor(const ConfCaudal& record) const;
+  /// An older firmware keeps the thresholds in pulses. What the boxes were filled by holds until
+  /// they are filled anew, whatever logger has answered meanwhile.
+  float Factor(const ConfCaudal& record) const { return hasPulses_ ? record.RATIO : 1; }
   void Tick() { ShowUnit(); }
   void CheckNumbers() { fields_.CheckNumbers(); }
 
@@ -57,6 +58,7 @@ class FlowChannel {
   Button BotonModificar;
   Label Asterisk, Notice;
   std::int16_t index_ = 0;
+  bool hasPulses_ = false;
 };
 
 using Caudal = ChannelPage<FlowChannel>;

@@ -35,6 +35,7 @@ AnalogChannel::AnalogChannel(Form& form, const PageContext& context)
           "* La persistencia se expresa en numero de lecturas del canal. La frecuencia de lectura "
           "depende del temporizador configurado.") {
   fields_.Bind(Nombre, &ConfAnalog::NOMBRE);
+  interface_.NoteField(&ConfAnalog::INTERFAZ);
   fields_.Bind(Unidad, &ConfAnalog::UNIDAD);
   fields_.Bind(IE, &ConfAnalog::IE, NumberForm::Dec, kFloat);
   fields_.Bind(FE, &ConfAnalog::FE, NumberForm::Dec, kFloat);

@@ -23,6 +23,7 @@ AuxiliaryChannel::AuxiliaryChannel(Form& form, const PageContext&)
       EqIE(form, "EqIE"),
       EqFE(form, "EqFE") {
   fields_.Bind(Nombre, &ConfAux::NOMBRE);
+  interface_.NoteField(&ConfAux::INTERFAZ);
   fields_.Bind(Unidad, &ConfAux::UNIDAD);
   fields_.Bind(IE, &ConfAux::IE, NumberForm::Dec, kFloat);
   fields_.Bind(FE, &ConfAux::FE, NumberForm::Dec, kFloat);

@@ -7,6 +7,7 @@ DigitalChannel::DigitalChannel(Form& form, const PageContext&)
       Int_NA(form, contact_, "Int_NA", "N.A."),
       Int_NC(form, contact_, "Int_NC", "N.C.") {
   fields_.Bind(Nombre, &ConfDigital::NOMBRE);
+  Edits(Int_NC.face, &ConfDigital::NC);
   Int_NA.OnClick = [this] { CurrentNC_ = false; };
   Int_NC.OnClick = [this] { CurrentNC_ = true; };
 }

@@ -19,6 +19,7 @@ MathChannel::MathChannel(Form& form, const PageContext&)
       FrameEcuacion(form, "FrameEcuacion", "Ecuacion de conversion"),
       Ecuacion(form, "Ecuacion") {
   fields_.Bind(Nombre, &ConfMath::NOMBRE);
+  interface_.NoteField(&ConfMath::INTERFAZ);
   fields_.Bind(Unidad, &ConfMath::UNIDAD);
   fields_.Bind(Ecuacion, &ConfMath::ECUACION);
 }

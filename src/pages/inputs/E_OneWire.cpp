@@ -12,6 +12,12 @@ constexpr std::array<CodeOption, 3> kProbeInterfaces{{
     {"Int_1WHum", "Humedad", kInterfaceHumidity},
 }};
 
+/// The boxes hold three digits an octet.
+ConfOneWire WithWholeIdentity(ConfOneWire record) {
+  for (std::string* half : {&record.ADDRESS1, &record.ADDRESS2}) *half = WholeHalf(*half);
+  return record;
+}
+
 }  // namespace
 
 ProbeChannel::ProbeChannel(Form& form, const PageContext& context)
@@ -27,6 +33,8 @@ ProbeChannel::ProbeChannel(Form& form, const PageContext& context)
       ID1(form, "ID1"),
       BotonLeerId(form, "BotonLeerId", "Leer ID") {
   fields_.Bind(Nombre, &ConfOneWire::NOMBRE);
+  Edits(OptionId.face, &ConfOneWire::ID);
+  interface_.NoteField(&ConfOneWire::INTERFAZ);
   fields_.Bind(Unidad, &ConfOneWire::UNIDAD);
   fields_.Bind(ID0, &ConfOneWire::ADDRESS1);
   fields_.Bind(ID1, &ConfOneWire::ADDRESS2);
@@ -50,8 +58,10 @@ void ProbeChannel::EnableIdentity(bool enabled) {
 void ProbeChannel::ReadIdentity() {
   context_.ShowMessage(context_.Translate("Recuerde que solo debe haber una sonda conectada"),
                        BoxIcon::Information);
+  const std::int16_t asked = index_;
   const auto identity = context_.readProbeIdentity();
-  if (!identity) return;
+  // Another probe may have been opened meanwhile, or the identity given up.
+  if (!identity || asked != index_ || !OptionId.Selected()) return;
   ID0.SetText(identity->first);
   ID1.SetText(identity->second);
 }
@@ -60,11 +70,12 @@ void ProbeChannel::Load(const ConfOneWire& record) {
   interface_.Load(record.INTERFAZ);
   (record.ID ? OptionId : OptionNoId).SetSelected(true);
   EnableIdentity(bool(record.ID));
-  fields_.Load(record);
+  fields_.Load(WithWholeIdentity(record));
 }
 
 void ProbeChannel::Save(ConfOneWire& record) const {
   fields_.Save(record);
+  record = WithWholeIdentity(record);
   record.INTERFAZ = interface_.Code();
   record.ID = Bool16(OptionId.Selected());
 }

@@ -25,6 +25,7 @@ class ProbeChannel {
   static auto& Records(DeviceConf& conf) { return conf.OneWire; }
   void Load(const ConfOneWire& record);
   void Save(ConfOneWire& record) const;
+  void LoadLive(std::int16_t index) { index_ = index; }
   void CheckNumbers() {}
 
  private:
@@ -45,6 +46,7 @@ class ProbeChannel {
   OptionButton OptionNoId, OptionId;
   TextBox ID0, ID1;
   Button BotonLeerId;
+  std::int16_t index_ = 0;
 };
 
 using E_OneWire = ChannelPage<ProbeChannel>;

@@ -20,6 +20,13 @@ AnalogGroupControls::GroupControls::GroupControls(Form& form, int group)
   for (int output = 0; output < kOutputs; ++output) ComboSalida.Add(std::to_string(output), output);
   for (const std::int16_t voltage : kVoltages) ComboTension.Add(std::to_string(voltage), voltage);
   fields.Bind(Period, &ConfGrupo::PERIOD, NumberForm::Num, kInt);
+  Edits(ComboSalida.face, &ConfGrupo::SALIDA);
+  Edits(ComboTension.face, &ConfGrupo::VOLTAJE);
+  for (Face* face : {&Period.face, &ComboSalida.face, &ComboTension.face}) {
+    EditedField field = face->Field();
+    field.channel = group;
+    face->SetField(field);
+  }
 }
 
 void AnalogGroupControls::GroupControls::Load(const ConfGrupo& record) {

@@ -36,6 +36,8 @@ OffMeasurementControls::OffMeasurementControls(Form& form, PageContext& context)
       TextRatio(form, "TextRatio") {
   AddRows(ComboT_OFF, kOffTimes);
   AddRows(ComboSamples, kSampleRates);
+  Edits(ComboT_OFF.face, &ConfKatodex::OFFTIME);
+  Edits(ComboSamples.face, &ConfKatodex::SAMPLERATE);
   fields_.Bind(TextRatio, &ConfKatodex::AUX1RATIO, NumberForm::Num, kFloat);
 }
 

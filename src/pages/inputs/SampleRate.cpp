@@ -4,6 +4,7 @@
 
 #include "blocks/inputs/Sampling.h"
 #include "pages/parts/ControlNames.h"
+#include "pages/parts/Edits.h"
 
 namespace ostrel {
 namespace {
@@ -33,6 +34,7 @@ SamplingControls::WeightControls::WeightControls(Form& form, int meter)
     : LabelT(form, OfMeter(meter)("LabelT"),
              "Totalizador " + std::to_string(meter) + ", un pulso equivale a:"),
       ComboT(form, OfMeter(meter)("ComboT")) {
+  ComboT.face.SetField({.word = Sampling::kWeightMeta.word, .channel = meter});
   for (const WeightRow& row : kWeights) ComboT.Add(row.text);
 }
 
@@ -44,6 +46,7 @@ SamplingControls::SamplingControls(Form& form, PageContext& context)
                  "¡ATENCION! El muestreo a 256Hz reduce la autonomia del equipo en un 20%"),
       notice_(form, context, Feature::TotalRatio,
               "no soporta la configuracion del peso por pulso en los totalizadores.") {
+  Edits(ComboSampleRate.face, Sampling::kRateMeta);
   ComboSampleRate.Add("64Hz", kSlowSampling);
   ComboSampleRate.Add("256Hz", kFastSampling);
   for (int meter = 0; meter < Sampling::kMeters; ++meter) weights_.emplace_back(form, meter);

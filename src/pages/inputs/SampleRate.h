@@ -18,7 +18,6 @@ class SamplingControls {
 
   SamplingControls(Form& form, PageContext& context);
 
-  void LoadText() { notice_.LoadText(); }
   void LoadData();
   void Save(DeviceConf& conf) const;
   /// Shows what the model has.

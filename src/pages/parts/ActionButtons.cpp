@@ -12,6 +12,17 @@ ActionButtons::ActionButtons(Form& form, const ControlNames& names, bool hasNorm
   BotonNormal->OnClick = [this] { OnActions(&AlarmBlock::ACTNO); };
 }
 
+void ActionButtons::ShowCounts(const AlarmBlock& alarm) {
+  BotonAlto.SetCount(CountActions(alarm.ACTHI));
+  BotonBajo.SetCount(CountActions(alarm.ACTLO));
+  if (BotonNormal) BotonNormal->SetCount(CountActions(alarm.ACTNO));
+}
+
+const std::string& ActionButtons::CaptionOf(ActionList AlarmBlock::*list) const {
+  if (list == &AlarmBlock::ACTHI) return BotonAlto.face.Caption();
+  return list == &AlarmBlock::ACTLO ? BotonBajo.face.Caption() : BotonNormal->face.Caption();
+}
+
 void ActionButtons::SetEnabled(bool enabled) {
   BotonAlto.face.SetEnabled(enabled);
   BotonBajo.face.SetEnabled(enabled);

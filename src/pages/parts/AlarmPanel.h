@@ -40,6 +40,12 @@ class AlarmPanel {
   /// Paints the threshold boxes by their content.
   void CheckNumbers() const { thresholds_.CheckNumbers(); }
 
+  /// Shows how many actions the lists of an alarm have.
+  void ShowActionCounts(const AlarmBlock& alarm) { actions_.ShowCounts(alarm); }
+  /// What an action list of the alarm is called.
+  const std::string& CaptionOf(ActionList AlarmBlock::*list) const {
+    return actions_.CaptionOf(list);
+  }
   /// Called by an action button with the list that it stands for.
   std::function<void(ActionList AlarmBlock::*list)>& OnActions() { return actions_.OnActions; }
 

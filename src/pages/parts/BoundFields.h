@@ -10,6 +10,7 @@
 #include "controls/NumberBox.h"
 #include "model/Assign.h"
 #include "model/Field.h"
+#include "pages/parts/Edits.h"
 
 namespace ostrel {
 
@@ -36,6 +37,7 @@ class BoundFields {
   /// A box for a text.
   void Bind(TextBox& box, std::string Record::*member) {
     box.SetMaxLength(MetaOf(member).longest);
+    Edits(box.face, member);
     bound_.push_back({[&box, member](const Record& record) { box.SetText(record.*member); },
                       [&box, member](Record& record) { record.*member = box.Text(); }});
   }
@@ -43,21 +45,24 @@ class BoundFields {
   template <class Number>
   void Bind(TextBox& box, Number Record::*member, NumberForm form, std::string_view kind) {
     box.SetMaxLength(MetaOf(member).longest);
-    bound_.push_back(
-        {[&box, member, form](const Record& record) {
-           box.SetText(NumberText(record.*member, form));
-         },
-         [&box, member](Record& record) { Assign(record.*member, NumVal(box.Text())); }});
-    numbers_.push_back({&box, kind});
+    box.SetNumberKind(kind);
+    Edits(box.face, member);
+    bound_.push_back({[&box, member, form](const Record& record) {
+                        box.SetText(NumberText(record.*member, form));
+                      },
+                      [&box, member](Record& record) { Assign(record.*member, NumberIn(box)); }});
+    numbers_.push_back(&box);
   }
   /// A check box for a yes or no.
   void Bind(CheckBox& box, Bool16 Record::*member) {
+    Edits(box.face, member);
     bound_.push_back(
         {[&box, member](const Record& record) { box.SetChecked(bool(record.*member)); },
          [&box, member](Record& record) { record.*member = Bool16(box.Checked()); }});
   }
   /// A list whose position is the value.
   void Bind(ComboBox& box, std::int16_t Record::*member) {
+    Edits(box.face, member);
     bound_.push_back({[&box, member](const Record& record) { box.SetPosition(record.*member); },
                       [&box, member](Record& record) { Assign(record.*member, box.Position()); }});
   }
@@ -69,7 +74,7 @@ class BoundFields {
     for (const Binding& binding : bound_) binding.save(record);
   }
   void CheckNumbers() const {
-    for (const auto& [box, kind] : numbers_) CheckNumberBox(*box, kind);
+    for (TextBox* box : numbers_) CheckNumberBox(*box, box->NumberKind());
   }
 
  private:
@@ -77,13 +82,8 @@ class BoundFields {
     std::function<void(const Record&)> load;
     std::function<void(Record&)> save;
   };
-  struct CheckedBox {
-    TextBox* box;
-    std::string_view kind;
-  };
-
   std::vector<Binding> bound_;
-  std::vector<CheckedBox> numbers_;
+  std::vector<TextBox*> numbers_;
 };
 
 }  // namespace ostrel

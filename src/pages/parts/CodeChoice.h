@@ -9,6 +9,7 @@
 
 #include "controls/Form.h"
 #include "pages/parts/ControlNames.h"
+#include "pages/parts/Edits.h"
 
 namespace ostrel {
 
@@ -28,6 +29,11 @@ class CodeChoice {
   void Load(std::int16_t code);
   std::int16_t Code() const { return code_; }
   void SetEnabled(bool enabled);
+  /// Notes the field that the options edit: the first of them stands for all.
+  template <class Record>
+  void NoteField(std::int16_t Record::*member) {
+    Edits(buttons_.front()->face, member);
+  }
   /// The option of a code; a broken invariant when there is none.
   OptionButton& Option(std::int16_t code) const;
 

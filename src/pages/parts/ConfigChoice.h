@@ -17,6 +17,10 @@ class ConfigChoice {
   ConfigChoice(Form& form, const ControlNames& names, int configs);
 
   std::int16_t CurrentConfig() const { return CurrentConfig_; }
+  /// What the configuration in force is called.
+  const std::string& Caption() const {
+    return options_[static_cast<std::size_t>(CurrentConfig_)].face.Caption();
+  }
   /// Goes to the first configuration, as loading a page does.
   void SelectFirst() { options_[0].SetSelected(true); }
 

@@ -12,13 +12,11 @@ FirmwareNotice::FirmwareNotice(Form& form, const PageContext& context, Feature f
   Update();
 }
 
-void FirmwareNotice::LoadText() {
-  WarningText.face.SetCaption(context_.Translate("La version de firmware del") + " " +
-                              context_.profile.TargetName + " " + context_.Translate(sentence_));
-}
-
 bool FirmwareNotice::Update() {
   const bool warns = context_.Connected && !Has(context_.info.Features, feature_);
+  if (warns)
+    WarningText.face.SetCaption(context_.Translate("La version de firmware del") + " " +
+                                context_.profile.TargetName + " " + context_.Translate(sentence_));
   Warning.face.SetVisible(warns);
   WarningText.face.SetVisible(warns);
   return warns;

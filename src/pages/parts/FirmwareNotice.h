@@ -15,8 +15,7 @@ class FirmwareNotice {
   FirmwareNotice(Form& form, const PageContext& context, Feature feature,
                  std::string_view sentence);
 
-  void LoadText();
-  /// Shows or hides it; the result tells which.
+  /// Shows or hides it, for the model and the language in use; the result tells which.
   bool Update();
 
  private:

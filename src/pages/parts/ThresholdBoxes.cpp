@@ -11,6 +11,7 @@ ThresholdBoxes::ThresholdBoxes(Form& form, const ControlNames& names, NumberForm
       entry.label =
           std::make_unique<Label>(form, names("Label" + std::string(shape.name)), shape.label);
     entry.box = std::make_unique<TextBox>(form, names(shape.name));
+    entry.box->SetNumberKind(shape.kind);
     entries_.push_back(std::move(entry));
   }
 }

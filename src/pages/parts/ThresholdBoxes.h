@@ -42,7 +42,7 @@ class ThresholdBoxes {
     std::size_t i = 0;
     Describe(thresholds, [&](const FieldMeta&, float& value) {
       const Entry& entry = entries_[i++];
-      const double typed = NumVal(entry.box->Text());
+      const double typed = NumberIn(*entry.box);
       Assign(value, entry.shape.isScaled ? typed / static_cast<double>(factor) : typed);
     });
   }

@@ -9,11 +9,10 @@ namespace ostrel {
 /// The computer's wall clock, in its local time zone.
 class QtClock final : public Clock {
  public:
-  DateTime LocalNow() const override {
+  std::chrono::milliseconds LocalTime() const override {
     const QDateTime now = QDateTime::currentDateTime();
-    const QDate date = now.date();
-    const QTime time = now.time();
-    return {date.year(), date.month(), date.day(), time.hour(), time.minute(), time.second()};
+    return std::chrono::milliseconds(now.toMSecsSinceEpoch()) +
+           std::chrono::seconds(now.offsetFromUtc());
   }
 };
 

@@ -16,10 +16,10 @@ class VirtualClock final : public Clock {
     setAt_ = loop_ ? loop_->Now() : TimePoint{};
   }
 
-  DateTime LocalNow() const override {
-    if (!loop_) return shown_;
-    const auto since = std::chrono::floor<std::chrono::seconds>(loop_->Now() - setAt_);
-    return FromSeconds(ToSeconds(shown_) + since.count());
+  std::chrono::milliseconds LocalTime() const override {
+    const std::chrono::seconds shown(ToSeconds(shown_));
+    if (!loop_) return shown;
+    return shown + std::chrono::floor<std::chrono::milliseconds>(loop_->Now() - setAt_);
   }
 
  private:

@@ -32,8 +32,9 @@ std::string VirtualDialogs::AskCode(const std::string&) {
   return Next(codes_, std::string());
 }
 
-void VirtualDialogs::ShowModal(Modal& modal) {
+void VirtualDialogs::ShowModal(Modal& modal, const std::function<void()>& shown) {
   ++modals;
+  if (shown) shown();
   if (const auto handler = Next(modals_, everyModal_)) handler(modal);
 }
 

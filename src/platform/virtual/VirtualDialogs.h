@@ -44,7 +44,7 @@ class VirtualDialogs final : public Dialogs {
   BoxAnswer ShowMessage(const MessageBox& box) override;
   std::optional<std::string> ChooseFile(const FileQuestion& question) override;
   std::string AskCode(const std::string& prompt) override;
-  void ShowModal(Modal& modal) override;
+  void ShowModal(Modal& modal, const std::function<void()>& shown) override;
   void Beep() override { ++beeps; }
 
  private:

@@ -48,7 +48,7 @@ void VisitEnabledAlarms(const Examined& file, const AlarmVisitor& visit) {
   });
 }
 
-Finding AtAlarm(const AlarmPlace& place, std::string_view word, std::string sentence) {
+Finding AtAlarm(const AlarmPlace& place, std::string_view word, Phrase sentence) {
   const FieldId id{place.section, place.channel, word, {.config = place.config}};
   return {SectionName(id), KeyName(id, PlaceForm::InBrackets), std::move(sentence)};
 }
@@ -60,8 +60,9 @@ std::vector<Finding> AlarmsForNobody(const Examined& file) {
     const std::string token = TokenOf(place, file.Model().IsS100);
     if (token.empty() || AnyAdmits(file, token)) return;
     found.push_back(AtAlarm(place, "HABIL",
-                            "the alarm notifies, but no telephone's mask admits " + token +
-                                ": add a telephone or widen a mask"));
+                            {"the alarm notifies, but no telephone's mask admits %1: add a "
+                             "telephone or widen a mask",
+                             {token}}));
   });
   return found;
 }

@@ -8,20 +8,20 @@
 #include "blocks/bus/ModbusChannels.h"
 #include "blocks/expansion/ExpansionInputs.h"
 #include "blocks/inputs/AnalogInputs.h"
+#include "blocks/inputs/FlowMeters.h"
 #include "shell/check/CheckRules.h"
 
 namespace ostrel {
 namespace {
 
 /// A finding at one field of a record.
-Finding AtField(const SectionMeta& section, int channel, std::string_view word,
-                std::string sentence) {
+Finding AtField(const SectionMeta& section, int channel, std::string_view word, Phrase sentence) {
   return {SectionName(section, channel), std::string(word), std::move(sentence)};
 }
 
-bool IsOff(const ConfModbus& channel) { return channel.MULT == 0 && channel.MASCARA == 0; }
-
 // ---- Alarms of all kinds of channels
+
+constexpr float kTrifle = 1e-5F;
 
 /// A number of the file in words.
 std::string InWords(float number) { return DecText(number); }
@@ -70,13 +70,16 @@ class SilentChannels {
         continue;
       if (**code == kInterfaceOff) off_[{field.id.section, field.id.channel}] = true;
     }
+    for (int i = 0; i < FlowMeters::kChannels; ++i)
+      if (conf_.Caudal[i].TIMEBASE == 0) off_[{&FlowMeters::kSection, i}] = true;
   }
 
   std::string Reason(const AlarmPlace& place) const {
     if (off_.contains({place.section, place.channel})) return "the channel is off";
     if (place.section != &ModbusChannels::kSection) return {};
     const ConfModbus& channel = conf_.Modbus[place.channel];
-    if (IsOff(channel)) return "the channel is off, having neither a multiplier nor a mask";
+    if (ModbusChannels::IsOff(channel))
+      return "the channel is off, having neither a multiplier nor a mask";
     if (conf_.ModbusBus.MASTER && channel.SLAVE == 0)
       return "the channel is never read, its slave address being 0";
     return {};
@@ -94,7 +97,8 @@ template <class Look>
 void EachModbusChannel(const Examined& file, const Look& look) {
   const Receiver receiver{file.Model(), kEveryFeature};
   for (int c = 0; c < ModbusChannels::Count(receiver); ++c)
-    if (const ConfModbus& channel = file.Conf().Modbus[c]; !IsOff(channel)) look(c, channel);
+    if (const ConfModbus& channel = file.Conf().Modbus[c]; !ModbusChannels::IsOff(channel))
+      look(c, channel);
 }
 
 constexpr int kMostSlaveAddress = 247;
@@ -120,9 +124,9 @@ std::vector<Finding> WrongOrderOfThresholds(const Examined& file) {
     const auto levels = table.Of(place);
     if (levels.minimum > levels.maximum)
       found.push_back(AtAlarm(place, "MINIMO",
-                              "the minimum " + InWords(levels.minimum) +
-                                  " lies above the maximum " + InWords(levels.maximum) +
-                                  ", so that every value is in alarm: exchange them"));
+                              {"the minimum %1 lies above the maximum %2, so that every value is "
+                               "in alarm: exchange them",
+                               {InWords(levels.minimum), InWords(levels.maximum)}}));
   });
   return found;
 }
@@ -133,12 +137,13 @@ std::vector<Finding> WideHysteresis(const Examined& file) {
   VisitEnabledAlarms(file, [&](const AlarmPlace& place, const AlarmBlock&) {
     const auto levels = table.Of(place);
     const float band = levels.maximum - levels.minimum;
-    if (band >= 0 && levels.hysteresis > band)
-      found.push_back(AtAlarm(place, "HISTERESIS",
-                              "the hysteresis " + InWords(levels.hysteresis) +
-                                  " is larger than the band from " + InWords(levels.minimum) +
-                                  " to " + InWords(levels.maximum) +
-                                  ", so that the alarm cannot end: make it smaller"));
+    // Decimals such as 1.3 and 1.2 lie a trifle off.
+    if (band >= 0 && levels.hysteresis > band * (1 + kTrifle))
+      found.push_back(AtAlarm(
+          place, "HISTERESIS",
+          {"the hysteresis %1 is larger than the band from %2 to %3, so that "
+           "the alarm cannot end: make it smaller",
+           {InWords(levels.hysteresis), InWords(levels.minimum), InWords(levels.maximum)}}));
   });
   return found;
 }
@@ -149,17 +154,18 @@ std::vector<Finding> AlarmsOfSilentChannels(const Examined& file) {
   VisitEnabledAlarms(file, [&](const AlarmPlace& place, const AlarmBlock&) {
     const std::string reason = silent.Reason(place);
     if (!reason.empty())
-      found.push_back(AtAlarm(place, "HABIL",
-                              "the alarm is enabled, but " + reason +
-                                  ": set up one or the "
-                                  "other"));
+      found.push_back(
+          AtAlarm(place, "HABIL",
+                  Phrase("the alarm is enabled, but " + reason + ": set up one or the other")));
   });
   return found;
 }
 
 std::vector<Finding> ModbusOutOfRange(const Examined& file) {
   std::vector<Finding> found;
-  if (file.Model().ModbusCount > 0 && !IsSlaveAddress(file.Conf().ModbusBus.SLAVE_ADDRESS))
+  const bool isTold = !file.Features() || Has(*file.Features(), Feature::ModbusSlave);
+  if (file.Model().ModbusCount > 0 && isTold &&
+      !IsSlaveAddress(file.Conf().ModbusBus.SLAVE_ADDRESS))
     found.push_back(AtField(ModbusBus::kSection, -1, "SLAVE_ADDRESS",
                             "an address on the bus is 0 to 247: choose another one"));
   EachModbusChannel(file, [&](int number, const ConfModbus& channel) {
@@ -177,8 +183,9 @@ std::vector<Finding> OddBitRates(const Examined& file) {
   const std::int32_t rate = file.Conf().ModbusBus.BAUD;
   if (file.Model().ModbusCount <= 0 || std::ranges::count(kModbusBitRates, rate) > 0) return {};
   return {AtField(ModbusBus::kSection, -1, "BAUD",
-                  std::to_string(rate) + " is no bit rate of the bus: choose 1200, 2400, 4800, "
-                                         "9600, 19200, 38400 or 57600")};
+                  {"%1 is no bit rate of the bus: choose 1200, 2400, 4800, 9600, 19200, 38400 or "
+                   "57600",
+                   {std::to_string(rate)}})};
 }
 
 std::vector<Finding> ModbusNotKept(const Examined& file) {
@@ -191,6 +198,10 @@ std::vector<Finding> ModbusNotKept(const Examined& file) {
       find(number, "MULT",
            "an analog channel whose multiplier is not above 0 reads back as a digital one: choose "
            "another multiplier");
+    if (!channel.ANALOG_MODE && channel.MASCARA == 0 && !channel.NOMBRE.empty())
+      find(number, "MASCARA",
+           "a digital channel without a mask reads back as one that is off, and writing what was "
+           "read ends it: choose a mask");
     if (!IsWithin(channel.TYPE, kRegisterFloat))
       find(number, "TYPE", "the register size is none of the three and is sent as 16 bits");
     const std::string* earlier = file.Document().Find(SectionName(ModbusChannels::kSection, number),
@@ -210,9 +221,10 @@ std::vector<Finding> SharedExpansionInputs(const Examined& file) {
     const auto [first, isNew] = users.emplace(std::pair(input.DIR, input.ENTRADA), number);
     if (!isNew)
       found.push_back(AtField(ExpansionInputs::kFrame, number, "ENTRADA",
-                              "module address " + std::to_string(input.DIR) + ", input " +
-                                  std::to_string(input.ENTRADA) + " is that of expansion input " +
-                                  std::to_string(first->second) + ", too: give each its own"));
+                              {"module address %1, input %2 is that of expansion input %3, too: "
+                               "give each its own",
+                               {std::to_string(input.DIR), std::to_string(input.ENTRADA),
+                                std::to_string(first->second)}}));
   });
   return found;
 }
@@ -238,8 +250,8 @@ std::vector<Finding> ExpansionOutOfRange(const Examined& file) {
     for (const auto& [word, member, last] : kBounds)
       if (!IsWithin(input.*member, last))
         found.push_back(AtField(ExpansionInputs::kFrame, number, word,
-                                std::to_string(input.*member) + " is not within 0 to " +
-                                    std::to_string(last) + ": choose another one"));
+                                {"%1 is not within 0 to %2: choose another one",
+                                 {std::to_string(input.*member), std::to_string(last)}}));
   });
   return found;
 }

@@ -11,26 +11,6 @@
 namespace ostrel {
 namespace {
 
-constexpr int kOctetsOfHalf = 4;
-constexpr int kMostOctet = 255;
-constexpr std::size_t kOctetDigits = 3;
-
-/// Half of a probe's identity in plain numbers; empty when it is none. A half that was never set is
-/// a single zero.
-std::vector<int> OctetsOf(std::string_view half) {
-  if (half == "0") return std::vector<int>(kOctetsOfHalf, 0);
-  std::vector<int> octets;
-  for (std::size_t at = 0; at <= half.size();) {
-    const std::string_view digits = half.substr(at, half.find('.', at) - at);
-    const bool isPlain = digits.find_first_not_of("0123456789") == std::string_view::npos;
-    if (digits.empty() || digits.size() > kOctetDigits || !isPlain) return {};
-    octets.push_back(static_cast<int>(NumVal(digits)));
-    if (octets.back() > kMostOctet) return {};
-    at += digits.size() + 1;
-  }
-  return octets.size() == kOctetsOfHalf ? octets : std::vector<int>();
-}
-
 /// Runs `look` on each probe that the model has and that is on.
 template <class Look>
 void EachProbe(const Examined& file, const Look& look) {
@@ -40,8 +20,7 @@ void EachProbe(const Examined& file, const Look& look) {
       look(i, probe);
 }
 
-Finding AtInput(const SectionMeta& section, int channel, std::string_view word,
-                std::string sentence) {
+Finding AtInput(const SectionMeta& section, int channel, std::string_view word, Phrase sentence) {
   return {SectionName(section, channel), std::string(word), std::move(sentence)};
 }
 
@@ -84,12 +63,15 @@ std::string MissingChannel(std::string_view equation, const TargetProfile& model
 std::vector<Finding> BrokenIdentities(const Examined& file) {
   std::vector<Finding> found;
   EachProbe(file, [&](int i, const ConfOneWire& probe) {
+    // A logger takes either no octets at all, or eight.
+    const bool isUnset = probe.ADDRESS1 == kUnsetHalf && probe.ADDRESS2 == kUnsetHalf;
     for (const auto& [word, half] :
          {std::pair{"ADDRESS1", &probe.ADDRESS1}, {"ADDRESS2", &probe.ADDRESS2}})
-      if (OctetsOf(*half).empty())
+      if (OctetsOfHalf(*half).empty() || (*half == kUnsetHalf && !isUnset))
         found.push_back(AtInput(Probes::kSection, i, word,
-                                *half + " is no half of an identity: write four numbers up to 255 "
-                                        "with points between them"));
+                                {"%1 is no half of an identity: write four numbers up to 255 with "
+                                 "points between them",
+                                 {*half}}));
   });
   return found;
 }
@@ -98,16 +80,16 @@ std::vector<Finding> SharedIdentities(const Examined& file) {
   std::vector<Finding> found;
   std::map<std::pair<std::vector<int>, std::vector<int>>, int> first;
   EachProbe(file, [&](int i, const ConfOneWire& probe) {
-    const std::pair identity(OctetsOf(probe.ADDRESS1), OctetsOf(probe.ADDRESS2));
+    const std::pair identity(OctetsOfHalf(probe.ADDRESS1), OctetsOfHalf(probe.ADDRESS2));
     if (identity.first.empty() || identity.second.empty()) return;
     // Without an identity a probe is the only one on the bus.
-    const std::vector<int> none(kOctetsOfHalf, 0);
+    const auto none = OctetsOfHalf(kNoIdentity);
     if (identity == std::pair(none, none)) return;
     const auto [earlier, isNew] = first.emplace(identity, i);
     if (isNew) return;
     found.push_back(AtInput(Probes::kSection, i, "ADDRESS1",
-                            "probe " + std::to_string(earlier->second) +
-                                " has the same identity: read that of the other one"));
+                            {"probe %1 has the same identity: read that of the other one",
+                             {std::to_string(earlier->second)}}));
   });
   return found;
 }
@@ -120,7 +102,7 @@ std::vector<Finding> EquationsOfMissingChannels(const Examined& file) {
     if (const std::string missing = MissingChannel(math.ECUACION, file.Model()); !missing.empty())
       found.push_back(AtInput(
           MathChannels::kSection, i, "ECUACION",
-          "the " + file.Model().TargetName + " has no channel " + missing + ": name another one"));
+          {"the %1 has no channel %2: name another one", {file.Model().TargetName, missing}}));
   }
   return found;
 }

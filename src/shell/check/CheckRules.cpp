@@ -8,6 +8,8 @@
 #include "base/CodePage.h"
 #include "base/Printable.h"
 #include "blocks/TelephoneWire.h"
+#include "blocks/bus/ModbusBus.h"
+#include "blocks/bus/ModbusChannels.h"
 #include "model/Features.h"
 #include "pages/ActionCatalogue.h"
 #include "store/ProfileIndex.h"
@@ -16,7 +18,6 @@ namespace ostrel {
 namespace {
 
 constexpr std::size_t kMostStatements = 999;
-constexpr std::size_t kShortestNumber = 3;
 
 bool HasControl(std::string_view text) {
   return std::ranges::any_of(
@@ -55,9 +56,10 @@ std::vector<Finding> BrokenTexts(const Examined& file) {
 std::vector<Finding> TooManyStatements(const Examined& file) {
   const std::size_t count = file.StatementCount();
   if (count <= kMostStatements) return {};
-  return {{"", "",
-           std::to_string(count) + " statements, and their numbers have three digits: "
-                                   "set up less"}};
+  return {{"",
+           "",
+           {"%1 statements, and their numbers have three digits: set up less",
+            {std::to_string(count)}}}};
 }
 
 std::vector<Finding> LongTexts(const Examined& file) {
@@ -67,9 +69,10 @@ std::vector<Finding> LongTexts(const Examined& file) {
     if (!text || field.meta.longest == 0) continue;
     const auto length = static_cast<int>(CharacterCount(*text));
     if (length > field.meta.longest)
-      found.push_back({field.Section(), field.Key(),
-                       std::to_string(length) + " characters, and its box takes " +
-                           std::to_string(field.meta.longest) + ": shorten it"});
+      found.push_back({field.Section(),
+                       field.Key(),
+                       {"%1 characters, and its box takes %2: shorten it",
+                        {std::to_string(length), std::to_string(field.meta.longest)}}});
   }
   return found;
 }
@@ -92,14 +95,27 @@ bool IsReadRight(const FieldView& field, std::string_view value, bool isS100) {
   return IsFloatText(text) && NumVal(text) == NumVal(read);
 }
 
+/// Whether the absence of a key has a meaning of its own: files of earlier programs lack it.
+bool MayBeAbsent(const ConstField& field, const IniClass& document) {
+  const std::string section = field.Section();
+  if (field.id.section == &ModbusBus::kSection)
+    return field.id.word != "BAUD" && !document.Find(section, std::string(ModbusBus::kRole));
+  return field.id.section == &ModbusChannels::kSection &&
+         field.id.word == ModbusChannels::kSize &&
+         document.Find(section, std::string(ModbusChannels::kEarlierSize));
+}
+
 std::vector<Finding> MisreadValues(const Examined& file) {
   std::vector<Finding> found;
   for (const ConstField& field : file.Fields()) {
     const std::string* value = file.Written(field);
-    if (!value || IsReadRight(field.value, *value, file.Model().IsS100)) continue;
-    found.push_back({field.Section(), field.Key(),
-                     *value + " is no value for this: it is read as " +
-                         std::string(Trimmed(file.ValueText(field)))});
+    if (!value || MayBeAbsent(field, file.Document()) ||
+        IsReadRight(field.value, *value, file.Model().IsS100))
+      continue;
+    found.push_back({field.Section(),
+                     field.Key(),
+                     {"%1 is no value for this: it is read as %2",
+                      {*value, std::string(Trimmed(file.ValueText(field)))}}});
   }
   return found;
 }
@@ -112,10 +128,12 @@ std::vector<Finding> MissingSections(const Examined& file) {
     if (!file.Document().SectionExists("", section)) missing.push_back(std::move(section));
   }
   if (missing.empty()) return {};
-  return {{missing.front(), "",
-           missing.size() == 1 ? "the section is missing, and is read as empty"
-                               : "this section and " + std::to_string(missing.size() - 1) +
-                                     " more are missing, and are read as empty"}};
+  if (missing.size() == 1)
+    return {{missing.front(), "", "the section is missing, and is read as empty"}};
+  return {{missing.front(),
+           "",
+           {"this section and %1 more are missing, and are read as empty",
+            {std::to_string(missing.size() - 1)}}}};
 }
 
 /// One finding a section. A free telephone slot has no key.
@@ -125,14 +143,16 @@ std::vector<Finding> MissingKeys(const Examined& file) {
   for (const ConstField& field : file.Fields()) {
     const std::string section = field.Section(), key = field.Key();
     if (std::holds_alternative<const ConfPhone*>(field.value) ||
-        !file.Document().SectionExists("", section) || file.Written(field))
+        !file.Document().SectionExists("", section) || file.Written(field) ||
+        MayBeAbsent(field, file.Document()))
       continue;
     if (found.empty() || found.back().section != section) {
       found.push_back({section, key, "the key is missing, and is read as empty"});
       missing = 0;
     } else {
-      found.back().sentence = "this key and " + std::to_string(++missing) +
-                              " more of the section are missing, and are read as empty";
+      found.back().sentence = {
+          "this key and %1 more of the section are missing, and are read as empty",
+          {std::to_string(++missing)}};
     }
   }
   return found;
@@ -148,9 +168,10 @@ std::vector<Finding> UnknownActions(const Examined& file) {
     const auto* number = std::get_if<const std::int16_t*>(&field.value);
     if (!number || field.meta.sense != FieldSense::Action || **number <= 0) continue;
     if (!offered.contains(**number))
-      found.push_back({field.Section(), field.Key(),
-                       "the " + file.Model().TargetName + " has no action " +
-                           std::to_string(**number) + ": choose another one or 0"});
+      found.push_back({field.Section(),
+                       field.Key(),
+                       {"the %1 has no action %2: choose another one or 0",
+                        {file.Model().TargetName, std::to_string(**number)}}});
   }
   return found;
 }
@@ -179,10 +200,11 @@ std::vector<Finding> UnsentMasks(const Examined& file) {
       if (!token.empty() && !IsShortMaskToken(token)) dropped += " " + token;
     }
     if (!dropped.empty())
-      found.push_back({field.Section(), field.Key(),
-                       "this firmware knows masks of DI0 to DI7 and AI0 to AI3 alone, so these "
-                       "are left out:" +
-                           dropped});
+      found.push_back({field.Section(),
+                       field.Key(),
+                       {"this firmware knows masks of DI0 to DI7 and AI0 to AI3 alone, so these "
+                        "are left out:%1",
+                        {dropped}}});
     if ((*phone)->MASKMODE == 2)
       found.push_back({field.Section(), field.Key(),
                        "this firmware takes a mask as the channels to include, never to exclude"});
@@ -197,10 +219,23 @@ std::vector<Finding> BadNumbers(const Examined& file) {
     if (!phone || (*phone)->TLF.empty()) continue;
     const std::string& number = (*phone)->TLF;
     if (!IsIntText(number))
-      found.push_back({field.Section(), field.Key(), number + " is no telephone number"});
+      found.push_back({field.Section(), field.Key(), {"%1 is no telephone number", {number}}});
     else if (CharacterCount(number) < kShortestNumber)
       found.push_back({field.Section(), field.Key(),
                        "a number of fewer than 3 digits does not read back from a logger"});
+  }
+  return found;
+}
+
+std::vector<Finding> SharedNumbers(const Examined& file) {
+  std::vector<Finding> found;
+  std::set<std::string> seen;
+  for (const ConstField& field : file.Fields()) {
+    const auto* phone = std::get_if<const ConfPhone*>(&field.value);
+    if (!phone || (*phone)->TLF.empty() || seen.insert((*phone)->TLF).second) continue;
+    found.push_back({field.Section(),
+                     field.Key(),
+                     {"%1 stands in the list twice: remove one of them", {(*phone)->TLF}}});
   }
   return found;
 }
@@ -210,17 +245,21 @@ std::string PlaceInFile(std::string_view section, std::string_view key) {
   return FoldText(WithoutBlanks(section)) + '\n' + FoldText(WithoutBlanks(key));
 }
 
-constexpr std::array<Rule, 26> kRules{{
+constexpr std::array<Rule, 35> kRules{{
     {"text-breaks-statement", Severity::Error,
      "a comma, a brace or a control character in a text that is sent", BrokenTexts},
     {"too-many-statements", Severity::Error, "more statements than an upload can number",
      TooManyStatements},
     {"modbus-out-of-range", Severity::Error, "a MODBUS address that the bus does not have",
      ModbusOutOfRange},
+    {"number-out-of-range", Severity::Error, "a number or a flag that a logger refuses",
+     NumbersBeyondLogger},
     {"probe-identity-broken", Severity::Error, "a probe's identity that is none", BrokenIdentities},
     {"expansion-out-of-range", Severity::Error,
      "an expansion input in a mode, on a module or in a group that does not exist",
      ExpansionOutOfRange},
+    {"period-too-long", Severity::Error, "a long timer whose period does not fit its statement",
+     LongPeriods},
     {"section-missing", Severity::Error, "a section of the model that is not in the file",
      MissingSections},
     {"key-missing", Severity::Error, "a key of a section that is not in the file", MissingKeys},
@@ -242,9 +281,15 @@ constexpr std::array<Rule, 26> kRules{{
      WideHysteresis},
     {"alarm-of-silent-channel", Severity::Warning, "an alarm on a channel that is off or not read",
      AlarmsOfSilentChannels},
+    {"timer-never-runs", Severity::Warning, "an enabled timer without a period or a day",
+     TimersThatNeverRun},
+    {"timer-without-actions", Severity::Warning, "an enabled timer that runs no action",
+     TimersWithoutActions},
+    {"modbus-never-read", Severity::Warning, "a MODBUS channel that no timer reads",
+     ModbusNeverRead},
     {"probe-identity-shared", Severity::Warning, "two probes with one identity", SharedIdentities},
     {"equation-without-channel", Severity::Warning,
-     "an equation of a channel that the model does not have", EquationsOfMissingChannels},
+     "an equation with a mask's word for a channel that the model does not have", EquationsOfMissingChannels},
     {"modbus-bit-rate", Severity::Warning, "a bit rate that the bus does not have", OddBitRates},
     {"modbus-not-kept", Severity::Warning, "a MODBUS setting that does not come back as it is",
      ModbusNotKept},
@@ -257,6 +302,13 @@ constexpr std::array<Rule, 26> kRules{{
     {"mask-not-sent", Severity::Warning, "a telephone's mask that the firmware cannot hold",
      UnsentMasks},
     {"bad-telephone", Severity::Warning, "a telephone number that is none", BadNumbers},
+    {"telephone-twice", Severity::Warning, "a telephone that stands in the list twice",
+     SharedNumbers},
+    {"scale-useless", Severity::Warning, "a scale that spans nothing, or is the wrong way round",
+     UselessScales},
+    {"interface-unknown", Severity::Warning, "an interface that does not exist", UnknownInterfaces},
+    {"number-senseless", Severity::Warning, "a number far outside what anybody means",
+     SenselessNumbers},
 }};
 
 }  // namespace
@@ -272,8 +324,7 @@ Examined::Examined(const ModelConfiguration& configuration, std::optional<std::i
       statements_(ComposeStatements(configuration.conf,
                                     {configuration.profile, features.value_or(kEveryFeature)})
                       .size()),
-      probe_(configuration.conf, {configuration.profile, features.value_or(kEveryFeature)}),
-      fullProbe_(configuration.conf, {configuration.profile, kEveryFeature}) {
+      probe_(configuration.conf, {configuration.profile, features.value_or(kEveryFeature)}) {
   std::string_view section;
   document.Visit([&](std::string_view name) { section = name; },
                  [&](std::string_view key, const std::string& value) {
@@ -287,12 +338,16 @@ const std::string* Examined::Written(const ConstField& field) const {
 }
 
 bool Examined::IsSet(std::size_t index) const {
-  return ValueText(fields_[index]) != ValueText(emptyFields_[index]);
+  return !IsSameValue(fields_[index].value, emptyFields_[index].value) &&
+         ValueText(fields_[index]) != ValueText(emptyFields_[index]);
 }
 
 bool Examined::IsUnknownToFirmware(std::size_t index) const {
   const FieldView& empty = emptyFields_[index].value;
-  return !probe_.Changes(index, empty) && fullProbe_.Changes(index, empty);
+  if (!fullProbe_) fullProbe_.emplace(Conf(), Receiver{Model(), kEveryFeature});
+  // Most records are the same to every firmware.
+  return probe_.StatementsOf(index) != fullProbe_->StatementsOf(index) &&
+         !probe_.Changes(index, empty) && fullProbe_->Changes(index, empty);
 }
 
 std::string Examined::ValueText(const ConstField& field) const {
@@ -304,8 +359,10 @@ std::string FindingText(const Finding& finding) {
   if (!finding.section.empty())
     text = "[" + Printable(finding.section) + "]" + (finding.key.empty() ? "" : " ") +
            Printable(finding.key) + ": ";
-  return text + Printable(finding.sentence);
+  return text + SentenceText(finding);
 }
+
+std::string SentenceText(const Finding& finding) { return Printable(Filled(finding.sentence)); }
 
 std::span<const Rule> Rules() { return kRules; }
 

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "shell/ConfigurationFile.h"
+#include "shell/Phrase.h"
 #include "shell/SentProbe.h"
 #include "store/IniClass.h"
 
@@ -20,7 +21,7 @@ enum class Severity { Error, Warning };
 /// Something that a rule has found, with a sentence that helps.
 struct Finding {
   std::string section, key;  ///< as a file names them; empty where it is about none
-  std::string sentence;
+  Phrase sentence;
 };
 
 /// A configuration under examination, with what the rules ask of it.
@@ -59,11 +60,13 @@ class Examined {
   std::vector<ConstField> fields_, emptyFields_;
   std::unordered_map<std::string, const std::string*> written_;  ///< by section and key
   std::size_t statements_;
-  mutable SentProbe probe_;      ///< under the features, or under all where they are not known
-  mutable SentProbe fullProbe_;  ///< under all features
+  mutable SentProbe probe_;  ///< under the features, or under all where they are not known
+  mutable std::optional<SentProbe> fullProbe_;  ///< under all features, once it is asked
 };
 
-/// A finding in words: "[DIGITAL(0)] NOMBRE: a comma ends the text ...".
+/// What a finding says, in English.
+std::string SentenceText(const Finding& finding);
+/// A finding in words: "[DIGITAL 0] NOMBRE: a comma ends the text ...".
 std::string FindingText(const Finding& finding);
 
 struct Rule {
@@ -88,7 +91,7 @@ std::vector<FoundByRule> Examine(const Examined& file, std::span<const std::stri
 /// Visits the alarms that are enabled and that the logger gets to know.
 void VisitEnabledAlarms(const Examined& file, const AlarmVisitor& visit);
 /// A finding at one field of an alarm.
-Finding AtAlarm(const AlarmPlace& place, std::string_view word, std::string sentence);
+Finding AtAlarm(const AlarmPlace& place, std::string_view word, Phrase sentence);
 
 /// The text of a field that is one or has one; null for others.
 const std::string* TextOf(const FieldView& field);
@@ -114,6 +117,18 @@ std::vector<Finding> ModbusNotKept(const Examined& file);
 std::vector<Finding> SharedExpansionInputs(const Examined& file);
 std::vector<Finding> ExpansionOutOfRange(const Examined& file);
 std::vector<Finding> ExpansionWithoutInterface(const Examined& file);
+
+// The rules on timers.
+std::vector<Finding> LongPeriods(const Examined& file);
+std::vector<Finding> TimersThatNeverRun(const Examined& file);
+std::vector<Finding> TimersWithoutActions(const Examined& file);
+std::vector<Finding> ModbusNeverRead(const Examined& file);
+
+// The rules on numbers and codes.
+std::vector<Finding> NumbersBeyondLogger(const Examined& file);
+std::vector<Finding> UselessScales(const Examined& file);
+std::vector<Finding> UnknownInterfaces(const Examined& file);
+std::vector<Finding> SenselessNumbers(const Examined& file);
 
 // The rules on probes and math channels.
 std::vector<Finding> BrokenIdentities(const Examined& file);

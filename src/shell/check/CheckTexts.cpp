@@ -30,10 +30,11 @@ std::vector<Finding> CutValues(const Examined& file) {
                         [&](std::string_view key, std::string_view value) {
                           const std::size_t length = CharacterCount(ProfilePart(value));
                           if (length <= kProfileValueLimit) return;
-                          found.push_back({section, std::string(key),
-                                           std::to_string(length) +
-                                               " characters, of which only the first 254 are read: "
-                                               "shorten it"});
+                          found.push_back(
+                              {section,
+                               std::string(key),
+                               {"%1 characters, of which only the first 254 are read: shorten it",
+                                {std::to_string(length)}}});
                         });
   return found;
 }

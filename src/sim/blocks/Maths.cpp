@@ -37,7 +37,7 @@ struct Maths {
   }
 
   static void MakeUp(RandomParts& make, Configuration& conf) {
-    constexpr std::string_view kEquations[] = {"Q0-Q1", "A0*2+A1/3", "(A0+A1)*0.5", "MB3", "C7"};
+    constexpr std::string_view kEquations[] = {"Q0-Q1", "A0*2+A1/3", "(A0+A1)*0.5", "A1*A1", "C7"};
     for (int i = 0; i < make.Self().Traits().maths; ++i) {
       MathChannel& channel = conf.maths[static_cast<std::size_t>(i)];
       if (make.Wanted()) {

@@ -1,4 +1,4 @@
-#include "shell/UploadPlan.h"
+#include "link/UploadPlan.h"
 
 #include "base/Utf8.h"
 #include "link/LinkTimes.h"
@@ -12,12 +12,15 @@ constexpr std::size_t kFrameOctets = 4 + 2 + 3 + 1;
 
 }  // namespace
 
+int RefusalWindowMs(std::int32_t features) {
+  return Has(features, Feature::FastRefusal) ? kFastRefusalMs : kRefusalMs;
+}
+
 UploadPlan PlanUpload(const std::vector<std::string>& statements, std::int32_t features) {
   UploadPlan plan{.octets = kFrameOctets};
   for (const std::string& statement : statements)
     plan.octets += kFrameOctets + CharacterCount(statement);
-  const std::chrono::milliseconds window{Has(features, Feature::FastRefusal) ? kFastRefusalMs
-                                                                             : kRefusalMs};
+  const std::chrono::milliseconds window{RefusalWindowMs(features)};
   plan.duration = LineTime(plan.octets) + window * static_cast<std::int64_t>(statements.size());
   return plan;
 }

@@ -1,0 +1,105 @@
+#include <QAction>
+#include <QMessageBox>
+#include <QStackedWidget>
+#include <QStatusBar>
+
+#include "desktop/forms/Words.h"
+#include "desktop/window/FaultText.h"
+#include "desktop/window/MainWindow.h"
+#include "shell/Configurator.h"
+
+// What the window shows of the session, on whichever page.
+
+namespace ostrel {
+
+void MainWindow::MakeSessionBar() {
+  addToolBarBreak();
+  addToolBar(session_);
+  session_->OnRead = [this] { parts_.guard([this] { AskFor(SessionPhase::Reading); }); };
+  session_->OnWrite = [this] { parts_.guard([this] { AskFor(SessionPhase::Writing); }); };
+  session_->OnCancel = [this] { parts_.guard([this] { configurator_.session.BreakOff(); }); };
+}
+
+bool MainWindow::IsLineInUse() const { return configurator_.comms.LinkBusy; }
+
+void MainWindow::AskFor(SessionPhase transfer) { configurator_.session.AskFor(transfer); }
+
+void MainWindow::ShowSession() {
+  ShowLink();
+  ShowTransfer();
+  ShowFault();
+}
+
+QString MainWindow::NameOfLogger() const {
+  const QString model = ToQt(configurator_.profile.TargetName);
+  const std::string& serial = configurator_.info.SerialNumber;
+  if (!configurator_.Connected || serial.empty()) return model;
+  return Words::tr("%1, serial number %2").arg(model, ToQt(serial));
+}
+
+void MainWindow::ShowLink() {
+  const SessionDriver& session = configurator_.session;
+  LinkState state = LinkStateOf(configurator_);
+  state.step = IsTransfer(state.phase) ? writeStep_ : 0;
+  session_->Link().ShowState(state, NameOfLogger());
+  const bool mayAsk = state.phase == SessionPhase::Open && !session.OwnsModel();
+  const auto why = WhyWritingRests(state.life);
+  session_->Allow({.read = mayAsk && state.life.health != LinkHealth::Lost,
+                   .write = mayAsk && !why,
+                   .cancel = IsTransfer(state.phase) || state.phase == SessionPhase::Opening,
+                   .whyNot = why ? SentenceOf(*why) : QString()});
+  Rest(session.OwnsModel());
+}
+
+/// A transfer owns the model: nothing may be edited, opened, saved or compared under it, and a
+/// dialog that is opened in it would hold it up. The focus is where it was when it has ended,
+/// unless the operator has taken it elsewhere.
+void MainWindow::Rest(bool rests) {
+  for (QAction* action : {open_, save_, saveAs_, recentFiles_, safetyCopies_, compare_, language_})
+    action->setEnabled(!rests);
+  trace_->SetMaySave(!rests);
+  if (pages_->isEnabled() != rests) return;
+  QWidget* const present = focusWidget();
+  if (rests) focus_ = pages_->isAncestorOf(present) ? present : nullptr;
+  pages_->setEnabled(!rests);
+  if (rests) {
+    refuge_ = focusWidget();
+    return;
+  }
+  if (leaveBox_) leaveBox_->close();  // what it asks about has ended
+  if (focus_ && (!present || present == refuge_)) focus_->setFocus();
+}
+
+void MainWindow::ShowTransfer() {
+  const TransferWatch& transfer = configurator_.session.Watch();
+  const TransferWatch* running = transfer.Running() ? &transfer : nullptr;
+  // The general page has a place of its own.
+  FormView* front = pages_->Front();
+  auto* place = front ? front->findChild<QStackedWidget*>("ProgressPlace") : nullptr;
+  session_->Link().ShowProgress(place ? nullptr : running);
+  if (!place) return;
+  auto* meter = place->findChild<TransferMeter*>("TransferMeter");
+  if (running) meter->Show(*running);
+  place->setCurrentIndex(running ? place->indexOf(meter) : 0);
+}
+
+QString MainWindow::FaultNow() {
+  const auto& failed = configurator_.session.State().failed;
+  if (!failed) return {};
+  return FaultText(*failed, ports_.DeviceOf("COM" + std::to_string(configurator_.session.Port())));
+}
+
+void MainWindow::ShowFault() {
+  const QString words = FaultNow();
+  const FormView* front = pages_->Front();
+  auto* note = front ? front->findChild<FaultNote*>("FaultNote") : nullptr;
+  if (note) note->SetText(words);
+  fault_->SetText(note ? QString() : words);
+}
+
+void MainWindow::ForgetSuccess() {
+  configurator_.session.ForgetSuccess();
+  if (!success_.isEmpty() && statusBar()->currentMessage() == success_) statusBar()->clearMessage();
+}
+
+}  // namespace ostrel

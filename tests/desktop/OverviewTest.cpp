@@ -1,0 +1,246 @@
+#include <gtest/gtest.h>
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QShortcut>
+#include <QTableWidget>
+
+#include "Input.h"
+#include "WindowWorld.h"
+#include "blocks/Configuration.h"
+#include "desktop/program/Language.h"
+#include "desktop/window/FaultText.h"
+#include "desktop/window/NodeDelegate.h"
+#include "platform/virtual/VirtualFiles.h"
+#include "shell/check/CheckRules.h"
+
+namespace ostrel {
+namespace {
+
+using std::chrono::seconds;
+
+/// What the keys of a shortcut do: the platform of the tests does not bring them there.
+void PressShortcut(QWidget* widget, const QKeySequence& keys) {
+  for (auto* shortcut : widget->findChildren<QShortcut*>())
+    if (shortcut->key() == keys) return shortcut->activated();
+  ADD_FAILURE() << "no shortcut " << FromQt(keys.toString());
+}
+
+class OverviewOf : public testing::Test, protected WindowWorld<VirtualLoop> {
+ protected:
+  explicit OverviewOf(const std::string& model) {
+    StartBefore(model, "2");
+    desktop = Make(&dialogs);
+    desktop->Start("");
+    desktop->Window().show();
+    desktop->Window().activateWindow();
+    QCoreApplication::processEvents();
+  }
+
+  void GoTo(const std::string& key) { desktop->Window().GoTo(key); }
+  void Pass() { loop.RunFor(seconds(1)); }
+  QString NoteOf(const std::string& control) {
+    QWidget* widget = On(*desktop, control);
+    return widget->property("noted").toBool() ? widget->toolTip() : QString();
+  }
+  /// What lies open beside the control that has the focus.
+  QString Bubble() {
+    auto* bubble = desktop->Window().Pages().Front()->findChild<QLabel*>("NoteBubble");
+    return bubble->isVisible() ? bubble->text() : QString();
+  }
+  QTreeWidgetItem* Node(const QString& key) {
+    for (QTreeWidgetItemIterator it(&desktop->Window().Tree().Tree()); *it; ++it)
+      if ((*it)->data(0, kNodeKey).toString() == key) return *it;
+    throw std::runtime_error("no such node");
+  }
+  int Marks(const QString& key) { return Node(key)->data(0, kNodeMarks).toInt(); }
+  QTreeWidget* Findings() { return desktop->Window().findChild<QTreeWidget*>("FindingList"); }
+  QTableWidget* Table() { return desktop->Window().findChild<QTableWidget*>("GroupTable"); }
+
+  VirtualDialogs dialogs;
+  std::unique_ptr<Desktop> desktop;
+};
+
+struct OverviewBP : OverviewOf {
+  OverviewBP() : OverviewOf("Tavro BP") {}
+};
+struct OverviewS100 : OverviewOf {
+  OverviewS100() : OverviewOf("Ostrel S100") {}
+};
+
+TEST_F(OverviewBP, ABadNumberSaysWhatItCountsAsAndACommaIsPutRight) {
+  GoTo("E_Analog_1");
+  Type(On(*desktop, "IE"), "1.2.3");
+  EXPECT_EQ(Bubble(), "This is not a number of the kind expected here. It counts as 1.2.");
+  Type(On(*desktop, "FE"), "0,9");
+  EXPECT_EQ(Bubble(), "") << "the other box has the focus";
+  EXPECT_EQ(On<QLineEdit>(*desktop, "FE")->text(), "0,9") << "it is being typed";
+  On(*desktop, "EqIE")->setFocus();
+  EXPECT_EQ(On<QLineEdit>(*desktop, "FE")->text(), "0.9");
+  EXPECT_EQ(NoteOf("FE"), "");
+  Type(On(*desktop, "FE"), "1,5");
+  GoTo("General");
+  EXPECT_FLOAT_EQ(desktop->Core().conf.Analog[1].FE, 1.5F);
+}
+
+TEST_F(OverviewBP, FindingsStandAtTheirFieldsAndAPanelLeadsThere) {
+  GoTo("E_Analog_2");
+  Type(On(*desktop, "Nombre"), "Tank, upper");
+  Click(On(*desktop, "Int_4_20"));
+  Click(On(*desktop, "Config1"));
+  Click(On(*desktop, "AlarmaHabil"));
+  Type(On(*desktop, "Minimo"), "9");
+  Type(On(*desktop, "Persist"), "100000");
+  Pass();
+  EXPECT_TRUE(NoteOf("Nombre").startsWith("A comma ends the text"));
+  EXPECT_TRUE(NoteOf("FE").startsWith("Start of scale and full scale are the same"));
+  EXPECT_TRUE(NoteOf("Minimo").startsWith("The minimum 9 lies above the maximum 0"));
+  EXPECT_TRUE(NoteOf("Persist").contains("0 to 10000 readings"));
+  EXPECT_EQ(Bubble(), NoteOf("Persist"));
+  EXPECT_EQ(Marks("E_Analog_2"), kMarkError | kMarkChanged | kMarkAlarm);
+  EXPECT_EQ(Marks("E_Analog"), Marks("E_Analog_2")) << "its group shows them when it is closed";
+  Click(On(*desktop, "Config0"));
+  Pass();
+  EXPECT_EQ(NoteOf("Persist"), "") << "it is about another configuration";
+  GoTo("General");
+  const auto rows = Findings()->findItems("100000", Qt::MatchContains, 3);
+  ASSERT_EQ(rows.size(), 1);
+  EXPECT_EQ(rows[0]->text(1), "Analog input 2");
+  EXPECT_EQ(rows[0]->text(2), "Alarm 1, persistence");
+  Findings()->itemActivated(rows[0], 0);
+  EXPECT_EQ(On<QLineEdit>(*desktop, "Persist")->text(), "100000");
+  EXPECT_EQ(QApplication::focusWidget(), On(*desktop, "Persist"));
+  Type(On(*desktop, "Persist"), "3");
+  Pass();
+  EXPECT_EQ(NoteOf("Persist"), "");
+  EXPECT_TRUE(Findings()->findItems("100000", Qt::MatchContains, 3).empty());
+}
+
+TEST_F(OverviewBP, UnitsStandBesideTheBoxes) {
+  const auto unit = [this](const char* control) {
+    return desktop->Window().Pages().Front()->findChild<QLabel*>(QString("Unit of ") + control);
+  };
+  GoTo("E_Analog_0");
+  EXPECT_EQ(unit("Persist")->text(), "readings");
+  Type(On(*desktop, "Unidad"), "m");
+  EXPECT_EQ(unit("Maximo")->text(), "m");
+  GoTo("E_Digital_0");
+  EXPECT_EQ(unit("Rearm")->text(), "s");
+  GoTo("Caudal_0");
+  EXPECT_EQ(unit("Persist")->text(), "cycles");
+}
+
+TEST_F(OverviewS100, TheTreeHasNamesAndFindsThem) {
+  desktop->Core().conf.Digital[1].NOMBRE = "Pump house";
+  GoTo("Modulo_5");
+  Press(On(*desktop, "ModeCombo"), Qt::Key_Down);
+  Type(On(*desktop, "D_Nombre"), "Gate");
+  Pass();
+  EXPECT_EQ(Node("E_Digital_1")->data(0, kNodeName), "Pump house");
+  EXPECT_EQ(Node("E_Digital_1")->text(0), "1") << "the text of the node stays as it is";
+  EXPECT_EQ(Node("Modulo_5")->data(0, kNodeName), "Gate");
+  EXPECT_TRUE(Node("Modulo_5")->toolTip(0).contains("changed"));
+  desktop->Window().Tree().findChild<QLineEdit*>("Filter")->setText("pump");
+  EXPECT_FALSE(Node("E_Digital_1")->isHidden());
+  EXPECT_TRUE(Node("E_Digital_0")->isHidden());
+  EXPECT_TRUE(Node("Modulo_5")->isHidden());
+}
+
+TEST_F(OverviewS100, AGroupIsATableOfItsChannelsThatOpensThem) {
+  ConfModulo& input = desktop->Core().conf.Modulo[2];
+  input.MODO = kModeAnalog;
+  input.A.NOMBRE = "Level";
+  input.A.INTERFAZ = 1;
+  input.D.NOMBRE = "of another mode";
+  input.A.ALARM[0].common.HABIL = kTrue;
+  GoTo("Modulo");
+  EXPECT_FALSE(desktop->Window().Pages().isVisible());
+  ASSERT_EQ(Table()->rowCount(), 96);
+  QStringList cells;
+  for (int column = 0; column < Table()->columnCount(); ++column)
+    if (const QString text = Table()->item(2, column)->text(); !text.isEmpty())
+      cells << Table()->horizontalHeaderItem(column)->text() + "=" + text;
+  const QString row = cells.join(u' ');
+  for (const auto* part :
+       {"Channel=2", "Mode=analog", "Name=Level", "Interface=4/20 mA", "Alarm=yes"})
+    EXPECT_TRUE(row.contains(part)) << part << " in " << FromQt(row);
+  Table()->cellActivated(2, 1);
+  EXPECT_TRUE(desktop->Window().Pages().isVisible());
+  EXPECT_EQ(On<QLineEdit>(*desktop, "A_Nombre")->text(), "Level");
+  GoTo("Caudal");
+  EXPECT_TRUE(On(*desktop, "ComboT(0)")->isVisible()) << "the page of the group is there, too";
+  EXPECT_EQ(Table()->rowCount(), 2);
+}
+
+TEST_F(OverviewBP, ActionsAreCountedFoundMovedAndTakenOut) {
+  GoTo("E_Digital_4");
+  Type(On(*desktop, "Nombre"), "Door");
+  Click(On(*desktop, "AlarmaHabil"));
+  EXPECT_EQ(On(*desktop, "BotonAlto")->accessibleName(), "High value (0)");
+  dialogs.OnModal([&](Modal& modal) {
+    Form& form = AsForm(modal);
+    EXPECT_NE(form.Title().find("Door"), std::string::npos) << form.Title();
+    const std::unique_ptr<FormView> view(MakeView(form, desktop->Window().Context()));
+    view->show();
+    auto* offered = view->findChild<QListWidget*>("RefList");
+    auto* chosen = view->findChild<QListWidget*>("DeviceList");
+    view->findChild<QLineEdit*>("Search")->setText("macro 12");
+    EXPECT_EQ(offered->currentRow(), 12);
+    EXPECT_TRUE(offered->isRowHidden(0));
+    PressShortcut(offered, Qt::Key_Return);
+    view->findChild<QLineEdit*>("Search")->setText("macro 3");
+    DoubleClick(offered->viewport(), offered->visualItemRect(offered->currentItem()).center());
+    offered->setCurrentRow(7);
+    Click(view->findChild<QPushButton*>("AddButton"));
+    ASSERT_EQ(chosen->count(), 3);
+    chosen->setCurrentRow(2);
+    PressShortcut(chosen, Qt::AltModifier | Qt::Key_Up);
+    chosen->model()->moveRow({}, 0, {}, 3);  // as a drop does
+    chosen->setCurrentRow(1);
+    PressShortcut(chosen, Qt::Key_Delete);
+    form.Get<Button>("OKButton").Click();
+  });
+  Click(On(*desktop, "BotonAlto"));
+  const ActionList& actions = desktop->Core().conf.Digital[4].ALARM[0].common.ACTHI;
+  EXPECT_EQ(actions[0], 8);
+  EXPECT_EQ(actions[1], 13);
+  EXPECT_EQ(actions[2], 0);
+  EXPECT_EQ(On(*desktop, "BotonAlto")->accessibleName(), "High value (2)");
+}
+
+/// All that the model's description says to people, and what the check says of a wild
+/// configuration.
+TEST(OwnWords, HaveSpanishForWhatTheModelSays) {
+  std::set<std::string> words;
+  VirtualFiles files;
+  for (const std::string_view name : TargetNamesOffered()) {
+    TargetProfile profile;
+    SelectTarget(profile, name);
+    ModelConfiguration wild{profile, {}};
+    for (const Field& field : FieldsOf(wild.conf, profile)) {
+      words.insert(std::string(field.meta.words));
+      words.insert(std::string(field.meta.unit));
+      words.insert(std::string(field.id.section->words));
+      for (const CodeWords& code : field.meta.codes) words.insert(std::string(code.words));
+      SetFieldText(field.value, std::holds_alternative<std::string*>(field.value) ? "a,b" : "99");
+      SetFieldText(field.value, "True");
+    }
+    const IniClass noFile(files);
+    const auto found = Examine(
+        Examined(wild, 0, noFile, [](std::string_view text) { return std::string(text); }), {});
+    for (const FoundByRule& one : found) words.insert(one.finding.sentence.text);
+  }
+  words.erase("");
+  EXPECT_GT(words.size(), 100u);
+  UseLanguage("es");
+  const std::set<std::string> same{"general", "flag",   "s",       "V",       "bit/s",  "4/20 mA",
+                                   "0-5 V",   "0-10 V", "digital", "16 bits", "32 bits"};
+  for (const std::string& word : words)
+    EXPECT_TRUE(FromQt(Words::tr(word.c_str())) != word || same.contains(word)) << word;
+  UseLanguage("en");
+}
+
+}  // namespace
+}  // namespace ostrel

@@ -1,0 +1,243 @@
+#include <QCheckBox>
+#include <QComboBox>
+#include <QMessageBox>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QScreen>
+#include <QStatusBar>
+#include <QTimer>
+#include <QTreeWidget>
+
+#include "OpenWindow.h"
+#include "desktop/program/Language.h"
+
+namespace ostrel {
+namespace {
+
+using std::chrono::milliseconds;
+using std::chrono::seconds;
+
+class OnEveryPage : public OpenWindow {
+ protected:
+  OnEveryPage() {
+    UseLanguage("en");
+    AddLogger(sim::Model::BP);
+  }
+  TextBox& NameOfInput() {
+    return Core().PageOf(PageId::E_Digital)->GetForm().Get<TextBox>("Nombre");
+  }
+  /// Presses a tool and agrees to a plain writing.
+  void WriteFromTheBar() {
+    modals.Expect([](QWidget* modal) { AgreeToWrite(modal, false); });
+    SessionTool("WriteTool")->trigger();
+  }
+  static QMessageBox* Box() {
+    for (QWidget* top : QApplication::topLevelWidgets())
+      if (auto* box = qobject_cast<QMessageBox*>(top); box && box->isVisible()) return box;
+    return nullptr;
+  }
+  QString Strip() {
+    auto* strip = Window().findChild<FaultNote*>("FaultStrip");
+    return strip->isHidden() ? QString() : strip->Text();
+  }
+
+  ModalScript modals;
+};
+
+TEST_F(OnEveryPage, TheLinkIsShownAsItIsAndWritingRestsOnADeadOne) {
+  QAction* write = SessionTool("WriteTool");
+  EXPECT_FALSE(write->isEnabled());
+  Connect(seconds(15));
+  EXPECT_EQ(LinkWords(), "Open");
+  EXPECT_TRUE(write->isEnabled());
+  const QString who = Window().findChild<QLabel*>("Logger")->text();
+  EXPECT_EQ(who, ToQt("Tavro BP, serial number " + logger->Options().serial));
+  Window().GoTo("E_Digital_0");
+  int exchanges = 0;
+  logger->OnExchange([&](const sim::Exchange&) { ++exchanges; });
+  loop.RunFor(seconds(30));
+  EXPECT_EQ(exchanges, 0) << "nothing is sent to find out";
+  EXPECT_TRUE(LinkWords().startsWith("Open, last answer 0:3")) << FromQt(LinkWords());
+  EXPECT_TRUE(write->isEnabled()) << "it was not asked";
+  Window().GoTo("General");
+  loop.RunFor(seconds(2));
+  EXPECT_EQ(LinkWords(), "Open");
+  port.HoldOutput(kPort, true);
+  loop.RunFor(seconds(8));
+  Window().GoTo("E_Digital_0");
+  loop.RunFor(seconds(20));
+  EXPECT_TRUE(LinkWords().startsWith("Silent, last answer 0:")) << FromQt(LinkWords());
+  EXPECT_FALSE(write->isEnabled());
+  Window().GoTo("General");
+  Core().general.Session().Escribir.Click();
+  loop.RunFor(seconds(20));
+  ASSERT_EQ(dialogs.boxes.size(), 1u) << "the page's own button asks nothing of a dead line";
+  EXPECT_TRUE(dialogs.boxes[0].text.starts_with("Nothing was sent, since the logger has not"));
+  port.HoldOutput(kPort, false);
+  loop.RunFor(seconds(15));
+  EXPECT_EQ(LinkWords(), "Open");
+  Window().GoTo("E_Digital_0");
+  line->Vanish();
+  loop.RunFor(seconds(2));
+  EXPECT_EQ(LinkWords(), "Line lost");
+  EXPECT_FALSE(write->isEnabled() || SessionTool("ReadTool")->isEnabled());
+}
+
+TEST_F(OnEveryPage, ReadsAndWritesWhereTheOperatorIs) {
+  port.SetPaced(true);
+  Window().show();
+  Connect(seconds(15));
+  Window().GoTo("E_Digital_3");
+  On(*desktop, "Nombre")->setFocus();
+  SessionTool("ReadTool")->trigger();
+  bool rested = false;
+  loop.After(seconds(4), "look", [&] {
+    rested = !Window().Pages().isEnabled();
+    EXPECT_EQ(LinkWords(), "Reading");
+    auto* bar = Window().findChild<QToolBar*>("Session")->findChild<QProgressBar*>();
+    EXPECT_TRUE(bar->isVisibleTo(&Window()));
+    EXPECT_GT(bar->value(), 0);
+  });
+  loop.RunFor(seconds(30));
+  EXPECT_TRUE(rested);
+  EXPECT_EQ(desktop->Navigator().Front()->Name(), "E_Digital");
+  EXPECT_EQ(Window().focusWidget(), On(*desktop, "Nombre"));
+  EXPECT_EQ(NameOfInput().Text(), Core().conf.Digital[3].NOMBRE);
+  EXPECT_FALSE(NameOfInput().Text().empty());
+  NameOfInput().Type("gate");
+  WriteFromTheBar();
+  loop.RunFor(seconds(40));
+  EXPECT_EQ(logger->Conf().digitals[3].name, "gate");
+  EXPECT_FALSE(Window().isWindowModified());
+  SessionFrame& frame = Core().general.Session();
+  EXPECT_EQ(frame.ComStat.face.Key(), "Configuracion escrita con exito");
+  NameOfInput().Type("door");
+  loop.RunFor(seconds(2));
+  EXPECT_EQ(frame.ComStat.face.Key(), "Comunicacion iniciada") << "what is shown is not written";
+}
+
+TEST_F(OnEveryPage, ATransferIsCancelledAsAnInterruptionDoes) {
+  port.SetPaced(true);
+  Connect(seconds(15));
+  Window().GoTo("E_Digital_3");
+  WriteFromTheBar();
+  loop.After(seconds(4), "cancel", [&] {
+    ASSERT_TRUE(SessionTool("CancelTool")->isEnabled());
+    SessionTool("CancelTool")->trigger();
+  });
+  loop.RunFor(seconds(6));
+  EXPECT_EQ(logger->UploadsTaken(), 0u);
+  EXPECT_FALSE(port.PortOpen() || Core().Connected);
+  EXPECT_EQ(Strip(), "Interrupted. The logger's former configuration stays in force.");
+  Window().GoTo("General");
+  EXPECT_TRUE(Strip().isEmpty());
+  EXPECT_EQ(Fault(), "Interrupted. The logger's former configuration stays in force.");
+}
+
+/// Whoever waits in an event of the window would hold the transfer below it.
+TEST_F(OnEveryPage, QuestionsDoNotHoldATransfer) {
+  desktop.reset();
+  desktop = Make();  // with the window's own boxes
+  desktop->Start("");
+  Window().show();
+  port.SetPaced(true);
+  Connect(seconds(15));
+  QTimer::singleShot(5000, [] {  // a box that waits after all is not to hang the test
+    if (QMessageBox* box = Box()) box->reject();
+  });
+  WriteFromTheBar();
+  loop.After(seconds(2), "close", [&] {
+    EXPECT_FALSE(Window().close()) << "it asks";
+    line->SetCarrier(false);
+  });
+  loop.After(seconds(4), "look", [&] {
+    EXPECT_EQ(Core().session.State().phase, SessionPhase::Writing);
+    ASSERT_NE(Box(), nullptr) << "and goes on meanwhile";
+  });
+  loop.RunFor(seconds(40));
+  EXPECT_EQ(logger->UploadsTaken(), 1u);
+  EXPECT_TRUE(Window().isVisible());
+  ASSERT_NE(Box(), nullptr);
+  EXPECT_EQ(Box()->text(), "Se corto la comunicacion") << "the question has no object any more";
+}
+
+TEST_F(OnEveryPage, LeavingAWritingBreaksItOff) {
+  desktop.reset();
+  desktop = Make();
+  desktop->Start("");
+  Window().show();
+  port.SetPaced(true);
+  Connect(seconds(15));
+  WriteFromTheBar();
+  loop.After(seconds(3), "close", [&] {
+    Window().close();
+    ASSERT_NE(Box(), nullptr);
+    Box()->findChildren<QPushButton*>().first()->click();
+  });
+  loop.RunFor(seconds(6));
+  EXPECT_FALSE(Window().isVisible() || port.PortOpen());
+  EXPECT_EQ(logger->UploadsTaken(), 0u);
+}
+
+TEST_F(OnEveryPage, AHeldLineIsNamedWhenTheOpeningFailsOfIt) {
+  port.HoldOutput(kPort, true);
+  Connect(seconds(60));
+  EXPECT_TRUE(Fault().startsWith("The line at COM7 was held")) << FromQt(Fault());
+}
+
+TEST_F(OnEveryPage, SavesToTheFileThatIsKnown) {
+  dialogs.ChoosePath(Path("a.ocf"));
+  Tool("Guardar")->trigger();
+  ASSERT_EQ(dialogs.questions.size(), 1u);
+  Window().GoTo("E_Digital_3");
+  NameOfInput().Type("gate");
+  Tool("Guardar")->trigger();
+  EXPECT_EQ(dialogs.questions.size(), 1u);
+  EXPECT_NE(files.Read(Path("a.ocf"))->find("gate"), std::string::npos);
+  dialogs.ChoosePath(Path("b.ocf"));
+  Tool("Guardar como")->trigger();
+  EXPECT_EQ(dialogs.questions.size(), 2u);
+  EXPECT_TRUE(files.Exists(Path("b.ocf")));
+}
+
+/// The screen of the tests is smaller than the window would like to be.
+TEST_F(OnEveryPage, TheWholeWindowStandsOnTheScreen) {
+  Window().show();
+  Connect();
+  const QSize room = Window().screen()->availableSize();
+  ASSERT_LT(room.width(), 1280);
+  EXPECT_LE(Window().width(), room.width());
+  EXPECT_LT(Window().height(), room.height());
+  EXPECT_TRUE(Window().statusBar()->isVisible());
+  EXPECT_TRUE(Window().findChild<QLabel*>("LinkState")->isVisible()) << "though the bar is narrow";
+}
+
+TEST_F(OnEveryPage, AMissingFileIsCalledMissing) {
+  desktop.reset();
+  desktop = Make(&dialogs);
+  desktop->Start(Path("none.ocf"));
+  ASSERT_EQ(dialogs.boxes.size(), 1u);
+  EXPECT_EQ(dialogs.boxes[0].text, Path("none.ocf") + " no existe.");
+}
+
+/// Words that the pages give as they are, and the choice of a language.
+TEST_F(OnEveryPage, SpeaksEnglishThroughout) {
+  Window().GoTo("General");
+  dialogs.OnModal([](Modal& modal) {
+    EXPECT_EQ(AsForm(modal).Get<ComboBox>("ComboLang").Position(), 0);
+    AsForm(modal).Get<ComboBox>("ComboLang").SetPosition(1);
+    AsForm(modal).Get<Button>("CommandOk").Click();
+  });
+  Tool("Idioma")->trigger();
+  EXPECT_EQ(On<QComboBox>(*desktop, "Privilegios")->currentText(), "Administrator");
+  EXPECT_FALSE(Window().Tree().Tree().findItems("Groups", Qt::MatchRecursive).isEmpty());
+  Connect(seconds(15));
+  EXPECT_TRUE(On<QLabel>(*desktop, "UsedHText")->text().endsWith(" records"));
+  dialogs.OnModal([](Modal& modal) {
+    EXPECT_EQ(AsForm(modal).Get<ComboBox>("ComboLang").Position(), 1) << "the one in use";
+  });
+  Tool("Language")->trigger();
+}
+
+}  // namespace
+}  // namespace ostrel
