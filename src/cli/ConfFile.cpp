@@ -19,8 +19,10 @@ ExitCode SaveTo(CommandContext& context, Configurator& configurator, const std::
   if (path == kStandard) {
     IniClass document(context.platform.files);
     SaveConfiguration(configurator.conf, configurator.profile, document);
-    context.console.Out() << ToCodePage(document.OutputINI());
-    return ExitCode::Done;
+    // Why it failed is told where all output is looked after.
+    const bool written =
+        bool(context.console.Out() << ToCodePage(document.OutputINI()) << std::flush);
+    return written ? ExitCode::Done : ExitCode::BadFile;
   }
   configurator.ConfFilePath = path;
   // Whether a protected file may go was asked ahead of the session.

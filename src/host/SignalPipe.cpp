@@ -26,6 +26,10 @@ extern "C" void OnSignal(int) {
   errno = kept;
 }
 
+/// Whether whoever ignores a signal means it: a shell ignores those of the keyboard for whatever it
+/// starts in the background.
+bool IsAskedFor(int signal) { return signal == SIGHUP || signal == SIGPIPE; }
+
 bool IsIgnored(int signal) {
   struct sigaction present {};
   return sigaction(signal, nullptr, &present) == 0 && present.sa_handler == SIG_IGN;
@@ -37,7 +41,7 @@ void SetHandler(void (*handler)(int)) {
   sigemptyset(&action.sa_mask);
   // Without SA_RESTART: a question on the terminal must end, too.
   for (const int signal : kSignals)
-    if (!IsIgnored(signal)) sigaction(signal, &action, nullptr);
+    if (!IsAskedFor(signal) || !IsIgnored(signal)) sigaction(signal, &action, nullptr);
 }
 
 }  // namespace
@@ -53,6 +57,7 @@ SignalPipe::SignalPipe(QtEventLoop& loop, std::function<void()> onSignal) {
                      loop.Guard(onSignal);
                    });
   SetHandler(OnSignal);
+  std::signal(SIGXFSZ, SIG_IGN);
 }
 
 SignalPipe::~SignalPipe() {

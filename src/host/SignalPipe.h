@@ -12,7 +12,9 @@ namespace ostrel {
 /// a reader of the output that goes) to the event loop, where it is safe to act on them. One of
 /// them may exist at a time. A read from the terminal that is under way ends when a signal comes.
 ///
-/// What the program was started to ignore, as `nohup` does it, stays ignored.
+/// A file that reaches the limit of the system fails to be written, and ends nothing.
+///
+/// A terminal or a reader that goes stays ignored where the program was started so, as by `nohup`.
 class SignalPipe {
  public:
   SignalPipe(QtEventLoop& loop, std::function<void()> onSignal);

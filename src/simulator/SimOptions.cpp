@@ -61,6 +61,16 @@ std::string Take(const Texts& texts, sim::LoggerOptions& options) {
   return {};
 }
 
+/// A request with "****" for an access code and for a password in a statement.
+std::string WithoutSecrets(const std::string& request) {
+  for (const std::string_view word : {"#11", "APNPASS=", "FTPPASS="}) {
+    const std::size_t at = request.find(word);
+    if (at == std::string::npos || (word.starts_with('#') && at > 0)) continue;
+    return request.substr(0, at + word.size()) + "****";
+  }
+  return request;
+}
+
 }  // namespace
 
 bool ParseSimOptions(std::span<const std::string> args, SimOptions& options, std::ostream& out,
@@ -90,7 +100,7 @@ std::string ExchangeLine(const sim::Exchange& exchange) {
   const auto milliseconds = std::chrono::duration_cast<std::chrono::milliseconds>(exchange.at);
   const std::string rest = std::to_string(milliseconds.count() % 1000 + 1000).substr(1);
   std::string line = std::to_string(milliseconds.count() / 1000) + "." + rest + "  " +
-                     Printable(FromCodePage(exchange.request));
+                     Printable(FromCodePage(WithoutSecrets(exchange.request)));
   if (!exchange.reply.empty()) line += " -> " + Printable(FromCodePage(exchange.reply));
   if (exchange.frames > 1) line += " and " + std::to_string(exchange.frames - 1) + " more";
   if (!exchange.note.empty()) line += "  (" + Printable(FromCodePage(exchange.note)) + ")";

@@ -23,7 +23,8 @@ struct SimOptions {
 bool ParseSimOptions(std::span<const std::string> args, SimOptions& options, std::ostream& out,
                      std::ostream& err, ExitCode& code);
 
-/// One line about an exchange: seconds, request, and what came of it.
+/// One line about an exchange: seconds, request, and what came of it. Access codes and passwords are
+/// not told.
 std::string ExchangeLine(const sim::Exchange& exchange);
 
 }  // namespace ostrel

@@ -51,6 +51,13 @@ TEST(SimOptions, AnExchangeIsOneLine) {
                           .frames = 3,
                           .note = "all"}),
             "1.042  #42 -> #BD000DNAME,Dep\xC3\xB3sito and 2 more  (all)");
+  for (const auto& [request, told] : std::vector<std::pair<std::string, std::string>>{
+           {"#114711", "#11****"},
+           {"#45101APNPASS=clave", "#45101APNPASS=****"},
+           {"#45111FTPPASS=clave", "#45111FTPPASS=****"},
+           {"#45111DINAME0=a#11b", "#45111DINAME0=a#11b"}})
+    EXPECT_EQ(ExchangeLine({.at = {}, .request = request, .reply = {}, .note = {}}),
+              "0.000  " + told);
 }
 
 }  // namespace
