@@ -111,11 +111,11 @@ void MonthlyMiddle(const TimerSlot& slot, QGridLayout& grid) {
 
 Card TimerCard(const TimerSlot& slot, Middle middle) {
   const Card card = MakeCard(slot.view, slot.names("FrameTimer"));
-  card.grid->addWidget(slot.Show("TimerHabil"), 0, 0, 1, 2);
+  card.grid->addWidget(slot.Show("TimerHabil"), 0, 0);
   middle(slot, *card.grid);
-  const int column = card.grid->itemAtPosition(kLastRow, 0) ? 1 : 0;
-  card.grid->addWidget(FramedRow(slot, "FrameAcciones", {slot.Show("BotonEditar")}), kLastRow,
-                       column, 1, 2 - column);
+  // Beside what stands in the last row, or else beside the box above, for the sake of the height.
+  const int row = card.grid->itemAtPosition(kLastRow, 0) ? kLastRow : 0;
+  card.grid->addWidget(FramedRow(slot, "FrameAcciones", {slot.Show("BotonEditar")}), row, 1);
   card.grid->setColumnStretch(0, 1);
   card.grid->setColumnStretch(1, 1);
   card.grid->setRowStretch(card.grid->rowCount(), 1);

@@ -1895,6 +1895,8 @@
     <message>
         <source>days of the month</source>
         <translation>días del mes</translation>
+    </message>
+    <message>
         <source>the line is neither MACRO and a number up to 55 nor F and a number, with the command in one pair of braces: write it anew</source>
         <translation>la línea no es MACRO y un número hasta 55, ni F y un número, con el comando entre un par de llaves: escríbala de nuevo</translation>
     </message>

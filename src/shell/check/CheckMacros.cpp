@@ -7,6 +7,7 @@
 #include "blocks/GprsParameters.h"
 #include "blocks/MacroPool.h"
 #include "blocks/VoiceNumbers.h"
+#include "blocks/inputs/FlagAlarms.h"
 #include "shell/check/CheckRules.h"
 
 namespace ostrel {
@@ -150,7 +151,8 @@ std::vector<Finding> ConditionsWithoutEquation(const Examined& file) {
   const SentPool pool(file);
   EachSent(file, FieldSense::Condition, [&](const ConstField& field, int condition) {
     const int flag = condition - 1;
-    if (pool.HasEquation(flag)) return;
+    // A flag that does not exist is told by another rule.
+    if (flag >= FlagAlarms::kChannels || pool.HasEquation(flag)) return;
     found.push_back(
         {field.Section(),
          field.Key(),

@@ -5,14 +5,13 @@
 #include "blocks/expansion/ExpansionInputs.h"
 #include "blocks/inputs/AnalogInputs.h"
 #include "blocks/inputs/AuxiliaryInputs.h"
+#include "blocks/inputs/FlagAlarms.h"
 #include "blocks/inputs/InterfaceCodes.h"
 #include "shell/FieldWords.h"
 #include "shell/check/CheckRules.h"
 
 namespace ostrel {
 namespace {
-
-constexpr int kFlags = 16;
 
 /// The scale of one channel that is on.
 struct Scale {
@@ -119,7 +118,8 @@ std::vector<Finding> NumbersBeyondLogger(const Examined& file) {
   for (const ConstField& field : file.Fields()) {
     const auto number = NumberOf(field.value);
     if (!number) continue;
-    if (field.meta.sense == FieldSense::Condition && (*number < 0 || *number > kFlags))
+    if (field.meta.sense == FieldSense::Condition &&
+        (*number < 0 || *number > FlagAlarms::kChannels))
       found.push_back({field.Section(),
                        field.Key(),
                        {"there is no flag %1: choose 0 for always, or 1 to 16 for F0 to F15",
