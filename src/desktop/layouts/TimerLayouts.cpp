@@ -10,7 +10,7 @@ namespace ostrel {
 namespace {
 
 constexpr int kSlots = 4;
-constexpr int kLastRow = 3;     ///< of a card; the actions stand there, beside a period
+constexpr int kLastRow = 3;     ///< of a card, where a period stands
 constexpr int kTimeWidth = 11;  // characters of a time of day, with the arrows
 constexpr int kMonthColumns = 8;
 
@@ -113,7 +113,7 @@ Card TimerCard(const TimerSlot& slot, Middle middle) {
   const Card card = MakeCard(slot.view, slot.names("FrameTimer"));
   card.grid->addWidget(slot.Show("TimerHabil"), 0, 0);
   middle(slot, *card.grid);
-  // Beside what stands in the last row, or else beside the box above, for the sake of the height.
+  // Beside the period where there is one, else beside the check: so it fits on a small screen.
   const int row = card.grid->itemAtPosition(kLastRow, 0) ? kLastRow : 0;
   card.grid->addWidget(FramedRow(slot, "FrameAcciones", {slot.Show("BotonEditar")}), row, 1);
   card.grid->setColumnStretch(0, 1);
