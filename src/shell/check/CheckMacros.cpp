@@ -150,7 +150,7 @@ std::vector<Finding> ConditionsWithoutEquation(const Examined& file) {
   const SentPool pool(file);
   EachSent(file, FieldSense::Condition, [&](const ConstField& field, int condition) {
     const int flag = condition - 1;
-    if (pool.HasEquation(flag)) return;
+    if (flag >= kEquations || pool.HasEquation(flag)) return;
     found.push_back(
         {field.Section(),
          field.Key(),
