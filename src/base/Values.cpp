@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 
 namespace ostrel {
 namespace {
@@ -72,6 +73,18 @@ std::string WeekText(std::uint8_t week) {
   constexpr int kDays = 7;
   std::string text;
   for (int day = 0; day < kDays; ++day) text += (week >> day & 1) != 0 ? '1' : '0';
+  return text;
+}
+
+std::string Dec2Bin(double mask) {
+  constexpr std::size_t kBits = 32;
+  std::string text(kBits, '0');
+  for (std::size_t bit = kBits; bit-- > 0;) {
+    const double worth = std::ldexp(1.0, static_cast<int>(bit));
+    if (worth > mask) continue;
+    text[bit] = '1';
+    mask -= worth;
+  }
   return text;
 }
 

@@ -57,6 +57,10 @@ std::optional<TimeOfDay> TextTime(std::string_view text);
 /// shown.
 std::string WeekText(std::uint8_t week);
 
+/// The 32 bits of a mask of days of the month, as characters "0" and "1", the lowest bit first.
+/// What lies above bit 31 is not shown.
+std::string Dec2Bin(double mask);
+
 /// Comma-separated field of a text, counted from 1; 0 counts as 1. There is no quoting. Empty
 /// beyond the last field. A view into `text`.
 std::string_view FieldOf(std::string_view text, int field);

@@ -18,16 +18,11 @@ void SetByBit(std::int32_t bits, std::int32_t bit, Bool16& field) {
 
 /// Reads start and stop in seconds since midnight, week byte, notification bits.
 void ReadCommonGroup(LineReader& line, AlarmBlock& alarm) {
-  auto start = RoundToEven<std::int32_t>(line.Number());
-  auto stop = RoundToEven<std::int32_t>(line.Number());
-  const double weekNumber = line.Number();
-  const auto week = RoundToEven<std::uint8_t>(weekNumber);
-  ValidityRange& valid = alarm.valid;
-  if (start && stop && week) valid.SIEMPRE = Bool16(CheckSiempre(*start, *stop, *week));
-  if (start) valid.INICIO = SecondsToTime(*start).value_or(valid.INICIO);
-  if (stop) valid.FINAL = SecondsToTime(*stop).value_or(valid.FINAL);
-  valid.SEMANA = week.value_or(valid.SEMANA);
-  alarm.HABIL = Bool16(weekNumber >= 1);
+  const double start = line.Number();
+  const double stop = line.Number();
+  const double week = line.Number();
+  SetRange(alarm.valid, start, stop, week);
+  alarm.HABIL = Bool16(week >= 1);
   std::int32_t bits = 0;
   line.Into(bits);
   SetByBit(bits, kNotifySms, alarm.SMS);
@@ -161,6 +156,20 @@ void AddAlarm(StatementList& out, std::string_view key, int channel, int config,
     AddLevelActions(statement, cell.common, shape);
   }
   out.Add(statement);
+}
+
+void SetTime(TimeOfDay& time, double seconds) {
+  if (auto whole = RoundToEven<std::int32_t>(seconds)) time = SecondsToTime(*whole).value_or(time);
+}
+
+void SetRange(ValidityRange& valid, double start, double stop, double week) {
+  const auto first = RoundToEven<std::int32_t>(start);
+  const auto last = RoundToEven<std::int32_t>(stop);
+  const auto days = RoundToEven<std::uint8_t>(week);
+  if (first && last && days) valid.SIEMPRE = Bool16(CheckSiempre(*first, *last, *days));
+  SetTime(valid.INICIO, start);
+  SetTime(valid.FINAL, stop);
+  valid.SEMANA = days.value_or(valid.SEMANA);
 }
 
 void AddRange(Statement& statement, const ValidityRange& valid) {

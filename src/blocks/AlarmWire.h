@@ -58,6 +58,11 @@ void AddAlarms(StatementList& out, std::string_view key, int channel, AlarmShape
     AddAlarm(out, key, channel, config, shape, cells[config], more...);
 }
 
+/// Sets a time of day that a logger tells in seconds since midnight. One that does not exist leaves
+/// it as it was.
+void SetTime(TimeOfDay& time, double seconds);
+/// Sets a range of validity that a logger tells: two times of the day, and the days.
+void SetRange(ValidityRange& valid, double start, double stop, double week);
 /// Appends the tokens of a range of validity; none when it is valid at all times.
 void AddRange(Statement& statement, const ValidityRange& valid);
 

@@ -18,6 +18,10 @@
 #include "blocks/inputs/MathChannels.h"
 #include "blocks/inputs/Probes.h"
 #include "blocks/inputs/Sampling.h"
+#include "blocks/timers/CyclicTimers.h"
+#include "blocks/timers/LongTimers.h"
+#include "blocks/timers/MonthlyTimers.h"
+#include "blocks/timers/WeeklyTimers.h"
 #include "store/IniTool.h"
 
 namespace ostrel {
@@ -98,6 +102,8 @@ std::span<const Block> Blocks() {
       MakeBlock<FlagAlarms>(PageId::Flags),          MakeBlock<Probes>(PageId::E_OneWire),
       MakeBlock<MathChannels>(PageId::E_Math),       MakeBlock<ModbusBus>(PageId::CONF_MODBUS),
       MakeBlock<ModbusChannels>(PageId::E_MODBUS),   MakeBlock<ExpansionInputs>(PageId::E_Modular),
+      MakeBlock<CyclicTimers>(PageId::CTimer),       MakeBlock<LongTimers>(PageId::LTimer),
+      MakeBlock<WeeklyTimers>(PageId::WTimer),       MakeBlock<MonthlyTimers>(PageId::MTimer),
       MakeBlock<AuxiliaryInputs>(PageId::E_Aux),     MakeBlock<OffMeasurement>(PageId::Katodex),
       MakeBlock<MacroPool>(PageId::Macros),          MakeBlock<GprsParameters>(PageId::GPRS),
       MakeBlock<VoiceNumbers>(PageId::Aut_Voz),

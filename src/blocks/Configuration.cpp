@@ -69,10 +69,14 @@ DeviceConf ReadAsSent(DeviceConf read, const DeviceConf& sent, const Receiver& r
   return read;
 }
 
-std::vector<std::string> ComposeStatements(const DeviceConf& conf, const Receiver& receiver) {
+StatementList ComposeUpload(const DeviceConf& conf, const Receiver& receiver) {
   StatementList statements;
   for (const UploadStep& step : UploadOrder()) ComposeStep(step, conf, receiver, statements);
-  return statements.All();
+  return statements;
+}
+
+std::vector<std::string> ComposeStatements(const DeviceConf& conf, const Receiver& receiver) {
+  return ComposeUpload(conf, receiver).All();
 }
 
 void SaveConfiguration(const DeviceConf& conf, const TargetProfile& profile, IniClass& document) {

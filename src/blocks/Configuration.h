@@ -41,7 +41,9 @@ void VisitAlarms(const DeviceConf& conf, const Receiver& receiver, const AlarmVi
 /// form, the reading takes the form of what was sent. All else stays as it was read.
 DeviceConf ReadAsSent(DeviceConf read, const DeviceConf& sent, const Receiver& receiver);
 
-/// The statements of a whole upload, in the order of sending and without their numbers.
+/// A whole upload, in the order of sending and without numbers.
+StatementList ComposeUpload(const DeviceConf& conf, const Receiver& receiver);
+/// The statements of it that can be made.
 std::vector<std::string> ComposeStatements(const DeviceConf& conf, const Receiver& receiver);
 
 /// Section and key of a file's stamp, which names the model that the file is of.

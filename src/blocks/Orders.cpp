@@ -14,6 +14,10 @@
 #include "blocks/inputs/MathChannels.h"
 #include "blocks/inputs/Probes.h"
 #include "blocks/inputs/Sampling.h"
+#include "blocks/timers/CyclicTimers.h"
+#include "blocks/timers/LongTimers.h"
+#include "blocks/timers/MonthlyTimers.h"
+#include "blocks/timers/WeeklyTimers.h"
 
 namespace ostrel {
 namespace {
@@ -48,6 +52,10 @@ std::span<const UploadStep> UploadOrder() {
                  &GeneralParameters::ComposeResendRules},
       StepOf<Sampling>("Sampling", SampleRate),
       UploadStep{"Telephones", {General}, Once, &GeneralParameters::ComposeTelephones},
+      StepOf<LongTimers>("Long timers", LTimer),
+      StepOf<CyclicTimers>("Cyclic timers", CTimer),
+      StepOf<WeeklyTimers>("Weekly timers", WTimer),
+      StepOf<MonthlyTimers>("Monthly timers", MTimer),
       StepOf<DigitalInputs>("Digital inputs", E_Digital),
       StepOf<AnalogInputs>("Analog inputs", E_Analog),
       // A meter's statements carry its weight in the totaliser, too.

@@ -2,6 +2,7 @@
 
 #include "base/CodePage.h"
 #include "blocks/Configuration.h"
+#include "cli/FaultText.h"
 #include "shell/ForeignKeys.h"
 #include "shell/check/CheckRules.h"
 
@@ -25,6 +26,15 @@ ExitCode SaveTo(CommandContext& context, Configurator& configurator, const std::
   // Whether a protected file may go was asked ahead of the session.
   const FileResult result = configurator.SaveConf(Replacing::Any);
   return result.Ok() ? ExitCode::Done : CannotWrite(context, path, result);
+}
+
+ExitCode MakeStatements(CommandContext& context, const DeviceConf& conf, const Receiver& receiver,
+                        std::vector<std::string>& statements) {
+  const StatementList list = ComposeUpload(conf, receiver);
+  if (!list.Fault().Ok())
+    return context.console.Fail(ExitCode::BadFile, FaultText(WordsOf({.link = list.Fault()}, "")));
+  statements = list.All();
+  return ExitCode::Done;
 }
 
 ExitCode TryToWrite(CommandContext& context, const std::string& path) {

@@ -1,7 +1,9 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
+#include "blocks/Receiver.h"
 #include "cli/CommandContext.h"
 #include "shell/SafetyCopies.h"
 
@@ -10,6 +12,11 @@ namespace ostrel::cli {
 /// Writes the configuration of a configurator to a path, whole or not at all, and says why it
 /// failed.
 ExitCode SaveTo(CommandContext& context, Configurator& configurator, const std::string& path);
+
+/// The statements that a configuration gives for a receiver. Anything but Done after saying why one
+/// of them cannot be made.
+ExitCode MakeStatements(CommandContext& context, const DeviceConf& conf, const Receiver& receiver,
+                        std::vector<std::string>& statements);
 
 /// Makes sure that a file can be made at a path before a logger is kept busy for it, and asks
 /// before a protected one is replaced. Anything but Done after saying why not.

@@ -90,7 +90,7 @@ class Comms {
   /// Uploads the configuration. Success: the logger has taken it over.
   LinkResult WriteConf();
   /// The statements that `WriteConf` would send now, without their numbers.
-  std::vector<std::string> ComposeStatements() const { return upload_.Compose(); }
+  std::vector<std::string> ComposeStatements() const { return upload_.Compose().All(); }
   /// Asks the logger who it is. Always false; the values stand in the records.
   bool ReadInfo();
   /// What the last `ReadInfo` came to: no fault when it got the stream to its end.

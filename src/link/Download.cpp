@@ -35,8 +35,8 @@ LinkFault Download::RunAttempts() {
   for (int attempt = 0; attempt < kLinkAttempts; ++attempt) {
     if (attempt > 0) line_.AwaitQuiet();  // the stream that failed may still be running
     line_.RxChars = 0;
-    if (model_.begin) model_.begin();
     lines_.clear();
+    if (model_.begin) model_.begin();
     fault = stream_.Read([this](const StreamRecord& record) { return TakeRecord(record); });
     const bool isFinal = fault.Ok() || fault.kind == LinkFault::Kind::IndexOutOfRange;
     if (isFinal || !line_.GoesOn()) break;

@@ -28,6 +28,7 @@ struct LinkFault {
     Busy,             ///< another dialogue is running, and goes on
     OutOfTime,        ///< the dialogue came to no end in its time; `number` as for Silence
     Unsendable,       ///< a message held a control character; `number` as for Silence
+    PeriodTooLong,    ///< the period of long timer `number` overflows; nothing was sent
     LineHeld,         ///< flow control held the line for too long; `number` as for Silence
     LineLost,         ///< the port's device has gone
     PortClosed,       ///< the port was closed in the middle

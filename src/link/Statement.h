@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "base/Values.h"
+#include "link/LinkFault.h"
 #include "model/ActionList.h"
 
 namespace ostrel {
@@ -50,9 +51,17 @@ class StatementList {
   void Add(std::string statement) { statements_.push_back(std::move(statement)); }
   void Add(const Statement& statement) { Add(statement.Done()); }
 
+  /// Notes that a statement cannot be made, so that none may be sent. The first reason counts.
+  void Fail(LinkFault fault) {
+    if (fault_.Ok()) fault_ = std::move(fault);
+  }
+
   const std::vector<std::string>& All() const { return statements_; }
+  /// Why the list is not whole; no fault when it is.
+  const LinkFault& Fault() const { return fault_; }
 
  private:
+  LinkFault fault_;
   std::vector<std::string> statements_;
 };
 

@@ -19,10 +19,10 @@ Upload::Upload(Line& line, ProgressFeed& progress, const DeviceInfo& info,
       statements_(line, info, [this] { Tell(Progress::Stage::Step); }),
       composed_(std::move(composed)) {}
 
-std::vector<std::string> Upload::Compose() const {
+StatementList Upload::Compose() const {
   StatementList statements;
   for (const WireBlock& block : blocks_) block.compose(statements);
-  return statements.All();
+  return statements;
 }
 
 LinkFault Upload::Run() {
@@ -32,7 +32,8 @@ LinkFault Upload::Run() {
   LinkFault fault;
   for (int attempt = 0; attempt < kLinkAttempts; ++attempt) {
     fault = RunOnce();
-    if (fault.Ok() || !line_.GoesOn()) break;
+    // What cannot be composed now cannot be at the next attempt.
+    if (fault.Ok() || !line_.GoesOn() || fault.kind == LinkFault::Kind::PeriodTooLong) break;
   }
   Tell(fault.Ok() ? Progress::Stage::Done : Progress::Stage::Failed);
   return fault;
@@ -41,7 +42,9 @@ LinkFault Upload::Run() {
 LinkFault Upload::RunOnce() {
   statements_.Restart();
   // Composed at once, so that what is sent is one state of the model.
-  const std::vector<std::string> statements = Compose();
+  const StatementList composed = Compose();
+  if (!composed.Fault().Ok()) return composed.Fault();
+  const std::vector<std::string>& statements = composed.All();
   if (composed_) composed_();
   expected_ = static_cast<int>(statements.size());
   for (const std::string& statement : statements) {
@@ -52,8 +55,8 @@ LinkFault Upload::RunOnce() {
 }
 
 LinkFault Upload::Close(const std::vector<std::string>& statements) {
-  const int sent = statements_.Sent();
   line_.NoteQuestion();
+  const int sent = statements_.Sent();
   const bool hasLeft = line_.Post(statements_.Closing());
   if (!hasLeft || !line_.RxSer(line_.ReplyTimeout)) return line_.WaitFault(sent);
   if (line_.RxLine.starts_with(kTakenOver)) return {};

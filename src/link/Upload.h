@@ -23,7 +23,7 @@ class Upload {
   /// Makes known what is sent, in order.
   void SetBlocks(std::vector<WireBlock> blocks) { blocks_ = std::move(blocks); }
   /// The statements that an upload would send now, without their numbers.
-  std::vector<std::string> Compose() const;
+  StatementList Compose() const;
   LinkFault Run();
 
  private:

@@ -15,4 +15,6 @@ void Assign(T& field, double number) {
 
 inline void Assign(float& field, double number) { field = ToFloat(number).value_or(field); }
 
+inline void Assign(double& field, double number) { field = number; }
+
 }  // namespace ostrel

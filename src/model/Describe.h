@@ -19,6 +19,7 @@ enum class FieldSense {
   Enabled,    ///< whether an alarm or a timer is in force at all
   Action,     ///< number of an action; 0 or below for none
   Week,       ///< days of the week, bit 0 Monday to bit 6 Sunday
+  Month,      ///< days of the month, bit 0 the first to bit 30; bit 31 the last, whichever
   Condition,  ///< 0 the constant "TRUE", n flag F(n-1)
   Statement,  ///< a whole statement: commas and braces belong to it
 };

@@ -15,6 +15,7 @@
 #include "model/ConfMath.h"
 #include "model/ConfModbus.h"
 #include "model/ConfOneWire.h"
+#include "model/ConfTimers.h"
 #include "model/Describe.h"
 
 namespace ostrel {
@@ -157,6 +158,10 @@ struct DeviceConf {
   Bounded<ConfDigital, 10> Digital;
   Bounded<ConfAnalog, 5> Analog;
   Bounded<ConfGrupo, 5> Grupo;
+  Bounded<ConfCTimer, kTimers + 1> CTimer;
+  Bounded<ConfLTimer, kTimers + 1> LTimer;
+  Bounded<ConfWTimer, kTimers + 1> WTimer;
+  Bounded<ConfMTimer, kTimers + 1> MTimer;
   Bounded<ConfCaudal, 10> Caudal;
   std::int16_t SAMPLERATE = 0;  ///< of the flow meters, in hertz: 64 or 256
   Bounded<ConfFlag, 17> Flag;

@@ -13,11 +13,11 @@ namespace ostrel {
 
 // A field of the model, by its kind. Readers and writers of whole records are visitors over these;
 // each handles every kind, or does not compile.
-using FieldRef = std::variant<std::string*, std::int16_t*, std::int32_t*, float*, Bool16*,
+using FieldRef = std::variant<std::string*, std::int16_t*, std::int32_t*, float*, double*, Bool16*,
                               TimeOfDay*, std::uint8_t*, ConfPhone*>;
-using FieldView =
-    std::variant<const std::string*, const std::int16_t*, const std::int32_t*, const float*,
-                 const Bool16*, const TimeOfDay*, const std::uint8_t*, const ConfPhone*>;
+using FieldView = std::variant<const std::string*, const std::int16_t*, const std::int32_t*,
+                               const float*, const double*, const Bool16*, const TimeOfDay*,
+                               const std::uint8_t*, const ConfPhone*>;
 
 /// Gets one field of a configuration with its address and what is known of it.
 using FieldVisitor = std::function<void(const FieldId& id, const FieldMeta& meta, FieldRef field)>;

@@ -1,5 +1,6 @@
 #include "platform/DateTime.h"
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <string_view>
@@ -18,6 +19,26 @@ std::string DateTimeText(const DateTime& time) {
     if (i < kBehind.size()) text += kBehind[i];
   }
   return text;
+}
+
+std::optional<DateTime> ReadDateTime(std::string_view text) {
+  constexpr std::string_view kShape = "dddd-dd-dd dd:dd:dd";
+  constexpr std::array<std::size_t, 3> kLengths{10, 16, 19};  // a date, with minutes, with seconds
+  if (std::ranges::find(kLengths, text.size()) == kLengths.end()) return {};
+  std::array<int, 6> parts{};
+  std::size_t part = 0;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    if (kShape[i] != 'd') {
+      if (text[i] != kShape[i] && !(kShape[i] == ' ' && text[i] == 'T')) return {};
+      ++part;
+    } else {
+      if (text[i] < '0' || text[i] > '9') return {};
+      parts[part] = parts[part] * 10 + (text[i] - '0');
+    }
+  }
+  const DateTime read{parts[0], parts[1], parts[2], parts[3], parts[4], parts[5]};
+  if (!IsValid(read)) return {};
+  return read;
 }
 
 }  // namespace ostrel

@@ -3,7 +3,9 @@
 #include <chrono>
 #include <compare>
 #include <cstdint>
+#include <optional>
 #include <string>
+#include <string_view>
 
 namespace ostrel {
 
@@ -32,6 +34,10 @@ constexpr bool IsValid(const DateTime& t) {
 /// "2026-03-02 09:05:07".
 std::string DateTimeText(const DateTime& time);
 
+/// Reads "2026-03-02", with a blank or "T" and a time of hours, minutes and perhaps seconds behind
+/// it, else midnight. Nothing for any other text, nor for a moment that does not exist.
+std::optional<DateTime> ReadDateTime(std::string_view text);
+
 /// Seconds since 1 January 1970 at midnight, without time zones.
 constexpr std::int64_t ToSeconds(const DateTime& t) {
   using namespace std::chrono;
@@ -53,6 +59,14 @@ constexpr DateTime FromSeconds(std::int64_t seconds) {
           rest / 3600,
           rest / 60 % 60,
           rest % 60};
+}
+
+/// The day of the week, from 0 for Monday to 6.
+constexpr int WeekdayOf(const DateTime& t) {
+  using namespace std::chrono;
+  const sys_days date{year_month_day{year{t.year}, month{static_cast<unsigned>(t.month)},
+                                     day{static_cast<unsigned>(t.day)}}};
+  return static_cast<int>(weekday{date}.iso_encoding()) - 1;
 }
 
 /// The real date and time that fields beyond their range stand for: month 0 is the December before,

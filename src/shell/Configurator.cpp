@@ -19,6 +19,10 @@
 #include "pages/inputs/Grupos.h"
 #include "pages/inputs/Katodex.h"
 #include "pages/inputs/SampleRate.h"
+#include "pages/timers/CTimer.h"
+#include "pages/timers/LTimer.h"
+#include "pages/timers/MTimer.h"
+#include "pages/timers/WTimer.h"
 #include "platform/Dialogs.h"
 #include "platform/EventLoop.h"
 #include "platform/Files.h"
@@ -41,6 +45,10 @@ std::vector<std::unique_ptr<Page>> MakePages(PageContext& context) {
   pages.push_back(std::make_unique<CONF_MODBUS>(context));
   pages.push_back(std::make_unique<E_MODBUS>(context));
   pages.push_back(std::make_unique<E_Modular>(context));
+  pages.push_back(std::make_unique<CTimer>(context));
+  pages.push_back(std::make_unique<LTimer>(context));
+  pages.push_back(std::make_unique<WTimer>(context));
+  pages.push_back(std::make_unique<MTimer>(context));
   pages.push_back(std::make_unique<E_Aux>(context));
   pages.push_back(std::make_unique<Katodex>(context));
   pages.push_back(std::make_unique<Macros>(context));

@@ -96,6 +96,8 @@ FaultWords LinkWords(const SessionFault& fault, const std::string& port) {
                       "a text with a control character cannot be sent",
                       "statement %1 holds a control character and cannot be sent"),
               {"type that text anew"}};
+    case Kind::PeriodTooLong:
+      return {{"the period of long timer %1 is above 24855 days", {number}}, {"shorten it"}};
     case Kind::LineHeld:
       return {{"the line at %1 was held", {port}},
               {"check that the logger is switched on and that the cable has RTS and CTS"}};

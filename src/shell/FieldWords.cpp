@@ -16,6 +16,17 @@ std::string DayNames(std::uint8_t week) {
   return days.empty() ? "no day" : days;
 }
 
+std::string MonthDayNames(double month) {
+  const std::string days = Dec2Bin(month);
+  std::string names;
+  for (std::size_t day = 0; day < days.size(); ++day) {
+    if (days[day] != '1') continue;
+    names += (names.empty() ? "" : " ") +
+             (day + 1 == days.size() ? std::string("last") : std::to_string(day + 1));
+  }
+  return names.empty() ? "no day" : names;
+}
+
 }  // namespace
 
 std::string SectionWords(const FieldId& id) {
@@ -48,6 +59,8 @@ std::string ReadableValue(const FieldView& value, const FieldMeta& meta, bool is
   if (const CodeWords* code = CodeOf(value, meta)) return std::string(code->words);
   const auto* week = std::get_if<const std::uint8_t*>(&value);
   if (week && meta.sense == FieldSense::Week) return DayNames(**week);
+  const auto* month = std::get_if<const double*>(&value);
+  if (month && meta.sense == FieldSense::Month) return MonthDayNames(**month);
   const std::string number = text.starts_with(' ') ? text.substr(1) : text;
   return meta.unit.empty() ? number : number + " " + std::string(meta.unit);
 }

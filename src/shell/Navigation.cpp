@@ -4,6 +4,7 @@
 #include <array>
 
 #include "shell/Configurator.h"
+#include "shell/TimerGroups.h"
 
 namespace ostrel {
 namespace {
@@ -51,9 +52,6 @@ constexpr std::array<std::pair<std::string_view, PageId>, 4> kTimerPages{
      {"WTimer", PageId::WTimer},
      {"MTimer", PageId::MTimer},
      {"LTimer", PageId::LTimer}}};
-/// Ends of the keys of timer blocks, with the first timer of each.
-constexpr std::array<std::pair<std::string_view, std::int16_t>, 4> kTimerBlocks{
-    {{"0_3", 0}, {"4_7", 4}, {"8_11", 8}, {"12_15", 12}}};
 
 std::optional<NodeTarget> FindNumbered(std::string_view key) {
   for (const auto& [stem, page, last] : kNumbered) {
@@ -69,8 +67,8 @@ std::optional<NodeTarget> FindNumbered(std::string_view key) {
 std::optional<NodeTarget> FindTimers(std::string_view key) {
   for (const auto& [stem, page] : kTimerPages) {
     if (!key.starts_with(stem)) continue;
-    for (const auto& [end, first] : kTimerBlocks)
-      if (key.substr(stem.size()) == end) return NodeTarget{page, first};
+    for (const TimerGroup& group : kTimerGroups)
+      if (key.substr(stem.size()) == group.keyEnd) return NodeTarget{page, group.first};
   }
   return {};
 }
@@ -109,9 +107,9 @@ std::string NodeOf(PageId page, int channel) {
     if (form == page && channel >= 0 && channel <= last)
       return std::string(stem) + std::to_string(channel);
   for (const auto& [stem, form] : kTimerPages)
-    for (const auto& [end, first] : kTimerBlocks)
-      if (form == page && channel >= first && channel < first + 4)
-        return std::string(stem) + std::string(end);
+    for (const TimerGroup& group : kTimerGroups)
+      if (form == page && channel >= group.first && channel < group.first + kTimersAtOnce)
+        return std::string(stem) + std::string(group.keyEnd);
   return {};
 }
 

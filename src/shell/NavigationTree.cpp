@@ -1,7 +1,8 @@
 #include "shell/NavigationTree.h"
 
-#include <array>
 #include <utility>
+
+#include "shell/TimerGroups.h"
 
 namespace ostrel {
 namespace {
@@ -10,10 +11,6 @@ constexpr std::string_view kRoot = "Tavro";
 constexpr int kMathNodes = 4;
 constexpr int kFlagNodes = 16;
 constexpr int kMainsInput = 8;
-
-/// The four blocks of four timers: text and end of the key.
-constexpr std::array<std::pair<std::string_view, std::string_view>, 4> kTimerGroups{
-    {{"0-3", "0_3"}, {"4-7", "4_7"}, {"8-11", "8_11"}, {"12-15", "12_15"}}};
 
 /// Adds nodes one below the other.
 class TreeBuilder {
@@ -43,8 +40,8 @@ class TreeBuilder {
   }
   void AddTimers(std::string_view text, std::string_view key) {
     Add(text, key, "Timer");
-    for (const auto& [range, end] : kTimerGroups)
-      AddFixed(range, std::string(key).append(end), key);
+    for (const TimerGroup& group : kTimerGroups)
+      AddFixed(group.text, std::string(key).append(group.keyEnd), key);
   }
   TreeNode& Last() { return nodes_.back(); }
   std::vector<TreeNode> Take() { return std::move(nodes_); }

@@ -10,6 +10,7 @@
 #include "blocks/inputs/MathChannels.h"
 #include "blocks/inputs/Probes.h"
 #include "blocks/inputs/Sampling.h"
+#include "blocks/timers/CyclicTimers.h"
 
 namespace ostrel {
 namespace {
@@ -38,7 +39,8 @@ bool IsKeptByEmptying(const ConstField& field) {
   if (field.id.section == &ModbusChannels::kSection && field.id.channel >= 4) return true;
   if (field.id.section == &MacroPool::kSection) return true;
   return is(ModbusChannels::kSection, {"ANALOG_MODE", "CONSTANTE", "PERSIST", "FLAG"}) ||
-         is(ExpansionInputs::kAnalog, {"INTERFAZ"}) || is(VoiceNumbers::kSection, {"SEND_ACK"}) ||
+         is(ExpansionInputs::kAnalog, {"INTERFAZ"}) || is(CyclicTimers::kSection, {"EQ"}) ||
+         is(VoiceNumbers::kSection, {"SEND_ACK"}) ||
          is(FlowMeters::kSection, {"PERSISTENCIA", "FLAG"}) || is(Probes::kSection, {"ID"});
 }
 
@@ -175,6 +177,10 @@ TEST_P(FieldWalk, FilesHoldTheirFixedCounts) {
                                        {"CAUDAL", 9U},
                                        {"FLAG", 16U},
                                        {"MATH", 4U},
+                                       {"CTIMER", 16U},
+                                       {"LTIMER", 16U},
+                                       {"WTIMER", 16U},
+                                       {"MTIMER", 16U},
                                        {"1WIRE", profile.IsKA1 || profile.IsKA2 ? 4U : 0U}})
     EXPECT_EQ(records[section].size(), count) << section;
   EXPECT_EQ(records["MODBUS"].size(), profile.IsVR200 || profile.IsS100 ? 33U : 1U);

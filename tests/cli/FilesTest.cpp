@@ -88,6 +88,50 @@ TEST(Show, GivesTypedJson) {
   EXPECT_TRUE(sections["FLAG 15"].isObject());
 }
 
+TEST(Show, TellsTimersInWordsUnlessTheyAreOff) {
+  World world;
+  world.files.contents["/a.ocf"] =
+      "[General]\r\nVERSION=VR200\r\n[CTIMER 3]\r\nHABIL=False\r\nPERIOD= 77\r\n[MTIMER 2]\r\n"
+      "HABIL=True\r\nINICIO=6:00:00\r\nMES= 2147483653\r\nACT( 0)= 5\r\nACT( 3)= 7";
+  EXPECT_EQ(world.Run("show /a.ocf"), 0);
+  EXPECT_THAT(world.out,
+              HasSubstr("MTIMER 2 (monthly timer 2)\n  HABIL (enabled): yes\n"
+                        "  INICIO (time of day): 6:00:00\n"
+                        "  MES (days of the month): 1 3 last\n"
+                        "  ACT (actions): 5 - Ejecutar macro 4; 7 - Ejecutar macro 6\n"));
+  EXPECT_EQ(world.out.find("77"), std::string::npos) << world.out;
+  EXPECT_EQ(world.Run("show /a.ocf --json"), 0);
+  EXPECT_THAT(world.out, HasSubstr("\"MES\": 2147483653,"));
+}
+
+TEST(Schedule, TellsFiringsOfTimersAndMacros) {
+  World world;
+  world.files.contents["/a.ocf"] =
+      "[General]\r\nVERSION=VR200\r\n[CTIMER 3]\r\nHABIL=True\r\nPERIOD= 200000\r\nSIEMPRE=True\r\n"
+      "EQ= 3\r\nACT( 0)= 42\r\nACT( 2)= 5";
+  EXPECT_EQ(world.Run("schedule /a.ocf --from 2026-03-02T08:00"), 0) << world.err;
+  EXPECT_EQ(world.out,
+            "from 2026-03-02 08:00:00, 7 days\n\ncyclic timer 3: every 200000 s, if F2\n"
+            "  runs 42 - Sincronizar reloj\n  runs 5 - Ejecutar macro 4\n"
+            "  We 2026-03-04: 15:33:20\n  Fr 2026-03-06: 23:06:40\n  Mo 2026-03-09: 6:40:00\n\n"
+            "macro 4\n  We 2026-03-04: 15:33:20 (cyclic timer 3)\n"
+            "  Fr 2026-03-06: 23:06:40 (cyclic timer 3)\n"
+            "  Mo 2026-03-09: 6:40:00 (cyclic timer 3)\n");
+  EXPECT_EQ(world.Run("schedule /a.ocf --json"), 0);
+  const QJsonObject json = world.Json().object();
+  EXPECT_EQ(json["from"].toString(), "2026-03-02 09:05:07") << "now";
+  const QJsonObject timer = json["timers"].toArray().at(0).toObject();
+  EXPECT_EQ(timer["section"].toString() + timer["condition"].toString(), "CTIMER 3F2");
+  EXPECT_EQ(timer["firings"].toArray().at(0).toString(), "2026-03-04 16:38:27");
+  EXPECT_EQ(json["macros"].toArray().at(0).toObject()["macro"].toInt(), 4);
+  for (const std::string moment : {"tomorrow", "2026-02-29", "2026-03-02T8:00", "2026-03-02_08:00"})
+    EXPECT_EQ(world.Run("schedule /a.ocf --from " + moment), 2) << moment;
+  EXPECT_EQ(world.Run("schedule /none.ocf"), 5);
+  world.Edit("/a.ocf", "HABIL=True", "HABIL=False");
+  EXPECT_EQ(world.Run("schedule /a.ocf"), 0);
+  EXPECT_EQ(world.err, "/a.ocf: no timer is enabled\n");
+}
+
 TEST(Diff, TellsDifferencesInWordsAndByExitCode) {
   World world;
   world.HaveFile("/a.ocf");
@@ -214,8 +258,8 @@ TEST(Check, FindsEachMistakeByItsRule) {
 
 TEST(Check, FindsEachMistakeOfABusByItsRule) {
   const std::string sound =
-      "[General]\r\nVERSION=VR200\r\n[ANALOG 1]\r\nINTERFAZ= 1\r\nFE= 20\r\nEqFE= 6\r\nHABIL( "
-      "2)=True\r\n"
+      "[General]\r\nVERSION=VR200\r\n[CTIMER 0]\r\nHABIL=True\r\nPERIOD= 60\r\nSIEMPRE=True\r\n"
+      "ACT( 3)= 74\r\n[ANALOG 1]\r\nINTERFAZ= 1\r\nFE= 20\r\nEqFE= 6\r\nHABIL( 2)=True\r\n"
       "SIEMPRE( 2)=True\r\nMINIMO( 2)= 1\r\nMAXIMO( 2)= 5\r\nHISTERESIS( 2)= 4\r\n"
       "[MODBUS 9]\r\nSLAVE= 1\r\nMULT= 2\r\nANALOG_MODE=True\r\nHABIL( 0)=True\r\n"
       "SIEMPRE( 0)=True\r\nMAXIMO( 0)= 3\r\n[MODBUS]\r\nBAUD= 9600";
@@ -239,10 +283,54 @@ TEST(Check, FindsEachMistakeOfABusByItsRule) {
            {"MULT= 2", "MULT= 2\r\nTYPE= 3", "", "modbus-not-kept"},
            {"MULT= 2", "MULT= 2\r\nSIZE32=True", "", "modbus-not-kept"},
            {"MULT= 2", "MULT= 2\r\nSIZE32=False", "", ""},
+           {"ACT( 3)= 74", "ACT( 3)= 75", "", "modbus-never-read"},
            {"MULT= 2\r\nANALOG_MODE=True", "NOMBRE=Bomba\r\nMULT= 2", "", "modbus-not-kept"},
            {"MULT= 2\r\nANALOG_MODE=True", "MASCARA= 1\r\nMINIMO( 0)= 9", "", ""},
        })
     ExpectRule(sound, one);
+  ExpectRule(sound + "\r\nMASTER=False", {"ACT( 3)= 74", "ACT( 3)= 75", "", ""});
+}
+
+TEST(Check, FindsEachMistakeOfTimersByItsRule) {
+  const std::string sound =
+      "[General]\r\nVERSION=TAVRO\r\n[CTIMER 0]\r\nHABIL=True\r\nPERIOD= 60\r\nSIEMPRE=False\r\n"
+      "FINAL=1:00:00\r\nSEMANA= 1\r\nACT( 0)= 5\r\n[LTIMER 15]\r\nHABIL=True\r\nPERIOD= 24855\r\n"
+      "ACT( 7)= 6\r\n[WTIMER 1]\r\nHABIL=True\r\nSEMANA= 64\r\nACT( 0)= 7\r\n[MTIMER 2]\r\n"
+      "HABIL=True\r\nMES= 1\r\nACT( 0)= 8\r\n[MTIMER 3]\r\nHABIL=False\r\nACT( 0)= 8";
+  const std::string never = "timer-never-runs", idle = "timer-without-actions";
+  for (const RuleCase& one : std::vector<RuleCase>{
+           {"PERIOD= 60", "PERIOD= 60", "", ""},
+           {"PERIOD= 60", "PERIOD= 0", "", never},
+           {"SEMANA= 1", "SEMANA= 0", "", never},
+           {"SIEMPRE=False\r\nFINAL=1:00:00\r\nSEMANA= 1", "SIEMPRE=True\r\nSEMANA= 0", "", ""},
+           {"SEMANA= 64", "SEMANA= 128", "", never},
+           {"MES= 1", "MES= 0", "", never},
+           {"MES= 1", "MES= 2147483648", "", ""},
+           {"ACT( 0)= 5", "ACT( 0)= 0", "", idle},
+           {"ACT( 7)= 6", "ACT( 7)=-1", "", idle},
+           {"ACT( 0)= 7", "ACT( 0)= 0", "", idle},
+           {"ACT( 0)= 8", "ACT( 0)= 0", "", idle},
+           {"MES= 1\r\nACT( 0)= 8", "MES= 0", "", never},
+           {"24855", "24856", "", "period-too-long", 1},
+           {"HABIL=True\r\nPERIOD= 24855", "HABIL=False\r\nPERIOD= 24856", "", ""},
+       })
+    ExpectRule(sound, one);
+}
+
+TEST(Check, TakesFilesOfEarlierPrograms) {
+  World world;
+  world.HaveFile("/a.ocf");
+  std::string& text = world.files.contents["/a.ocf"];
+  const auto replace = [&](std::string_view from, std::string_view by) {
+    const std::size_t at = text.find(from, text.find("[MODBUS"));
+    ASSERT_NE(at, std::string::npos) << from;
+    text.replace(at, from.size(), by);
+  };
+  replace("MASTER=True\r\n", "");
+  replace("TYPE= 0\r\n", "SIZE32=False\r\n");
+  EXPECT_EQ(world.Run("check /a.ocf"), 0) << world.out;
+  replace("BAUD=", "OTHER=");
+  EXPECT_EQ(world.Run("check /a.ocf"), 1);
 }
 
 TEST(Check, FindsEachMistakeOfMacrosAndGprsByItsRule) {
@@ -285,22 +373,6 @@ TEST(Check, FindsEachMistakeOfMacrosAndGprsByItsRule) {
             std::string(198, 'x') + "}\r\n";
   // Five lines of 203 or 204 characters, and of those that stand there 8, 26 and 11.
   ExpectRule(sound, {"[MACROS]\r\n", full, "", "macro-memory-full", 1});
-}
-
-TEST(Check, TakesFilesOfEarlierPrograms) {
-  World world;
-  world.HaveFile("/a.ocf");
-  std::string& text = world.files.contents["/a.ocf"];
-  const auto replace = [&](std::string_view from, std::string_view by) {
-    const std::size_t at = text.find(from, text.find("[MODBUS"));
-    ASSERT_NE(at, std::string::npos) << from;
-    text.replace(at, from.size(), by);
-  };
-  replace("MASTER=True\r\n", "");
-  replace("TYPE= 0\r\n", "SIZE32=False\r\n");
-  EXPECT_EQ(world.Run("check /a.ocf"), 0) << world.out;
-  replace("BAUD=", "OTHER=");
-  EXPECT_EQ(world.Run("check /a.ocf"), 1);
 }
 
 TEST(Check, FindsEachSenselessNumberByItsRule) {

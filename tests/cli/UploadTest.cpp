@@ -46,6 +46,27 @@ TEST(Upload, TwoSafetyCopiesOfOneSecondAreBothKept) {
   EXPECT_THAT(files.contents[two.path], HasSubstr("NOMBRE=second"));
 }
 
+TEST(Upload, SendsNothingWhereAPeriodOverflows) {
+  World world;
+  world.HaveFile("/a.ocf");
+  world.SetKey("/a.ocf", "LTIMER 0", "PERIOD", " 30000");
+  for (const auto& [command, code] : {std::pair{"statements /a.ocf", 5},
+                                      {"upload /a.ocf --dry-run", 5},
+                                      {"upload /a.ocf --port sim:VR200", 5},
+                                      {"upload /a.ocf --force --port sim:VR200", 4}}) {
+    int statements = 0;
+    world.Logger().OnExchange([&](const sim::Exchange& exchange) {
+      statements += exchange.request.starts_with("#45") ? 1 : 0;
+    });
+    EXPECT_EQ(world.Run(command), code) << command << world.err;
+    EXPECT_THAT(world.err, testing::ContainsRegex("30000 days do not fit|period of long timer 0"));
+    EXPECT_EQ(statements, 0);
+  }
+  EXPECT_THAT(world.err,
+              HasSubstr("the period of long timer 0 is above 24855 days: shorten it; the "
+                        "logger's former configuration stays in force\n"));
+}
+
 TEST(Upload, LeavesOutWhatItIsToldTo) {
   World world;
   world.HaveFile("/a.ocf");

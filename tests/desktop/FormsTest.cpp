@@ -96,7 +96,8 @@ TEST_P(AllForms, FitIntoTheSmallestScreenInBothLanguages) {
     window.Pages().Redraw();
     for (const auto* key :
          {"Tavro", "General", "E_Digital_0", "E_Analog_0", "Grupos", "Flag_0", "MODBUS", "MODBUS_0",
-          "Modulo_0", "E_Aux_0", "PCAT", "Caudal", "Caudal_0", "E_OneWire_0", "E_Math_0"}) {
+          "Modulo_0", "E_Aux_0", "PCAT", "Caudal", "Caudal_0", "E_OneWire_0", "E_Math_0",
+          "CTimer0_3", "LTimer0_3", "WTimer0_3", "MTimer0_3"}) {
       window.GoTo(key);
       QCoreApplication::processEvents();
       const FormView* view = window.Pages().Front();
@@ -143,7 +144,8 @@ std::set<QString> WordsInSources(const QString& folder) {
 }
 
 TEST(OwnWords, HaveSpanishForEachThatTheWindowUses) {
-  const std::set<QString> same{"General", "Firmware:", "&No", "Digital", "Error", "no", "s"};
+  const std::set<QString> same{"General", "Firmware:", "&No", "Digital",
+                               "Error",   "no",        "s",   "macro %1"};
   const auto places = [](const QString& text) { return text.count(QRegularExpression("%[0-9]")); };
   const std::set<QString> words =
       WordsInSources(QString(__FILE__).section("/tests/", 0, 0) + "/src/desktop");

@@ -17,6 +17,7 @@
 #include "platform/virtual/VirtualLoop.h"
 #include "platform/virtual/VirtualProcesses.h"
 #include "shell/FaultWords.h"
+#include "shell/schedule/ScheduleWords.h"
 
 namespace ostrel {
 namespace {
@@ -54,6 +55,7 @@ TEST(FaultText, HasSpanishForEachPhrase) {
             phrases.insert(phrase->text);
         }
   phrases.erase("");
+  for (const std::string& phrase : SchedulePhrases()) phrases.insert(phrase);
   EXPECT_GT(phrases.size(), 35u);
   for (const std::string& phrase : phrases) {
     const QString spanish = Words::tr(phrase.c_str());

@@ -388,6 +388,30 @@ TEST_F(WindowTools, ComparesWithAFileWithoutTouchingAnything) {
   EXPECT_EQ(Core().conf.Digital[2].NOMBRE, "");
 }
 
+TEST_F(WindowTools, ShowsWhenTimersFireAsThePageInFrontHasThem) {
+  Core().conf.LTimer[0] = {kTrue, 5, {}};
+  Core().conf.LTimer[0].ACT[0] = 3;
+  Core().PageOf(PageId::LTimer)->LoadData();
+  Window().GoTo("LTimer0_3");
+  Core().PageOf(PageId::LTimer)->GetForm().Get<TextBox>("Period(0)").Type("7");
+  ModalScript modals;
+  modals.Expect([](QWidget* modal) {
+    auto* table = modal->findChild<QTableWidget*>();
+    ASSERT_EQ(table->rowCount(), 2);
+    QStringList texts;
+    for (int column = 0; column < 4; ++column) texts << table->item(0, column)->text();
+    EXPECT_EQ(texts.join(u'|'), "temporizador largo 0|cada 7 días||3 - Ejecutar macro 2");
+    EXPECT_EQ(table->item(1, 0)->text() + table->item(1, 1)->text(), "macro 2temporizador largo 0");
+    EXPECT_EQ(table->item(1, 4)->text(), table->item(0, 4)->text());
+    Press(modal, Qt::Key_Escape);
+  });
+  UseLanguage("es");
+  Tool("Calendario")->trigger();
+  EXPECT_EQ(modals.Left(), 0u);
+  EXPECT_EQ(Core().conf.LTimer[0].PERIOD, 5) << "it only shows";
+  UseLanguage("en");
+}
+
 TEST_F(WindowTools, SaysWhyAFileCouldNotBeWritten) {
   UseLanguage("en");
   dialogs.ChoosePath(Path("none/a.ocf"));

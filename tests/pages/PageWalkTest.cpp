@@ -21,6 +21,10 @@
 #include "pages/inputs/Grupos.h"
 #include "pages/inputs/Katodex.h"
 #include "pages/inputs/SampleRate.h"
+#include "pages/timers/CTimer.h"
+#include "pages/timers/LTimer.h"
+#include "pages/timers/MTimer.h"
+#include "pages/timers/WTimer.h"
 
 namespace ostrel {
 namespace {
@@ -31,6 +35,7 @@ struct Walked {
   std::unique_ptr<Page> (*make)(PageContext& context);
   int lastChannel;  ///< -1 for a page without channels
   int configs;      ///< alarm configurations; 0 for none
+  int atOnce = 1;   ///< channels that it shows at a time
 };
 
 template <class Kind>
@@ -46,6 +51,8 @@ const Walked kWalked[] = {
     {"E_Math", Make<E_Math>, 3, 1},      {"CONF_MODBUS", Make<CONF_MODBUS>, -1, 0},
     {"E_MODBUS", Make<E_MODBUS>, 31, 1}, {"E_Modular", Make<E_Modular>, 127, 1},
     {"E_Aux", Make<E_Aux>, 3, 4},        {"Katodex", Make<Katodex>, -1, 0},
+    {"CTimer", Make<CTimer>, 12, 0, 4},  {"LTimer", Make<LTimer>, 12, 0, 4},
+    {"WTimer", Make<WTimer>, 12, 0, 4},  {"MTimer", Make<MTimer>, 12, 0, 4},
     {"Macros", Make<Macros>, -1, 0},     {"GPRS", Make<GPRS>, -1, 0},
     {"Aut_Voz", Make<Aut_Voz>, -1, 0},
 };
@@ -87,7 +94,8 @@ class PageWalk : public PageFixture, public testing::WithParamInterface<Walked> 
       // The rows of a list close up: only the first one stays where it was.
       const bool isRow = field.id.slot.config < 0 && field.id.slot.place > 0;
       if (isRow) continue;
-      if (channel >= 0 && field.id.channel != channel) continue;
+      const int slot = field.id.channel - channel;
+      if (channel >= 0 && (slot < 0 || slot >= GetParam().atOnce)) continue;
       if (field.id.slot.config >= 0 && field.id.slot.config != config) continue;
       shown.push_back(field);
     }
@@ -212,7 +220,8 @@ TEST_P(PageWalk, EachFieldHasItsControl) {
     SelectModel(model);
     const Block& block = *FindBlock(page->Id());
     block.view(conf, profile, [&](const FieldId& id, const FieldMeta& meta, const FieldView&) {
-      if (id.section->word == "MINPUT.A" && id.word == "GRUPO") return;  // in the file alone
+      if (id.section->word == "MINPUT.A" && id.word == "GRUPO") return;      // in the file alone
+      if (GetParam().atOnce > 1 && id.channel >= GetParam().atOnce) return;  // not shown now
       int controls = 0;
       for (const ControlRef& control : page->GetForm().Controls()) {
         const EditedField& field = FaceOf(control).Field();

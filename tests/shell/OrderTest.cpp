@@ -48,7 +48,8 @@ TEST(Orders, AnUploadSendsItsBlocksInTheOrderThatLoggersExpect) {
             inputs("DINAME 4, -ALMD 16, ", "DISAI 1, -ALMA 4, ", kFlows2, "AGRP 1, -ALMF 16, ")}}) {
     const std::string start =
         std::string("ID 1, CSM 1, PTLF 1, REST 1, RETRYMAX 1, RETRYTIME 1, ") +
-        (model == "Tavro BQ" ? "SAMPLERATE 1, " : "") + "CLRTLF 1, +TLF 2, ";
+        (model == "Tavro BQ" ? "SAMPLERATE 1, " : "") +
+        "CLRTLF 1, +TLF 2, -LT 16, -CT 16, -WT 16, -MT 16, ";
     World world;
     Configurator program(world.platform, world.Options(false));
     program.StartForCommand(model, 1);
@@ -78,13 +79,15 @@ TEST(Orders, ADownloadEmptiesAllPagesAndThenShowsThem) {
   std::vector<std::string> order;
   for (Form* form : program.Forms())
     for (const ControlRef& control : form->Controls())
-      if (std::holds_alternative<TextBox*>(control) || std::holds_alternative<ComboBox*>(control))
+      if (std::holds_alternative<TextBox*>(control) || std::holds_alternative<ComboBox*>(control) ||
+          std::holds_alternative<TimePicker*>(control))
         FaceOf(control).OnChanged = [&order, form] {
           if (order.empty() || order.back() != form->Name()) order.push_back(form->Name());
         };
   ASSERT_TRUE(program.session.Download());
-  const std::vector<std::string> pages{"Caudal", "E_Analog", "E_Math", "E_Digital", "General",
-                                       "Grupos", "GPRS",     "Flags",  "SampleRate"};
+  const std::vector<std::string> pages{"Caudal",  "CTimer", "E_Analog",  "E_Math", "E_Digital",
+                                       "General", "Grupos", "LTimer",    "WTimer", "MTimer",
+                                       "GPRS",    "Flags",  "SampleRate"};
   std::vector<std::string> emptiedThenShown = pages;
   emptiedThenShown.insert(emptiedThenShown.end(), pages.begin(), pages.end());
   EXPECT_EQ(order, emptiedThenShown);

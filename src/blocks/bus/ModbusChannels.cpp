@@ -36,7 +36,7 @@ void ReadChannel(LineReader& line, DeviceConf& conf, const DeviceInfo& info) {
 }
 
 Statement ChannelStatement(const ConfModbus& channel, const Receiver& receiver, int number) {
-  if (channel.MULT == 0 && channel.MASCARA == 0) return Statement("DISMB").Digits(number);
+  if (ModbusChannels::IsOff(channel)) return Statement("DISMB").Digits(number);
   Statement statement("MBCONF");
   statement.Digits(number).Text("=").Text(channel.NOMBRE);
   statement.Text(",UNIT=").Text(channel.UNIDAD);

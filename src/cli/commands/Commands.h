@@ -31,6 +31,7 @@ Command AddStatements(CLI::App& app);
 Command AddDiff(CLI::App& app);
 Command AddShow(CLI::App& app);
 Command AddCheck(CLI::App& app);
+Command AddSchedule(CLI::App& app);
 Command AddCalc(CLI::App& app);
 
 }  // namespace ostrel::cli

@@ -39,6 +39,11 @@ struct FieldJson {
   Json operator()(const Bool16* flag) const { return bool(*flag); }
   Json operator()(const TimeOfDay* time) const { return TimeText(*time); }
   Json operator()(const float* number) const { return JsonNumber(*number); }
+  /// A mask of days of the month, which is a whole number.
+  Json operator()(const double* mask) const {
+    const auto whole = RoundToEven<std::int64_t>(*mask);
+    return whole ? Json(*whole) : Json();
+  }
   template <class Plain>
   Json operator()(const Plain* value) const {
     return *value;
@@ -149,8 +154,14 @@ std::vector<Line> LinesOf(const Section& section, bool isS100, const ActionWords
   return lines;
 }
 
+/// Whether a field belongs to another record or alarm than the one before it.
+bool IsOfAnother(const FieldId& id, const FieldId& before) {
+  return id.section != before.section || id.channel != before.channel ||
+         id.slot.config != before.slot.config;
+}
+
 /// The fields to show: all, or those that say something beyond an empty configuration. Of an alarm
-/// that is off nothing is said.
+/// or a timer that is off nothing is said.
 std::vector<ConstField> Shown(const ModelConfiguration& configuration, const DeviceConf& empty,
                               bool all) {
   const auto& [profile, conf] = configuration;
@@ -161,9 +172,9 @@ std::vector<ConstField> Shown(const ModelConfiguration& configuration, const Dev
   bool isOff = false;
   for (std::size_t i = 0; i < fields.size(); ++i) {
     const ConstField& field = fields[i];
-    if (field.id.slot.config < 0) isOff = false;
+    if (i == 0 || IsOfAnother(field.id, fields[i - 1].id)) isOff = false;
     if (field.meta.sense == FieldSense::Enabled)
-      isOff = field.id.slot.config >= 0 && !bool(*std::get<const Bool16*>(field.value));
+      isOff = !bool(*std::get<const Bool16*>(field.value));
     if (!isOff &&
         FieldText(field.value, profile.IsS100) != FieldText(emptyFields[i].value, profile.IsS100))
       shown.push_back(field);
@@ -190,15 +201,14 @@ void PrintReadable(std::ostream& out, const ModelConfiguration& configuration,
 
 ExitCode Report(CommandContext& context, const ShowOptions& options,
                 const ModelConfiguration& configuration, const FirmwareView& firmware) {
-  context.Show(
-      {[&] {
-         return ConfigurationJson(configuration, options.file, firmware, context.ShownPasswords());
-       },
-       [&](std::ostream& out) {
-         const DeviceConf empty = EmptyConfiguration(configuration.profile, context.Translator());
-         PrintReadable(out, configuration, empty, options.all, firmware, context.Translator(),
-                       context.ShownPasswords());
-       }});
+  const Passwords passwords = context.ShownPasswords();
+  context.Show({[&] { return ConfigurationJson(configuration, options.file, firmware, passwords); },
+                [&](std::ostream& out) {
+                  const DeviceConf empty =
+                      EmptyConfiguration(configuration.profile, context.Translator());
+                  PrintReadable(out, configuration, empty, options.all, firmware,
+                                context.Translator(), passwords);
+                }});
   if (!firmware.features && !firmware.names.empty())
     context.console.Note(std::to_string(firmware.names.size()) +
                          " settings are not taken by every firmware, and which it is is not known: "

@@ -1,5 +1,5 @@
-#include "blocks/Configuration.h"
 #include "blocks/Orders.h"
+#include "cli/ConfFile.h"
 #include "cli/commands/Commands.h"
 #include "cli/commands/OnlineCommand.h"
 #include "host/LoggerText.h"
@@ -22,8 +22,11 @@ std::vector<std::string> BlocksOfFirmware(const ModelConfiguration& configuratio
 ExitCode Report(CommandContext& context, const std::string& file,
                 const ModelConfiguration& configuration, std::optional<std::int32_t> features) {
   const std::int32_t mask = features.value_or(0);
-  const auto statements =
-      context.Shown(ComposeStatements(configuration.conf, {configuration.profile, mask}));
+  std::vector<std::string> statements;
+  const ExitCode made =
+      MakeStatements(context, configuration.conf, {configuration.profile, mask}, statements);
+  if (made != ExitCode::Done) return made;
+  statements = context.Shown(std::move(statements));
   const auto leftOut = features ? std::vector<std::string>() : BlocksOfFirmware(configuration);
   context.Show({[&] {
                   return Json{{"file", file},

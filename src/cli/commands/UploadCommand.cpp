@@ -35,7 +35,10 @@ Json PlanJson(const TargetProfile& profile, std::int32_t features,
 
 ExitCode ShowPlan(CommandContext& context, const ModelConfiguration& configuration,
                   std::int32_t features) {
-  const auto statements = ComposeStatements(configuration.conf, {configuration.profile, features});
+  std::vector<std::string> statements;
+  const ExitCode made =
+      MakeStatements(context, configuration.conf, {configuration.profile, features}, statements);
+  if (made != ExitCode::Done) return made;
   return context.Show(
       {[&] {
          Json plan = PlanJson(configuration.profile, features, statements);

@@ -78,6 +78,15 @@ void DrawTrace(QPainter& p) {
   p.drawLine(QPointF(11.5, 15), QPointF(16.5, 15));
 }
 
+/// A sheet of a calendar.
+void DrawSchedule(QPainter& p) {
+  p.drawRoundedRect(QRectF(4, 5, 16, 15.5), 2, 2);
+  p.drawLine(QPointF(4, 10), QPointF(20, 10));
+  for (const qreal x : {8.5, 15.5}) p.drawLine(QPointF(x, 3), QPointF(x, 7));
+  for (const qreal x : {8.5, 12.0, 15.5}) p.drawPoint(QPointF(x, 14));
+  for (const qreal x : {8.5, 12.0}) p.drawPoint(QPointF(x, 17));
+}
+
 void DrawLanguage(QPainter& p) {
   p.drawEllipse(QPointF(12, 12), 8.5, 8.5);
   p.drawEllipse(QPointF(12, 12), 3.8, 8.5);
@@ -110,6 +119,8 @@ void Draw(QPainter& painter, Sign sign) {
       return DrawCopies(painter);
     case Sign::Compare:
       return DrawCompare(painter);
+    case Sign::Schedule:
+      return DrawSchedule(painter);
     case Sign::Trace:
       return DrawTrace(painter);
     case Sign::Findings:

@@ -31,7 +31,7 @@ void LayOutActEdit(FormView& view) {
   auto* lists = new QGridLayout;
   lists->addWidget(view.LabelFor("RefList", std::string_view("LabelRef")), 0, 0);
   auto* offered = view.Show<QListWidget>("RefList");
-  auto* search = new QLineEdit(&view);
+  auto* search = view.Own(new QLineEdit(&view));
   search->setObjectName("Search");
   search->setPlaceholderText(Words::tr("Search"));
   search->setAccessibleName(Words::tr("Search the available actions"));

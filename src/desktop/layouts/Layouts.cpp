@@ -16,7 +16,7 @@ void Plain(FormView& view, const LayoutContext&) {
   kLayOut(view);
 }
 
-constexpr std::array<LayoutOf, 25> kLayouts{{
+constexpr std::array<LayoutOf, 29> kLayouts{{
     {"General", LayOutGeneral},
     {"E_Digital", Plain<LayOutDigital>},
     {"E_Analog", Plain<LayOutAnalog>},
@@ -31,6 +31,10 @@ constexpr std::array<LayoutOf, 25> kLayouts{{
     {"E_Modular", Plain<LayOutExpansion>},
     {"E_Aux", Plain<LayOutAux>},
     {"Katodex", Plain<LayOutKatodex>},
+    {"CTimer", Plain<LayOutCyclicTimers>},
+    {"LTimer", Plain<LayOutLongTimers>},
+    {"WTimer", Plain<LayOutWeeklyTimers>},
+    {"MTimer", Plain<LayOutMonthlyTimers>},
     {"Macros", Plain<LayOutMacros>},
     {"GPRS", Plain<LayOutGprs>},
     {"Aut_Voz", Plain<LayOutVoice>},

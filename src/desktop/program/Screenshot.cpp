@@ -8,6 +8,7 @@
 
 #include "desktop/forms/Words.h"
 #include "desktop/program/Desktop.h"
+#include "desktop/window/ScheduleDialog.h"
 #include "host/SimulatedLoggers.h"
 #include "platform/qt/QtEventLoop.h"
 #include "platform/qt/QtFiles.h"
@@ -23,6 +24,7 @@ namespace {
 
 constexpr const char* kConfiguration = "/picture.ocf";
 constexpr const char* kTable = "/Lang.txt";
+constexpr std::string_view kSchedule = "Schedule";
 
 /// A dialog, drawn by itself as it comes up, if the key names one.
 QPixmap DialogPicture(Desktop& desktop, VirtualDialogs& dialogs, const std::string& key) {
@@ -45,6 +47,18 @@ QPixmap DialogPicture(Desktop& desktop, VirtualDialogs& dialogs, const std::stri
   if (key == core.langForm.GetForm().Name()) core.langForm.AskUser();
   dialogs.OnEveryModal({});
   return picture;
+}
+
+/// The schedule of the configuration, if the key names it.
+QPixmap SchedulePicture(Desktop& desktop, const Clock& clock, const CommandLine& line) {
+  if (line.page != kSchedule) return {};
+  Configurator& core = desktop.Core();
+  ScheduleDialog dialog(
+      MakeSchedule(core.conf, {core.profile, kEveryFeature}, clock.LocalNow()), core.profile,
+      [&core](std::string_view text) { return core.context.Translate(text); }, nullptr);
+  dialog.show();
+  QCoreApplication::processEvents();
+  return dialog.grab();
 }
 
 /// Whether a key leads to a page for a model: by a node of its tree, or to one of the pages that no
@@ -108,6 +122,7 @@ std::string TakeScreenshot(const CommandLine& line, const std::string& langFile)
                          [](std::string_view text) { return std::string(text); }))
     return line.file + " is no configuration file";
   QPixmap picture = DialogPicture(desktop, dialogs, line.page);
+  if (picture.isNull()) picture = SchedulePicture(desktop, clock, line);
   if (picture.isNull()) {
     if (!line.page.empty() && !LeadsToPage(core.profile, line.page))
       return "there is no page " + line.page + " for the " + core.profile.TargetName;

@@ -93,6 +93,7 @@ class MainWindow final : public QMainWindow {
   void FillRecent(QMenu& menu);
   void FillCopies(QMenu& menu);
   void Compare();
+  void ShowSchedule();
   void ShowTrace(bool on);
   void SaveTrace();
   /// Says in a box what went wrong.
@@ -179,6 +180,7 @@ class MainWindow final : public QMainWindow {
   QToolBar* bar_ = nullptr;
   QAction *open_ = nullptr, *save_ = nullptr, *saveAs_ = nullptr, *language_ = nullptr,
           *recentFiles_ = nullptr, *safetyCopies_ = nullptr, *compare_ = nullptr,
+          *schedule_ = nullptr,
           *traceSwitch_ = nullptr, *findingsSwitch_ = nullptr;
   bool following_ = false;
   QString success_;                   ///< what the status bar says of the last writing

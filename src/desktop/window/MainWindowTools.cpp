@@ -14,6 +14,8 @@
 #include "desktop/program/Language.h"
 #include "desktop/window/CompareDialog.h"
 #include "desktop/window/MainWindow.h"
+#include "desktop/window/ScheduleDialog.h"
+#include "platform/Clock.h"
 #include "platform/Dialogs.h"
 #include "platform/Files.h"
 #include "shell/Configurator.h"
@@ -43,6 +45,7 @@ void MainWindow::MakeToolBar() {
   AddMenu(safetyCopies_, [this](QMenu& menu) { FillCopies(menu); });
   bar_->addSeparator();
   compare_ = AddAction(Sign::Compare, {}, [this] { Compare(); });
+  schedule_ = AddAction(Sign::Schedule, {}, [this] { ShowSchedule(); });
   traceSwitch_ = AddAction(Sign::Trace, QKeySequence("Ctrl+T"), {});
   traceSwitch_->setCheckable(true);
   connect(traceSwitch_, &QAction::toggled, this, [this](bool on) { ShowTrace(on); });
@@ -103,6 +106,7 @@ void MainWindow::Retranslate() {
   name(safetyCopies_, Words::tr("Safety copies"),
        Words::tr("Configurations read from loggers or sent to them"));
   name(compare_, Words::tr("Compare"), Words::tr("Compare the configuration with a file"));
+  name(schedule_, Words::tr("Schedule"), Words::tr("Show when the timers fire"));
   name(traceSwitch_, Words::tr("Trace"), Words::tr("Show what goes over the line"));
   name(findingsSwitch_, Words::tr("Findings"),
        Words::tr("Show what the check finds in the configuration"));
@@ -246,6 +250,18 @@ void MainWindow::Compare() {
        .before = Words::tr("Present"),
        .after = Words::tr("In the file")},
       ostrel::Compare(present, *file).differences, this);
+  dialog.exec();
+}
+
+void MainWindow::ShowSchedule() {
+  const TargetProfile& profile = configurator_.profile;
+  // What no logger has told counts as a firmware that can do everything.
+  const std::int32_t features =
+      configurator_.Connected ? configurator_.info.Features : kEveryFeature;
+  ScheduleDialog dialog(
+      MakeSchedule(unsaved_.WithFront(), {profile, features}, parts_.platform.clock.LocalNow()),
+      profile, [this](std::string_view text) { return configurator_.context.Translate(text); },
+      this);
   dialog.exec();
 }
 

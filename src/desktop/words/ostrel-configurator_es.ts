@@ -905,6 +905,142 @@
         <translation>la comprobación encuentra %1 errores, el primero: %2</translation>
     </message>
     <message>
+        <source>Schedule</source>
+        <translation>Calendario</translation>
+    </message>
+    <message>
+        <source>Show when the timers fire</source>
+        <translation>Mostrar cuándo se ejecutan los temporizadores</translation>
+    </message>
+    <message>
+        <source>What happens when</source>
+        <translation>Qué ocurre y cuándo</translation>
+    </message>
+    <message>
+        <source>No timer is enabled.</source>
+        <translation>No hay ningún temporizador habilitado.</translation>
+    </message>
+    <message>
+        <source>The next %1 times within %2 days from %3. Cyclic and long timers are told as if they began to count then, and conditions as if they held.</source>
+        <translation>Las próximas %1 veces en %2 días desde %3. Los temporizadores cíclicos y largos se muestran como si empezaran a contar entonces, y las condiciones como si se cumplieran.</translation>
+    </message>
+    <message>
+        <source>Timer</source>
+        <translation>Temporizador</translation>
+    </message>
+    <message>
+        <source>When</source>
+        <translation>Cuándo</translation>
+    </message>
+    <message>
+        <source>If</source>
+        <translation>Si</translation>
+    </message>
+    <message>
+        <source>Runs</source>
+        <translation>Ejecuta</translation>
+    </message>
+    <message>
+        <source>Next times</source>
+        <translation>Próximas veces</translation>
+    </message>
+    <message>
+        <source>macro %1</source>
+        <translation>macro %1</translation>
+    </message>
+    <message>
+        <source>Not within %1 days</source>
+        <translation>No en %1 días</translation>
+    </message>
+    <message>
+        <source>every %1 s</source>
+        <translation>cada %1 s</translation>
+    </message>
+    <message>
+        <source>%1, from %2 to %3, %4</source>
+        <translation>%1, de %2 a %3, %4</translation>
+    </message>
+    <message>
+        <source>every day</source>
+        <translation>cada día</translation>
+    </message>
+    <message>
+        <source>every %1 days</source>
+        <translation>cada %1 días</translation>
+    </message>
+    <message>
+        <source>on %1</source>
+        <translation>los días %1</translation>
+    </message>
+    <message>
+        <source>on no day</source>
+        <translation>ningún día</translation>
+    </message>
+    <message>
+        <source>%1 at %2</source>
+        <translation>%1 a las %2</translation>
+    </message>
+    <message>
+        <source>last</source>
+        <translation>último</translation>
+    </message>
+    <message>
+        <source>Mo</source>
+        <translation>Lu</translation>
+    </message>
+    <message>
+        <source>Tu</source>
+        <translation>Ma</translation>
+    </message>
+    <message>
+        <source>We</source>
+        <translation>Mi</translation>
+    </message>
+    <message>
+        <source>Th</source>
+        <translation>Ju</translation>
+    </message>
+    <message>
+        <source>Fr</source>
+        <translation>Vi</translation>
+    </message>
+    <message>
+        <source>Sa</source>
+        <translation>Sá</translation>
+    </message>
+    <message>
+        <source>Su</source>
+        <translation>Do</translation>
+    </message>
+    <message>
+        <source>cyclic timer</source>
+        <translation>temporizador cíclico</translation>
+    </message>
+    <message>
+        <source>long timer</source>
+        <translation>temporizador largo</translation>
+    </message>
+    <message>
+        <source>weekly timer</source>
+        <translation>temporizador semanal</translation>
+    </message>
+    <message>
+        <source>monthly timer</source>
+        <translation>temporizador mensual</translation>
+    </message>
+    <message>
+        <source>the period of long timer %1 is above 24855 days</source>
+        <translation>el período del temporizador largo %1 supera los 24855 días</translation>
+    </message>
+    <message>
+        <source>shorten it</source>
+        <translation>acórtelo</translation>
+    </message>
+    <message>
+        <source>days of the month</source>
+        <translation>días del mes</translation>
+    </message>
+    <message>
         <source>New line</source>
         <translation>Línea nueva</translation>
     </message>
@@ -1721,6 +1857,44 @@
         <translation>%1 no tiene sentido aquí, donde lo tiene %2: corríjalo</translation>
     </message>
     <message>
+        <source>the timer is enabled, but its period is not above 0: give it one</source>
+        <translation>el temporizador está habilitado, pero su período no es mayor que 0: indique uno</translation>
+    </message>
+    <message>
+        <source>the timer is enabled, but on no day: choose days</source>
+        <translation>el temporizador está habilitado, pero ningún día: elija días</translation>
+    </message>
+    <message>
+        <source>%1 days do not fit a statement, and nothing can be sent: choose at most 24855</source>
+        <translation>%1 días no caben en una instrucción y no se puede enviar nada: elija 24855 como máximo</translation>
+    </message>
+    <message>
+        <source>the timer is enabled, but runs no action: choose one</source>
+        <translation>el temporizador está habilitado, pero no ejecuta ninguna acción: elija una</translation>
+    </message>
+    <message>
+        <source>no timer reads the channel: let one run action 70, or that of its group</source>
+        <translation>ningún temporizador lee el canal: haga que uno ejecute la acción 70 o la de su grupo</translation>
+    </message>
+    <message>
+        <source>days</source>
+        <translation>días</translation>
+    </message>
+    <message>
+        <source>actions</source>
+        <translation>acciones</translation>
+    </message>
+    <message>
+        <source>time of day</source>
+        <translation>hora</translation>
+    </message>
+    <message>
+        <source>days of the week</source>
+        <translation>días de la semana</translation>
+    </message>
+    <message>
+        <source>days of the month</source>
+        <translation>días del mes</translation>
         <source>the line is neither MACRO and a number up to 55 nor F and a number, with the command in one pair of braces: write it anew</source>
         <translation>la línea no es MACRO y un número hasta 55, ni F y un número, con el comando entre un par de llaves: escríbala de nuevo</translation>
     </message>

@@ -13,14 +13,9 @@ ActionButtons::ActionButtons(Form& form, const ControlNames& names, bool hasNorm
 }
 
 void ActionButtons::ShowCounts(const AlarmBlock& alarm) {
-  const auto count = [](const ActionList& list) {
-    int actions = 0;
-    for (int place = 0; place < kActionPlaces; ++place) actions += list[place] > 0 ? 1 : 0;
-    return actions;
-  };
-  BotonAlto.SetCount(count(alarm.ACTHI));
-  BotonBajo.SetCount(count(alarm.ACTLO));
-  if (BotonNormal) BotonNormal->SetCount(count(alarm.ACTNO));
+  BotonAlto.SetCount(CountActions(alarm.ACTHI));
+  BotonBajo.SetCount(CountActions(alarm.ACTLO));
+  if (BotonNormal) BotonNormal->SetCount(CountActions(alarm.ACTNO));
 }
 
 const std::string& ActionButtons::CaptionOf(ActionList AlarmBlock::*list) const {

@@ -12,7 +12,7 @@ AlarmPanel::AlarmPanel(Form& form, const ControlNames& names, AlarmShape shape,
       NotGPRS(form, notification_, names("NotGPRS"), "GPRS"),
       NotNone(form, notification_, names("NotNone"), "No enviar aviso"),
       TextoAlarma(form, names("TextoAlarma"), kAlarmTextLength),
-      validity_(form, names, "LabelInicio", "LabelFinal"),
+      validity_(form, names, {.start = "LabelInicio", .end = "LabelFinal", .areDisabled = true}),
       actions_(form, names, shape.hasNormal),
       thresholds_(form, names, numberForm, thresholds) {
   if (shape.hasFlag) flag_.emplace(form, names);

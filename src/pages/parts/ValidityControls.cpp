@@ -2,12 +2,12 @@
 
 namespace ostrel {
 
-ValidityControls::ValidityControls(Form& form, const ControlNames& names,
-                                   std::string_view startLabel, std::string_view endLabel)
-    : HorarioHabil(form, names("HorarioHabil"), "Siempre"),
-      labelStart_(form, names(startLabel), "Inicio:"),
+ValidityControls::ValidityControls(Form& form, const ControlNames& names, const TimeLabels& labels)
+    : labelsAreDisabled_(labels.areDisabled),
+      HorarioHabil(form, names("HorarioHabil"), "Siempre"),
+      labelStart_(form, names(labels.start), "Inicio:"),
       HoraInicio(form, names("HoraInicio")),
-      labelEnd_(form, names(endLabel), "Final:"),
+      labelEnd_(form, names(labels.end), "Final:"),
       HoraFinal(form, names("HoraFinal")),
       days_(form, names) {
   HorarioHabil.OnClick = [this] { ApplyHorarioHabil(); };
@@ -28,9 +28,10 @@ void ValidityControls::Save(ValidityRange& valid) const {
 }
 
 void ValidityControls::SetEnabled(bool enabled) {
-  for (Face* face :
-       {&HorarioHabil.face, &labelStart_.face, &HoraInicio.face, &labelEnd_.face, &HoraFinal.face})
+  for (Face* face : {&HorarioHabil.face, &HoraInicio.face, &HoraFinal.face})
     face->SetEnabled(enabled);
+  if (labelsAreDisabled_)
+    for (Label* label : {&labelStart_, &labelEnd_}) label->face.SetEnabled(enabled);
   days_.SetEnabled(enabled);
   if (enabled) ApplyHorarioHabil();
 }

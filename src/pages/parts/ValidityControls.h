@@ -10,9 +10,13 @@ namespace ostrel {
 /// The controls of a range of validity: at all times, or between two times of the day on some days.
 class ValidityControls {
  public:
-  /// Timers call the labels of the two times otherwise than alarms do.
-  ValidityControls(Form& form, const ControlNames& names, std::string_view startLabel,
-                   std::string_view endLabel);
+  /// The labels of the two times. Timers call them otherwise than alarms do, and never disable them.
+  struct TimeLabels {
+    std::string_view start, end;
+    bool areDisabled;
+  };
+
+  ValidityControls(Form& form, const ControlNames& names, const TimeLabels& labels);
 
   void Load(const ValidityRange& valid);
   void Save(ValidityRange& valid) const;
@@ -22,6 +26,7 @@ class ValidityControls {
  private:
   void ApplyHorarioHabil();
 
+  bool labelsAreDisabled_;
   CheckBox HorarioHabil;
   Label labelStart_;
   TimePicker HoraInicio;

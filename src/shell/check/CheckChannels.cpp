@@ -19,8 +19,6 @@ Finding AtField(const SectionMeta& section, int channel, std::string_view word, 
   return {SectionName(section, channel), std::string(word), std::move(sentence)};
 }
 
-bool IsOff(const ConfModbus& channel) { return channel.MULT == 0 && channel.MASCARA == 0; }
-
 // ---- Alarms of all kinds of channels
 
 constexpr float kTrifle = 1e-5F;
@@ -80,7 +78,8 @@ class SilentChannels {
     if (off_.contains({place.section, place.channel})) return "the channel is off";
     if (place.section != &ModbusChannels::kSection) return {};
     const ConfModbus& channel = conf_.Modbus[place.channel];
-    if (IsOff(channel)) return "the channel is off, having neither a multiplier nor a mask";
+    if (ModbusChannels::IsOff(channel))
+      return "the channel is off, having neither a multiplier nor a mask";
     if (conf_.ModbusBus.MASTER && channel.SLAVE == 0)
       return "the channel is never read, its slave address being 0";
     return {};
@@ -98,7 +97,8 @@ template <class Look>
 void EachModbusChannel(const Examined& file, const Look& look) {
   const Receiver receiver{file.Model(), kEveryFeature};
   for (int c = 0; c < ModbusChannels::Count(receiver); ++c)
-    if (const ConfModbus& channel = file.Conf().Modbus[c]; !IsOff(channel)) look(c, channel);
+    if (const ConfModbus& channel = file.Conf().Modbus[c]; !ModbusChannels::IsOff(channel))
+      look(c, channel);
 }
 
 constexpr int kMostSlaveAddress = 247;

@@ -251,7 +251,7 @@ std::string PlaceInFile(std::string_view section, std::string_view key) {
   return FoldText(WithoutBlanks(section)) + '\n' + FoldText(WithoutBlanks(key));
 }
 
-constexpr std::array<Rule, 42> kRules{{
+constexpr std::array<Rule, 46> kRules{{
     {"text-breaks-statement", Severity::Error,
      "a comma, a brace or a control character in a text that is sent", BrokenTexts},
     {"too-many-statements", Severity::Error, "more statements than an upload can number",
@@ -264,6 +264,8 @@ constexpr std::array<Rule, 42> kRules{{
     {"expansion-out-of-range", Severity::Error,
      "an expansion input in a mode, on a module or in a group that does not exist",
      ExpansionOutOfRange},
+    {"period-too-long", Severity::Error, "a long timer whose period does not fit its statement",
+     LongPeriods},
     {"macro-broken", Severity::Error, "a line of the macros that is none", BrokenMacros},
     {"macro-memory-full", Severity::Error, "more macros than a logger has room for",
      MacrosBeyondMemory},
@@ -290,6 +292,12 @@ constexpr std::array<Rule, 42> kRules{{
      WideHysteresis},
     {"alarm-of-silent-channel", Severity::Warning, "an alarm on a channel that is off or not read",
      AlarmsOfSilentChannels},
+    {"timer-never-runs", Severity::Warning, "an enabled timer without a period or a day",
+     TimersThatNeverRun},
+    {"timer-without-actions", Severity::Warning, "an enabled timer that runs no action",
+     TimersWithoutActions},
+    {"modbus-never-read", Severity::Warning, "a MODBUS channel that no timer reads",
+     ModbusNeverRead},
     {"macro-number-twice", Severity::Warning, "a number that two macros or equations have",
      RepeatedMacros},
     {"macro-not-sent", Severity::Warning, "a line of the macros that a logger does not get",

@@ -119,6 +119,12 @@ std::vector<Finding> SharedExpansionInputs(const Examined& file);
 std::vector<Finding> ExpansionOutOfRange(const Examined& file);
 std::vector<Finding> ExpansionWithoutInterface(const Examined& file);
 
+// The rules on timers.
+std::vector<Finding> LongPeriods(const Examined& file);
+std::vector<Finding> TimersThatNeverRun(const Examined& file);
+std::vector<Finding> TimersWithoutActions(const Examined& file);
+std::vector<Finding> ModbusNeverRead(const Examined& file);
+
 // The rules on numbers and codes.
 std::vector<Finding> NumbersBeyondLogger(const Examined& file);
 std::vector<Finding> UselessScales(const Examined& file);

@@ -52,6 +52,7 @@ struct CyclicTimers {
   static void Demonstrate(Demonstration& demo) {
     demo.SayAll({"CT0= 900,EQ= 0,ACT= 57 65",
                  "CT1= 60,START=8:00:00,STOP=20:00:00,WEEK=1111100,EQ= 1,ACT= 43"});
+    if (demo.Self().Traits().modbus > 0) demo.Say("CT2= 600,EQ= 0,ACT= 70");
   }
 
   static void Visit(auto& conf, auto& visit) {
