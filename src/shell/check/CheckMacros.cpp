@@ -7,7 +7,6 @@
 #include "blocks/GprsParameters.h"
 #include "blocks/MacroPool.h"
 #include "blocks/VoiceNumbers.h"
-#include "blocks/inputs/FlagAlarms.h"
 #include "shell/check/CheckRules.h"
 
 namespace ostrel {
@@ -152,7 +151,7 @@ std::vector<Finding> ConditionsWithoutEquation(const Examined& file) {
   EachSent(file, FieldSense::Condition, [&](const ConstField& field, int condition) {
     const int flag = condition - 1;
     // A flag that does not exist is told by another rule.
-    if (flag >= FlagAlarms::kChannels || pool.HasEquation(flag)) return;
+    if (flag >= kEquations || pool.HasEquation(flag)) return;
     found.push_back(
         {field.Section(),
          field.Key(),
