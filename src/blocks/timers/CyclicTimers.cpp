@@ -45,13 +45,4 @@ void CyclicTimers::Compose(const DeviceConf& conf, const Receiver&, int timer, S
   out.Add(statement.Num(",EQ=", record.EQ).Actions(",ACT=", record.ACT));
 }
 
-void CyclicTimers::AsSent(DeviceConf& read, const DeviceConf& sent, const Receiver&) {
-  for (int t = 0; t < kTimers; ++t) {
-    const ValidityRange& range = sent.CTimer[t].valid;
-    Bool16& isAlways = read.CTimer[t].valid.SIEMPRE;
-    if (isAlways && CheckSiempre(range.INICIO.seconds, range.FINAL.seconds, range.SEMANA))
-      isAlways = range.SIEMPRE;
-  }
-}
-
 }  // namespace ostrel

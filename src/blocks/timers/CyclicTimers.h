@@ -24,8 +24,6 @@ struct CyclicTimers {
 
   static int Count(const Receiver&) { return kTimers; }
   static void Compose(const DeviceConf& conf, const Receiver&, int timer, StatementList& out);
-  /// A logger has no mark for "always": a range of all times that was sent as one reads as that.
-  static void AsSent(DeviceConf& read, const DeviceConf& sent, const Receiver&);
 };
 
 }  // namespace ostrel
