@@ -294,8 +294,8 @@ TEST(Check, FindsEachMistakeOfABusByItsRule) {
 TEST(Check, FindsEachMistakeOfTimersByItsRule) {
   const std::string sound =
       "[General]\r\nVERSION=TAVRO\r\n[CTIMER 0]\r\nHABIL=True\r\nPERIOD= 60\r\nSIEMPRE=False\r\n"
-      "FINAL=1:00:00\r\nSEMANA= 1\r\nACT( 0)= 480\r\n[LTIMER 15]\r\nHABIL=True\r\nPERIOD= 24855\r\n"
-      "ACT( 7)= 481\r\n[WTIMER 1]\r\nHABIL=True\r\nSEMANA= 64\r\nACT( 0)= 482\r\n[MTIMER 2]\r\n"
+      "FINAL=1:00:00\r\nSEMANA= 1\r\nACT( 0)= 42\r\n[LTIMER 15]\r\nHABIL=True\r\nPERIOD= 24855\r\n"
+      "ACT( 7)= 43\r\n[WTIMER 1]\r\nHABIL=True\r\nSEMANA= 64\r\nACT( 0)= 79\r\n[MTIMER 2]\r\n"
       "HABIL=True\r\nMES= 1\r\nACT( 0)= 48\r\n[MTIMER 3]\r\nHABIL=False\r\nACT( 0)= 48";
   const std::string never = "timer-never-runs", idle = "timer-without-actions";
   for (const RuleCase& one : std::vector<RuleCase>{
@@ -306,9 +306,9 @@ TEST(Check, FindsEachMistakeOfTimersByItsRule) {
            {"SEMANA= 64", "SEMANA= 128", "", never},
            {"MES= 1", "MES= 0", "", never},
            {"MES= 1", "MES= 2147483648", "", ""},
-           {"ACT( 0)= 480", "ACT( 0)= 0", "", idle},
-           {"ACT( 7)= 481", "ACT( 7)=-1", "", idle},
-           {"ACT( 0)= 482", "ACT( 0)= 0", "", idle},
+           {"ACT( 0)= 42", "ACT( 0)= 0", "", idle},
+           {"ACT( 7)= 43", "ACT( 7)=-1", "", idle},
+           {"ACT( 0)= 79", "ACT( 0)= 0", "", idle},
            {"ACT( 0)= 48", "ACT( 0)= 0", "", idle},
            {"MES= 1\r\nACT( 0)= 48", "MES= 0", "", never},
            {"24855", "24856", "", "period-too-long", 1},
