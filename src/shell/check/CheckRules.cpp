@@ -361,6 +361,7 @@ Examined::Examined(const ModelConfiguration& configuration, std::optional<std::i
 }
 
 const std::string* Examined::Written(const ConstField& field) const {
+  if (written_.empty()) return nullptr;  // no file
   const auto found = written_.find(PlaceInFile(field.Section(), field.Key()));
   return found == written_.end() ? nullptr : found->second;
 }
