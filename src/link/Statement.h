@@ -52,8 +52,10 @@ class StatementList {
   void Add(const Statement& statement) { Add(statement.Done()); }
 
   /// Notes that a statement cannot be made, so that none may be sent. The first reason counts.
-  void Fail(LinkFault fault) {
+  /// `standIn` takes its place, so that a comparison still sees what the record holds.
+  void Fail(LinkFault fault, const Statement& standIn) {
     if (fault_.Ok()) fault_ = std::move(fault);
+    Add(standIn);
   }
 
   const std::vector<std::string>& All() const { return statements_; }

@@ -144,6 +144,7 @@ LinkHooks Configurator::MakeHooks() {
       .loadPages =
           [this] {
             hasOrigin_ = true;
+            lacking_.reset();
             ForEach(kLoadAfterDownload, &Page::LoadData);
           },
       .composed = [this] { session.KeepSent(); },

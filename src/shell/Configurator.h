@@ -20,6 +20,7 @@
 #include "pages/PageContext.h"
 #include "shell/LangForm.h"
 #include "shell/PWForm.h"
+#include "shell/Phrase.h"
 #include "shell/SessionDriver.h"
 #include "shell/StoredSettings.h"
 #include "shell/TargetSelect.h"
@@ -95,6 +96,9 @@ class Configurator {
   void ShowConfiguration(const DeviceConf& shown);
   /// Whether the present configuration comes from a file or a logger.
   bool HasOrigin() const { return hasOrigin_; }
+  /// What the file that the configuration was opened from lacks; nothing when it was whole, or when
+  /// a logger has been read since.
+  const std::optional<Phrase>& Lacking() const { return lacking_; }
   /// Asks whether a file of another model may change the model while a session stands. Set by a
   /// face; without one nobody is asked.
   std::function<bool(const std::string& model)> OnOtherModel;
@@ -146,7 +150,10 @@ class Configurator {
   ConfiguratorOptions options_;
   std::string mainCaption_;
   bool carrierBoxUp_ = false;
+  std::optional<Phrase> WhatLacks() const;
+
   bool hasOrigin_ = false;
+  std::optional<Phrase> lacking_;
   /// The language of this run is not the one to store: the choice of a first run waits for the
   /// next.
   bool keepsStoredLanguage_ = false;

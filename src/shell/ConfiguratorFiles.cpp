@@ -5,6 +5,7 @@
 #include "shell/ConfigurationFile.h"
 #include "shell/Configurator.h"
 #include "shell/ForeignKeys.h"
+#include "shell/WriteDoubts.h"
 #include "store/IniClass.h"
 
 // What the configurator does with its file.
@@ -66,7 +67,19 @@ RestoreResult Configurator::RestoreConf() {
   for (const FileTurn& turn : kFileOrder)
     if (Page* page = PageOf(turn.page); page && turn.takesPart(profile)) page->RestoreConf();
   hasOrigin_ = true;
+  lacking_ = WhatLacks();
   return RestoreResult::Loaded;
+}
+
+std::optional<Phrase> Configurator::WhatLacks() const {
+  IniClass document(platform_.files);
+  document.OpenINI(ConfFilePath, false);
+  const auto translate = [this](std::string_view text) { return context.Translate(text); };
+  for (const auto& [rule, finding] :
+       ErrorsIn({profile, conf}, {}, &document, platform_.files, translate))
+    if (rule->id == kMissingSections || rule->id == kMissingKeys)
+      return Phrase{"the file that was opened is not whole: %1", {FindingText(finding)}};
+  return {};
 }
 
 RestoreResult Configurator::OpenFile(const std::string& path) {

@@ -97,7 +97,8 @@ FaultWords LinkWords(const SessionFault& fault, const std::string& port) {
                       "statement %1 holds a control character and cannot be sent"),
               {"type that text anew"}};
     case Kind::PeriodTooLong:
-      return {{"the period of long timer %1 is above 24855 days", {number}}, {"shorten it"}};
+      return {{"the period of long timer %1 does not fit a statement", {number}},
+              {"choose at most 24855 days"}};
     case Kind::LineHeld:
       return {{"the line at %1 was held", {port}},
               {"check that the logger is switched on and that the cable has RTS and CTS"}};

@@ -44,6 +44,7 @@ std::vector<Phrase> DoubtsOfWriting(const Configurator& configurator) {
     doubts.push_back({"the last reading of the logger failed"});
   else if (!configurator.HasOrigin())
     doubts.push_back({"nothing has been read from a logger or opened since the program started"});
+  if (configurator.Lacking()) doubts.push_back(*configurator.Lacking());
   if (IsEmpty(configurator)) doubts.push_back({"the configuration on the pages is empty"});
   const auto errors =
       ErrorsIn({configurator.profile, configurator.conf}, configurator.info.Features, nullptr,

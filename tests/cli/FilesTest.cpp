@@ -306,6 +306,8 @@ TEST(Check, FindsEachMistakeOfTimersByItsRule) {
            {"SEMANA= 64", "SEMANA= 128", "", never},
            {"MES= 1", "MES= 0", "", never},
            {"MES= 1", "MES= 2147483648", "", ""},
+           {"MES= 1", "MES= 4294967296", "", "number-out-of-range", 1},
+           {"MES= 1", "MES= 3.5", "", "number-out-of-range", 1},
            {"ACT( 0)= 42", "ACT( 0)= 0", "", idle},
            {"ACT( 7)= 43", "ACT( 7)=-1", "", idle},
            {"ACT( 0)= 50", "ACT( 0)= 0", "", idle},

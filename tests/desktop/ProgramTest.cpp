@@ -51,7 +51,10 @@ TEST(Program, InstallsAndRunsFromAnEmptyFolder) {
 
 TEST(Program, NamesWhatIsWrongWithItsArguments) {
   const QTemporaryDir folder;
-  const QString picture = folder.filePath("page.png");
+  const QString picture = folder.filePath("page.png"), other = folder.filePath("other.txt");
+  QFile text(other);
+  ASSERT_TRUE(text.open(QIODevice::WriteOnly) && text.write("a text") > 0);
+  text.close();
   const struct {
     QStringList arguments;
     int code;
@@ -66,7 +69,7 @@ TEST(Program, NamesWhatIsWrongWithItsArguments) {
       {{"--screenshot", picture, "--scheme", "pink"}, 2, "--scheme is light, dark or system"},
       {{"--screenshot", picture, "--page", "Nothing"}, 1, "no page Nothing for the Ostrel KA1"},
       {{"--screenshot", picture, folder.filePath("none.ocf")}, 1, "cannot read "},
-      {{"--screenshot", picture, QCoreApplication::applicationFilePath()}, 1, "no configuration"},
+      {{"--screenshot", picture, other}, 1, "no configuration"},
       {{"--screenshot", folder.filePath("none/page.png")}, 1, "cannot write "},
       {{"a.ocf", "b.ocf"}, 2, "one FILE at the most"},
   };

@@ -132,6 +132,21 @@ TEST_F(Writing, DoubtsWhatHasNoOriginOrCannotBeHeld) {
   EXPECT_THAT(Doubts(), ElementsAre("the last reading of the logger failed"));
 }
 
+TEST_F(Writing, DoubtsAFileThatIsNotWhole) {
+  Begin("Ostrel VR200");
+  program.conf.General.DNAME = "Pozo";
+  program.ShowConfiguration(program.conf);
+  ASSERT_TRUE(program.SaveTo("/whole.ocf")->Ok());
+  std::string& text = world.files.contents["/whole.ocf"];
+  EXPECT_EQ(program.OpenFile("/whole.ocf"), RestoreResult::Loaded);
+  EXPECT_THAT(Doubts(), IsEmpty());
+  text.resize(text.size() / 2);
+  EXPECT_EQ(program.OpenFile("/whole.ocf"), RestoreResult::Loaded);
+  EXPECT_THAT(Doubts(), ElementsAre("the file that was opened is not whole: %1"));
+  ASSERT_TRUE(program.session.Download());
+  EXPECT_THAT(Doubts(), IsEmpty());
+}
+
 TEST_F(Writing, ALoggerOfAnotherModelIsDoubted) {
   std::vector<std::string> told;
   program.session.OnModelDoubt = [&](const Phrase& doubt) { told.push_back(Filled(doubt)); };

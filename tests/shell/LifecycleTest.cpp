@@ -160,6 +160,7 @@ TEST_F(Lifecycle, TheModelIsPickedInItsWindowUnlessASessionStands) {
 TEST_F(Lifecycle, TheShippedTableHoldsEveryText) {
   KnowEverything();
   const std::string shipped = world.files.contents[World::kLangFile];
+  EXPECT_TRUE(shipped.starts_with("{Espa\xF1ol}{English}")) << "languages stand in the first row";
   for (const char* model : {"Ostrel KA1", "Tavro BQ", "Tavro BP", "Ostrel S100"}) {
     world.Stored("Target") = model;
     Configurator program(world.platform, world.Options(true));

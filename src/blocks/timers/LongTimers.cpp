@@ -37,12 +37,13 @@ const std::array<LineSection, 2> LongTimers::kLines{{
 void LongTimers::Compose(const DeviceConf& conf, const Receiver&, int timer, StatementList& out) {
   const ConfLTimer& record = conf.LTimer[timer];
   if (!record.HABIL) return out.Add(Statement("-LT").Digits(timer));
+  Statement statement("LT");
+  statement.Digits(timer).Text("=");
   if (std::abs(int{record.PERIOD}) > kMostDays)
-    return out.Fail({LinkFault::Kind::PeriodTooLong, timer});
-  out.Add(Statement("LT")
-              .Digits(timer)
-              .Num("=", record.PERIOD * kSecondsPerDay)
-              .Actions(",ACT=", record.ACT));
+    return out.Fail(
+        {LinkFault::Kind::PeriodTooLong, timer},
+        statement.Num("", 1.0 * record.PERIOD * kSecondsPerDay).Actions(",ACT=", record.ACT));
+  out.Add(statement.Num("", record.PERIOD * kSecondsPerDay).Actions(",ACT=", record.ACT));
 }
 
 }  // namespace ostrel

@@ -1,5 +1,6 @@
 #include "blocks/FileKeys.h"
 #include "cli/commands/Commands.h"
+#include "cli/commands/OnlineCommand.h"
 #include "shell/schedule/ScheduleWords.h"
 
 namespace ostrel::cli {
@@ -77,11 +78,12 @@ ExitCode RunSchedule(CommandContext& context, const ScheduleOptions& options) {
   if (!configuration) return ExitCode::BadFile;
   const auto& [profile, conf] = *configuration;
   const DateTime from = ReadDateTime(options.from).value_or(context.platform.clock.LocalNow());
-  const Schedule schedule =
-      MakeSchedule(conf, {profile, context.options.features.value_or(kEveryFeature)}, from);
-  if (schedule.timers.empty()) context.console.Note(options.file + ": no timer is enabled");
-  return context.Show({[&] { return ScheduleJson(options, profile, schedule); },
-                       [&](std::ostream& out) { Print(out, context, profile, schedule); }});
+  return WithFeatures(context, options.file, [&](std::optional<std::int32_t> features) {
+    const Schedule schedule = MakeSchedule(conf, {profile, features.value_or(kEveryFeature)}, from);
+    if (schedule.timers.empty()) context.console.Note(options.file + ": no timer is enabled");
+    return context.Show({[&] { return ScheduleJson(options, profile, schedule); },
+                         [&](std::ostream& out) { Print(out, context, profile, schedule); }});
+  });
 }
 
 }  // namespace

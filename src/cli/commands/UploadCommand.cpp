@@ -139,6 +139,11 @@ ExitCode LoadFile(CommandContext& context, Configurator& configurator,
   const std::string model = configurator.profile.TargetName;
   const auto read = context.OpenFile(file);
   if (!read) return ExitCode::BadFile;
+  // What cannot be made into statements no force can send.
+  std::vector<std::string> statements;
+  const ExitCode made =
+      MakeStatements(context, read->conf, {read->profile, kEveryFeature}, statements);
+  if (made != ExitCode::Done) return made;
   const ExitCode refused = Refuse(context, options, DoubtsOfFile(context, options, *read));
   if (refused != ExitCode::Done) return refused;
   const std::string& fileModel = read->profile.TargetName;

@@ -13,6 +13,7 @@
 #include "desktop/forms/Words.h"
 #include "desktop/program/Language.h"
 #include "desktop/window/CompareDialog.h"
+#include "desktop/window/FaultText.h"
 #include "desktop/window/MainWindow.h"
 #include "desktop/window/ScheduleDialog.h"
 #include "platform/Clock.h"
@@ -140,7 +141,13 @@ void MainWindow::TellMissing(const std::string& path) {
 
 void MainWindow::Opened() {
   ForgetSuccess();
-  if (FileDifferences()) WorkOn(configurator_.ConfFilePath);
+  if (const auto& lacking = configurator_.Lacking()) {
+    // Saving would make a cut file look whole: it goes to a file that the operator names.
+    shownFile_.clear();
+    Tell(SentenceOf(*lacking));
+  } else if (FileDifferences()) {
+    WorkOn(configurator_.ConfFilePath);
+  }
   // The file may be of a model that has not the channel in front.
   if (!tree_->Has(shownNode_)) GoTo("General");
 }

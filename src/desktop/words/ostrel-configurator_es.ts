@@ -897,6 +897,10 @@
         <translation>no se ha leído ni abierto nada desde que arrancó el programa</translation>
     </message>
     <message>
+        <source>the file that was opened is not whole: %1</source>
+        <translation>el archivo que se abrió no está completo: %1</translation>
+    </message>
+    <message>
         <source>the configuration on the pages is empty</source>
         <translation>la configuración de las páginas está vacía</translation>
     </message>
@@ -1029,12 +1033,16 @@
         <translation>temporizador mensual</translation>
     </message>
     <message>
-        <source>the period of long timer %1 is above 24855 days</source>
-        <translation>el período del temporizador largo %1 supera los 24855 días</translation>
+        <source>the period of long timer %1 does not fit a statement</source>
+        <translation>el período del temporizador largo %1 no cabe en una orden</translation>
     </message>
     <message>
-        <source>shorten it</source>
-        <translation>acórtelo</translation>
+        <source>choose at most 24855 days</source>
+        <translation>elija como mucho 24855 días</translation>
+    </message>
+    <message>
+        <source>the days of a month are no whole number from 0 to 4294967295: choose the days anew</source>
+        <translation>los días del mes no son un número entero de 0 a 4294967295: elija los días de nuevo</translation>
     </message>
     <message>
         <source>days of the month</source>

@@ -62,6 +62,12 @@ bool IsNumberSent(const Examined& file, std::size_t index) {
   return file.IsSent(index, &kNone32);
 }
 
+/// Whether a mask has bits for the days of a month and its last one, and nothing else.
+bool IsMonth(const FieldView& field) {
+  const double mask = *std::get<const double*>(field);
+  return mask >= 0 && mask < std::ldexp(1.0, 32) && mask == std::floor(mask);
+}
+
 std::string RangeText(const FieldMeta& meta) {
   const SensibleRange open;
   std::string text = meta.range.least == open.least
@@ -116,6 +122,10 @@ std::vector<Finding> UnknownInterfaces(const Examined& file) {
 std::vector<Finding> NumbersBeyondLogger(const Examined& file) {
   std::vector<Finding> found;
   for (const ConstField& field : file.Fields()) {
+    if (field.meta.sense == FieldSense::Month && !IsMonth(field.value))
+      found.push_back({field.Section(), field.Key(),
+                       "the days of a month are no whole number from 0 to 4294967295: choose the "
+                       "days anew"});
     const auto number = NumberOf(field.value);
     if (!number) continue;
     if (field.meta.sense == FieldSense::Condition &&

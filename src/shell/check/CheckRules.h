@@ -76,6 +76,10 @@ struct Rule {
   std::vector<Finding> (*examine)(const Examined& file);
 };
 
+// The ids of the rules on what a cut file lacks.
+inline constexpr std::string_view kMissingSections = "section-missing";
+inline constexpr std::string_view kMissingKeys = "key-missing";
+
 /// All rules, errors first.
 std::span<const Rule> Rules();
 

@@ -72,7 +72,8 @@ class DayLines {
   explicit DayLines(const Say& say) : say_(say) {}
 
   void Add(const DateTime& moment, const std::string& behind) {
-    const std::string date = DateTimeText(moment).substr(0, kDateLength);
+    const std::string text = DateTimeText(moment);
+    const std::string date = text.substr(0, text.find(' '));
     const std::string time =
         TimeText({moment.hour * 3600 + moment.minute * 60 + moment.second}) + behind;
     if (date == date_) {
@@ -86,8 +87,6 @@ class DayLines {
   std::vector<std::string> Take() { return std::move(lines_); }
 
  private:
-  static constexpr std::size_t kDateLength = 10;
-
   const Say& say_;
   std::string date_;
   std::vector<std::string> lines_;
