@@ -110,6 +110,7 @@ TEST(Passwords, AreToldOnlyWhenAskedFor) {
   world.Logger().SetConf(held);
   world.HaveFile("/a.ocf");
   EXPECT_THAT(world.files.contents["/a.ocf"], HasSubstr("APN_PASS=Secreto1")) << "as the format is";
+  EXPECT_EQ(world.files.modes["/a.ocf"], 0600);
   world.files.contents["/b.ocf"] = world.files.contents["/a.ocf"];
   world.SetKey("/b.ocf", "GPRS", "FTP_PASS", "Secreto3");
   for (const auto& [command, code] :
@@ -135,6 +136,20 @@ TEST(Passwords, AreToldOnlyWhenAskedFor) {
   }
   world.Run("diff port /b.ocf --port sim:VR200 --trace /trace --secrets");
   EXPECT_THAT(world.files.contents["/trace"], HasSubstr("GPRS,telemetria.example,Secreto1"));
+}
+
+TEST(Passwords, MakeAFileThatStandsItsOwnersAloneWithTheFirst) {
+  World world;
+  world.files.contents["/a.ocf"] = "[GPRS]\r\nAPN_PASS=";
+  for (const auto& [password, mode] : {std::pair("", 0644), {"Secreto1", 0600}, {"Otra", 0644}}) {
+    sim::Configuration held = world.Logger().Conf();
+    held.gprs.apnPassword = password;
+    held.gprs.ftpPassword = "";
+    world.Logger().SetConf(held);
+    world.files.modes["/a.ocf"] = 0644;
+    EXPECT_EQ(world.Run("download /a.ocf --port sim:VR200 --yes"), 0) << world.err;
+    EXPECT_EQ(world.files.modes["/a.ocf"], mode) << password;
+  }
 }
 
 }  // namespace
