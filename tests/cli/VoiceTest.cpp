@@ -66,7 +66,29 @@ TEST(Voice, RefusesWhatIsNoListOrNoMacro) {
     EXPECT_EQ(world.Voice("write /list.txt --macro " + std::string(macro)), 2) << macro;
   EXPECT_EQ(world.Run("voice"), 2);
   EXPECT_EQ(world.Run("voice read"), 2) << "no port";
+  const std::string start = "[General]\r\nVERSION=TAVRO\r\n";
+  std::string many;
+  for (int place = 0; place <= 250; ++place) many += "TEL " + std::to_string(place) + "=7\r\n";
+  for (const auto& [rest, why] : std::vector<std::pair<std::string, std::string>>{
+           {"", "it chooses no macro for voice calls: --macro does"},
+           {"[AUT_VOZ]\r\nMACRO= 77", "MACRO: voice calls start macros 0 to 39"},
+           {"[AUT_VOZ]\r\nMACRO= 1\r\nTEL 3=abc,1", "TEL 3: abc,1 is no telephone number"},
+           {"[AUT_VOZ]\r\nMACRO= 1\r\n" + many, "a list has 250 numbers at the most"}}) {
+    world.files.contents["/a.ocf"] = start + rest;
+    EXPECT_EQ(world.Voice("write /a.ocf"), 5) << rest;
+    EXPECT_THAT(world.err, HasSubstr("/a.ocf: " + why));
+  }
   EXPECT_EQ(world.Held().numbers.size(), 3U);
+}
+
+TEST(Voice, ReplacesOnlyAListWithoutAQuestion) {
+  VoiceWorld world;
+  world.files.contents["/p.txt"] = "a letter\n";
+  EXPECT_EQ(world.Voice("read /p.txt"), 5);
+  EXPECT_EQ(world.files.contents["/p.txt"], "a letter\n");
+  EXPECT_EQ(world.Voice("read /p.txt --yes"), 0);
+  EXPECT_EQ(world.Voice("read /p.txt"), 0);
+  EXPECT_EQ(world.Voice("read /x.OCF"), 5);
 }
 
 TEST(Voice, ExitsWith4WhereItFails) {
@@ -81,6 +103,7 @@ TEST(Voice, ExitsWith4WhereItFails) {
   differing.files.contents["/list.txt"] = "801\n";
   EXPECT_EQ(differing.Voice("write /list.txt --macro none"), 4);
   EXPECT_THAT(differing.err, HasSubstr("check sum"));
+  EXPECT_THAT(differing.err, HasSubstr("list may be erased or incomplete: write it again"));
   World old([](sim::Model model) {
     sim::LoggerOptions options = sim::MakeDefaultOptions(model);
     options.features &= ~sim::kMissedCall;
