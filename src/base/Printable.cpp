@@ -26,6 +26,12 @@ std::string Printable(std::string_view text) {
   return shown;
 }
 
+std::string Excerpt(std::string_view text) {
+  constexpr std::size_t kMostCharacters = 30;
+  const std::string_view start = FirstCharacters(text, kMostCharacters);
+  return Printable(start) + (start.size() < text.size() ? "..." : "");
+}
+
 std::string_view UpToControl(std::string_view text) {
   const auto isControl = [](char c) {
     const auto octet = static_cast<unsigned char>(c);

@@ -75,10 +75,22 @@ ExitCode LoggerSession::Run(const std::function<LinkResult()>& dialogue) {
   return result && !interrupted_ ? ExitCode::Done : Failed(result);
 }
 
-ExitCode LoggerSession::Failed(const LinkResult& result) {
+ExitCode LoggerSession::WriteVoiceList(const ConfAutVoz& list) {
+  const LinkResult result = configurator_.session.WriteVoiceList(list);
+  if (result && !interrupted_) return ExitCode::Done;
+  SessionFault fault = FaultOf(result);
+  fault.writingVoiceList = !result;
+  return Fault(ExitCode::DialogueFailed, fault);
+}
+
+SessionFault LoggerSession::FaultOf(const LinkResult& result) const {
   SessionFault fault = configurator_.session.FaultDuring(SessionPhase::Open);
   fault.link = result.Fault();
-  return Fault(ExitCode::DialogueFailed, fault);
+  return fault;
+}
+
+ExitCode LoggerSession::Failed(const LinkResult& result) {
+  return Fault(ExitCode::DialogueFailed, FaultOf(result));
 }
 
 bool LoggerSession::Move(std::string_view label, bool (SessionDriver::*transfer)()) {

@@ -27,6 +27,8 @@ class LoggerSession {
   ExitCode Upload();
   /// Runs a short dialogue.
   ExitCode Run(const std::function<LinkResult()>& dialogue);
+  /// Writes the voice-call list, whose count and check sum are up to date.
+  ExitCode WriteVoiceList(const ConfAutVoz& list);
   /// Says why a short dialogue failed.
   ExitCode Failed(const LinkResult& result);
   void Close();
@@ -37,6 +39,7 @@ class LoggerSession {
  private:
   /// Runs a transfer with its progress shown.
   bool Move(std::string_view label, bool (SessionDriver::*transfer)());
+  SessionFault FaultOf(const LinkResult& result) const;
   ExitCode Fault(ExitCode code, const SessionFault& fault);
   ExitCode StartTrace();
   ExitCode TakeSimulatedState();

@@ -93,11 +93,11 @@ class Comms {
   std::vector<std::string> ComposeStatements() const { return upload_.Compose().All(); }
   /// Asks the logger who it is. Always false; the values stand in the records.
   bool ReadInfo();
-  /// What the last `ReadInfo` came to: no fault when it got the stream to its end.
   /// Reads lines of a former download into the model, over what it holds.
   void TakeKeptLines(std::span<const std::string> lines) { download_.TakeKept(lines); }
   /// The logger's own lines of the last download, as messages.
   const std::vector<std::string>& DownloadedLines() const { return download_.Lines(); }
+  /// What the last `ReadInfo` came to: no fault when it got the stream to its end.
   const LinkFault& InfoFault() const { return infoFault_; }
   /// Brings the logger's clock into `DeviceClock`, which stays as it was on failure.
   LinkResult ReadDeviceRTC();

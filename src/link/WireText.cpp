@@ -70,10 +70,17 @@ std::string MaskCode(std::string_view text) {
 }
 
 std::string MaskPasswords(std::string_view text) {
-  for (const std::string_view statement : kPasswordStatements)
-    if (const std::size_t at = text.find(statement); at != std::string_view::npos)
-      return std::string(text.substr(0, at + statement.size())).append(kMask);
+  // What comes first counts: a field of the line may hold the words of a statement, and the other
+  // way round.
   const std::size_t line = FindPasswordLine(text);
+  std::size_t first = line;
+  std::size_t passwordAt = 0;
+  for (const std::string_view statement : kPasswordStatements)
+    if (const std::size_t at = text.find(statement); at < first) {
+      first = at;
+      passwordAt = at + statement.size();
+    }
+  if (passwordAt > 0) return std::string(text.substr(0, passwordAt)).append(kMask);
   if (line == std::string_view::npos) return std::string(text);
   return std::string(text.substr(0, line)) + MaskFields(text.substr(line));
 }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "base/Printable.h"
 #include "base/Scope.h"
 #include "model/Assign.h"
 #include "pages/parts/Edits.h"
@@ -34,8 +35,8 @@ std::string AddedText(const PageContext& context, std::size_t added,
   if (refused.empty()) return text;
   text += "\n" + context.Translate("Numeros rechazados:") + NumText(refused.size());
   for (std::size_t i = 0; i < std::min(refused.size(), kRefusedNamed); ++i)
-    text += "\n" + context.Translate("Linea") + NumText(refused[i].line) + ": " + refused[i].text +
-            " - " + context.Translate(ReasonOf(refused[i].fault));
+    text += "\n" + context.Translate("Linea") + NumText(refused[i].line) + ": " +
+            Excerpt(refused[i].text) + " - " + context.Translate(ReasonOf(refused[i].fault));
   if (refused.size() > kRefusedNamed) text += "\n...";
   return text;
 }
@@ -88,7 +89,8 @@ void VoiceListControls::LoadText() {
 void VoiceListControls::LoadData() {
   const ConfAutVoz& list = context_.conf.AutVoz;
   Show(NumbersOf(list));
-  PNMacro.SetPosition(list.MACRO + 1);
+  const bool isMacro = list.MACRO >= 0 && list.MACRO < kVoiceMacros;
+  PNMacro.SetPosition(isMacro ? list.MACRO + 1 : 0);  // no other can be chosen
   ACKCheck.SetChecked(bool(list.SEND_ACK));
 }
 
@@ -198,10 +200,14 @@ void VoiceListControls::Write() {
 }
 
 void VoiceListControls::Read() {
+  Save(context_.conf);
   const Lent reading(isReading_, true);
   RunDialogue("Leyendo...", "Lista leida con exito", [this] {
-    ConfAutVoz list = context_.conf.AutVoz;
+    const ConfAutVoz before = context_.conf.AutVoz;
+    ConfAutVoz list = before;
     const bool isRead = context_.readVoiceList(list);
+    // Nothing here commits meanwhile: another list is that of a file opened since.
+    if (!(context_.conf.AutVoz == before)) return false;
     context_.conf.AutVoz = list;  // of a list that failed, too, what has come
     if (isRead) LoadData();
     return isRead;

@@ -29,14 +29,15 @@ std::optional<std::string> Files::Read(const std::string& path) {
 }
 
 FileResult SaveWhole(Files& files, const std::string& path, std::string_view octets,
-                     Replacing replacing) {
+                     Replacing replacing, Readers readers) {
   if (replacing == Replacing::Unprotected)
     if (FileResult may = files.MayReplace(path); !may.Ok()) return may;
   const std::string target = files.Resolve(path);
   const std::string temporary = files.TemporaryBeside(target);
+  const bool keepsMode = readers == Readers::AsBefore && files.Exists(target);
   return ByTemporary(
       files, temporary, octets,
-      [&] { return files.Exists(target) ? files.CopyMode(target, temporary) : FileResult{}; },
+      [&] { return keepsMode ? files.CopyMode(target, temporary) : files.Protect(temporary); },
       [&] { return files.Rename(temporary, target); });
 }
 

@@ -65,12 +65,16 @@ class Files {
 /// Whether a file may be replaced that `Files::MayReplace` speaks against.
 enum class Replacing { Unprotected, Any };
 
+/// Who may read a file that is replaced: who could before, or from now on its owner alone.
+enum class Readers { AsBefore, OwnerAlone };
+
 /// Saves so that after any failure the old or the new file stands whole: writes a temporary file
 /// beside the target, syncs it and renames it over. Follows a symbolic link at the target, and
-/// keeps the permissions of what it replaces. After a failure no temporary file is left where
-/// removing it works.
+/// keeps the permissions of what it replaces, unless told otherwise; a new file is its owner's
+/// alone. After a failure no temporary file is left where removing it works.
 FileResult SaveWhole(Files& files, const std::string& path, std::string_view octets,
-                     Replacing replacing = Replacing::Unprotected);
+                     Replacing replacing = Replacing::Unprotected,
+                     Readers readers = Readers::AsBefore);
 
 /// Saves likewise at a name at which nothing may stand, readable by the owner alone.
 FileResult SaveNew(Files& files, const std::string& path, std::string_view octets);

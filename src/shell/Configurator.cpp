@@ -129,7 +129,7 @@ void Configurator::ConnectPages() {
     return identity;
   };
   context.readVoiceList = [this](ConfAutVoz& list) { return comms.ReadAutVozList(list); };
-  context.writeVoiceList = [this](const ConfAutVoz& list) { return comms.WriteAutVoz(list); };
+  context.writeVoiceList = [this](const ConfAutVoz& list) { return session.WriteVoiceList(list); };
 }
 
 LinkHooks Configurator::MakeHooks() {

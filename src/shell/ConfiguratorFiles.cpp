@@ -28,6 +28,19 @@ class Hourglass {
   Form& form_;
 };
 
+/// A file that gets its first password is from then on its owner's alone. One that held a password
+/// before is read by whom its owner let read it.
+Readers ReadersOf(const IniClass& document, IniTool& former, const std::string& path) {
+  bool holds = false;
+  bool held = false;
+  for (const char* key : {"APN_PASS", "FTP_PASS"}) {
+    const std::string* password = document.Find("GPRS", key);
+    holds |= password && !password->empty();
+    held |= !former.ProfileRead("GPRS", key, path).empty();
+  }
+  return holds && !held ? Readers::OwnerAlone : Readers::AsBefore;
+}
+
 }  // namespace
 
 FileResult Configurator::SaveConf(Replacing replacing) {
@@ -37,7 +50,9 @@ FileResult Configurator::SaveConf(Replacing replacing) {
   document.WriteKey(kStampSection, kStampKey, profile.TargetType);
   for (const FileTurn& turn : kFileOrder)
     if (Page* page = PageOf(turn.page); page && turn.takesPart(profile)) page->SaveConf(document);
-  FileResult result = document.SaveINI(ConfFilePath, replacing);
+  iniTool.Forget();
+  FileResult result =
+      document.SaveINI(ConfFilePath, replacing, ReadersOf(document, iniTool, ConfFilePath));
   iniTool.Forget();
   return result;
 }

@@ -116,6 +116,8 @@ FaultWords LinkWords(const SessionFault& fault, const std::string& port) {
 }
 
 Phrase Outcome(const SessionFault& fault) {
+  if (fault.writingVoiceList)
+    return {"the logger's voice-call list may be erased or incomplete: write it again"};
   if (fault.unverified)
     return {"the logger has taken the new configuration over, which is not verified"};
   switch (fault.during) {
@@ -123,10 +125,13 @@ Phrase Outcome(const SessionFault& fault) {
       if (fault.allSent)
         return {"whether the logger has taken the configuration over is not known: read it back"};
       return {"the logger's former configuration stays in force"};
+    case SessionPhase::Opening:
+      if (!fault.brokenOff) return {};
+      [[fallthrough]];
     case SessionPhase::Reading:
       return {"the logger's configuration is unchanged"};
     default:
-      return fault.brokenOff ? Phrase{"the logger's configuration is unchanged"} : Phrase{};
+      return {};
   }
 }
 

@@ -34,8 +34,8 @@ class SafetyCopies {
   SafetyCopies(Files& files, const Clock& clock, const std::string& dataFolder)
       : files_(files), clock_(clock), folder_(dataFolder + "/backups") {}
 
-  /// Keeps a configuration. A copy that stands is never
-  /// overwritten, whoever makes one at the same moment.
+  /// Keeps a configuration. A copy that stands is never overwritten, whoever makes one at the same
+  /// moment.
   Kept Keep(const Held& held);
   /// A copy that stands.
   struct Copy {

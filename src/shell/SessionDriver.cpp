@@ -232,6 +232,11 @@ bool SessionDriver::Transfer(SessionPhase kind, std::string_view status, std::st
   return end.done;
 }
 
+LinkResult SessionDriver::WriteVoiceList(const ConfAutVoz& list) {
+  const Lent writing(writesVoiceList_, true);
+  return comms_.WriteAutVoz(list);
+}
+
 bool SessionDriver::ReadOrPutBack() {
   const DeviceConf before = context_.conf;
   lastReadFailed_ = true;

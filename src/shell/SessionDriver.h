@@ -52,6 +52,10 @@ class SessionDriver {
   bool Download();
   /// Uploads the configuration, likewise.
   bool Upload();
+  /// Writes the voice-call list, whose count and check sum are up to date.
+  LinkResult WriteVoiceList(const ConfAutVoz& list);
+  /// Whether that is under way: broken off, it leaves a logger without a whole list.
+  bool WritesVoiceList() const { return writesVoiceList_; }
   /// Asks for a transfer from wherever the operator is: a click on its button, which the next tick
   /// serves even when the general page is not in front.
   void AskFor(SessionPhase kind);
@@ -138,6 +142,7 @@ class SessionDriver {
   bool brokenOff_ = false;
   CodeAnswer code_ = CodeAnswer::NotAsked;
   bool lastReadFailed_ = false;
+  bool writesVoiceList_ = false;
   std::string greeting_;              ///< of the logger that answers
   std::vector<std::string> fitting_;  ///< models that have all that it told of; empty: not known
   DeviceConf sent_;                   ///< what the last attempt of an upload sends

@@ -25,6 +25,7 @@ struct SessionFault {
   bool brokenOff = false;   ///< by the operator
   bool allSent = false;     ///< an upload had nothing left to send but its end
   bool unverified = false;  ///< an earlier upload of the session was taken over, not yet read back
+  bool writingVoiceList = false;  ///< which begins with erasing the one that the logger holds
   CodeAnswer code = CodeAnswer::NotAsked;
 };
 

@@ -126,8 +126,8 @@ std::string IniClass::OutputINI() const {
   return text;
 }
 
-FileResult IniClass::SaveINI(const std::string& path, Replacing replacing) const {
-  return SaveWhole(files_, path, ToCodePage(OutputINI()), replacing);
+FileResult IniClass::SaveINI(const std::string& path, Replacing replacing, Readers readers) const {
+  return SaveWhole(files_, path, ToCodePage(OutputINI()), replacing, readers);
 }
 
 IniClass::KeyTable& IniClass::TableOf(std::string_view section) {

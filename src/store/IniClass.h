@@ -50,7 +50,8 @@ class IniClass {
   std::string OutputINI() const;
   /// Replaces the file by the document; the old one stands whole after a failure. Whoever saves
   /// without a word may ignore the result.
-  FileResult SaveINI(const std::string& path, Replacing replacing = Replacing::Unprotected) const;
+  FileResult SaveINI(const std::string& path, Replacing replacing = Replacing::Unprotected,
+                     Readers readers = Readers::AsBefore) const;
   /// The path of the file last opened with success.
   const std::string& Path() const { return path_; }
 

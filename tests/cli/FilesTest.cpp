@@ -361,7 +361,7 @@ TEST(Check, FindsEachMistakeOfMacrosAndGprsByItsRule) {
            {"MACRO= 38", "MACRO= 37", "", "voice-macro-missing"},
            {"MACRO= 38", "MACRO= 40", "", "voice-macro-missing"},
            {"MACRO= 38", "MACRO=-1", "", ""},
-           {"MACRO= 38\r\n", "", "", ""},
+           {"MACRO= 38\r\n", "", "", "voice-macro-missing"},
            {"APN_SERVER=a", "APN_SERVER=", "", "gprs-without-apn"},
            {"APN_SERVER=a\r\nSERVER_IP=1.2.3.4", "APN_SERVER=a\r\nSERVER_IP=0", "",
             "gprs-without-server"},

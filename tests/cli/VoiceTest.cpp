@@ -66,7 +66,29 @@ TEST(Voice, RefusesWhatIsNoListOrNoMacro) {
     EXPECT_EQ(world.Voice("write /list.txt --macro " + std::string(macro)), 2) << macro;
   EXPECT_EQ(world.Run("voice"), 2);
   EXPECT_EQ(world.Run("voice read"), 2) << "no port";
+  const std::string start = "[General]\r\nVERSION=TAVRO\r\n";
+  std::string many;
+  for (int place = 0; place <= 250; ++place) many += "TEL " + std::to_string(place) + "=7\r\n";
+  for (const auto& [rest, why] : std::vector<std::pair<std::string, std::string>>{
+           {"", "it chooses no macro for voice calls: --macro does"},
+           {"[AUT_VOZ]\r\nMACRO= 77", "MACRO: voice calls start macros 0 to 39"},
+           {"[AUT_VOZ]\r\nMACRO= 1\r\nTEL 3=abc,1", "TEL 3: abc,1 is no telephone number"},
+           {"[AUT_VOZ]\r\nMACRO= 1\r\n" + many, "a list has 250 numbers at the most"}}) {
+    world.files.contents["/a.ocf"] = start + rest;
+    EXPECT_EQ(world.Voice("write /a.ocf"), 5) << rest;
+    EXPECT_THAT(world.err, HasSubstr("/a.ocf: " + why));
+  }
   EXPECT_EQ(world.Held().numbers.size(), 3U);
+}
+
+TEST(Voice, ReplacesOnlyAListWithoutAQuestion) {
+  VoiceWorld world;
+  world.files.contents["/p.txt"] = "a letter\n";
+  EXPECT_EQ(world.Voice("read /p.txt"), 5);
+  EXPECT_EQ(world.files.contents["/p.txt"], "a letter\n");
+  EXPECT_EQ(world.Voice("read /p.txt --yes"), 0);
+  EXPECT_EQ(world.Voice("read /p.txt"), 0);
+  EXPECT_EQ(world.Voice("read /x.OCF"), 5);
 }
 
 TEST(Voice, ExitsWith4WhereItFails) {
@@ -81,6 +103,7 @@ TEST(Voice, ExitsWith4WhereItFails) {
   differing.files.contents["/list.txt"] = "801\n";
   EXPECT_EQ(differing.Voice("write /list.txt --macro none"), 4);
   EXPECT_THAT(differing.err, HasSubstr("check sum"));
+  EXPECT_THAT(differing.err, HasSubstr("list may be erased or incomplete: write it again"));
   World old([](sim::Model model) {
     sim::LoggerOptions options = sim::MakeDefaultOptions(model);
     options.features &= ~sim::kMissedCall;
@@ -110,6 +133,7 @@ TEST(Passwords, AreToldOnlyWhenAskedFor) {
   world.Logger().SetConf(held);
   world.HaveFile("/a.ocf");
   EXPECT_THAT(world.files.contents["/a.ocf"], HasSubstr("APN_PASS=Secreto1")) << "as the format is";
+  EXPECT_EQ(world.files.modes["/a.ocf"], 0600);
   world.files.contents["/b.ocf"] = world.files.contents["/a.ocf"];
   world.SetKey("/b.ocf", "GPRS", "FTP_PASS", "Secreto3");
   for (const auto& [command, code] :
@@ -135,6 +159,20 @@ TEST(Passwords, AreToldOnlyWhenAskedFor) {
   }
   world.Run("diff port /b.ocf --port sim:VR200 --trace /trace --secrets");
   EXPECT_THAT(world.files.contents["/trace"], HasSubstr("GPRS,telemetria.example,Secreto1"));
+}
+
+TEST(Passwords, MakeAFileThatStandsItsOwnersAloneWithTheFirst) {
+  World world;
+  world.files.contents["/a.ocf"] = "[GPRS]\r\nAPN_PASS=";
+  for (const auto& [password, mode] : {std::pair("", 0644), {"Secreto1", 0600}, {"Otra", 0644}}) {
+    sim::Configuration held = world.Logger().Conf();
+    held.gprs.apnPassword = password;
+    held.gprs.ftpPassword = "";
+    world.Logger().SetConf(held);
+    world.files.modes["/a.ocf"] = 0644;
+    EXPECT_EQ(world.Run("download /a.ocf --port sim:VR200 --yes"), 0) << world.err;
+    EXPECT_EQ(world.files.modes["/a.ocf"], mode) << password;
+  }
 }
 
 }  // namespace

@@ -161,6 +161,28 @@ TEST_F(OnEveryPage, QuestionsDoNotHoldATransfer) {
   EXPECT_EQ(Box()->text(), "Se corto la comunicacion") << "the question has no object any more";
 }
 
+TEST_F(OnEveryPage, LeavingAVoiceListThatIsBeingWrittenIsAsked) {
+  desktop.reset();
+  desktop = Make();
+  desktop->Start("");
+  Window().show();
+  port.SetPaced(true);
+  Connect(seconds(15));
+  SetNumbers(Core().conf.AutVoz, std::vector<std::string>(50, "600123456"));
+  Core().PageOf(PageId::Aut_Voz)->LoadData();
+  Window().GoTo("Aut_Voz");
+  loop.RunFor(seconds(2));
+  loop.After(seconds(2), "close", [&] {
+    EXPECT_TRUE(Core().session.WritesVoiceList());
+    EXPECT_FALSE(Window().close()) << "it asks";
+    ASSERT_NE(Box(), nullptr);
+    Box()->reject();
+  });
+  Core().PageOf(PageId::Aut_Voz)->GetForm().Get<Button>("WriteBut").Click();
+  EXPECT_FALSE(Core().session.WritesVoiceList());
+  EXPECT_EQ(logger->Conf().voice.numbers.size(), 50U) << "and goes on meanwhile";
+}
+
 TEST_F(OnEveryPage, LeavingAWritingBreaksItOff) {
   desktop.reset();
   desktop = Make();

@@ -59,6 +59,9 @@ TEST(MaskPasswords, LeavesNothingOfThem) {
            {"#BD042GPRS,apn,,user,1,2,3,0,ip,4,5,1", "#BD042GPRS,apn,,user,1,2,3,0,ip,4,5,1"},
            {"#BD042GPRS,apn,a,b,user,1,2,3,0,ip,4,5,1", "#BD042GPRS,****"},
            {"#45009+ALMD0=x,INDEX= 0,GPRS,EQ= 0", "#45009+ALMD0=x,INDEX= 0,GPRS,EQ= 0"},
+           {"#BD426GPRS,ip,topsecret,FTPPASS=,1,2,3,0,ip,4,5,1",
+            "#BD426GPRS,ip,****,FTPPASS=,1,2,3,0,ip,4,5,1"},
+           {"#45007APNPASS=BD426GPRS,FTPPASS=x", "#45007APNPASS=****"},
            {"#BD", "#BD"}})
     EXPECT_EQ(MaskPasswords(text), masked) << text;
 }

@@ -229,5 +229,29 @@ TEST_F(ReportPages, TheVoiceListTalksWithALoggerThatHasOne) {
   }
 }
 
+TEST_F(ReportPages, ReadingTheVoiceListKeepsWhatItDoesNotBring) {
+  Connected = true;
+  info.Features = 0x1000;
+  loop.RunFor(std::chrono::seconds(1));
+  voice.GetForm().Get<CheckBox>("ACKCheck").SetChecked(true);
+  context.readVoiceList = [&](ConfAutVoz& list) {
+    list.MACRO = 77;
+    return true;
+  };
+  voice.GetForm().Get<ComboBox>("PNMacro").SetPosition(8);
+  Click(voice, "ReadBut");
+  EXPECT_TRUE(bool(conf.AutVoz.SEND_ACK));
+  EXPECT_TRUE(voice.GetForm().Get<CheckBox>("ACKCheck").Checked());
+  EXPECT_EQ(voice.GetForm().Get<ComboBox>("PNMacro").Position(), 0) << "no macro to choose";
+  context.readVoiceList = [&](ConfAutVoz& list) {
+    SetNumbers(list, std::vector<std::string>{"801"});
+    SetNumbers(conf.AutVoz, std::vector<std::string>{"900"});  // of a file opened meanwhile
+    return true;
+  };
+  Click(voice, "ReadBut");
+  EXPECT_THAT(NumbersOf(conf.AutVoz), ElementsAre("900"));
+  EXPECT_EQ(Caption(voice, "StateLabel"), "Error!");
+}
+
 }  // namespace
 }  // namespace ostrel

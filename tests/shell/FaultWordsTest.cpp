@@ -54,6 +54,10 @@ TEST(FaultWords, TellPlaceTextRemedyAndHowTheLoggerStands) {
             "the logger wants an access code||"},
            {{.during = Opening, .link = {FaultKind::PortClosed, 0, ""}, .brokenOff = true},
             "interrupted before a session stood||" + unchanged},
+           {{.link = {FaultKind::PortClosed, 0, ""}, .brokenOff = true}, "interrupted||"},
+           {{.link = {FaultKind::PortClosed, 0, ""}, .brokenOff = true, .writingVoiceList = true},
+            "interrupted||the logger's voice-call list may be erased or incomplete: write it "
+            "again"},
            {{.during = Writing, .link = {FaultKind::PortClosed, 4, ""}, .brokenOff = true},
             "interrupted||" + former}})
     EXPECT_EQ(Told(fault), told);

@@ -1,3 +1,7 @@
+#include <algorithm>
+#include <cctype>
+
+#include "base/Printable.h"
 #include "blocks/Configuration.h"
 #include "cli/ConfFile.h"
 #include "cli/TransferLine.h"
@@ -11,6 +15,9 @@ namespace {
 
 constexpr std::string_view kNoMacroWord = "none";
 constexpr std::string_view kConfigurationEnd = ".ocf";
+constexpr std::string_view kTooMany = "a list has 250 numbers at the most";
+/// Refused lines that are told one by one.
+constexpr std::size_t kRefusedTold = 12;
 
 struct VoiceOptions {
   std::string file;
@@ -109,9 +116,21 @@ ExitCode ReadToConfiguration(CommandContext& context, const std::string& path) {
   });
 }
 
+/// Asks before a text is replaced that is no list of numbers.
+ExitCode MayReplaceText(CommandContext& context, const std::string& path) {
+  std::vector<std::string> numbers;
+  const auto text = context.platform.files.Read(path);
+  if (!text || AddNumbers(*text, numbers, Repeated::Taken).empty()) return ExitCode::Done;
+  const std::string other = path + " holds something else than a list of numbers";
+  if (context.dialogs.Confirm(other + ". Replace it?")) return ExitCode::Done;
+  return context.console.Fail(ExitCode::BadFile, other + ". --yes replaces it all the same");
+}
+
 ExitCode ReadToText(CommandContext& context, const std::string& path) {
   const ExitCode tried = TryToWrite(context, path);
   if (tried != ExitCode::Done) return tried;
+  const ExitCode replaced = MayReplaceText(context, path);
+  if (replaced != ExitCode::Done) return replaced;
   return ReadOnline(context, "", [&](const ConfAutVoz& list) {
     std::string text;
     for (const std::string& number : NumbersOf(list)) text += number + "\n";
@@ -119,10 +138,15 @@ ExitCode ReadToText(CommandContext& context, const std::string& path) {
   });
 }
 
+bool EndsAsConfiguration(std::string path) {
+  std::ranges::transform(path, path.begin(), [](unsigned char c) { return std::tolower(c); });
+  return path.ends_with(kConfigurationEnd);
+}
+
 ExitCode RunRead(CommandContext& context, const VoiceOptions& options) {
   if (options.file.empty() || options.file == kStandard) return ReadToOutput(context);
   if (IsConfiguration(context, options.file)) return ReadToConfiguration(context, options.file);
-  if (options.file.ends_with(kConfigurationEnd))
+  if (EndsAsConfiguration(options.file))
     return context.console.Fail(ExitCode::BadFile,
                                 options.file + " holds no configuration to put the list into");
   return ReadToText(context, options.file);
@@ -130,8 +154,12 @@ ExitCode RunRead(CommandContext& context, const VoiceOptions& options) {
 
 // ---- Writing
 
-/// The list of a text file, without a macro. Nothing, after saying why, when a line is no number.
-std::optional<ConfAutVoz> OpenText(CommandContext& context, const std::string& path) {
+std::string NoNumber(std::string_view text) { return Excerpt(text) + " is no telephone number"; }
+
+/// The list of a text file, with the macro that the options choose. Nothing, after saying why, when
+/// a line is no number.
+std::optional<ConfAutVoz> OpenText(CommandContext& context, const VoiceOptions& options) {
+  const std::string& path = options.file;
   const auto text = context.platform.files.Read(path);
   std::vector<std::string> numbers;
   if (!text) {
@@ -139,14 +167,56 @@ std::optional<ConfAutVoz> OpenText(CommandContext& context, const std::string& p
     return {};
   }
   const auto refused = AddNumbers(*text, numbers, Repeated::Taken);
-  for (const RefusedNumber& one : refused)
-    context.console.Fail(ExitCode::BadFile, path + ", line " + std::to_string(one.line) + ": " +
-                                                (one.fault == NumberFault::ListFull
-                                                     ? "a list has 250 numbers at the most"
-                                                     : one.text + " is no telephone number"));
+  for (std::size_t i = 0; i < std::min(refused.size(), kRefusedTold); ++i)
+    context.console.Fail(
+        ExitCode::BadFile,
+        path + ", line " + std::to_string(refused[i].line) + ": " +
+            (refused[i].fault == NumberFault::ListFull ? std::string(kTooMany)
+                                                       : NoNumber(refused[i].text)));
+  if (refused.size() > kRefusedTold)
+    context.console.Fail(ExitCode::BadFile, path + ": " + std::to_string(refused.size()) +
+                                                " lines are refused in all");
   if (!refused.empty()) return {};
   ConfAutVoz list;
   SetNumbers(list, numbers);
+  if (!options.macro.empty()) list.MACRO = MacroOf(options.macro);
+  return list;
+}
+
+/// Why a logger would not take the list of a configuration; empty when it would. It erases its own
+/// before it looks at a number.
+std::string WhyNotTaken(const ConfAutVoz& list) {
+  int count = 0;
+  for (int place = 0; place <= kVoiceNumbers; ++place) {
+    const std::string& number = list.TEL[place];
+    if (number.empty()) continue;
+    ++count;
+    if (!IsIntText(number)) return "TEL " + std::to_string(place) + ": " + NoNumber(number);
+  }
+  if (count > kVoiceNumbers) return std::string(kTooMany);
+  if (list.MACRO >= kVoiceMacros)
+    return "MACRO: voice calls start macros 0 to 39: choose one of these or none";
+  return {};
+}
+
+/// The list of a configuration, with the macro that the options choose in place of its own.
+/// Nothing, after saying why, when a logger would not take it.
+std::optional<ConfAutVoz> OpenConfigured(CommandContext& context, const VoiceOptions& options) {
+  const auto configuration = context.OpenFile(options.file);
+  if (!configuration) return {};
+  ConfAutVoz list = configuration->conf.AutVoz;
+  IniTool tool(context.platform.files);
+  std::string why;
+  if (!options.macro.empty())
+    list.MACRO = MacroOf(options.macro);
+  else if (tool.ProfileRead("AUT_VOZ", "MACRO", options.file).empty())
+    why = "it chooses no macro for voice calls: --macro does";
+  if (why.empty()) why = WhyNotTaken(list);
+  if (!why.empty()) {
+    context.console.Fail(ExitCode::BadFile, options.file + ": " + why);
+    return {};
+  }
+  SetNumbers(list, NumbersOf(list));
   return list;
 }
 
@@ -166,7 +236,7 @@ ExitCode WriteOnline(Online& online, ConfAutVoz list, bool keepsMacro) {
     const TransferLine shown(context.console, watch, "voice-call list",
                              context.environment.errIsTerminal);
     watch.BeginWriting(list.AutVozCount);
-    code = online.session.Run([&] { return online.configurator.comms.WriteAutVoz(list); });
+    code = online.session.WriteVoiceList(list);
     watch.End();
   }
   if (code != ExitCode::Done) return code;
@@ -182,15 +252,9 @@ ExitCode WriteOnline(Online& online, ConfAutVoz list, bool keepsMacro) {
 
 ExitCode RunWrite(CommandContext& context, const VoiceOptions& options) {
   const bool isConfiguration = IsConfiguration(context, options.file);
-  std::optional<ConfAutVoz> list;
-  if (!isConfiguration) {
-    list = OpenText(context, options.file);
-  } else if (const auto configuration = context.OpenFile(options.file)) {
-    list = configuration->conf.AutVoz;
-    SetNumbers(*list, NumbersOf(*list));
-  }
+  const std::optional<ConfAutVoz> list =
+      isConfiguration ? OpenConfigured(context, options) : OpenText(context, options);
   if (!list) return ExitCode::BadFile;
-  if (!options.macro.empty()) list->MACRO = MacroOf(options.macro);
   const bool keepsMacro = !isConfiguration && options.macro.empty();
   return RunOnline(context, isConfiguration ? options.file : std::string(),
                    [&](Online& online) { return WriteOnline(online, *list, keepsMacro); });
@@ -203,8 +267,10 @@ Command AddVoice(CLI::App& app) {
       app.add_subcommand("voice", "Read or write the list of numbers whose voice calls are taken");
   const auto options = std::make_shared<VoiceOptions>();
   CLI::App* read = parser->add_subcommand("read", "Read the list: one number a line");
-  read->add_option("FILE", options->file,
-                   "Configuration file that gets the list, or text file; the output where absent");
+  read->add_option(
+      "FILE", options->file,
+      "Configuration file that gets the list, or text file, which is replaced; the output "
+      "where absent");
   CLI::App* write = parser->add_subcommand(
       "write",
       "Write the list. With a text file the logger keeps its macro, unless told otherwise");

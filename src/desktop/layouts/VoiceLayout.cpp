@@ -13,7 +13,8 @@ namespace {
 
 constexpr int kGap = 8;  // between the controls of a row or column, in pixels
 
-/// A box that leaves of a list only the rows that hold its text in view.
+/// A box that leaves of a list only the rows that hold its text in view. A row that goes out of
+/// view is selected no more, and one that is selected out of view empties the box.
 QLineEdit* FilterFor(FormView& view, QListWidget* list) {
   auto* box = view.Own(new QLineEdit(&view));
   box->setObjectName("Filter");
@@ -23,7 +24,15 @@ QLineEdit* FilterFor(FormView& view, QListWidget* list) {
   const auto filter = [list, box] {
     for (int row = 0; row < list->count(); ++row)
       list->item(row)->setHidden(!list->item(row)->text().contains(box->text()));
+    if (list->currentItem() && list->currentItem()->isHidden()) list->setCurrentRow(-1);
   };
+  // The rows' own signals rest while the page sets them; looked at when all of them are set.
+  QObject::connect(
+      list->selectionModel(), &QItemSelectionModel::currentChanged, box,
+      [list, box] {
+        if (list->currentItem() && list->currentItem()->isHidden()) box->clear();
+      },
+      Qt::QueuedConnection);
   QObject::connect(box, &QLineEdit::textChanged, list, filter);
   QObject::connect(list->model(), &QAbstractItemModel::rowsInserted, list, filter);
   QObject::connect(list->model(), &QAbstractItemModel::dataChanged, list, filter);

@@ -29,7 +29,10 @@ QString FieldName(const FieldId& id, const FieldMeta& meta) {
 }
 
 QString ValueText(const ConstField& field, bool isS100) {
-  if (const auto* text = std::get_if<const std::string*>(&field.value)) return ToQt(**text);
+  if (const auto* text = std::get_if<const std::string*>(&field.value)) {
+    const bool isHidden = field.meta.isSecret && !(*text)->empty();
+    return isHidden ? QStringLiteral("****") : ToQt(**text);
+  }
   if (const auto* flag = std::get_if<const Bool16*>(&field.value))
     return bool(**flag) ? Words::tr("yes") : Words::tr("no");
   if (const CodeWords* code = CodeOf(field.value, field.meta)) return Translated(code->words);

@@ -298,12 +298,10 @@ bool MainWindow::MayLeave() {
   return !IsTransfer(configurator_.session.State().phase) && Save();
 }
 
-void MainWindow::AskToBreakOff() {
+void MainWindow::AskToBreakOff(const QString& whatIsLost) {
   if (leaveBox_) return leaveBox_->raise();
   auto* box = new QMessageBox(QMessageBox::NoIcon, ToQt(configurator_.profile.TargetName),
-                              Words::tr("A transfer is under way. Leaving breaks it off, and "
-                                        "changes that are neither saved nor sent are lost."),
-                              QMessageBox::NoButton, this);
+                              whatIsLost, QMessageBox::NoButton, this);
   box->setAttribute(Qt::WA_DeleteOnClose);
   box->setIconPixmap(BoxPicture(BoxIcon::Question));
   QPushButton* leave = box->addButton(Words::tr("&Leave"), QMessageBox::DestructiveRole);
@@ -351,7 +349,14 @@ void MainWindow::closeEvent(QCloseEvent* event) {
     unsaved_.Touch();
     const SessionPhase phase = configurator_.session.State().phase;
     const bool losesNothing = phase != SessionPhase::Writing && !unsaved_.Changed();
-    if (IsTransfer(phase) && !losesNothing) return AskToBreakOff();
+    if (configurator_.session.WritesVoiceList())
+      return AskToBreakOff(
+          Words::tr("The voice-call list is being written. Leaving breaks that off, "
+                    "and the logger is left without a whole list."));
+    if (IsTransfer(phase) && !losesNothing)
+      return AskToBreakOff(
+          Words::tr("A transfer is under way. Leaving breaks it off, and changes "
+                    "that are neither saved nor sent are lost."));
     if (!MayLeave()) return;
     KeepPlace();
     configurator_.ShutDown();

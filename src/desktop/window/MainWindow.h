@@ -156,7 +156,7 @@ class MainWindow final : public QMainWindow {
   /// True when the present configuration may go: nothing is unsaved, or the operator says so.
   bool MayLeave();
   /// Asks whether to leave in the midst of a transfer, which goes on meanwhile.
-  void AskToBreakOff();
+  void AskToBreakOff(const QString& whatIsLost);
   void Leave();
 
   WindowParts parts_;
@@ -180,8 +180,7 @@ class MainWindow final : public QMainWindow {
   QToolBar* bar_ = nullptr;
   QAction *open_ = nullptr, *save_ = nullptr, *saveAs_ = nullptr, *language_ = nullptr,
           *recentFiles_ = nullptr, *safetyCopies_ = nullptr, *compare_ = nullptr,
-          *schedule_ = nullptr,
-          *traceSwitch_ = nullptr, *findingsSwitch_ = nullptr;
+          *schedule_ = nullptr, *traceSwitch_ = nullptr, *findingsSwitch_ = nullptr;
   bool following_ = false;
   QString success_;                   ///< what the status bar says of the last writing
   int writeStep_ = 0;                 ///< of a writing with its guards; 0 while there is none

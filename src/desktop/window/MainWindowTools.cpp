@@ -287,10 +287,7 @@ void MainWindow::SaveTrace() {
        .filter = FromQt(Words::tr("Trace") + "|*.txt|" + Words::tr("All files") + "|*.*"),
        .overwritePrompt = true});
   if (!path) return;
-  // It may tell what is nobody else's business; a file that is replaced keeps its permissions.
-  Files& files = parts_.platform.files;
-  const FileResult saved = files.Exists(*path) ? SaveWhole(files, *path, trace_->Text())
-                                               : SaveNew(files, *path, trace_->Text());
+  const FileResult saved = SaveWhole(parts_.platform.files, *path, trace_->Text());
   if (!saved.Ok())
     Tell(Words::tr("%1 could not be written: %2").arg(ToQt(*path), ToQt(saved.error)));
 }

@@ -316,6 +316,10 @@
         <translation>la configuración del equipo no ha cambiado</translation>
     </message>
     <message>
+        <source>the logger's voice-call list may be erased or incomplete: write it again</source>
+        <translation>la lista de llamadas de voz del equipo puede estar borrada o incompleta: vuelva a escribirla</translation>
+    </message>
+    <message>
         <source>the logger's former configuration stays in force</source>
         <translation>sigue en vigor la configuración anterior del equipo</translation>
     </message>
@@ -591,6 +595,10 @@
     <message>
         <source>%1 could not be written: %2</source>
         <translation>No se ha podido escribir %1: %2</translation>
+    </message>
+    <message>
+        <source>The voice-call list is being written. Leaving breaks that off, and the logger is left without a whole list.</source>
+        <translation>Se está escribiendo la lista de llamadas de voz. Al salir se interrumpe, y el equipo queda sin una lista completa.</translation>
     </message>
     <message>
         <source>A transfer is under way. Leaving breaks it off, and changes that are neither saved nor sent are lost.</source>

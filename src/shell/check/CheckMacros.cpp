@@ -4,6 +4,7 @@
 #include <optional>
 
 #include "base/Utf8.h"
+#include "blocks/Configuration.h"
 #include "blocks/GprsParameters.h"
 #include "blocks/MacroPool.h"
 #include "blocks/VoiceNumbers.h"
@@ -164,8 +165,11 @@ std::vector<Finding> ConditionsWithoutEquation(const Examined& file) {
 std::vector<Finding> VoiceCallsWithoutMacro(const Examined& file) {
   const std::int16_t macro = file.Conf().AutVoz.MACRO;
   const std::string section = SectionName(VoiceNumbers::kSection, -1);
-  // A file without the key has chosen none.
-  if (macro < 0 || !file.Document().Find(section, "MACRO")) return {};
+  if (macro < 0) return {};
+  // A section without the key reads as macro 0. A file without the section is not about voice
+  // calls; the pages, which have no file, always are.
+  const bool isFile = file.Document().Find(kStampSection, kStampKey) != nullptr;
+  if (isFile && !file.Document().SectionExists(section, section)) return {};
   auto why = SentPool(file).WhyNothing(macro);
   if (macro >= kVoiceMacros)
     why = Phrase{"voice calls start macros 0 to 39: choose one of these or none"};

@@ -36,24 +36,22 @@ class SystemTest : public testing::Test {
   QtFiles files;
 };
 
-TEST_F(SystemTest, SavesThroughALinkWithThePermissionsOfANewFile) {
+TEST_F(SystemTest, SavesThroughALinkWhatIsItsOwnersAlone) {
   ASSERT_TRUE(files.MakeFolder(Path("store/deep")).Ok());
   ASSERT_TRUE(files.MakeFolder(Path("store/deep")).Ok());
   const std::string real = Path("store/deep/real.ocf");
   fs::create_symlink("store/deep/real.ocf", Path("step.ocf"));
   fs::create_symlink(Path("step.ocf"), Path("link.ocf"));
   EXPECT_EQ(files.Resolve(Path("link.ocf")), real) << "also while nothing stands there";
-  const mode_t mask = ::umask(0027);
   std::string content(300'000, '\0');
   content += "\r\nend";
   for (const std::string& text : {std::string("short"), content, std::string()}) {
     EXPECT_EQ(SaveWhole(files, Path("link.ocf"), text).error, "");
     EXPECT_EQ(files.Read(real), text);
   }
-  ::umask(mask);
   struct stat state {};
   ASSERT_EQ(::stat(real.c_str(), &state), 0);
-  EXPECT_EQ(state.st_mode & 0777, 0640u);
+  EXPECT_EQ(state.st_mode & 0777, 0600u);
   EXPECT_TRUE(fs::is_symlink(Path("link.ocf")) && fs::is_symlink(Path("step.ocf")));
   EXPECT_EQ(std::distance(fs::directory_iterator(Path("store/deep")), {}), 1);
 }
@@ -65,6 +63,8 @@ TEST_F(SystemTest, SavingKeepsThePermissionsOfWhatItReplaces) {
     EXPECT_EQ(SaveWhole(files, Path("a"), "new").error, "");
     EXPECT_EQ(ModeOf("a"), mode);
   }
+  EXPECT_TRUE(SaveWhole(files, Path("a"), "x", Replacing::Any, Readers::OwnerAlone).Ok());
+  EXPECT_EQ(ModeOf("a"), 0600U);
   ASSERT_TRUE(files.Protect(folder.path().toStdString()).Ok());
   EXPECT_EQ(ModeOf(""), 0700U);
   ASSERT_TRUE(SaveNew(files, Path("copy"), "x").Ok());
