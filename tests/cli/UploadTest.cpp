@@ -178,7 +178,7 @@ TEST(Upload, AsksBeforeItSendsTheFileOfAnotherModel) {
   world.HaveFile("/ka1.ocf", "KA1");
   EXPECT_EQ(world.Run("upload /ka1.ocf --port sim:VR200"), 5);
   EXPECT_THAT(world.err, HasSubstr("is for the model Ostrel KA1, the logger is of the model"));
-  EXPECT_THAT(world.err, HasSubstr("/ka1.ocf is for another model: --yes sends it all the same"));
+  EXPECT_THAT(world.err, HasSubstr("/ka1.ocf is for another model: --yes with --force sends it"));
   EXPECT_EQ(world.Logger().UploadsTaken(), 0U);
   EXPECT_EQ(world.Run("upload /ka1.ocf --dry-run --yes --port sim:VR200"), 0);
 }

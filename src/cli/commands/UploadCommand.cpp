@@ -156,8 +156,8 @@ ExitCode LoadFile(CommandContext& context, Configurator& configurator,
   if (context.dialogs.Left())
     return context.console.Fail(ExitCode::DialogueFailed,
                                 "interrupted before a session stood: the logger is unchanged");
-  return context.console.Fail(ExitCode::BadFile,
-                              file + " is for another model: --yes sends it all the same");
+  return context.console.Fail(
+      ExitCode::BadFile, file + " is for another model: --yes with --force sends it all the same");
 }
 
 /// What speaks against a safety copy of another logger than the one that answers.

@@ -40,7 +40,10 @@ QString UnitOfSignal(const Form& form, const ControlNames& names) {
 /// "4 mA is 0 m, 20 mA is 6.5 m".
 QString ScaleInWords(const Form& form, const ControlNames& names) {
   const QString start = NumberIn(form, names("IE")), end = NumberIn(form, names("FE"));
-  if (start == end) return Words::tr("Both signals are the same: there is no scale.");
+  if (start == end)
+    return form.Get<TextBox>(names("IE")).face.Enabled()
+               ? Words::tr("Both signals are the same: there is no scale.")
+               : QString();
   const QString signal = UnitOfSignal(form, names);
   QString unit = ToQt(form.Get<TextBox>(names("Unidad")).Text());
   if (!unit.isEmpty()) unit.prepend(u' ');

@@ -156,6 +156,7 @@ LayoutContext MainWindow::Context() {
 void MainWindow::Follow() {
   following_ = true;
   ports_.Start();
+  BuildTree();  // the model was chosen ahead of the language
   Retranslate();
   pages_->Redraw();
   ShowFront();
@@ -163,7 +164,7 @@ void MainWindow::Follow() {
   tree_->Select(shownNode_);
   tree_->Tree().setFocus();
   unsaved_.Keep(unsaved_.WithFront());
-  if (FileDifferences()) WorkOn(configurator_.ConfFilePath);
+  TakeFile();
   Look();
   overview_.ShowNode(shownNode_);
 }

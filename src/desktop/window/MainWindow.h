@@ -84,6 +84,8 @@ class MainWindow final : public QMainWindow {
   void Open();
   void OpenPath(const std::string& path);
   void Opened();
+  /// Works on the file that was opened, unless it was not whole, which is told.
+  void TakeFile();
   /// False when it was left, or when writing failed.
   bool Save();
   bool SaveAs();

@@ -139,8 +139,7 @@ void MainWindow::TellMissing(const std::string& path) {
   Tell(Words::tr("%1 does not exist.").arg(ToQt(path)));
 }
 
-void MainWindow::Opened() {
-  ForgetSuccess();
+void MainWindow::TakeFile() {
   if (const auto& lacking = configurator_.Lacking()) {
     // Saving would make a cut file look whole: it goes to a file that the operator names.
     shownFile_.clear();
@@ -148,6 +147,11 @@ void MainWindow::Opened() {
   } else if (FileDifferences()) {
     WorkOn(configurator_.ConfFilePath);
   }
+}
+
+void MainWindow::Opened() {
+  ForgetSuccess();
+  TakeFile();
   // The file may be of a model that has not the channel in front.
   if (!tree_->Has(shownNode_)) GoTo("General");
 }
@@ -202,8 +206,8 @@ void MainWindow::AskLanguage() {
   const auto before = configurator_.lang.SelectedLang();
   configurator_.AskLanguage();
   if (configurator_.lang.SelectedLang() == before) return;
-  BuildTree();  // it is translated when it is built
   UseLanguage(LanguageCode(configurator_.lang));
+  BuildTree();  // it is translated when it is built
   Retranslate();
   pages_->Redraw();
   ShowMissing();
