@@ -50,14 +50,15 @@ TEST(Upload, SendsNothingWhereAPeriodOverflows) {
   World world;
   world.HaveFile("/a.ocf");
   world.SetKey("/a.ocf", "LTIMER 0", "PERIOD", " 30000");
+  int transfers = 0;
+  world.Logger().OnExchange([&](const sim::Exchange& exchange) {
+    transfers += exchange.request.starts_with("#45") || exchange.request == "#42" ? 1 : 0;
+  });
   for (const auto& [command, code] : {std::pair{"statements /a.ocf", 5},
                                       {"upload /a.ocf --dry-run", 5},
                                       {"upload /a.ocf --port sim:VR200", 5},
                                       {"upload /a.ocf --force --port sim:VR200", 5}}) {
-    int transfers = 0;
-    world.Logger().OnExchange([&](const sim::Exchange& exchange) {
-      transfers += exchange.request.starts_with("#45") || exchange.request == "#42" ? 1 : 0;
-    });
+    transfers = 0;
     EXPECT_EQ(world.Run(command), code) << command << world.err;
     EXPECT_THAT(world.err, HasSubstr("the period of long timer 0 does not fit a statement: choose "
                                      "at most 24855 days"));
