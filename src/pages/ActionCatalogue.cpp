@@ -2,6 +2,8 @@
 
 #include <array>
 
+#include "model/ConfMacro.h"
+
 namespace ostrel {
 namespace {
 
@@ -35,7 +37,7 @@ bool AboveCaudal(const TargetProfile& model, int) {
 }
 
 constexpr std::array kRows{
-    ActionRow{1, 39, "Ejecutar macro", true, Always},
+    ActionRow{1, kMacrosOfActions, "Ejecutar macro", true, Always},
     ActionRow{42, 42, "Sincronizar reloj", false, Always},
     ActionRow{43, 43, "Encender GSM durante 5m", false, Always},
     ActionRow{44, 44, "Leer presion", false, OnBQ},

@@ -12,8 +12,6 @@ namespace {
 
 constexpr std::int64_t kDay = 86'400;
 constexpr std::int64_t kSpan = kScheduleDays * kDay;
-/// Actions 1 to 39 start a macro.
-constexpr std::int16_t kLastMacroAction = 39;
 
 std::int64_t TimeOf(std::int64_t moment) { return (moment % kDay + kDay) % kDay; }
 
@@ -102,7 +100,7 @@ std::vector<ScheduledMacro> MacrosOf(const std::vector<ScheduledTimer>& timers) 
   std::map<int, ScheduledMacro> macros;
   for (const ScheduledTimer& timer : timers)
     for (const std::int16_t action : timer.Actions()) {
-      if (action > kLastMacroAction) continue;
+      if (action > kMacrosOfActions) continue;
       ScheduledMacro& macro = macros.try_emplace(action, ScheduledMacro{action - 1}).first->second;
       for (const DateTime& time : timer.firings)
         macro.starts.push_back({time, timer.section, timer.number});
