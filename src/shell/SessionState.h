@@ -14,6 +14,9 @@ constexpr bool IsTransfer(SessionPhase phase) {
   return phase == SessionPhase::Reading || phase == SessionPhase::Writing;
 }
 
+/// What is done with the voice-call list, within a session that is open.
+enum class ListWork { None, Reading, Writing };
+
 /// How the question for an access code was answered while a session was opened.
 enum class CodeAnswer { NotAsked, NotGiven, Given };
 

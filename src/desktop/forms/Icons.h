@@ -22,6 +22,7 @@ enum class Sign {
   Recent,
   Copies,
   Compare,
+  Channels,
   Schedule,
   Trace,
   Findings,

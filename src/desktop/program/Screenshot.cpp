@@ -8,7 +8,7 @@
 
 #include "desktop/forms/Words.h"
 #include "desktop/program/Desktop.h"
-#include "desktop/window/ScheduleDialog.h"
+#include "desktop/window/ScheduleView.h"
 #include "host/SimulatedLoggers.h"
 #include "platform/qt/QtEventLoop.h"
 #include "platform/qt/QtFiles.h"
