@@ -3,6 +3,7 @@
 #include <unistd.h>
 
 #include <QCoreApplication>
+#include <QLocale>
 #include <exception>
 #include <iostream>
 #include <vector>
@@ -20,6 +21,9 @@ namespace {
 using namespace ostrel;
 using namespace ostrel::cli;
 
+/// The column of the language table that stands for the locale: Spanish, or else English.
+std::int16_t LangColumn() { return QLocale::system().language() == QLocale::Spanish ? 1 : 2; }
+
 int Run(const std::vector<std::string>& args) {
   Machine machine;
   QtProcesses processes;
@@ -33,6 +37,7 @@ int Run(const std::vector<std::string>& args) {
       .outIsTerminal = isatty(STDOUT_FILENO) == 1,
       .ask = {},
       .readDescriptor = ReadDescriptor,
+      .lang = LangColumn(),
       .code = qEnvironmentVariable("OSTREL_CODE").toStdString(),
       .dataFolder = UserDataFolder(),
       .shippedLang = LangIn(ShippedFolder()),
