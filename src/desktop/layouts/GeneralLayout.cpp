@@ -95,8 +95,9 @@ Card LoggerCard(FormView& view) {
   AddField(card, centre, OptionBox(view, {"CSMMovi", "CSMVoda", "CSMAmen", "CSMOtro"}, 2));
   card.grid->addWidget(view.ShowNamed("SMSCBox", Words::tr("SMS centre")), card.grid->rowCount(),
                        1);
-  AddField(card, view.LabelFor("RestoreText", Words::tr("Restoration text:")),
-           view.Show("RestoreText"));
+  QLabel* restored = view.LabelFor("RestoreText", Words::tr("Restoration text:"));
+  restored->setWordWrap(true);
+  AddField(card, restored, view.Show("RestoreText"));
   const auto addCount = [&](std::string_view control, const QString& label, const QString& unit) {
     QLabel* labelWidget = view.LabelFor(control, label);
     AddField(card, labelWidget,
