@@ -15,13 +15,11 @@ std::shared_ptr<const void> LivePoll::KeepGoing() {
 
 void LivePoll::Tick() {
   if (kept_.expired()) return context_.loop.Cancel(std::exchange(timer_, 0));
-  // A monitor may have read just now.
-  if (context_.loop.Now() - begun_ >= kLivePeriod) Read();
+  Read();
 }
 
 void LivePoll::Read() {
   if (!context_.Connected || context_.comms.LinkBusy) return;
-  begun_ = context_.loop.Now();
   context_.comms.ReadRealTime();
   const LiveRound round = Present();
   context_.comms.ReadDeviceRTC();

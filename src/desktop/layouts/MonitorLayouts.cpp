@@ -163,11 +163,13 @@ QWidget* ModuleList(FormView& view) {
   grid->setContentsMargins(0, 0, 0, 0);
   grid->setVerticalSpacing(2);
   for (int i = 0; i < kModules; ++i) {
-    const int column = i / kRows * 2;
-    grid->addWidget(Elastic(view, Numbered("LabelModulo", i)), i % kRows, column);
-    grid->addWidget(view.Show(Numbered("Bar_EX", i)), i % kRows, column + 1);
-    grid->setColumnStretch(column, 2);
-    grid->setColumnStretch(column + 1, 1);
+    const int row = i % kRows;
+    const int column = i / kRows * 3;
+    grid->addWidget(RowNumber(view, Numbered("LabelModulo", i), i), row, column);
+    grid->addWidget(Elastic(view, Numbered("LabelModulo", i)), row, column + 1);
+    grid->addWidget(view.Show(Numbered("Bar_EX", i)), row, column + 2);
+    grid->setColumnStretch(column + 1, 2);
+    grid->setColumnStretch(column + 2, 1);
   }
   return box;
 }
