@@ -14,8 +14,8 @@ namespace ostrel {
 
 /// Any control of a form, by its kind.
 using ControlRef =
-    std::variant<Label*, Frame*, Button*, CheckBox*, OptionButton*, TextBox*, ComboBox*, ListBox*,
-                 MultiListBox*, TimePicker*, ProgressBar*, Picture*, TabStrip*, Timer*>;
+    std::variant<Label*, Frame*, Button*, CheckBox*, OptionButton*, TextBox*, TextView*, ComboBox*,
+                 ListBox*, MultiListBox*, TimePicker*, ProgressBar*, Picture*, TabStrip*, Timer*>;
 
 Face& FaceOf(const ControlRef& control);
 

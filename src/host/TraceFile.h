@@ -12,4 +12,9 @@ namespace ostrel {
 /// tells.
 std::unique_ptr<std::ostream> OpenTrace(const std::string& path, std::string& why);
 
+/// Opens a text file to add to what it holds; a new one is readable by its owner alone. A device or
+/// a pipe is written to where another program reads it. Null when it cannot be written, which `why`
+/// tells.
+std::unique_ptr<std::ostream> OpenLog(const std::string& path, std::string& why);
+
 }  // namespace ostrel

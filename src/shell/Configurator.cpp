@@ -91,12 +91,21 @@ Configurator::Configurator(const Platform& platform, ConfiguratorOptions options
           comms.OnProgress([&bar = PageOf(PageId::Aut_Voz)->GetForm().Get<ProgressBar>("PBar")](
                                const Progress& progress) { ShowListOnBar(progress, bar); })),
       session(context, comms, general, Connected, [this] { ShowPages(); }),
-      tools{.comms = comms,
+      tools{.platform = platform_,
+            .comms = comms,
             .dialogs = platform_.dialogs,
             .profile = profile,
             .totals = totals,
             .Connected = Connected,
-            .Translate = [this](std::string_view text) { return context.Translate(text); }},
+            .ConfFilePath = ConfFilePath,
+            .Translate = [this](std::string_view text) { return context.Translate(text); },
+            .ShowHelp = [this](std::string_view word) { context.ShowHelp(word); },
+            .IniCom_Click = [this] { general.Session().IniCom_Click(); },
+            .SendFirmware =
+                [this](const FirmwareFiles& files, const FirmwareDialogue::OnStage& onStage) {
+                  return session.SendFirmware(files, onStage);
+                },
+            .OpenLog = options_.openLog},
       actEdit(context),
       setTotal(tools, kMainCounters),
       expSetTotal(tools, kExpansionCounters),
@@ -106,7 +115,11 @@ Configurator::Configurator(const Platform& platform, ConfiguratorOptions options
       langForm(context),
       targetSelect(context, settings,
                    [this](const std::string& name) { TargetDeviceChange(name); }),
-      fronts_{{ToolId::TargetSelect, &targetSelect}} {
+      firm(tools),
+      terminal(tools),
+      fronts_{{ToolId::TargetSelect, &targetSelect},
+              {ToolId::Firm, &firm},
+              {ToolId::Terminal, &terminal}} {
   if (options_.ticking) general.OnScanPorts = [this] { comms.ScanPorts(); };
   ConnectPages();
   RegisterWire();

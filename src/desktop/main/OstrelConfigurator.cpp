@@ -14,6 +14,7 @@
 #include "host/Folders.h"
 #include "host/LangSeed.h"
 #include "host/Machine.h"
+#include "host/TraceFile.h"
 #include "platform/qt/QtProcesses.h"
 
 namespace {
@@ -33,9 +34,10 @@ int RunWindow(const CommandLine& line) {
   machine.files.MakeFolder(UserDataFolder());
   const std::string langFile =
       SeedLang(machine.files, LangIn(ShippedFolder()), LangIn(UserDataFolder()));
-  Desktop desktop(machine.With(dialogs, processes),
-                  {.programFolder = ShippedFolder(), .langFile = langFile, .ticking = true},
-                  UserDataFolder());
+  Desktop desktop(
+      machine.With(dialogs, processes),
+      {.programFolder = ShippedFolder(), .langFile = langFile, .openLog = OpenLog, .ticking = true},
+      UserDataFolder());
   dialogs.StandBefore(desktop.Window());
   machine.loop.SetFaultHandler([&](std::exception_ptr fault) { desktop.ShowFault(fault); });
   desktop.Window().show();  // ahead of the first questions, which want a window behind them
