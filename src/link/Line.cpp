@@ -130,12 +130,12 @@ void Line::EndTornMessage() {
 }
 
 bool Line::AwaitSent(std::size_t mayWait) {
-  // A queue tells when it is empty; when it holds little enough follows from the line's speed.
-  if (mayWait > 0 && Unsent() > mayWait)
-    loop_.RunUntil([&] { return Unsent() <= mayWait || !GoesOn(); },
-                   std::min(loop_.Now() + LineTime(Unsent() - mayWait), limit_));
   for (std::size_t queued = Unsent(); queued > mayWait; queued = Unsent()) {
     const TimePoint giveUp = loop_.Now() + LineTime(queued) + kLongestHold;
+    // A queue tells when it is empty; when it holds little enough follows from the line's speed.
+    if (mayWait > 0)
+      loop_.RunUntil([&] { return Unsent() <= mayWait || !GoesOn(); },
+                     std::min(loop_.Now() + LineTime(queued - mayWait + 1), limit_));
     const bool moved =
         loop_.RunUntil([&] { return Unsent() < queued || !GoesOn(); }, std::min(giveUp, limit_));
     if (moved && GoesOn()) continue;

@@ -8,7 +8,6 @@
 
 #include "OpenWindow.h"
 #include "desktop/program/Language.h"
-#include "desktop/window/TransferMeter.h"
 #include "tools/HexFiles.h"
 
 namespace ostrel {
@@ -110,8 +109,8 @@ TEST_F(ConsoleTools, AnUpdateKeepsTheWindowAsLongAsFlashIsErased) {
     EXPECT_FALSE(Tool("Abrir")->isEnabled() || SessionTool("ReadTool")->isEnabled());
     Window().GoTo("General");
     EXPECT_EQ(desktop->Navigator().Front()->Name(), "Firm");
-    const auto* meter = Window().Pages().Front()->findChild<TransferMeter*>();
-    EXPECT_TRUE(meter->isVisibleTo(&Window()));
+    const auto* meter = Window().Pages().Front()->findChild<QWidget*>("TransferMeter");
+    ASSERT_TRUE(meter && meter->isVisibleTo(&Window()));
     EXPECT_TRUE(meter->findChild<QLabel*>("TimeLeft")->text().endsWith(" left"));
     EXPECT_FALSE(closes());
   });
