@@ -144,11 +144,11 @@ TEST(FirmPage, EachFaultOfTheLoggerEndsItWithWordsOfWhatToDo) {
   };
   for (const Case& c :
        {Case{"refuse-erase", "answered something else: \"#DWLD_ERROR\"", false, 0},
-        {"ready-late:45000", "", true, 27'612},
+        {"ready-late:45000", "", true, 27'012},
         {"ready-late:60000", "fell silent", true, 0},
         {"no-alive-mark@2", "no sign of life by octet 16386", true, 16'386},
         {"silent-after-octet@9000", "no sign of life by octet 16386", true, 9000},
-        {"refuse-loader", "answered something else: \"#DWLD_ERROR\"", true, 27'611}}) {
+        {"refuse-loader", "answered something else: \"#DWLD_ERROR\"", true, 27'011}}) {
     SCOPED_TRACE(c.fault);
     FirmBench bench(c.fault);
     bench.Connect();

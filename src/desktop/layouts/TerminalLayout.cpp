@@ -50,6 +50,7 @@ Card SendCard(FormView& view) {
 Card ConsoleCard(FormView& view) {
   const Card card = MakeCard(view, Words::tr("Console"));
   auto* row = new QHBoxLayout;
+  row->setSpacing(10);
   auto* pause = view.Show<QCheckBox>("PauseCheck");
   for (QWidget* widget :
        {view.Show("StampCheck"), static_cast<QWidget*>(pause), view.Show("LogCheck")})

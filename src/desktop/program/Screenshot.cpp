@@ -10,6 +10,7 @@
 #include "desktop/program/Desktop.h"
 #include "desktop/window/ScheduleDialog.h"
 #include "host/SimulatedLoggers.h"
+#include "host/TraceFile.h"
 #include "platform/qt/QtEventLoop.h"
 #include "platform/qt/QtFiles.h"
 #include "platform/virtual/VirtualClock.h"
@@ -114,7 +115,8 @@ std::string TakeScreenshot(const CommandLine& line, const std::string& langFile)
                    .files = files,
                    .processes = processes,
                    .clock = clock},
-                  {.programFolder = {}, .langFile = kTable, .ticking = true}, {});
+                  {.programFolder = {}, .langFile = kTable, .openLog = OpenLog, .ticking = true},
+                  {});
   desktop.Start(line.file.empty() ? "" : kConfiguration);
   const Configurator& core = desktop.Core();
   if (!line.file.empty() &&
