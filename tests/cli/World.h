@@ -70,6 +70,8 @@ class World {
                           .shippedLang = "/share/Lang.txt",
                           .numberOfDevice = [](const std::string&) { return 0; },
                           .openLog = {},
+                          .openGrowing = {},
+                          .watchInput = {},
                           .onInterrupt = {},
                           .interrupted = {}};
 

@@ -89,7 +89,7 @@ TEST_F(WindowTools, KeepsItsOwnWordsOutOfTheTable) {
 
 TEST_F(WindowTools, SaysThatAPageDoesNotExistYet) {
   UseLanguage("en");
-  Window().GoTo("Firmware");
+  Window().GoTo("TEST");
   EXPECT_EQ(Window().Pages().Front(), nullptr);
   auto* empty = Window().Pages().findChild<QLabel*>("EmptyPage");
   EXPECT_EQ(empty->text(), "This page does not exist in this version yet.");

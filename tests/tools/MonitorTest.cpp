@@ -338,7 +338,7 @@ TEST(LiveRounds, TheWindowRecordsIntoAFileUntilItTakesNoMore) {
   Station station(sim::Model::BP);
   station.Connect();
   std::ostringstream file;
-  station.program.tools.openRecording = [&](const std::string& path,
+  station.program.tools.OpenRecording = [&](const std::string& path,
                                             std::string& why) -> std::unique_ptr<std::ostream> {
     why = "no such folder";
     if (path == "/full") return std::make_unique<std::ostream>(nullptr);  // takes nothing

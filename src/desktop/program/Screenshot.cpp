@@ -10,6 +10,7 @@
 #include "desktop/program/Desktop.h"
 #include "desktop/window/ScheduleDialog.h"
 #include "host/SimulatedLoggers.h"
+#include "host/TraceFile.h"
 #include "platform/qt/QtEventLoop.h"
 #include "platform/qt/QtFiles.h"
 #include "platform/virtual/VirtualClock.h"
@@ -124,7 +125,12 @@ std::string TakeScreenshot(const CommandLine& line, const std::string& langFile)
                    .files = files,
                    .processes = processes,
                    .clock = clock},
-                  {.programFolder = {}, .langFile = kTable, .ticking = true}, {});
+                  {.programFolder = {},
+                   .langFile = kTable,
+                   .openLog = OpenLog,
+                   .openRecording = OpenRecording,
+                   .ticking = true},
+                  {});
   desktop.Start(line.file.empty() ? "" : kConfiguration);
   const Configurator& core = desktop.Core();
   if (!line.file.empty() &&
