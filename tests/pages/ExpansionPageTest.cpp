@@ -1,5 +1,3 @@
-#include <gtest/gtest.h>
-
 #include "PageFixture.h"
 #include "pages/expansion/E_Modular.h"
 
@@ -11,8 +9,7 @@ class ExpansionPage : public PageFixture {
   ExpansionPage() {
     SelectModel("Ostrel S100");
     context.repaintTree = [this] { ++repaints; };
-    page.Form_Load();
-    page.Clear();
+    Start(page);
   }
 
   ComboBox& Combo(const char* name) { return page.GetForm().Get<ComboBox>(name); }
@@ -22,19 +19,6 @@ class ExpansionPage : public PageFixture {
   int repaints = 0;
   E_Modular page{context};
 };
-
-TEST_F(ExpansionPage, AnAddressIsThatOfTheHexadecimalSwitch) {
-  page.ChangeIndex(95);
-  EXPECT_EQ(page.GetForm().Get<Label>("Titulo").face.Caption(), "Canal  95");
-  Combo("AddressCombo").SetPosition(15);
-  EXPECT_EQ(Combo("AddressCombo").Text(), "F");
-  Combo("InputCombo").SetPosition(7);
-  Combo("GroupCombo").SetPosition(15);
-  page.Form_Deactivate();
-  EXPECT_EQ(conf.Modulo[95].DIR, 15);
-  EXPECT_EQ(conf.Modulo[95].ENTRADA, 7);
-  EXPECT_EQ(conf.Modulo[95].GRUPO, 15);
-}
 
 TEST_F(ExpansionPage, TheModeChoosesTabAndHelp) {
   const char* const words[] = {"ExpNone", "ExpDigital", "ExpFlow", "ExpCounter", "ExpAnalog"};
@@ -51,7 +35,7 @@ TEST_F(ExpansionPage, AnInputThatChangesItsModeLosesNothing) {
   Box("Q_Nombre").Type("Caudal");
   Box("Q_Ratio").Type("0.25");
   Combo("ModeCombo").SetPosition(1);
-  page.GetForm().Get<OptionButton>("D_Int_NC").SetSelected(true);
+  Choose(page, "D_Int_NC");
   page.ChangeIndex(1);
   EXPECT_EQ(Box("Q_Nombre").Text(), "");
   EXPECT_EQ(Tab(), 0);
@@ -60,21 +44,6 @@ TEST_F(ExpansionPage, AnInputThatChangesItsModeLosesNothing) {
   EXPECT_EQ(Box("Q_Nombre").Text(), "Caudal");
   EXPECT_EQ(conf.Modulo[0].Q.RATIO, 0.25F);
   EXPECT_EQ(conf.Modulo[0].D.NC, kTrue);
-}
-
-TEST_F(ExpansionPage, WhatNoRowStandsForIsKept) {
-  conf.Modulo[1].MODO = 7;
-  conf.Modulo[1].DIR = -1;
-  conf.Modulo[1].A.INTERFAZ = 2;
-  Combo("ModeCombo").SetPosition(3);
-  page.ChangeIndex(1);
-  EXPECT_EQ(Combo("ModeCombo").Position(), -1);
-  EXPECT_EQ(Tab(), 0);
-  EXPECT_FALSE(page.GetForm().Get<OptionButton>("A_Int_4_20").Selected());
-  page.ChangeIndex(0);
-  EXPECT_EQ(conf.Modulo[1].MODO, 7);
-  EXPECT_EQ(conf.Modulo[1].DIR, -1);
-  EXPECT_EQ(conf.Modulo[1].A.INTERFAZ, 2);
 }
 
 TEST_F(ExpansionPage, EachTabHasItsAlarmAndItsLists) {
