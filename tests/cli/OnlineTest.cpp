@@ -209,26 +209,27 @@ SimulatedLoggers::MakeOptions Behind(std::string code) {
 
 TEST(Online, GivesTheAccessCodeOnceFromTheOptionsOrAsksForIt) {
   World world(Behind("4711"));
-  EXPECT_EQ(world.Run("info --port sim:VR200 --phone 600100200 --code 4711"), 0) << world.err;
-  world.Expect("info --port sim:VR200 --phone 600100200 --code 1", 3,
-               "did not accept the access code");
-  world.Expect("info --port sim:VR200 --phone 600100200", 3,
-               "--code, --code-file, --code-fd or OSTREL_CODE gives one");
   const std::string call = "info --port sim:VR200 --phone 600100200 ";
   world.files.contents["/code"] = "4711\r\nmore";
-  EXPECT_EQ(world.Run(call + "--code-file /code"), 0) << world.err;
-  EXPECT_EQ(world.Run(call + "--code-file /none"), 5);
-  EXPECT_EQ(world.Run(call + "--code-file /code --code 4711"), 2);
   world.environment.readDescriptor = [](int descriptor, bool lineOnly, std::string& octets) {
     EXPECT_TRUE(lineOnly);
     octets = descriptor == 9 ? "4711" : "";
     return FileResult{};
   };
-  EXPECT_EQ(world.Run(call + "--code-fd 9"), 0) << world.err;
-  EXPECT_EQ(world.Run(call + "--code-fd 8"), 5);
-  world.environment.code = "4711";
-  EXPECT_EQ(world.Run(call), 0) << world.err;
-  EXPECT_EQ(world.Run(call + "--code 1"), 3) << "the option counts more";
+  for (const auto& [ofEnvironment, option, code, says] :
+       {std::tuple{"", "--code 4711", 0, ""},
+        {"", "--code 1", 3, "did not accept the access code"},
+        {"", "", 3, "--code, --code-file, --code-fd or OSTREL_CODE gives one"},
+        {"", "--code-file /code", 0, ""},
+        {"", "--code-file /none", 5, ""},
+        {"", "--code-file /code --code 4711", 2, ""},
+        {"", "--code-fd 9", 0, ""},
+        {"", "--code-fd 8", 5, ""},
+        {"4711", "", 0, ""},
+        {"4711", "--code 1", 3, ""}}) {
+    world.environment.code = ofEnvironment;
+    world.Expect(call + option, code, says);
+  }
   world.environment.code.clear();
   int asked = 0;
   world.environment.ask = [&](std::string_view prompt, bool echo) {
@@ -236,7 +237,7 @@ TEST(Online, GivesTheAccessCodeOnceFromTheOptionsOrAsksForIt) {
     EXPECT_THAT(std::string(prompt), HasSubstr("Introduzca la clave de acceso:"));
     return ++asked < 3 ? "99" : "4711";
   };
-  EXPECT_EQ(world.Run("info --port sim:VR200 --phone 600100200"), 0) << world.err;
+  EXPECT_EQ(world.Run(call), 0) << world.err;
   EXPECT_EQ(asked, 3);
 }
 

@@ -101,7 +101,7 @@ TEST_F(OnEveryPage, ReadsAndWritesWhereTheOperatorIs) {
   SessionTool("ReadTool")->trigger();
   bool rested = false;
   loop.After(seconds(4), "look", [&] {
-    rested = !Window().Pages().isEnabled();
+    rested = !Window().Pages().isEnabled() && !Tool("Guardar")->isEnabled();
     EXPECT_EQ(LinkWords(), "Reading");
     auto* bar = Window().findChild<QToolBar*>("Session")->findChild<QProgressBar*>();
     EXPECT_TRUE(bar->isVisibleTo(&Window()));

@@ -305,23 +305,6 @@ TEST_F(WindowTools, OpensFromItsMenusAndForgetsWhatIsGone) {
   EXPECT_EQ(dialogs.boxes.size(), 1u);
 }
 
-TEST_F(WindowTools, RestsFromTheRequestToTheEndOfATransfer) {
-  AddLogger(sim::Model::BP);
-  port.SetPaced(true);
-  Connect();
-  Core().general.GetForm().Get<TextBox>("NameBox").Type("door");
-  loop.RunFor(seconds(2));
-  ModalScript modals;
-  modals.Expect([](QWidget* modal) { AgreeToWrite(modal, false); });
-  Core().general.Session().Escribir.Click();
-  Window().Look();
-  EXPECT_FALSE(Tool("Guardar")->isEnabled() || Window().Pages().isEnabled());
-  loop.RunFor(seconds(30));
-  EXPECT_EQ(modals.Left(), 0u);
-  EXPECT_EQ(logger->UploadsTaken(), 1U);
-  EXPECT_TRUE(Tool("Guardar")->isEnabled() && Window().Pages().isEnabled());
-}
-
 TEST_F(WindowTools, ReadingOverChangesAsksFirst) {
   AddLogger(sim::Model::BP);
   Connect();
