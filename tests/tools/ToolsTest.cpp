@@ -1,5 +1,3 @@
-#include <gtest/gtest.h>
-
 #include "shell/SimWorld.h"
 
 namespace ostrel {
