@@ -3,7 +3,6 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QProgressBar>
-#include <QStackedWidget>
 #include <QVBoxLayout>
 
 #include "desktop/forms/Words.h"
@@ -11,30 +10,9 @@
 #include "desktop/layouts/Layouts.h"
 #include "desktop/window/FaultNote.h"
 #include "desktop/window/FieldText.h"
-#include "desktop/window/TransferMeter.h"
 
 namespace ostrel {
 namespace {
-
-constexpr int kNarrowBar = 60;  // least width of a bar, in pixels
-
-/// The form's bar has one length for all transfers. While one runs, what is known of that one
-/// stands in its place.
-QWidget* ProgressPlace(FormView& view) {
-  auto* place = new QStackedWidget(&view);
-  place->setObjectName("ProgressPlace");
-  auto* former = new QWidget(place);
-  auto* row = new QHBoxLayout(former);
-  row->setContentsMargins(0, 0, 0, 0);
-  view.ShowNamed("PBar", Words::tr("Progress"));
-  view.Show<QProgressBar>("PBar")->setTextVisible(false);
-  row->addWidget(view.Show("PBar"));
-  place->addWidget(former);
-  place->addWidget(view.Own(new TransferMeter(place)));
-  place->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
-  place->setMinimumWidth(kNarrowBar);
-  return place;
-}
 
 Card SessionCard(FormView& view, const LayoutContext& context) {
   const Card card = MakeCard(view, Words::tr("Session"));

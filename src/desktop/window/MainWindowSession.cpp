@@ -54,6 +54,7 @@ void MainWindow::ShowLink() {
        .write = mayAsk && !why,
        .cancel = IsTransfer(state.phase) || isListBusy || state.phase == SessionPhase::Opening,
        .whyNot = why ? SentenceOf(*why) : QString()});
+  RestForUpdate(state.phase == SessionPhase::Updating);
   Rest(session.OwnsModel());
   pages_->Cover(
       state.phase == SessionPhase::Reading
@@ -67,9 +68,9 @@ void MainWindow::ShowLink() {
 void MainWindow::Rest(bool rests) {
   for (QAction* action : {open_, save_, saveAs_, recentFiles_, safetyCopies_, compare_, channels_,
                           schedule_, language_})
-    action->setEnabled(!rests);
-  trace_->SetMaySave(!rests);
-  if (comparing_) comparing_->Rest(rests);
+    action->setEnabled(!rests && !isUpdating_);
+  trace_->SetMaySave(!rests && !isUpdating_);
+  if (comparing_) comparing_->Rest(rests || isUpdating_);
   if (pages_->isEnabled() != rests) return;
   QWidget* const present = focusWidget();
   if (rests) focus_ = pages_->isAncestorOf(present) ? present : nullptr;
@@ -80,6 +81,13 @@ void MainWindow::Rest(bool rests) {
   }
   if (leaveBox_) leaveBox_->close();  // what it asks about has ended
   if (focus_ && (!present || present == refuge_)) focus_->setFocus();
+}
+
+void MainWindow::RestForUpdate(bool isUpdating) {
+  if (isUpdating == isUpdating_) return;
+  isUpdating_ = isUpdating;
+  tree_->setEnabled(!isUpdating);
+  if (leaveBox_ && !isUpdating && !configurator_.session.IsFlashErased()) leaveBox_->close();
 }
 
 void MainWindow::ShowTransfer() {
@@ -94,7 +102,8 @@ void MainWindow::ShowTransfer() {
   if (running) meter->Show(*running);
   place->setCurrentIndex(running ? place->indexOf(meter) : 0);
   // A full bar would tell of the last transfer that came to its end, whatever has happened since.
-  place->widget(0)->findChild<QProgressBar*>()->setVisible(hasMoved_);
+  if (&front->GetForm() == &configurator_.general.GetForm())
+    place->widget(0)->findChild<QProgressBar*>()->setVisible(hasMoved_);
 }
 
 QString MainWindow::FaultNow() {
