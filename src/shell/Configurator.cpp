@@ -1,5 +1,7 @@
 #include "shell/Configurator.h"
 
+#include <algorithm>
+
 #include "base/Scope.h"
 #include "blocks/Blocks.h"
 #include "blocks/Orders.h"
@@ -103,7 +105,8 @@ Configurator::Configurator(const Platform& platform, ConfiguratorOptions options
       pwForm(context),
       langForm(context),
       targetSelect(context, settings,
-                   [this](const std::string& name) { TargetDeviceChange(name); }) {
+                   [this](const std::string& name) { TargetDeviceChange(name); }),
+      fronts_{{ToolId::TargetSelect, &targetSelect}} {
   if (options_.ticking) general.OnScanPorts = [this] { comms.ScanPorts(); };
   ConnectPages();
   RegisterWire();
@@ -206,13 +209,18 @@ Page* Configurator::PageOf(PageId id) const {
   return nullptr;
 }
 
+FrontForm* Configurator::ToolOf(ToolId id) const {
+  const auto found = std::ranges::find(fronts_, id, &std::pair<ToolId, FrontForm*>::first);
+  return found == fronts_.end() ? nullptr : found->second;
+}
+
 std::vector<Form*> Configurator::Forms() {
   std::vector<Form*> forms;
   for (const auto& page : pages_) forms.push_back(&page->GetForm());
-  for (Form* form :
-       {&actEdit.GetForm(), &setTotal.GetForm(), &expSetTotal.GetForm(), &ayuda.GetForm(),
-        &ayudaHex.GetForm(), &pwForm.GetForm(), &langForm.GetForm(), &targetSelect.GetForm()})
+  for (Form* form : {&actEdit.GetForm(), &setTotal.GetForm(), &expSetTotal.GetForm(),
+                     &ayuda.GetForm(), &ayudaHex.GetForm(), &pwForm.GetForm(), &langForm.GetForm()})
     forms.push_back(form);
+  for (const auto& [id, front] : fronts_) forms.push_back(&front->GetForm());
   return forms;
 }
 
@@ -227,7 +235,7 @@ void Configurator::TargetDeviceChange(const std::string& name) {
 
 void Configurator::LoadForms() {
   for (const auto& page : pages_) page->Form_Load();
-  targetSelect.Form_Load();
+  for (const auto& [id, front] : fronts_) front->Form_Load();
 }
 
 void Configurator::Start(const std::string& commandLine) {
@@ -287,7 +295,7 @@ void Configurator::AskLanguage() {
 
 void Configurator::LoadText() {
   for (const auto& page : pages_) page->LoadText();
-  targetSelect.LoadText();
+  for (const auto& [id, front] : fronts_) front->LoadText();
 }
 
 }  // namespace ostrel

@@ -18,6 +18,7 @@
 #include "pages/General.h"
 #include "pages/Page.h"
 #include "pages/PageContext.h"
+#include "shell/FormId.h"
 #include "shell/LangForm.h"
 #include "shell/PWForm.h"
 #include "shell/Phrase.h"
@@ -112,6 +113,8 @@ class Configurator {
   /// The page; null when this build has none.
   Page* PageOf(PageId id) const;
   const std::vector<std::unique_ptr<Page>>& Pages() const { return pages_; }
+  /// What the tree opens beside the pages; null when this build has none.
+  FrontForm* ToolOf(ToolId id) const;
   /// Every form of the program: the pages' and the dialogs'.
   std::vector<Form*> Forms();
   DeviceConf conf;
@@ -178,6 +181,9 @@ class Configurator {
   PWForm pwForm;
   LangForm langForm;
   TargetSelect targetSelect;
+
+ private:
+  std::vector<std::pair<ToolId, FrontForm*>> fronts_;
 };
 
 }  // namespace ostrel
