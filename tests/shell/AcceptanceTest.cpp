@@ -2,7 +2,7 @@
 
 #include "World.h"
 #include "blocks/Configuration.h"
-#include "shell/acceptance/AcceptanceFile.h"
+#include "shell/acceptance/AcceptanceWork.h"
 
 namespace ostrel {
 namespace {
@@ -26,7 +26,8 @@ TEST(Acceptance, ListsWhatIsConfiguredInTheOrderOfTheTree) {
   SelectTarget(profile, "Ostrel S100");
   DeviceConf conf = EmptyConfiguration(profile, Same);
   EXPECT_TRUE(ConfiguredInputs({profile, conf}, Same).empty());
-  conf.Digital[2].NOMBRE = "Door";
+  conf.Digital[1].NOMBRE = "Door";
+  conf.Digital[7].NOMBRE = "of another model";
   conf.Analog[1].INTERFAZ = 1;
   conf.Math[1].NOMBRE = "sum";  // no input
   conf.Modulo[5].MODO = kModeCounter;
@@ -39,9 +40,59 @@ TEST(Acceptance, ListsWhatIsConfiguredInTheOrderOfTheTree) {
     shown.push_back(point.node + " " + point.kind + " " + std::to_string(point.number) + " " +
                     point.name);
   const std::vector<std::string> expected{"E_Analog_1 analog input 1 ",
-                                          "E_Digital_2 digital input 2 Door",
+                                          "E_Digital_1 digital input 1 Door",
                                           "Modulo_5 counter expansion input 5 Gas"};
   EXPECT_EQ(shown, expected);
+}
+
+TEST(Acceptance, KnowsWhatAnInputMeasures) {
+  constexpr LiveRead kCame{.hasCome = true, .missed = 1, .at = {}};
+  constexpr LiveRead kStale{.hasCome = true, .missed = 2, .at = {}};
+  const LiveRound round{{},
+                        {{{LiveKind::Digital, 3}, "", "", {}, true, kCame},
+                         {{LiveKind::Counter, 3}, "", "", 1042., {}, kCame},
+                         {{LiveKind::Flow, 3}, "", "m3/h", double(3.2F), {}, kCame},
+                         {{LiveKind::Modbus, 31}, "", "bar", 1., {}, kStale}}};
+  const auto valueOf = [&](const std::string& node, int number) {
+    return InputValue({.node = node, .kind = {}, .number = number}, round);
+  };
+  EXPECT_EQ(valueOf("Caudal_3", 3), "3.2 m3/h; 1042");
+  EXPECT_EQ(valueOf("E_Digital_3", 3), "1");
+  EXPECT_EQ(valueOf("E_Digital_4", 4), "") << "the model has none";
+  EXPECT_EQ(valueOf("MODBUS_31", 31), "") << "too old";
+}
+
+TEST(Acceptance, IsKeptAtEachChange) {
+  VirtualFiles files;
+  VirtualClock clock;
+  const auto begin = [&](const char* serial) {
+    AcceptanceWork work(files, clock, "/data");
+    work.Begin({serial,
+                "a.ocf",
+                "Tavro BP",
+                {{"E_Digital_0", "digital input", 0}, {"E_Digital_1", "digital input", 1}}});
+    return work;
+  };
+  AcceptanceWork work = begin("1");
+  work.Judge(1, Verdict::Failed, "0");
+  work.Note(1, "no pulse");
+  EXPECT_EQ(begin("1").Present(), work.Present());
+  EXPECT_EQ(begin("1").Present().points[1].time, clock.LocalNow());
+  EXPECT_EQ(begin("2").Present().points[1].verdict, Verdict::Open);
+  files.FailOperation(1);
+  work.Judge(0, Verdict::Passed, "1");
+  EXPECT_NE(work.Error(), "");
+  EXPECT_EQ(begin("1").Present().points[0].verdict, Verdict::Open);
+  work.Judge(1, Verdict::Open, "1");
+  EXPECT_EQ(work.Error(), "");
+  EXPECT_EQ(begin("1").Present(), work.Present()) << "what could not be kept goes with the next";
+  EXPECT_EQ(work.Present().points[1].value + work.Present().points[1].note, "no pulse");
+  EXPECT_FALSE(begin("").MayNote());
+  AcceptanceFiles kept(files, "/data");
+  files.contents[kept.PathOf("1", "a.ocf")] = "acceptance,2";
+  AcceptanceWork newer = begin("1");
+  newer.Judge(0, Verdict::Passed, "1");
+  EXPECT_EQ(files.contents[kept.PathOf("1", "a.ocf")], "acceptance,2") << "of a newer program";
 }
 
 TEST(Acceptance, KeepsNotesOfInputsThatHaveGone) {

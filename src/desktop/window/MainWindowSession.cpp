@@ -58,6 +58,7 @@ void MainWindow::Rest(bool rests) {
   for (QAction* action : {open_, save_, saveAs_, recentFiles_, safetyCopies_, compare_, language_})
     action->setEnabled(!rests);
   trace_->SetMaySave(!rests);
+  live_.SetMaySave(!rests);
   if (pages_->isEnabled() != rests) return;
   QWidget* const present = focusWidget();
   if (rests) focus_ = pages_->isAncestorOf(present) ? present : nullptr;

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <set>
+#include <utility>
 
 #include "blocks/Configuration.h"
 #include "shell/ChannelOverview.h"
@@ -15,6 +16,19 @@ namespace {
 constexpr std::array<PageId, 7> kInputPages{PageId::E_Digital, PageId::E_Analog, PageId::Caudal,
                                             PageId::E_OneWire, PageId::E_Aux,    PageId::E_MODBUS,
                                             PageId::E_Modular};
+
+struct InputKind {
+  PageId page;
+  LiveKind kind;
+};
+/// What the inputs of a page measure.
+constexpr std::array<InputKind, 7> kMeasured{{{PageId::E_Digital, LiveKind::Digital},
+                                              {PageId::E_Analog, LiveKind::Analog},
+                                              {PageId::Caudal, LiveKind::Flow},
+                                              {PageId::Caudal, LiveKind::Counter},
+                                              {PageId::E_OneWire, LiveKind::Probe},
+                                              {PageId::E_MODBUS, LiveKind::Modbus},
+                                              {PageId::E_Modular, LiveKind::Module}}};
 
 std::set<std::string> NodesOf(const TargetProfile& profile) {
   std::set<std::string> keys;
@@ -39,22 +53,28 @@ std::vector<AcceptancePoint> ConfiguredInputs(const ModelConfiguration& configur
   const std::vector<ConstField> emptied = FieldsOf(empty, profile);
   const std::set<std::string> nodes = NodesOf(profile);
   std::vector<AcceptancePoint> inputs;
-  std::set<std::string> configured;
+  bool isConfigured = false;
+  std::optional<std::pair<PageId, int>> last;  // fields of one input stand together
+  const auto endInput = [&] {
+    if (!inputs.empty() && !isConfigured) inputs.pop_back();
+    isConfigured = false;
+  };
   for (std::size_t i = 0; i < fields.size(); ++i) {
     const auto& [page, id, meta, value] = fields[i];
     if (id.channel < 0 || std::ranges::find(kInputPages, page) == kInputPages.end()) continue;
-    const std::string node = NodeOf(page, id.channel);
-    if (!nodes.contains(node) || !IsInForce(conf, id)) continue;
-    if (inputs.empty() || inputs.back().node != node)
-      inputs.push_back({.node = node, .kind = {}, .number = id.channel});
+    if (last != std::pair(page, id.channel)) {
+      endInput();
+      last = {page, id.channel};
+      inputs.push_back({.node = NodeOf(page, id.channel), .kind = {}, .number = id.channel});
+    }
     AcceptancePoint& input = inputs.back();
+    if (!nodes.contains(input.node) || !IsInForce(conf, id)) continue;
     input.kind = id.section->words;  // of the mode that it is in, where it has some
     if (id.word == "NOMBRE" && IsOfChannel(id))
       input.name = **std::get_if<const std::string*>(&value);
-    if (!IsSameValue(value, emptied[i].value)) configured.insert(node);
+    isConfigured = isConfigured || !IsSameValue(value, emptied[i].value);
   }
-  std::erase_if(inputs,
-                [&](const AcceptancePoint& input) { return !configured.contains(input.node); });
+  endInput();
   return inputs;
 }
 
@@ -71,6 +91,19 @@ std::vector<AcceptancePoint> WithNotes(std::vector<AcceptancePoint> inputs,
       *input = note;
   }
   return inputs;
+}
+
+std::string InputValue(const AcceptancePoint& point, const LiveRound& round) {
+  const auto target = FindNodeTarget(point.node, {}, false);
+  std::string text;
+  for (const auto& [page, kind] : kMeasured) {
+    if (!target || target->form != FormId(page)) continue;
+    const LiveValue* value = round.Find({kind, point.number});
+    if (!value || value->read.IsStale() || !value->HasValue()) continue;
+    text += (text.empty() ? "" : "; ") + LiveText(*value);
+    if (!value->unit.empty()) text += " " + value->unit;
+  }
+  return text;
 }
 
 AcceptanceCount CountOf(const std::vector<AcceptancePoint>& points) {

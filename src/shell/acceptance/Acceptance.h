@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "blocks/Clearing.h"
+#include "model/LiveRound.h"
 #include "platform/DateTime.h"
 #include "shell/ConfigurationFile.h"
 
@@ -53,6 +54,10 @@ std::vector<AcceptancePoint> ConfiguredInputs(const ModelConfiguration& configur
 /// no more, or under another name, is kept behind them.
 std::vector<AcceptancePoint> WithNotes(std::vector<AcceptancePoint> inputs,
                                        const std::vector<AcceptancePoint>& noted);
+
+/// What an input measures in a round, with its unit: "3.2 m3/h; 1042" where it counts, too. Empty
+/// for what has not come lately.
+std::string InputValue(const AcceptancePoint& point, const LiveRound& round);
 
 /// How many points have a verdict.
 struct AcceptanceCount {
