@@ -33,7 +33,11 @@ struct Environment {
   std::function<int(const std::string& path)> numberOfDevice;
   /// Opens a text file that grows while the command runs; null when it may not be written, which
   /// `why` tells.
-  std::function<std::unique_ptr<std::ostream>(const std::string& path, std::string& why)> openLog;
+  using OpenGrowing =
+      std::function<std::unique_ptr<std::ostream>(const std::string& path, std::string& why)>;
+  OpenGrowing openLog;
+  /// The same for a recording of live values.
+  OpenGrowing openRecording{};
   /// What an interrupt does; set by a command for as long as it has a port open.
   std::function<void()> onInterrupt;
   /// Whether a signal has come that ends the program, served or not; empty where none can come.

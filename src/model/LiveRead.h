@@ -19,6 +19,12 @@ enum class LiveAnswer {
 };
 inline constexpr int kLiveAnswers = 10;
 
+/// The answer that brings an expansion input: each brings a run of them.
+constexpr LiveAnswer AnswerOfModule(int index) {
+  constexpr int kModulesAnAnswer = 32;
+  return static_cast<LiveAnswer>(static_cast<int>(LiveAnswer::Modules0) + index / kModulesAnAnswer);
+}
+
 /// After how many rounds without it a value counts as stale.
 inline constexpr int kRoundsToStale = 2;
 

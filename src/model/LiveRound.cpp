@@ -14,7 +14,6 @@ namespace {
 constexpr int kFlags = 16;
 constexpr int kMathRegisters = 8;
 constexpr int kProbes = 4;
-constexpr int kModulesAnAnswer = 32;
 
 struct KindTag {
   LiveKind kind;
@@ -65,10 +64,8 @@ class RoundBuilder {
   LiveValue& Add(LiveId id, const LiveRead& read) {
     return round_.values.emplace_back(LiveValue{id, {}, {}, {}, {}, read});
   }
-  /// The expansion inputs come in three answers.
   static LiveAnswer AnswerFor(LiveAnswer answer, int index) {
-    if (answer != LiveAnswer::Modules0) return answer;
-    return static_cast<LiveAnswer>(static_cast<int>(answer) + index / kModulesAnAnswer);
+    return answer == LiveAnswer::Modules0 ? AnswerOfModule(index) : answer;
   }
 
   const RealTimeData& live_;
@@ -89,7 +86,7 @@ std::optional<LiveId> LiveIdOf(std::string_view tag) {
     int index = 0;
     const auto [end, fault] = std::from_chars(digits.data(), digits.data() + digits.size(), index);
     const bool isWhole = fault == std::errc() && end == digits.data() + digits.size();
-    if (isWhole && LiveTag({kind, index}) == tag) return LiveId{kind, index};
+    if (isWhole && index >= 0 && LiveTag({kind, index}) == tag) return LiveId{kind, index};
   }
   return {};
 }

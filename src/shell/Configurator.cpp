@@ -96,8 +96,17 @@ Configurator::Configurator(const Platform& platform, ConfiguratorOptions options
             .profile = profile,
             .totals = totals,
             .Connected = Connected,
+            .live = live,
+            .info = info,
+            .conf = conf,
+            .loop = platform_.loop,
+            .clock = platform_.clock,
             .Translate = [this](std::string_view text) { return context.Translate(text); }},
       actEdit(context),
+      livePoll(tools),
+      recorder(tools, livePoll),
+      monitor(tools, livePoll, recorder),
+      cathodicMonitor(tools, livePoll, recorder),
       setTotal(tools, kMainCounters),
       expSetTotal(tools, kExpansionCounters),
       ayuda(tools),
@@ -106,7 +115,9 @@ Configurator::Configurator(const Platform& platform, ConfiguratorOptions options
       langForm(context),
       targetSelect(context, settings,
                    [this](const std::string& name) { TargetDeviceChange(name); }),
-      fronts_{{ToolId::TargetSelect, &targetSelect}} {
+      fronts_{{ToolId::TargetSelect, &targetSelect},
+              {ToolId::T_Real_Tavro, &monitor},
+              {ToolId::T_Real_Katodex, &cathodicMonitor}} {
   if (options_.ticking) general.OnScanPorts = [this] { comms.ScanPorts(); };
   ConnectPages();
   RegisterWire();
@@ -123,7 +134,11 @@ void Configurator::ConnectPages() {
   };
   context.showActEdit = [this](std::string_view subject) { actEdit.ShowModal(subject); };
   context.showTotal = setsTotal(setTotal);
-  context.showExpansionTotal = setsTotal(expSetTotal);
+  context.showExpansionTotal = [this, set = setsTotal(expSetTotal)](std::int16_t index) {
+    set(index);
+    // The total of an expansion counter comes with the live values alone.
+    if (Connected) comms.ReadRealTime();
+  };
   context.showPulseCalculator = [this](TextBox& field) { ayuda.ShowModal(field); };
   context.showMaskCalculator = [this] { ayudaHex.ShowModal(); };
   context.readProbeIdentity = [this]() -> std::optional<ProbeIdentity> {

@@ -28,7 +28,11 @@
 #include "store/IniTool.h"
 #include "tools/Ayuda.h"
 #include "tools/AyudaHex.h"
+#include "tools/LivePoll.h"
+#include "tools/LiveRecorder.h"
 #include "tools/SetTotal.h"
+#include "tools/T_Real_Katodex.h"
+#include "tools/T_Real_Tavro.h"
 #include "tools/ToolContext.h"
 
 namespace ostrel {
@@ -174,6 +178,10 @@ class Configurator {
   SessionDriver session;
   ToolContext tools;
   ActEdit actEdit;
+  LivePoll livePoll;
+  LiveRecorder recorder;
+  T_Real_Tavro monitor;
+  T_Real_Katodex cathodicMonitor;
   SetTotal setTotal;
   SetTotal expSetTotal;
   Ayuda ayuda;

@@ -1,17 +1,28 @@
 #include <algorithm>
 #include <array>
 #include <iterator>
+#include <limits>
+#include <memory>
+#include <optional>
 #include <sstream>
 
 #include "cli/commands/Commands.h"
 #include "cli/commands/OnlineCommand.h"
 #include "host/LoggerText.h"
 #include "model/LiveRound.h"
+#include "tools/LiveRecording.h"
 
 namespace ostrel::cli {
 namespace {
 
-constexpr Duration kWatchInterval = std::chrono::seconds(1);
+constexpr int kLongestIntervalMs = 86'400'000;
+
+struct LiveOptions {
+  bool watch = false;
+  int intervalMs = 1000;  ///< from the beginning of a round to that of the next
+  int count = 0;          ///< rounds; 0 for no end
+  std::string csv;        ///< file that gets the rounds; empty for none
+};
 
 /// How a kind of value is called in the output.
 struct KindWords {
@@ -44,14 +55,14 @@ std::vector<LiveValue> ValuesOf(const LiveRound& round, LiveKind kind) {
 
 Json MeasureJson(const LiveValue& value) {
   Json number;
-  if (value.number && value.id.kind == LiveKind::Counter)
+  if (value.IsFresh() && value.id.kind == LiveKind::Counter)
     number = static_cast<std::int64_t>(*value.number);
-  else if (value.number)
+  else if (value.IsFresh())
     number = JsonNumber(static_cast<float>(*value.number));
   return {{"index", value.id.index}, {"name", value.name}, {"value", number}, {"unit", value.unit}};
 }
 
-Json StateJson(const LiveValue& value) { return value.on ? Json(*value.on) : Json(); }
+Json StateJson(const LiveValue& value) { return value.IsFresh() ? Json(*value.on) : Json(); }
 
 Json LiveJson(const LiveRound& round) {
   Json live{{"time", ClockText(round.at.LocalSeconds())}};
@@ -63,8 +74,8 @@ Json LiveJson(const LiveRound& round) {
   return live;
 }
 
-/// What stands for a value that has not come.
-std::string Shown(const LiveValue& value) { return value.HasValue() ? LiveText(value) : "-"; }
+/// A value that did not come in this round is none.
+std::string Shown(const LiveValue& value) { return value.IsFresh() ? LiveText(value) : "-"; }
 
 void PrintLive(std::ostream& out, const LiveRound& round) {
   out << ClockText(round.at.LocalSeconds()) << '\n';
@@ -108,38 +119,97 @@ void Show(const Online& online, const LiveRound& round, bool watch) {
   online.context.console.Out().flush();
 }
 
-ExitCode RunLive(Online& online, bool watch) {
-  CommandContext& context = online.context;
-  const Configurator& configurator = online.configurator;
-  EventLoop& loop = context.platform.loop;
-  const auto interrupted = [&] { return online.session.Interrupted(); };
-  for (;;) {
-    const TimePoint next = loop.Now() + kWatchInterval;
-    const LinkResult read = online.configurator.comms.ReadRealTime();
-    // Watching is ended by an interrupt, which is no failure then.
-    if (context.isDone = watch && interrupted(); context.isDone) return ExitCode::Done;
-    if (!read) return online.session.Failed(read);
-    Show(online,
-         TakeRound(configurator.live, configurator.profile, configurator.info,
-                   WallTimeOf(context.platform.clock)),
-         watch);
-    if (!context.console.Out()) {
-      context.isDone = watch && context.Interrupted();
-      return context.isDone ? ExitCode::Done : ExitCode::BadFile;
-    }
-    if (!watch || loop.RunUntil(interrupted, next)) return ExitCode::Done;
-  }
+/// Whether the next round may bring what this one did not.
+bool IsPassing(const LinkFault& fault) {
+  using Kind = LinkFault::Kind;
+  return fault.IsDamage() || fault.kind == Kind::Silence || fault.kind == Kind::WrongAnswer;
 }
+
+/// Reads rounds and shows or records them.
+class LiveRun {
+ public:
+  LiveRun(Online& online, const LiveOptions& options)
+      : online_(online), context_(online.context), options_(options) {}
+
+  ExitCode Run() {
+    if (const ExitCode opened = OpenRecording(); opened != ExitCode::Done) return opened;
+    EventLoop& loop = context_.platform.loop;
+    const auto interrupted = [this] { return online_.session.Interrupted(); };
+    for (int round = 1;; ++round) {
+      const TimePoint next = loop.Now() + std::chrono::milliseconds(options_.intervalMs);
+      const LinkResult read = online_.configurator.comms.ReadRealTime();
+      // Watching is ended by an interrupt, which is no failure then.
+      if (context_.isDone = options_.watch && interrupted(); context_.isDone) return ExitCode::Done;
+      const bool isLast = !options_.watch || round == options_.count;
+      if (!read && (isLast || !IsPassing(read.Fault()))) return online_.session.Failed(read);
+      if (const ExitCode taken = Take(); taken != ExitCode::Done) return taken;
+      if (isLast || loop.RunUntil(interrupted, next)) return ExitCode::Done;
+    }
+  }
+
+ private:
+  bool IsOnOutput() const { return options_.csv == kStandard; }
+
+  ExitCode OpenRecording() {
+    if (options_.csv.empty()) return ExitCode::Done;
+    std::string why;
+    auto out = IsOnOutput() ? std::make_unique<std::ostream>(context_.console.Out().rdbuf())
+                            : context_.environment.openRecording(options_.csv, why);
+    if (!out)
+      return context_.console.Fail(ExitCode::BadFile,
+                                   "cannot write the values to " + options_.csv + ": " + why);
+    recording_.emplace(std::move(out));
+    return ExitCode::Done;
+  }
+
+  /// Records and shows the values as they are now.
+  ExitCode Take() {
+    const Configurator& program = online_.configurator;
+    const LiveRound round =
+        TakeRound(program.live, program.profile, program.info, WallTimeOf(context_.platform.clock));
+    if (recording_ && !recording_->Add(round)) {
+      if (IsOnOutput()) return Unread();
+      return context_.console.Fail(ExitCode::BadFile,
+                                   "cannot write the values to " + options_.csv + " to the end");
+    }
+    if (!IsOnOutput()) Show(online_, round, options_.watch);
+    return context_.console.Out() ? ExitCode::Done : Unread();
+  }
+
+  /// Nobody reads the output any more, which an interrupt may have ended as well.
+  ExitCode Unread() {
+    context_.isDone = options_.watch && context_.Interrupted();
+    return context_.isDone ? ExitCode::Done : ExitCode::BadFile;
+  }
+
+  Online& online_;
+  CommandContext& context_;
+  const LiveOptions& options_;
+  std::optional<LiveRecording> recording_;
+};
 
 }  // namespace
 
 Command AddLive(CLI::App& app) {
   CLI::App* parser = app.add_subcommand("live", "Show the live values of the logger");
-  const auto watch = std::make_shared<bool>(false);
-  parser->add_flag("--watch", *watch,
-                   "Again each second, in place on a terminal, until interrupted");
-  return {parser, [watch](CommandContext& context) {
-            return RunOnline(context, "", [&](Online& online) { return RunLive(online, *watch); });
+  const auto options = std::make_shared<LiveOptions>();
+  CLI::Option* watch = parser->add_flag(
+      "--watch", options->watch, "Again each second, in place on a terminal, until interrupted");
+  parser->add_option("--interval", options->intervalMs, "Milliseconds from one round to the next")
+      ->needs(watch)
+      ->check(CLI::Range(1, kLongestIntervalMs))
+      ->type_name("MS");
+  parser->add_option("--count", options->count, "End after so many rounds")
+      ->needs(watch)
+      ->check(CLI::Range(1, std::numeric_limits<int>::max()))
+      ->type_name("N");
+  parser
+      ->add_option("--csv", options->csv,
+                   "Record the rounds as comma-separated values; \"-\" for standard output")
+      ->type_name("FILE");
+  return {parser, [options](CommandContext& context) {
+            return RunOnline(context, "",
+                             [&](Online& online) { return LiveRun(online, *options).Run(); });
           }};
 }
 

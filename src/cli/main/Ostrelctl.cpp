@@ -38,6 +38,7 @@ int Run(const std::vector<std::string>& args) {
       .shippedLang = LangIn(ShippedFolder()),
       .numberOfDevice = [&](const std::string& path) { return machine.NumberOfDevice(path); },
       .openLog = OpenTrace,
+      .openRecording = OpenRecording,
       .onInterrupt = {},
       .interrupted = SignalPipe::HasCome};
   if (HasOperator()) environment.ask = AskOnTerminal;

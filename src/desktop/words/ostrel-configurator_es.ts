@@ -496,11 +496,6 @@
         <translation>Abrir</translation>
     </message>
     <message>
-        <source>Open</source>
-        <comment>the state of the link</comment>
-        <translation>Sesión abierta</translation>
-    </message>
-    <message>
         <source>Reading</source>
         <translation>Leyendo</translation>
     </message>
@@ -1909,10 +1904,6 @@
         <translation>días de la semana</translation>
     </message>
     <message>
-        <source>days of the month</source>
-        <translation>días del mes</translation>
-    </message>
-    <message>
         <source>the line is neither MACRO and a number up to 55 nor F and a number, with the command in one pair of braces: write it anew</source>
         <translation>la línea no es MACRO y un número hasta 55, ni F y un número, con el comando entre un par de llaves: escríbala de nuevo</translation>
     </message>
@@ -2243,6 +2234,40 @@
     <message>
         <source>time</source>
         <translation>hora</translation>
+        <source>not read</source>
+        <translation>sin leer</translation>
+    </message>
+    <message>
+        <source>last read at %1</source>
+        <translation>última lectura a las %1</translation>
+    </message>
+    <message>
+        <source>inside</source>
+        <translation>dentro</translation>
+    </message>
+    <message>
+        <source>within the hysteresis</source>
+        <translation>dentro de la histéresis</translation>
+    </message>
+    <message>
+        <source>below the minimum</source>
+        <translation>por debajo del mínimo</translation>
+    </message>
+    <message>
+        <source>above the maximum</source>
+        <translation>por encima del máximo</translation>
+    </message>
+    <message>
+        <source>Alarm limits</source>
+        <translation>Límites de alarma</translation>
+    </message>
+    <message>
+        <source>%1 to %2, hysteresis %3</source>
+        <translation>de %1 a %2, histéresis %3</translation>
+    </message>
+    <message>
+        <source>Switch output %1 over</source>
+        <translation>Cambiar el estado de la salida %1</translation>
     </message>
 </context>
 </TS>
