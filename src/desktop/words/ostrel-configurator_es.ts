@@ -496,6 +496,11 @@
         <translation>Abrir</translation>
     </message>
     <message>
+        <source>Open</source>
+        <comment>the state of the link</comment>
+        <translation>Sesión abierta</translation>
+    </message>
+    <message>
         <source>Reading</source>
         <translation>Leyendo</translation>
     </message>
