@@ -15,7 +15,7 @@
 namespace ostrel {
 namespace {
 
-constexpr int kMaskBits = 16;
+constexpr int kOutputBits = 16;
 
 }  // namespace
 
@@ -127,7 +127,7 @@ LinkResult Comms::ReadRealTime() {
 }
 
 LinkResult Comms::SetOutput(std::int16_t mask) {
-  const int count = std::clamp<int>(records_.profile.OutputCount, 0, kMaskBits);
+  const int count = std::clamp<int>(records_.profile.OutputCount, 0, kOutputBits);
   return Keep(line_.Converse(line_.TimeFor(static_cast<std::size_t>(count)), [&] {
     return SwitchOutputs(line_, static_cast<std::uint16_t>(mask), count);
   }));
@@ -155,6 +155,12 @@ LinkResult Comms::WriteAutVoz(const ConfAutVoz& list) {
 
 LinkResult Comms::ReadAutVozList(ConfAutVoz& list) {
   return Keep(line_.Converse(kAnyTime, [&] { return voice_.Read(list); }));
+}
+
+LinkResult Comms::SendFirmware(const FirmwareFiles& files,
+                               const FirmwareDialogue::OnStage& onStage) {
+  return Keep(line_.Converse(
+      kAnyTime, [&] { return FirmwareDialogue(line_, progress_).Run(files, onStage); }));
 }
 
 LinkResult Comms::Set(std::string message, std::string_view answer) {

@@ -7,7 +7,6 @@
 #include "base/Scope.h"
 #include "desktop/forms/Words.h"
 #include "desktop/program/Language.h"
-#include "host/TraceFile.h"
 
 namespace ostrel {
 
@@ -21,7 +20,6 @@ Desktop::Desktop(const Platform& platform, const ConfiguratorOptions& options,
                .platform = platform_,
                .guard = [this](const std::function<void()>& run) { Guarded(run); },
                .dataFolder = dataFolder}) {
-  configurator_.tools.openRecording = OpenRecording;
   configurator_.context.clipboardText = [] { return FromQt(QGuiApplication::clipboard()->text()); };
 }
 
