@@ -24,6 +24,7 @@ enum class Sign {
   Compare,
   Channels,
   Schedule,
+  Live,
   Trace,
   Findings,
   Language

@@ -50,6 +50,14 @@ MainWindow::MainWindow(const WindowParts& parts)
       traceLog_(parts.platform.loop, parts.platform.clock),
       trace_(new TraceView(traceLog_, this)),
       findings_(new FindingsPanel(this)),
+      live_({.window = *this,
+             .configurator = configurator_,
+             .platform = parts.platform,
+             .guard = parts.guard,
+             .dataFolder = parts.dataFolder,
+             .save = [this](const QString& kind, const QString& ending,
+                            const std::string& octets) { SaveBeside(kind, ending, octets); },
+             .goTo = [this](const std::string& node) { GoTo(node); }}),
       overview_({configurator_, unsaved_, *tree_, *pages_, *group_, *findings_}) {
   auto* splitter = new QSplitter(this);
   auto* sheet = new QWidget(this);
@@ -290,6 +298,7 @@ void MainWindow::Look() {
   overview_.Look();
   if (timersSeen_ != unsaved_.Touches()) ShowTimers();
   if (comparing_ && !configurator_.session.OwnsModel()) comparing_->Look();
+  live_.Look(shownFile_);
 }
 
 void MainWindow::ShowTitle() {

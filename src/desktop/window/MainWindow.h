@@ -9,6 +9,7 @@
 #include "desktop/forms/Icons.h"
 #include "desktop/program/PortWatch.h"
 #include "desktop/window/FaultNote.h"
+#include "desktop/window/LivePanels.h"
 #include "desktop/window/Overview.h"
 #include "desktop/window/PageArea.h"
 #include "desktop/window/ScheduleView.h"
@@ -102,7 +103,8 @@ class MainWindow final : public QMainWindow {
   void ShowSchedule();
   Schedule PresentSchedule() const;
   void ShowTrace(bool on);
-  void SaveTrace();
+  /// Saves octets to a file that the operator chooses. `kind` is in words.
+  void SaveBeside(const QString& kind, const QString& ending, const std::string& octets);
   /// Says in a box what went wrong.
   void Tell(const QString& words);
 
@@ -219,11 +221,13 @@ class MainWindow final : public QMainWindow {
   TraceLog traceLog_;
   TraceView* trace_;
   FindingsPanel* findings_;
+  LivePanels live_;
   Overview overview_;
   QToolBar* bar_ = nullptr;
   QAction *open_ = nullptr, *save_ = nullptr, *saveAs_ = nullptr, *language_ = nullptr,
           *recentFiles_ = nullptr, *safetyCopies_ = nullptr, *compare_ = nullptr,
-          *channels_ = nullptr, *schedule_ = nullptr, *traceSwitch_ = nullptr,
+          *channels_ = nullptr, *schedule_ = nullptr, *liveTools_ = nullptr,
+          *traceSwitch_ = nullptr,
           *findingsSwitch_ = nullptr;
   bool following_ = false;
   QString success_;                    ///< what the status bar says of the last writing

@@ -71,6 +71,7 @@ void MainWindow::Rest(bool rests) {
     action->setEnabled(!rests && !isUpdating_);
   trace_->SetMaySave(!rests && !isUpdating_);
   if (comparing_) comparing_->Rest(rests || isUpdating_);
+  live_.SetMaySave(!rests && !isUpdating_);
   if (pages_->isEnabled() != rests) return;
   QWidget* const present = focusWidget();
   if (rests) focus_ = pages_->isAncestorOf(present) ? present : nullptr;

@@ -47,6 +47,12 @@ void MainWindow::MakeToolBar() {
   channels_ = AddAction(Sign::Channels, {}, {});
   AddMenu(channels_, [this](QMenu& menu) { FillChannels(menu); });
   schedule_ = AddAction(Sign::Schedule, {}, [this] { ShowSchedule(); });
+  liveTools_ = AddAction(Sign::Live, {}, {});
+  auto* liveMenu = new QMenu(this);
+  live_.AddTo(*liveMenu);
+  liveTools_->setMenu(liveMenu);
+  static_cast<QToolButton*>(bar_->widgetForAction(liveTools_))
+      ->setPopupMode(QToolButton::InstantPopup);
   traceSwitch_ = AddAction(Sign::Trace, QKeySequence("Ctrl+T"), {});
   traceSwitch_->setCheckable(true);
   connect(traceSwitch_, &QAction::toggled, this, [this](bool on) { ShowTrace(on); });
@@ -63,7 +69,9 @@ void MainWindow::MakeToolBar() {
     if (findings_->isHidden()) findingsSwitch_->setChecked(false);
   });
   bar_->addSeparator();
-  trace_->OnSave = [this] { parts_.guard([this] { SaveTrace(); }); };
+  trace_->OnSave = [this] {
+    parts_.guard([this] { SaveBeside(Words::tr("Trace"), "txt", trace_->Text()); });
+  };
   auto* find = new QAction(this);
   find->setShortcut(QKeySequence::Find);
   connect(find, &QAction::triggered, this, [this] { tree_->FocusFilter(); });
@@ -109,6 +117,8 @@ void MainWindow::Retranslate() {
   name(compare_, Words::tr("Compare"), Words::tr("Compare pages, logger, files and safety copies"));
   name(channels_, Words::tr("Channel"), Words::tr("Copy and paste channels and alarms"));
   name(schedule_, Words::tr("Schedule"), Words::tr("Show when the timers fire"));
+  name(liveTools_, Words::tr("Live"), Words::tr("Plot live values, and accept the installation"));
+  live_.Retranslate();
   name(traceSwitch_, Words::tr("Trace"), Words::tr("Show what goes over the line"));
   name(findingsSwitch_, Words::tr("Findings"),
        Words::tr("Show what the check finds in the configuration"));
@@ -263,13 +273,13 @@ void MainWindow::ShowTrace(bool on) {
   if (on) trace_->Follow();
 }
 
-void MainWindow::SaveTrace() {
+void MainWindow::SaveBeside(const QString& kind, const QString& ending, const std::string& octets) {
   const auto path = parts_.platform.dialogs.ChooseFile(
       {.mode = FileQuestion::Mode::Save,
-       .filter = FromQt(Words::tr("Trace") + "|*.txt|" + Words::tr("All files") + "|*.*"),
+       .filter = FromQt(kind + "|*." + ending + "|" + Words::tr("All files") + "|*.*"),
        .overwritePrompt = true});
   if (!path) return;
-  const FileResult saved = SaveWhole(parts_.platform.files, *path, trace_->Text());
+  const FileResult saved = SaveWhole(parts_.platform.files, *path, octets);
   if (!saved.Ok())
     Tell(Words::tr("%1 could not be written: %2").arg(ToQt(*path), ToQt(saved.error)));
 }
