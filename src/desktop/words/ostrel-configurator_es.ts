@@ -2249,8 +2249,6 @@
         <translation><numerusform>%n más</numerusform><numerusform>%n más</numerusform></translation>
     </message>
     <message>
-    </message>
-    <message>
         <source>Plot</source>
         <translation>Gráfica</translation>
     </message>
