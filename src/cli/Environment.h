@@ -34,7 +34,9 @@ struct Environment {
   std::function<int(const std::string& path)> numberOfDevice;
   /// Opens a text file that grows while the command runs; null when it may not be written, which
   /// `why` tells.
-  std::function<std::unique_ptr<std::ostream>(const std::string& path, std::string& why)> openLog;
+  OpenLogFile openLog;
+  /// The same for a recording of live values.
+  OpenLogFile openRecording{};
   /// Opens a text file to which is added while the command runs.
   OpenLogFile openGrowing;
   /// Gives the lines of standard input as they come, and then its end, for as long as the result

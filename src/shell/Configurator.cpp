@@ -97,6 +97,9 @@ Configurator::Configurator(const Platform& platform, ConfiguratorOptions options
             .profile = profile,
             .totals = totals,
             .Connected = Connected,
+            .live = live,
+            .info = info,
+            .conf = conf,
             .ConfFilePath = ConfFilePath,
             .Translate = [this](std::string_view text) { return context.Translate(text); },
             .ShowHelp = [this](std::string_view word) { context.ShowHelp(word); },
@@ -105,8 +108,13 @@ Configurator::Configurator(const Platform& platform, ConfiguratorOptions options
                 [this](const FirmwareFiles& files, const FirmwareDialogue::OnStage& onStage) {
                   return session.SendFirmware(files, onStage);
                 },
-            .OpenLog = options_.openLog},
+            .OpenLog = options_.openLog,
+            .OpenRecording = options_.openRecording},
       actEdit(context),
+      livePoll(tools),
+      recorder(tools, livePoll),
+      monitor(tools, livePoll, recorder),
+      cathodicMonitor(tools, livePoll, recorder),
       setTotal(tools, kMainCounters),
       expSetTotal(tools, kExpansionCounters),
       ayuda(tools),
@@ -118,6 +126,8 @@ Configurator::Configurator(const Platform& platform, ConfiguratorOptions options
       firm(tools),
       terminal(tools),
       fronts_{{ToolId::TargetSelect, &targetSelect},
+              {ToolId::T_Real_Tavro, &monitor},
+              {ToolId::T_Real_Katodex, &cathodicMonitor},
               {ToolId::Firm, &firm},
               {ToolId::Terminal, &terminal}} {
   if (options_.ticking) general.OnScanPorts = [this] { comms.ScanPorts(); };
@@ -136,7 +146,11 @@ void Configurator::ConnectPages() {
   };
   context.showActEdit = [this](std::string_view subject) { actEdit.ShowModal(subject); };
   context.showTotal = setsTotal(setTotal);
-  context.showExpansionTotal = setsTotal(expSetTotal);
+  context.showExpansionTotal = [this, set = setsTotal(expSetTotal)](std::int16_t index) {
+    set(index);
+    // The total of an expansion counter comes with the live values alone.
+    if (Connected) comms.ReadRealTime();
+  };
   context.showPulseCalculator = [this](TextBox& field) { ayuda.ShowModal(field); };
   context.showMaskCalculator = [this] { ayudaHex.ShowModal(); };
   context.readProbeIdentity = [this]() -> std::optional<ProbeIdentity> {

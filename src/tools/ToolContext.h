@@ -7,6 +7,8 @@
 #include <string_view>
 
 #include "link/Comms.h"
+#include "model/DeviceConf.h"
+#include "model/DeviceInfo.h"
 #include "model/RealTimeData.h"
 #include "model/TargetProfile.h"
 #include "platform/Clock.h"
@@ -24,6 +26,9 @@ struct ToolContext {
   const TargetProfile& profile;
   const TotalCounts& totals;
   const bool& Connected;
+  const RealTimeData& live;
+  const DeviceInfo& info;
+  const DeviceConf& conf;
   std::string& ConfFilePath;
   /// The text in the language in use.
   std::function<std::string(std::string_view text)> Translate;
@@ -35,6 +40,9 @@ struct ToolContext {
   std::function<LinkResult(const FirmwareFiles&, const FirmwareDialogue::OnStage&)> SendFirmware;
   /// Opens a file to which is added as things come. Null when it cannot be, which `why` tells.
   OpenLogFile OpenLog;
+  /// Opens a file to which rows are added as they come, in place of what it held; null when it may
+  /// not be written, which `why` tells.
+  OpenLogFile OpenRecording;
 };
 
 }  // namespace ostrel

@@ -159,12 +159,6 @@ TEST(SimFault, UploadsThatFail) {
   SimBench second(Model::BP, "wrong-closing@2");
   for (const char* answer : {"#B91", "#B90", "#B91", "#B90"})
     EXPECT_EQ(second.UploadAll(statements), answer);
-  for (const char* text :
-       {"refuse-statement@1!once", "silent-after-statement@1!once", "wrong-closing!once"}) {
-    SimBench bench(Model::BP, text);
-    EXPECT_NE(bench.UploadAll(statements), "#B91") << text;
-    EXPECT_EQ(bench.UploadAll(statements), "#B91") << text;
-  }
 }
 
 TEST(SimFault, ATornRefusalComesInTwoParts) {

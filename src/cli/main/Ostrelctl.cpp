@@ -39,6 +39,7 @@ int Run(const std::vector<std::string>& args) {
       .shippedLang = LangIn(ShippedFolder()),
       .numberOfDevice = [&](const std::string& path) { return machine.NumberOfDevice(path); },
       .openLog = OpenTrace,
+      .openRecording = OpenRecording,
       .openGrowing = OpenLog,
       .watchInput =
           [&](InputLines::OnLine onLine, InputLines::OnEnd onEnd) {

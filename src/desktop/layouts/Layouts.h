@@ -51,6 +51,8 @@ void LayOutActEdit(FormView& view);
 void LayOutPWForm(FormView& view);
 void LayOutLang(FormView& view);
 void LayOutTargetSelect(FormView& view);
+void LayOutMonitor(FormView& view);
+void LayOutCathodicMonitor(FormView& view);
 void LayOutFirm(FormView& view);
 void LayOutTerminal(FormView& view);
 

@@ -34,10 +34,13 @@ int RunWindow(const CommandLine& line) {
   machine.files.MakeFolder(UserDataFolder());
   const std::string langFile =
       SeedLang(machine.files, LangIn(ShippedFolder()), LangIn(UserDataFolder()));
-  Desktop desktop(
-      machine.With(dialogs, processes),
-      {.programFolder = ShippedFolder(), .langFile = langFile, .openLog = OpenLog, .ticking = true},
-      UserDataFolder());
+  Desktop desktop(machine.With(dialogs, processes),
+                  {.programFolder = ShippedFolder(),
+                   .langFile = langFile,
+                   .openLog = OpenLog,
+                   .openRecording = OpenRecording,
+                   .ticking = true},
+                  UserDataFolder());
   dialogs.StandBefore(desktop.Window());
   machine.loop.SetFaultHandler([&](std::exception_ptr fault) { desktop.ShowFault(fault); });
   desktop.Window().show();  // ahead of the first questions, which want a window behind them

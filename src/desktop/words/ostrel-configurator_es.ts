@@ -2057,6 +2057,42 @@
         <translation>tiempo entre intentos FTP</translation>
     </message>
     <message>
+        <source>not read</source>
+        <translation>sin leer</translation>
+    </message>
+    <message>
+        <source>last read at %1</source>
+        <translation>última lectura a las %1</translation>
+    </message>
+    <message>
+        <source>inside</source>
+        <translation>dentro</translation>
+    </message>
+    <message>
+        <source>within the hysteresis</source>
+        <translation>dentro de la histéresis</translation>
+    </message>
+    <message>
+        <source>below the minimum</source>
+        <translation>por debajo del mínimo</translation>
+    </message>
+    <message>
+        <source>above the maximum</source>
+        <translation>por encima del máximo</translation>
+    </message>
+    <message>
+        <source>Alarm limits</source>
+        <translation>Límites de alarma</translation>
+    </message>
+    <message>
+        <source>%1 to %2, hysteresis %3</source>
+        <translation>de %1 a %2, histéresis %3</translation>
+    </message>
+    <message>
+        <source>Switch output %1 over</source>
+        <translation>Cambiar el estado de la salida %1</translation>
+    </message>
+    <message>
         <source>Files</source>
         <translation>Ficheros</translation>
     </message>
