@@ -41,6 +41,15 @@ TEST(Online, ReadsAndSetsTheClock) {
   }
 }
 
+/// A clock that came damaged is not compared.
+TEST(Online, ADamagedLineIsNoReasonToAskAboutTheClock) {
+  for (int place = 1; place <= 12; ++place) {
+    World world(WithFaults({"bad-checksum@" + std::to_string(place)}));
+    world.Run("info --port sim:VR200");
+    EXPECT_THAT(world.err, testing::Not(HasSubstr("hora del dispositivo"))) << place;
+  }
+}
+
 TEST(Online, ShowsLiveValues) {
   World world;
   EXPECT_EQ(world.Run("live --port sim:VR200"), 0);
@@ -52,6 +61,44 @@ TEST(Online, ShowsLiveValues) {
   EXPECT_EQ(live["analog"].toArray().size(), 1);
   EXPECT_EQ(live["flows"].toArray().size(), 2);
   EXPECT_EQ(live["modbus"].toArray().size(), 0);
+}
+
+TEST(Online, RecordsLiveValues) {
+  World world;
+  std::ostringstream file;
+  world.environment.openRecording = [&](const std::string& path,
+                                        std::string& why) -> std::unique_ptr<std::ostream> {
+    why = "it is a folder";
+    if (path != "/day.csv") return nullptr;
+    return std::make_unique<std::ostream>(file.rdbuf());
+  };
+  const std::string watch = "live --port sim:BQ --watch --interval 2000 --count 3 --csv ";
+  const TimePoint begun = world.loop.Now();
+  EXPECT_EQ(world.Run(watch + "/day.csv"), 0) << world.err;
+  EXPECT_GE(world.loop.Now() - begun, std::chrono::seconds(4));
+  EXPECT_THAT(file.str(), testing::StartsWith("utc,local,DI0,DI1,"));
+  EXPECT_THAT(file.str(), HasSubstr("AI0 Presión red [bar]"));
+  EXPECT_EQ(std::ranges::count(file.str(), '\n'), 4);
+  EXPECT_THAT(world.out, HasSubstr("flow meter 1 "));
+  EXPECT_EQ(world.Run(watch + "-"), 0);
+  EXPECT_EQ(std::ranges::count(world.out, '\n'), 4) << "the table alone";
+  EXPECT_EQ(world.Run(watch + "/"), 5);
+  EXPECT_THAT(world.err, HasSubstr("cannot write the values to /: it is a folder"));
+  EXPECT_EQ(world.Run("live --port sim:BQ --count 3"), 2);
+}
+
+TEST(Online, AWatchGoesOnOverARoundThatFailed) {
+  World world([](sim::Model model) {
+    sim::LoggerOptions options = sim::MakeDefaultOptions(model);
+    std::string error;
+    for (int request = 14; request < 20; ++request)
+      options.faults.push_back(
+          *sim::ParseFault("silent@" + std::to_string(request) + "!once", error));
+    return options;
+  });
+  EXPECT_EQ(world.Run("live --port sim:BP --watch --count 6 --csv -"), 0) << world.err;
+  EXPECT_EQ(std::ranges::count(world.out, '\n'), 7);
+  EXPECT_THAT(world.out, HasSubstr(",,,,,")) << "a gap";
 }
 
 TEST(Online, WatchesUntilInterrupted) {
@@ -250,14 +297,11 @@ TEST(Online, AnInterruptAtAQuestionEndsTheCommand) {
   };
   world.Expect("info --port sim:VR200 --phone 600100200", 4, "interrupted before a session stood");
   World cable;
-  cable.HaveFile("/ka1.ocf", "KA1");
   cable.environment.ask = world.environment.ask;
   cable.Logger().SetClock({2026, 3, 2, 8, 0, 0});
   EXPECT_EQ(cable.Run("info --port sim:VR200"), 4);
   EXPECT_EQ(cable.out, "");
-  EXPECT_EQ(cable.Run("upload /ka1.ocf --port sim:VR200"), 4);
-  EXPECT_EQ(cable.Logger().UploadsTaken(), 0U);
-  EXPECT_EQ(asked, 3) << "nobody is asked twice";
+  EXPECT_EQ(asked, 2) << "nobody is asked twice";
 }
 
 }  // namespace

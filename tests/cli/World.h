@@ -59,6 +59,8 @@ struct World : VirtualWorld {
                           .shippedLang = "/share/Lang.txt",
                           .numberOfDevice = [](const std::string&) { return 0; },
                           .openLog = {},
+                          .openGrowing = {},
+                          .watchInput = {},
                           .onInterrupt = {},
                           .interrupted = {}};
 

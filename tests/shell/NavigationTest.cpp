@@ -146,7 +146,8 @@ TEST_F(NavigationFixture, ShowsOnePageAndCommitsTheOneThatLeaves) {
   EXPECT_EQ(navigation.NodeClick("CTimer"), NodeResult::Nothing);
   EXPECT_FALSE(core.general.PageActive);
   EXPECT_THAT(Visible(), ElementsAre());
-  EXPECT_EQ(navigation.NodeClick("Firmware"), NodeResult::NotBuilt);
+  core.TargetDeviceChange("Tavro BP");
+  EXPECT_EQ(navigation.NodeClick("TEST"), NodeResult::NotBuilt);
   EXPECT_EQ(navigation.Front(), nullptr);
 }
 

@@ -14,6 +14,7 @@
 #include "host/Folders.h"
 #include "host/LangSeed.h"
 #include "host/Machine.h"
+#include "host/TraceFile.h"
 #include "platform/qt/QtProcesses.h"
 
 namespace {
@@ -29,12 +30,16 @@ int RunWindow(const CommandLine& line) {
   if (line.demo) machine.AddSimulatedLoggers().Port().SetPaced(true);
   QtProcesses realProcesses(ShowDocument);
   QtDialogs dialogs;
-  HelpProcesses processes(realProcesses, dialogs);
+  HelpProcesses processes(realProcesses, dialogs, ShippedFolder() + "/help");
   machine.files.MakeFolder(UserDataFolder());
   const std::string langFile =
       SeedLang(machine.files, LangIn(ShippedFolder()), LangIn(UserDataFolder()));
   Desktop desktop(machine.With(dialogs, processes),
-                  {.programFolder = ShippedFolder(), .langFile = langFile, .ticking = true},
+                  {.programFolder = ShippedFolder(),
+                   .langFile = langFile,
+                   .openLog = OpenLog,
+                   .openRecording = OpenRecording,
+                   .ticking = true},
                   UserDataFolder());
   dialogs.StandBefore(desktop.Window());
   machine.loop.SetFaultHandler([&](std::exception_ptr fault) { desktop.ShowFault(fault); });
