@@ -2435,6 +2435,8 @@
     <message>
         <source>time</source>
         <translation>hora</translation>
+    </message>
+    <message>
         <source>not read</source>
         <translation>sin leer</translation>
     </message>
@@ -2477,6 +2479,8 @@
     <message>
         <source>Inactive</source>
         <translation>Inactiva</translation>
+    </message>
+    <message>
         <source>Files</source>
         <translation>Ficheros</translation>
     </message>
