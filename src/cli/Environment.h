@@ -9,6 +9,7 @@
 
 #include "host/SimulatedLoggers.h"
 #include "platform/Platform.h"
+#include "platform/PortFacts.h"
 
 namespace ostrel::cli {
 
@@ -19,6 +20,7 @@ struct Environment {
 
   Platform platform;  ///< ports with the simulated loggers at their numbers; dialogs ask nobody
   SimulatedLoggers& simulated;
+  PortInspector& inspector;  ///< of the machine's own ports
   std::ostream& out;
   std::ostream& err;
   bool errIsTerminal = false;
@@ -34,6 +36,13 @@ struct Environment {
   /// Opens a text file that grows while the command runs; null when it may not be written, which
   /// `why` tells.
   std::function<std::unique_ptr<std::ostream>(const std::string& path, std::string& why)> openLog;
+  /// Opens a file for a recording of the line in the same way.
+  std::function<std::unique_ptr<std::ostream>(const std::string& path, std::string& why)>
+      openRecording;
+  /// A text of this program in a language such as "es"; empty where there is English alone.
+  std::function<std::string(std::string_view language, std::string_view text)> translate;
+  /// A document in HTML as the octets of a PDF file; empty when it cannot be made.
+  std::function<std::string(const std::string& html)> makePdf;
   /// What an interrupt does; set by a command for as long as it has a port open.
   std::function<void()> onInterrupt;
   /// Whether a signal has come that ends the program, served or not; empty where none can come.

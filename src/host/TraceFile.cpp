@@ -10,6 +10,8 @@
 #include <string_view>
 #include <system_error>
 
+#include "recording/Recording.h"
+
 namespace ostrel {
 namespace {
 
@@ -54,16 +56,27 @@ class DescriptorStream final : public std::ostream {
   DescriptorBuffer buffer_;
 };
 
-/// Whether a file is empty or begins as a trace does: each of its lines says early which way it
-/// went.
-bool HoldsNothingElse(int descriptor) {
+/// Whether a trace begins so: each of its lines says early which way it went.
+bool IsTrace(std::string_view line) {
+  for (const std::string_view word : {"TxSer", "RxSer", "TxGsm", "RxGsm", "octets"})
+    if (line.find(word) != std::string_view::npos) return true;
+  return false;
+}
+
+bool IsRecording(std::string_view line) { return line == kRecordingHead; }
+
+/// A kind of file that grows while the line is in use.
+struct LogKind {
+  bool (*begins)(std::string_view firstLine);
+  const char* otherwise;  ///< why a file of another kind is not replaced
+};
+
+/// Whether a file is empty or begins as one of its kind does.
+bool HoldsNothingElse(int descriptor, const LogKind& kind) {
   std::array<char, 256> start{};
   const ssize_t got = ::pread(descriptor, start.data(), start.size(), 0);
   const std::string_view text(start.data(), got > 0 ? static_cast<std::size_t>(got) : 0);
-  const std::string_view line = text.substr(0, text.find('\n'));
-  for (const std::string_view word : {"TxSer", "RxSer", "TxGsm", "RxGsm", "octets"})
-    if (line.find(word) != std::string_view::npos) return true;
-  return text.empty();
+  return text.empty() || kind.begins(text.substr(0, text.find('\n')));
 }
 
 std::string WordsOf(int error) {
@@ -71,9 +84,8 @@ std::string WordsOf(int error) {
   return std::generic_category().message(error);
 }
 
-}  // namespace
-
-std::unique_ptr<std::ostream> OpenTrace(const std::string& path, std::string& why) {
+std::unique_ptr<std::ostream> OpenLog(const std::string& path, const LogKind& kind,
+                                      std::string& why) {
   // Non-blocking: a pipe that nobody reads holds nothing up.
   constexpr int kFlags = O_CREAT | O_NONBLOCK | O_NOCTTY | O_CLOEXEC;
   struct stat state {};
@@ -85,8 +97,8 @@ std::unique_ptr<std::ostream> OpenTrace(const std::string& path, std::string& wh
   }
   auto stream = std::make_unique<DescriptorStream>(descriptor);
   if (isPipe) return stream;
-  if (!HoldsNothingElse(descriptor)) {
-    why = "it holds something else than a trace";
+  if (!HoldsNothingElse(descriptor, kind)) {
+    why = kind.otherwise;
     return nullptr;
   }
   if (::fchmod(descriptor, kOwnFile) != 0 || ::ftruncate(descriptor, 0) != 0) {
@@ -94,6 +106,16 @@ std::unique_ptr<std::ostream> OpenTrace(const std::string& path, std::string& wh
     return nullptr;
   }
   return stream;
+}
+
+}  // namespace
+
+std::unique_ptr<std::ostream> OpenTrace(const std::string& path, std::string& why) {
+  return OpenLog(path, {IsTrace, "it holds something else than a trace"}, why);
+}
+
+std::unique_ptr<std::ostream> OpenRecording(const std::string& path, std::string& why) {
+  return OpenLog(path, {IsRecording, "it holds something else than a recording"}, why);
 }
 
 }  // namespace ostrel

@@ -12,4 +12,7 @@ namespace ostrel {
 /// tells.
 std::unique_ptr<std::ostream> OpenTrace(const std::string& path, std::string& why);
 
+/// The same for a recording of the line, which replaces a former recording alone.
+std::unique_ptr<std::ostream> OpenRecording(const std::string& path, std::string& why);
+
 }  // namespace ostrel

@@ -69,6 +69,9 @@ class Comms {
   /// Closes the port at once, without any dialogue: a running wait ends, and with it the dialogue,
   /// which fails.
   void Abort() { line_.Close(); }
+  /// Leaves the closed port to somebody else for some work: no dialogue begins meanwhile, and what
+  /// the carrier does is none of ours. False when a dialogue runs or the port is open.
+  bool LendPort(const std::function<void()>& work);
   std::string GetChar(int timeout) { return line_.GetChar(timeout); }
   void Delay(int ms) { line_.Delay(ms); }
   void PumpEvents() { line_.PumpEvents(); }
@@ -153,6 +156,7 @@ class Comms {
   VoiceDialogue voice_;
   LinkFault fault_;
   LinkFault infoFault_{LinkFault::Kind::Silence};
+  bool lent_ = false;
   bool opened_ = false;  ///< the open port is ours to close
   std::optional<TimePoint> carrierGoneAt_;
 

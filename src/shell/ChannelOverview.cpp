@@ -12,19 +12,6 @@
 namespace ostrel {
 namespace {
 
-/// Whether a field counts: an expansion input keeps those of the modes that it is not in, too.
-bool IsInForce(const DeviceConf& conf, const FieldId& id) {
-  constexpr std::array<std::pair<const SectionMeta*, ExpansionMode>, 4> kSections{{
-      {&ExpansionInputs::kDigital, kModeDigital},
-      {&ExpansionInputs::kFlow, kModeFlow},
-      {&ExpansionInputs::kCounter, kModeCounter},
-      {&ExpansionInputs::kAnalog, kModeAnalog},
-  }};
-  for (const auto& [section, mode] : kSections)
-    if (id.section == section) return conf.Modulo[id.channel].MODO == mode;
-  return true;
-}
-
 bool IsOfChannel(const FieldId& id) { return id.slot.config < 0 && id.slot.place < 0; }
 
 /// Whether two fields of one place read alike.
@@ -55,6 +42,18 @@ class NodeFinder {
 };
 
 }  // namespace
+
+bool IsInForce(const DeviceConf& conf, const FieldId& id) {
+  constexpr std::array<std::pair<const SectionMeta*, ExpansionMode>, 4> kSections{{
+      {&ExpansionInputs::kDigital, kModeDigital},
+      {&ExpansionInputs::kFlow, kModeFlow},
+      {&ExpansionInputs::kCounter, kModeCounter},
+      {&ExpansionInputs::kAnalog, kModeAnalog},
+  }};
+  for (const auto& [section, mode] : kSections)
+    if (id.section == section) return conf.Modulo[id.channel].MODO == mode;
+  return true;
+}
 
 std::optional<ConstField> FieldOf(const Finding& finding, const std::vector<ConstField>& fields) {
   for (const ConstField& field : fields)

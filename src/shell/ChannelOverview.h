@@ -24,6 +24,9 @@ struct NodeFacts {
   std::optional<Severity> worst;  ///< of what the check finds
 };
 
+/// Whether a field counts: an expansion input keeps those of the modes that it is not in, too.
+bool IsInForce(const DeviceConf& conf, const FieldId& id);
+
 /// The facts of all nodes that have some, by their keys.
 using FactTable = std::map<std::string, NodeFacts, std::less<>>;
 FactTable FactsOfNodes(const ModelConfiguration& present, const DeviceConf& kept,

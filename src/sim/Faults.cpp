@@ -43,6 +43,10 @@ constexpr FaultRow kFaultRows[] = {
      "ends the voice list behind its N-th number"},
     {FaultKind::WrongSum, "wrong-sum", false, 1, -1,
      "tells each N-th check sum of the voice list wrong, or any"},
+    {FaultKind::Noise, "noise", false, 1, -1,
+     "answers each N-th request, or any, as a device of another speed"},
+    {FaultKind::Echo, "echo", false, 1, -1,
+     "sends each N-th request back, or any, as a loopback plug"},
 };
 
 const FaultRow& RowOf(FaultKind kind) {

@@ -27,7 +27,9 @@ enum class FaultKind {
   WrongClosing,
   RefuseCommand,
   SilentAfterNumber,
-  WrongSum
+  WrongSum,
+  Noise,
+  Echo
 };
 
 /// One fault switch. Where `last` is above `first`, each strike draws its number between the two.

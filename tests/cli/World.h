@@ -13,6 +13,7 @@
 #include <string_view>
 #include <vector>
 
+#include "FakeInspector.h"
 #include "cli/Ostrelctl.h"
 #include "host/SimulatedLoggers.h"
 #include "platform/SilentDialogs.h"
@@ -51,6 +52,7 @@ class World {
   SimulatedLoggers simulated;
   std::ostringstream outStream, errStream;
   SilentDialogs nobody;
+  FakeInspector inspector;
   Environment environment{.platform = {.loop = loop,
                                        .port = simulated.Port(),
                                        .settings = settings,
@@ -59,6 +61,7 @@ class World {
                                        .processes = processes,
                                        .clock = clock},
                           .simulated = simulated,
+                          .inspector = inspector,
                           .out = outStream,
                           .err = errStream,
                           .errIsTerminal = false,
@@ -70,6 +73,9 @@ class World {
                           .shippedLang = "/share/Lang.txt",
                           .numberOfDevice = [](const std::string&) { return 0; },
                           .openLog = {},
+                          .openRecording = {},
+                          .translate = {},
+                          .makePdf = {},
                           .onInterrupt = {},
                           .interrupted = {}};
 

@@ -4,83 +4,31 @@
 #include "cli/commands/Commands.h"
 #include "cli/commands/OnlineCommand.h"
 #include "host/LoggerText.h"
-#include "model/Features.h"
+#include "shell/LiveTable.h"
 
 namespace ostrel::cli {
 namespace {
 
 constexpr Duration kWatchInterval = std::chrono::seconds(1);
 
-/// One measured channel, ready to be shown.
-struct Measure {
-  int index;
-  std::variant<float, std::int32_t> value;
-  std::string name, unit;
-};
-
-/// The channels of one kind.
-struct Group {
-  std::string_view key;
-  std::string_view title;
-  std::vector<Measure> measures;
-};
-
-/// States told by the bits of a mask.
-struct States {
-  std::string_view key;
-  std::string_view title;
-  std::uint32_t mask;
-  int count;
-};
-
-template <class Values, class Names, class Units>
-Group MakeGroup(std::string_view key, std::string_view title, int count, const Values& values,
-                const Names& names, const Units& units) {
-  Group group{key, title, {}};
-  for (int i = 0; i < count; ++i) group.measures.push_back({i, values[i], names[i], units[i]});
-  return group;
+std::vector<LiveGroup> GroupsOf(const Online& online) {
+  const Configurator& configurator = online.configurator;
+  return LiveGroups(configurator.live, configurator.profile, configurator.info.Features);
 }
 
-std::vector<Group> GroupsOf(const Configurator& configurator) {
-  const TargetProfile& model = configurator.profile;
-  const RealTimeData& live = configurator.live;
-  const Bounded<std::string, 10> noUnits;
-  const int aux = model.IsKA1 || model.IsKA2 ? 4 : 0;
-  const int math = Has(configurator.info.Features, Feature::Math) ? model.MathCount : 0;
-  return {
-      MakeGroup("analog", "analog input", model.AnalogCount, live.AnalogValue, live.AnalogName,
-                live.AnalogUnit),
-      MakeGroup("counters", "counter", model.CaudalCount, live.CounterValue, live.CounterName,
-                noUnits),
-      MakeGroup("flows", "flow meter", model.CaudalCount, live.FlowValue, live.FlowName,
-                live.FlowUnit),
-      MakeGroup("math", "math channel", math, live.MathValue, live.MathName, live.MathUnit),
-      MakeGroup("modbus", "MODBUS channel", model.IsVR200 ? model.ModbusCount : 0, live.ModbusValue,
-                live.ModbusName, live.ModbusUnit),
-      MakeGroup("aux", "auxiliary input", aux, live.AuxValue, live.AuxName, live.AuxUnit),
-      MakeGroup("modules", "expansion input", model.ModuloCount, live.ModuloValue, live.ModuloName,
-                live.ModuloUnit),
-  };
-}
-
-std::vector<States> StatesOf(const Configurator& configurator) {
-  const RealTimeData& live = configurator.live;
-  return {{"digital", "digital inputs", static_cast<std::uint16_t>(live.DigitalMask),
-           configurator.profile.DigitalCount},
-          {"outputs", "outputs", static_cast<std::uint16_t>(live.OutputMask),
-           configurator.profile.OutputCount},
-          {"flags", "flags", static_cast<std::uint32_t>(live.FlagMask), 16}};
+std::vector<LiveStates> StatesOf(const Online& online) {
+  return LiveStatesOf(online.configurator.live, online.configurator.profile);
 }
 
 Json LiveJson(const Online& online) {
   Json live{{"time", ClockText(online.context.platform.clock.LocalNow())}};
-  for (const States& states : StatesOf(online.configurator)) {
+  for (const LiveStates& states : StatesOf(online)) {
     Json& list = live[std::string(states.key)] = Json::array();
     for (int i = 0; i < states.count; ++i) list.push_back((states.mask >> i & 1U) != 0);
   }
-  for (const Group& group : GroupsOf(online.configurator)) {
+  for (const LiveGroup& group : GroupsOf(online)) {
     Json& list = live[std::string(group.key)] = Json::array();
-    for (const Measure& measure : group.measures) {
+    for (const LiveMeasure& measure : group.measures) {
       const auto* number = std::get_if<float>(&measure.value);
       list.push_back(
           {{"index", measure.index},
@@ -94,18 +42,15 @@ Json LiveJson(const Online& online) {
 
 void PrintLive(std::ostream& out, const Online& online) {
   out << ClockText(online.context.platform.clock.LocalNow()) << '\n';
-  for (const States& states : StatesOf(online.configurator)) {
+  for (const LiveStates& states : StatesOf(online)) {
     if (states.count == 0) continue;
     out << states.title << ' ';
     for (int i = 0; i < states.count; ++i) out << ((states.mask >> i & 1U) != 0 ? '1' : '0');
     out << '\n';
   }
-  for (const Group& group : GroupsOf(online.configurator))
-    for (const Measure& measure : group.measures) {
-      const auto* number = std::get_if<float>(&measure.value);
-      const std::string value =
-          number ? DecText(*number) : std::to_string(std::get<std::int32_t>(measure.value));
-      out << group.title << ' ' << measure.index << ' ' << value;
+  for (const LiveGroup& group : GroupsOf(online))
+    for (const LiveMeasure& measure : group.measures) {
+      out << group.title << ' ' << measure.index << ' ' << LiveText(measure);
       if (!measure.unit.empty()) out << ' ' << Printable(measure.unit);
       if (!measure.name.empty()) out << "  " << Printable(measure.name);
       out << '\n';

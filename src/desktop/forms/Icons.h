@@ -21,8 +21,12 @@ enum class Sign {
   SaveAs,
   Recent,
   Copies,
+  Undo,
+  Redo,
   Compare,
   Schedule,
+  Report,
+  Doctor,
   Trace,
   Findings,
   Language

@@ -35,7 +35,7 @@ int RunWindow(const CommandLine& line) {
       SeedLang(machine.files, LangIn(ShippedFolder()), LangIn(UserDataFolder()));
   Desktop desktop(machine.With(dialogs, processes),
                   {.programFolder = ShippedFolder(), .langFile = langFile, .ticking = true},
-                  UserDataFolder());
+                  UserDataFolder(), machine.inspector);
   dialogs.StandBefore(desktop.Window());
   machine.loop.SetFaultHandler([&](std::exception_ptr fault) { desktop.ShowFault(fault); });
   desktop.Window().show();  // ahead of the first questions, which want a window behind them

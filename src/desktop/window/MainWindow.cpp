@@ -96,6 +96,7 @@ MainWindow::MainWindow(const WindowParts& parts)
     shownFile_.clear();  // it is of the former model
     ForgetSuccess();
     unsaved_.Touch();
+    StartHistory();
   };
   configurator_.OnForeignKeys = [this](const std::string& path,
                                        const std::vector<std::string>& lost) {
@@ -119,7 +120,10 @@ MainWindow::MainWindow(const WindowParts& parts)
   Retranslate();
 }
 
-MainWindow::~MainWindow() { LetGo(); }
+MainWindow::~MainWindow() {
+  Record(false);
+  LetGo();
+}
 
 std::function<void()> MainWindow::Following(void (MainWindow::*react)()) {
   return [this, react] {
@@ -165,6 +169,7 @@ void MainWindow::Follow() {
   tree_->Tree().setFocus();
   unsaved_.Keep(unsaved_.WithFront());
   TakeFile();
+  StartHistory();
   Look();
   overview_.ShowNode(shownNode_);
 }
@@ -189,6 +194,7 @@ void MainWindow::PaintTree() {
 
 void MainWindow::GoTo(const std::string& key) {
   const NodeResult result = navigation_.NodeClick(key);
+  NoteEdits();  // of the page that was left
   shownNode_ = key;
   tree_->Select(key);
   ShowGroup(key);
@@ -245,6 +251,7 @@ void MainWindow::ShowTitle() {
   if (windowTitle() != title) setWindowTitle(title);
   setWindowModified(unsaved_.Changed());
   if (isWindowModified()) ForgetSuccess();
+  ShowHistory();
 }
 
 std::optional<ModelConfiguration> MainWindow::ReadFile(const std::string& path) const {

@@ -4,6 +4,8 @@
 #include <QPointer>
 #include <QString>
 #include <functional>
+#include <memory>
+#include <ostream>
 #include <string>
 
 #include "desktop/forms/Icons.h"
@@ -15,8 +17,12 @@
 #include "desktop/window/TraceView.h"
 #include "desktop/window/TreePane.h"
 #include "platform/Platform.h"
+#include "platform/PortFacts.h"
+#include "platform/TappedPort.h"
+#include "recording/Recorder.h"
 #include "shell/Comparison.h"
 #include "shell/ConfigurationFile.h"
+#include "shell/EditHistory.h"
 #include "shell/Navigation.h"
 #include "shell/RecentFiles.h"
 #include "shell/SafetyCopies.h"
@@ -41,6 +47,8 @@ struct WindowParts {
   const Platform& platform;
   Guard guard;
   std::string dataFolder;  ///< the user's own
+  TappedPort& port;        ///< that of the platform
+  PortInspector& inspector;
 };
 
 /// The window: tool bar, tree, the page in front, and the state of the link. It draws and asks; all
@@ -98,6 +106,19 @@ class MainWindow final : public QMainWindow {
   void ShowSchedule();
   void ShowTrace(bool on);
   void SaveTrace();
+  /// Begins a recording of the line in a file that the operator names, or ends it.
+  void Record(bool on);
+  void ShowDoctor();
+  /// Saves a commissioning report of what stands on the pages.
+  void SaveReport();
+  /// What was edited since it was opened goes or comes back, a page at a time.
+  void Undo();
+  void Redo();
+  void GoBackTo(const EditHistory::Step& step);
+  /// Takes in what the page in front, or the one before it, has committed.
+  void NoteEdits();
+  void StartHistory();
+  void ShowHistory();
   /// Says in a box what went wrong.
   void Tell(const QString& words);
 
@@ -177,12 +198,16 @@ class MainWindow final : public QMainWindow {
   FaultNote* fault_;  ///< on the pages that have no place of their own for it
   TraceLog traceLog_;
   TraceView* trace_;
+  std::unique_ptr<std::ostream> recording_;
+  std::unique_ptr<Recorder> recorder_;
+  EditHistory edits_;
   FindingsPanel* findings_;
   Overview overview_;
   QToolBar* bar_ = nullptr;
   QAction *open_ = nullptr, *save_ = nullptr, *saveAs_ = nullptr, *language_ = nullptr,
           *recentFiles_ = nullptr, *safetyCopies_ = nullptr, *compare_ = nullptr,
-          *schedule_ = nullptr, *traceSwitch_ = nullptr, *findingsSwitch_ = nullptr;
+          *schedule_ = nullptr, *undo_ = nullptr, *redo_ = nullptr, *report_ = nullptr,
+          *doctor_ = nullptr, *traceSwitch_ = nullptr, *findingsSwitch_ = nullptr;
   bool following_ = false;
   QString success_;                   ///< what the status bar says of the last writing
   int writeStep_ = 0;                 ///< of a writing with its guards; 0 while there is none

@@ -45,8 +45,13 @@ void MainWindow::MakeToolBar() {
   safetyCopies_ = AddAction(Sign::Copies, {}, {});
   AddMenu(safetyCopies_, [this](QMenu& menu) { FillCopies(menu); });
   bar_->addSeparator();
+  undo_ = AddAction(Sign::Undo, QKeySequence::Undo, [this] { Undo(); });
+  redo_ = AddAction(Sign::Redo, QKeySequence::Redo, [this] { Redo(); });
+  bar_->addSeparator();
   compare_ = AddAction(Sign::Compare, {}, [this] { Compare(); });
   schedule_ = AddAction(Sign::Schedule, {}, [this] { ShowSchedule(); });
+  report_ = AddAction(Sign::Report, {}, [this] { SaveReport(); });
+  doctor_ = AddAction(Sign::Doctor, {}, [this] { ShowDoctor(); });
   traceSwitch_ = AddAction(Sign::Trace, QKeySequence("Ctrl+T"), {});
   traceSwitch_->setCheckable(true);
   connect(traceSwitch_, &QAction::toggled, this, [this](bool on) { ShowTrace(on); });
@@ -63,6 +68,7 @@ void MainWindow::MakeToolBar() {
     if (findings_->isHidden()) findingsSwitch_->setChecked(false);
   });
   bar_->addSeparator();
+  trace_->OnRecord = [this](bool on) { parts_.guard([&] { Record(on); }); };
   trace_->OnSave = [this] { parts_.guard([this] { SaveTrace(); }); };
   auto* find = new QAction(this);
   find->setShortcut(QKeySequence::Find);
@@ -108,6 +114,10 @@ void MainWindow::Retranslate() {
        Words::tr("Configurations read from loggers or sent to them"));
   name(compare_, Words::tr("Compare"), Words::tr("Compare the configuration with a file"));
   name(schedule_, Words::tr("Schedule"), Words::tr("Show when the timers fire"));
+  name(undo_, Words::tr("Undo"), Words::tr("Undo what was edited on a page"));
+  name(redo_, Words::tr("Redo"), Words::tr("Do again what was undone"));
+  name(report_, Words::tr("Report"), Words::tr("Save a commissioning report"));
+  name(doctor_, Words::tr("Link doctor"), Words::tr("Find out why nothing answers at the port"));
   name(traceSwitch_, Words::tr("Trace"), Words::tr("Show what goes over the line"));
   name(findingsSwitch_, Words::tr("Findings"),
        Words::tr("Show what the check finds in the configuration"));
@@ -152,6 +162,7 @@ void MainWindow::TakeFile() {
 void MainWindow::Opened() {
   ForgetSuccess();
   TakeFile();
+  StartHistory();
   // The file may be of a model that has not the channel in front.
   if (!tree_->Has(shownNode_)) GoTo("General");
 }

@@ -99,7 +99,10 @@ void MainWindow::ShowWritten(const WriteResult& result) {
 void MainWindow::TransferEnded(const TransferEnd& end) {
   if (!end.done || (writeStep_ > 0 && end.kind == SessionPhase::Reading)) return;
   unsaved_.Keep(end.held);
-  if (end.kind == SessionPhase::Reading) shownFile_.clear();
+  if (end.kind == SessionPhase::Reading) {
+    shownFile_.clear();
+    StartHistory();
+  }
   SafetyCopies::Held held{end.held, configurator_.profile, configurator_.info.SerialNumber};
   if (end.kind == SessionPhase::Reading) held.lines = configurator_.comms.DownloadedLines();
   const FileResult kept = copies_.Keep(held).result;
