@@ -9,8 +9,6 @@
 namespace ostrel {
 namespace {
 
-double Seconds(Duration duration) { return std::chrono::duration<double>(duration).count(); }
-
 void Report(benchmark::State& state, Duration took, Duration ideal) {
   state.counters["line_s"] = Seconds(took);
   state.counters["ideal_s"] = Seconds(ideal);

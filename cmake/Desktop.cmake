@@ -1,6 +1,8 @@
 # The window: what it links, its program and what it brings to an installation.
-find_package(Qt6 REQUIRED COMPONENTS Widgets DBus)
-target_link_libraries(ostrel_desktop PUBLIC Qt6::Widgets PRIVATE Qt6::DBus)
+find_package(Qt6 REQUIRED COMPONENTS Widgets PrintSupport DBus)
+find_package(QCustomPlotQt6 REQUIRED)
+target_link_libraries(ostrel_desktop PUBLIC Qt6::Widgets Qt6::PrintSupport
+                                            QCustomPlotQt6::QCustomPlotQt6 PRIVATE Qt6::DBus)
 
 add_executable(ostrel-configurator src/desktop/main/OstrelConfigurator.cpp)
 target_link_libraries(ostrel-configurator PRIVATE ostrel_desktop)

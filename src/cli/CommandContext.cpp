@@ -58,7 +58,7 @@ ExitCode CommandContext::StartRecording() {
   const std::string& path = options.record;
   if (path.empty()) return ExitCode::Done;
   std::string why;
-  recording_ = environment.openRecording(path, why);
+  recording_ = environment.openLineRecording(path, why);
   if (!recording_)
     return console.Fail(ExitCode::BadFile, "cannot write the recording to " + path + ": " + why);
   recorder_ = std::make_unique<Recorder>(

@@ -35,14 +35,15 @@ struct Environment {
   std::function<int(const std::string& path)> numberOfDevice;
   /// Opens a text file that grows while the command runs; null when it may not be written, which
   /// `why` tells.
-  std::function<std::unique_ptr<std::ostream>(const std::string& path, std::string& why)> openLog;
-  /// Opens a file for a recording of the line in the same way.
-  std::function<std::unique_ptr<std::ostream>(const std::string& path, std::string& why)>
-      openRecording;
+  using OpenGrowing =
+      std::function<std::unique_ptr<std::ostream>(const std::string& path, std::string& why)>;
+  OpenGrowing openLog;
+  /// The same for a recording of live values, and for one of the line.
+  OpenGrowing openRecording{}, openLineRecording{};
   /// A text of this program in a language such as "es"; empty where there is English alone.
-  std::function<std::string(std::string_view language, std::string_view text)> translate;
+  std::function<std::string(std::string_view language, std::string_view text)> translate{};
   /// A document in HTML as the octets of a PDF file; empty when it cannot be made.
-  std::function<std::string(const std::string& html)> makePdf;
+  std::function<std::string(const std::string& html)> makePdf{};
   /// What an interrupt does; set by a command for as long as it has a port open.
   std::function<void()> onInterrupt;
   /// Whether a signal has come that ends the program, served or not; empty where none can come.

@@ -12,7 +12,11 @@ namespace ostrel {
 /// tells.
 std::unique_ptr<std::ostream> OpenTrace(const std::string& path, std::string& why);
 
-/// The same for a recording of the line, which replaces a former recording alone.
+/// The same for a recording of live values, which takes the place of a former one alone. Who may
+/// read a new one is as for any new file.
 std::unique_ptr<std::ostream> OpenRecording(const std::string& path, std::string& why);
+
+/// The same for a recording of the line, which is its owner's alone.
+std::unique_ptr<std::ostream> OpenLineRecording(const std::string& path, std::string& why);
 
 }  // namespace ostrel

@@ -62,8 +62,11 @@ LinkResult Comms::StartComs(std::int16_t port, const std::string& phone) {
   carrierGoneAt_.reset();
   const LinkResult result = Keep(Opening(line_, AccessCode, hooks_.showPWForm).Run(port, phone));
   opened_ = result;
+  if (!result) return result;
   // A flag left behind by whatever ran before must not block the session.
-  if (result) LinkBusy = false;
+  LinkBusy = false;
+  // The values that are held may be those of another logger.
+  records_.live.reads = {};
   return result;
 }
 
@@ -126,7 +129,8 @@ LinkResult Comms::ReadIOParameter() {
 
 LinkResult Comms::ReadRealTime() {
   const auto requests = ValueRequests(records_.live, records_.profile, records_.info);
-  return line_.Converse(line_.TimeFor(requests.size()), [&] { return FetchLive(line_, requests); });
+  return line_.Converse(line_.TimeFor(requests.size()),
+                        [&] { return FetchLive(line_, requests, platform_.clock); });
 }
 
 LinkResult Comms::SetOutput(std::int16_t mask) {

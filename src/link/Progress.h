@@ -1,8 +1,6 @@
 #pragma once
 
-#include <functional>
-#include <memory>
-#include <vector>
+#include "base/Feed.h"
 
 namespace ostrel {
 
@@ -25,18 +23,7 @@ struct Progress {
   int expected = 0;  ///< how many there will be; 0 while that is not known
 };
 
-/// Hands the progress of dialogues to whoever listens, in the order of listening.
-class ProgressFeed {
- public:
-  using Listener = std::function<void(const Progress&)>;
-  /// Keeps a listener listening as long as it lives.
-  using Subscription = std::shared_ptr<const Listener>;
-
-  [[nodiscard]] Subscription Listen(Listener listener);
-  void Tell(const Progress& progress);
-
- private:
-  std::vector<std::weak_ptr<const Listener>> listeners_;
-};
+/// Tells how far dialogues are.
+using ProgressFeed = Feed<Progress>;
 
 }  // namespace ostrel

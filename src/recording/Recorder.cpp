@@ -35,7 +35,7 @@ std::string EventText(LineEvent event, const std::string& detail) {
 
 Recorder::Recorder(const EventLoop& loop, Sink sink, std::string_view remark)
     : loop_(loop), sink_(std::move(sink)), start_(loop.Now()) {
-  sink_(std::string(kRecordingHead) + "\n");
+  sink_(std::string(kLineRecordingHead) + "\n");
   sink_(RecordedLine({.kind = RecordedKind::Remark, .text = std::string(remark)}));
 }
 

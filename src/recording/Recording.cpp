@@ -111,7 +111,7 @@ std::optional<Recording> ReadRecording(std::string_view text, std::string& error
     std::string_view line = text.substr(0, text.find('\n'));
     text.remove_prefix(std::min(line.size() + 1, text.size()));
     if (line.ends_with('\r')) line.remove_suffix(1);
-    if (number == 1 && line != kRecordingHead) error = "it is no recording";
+    if (number == 1 && line != kLineRecordingHead) error = "it is no recording";
     if (number > 1 && !line.empty()) error = TakeLine(line, now, recording);
     if (error.empty()) continue;
     error = "line " + std::to_string(number) + ": " + error;

@@ -31,7 +31,7 @@ inline constexpr std::string_view kCarrierOffEvent = "carrier off";
 inline constexpr std::string_view kLostEvent = "lost";
 
 /// First line of a recording in its text form.
-inline constexpr std::string_view kRecordingHead = "ostrel recording 1";
+inline constexpr std::string_view kLineRecordingHead = "ostrel recording 1";
 
 /// A line of the text form, with its end; a time is a line of its own.
 std::string RecordedLine(const RecordedEvent& event);

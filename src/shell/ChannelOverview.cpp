@@ -12,8 +12,6 @@
 namespace ostrel {
 namespace {
 
-bool IsOfChannel(const FieldId& id) { return id.slot.config < 0 && id.slot.place < 0; }
-
 /// Whether two fields of one place read alike.
 bool IsSame(const ConstField& a, const ConstField& b, bool isS100) {
   return IsSameValue(a.value, b.value) || FieldText(a.value, isS100) == FieldText(b.value, isS100);
@@ -54,6 +52,8 @@ bool IsInForce(const DeviceConf& conf, const FieldId& id) {
     if (id.section == section) return conf.Modulo[id.channel].MODO == mode;
   return true;
 }
+
+bool IsOfChannel(const FieldId& id) { return id.slot.config < 0 && id.slot.place < 0; }
 
 std::optional<ConstField> FieldOf(const Finding& finding, const std::vector<ConstField>& fields) {
   for (const ConstField& field : fields)

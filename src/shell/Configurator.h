@@ -18,6 +18,7 @@
 #include "pages/General.h"
 #include "pages/Page.h"
 #include "pages/PageContext.h"
+#include "shell/FormId.h"
 #include "shell/LangForm.h"
 #include "shell/PWForm.h"
 #include "shell/Phrase.h"
@@ -27,7 +28,11 @@
 #include "store/IniTool.h"
 #include "tools/Ayuda.h"
 #include "tools/AyudaHex.h"
+#include "tools/LivePoll.h"
+#include "tools/LiveRecorder.h"
 #include "tools/SetTotal.h"
+#include "tools/T_Real_Katodex.h"
+#include "tools/T_Real_Tavro.h"
 #include "tools/ToolContext.h"
 
 namespace ostrel {
@@ -112,6 +117,8 @@ class Configurator {
   /// The page; null when this build has none.
   Page* PageOf(PageId id) const;
   const std::vector<std::unique_ptr<Page>>& Pages() const { return pages_; }
+  /// What the tree opens beside the pages; null when this build has none.
+  FrontForm* ToolOf(ToolId id) const;
   /// Every form of the program: the pages' and the dialogs'.
   std::vector<Form*> Forms();
   DeviceConf conf;
@@ -171,6 +178,10 @@ class Configurator {
   SessionDriver session;
   ToolContext tools;
   ActEdit actEdit;
+  LivePoll livePoll;
+  LiveRecorder recorder;
+  T_Real_Tavro monitor;
+  T_Real_Katodex cathodicMonitor;
   SetTotal setTotal;
   SetTotal expSetTotal;
   Ayuda ayuda;
@@ -178,6 +189,9 @@ class Configurator {
   PWForm pwForm;
   LangForm langForm;
   TargetSelect targetSelect;
+
+ private:
+  std::vector<std::pair<ToolId, FrontForm*>> fronts_;
 };
 
 }  // namespace ostrel

@@ -15,6 +15,7 @@ namespace ostrel {
 
 class Configurator;
 class Form;
+class FrontForm;
 class Page;
 
 /// What a click on a node came to.
@@ -82,6 +83,7 @@ class Navigation {
 
  private:
   Page* PageOf(FormId id) const;
+  FrontForm* ToolOf(FormId id) const;
   Form* FormOf(FormId id) const;
   bool StaysOpen(FormId id) const;
   void Hide();

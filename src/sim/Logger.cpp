@@ -41,7 +41,7 @@ Logger::Logger(EventLoop& loop, LineEnd& line, LoggerOptions options)
       plan_(options_.faults, options_.seed),
       sender_(loop, line, plan_, [this] { LoseCarrier(); }),
       upload_(Self()),
-      live_(Self(), options_.seed) {
+      live_(Self(), options_.seed, ToSeconds(options_.clockStart) + options_.clockOffsetSeconds) {
   SetClock(FromSeconds(ToSeconds(options_.clockStart) + options_.clockOffsetSeconds));
   if (!options_.modem) {
     line_.SetCarrier(true);

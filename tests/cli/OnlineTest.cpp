@@ -62,6 +62,44 @@ TEST(Online, ShowsLiveValues) {
   EXPECT_EQ(live["modbus"].toArray().size(), 0);
 }
 
+TEST(Online, RecordsLiveValues) {
+  World world;
+  std::ostringstream file;
+  world.environment.openRecording = [&](const std::string& path,
+                                        std::string& why) -> std::unique_ptr<std::ostream> {
+    why = "it is a folder";
+    if (path != "/day.csv") return nullptr;
+    return std::make_unique<std::ostream>(file.rdbuf());
+  };
+  const std::string watch = "live --port sim:BQ --watch --interval 2000 --count 3 --csv ";
+  const TimePoint begun = world.loop.Now();
+  EXPECT_EQ(world.Run(watch + "/day.csv"), 0) << world.err;
+  EXPECT_GE(world.loop.Now() - begun, std::chrono::seconds(4));
+  EXPECT_THAT(file.str(), testing::StartsWith("utc,local,DI0,DI1,"));
+  EXPECT_THAT(file.str(), HasSubstr("AI0 Presión red [bar]"));
+  EXPECT_EQ(std::ranges::count(file.str(), '\n'), 4);
+  EXPECT_THAT(world.out, HasSubstr("flow meter 1 "));
+  EXPECT_EQ(world.Run(watch + "-"), 0);
+  EXPECT_EQ(std::ranges::count(world.out, '\n'), 4) << "the table alone";
+  EXPECT_EQ(world.Run(watch + "/"), 5);
+  EXPECT_THAT(world.err, HasSubstr("cannot write the values to /: it is a folder"));
+  EXPECT_EQ(world.Run("live --port sim:BQ --count 3"), 2);
+}
+
+TEST(Online, AWatchGoesOnOverARoundThatFailed) {
+  World world([](sim::Model model) {
+    sim::LoggerOptions options = sim::MakeDefaultOptions(model);
+    std::string error;
+    for (int request = 14; request < 20; ++request)
+      options.faults.push_back(
+          *sim::ParseFault("silent@" + std::to_string(request) + "!once", error));
+    return options;
+  });
+  EXPECT_EQ(world.Run("live --port sim:BP --watch --count 6 --csv -"), 0) << world.err;
+  EXPECT_EQ(std::ranges::count(world.out, '\n'), 7);
+  EXPECT_THAT(world.out, HasSubstr(",,,,,")) << "a gap";
+}
+
 TEST(Online, WatchesUntilInterrupted) {
   World world;
   world.loop.After(std::chrono::seconds(10), "interrupt", [&] { world.environment.onInterrupt(); });

@@ -53,7 +53,7 @@ void PlaysAgain(const std::string& name) {
     return std::make_unique<Replay>(world.loop, end, *then, ReplayPace::Promptly);
   });
   std::string text;
-  world.environment.openRecording = [&](const std::string&, std::string&) {
+  world.environment.openLineRecording = [&](const std::string&, std::string&) {
     return std::make_unique<Kept>(text);
   };
   const int code =

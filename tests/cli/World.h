@@ -73,9 +73,6 @@ class World {
                           .shippedLang = "/share/Lang.txt",
                           .numberOfDevice = [](const std::string&) { return 0; },
                           .openLog = {},
-                          .openRecording = {},
-                          .translate = {},
-                          .makePdf = {},
                           .onInterrupt = {},
                           .interrupted = {}};
 

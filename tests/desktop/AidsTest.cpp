@@ -141,8 +141,9 @@ TEST(AidWords, HaveSpanish) {
   for (const std::string& phrase : DoctorPhrases()) asked.insert(phrase);
   Commissioned work;
   work.logger = DeviceInfo{};
-  work.live = RealTimeData{};
-  work.acceptance = {{"", "pass", "", "", ""}, {"", "fail", "", "", ""}, {"", "open", "", "", ""}};
+  work.live = LiveRound{};
+  for (const Verdict verdict : {Verdict::Open, Verdict::Passed, Verdict::Failed})
+    work.acceptance.push_back({.node = {}, .kind = "digital input", .verdict = verdict});
   work.history = {{}};
   VirtualFiles none;
   const auto asItIs = [](std::string_view text) { return std::string(text); };

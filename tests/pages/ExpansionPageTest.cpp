@@ -127,14 +127,18 @@ TEST_F(ExpansionPage, TheCalculatorAndTheTotalAreAskedFor) {
   std::int16_t counter = -1;
   context.showPulseCalculator = [&](TextBox& ratio) { box = &ratio; };
   context.showExpansionTotal = [&](std::int16_t input) { counter = input; };
-  live.ModuloValue[9] = 41;
+  live.ModuloValue[40] = 41;
   Connected = true;
-  page.ChangeIndex(9);
+  page.ChangeIndex(40);
   page.GetForm().Get<Button>("Q_HelpBut").Click();
   page.GetForm().Get<Button>("C_BotonModificar").Click();
   EXPECT_EQ(box, &Box("Q_Ratio"));
-  EXPECT_EQ(counter, 9);
-  EXPECT_EQ(page.GetForm().Get<Label>("C_TotalText").face.Caption(), " 41");
+  EXPECT_EQ(counter, 40);
+  const Face& total = page.GetForm().Get<Label>("C_TotalText").face;
+  EXPECT_EQ(total.Caption(), "") << "nothing was read";
+  live.reads[static_cast<int>(LiveAnswer::Modules32)].Note(true, {});
+  loop.RunFor(std::chrono::seconds(1));
+  EXPECT_EQ(total.Caption(), " 41");
 }
 
 }  // namespace

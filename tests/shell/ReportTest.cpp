@@ -99,9 +99,15 @@ TEST(Report, SaysWhatIsKnownAndNothingElse) {
   RealTimeData live;
   live.AnalogName[1] = "level";
   live.AnalogUnit[1] = "m";
-  live.AnalogValue[1] = 2.5F;
-  handover.work.live = live;
-  handover.work.acceptance = {{"digital input 0", "pass", "1", "tried", "2026-03-02"}};
+  handover.work.live =
+      TakeRound(live, handover.work.configuration.profile, *handover.work.logger, WallTime{});
+  for (LiveValue& value : handover.work.live->values)
+    if (value.id == LiveId{LiveKind::Analog, 1}) value.number = 2.5;
+  handover.work.acceptance = {{.node = "E_Digital_0",
+                               .kind = "digital input",
+                               .name = "pump",
+                               .verdict = Verdict::Passed,
+                               .note = "tried"}};
   handover.work.history = {{"2026-03-02", "writing", "read back: the same", "ab12", "41"}};
   EXPECT_THAT(handover.Rows("Site and logger"), testing::Contains(ElementsAre("firmware", "4.12")));
   std::vector<std::string> found;

@@ -52,8 +52,8 @@ ExitCode AskLogger(const Online& online, Commissioned& work) {
   if (named != ExitCode::Done) return named;
   const ExitCode read = online.session.Run([&] { return logger.comms.ReadRealTime(); });
   if (read != ExitCode::Done) return read;
-  work.logger = logger.info;
-  work.live = logger.live;
+  const CommandContext& context = online.context;
+  AddLogger(work, logger, context.platform, context.environment.dataFolder);
   return ExitCode::Done;
 }
 

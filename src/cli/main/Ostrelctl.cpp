@@ -45,6 +45,7 @@ int Run(const std::vector<std::string>& args) {
       .numberOfDevice = [&](const std::string& path) { return machine.NumberOfDevice(path); },
       .openLog = OpenTrace,
       .openRecording = OpenRecording,
+      .openLineRecording = OpenLineRecording,
       .translate = MakeTranslator(),
       .makePdf = PdfOf,
       .onInterrupt = {},

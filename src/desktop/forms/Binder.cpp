@@ -14,6 +14,7 @@
 #include <QSignalBlocker>
 #include <QStackedWidget>
 #include <QStyle>
+#include <QTabBar>
 #include <QTableWidget>
 #include <QTimeEdit>
 #include <algorithm>
@@ -21,6 +22,7 @@
 #include "base/Values.h"
 #include "controls/NumberBox.h"
 #include "desktop/forms/AccessKeys.h"
+#include "desktop/forms/ReadoutViews.h"
 #include "desktop/forms/Words.h"
 
 namespace ostrel {
@@ -328,6 +330,39 @@ Bound BindKind(TabStrip& tabs, const BindOptions&, QWidget* parent) {
   return {widget, [widget, &tabs] {
             FollowFace(*widget, tabs.face);
             widget->setCurrentIndex(tabs.Tab());
+          }};
+}
+
+Bound BindKind(DigitBox& box, const BindOptions&, QWidget* parent) {
+  return BindReadout(box, parent);
+}
+
+Bound BindKind(LedMedio& lamp, const BindOptions&, QWidget* parent) {
+  return BindReadout(lamp, parent);
+}
+
+Bound BindKind(LimitBar& bar, const BindOptions&, QWidget* parent) {
+  return BindReadout(bar, parent);
+}
+
+Bound BindKind(TabRow& row, const BindOptions& options, QWidget* parent) {
+  auto* widget = new QTabBar(parent);
+  widget->setExpanding(false);
+  widget->setDrawBase(false);
+  QObject::connect(widget, &QTabBar::currentChanged, widget,
+                   [&row, guard = options.guard](int tab) { guard([&] { row.Choose(tab); }); });
+  return {widget, [widget, &row] {
+            FollowFace(*widget, row.face);
+            const QSignalBlocker blocker(widget);
+            const auto& tabs = row.Tabs();
+            while (widget->count() > static_cast<int>(tabs.size())) widget->removeTab(0);
+            for (int i = 0; i < static_cast<int>(tabs.size()); ++i) {
+              const TabRow::Tab& tab = tabs[static_cast<std::size_t>(i)];
+              if (i == widget->count()) widget->addTab(QString());
+              widget->setTabText(i, EscapedCaption(ToQt(tab.caption)));
+              widget->setTabVisible(i, tab.visible);
+            }
+            widget->setCurrentIndex(row.Chosen());
           }};
 }
 

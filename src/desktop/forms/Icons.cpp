@@ -117,6 +117,12 @@ void DrawSchedule(QPainter& p) {
   for (const qreal x : {8.5, 12.0}) p.drawPoint(QPointF(x, 17));
 }
 
+/// A curve on its axes.
+void DrawLive(QPainter& p) {
+  p.drawPolyline(QPolygonF({{4, 4}, {4, 20}, {20.5, 20}}));
+  p.drawPolyline(QPolygonF({{7, 15}, {10.5, 10.5}, {13.5, 13}, {19.5, 6.5}}));
+}
+
 void DrawLanguage(QPainter& p) {
   p.drawEllipse(QPointF(12, 12), 8.5, 8.5);
   p.drawEllipse(QPointF(12, 12), 3.8, 8.5);
@@ -159,6 +165,8 @@ void Draw(QPainter& painter, Sign sign) {
       return DrawCompare(painter);
     case Sign::Schedule:
       return DrawSchedule(painter);
+    case Sign::Live:
+      return DrawLive(painter);
     case Sign::Trace:
       return DrawTrace(painter);
     case Sign::Findings:

@@ -27,6 +27,7 @@ enum class Sign {
   Schedule,
   Report,
   Doctor,
+  Live,
   Trace,
   Findings,
   Language

@@ -7,6 +7,7 @@
 #include "base/Scope.h"
 #include "desktop/forms/Words.h"
 #include "desktop/program/Language.h"
+#include "host/TraceFile.h"
 
 namespace ostrel {
 
@@ -23,6 +24,7 @@ Desktop::Desktop(const Platform& platform, const ConfiguratorOptions& options,
                .dataFolder = dataFolder,
                .port = port_,
                .inspector = inspector}) {
+  configurator_.tools.openRecording = OpenRecording;
   configurator_.context.clipboardText = [] { return FromQt(QGuiApplication::clipboard()->text()); };
 }
 

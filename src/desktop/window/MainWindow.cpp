@@ -45,6 +45,14 @@ MainWindow::MainWindow(const WindowParts& parts)
       traceLog_(parts.platform.loop, parts.platform.clock),
       trace_(new TraceView(traceLog_, this)),
       findings_(new FindingsPanel(this)),
+      live_({.window = *this,
+             .configurator = configurator_,
+             .platform = parts.platform,
+             .guard = parts.guard,
+             .dataFolder = parts.dataFolder,
+             .save = [this](const QString& kind, const QString& ending,
+                            const std::string& octets) { SaveBeside(kind, ending, octets); },
+             .goTo = [this](const std::string& node) { GoTo(node); }}),
       overview_({configurator_, unsaved_, *tree_, *pages_, *group_, *findings_}) {
   auto* splitter = new QSplitter(this);
   auto* sheet = new QWidget(this);
@@ -242,6 +250,7 @@ void MainWindow::Look() {
   ShowSession();
   ShowTitle();
   overview_.Look();
+  live_.Look(shownFile_);
 }
 
 void MainWindow::ShowTitle() {

@@ -11,6 +11,7 @@
 #include "desktop/forms/Icons.h"
 #include "desktop/program/PortWatch.h"
 #include "desktop/window/FaultNote.h"
+#include "desktop/window/LivePanels.h"
 #include "desktop/window/Overview.h"
 #include "desktop/window/PageArea.h"
 #include "desktop/window/SessionBar.h"
@@ -105,7 +106,6 @@ class MainWindow final : public QMainWindow {
   void Compare();
   void ShowSchedule();
   void ShowTrace(bool on);
-  void SaveTrace();
   /// Begins a recording of the line in a file that the operator names, or ends it.
   void Record(bool on);
   void ShowDoctor();
@@ -119,6 +119,8 @@ class MainWindow final : public QMainWindow {
   void NoteEdits();
   void StartHistory();
   void ShowHistory();
+  /// Saves octets to a file that the operator chooses. `kind` is in words.
+  void SaveBeside(const QString& kind, const QString& ending, const std::string& octets);
   /// Says in a box what went wrong.
   void Tell(const QString& words);
 
@@ -202,12 +204,14 @@ class MainWindow final : public QMainWindow {
   std::unique_ptr<Recorder> recorder_;
   EditHistory edits_;
   FindingsPanel* findings_;
+  LivePanels live_;
   Overview overview_;
   QToolBar* bar_ = nullptr;
   QAction *open_ = nullptr, *save_ = nullptr, *saveAs_ = nullptr, *language_ = nullptr,
           *recentFiles_ = nullptr, *safetyCopies_ = nullptr, *compare_ = nullptr,
           *schedule_ = nullptr, *undo_ = nullptr, *redo_ = nullptr, *report_ = nullptr,
-          *doctor_ = nullptr, *traceSwitch_ = nullptr, *findingsSwitch_ = nullptr;
+          *doctor_ = nullptr, *liveTools_ = nullptr, *traceSwitch_ = nullptr,
+          *findingsSwitch_ = nullptr;
   bool following_ = false;
   QString success_;                   ///< what the status bar says of the last writing
   int writeStep_ = 0;                 ///< of a writing with its guards; 0 while there is none

@@ -79,7 +79,7 @@ void MainWindow::Record(bool on) {
        .overwritePrompt = true});
   if (!path) return;
   std::string why;
-  recording_ = OpenRecording(*path, why);
+  recording_ = OpenLineRecording(*path, why);
   if (!recording_)
     return Tell(Words::tr("%1 could not be written: %2").arg(ToQt(*path), Words::tr(why.c_str())));
   recorder_ = std::make_unique<Recorder>(
@@ -120,9 +120,8 @@ void MainWindow::SaveReport() {
                     .file = shownFile_};
   // A logger that is busy, or has gone silent, is not asked for what it measures now.
   if (configurator_.Connected) {
-    work.logger = configurator_.info;
-    if (configurator_.comms.ReadIOParameter() && configurator_.comms.ReadRealTime())
-      work.live = configurator_.live;
+    if (configurator_.comms.ReadIOParameter()) configurator_.comms.ReadRealTime();
+    AddLogger(work, configurator_, parts_.platform, parts_.dataFolder);
   }
   const Report report = CommissioningReport(
       work,

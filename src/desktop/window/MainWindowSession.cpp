@@ -60,6 +60,7 @@ void MainWindow::Rest(bool rests) {
     action->setEnabled(!rests);
   ShowHistory();
   trace_->SetMaySave(!rests);
+  live_.SetMaySave(!rests);
   if (pages_->isEnabled() != rests) return;
   QWidget* const present = focusWidget();
   if (rests) focus_ = pages_->isAncestorOf(present) ? present : nullptr;

@@ -52,6 +52,12 @@ void MainWindow::MakeToolBar() {
   schedule_ = AddAction(Sign::Schedule, {}, [this] { ShowSchedule(); });
   report_ = AddAction(Sign::Report, {}, [this] { SaveReport(); });
   doctor_ = AddAction(Sign::Doctor, {}, [this] { ShowDoctor(); });
+  liveTools_ = AddAction(Sign::Live, {}, {});
+  auto* liveMenu = new QMenu(this);
+  live_.AddTo(*liveMenu);
+  liveTools_->setMenu(liveMenu);
+  static_cast<QToolButton*>(bar_->widgetForAction(liveTools_))
+      ->setPopupMode(QToolButton::InstantPopup);
   traceSwitch_ = AddAction(Sign::Trace, QKeySequence("Ctrl+T"), {});
   traceSwitch_->setCheckable(true);
   connect(traceSwitch_, &QAction::toggled, this, [this](bool on) { ShowTrace(on); });
@@ -69,7 +75,9 @@ void MainWindow::MakeToolBar() {
   });
   bar_->addSeparator();
   trace_->OnRecord = [this](bool on) { parts_.guard([&] { Record(on); }); };
-  trace_->OnSave = [this] { parts_.guard([this] { SaveTrace(); }); };
+  trace_->OnSave = [this] {
+    parts_.guard([this] { SaveBeside(Words::tr("Trace"), "txt", trace_->Text()); });
+  };
   auto* find = new QAction(this);
   find->setShortcut(QKeySequence::Find);
   connect(find, &QAction::triggered, this, [this] { tree_->FocusFilter(); });
@@ -118,6 +126,8 @@ void MainWindow::Retranslate() {
   name(redo_, Words::tr("Redo"), Words::tr("Do again what was undone"));
   name(report_, Words::tr("Report"), Words::tr("Save a commissioning report"));
   name(doctor_, Words::tr("Link doctor"), Words::tr("Find out why nothing answers at the port"));
+  name(liveTools_, Words::tr("Live"), Words::tr("Plot live values, and accept the installation"));
+  live_.Retranslate();
   name(traceSwitch_, Words::tr("Trace"), Words::tr("Show what goes over the line"));
   name(findingsSwitch_, Words::tr("Findings"),
        Words::tr("Show what the check finds in the configuration"));
@@ -296,13 +306,13 @@ void MainWindow::ShowTrace(bool on) {
   if (on) trace_->Follow();
 }
 
-void MainWindow::SaveTrace() {
+void MainWindow::SaveBeside(const QString& kind, const QString& ending, const std::string& octets) {
   const auto path = parts_.platform.dialogs.ChooseFile(
       {.mode = FileQuestion::Mode::Save,
-       .filter = FromQt(Words::tr("Trace") + "|*.txt|" + Words::tr("All files") + "|*.*"),
+       .filter = FromQt(kind + "|*." + ending + "|" + Words::tr("All files") + "|*.*"),
        .overwritePrompt = true});
   if (!path) return;
-  const FileResult saved = SaveWhole(parts_.platform.files, *path, trace_->Text());
+  const FileResult saved = SaveWhole(parts_.platform.files, *path, octets);
   if (!saved.Ok())
     Tell(Words::tr("%1 could not be written: %2").arg(ToQt(*path), ToQt(saved.error)));
 }

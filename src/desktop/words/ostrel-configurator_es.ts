@@ -1909,10 +1909,6 @@
         <translation>días de la semana</translation>
     </message>
     <message>
-        <source>days of the month</source>
-        <translation>días del mes</translation>
-    </message>
-    <message>
         <source>the line is neither MACRO and a number up to 55 nor F and a number, with the command in one pair of braces: write it anew</source>
         <translation>la línea no es MACRO y un número hasta 55, ni F y un número, con el comando entre un par de llaves: escríbala de nuevo</translation>
     </message>
@@ -2463,6 +2459,80 @@
     <message>
         <source>Measured channels without a name are left out.</source>
         <translation>Se omiten los canales medidos sin nombre.</translation>
+        <source>Plot</source>
+        <translation>Gráfica</translation>
+    </message>
+    <message>
+        <source>Filter the values</source>
+        <translation>Filtrar los valores</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Valor</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>Ahora</translation>
+    </message>
+    <message>
+        <source>Values to plot</source>
+        <translation>Valores que dibujar</translation>
+    </message>
+    <message>
+        <source>Nothing has been read yet. Values come while a session with a logger is open.</source>
+        <translation>Todavía no se ha leído nada. Los valores llegan mientras hay una sesión abierta con un equipo.</translation>
+    </message>
+    <message>
+        <source>Plot of live values</source>
+        <translation>Gráfica de valores en tiempo real</translation>
+    </message>
+    <message>
+        <source>Drag or arrow keys: move. Wheel, + and -: zoom. With Shift: the values instead of time. Home: all. End: follow. 0 or double click: fit the values.</source>
+        <translation>Arrastrar o flechas: mover. Rueda, + y -: ampliar y reducir. Con Mayús: los valores en lugar del tiempo. Inicio: todo. Fin: seguir. 0 o doble clic: ajustar los valores.</translation>
+    </message>
+    <message>
+        <source>&amp;Follow now</source>
+        <translation>&amp;Seguir ahora</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Todo</translation>
+    </message>
+    <message>
+        <source>Zoom in</source>
+        <translation>Ampliar</translation>
+    </message>
+    <message>
+        <source>Zoom out</source>
+        <translation>Reducir</translation>
+    </message>
+    <message>
+        <source>Fit values</source>
+        <translation>Ajustar valores</translation>
+    </message>
+    <message>
+        <source>Picture...</source>
+        <translation>Imagen...</translation>
+    </message>
+    <message>
+        <source>Values...</source>
+        <translation>Valores...</translation>
+    </message>
+    <message>
+        <source>Values</source>
+        <translation>Valores</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Imagen</translation>
+    </message>
+    <message>
+        <source>Live</source>
+        <translation>En vivo</translation>
+    </message>
+    <message>
+        <source>Plot live values, and accept the installation</source>
+        <translation>Dibujar valores en tiempo real y dar por buena la instalación</translation>
     </message>
     <message>
         <source>Acceptance</source>
@@ -2491,6 +2561,72 @@
     <message>
         <source>fail</source>
         <translation>no aceptado</translation>
+        <source>Inputs to try</source>
+        <translation>Entradas que probar</translation>
+    </message>
+    <message>
+        <source>Verdict</source>
+        <translation>Resultado</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Nota</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Hora</translation>
+    </message>
+    <message>
+        <source>&amp;Pass</source>
+        <translation>&amp;Correcto</translation>
+    </message>
+    <message>
+        <source>F&amp;ail</source>
+        <translation>&amp;Fallo</translation>
+    </message>
+    <message>
+        <source>Take &amp;back</source>
+        <translation>&amp;Retirar</translation>
+    </message>
+    <message>
+        <source>&amp;Note:</source>
+        <translation>&amp;Nota:</translation>
+    </message>
+    <message>
+        <source>Export...</source>
+        <translation>Exportar...</translation>
+    </message>
+    <message>
+        <source>%1 passed, %2 failed, %3 open</source>
+        <translation>%1 correctas, %2 con fallo, %3 pendientes</translation>
+    </message>
+    <message>
+        <source>No input is configured.</source>
+        <translation>No hay ninguna entrada configurada.</translation>
+    </message>
+    <message>
+        <source>Open a session to begin: results are kept by serial number.</source>
+        <translation>Abra una sesión para empezar: los resultados se guardan por número de serie.</translation>
+    </message>
+    <message>
+        <source>Logger %1: %2</source>
+        <translation>Equipo %1: %2</translation>
+    </message>
+    <message>
+        <source>Logger %1, %2: %3</source>
+        <translation>Equipo %1, %2: %3</translation>
+    </message>
+    <message>
+        <source>The last change could not be kept: %1</source>
+        <translation>No se ha podido guardar el último cambio: %1</translation>
+    </message>
+    <message>
+        <source>What was noted before cannot be read: %1</source>
+        <translation>No se puede leer lo que se anotó antes: %1</translation>
+    </message>
+    <message>
+        <source>it is damaged, or made by a newer program</source>
+        <translation>está dañado o es de un programa más nuevo</translation>
     </message>
     <message>
         <source>open</source>
@@ -2667,6 +2803,50 @@
     <message>
         <source>flags</source>
         <translation>flags</translation>
+        <source>pass</source>
+        <translation>correcto</translation>
+    </message>
+    <message>
+        <source>configuration</source>
+        <translation>configuración</translation>
+    </message>
+    <message>
+        <source>time</source>
+        <translation>hora</translation>
+        <source>not read</source>
+        <translation>sin leer</translation>
+    </message>
+    <message>
+        <source>last read at %1</source>
+        <translation>última lectura a las %1</translation>
+    </message>
+    <message>
+        <source>inside</source>
+        <translation>dentro</translation>
+    </message>
+    <message>
+        <source>within the hysteresis</source>
+        <translation>dentro de la histéresis</translation>
+    </message>
+    <message>
+        <source>below the minimum</source>
+        <translation>por debajo del mínimo</translation>
+    </message>
+    <message>
+        <source>above the maximum</source>
+        <translation>por encima del máximo</translation>
+    </message>
+    <message>
+        <source>Alarm limits</source>
+        <translation>Límites de alarma</translation>
+    </message>
+    <message>
+        <source>%1 to %2, hysteresis %3</source>
+        <translation>de %1 a %2, histéresis %3</translation>
+    </message>
+    <message>
+        <source>Switch output %1 over</source>
+        <translation>Cambiar el estado de la salida %1</translation>
     </message>
 </context>
 </TS>

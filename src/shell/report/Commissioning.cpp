@@ -1,5 +1,8 @@
 #include "shell/report/Commissioning.h"
 
+#include "platform/Platform.h"
+#include "shell/Configurator.h"
+#include "shell/acceptance/AcceptanceFile.h"
 #include "shell/report/ReportWriter.h"
 
 namespace ostrel {
@@ -19,6 +22,18 @@ Report CommissioningReport(const Commissioned& work, const ReportLanguage& langu
                    writer.Findings(files), writer.History(), writer.Signatures()})
     if (!section.parts.empty()) report.sections.push_back(std::move(section));
   return report;
+}
+
+void AddLogger(Commissioned& work, const Configurator& logger, const Platform& platform,
+               const std::string& dataFolder) {
+  work.logger = logger.info;
+  if (logger.live.DeviceClock != DateTime{}) work.clock = logger.live.DeviceClock;
+  work.live = TakeRound(logger.live, logger.profile, logger.info, WallTimeOf(platform.clock));
+  const AcceptanceFiles kept(platform.files, dataFolder);
+  const std::string& serial = logger.info.SerialNumber;
+  work.acceptance = kept.Read(serial, work.file.substr(work.file.rfind('/') + 1)).acceptance.points;
+  if (!work.acceptance.empty()) return;
+  if (const auto latest = kept.Latest(serial)) work.acceptance = latest->points;
 }
 
 }  // namespace ostrel

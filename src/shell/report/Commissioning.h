@@ -5,20 +5,18 @@
 #include <vector>
 
 #include "model/DeviceInfo.h"
-#include "model/RealTimeData.h"
+#include "model/LiveRound.h"
 #include "platform/DateTime.h"
 #include "shell/ConfigurationFile.h"
 #include "shell/Phrase.h"
+#include "shell/acceptance/Acceptance.h"
 #include "shell/report/Report.h"
 
 namespace ostrel {
 
+class Configurator;
 class Files;
-
-/// One point of an acceptance test. Its verdict is in English.
-struct AcceptedPoint {
-  std::string point, verdict, value, note, when;
-};
+struct Platform;
 
 /// One thing that was done to the logger.
 struct RecordedWork {
@@ -36,8 +34,9 @@ struct Commissioned {
   std::string file{};                  ///< that holds the configuration; empty for none
   std::string hash{};                  ///< of its content; empty for none
   std::optional<DeviceInfo> logger{};  ///< as it tells of itself
-  std::optional<RealTimeData> live{};
-  std::vector<AcceptedPoint> acceptance{};
+  std::optional<DateTime> clock{};     ///< of the logger
+  std::optional<LiveRound> live{};
+  std::vector<AcceptancePoint> acceptance{};
   std::vector<RecordedWork> history{};
 };
 
@@ -52,5 +51,10 @@ struct ReportLanguage {
 /// it tells, when it acts, what it showed at the end, and what was written into it. Passwords are
 /// not in it.
 Report CommissioningReport(const Commissioned& work, const ReportLanguage& language, Files& files);
+
+/// Adds what the connected logger tells of itself and last measured, and what was accepted of it
+/// with the configuration of the file, else what was accepted of it last.
+void AddLogger(Commissioned& work, const Configurator& logger, const Platform& platform,
+               const std::string& dataFolder);
 
 }  // namespace ostrel

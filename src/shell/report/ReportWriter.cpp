@@ -3,7 +3,6 @@
 #include <map>
 
 #include "shell/ChannelOverview.h"
-#include "shell/LiveTable.h"
 #include "shell/Navigation.h"
 #include "shell/SettingLines.h"
 #include "shell/check/CheckRules.h"
@@ -57,7 +56,7 @@ ReportSection Writer::Logger() const {
     part.note =
         Say("No logger was connected when this report was made: it tells of the file alone.");
   }
-  if (work_.live) add("clock of the logger", DateTimeText(work_.live->DeviceClock));
+  if (work_.clock) add("clock of the logger", DateTimeText(*work_.clock));
   add("time of this report", DateTimeText(work_.madeAt));
   add("file", work_.file);
   add("hash of the configuration", work_.hash);
@@ -103,21 +102,10 @@ ReportSection Writer::OtherSettings() const {
 ReportSection Writer::LiveValues() const {
   ReportSection section{Say("Live values at sign-off")};
   if (!work_.live) return section;
-  ReportPart states;
-  for (const LiveStates& kind : LiveStatesOf(*work_.live, Model())) {
-    std::string bits;
-    for (int i = 0; i < kind.count; ++i)
-      bits += (bits.empty() ? "" : "  ") + std::to_string(i) + ":" +
-              ((kind.mask >> i & 1U) != 0 ? "1" : "0");
-    if (!bits.empty()) states.rows.push_back({Capital(Say(kind.title)), bits});
-  }
-  section.parts.push_back(std::move(states));
   ReportPart values{.form = ReportForm::Table, .head = Head({"channel", "name", "value", "unit"})};
-  for (const LiveGroup& group : LiveGroups(*work_.live, Model(), Features().value_or(0)))
-    for (const LiveMeasure& measure : group.measures)
-      if (!measure.name.empty())
-        values.rows.push_back({Say(group.title) + " " + std::to_string(measure.index), measure.name,
-                               LiveText(measure), measure.unit});
+  for (const LiveValue& value : work_.live->values)
+    if (value.IsFresh() && (IsState(value.id.kind) || !value.name.empty()))
+      values.rows.push_back({LiveTag(value.id), value.name, LiveText(value), value.unit});
   values.note = Say("Measured channels without a name are left out.");
   section.parts.push_back(std::move(values));
   return section;
@@ -127,9 +115,11 @@ ReportSection Writer::Acceptance() const {
   ReportSection section{Say("Acceptance")};
   if (work_.acceptance.empty()) return section;
   ReportPart part{.form = ReportForm::Table,
-                  .head = Head({"point", "verdict", "value", "note", "when"})};
-  for (const AcceptedPoint& point : work_.acceptance)
-    part.rows.push_back({point.point, Say(point.verdict), point.value, point.note, point.when});
+                  .head = Head({"point", "name", "verdict", "value", "note", "when"})};
+  for (const AcceptancePoint& point : work_.acceptance)
+    part.rows.push_back({Say(point.kind) + " " + std::to_string(point.number), point.name,
+                         Say(VerdictWord(point.verdict)), point.value, point.note,
+                         point.time ? DateTimeText(*point.time) : std::string()});
   section.parts.push_back(std::move(part));
   return section;
 }
