@@ -2793,20 +2793,6 @@
         <translation>desconocida en este modelo</translation>
     </message>
     <message>
-        <source>digital inputs</source>
-        <translation>entradas digitales</translation>
-    </message>
-    <message>
-        <source>outputs</source>
-        <translation>salidas</translation>
-    </message>
-    <message>
-        <source>flags</source>
-        <translation>flags</translation>
-        <source>pass</source>
-        <translation>correcto</translation>
-    </message>
-    <message>
         <source>configuration</source>
         <translation>configuración</translation>
     </message>

@@ -22,7 +22,7 @@ tr { page-break-inside: avoid; }
 h2, h3 { page-break-after: avoid; }
 )";
 
-std::string Escape(std::string_view text) {
+std::string EscapeHtml(std::string_view text) {
   std::string html;
   for (const char c : text) {
     switch (c) {
@@ -48,21 +48,21 @@ std::string Escape(std::string_view text) {
   return html;
 }
 
-std::string Cell(std::string_view tag, std::string_view text, std::string_view more = {}) {
-  return "<" + std::string(tag) + std::string(more) + ">" + Escape(text) + "</" + std::string(tag) +
-         ">";
+std::string CellHtml(std::string_view tag, std::string_view text, std::string_view more = {}) {
+  return "<" + std::string(tag) + std::string(more) + ">" + EscapeHtml(text) + "</" +
+         std::string(tag) + ">";
 }
 
-std::string Row(const std::vector<std::string>& cells, std::string_view tag) {
+std::string RowHtml(const std::vector<std::string>& cells, std::string_view tag) {
   std::string html = "<tr>";
-  for (const std::string& cell : cells) html += Cell(tag, cell);
+  for (const std::string& cell : cells) html += CellHtml(tag, cell);
   return html + "</tr>\n";
 }
 
 std::string FactRow(const std::vector<std::string>& cells) {
   std::string html = "<tr>";
   for (std::size_t i = 0; i < cells.size(); ++i)
-    html += Cell("td", cells[i], i == 0 ? R"( class="name" width="32%")" : "");
+    html += CellHtml("td", cells[i], i == 0 ? R"( class="name" width="32%")" : "");
   return html + "</tr>\n";
 }
 
@@ -70,38 +70,38 @@ std::string SignRows(const std::vector<std::string>& names) {
   std::string places = "<tr>";
   for (std::size_t i = 0; i < names.size(); ++i)
     places += "<td>&nbsp;<br>&nbsp;<br>&nbsp;<br>&nbsp;</td>";
-  return Row(names, "th") + places + "</tr>\n";
+  return RowHtml(names, "th") + places + "</tr>\n";
 }
 
 std::string PartHtml(const ReportPart& part) {
   std::string html;
-  if (!part.caption.empty()) html += Cell("h3", part.caption) + "\n";
+  if (!part.caption.empty()) html += CellHtml("h3", part.caption) + "\n";
   if (!part.rows.empty() || !part.head.empty()) {
     html += "<table width=\"100%\" cellspacing=\"0\" cellpadding=\"3\">\n";
     if (part.form == ReportForm::Signatures) html += SignRows(part.head);
-    if (part.form == ReportForm::Table) html += Row(part.head, "th");
+    if (part.form == ReportForm::Table) html += RowHtml(part.head, "th");
     for (const auto& row : part.rows)
-      html += part.form == ReportForm::Facts ? FactRow(row) : Row(row, "td");
+      html += part.form == ReportForm::Facts ? FactRow(row) : RowHtml(row, "td");
     html += "</table>\n";
   }
-  if (!part.note.empty()) html += Cell("p", part.note, R"( class="note")") + "\n";
+  if (!part.note.empty()) html += CellHtml("p", part.note, R"( class="note")") + "\n";
   return html;
 }
 
 }  // namespace
 
 std::string ReportHtml(const Report& report) {
-  std::string html = "<!DOCTYPE html>\n<html lang=\"" + Escape(report.language) +
+  std::string html = "<!DOCTYPE html>\n<html lang=\"" + EscapeHtml(report.language) +
                      "\">\n<head>\n<meta charset=\"utf-8\">\n" +
-                     Cell("title", report.title + ": " + report.subject) + "\n<style>" +
+                     CellHtml("title", report.title + ": " + report.subject) + "\n<style>" +
                      std::string(kStyle) + "</style>\n</head>\n<body>\n" +
-                     Cell("h1", report.title) + "\n" +
-                     Cell("p", report.subject, R"( class="subject")") + "\n";
+                     CellHtml("h1", report.title) + "\n" +
+                     CellHtml("p", report.subject, R"( class="subject")") + "\n";
   for (const ReportSection& section : report.sections) {
-    html += Cell("h2", section.title) + "\n";
+    html += CellHtml("h2", section.title) + "\n";
     for (const ReportPart& part : section.parts) html += PartHtml(part);
   }
-  return html + Cell("p", report.foot, R"( class="foot")") + "\n</body>\n</html>\n";
+  return html + CellHtml("p", report.foot, R"( class="foot")") + "\n</body>\n</html>\n";
 }
 
 }  // namespace ostrel
