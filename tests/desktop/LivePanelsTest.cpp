@@ -1,4 +1,4 @@
-#include <QKeyEvent>
+#include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -23,6 +23,13 @@ class WindowLivePanels : public OpenWindow {
     UseLanguage("en");
     AddLogger(sim::Model::BP);
     Connect();
+  }
+  /// Lets time pass on the wall clock, too.
+  void Run(seconds time) {
+    for (; time > seconds(0); time -= seconds(1)) {
+      loop.RunFor(seconds(1));
+      clock.SetNow(FromSeconds(ToSeconds(clock.LocalNow()) + 1));
+    }
   }
   /// Shows or hides a panel.
   void Switch(const QString& keys) {
@@ -54,7 +61,7 @@ class WindowLivePanels : public OpenWindow {
 TEST_F(WindowLivePanels, PlotsWhatIsChosenOnAnyPage) {
   Window().GoTo("E_Digital_0");
   Switch("Ctrl+L");
-  loop.RunFor(minutes(2));
+  Run(minutes(2));
   PlotChart& chart = Chart();
   EXPECT_EQ(chart.Chosen().size(), 3u) << "a chart without curves tells nothing";
   for (const LiveId id : std::vector(chart.Chosen()))
@@ -64,16 +71,16 @@ TEST_F(WindowLivePanels, PlotsWhatIsChosenOnAnyPage) {
   chart.replot();
   ASSERT_EQ(chart.graphCount(), 2);
   EXPECT_GT(chart.graph(0)->dataCount(), 100);
-  EXPECT_TRUE(chart.accessibleDescription().contains("DI0: o")) << "on or off";
+  EXPECT_TRUE(chart.accessibleDescription().contains("DI0: ")) << "in words, too";
   EXPECT_FALSE(PlotRow("AI0")->text(1).isEmpty());
   Find<QLineEdit>("PlotFilter")->setText("ai0");
   EXPECT_TRUE(PlotRow("DI0")->isHidden());
   EXPECT_FALSE(PlotRow("AI0")->isHidden());
 
   Switch("Ctrl+L");
-  loop.RunFor(seconds(2));
+  Run(seconds(2));
   const auto before = chart.View();
-  loop.RunFor(minutes(1));
+  Run(minutes(1));
   EXPECT_EQ(chart.View(), before) << "nothing is drawn while nobody looks";
   desktop = Make(&dialogs);
   desktop->Start("");
@@ -83,13 +90,13 @@ TEST_F(WindowLivePanels, PlotsWhatIsChosenOnAnyPage) {
 
 TEST_F(WindowLivePanels, PansAndZoomsByKeyboardAndFollowsAgain) {
   Switch("Ctrl+L");
-  loop.RunFor(minutes(2));
+  Run(minutes(2));
   PlotChart& chart = Chart();
-  auto* follow = Find<QPushButton>("PlotFollow");
+  auto* follow = Find<QCheckBox>("PlotFollow");
   const auto length = [&] { return chart.View().Length(); };
   EXPECT_TRUE(follow->isChecked());
   const auto end = chart.View().to;
-  loop.RunFor(seconds(10));
+  Run(seconds(10));
   EXPECT_GT(chart.View().to, end + seconds(8));
   const auto former = length();
   Press(&chart, Qt::Key_Plus);
@@ -100,18 +107,35 @@ TEST_F(WindowLivePanels, PansAndZoomsByKeyboardAndFollowsAgain) {
   EXPECT_FALSE(follow->isChecked());
   const auto rest = chart.View();
   EXPECT_LT(rest.to, last);
-  loop.RunFor(seconds(10));
+  Run(seconds(10));
   EXPECT_EQ(chart.View(), rest);
   Press(&chart, Qt::Key_End);
   EXPECT_TRUE(follow->isChecked());
   EXPECT_GT(chart.View().to, last + seconds(8));
   Press(&chart, Qt::Key_Home);
   EXPECT_NEAR(double(length().count()), 140'000, 15'000) << "all that was read";
+
+  chart.resize(800, 300);
+  chart.replot();
+  const QPoint middle(400, 200);
+  const auto whole = chart.View();
+  QWheelEvent wheel(middle, chart.mapToGlobal(middle), {}, {0, 120}, Qt::NoButton, Qt::NoModifier,
+                    Qt::NoScrollPhase, false);
+  QApplication::sendEvent(&chart, &wheel);
+  EXPECT_LT(length(), whole.Length());
+  const auto zoomed = chart.View();
+  SendMouse(&chart, QEvent::MouseButtonPress, middle);
+  SendMouse(&chart, QEvent::MouseMove, middle + QPoint(100, 0));
+  SendMouse(&chart, QEvent::MouseButtonRelease, middle + QPoint(100, 0));
+  EXPECT_LT(chart.View().to, zoomed.to);
+  EXPECT_EQ(length(), zoomed.Length());
+  EXPECT_FALSE(follow->isChecked());
+  EXPECT_TRUE(chart.Pointed()) << "the list tells the values there";
 }
 
 TEST_F(WindowLivePanels, SavesPictureAndValuesInView) {
   Switch("Ctrl+L");
-  loop.RunFor(seconds(30));
+  Run(seconds(30));
   const std::string picture = Saved("PlotPicture", "plot.png");
   EXPECT_TRUE(QImage::fromData(QByteArray::fromStdString(picture)).width() > 2000);
   const std::string values = Saved("PlotValues", "values.csv");
@@ -128,7 +152,7 @@ TEST_F(WindowLivePanels, AcceptsPointByPointAndKeepsIt) {
   Core().conf.Digital[0].NOMBRE = "Door";
   Core().conf.Analog[1].NOMBRE = "Level";
   Switch("Ctrl+K");
-  loop.RunFor(seconds(10));
+  Run(seconds(10));
   auto* list = Find<QTreeWidget>("AcceptanceList");
   ASSERT_EQ(list->topLevelItemCount(), 2);
   EXPECT_EQ(list->topLevelItem(0)->text(0), "Analog input 1: Level");
@@ -152,12 +176,12 @@ TEST_F(WindowLivePanels, AcceptsPointByPointAndKeepsIt) {
       << table;
 
   Core().conf.Digital[1].NOMBRE = "Pump";
-  loop.RunFor(seconds(2));
+  Run(seconds(2));
   ASSERT_EQ(list->topLevelItemCount(), 3) << "it follows the configuration";
   EXPECT_EQ(list->topLevelItem(1)->text(3), "no pulse");
   Core().session.Close(false);
   Core().conf.Digital[2].NOMBRE = "Gate";
-  loop.RunFor(seconds(2));
+  Run(seconds(2));
   EXPECT_FALSE(Find<QPushButton>("AcceptancePass")->isEnabled())
       << "of which logger this is, nobody knows";
 }

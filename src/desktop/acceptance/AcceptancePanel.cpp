@@ -15,17 +15,25 @@
 namespace ostrel {
 namespace {
 
-enum Column { kInput, kNow, kVerdict, kNote, kValue, kTime, kColumns };
+enum PointColumn {
+  kPointInput,
+  kPointNow,
+  kPointVerdict,
+  kPointNote,
+  kPointValue,
+  kPointTime,
+  kPointColumns
+};
 
-QString Translated(std::string_view words) { return Words::tr(std::string(words).c_str()); }
+QString InWords(std::string_view words) { return Words::tr(std::string(words).c_str()); }
 
 QString InputText(const AcceptancePoint& point) {
-  const QString input = Capitalised(Translated(point.kind)) + u' ' + QString::number(point.number);
+  const QString input = Capitalised(InWords(point.kind)) + u' ' + QString::number(point.number);
   return point.name.empty() ? input : input + ": " + ToQt(point.name);
 }
 
 /// Beside the word, which says the same.
-QBrush VerdictColour(Verdict verdict, const QPalette& palette) {
+QBrush ColourOfVerdict(Verdict verdict, const QPalette& palette) {
   const bool isDark = palette.color(QPalette::Base).lightness() < 128;
   if (verdict == Verdict::Passed) return QColor(isDark ? "#69db7c" : "#2b8a3e");
   if (verdict == Verdict::Failed) return QColor(isDark ? "#ff8787" : "#c92a2a");
@@ -48,12 +56,12 @@ AcceptancePanel::AcceptancePanel(AcceptanceWork& work, QWidget* parent)
   failure_->setWordWrap(true);
   list_ = new QTreeWidget(content);
   list_->setObjectName("AcceptanceList");
-  list_->setColumnCount(kColumns);
+  list_->setColumnCount(kPointColumns);
   list_->setRootIsDecorated(false);
   list_->setUniformRowHeights(true);
   list_->setAllColumnsShowFocus(true);
   list_->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
-  list_->header()->setSectionResizeMode(kNote, QHeaderView::Stretch);
+  list_->header()->setSectionResizeMode(kPointNote, QHeaderView::Stretch);
   column->addWidget(summary_);
   column->addWidget(failure_);
   column->addWidget(list_, 1);
@@ -136,13 +144,13 @@ void AcceptancePanel::Look() {
 void AcceptancePanel::ShowRow(int row) {
   const AcceptancePoint& point = work_.Present().points.at(static_cast<std::size_t>(row));
   QTreeWidgetItem& item = *list_->topLevelItem(row);
-  item.setText(kInput, InputText(point));
-  item.setText(kNow, round_ ? ToQt(InputValue(point, *round_)) : QString());
-  item.setText(kVerdict, Translated(VerdictWord(point.verdict)));
-  item.setForeground(kVerdict, VerdictColour(point.verdict, palette()));
-  item.setText(kNote, ToQt(point.note));
-  item.setText(kValue, ToQt(point.value));
-  item.setText(kTime, point.time ? ToQt(DateTimeText(*point.time)) : QString());
+  item.setText(kPointInput, InputText(point));
+  item.setText(kPointNow, round_ ? ToQt(InputValue(point, *round_)) : QString());
+  item.setText(kPointVerdict, InWords(VerdictWord(point.verdict)));
+  item.setForeground(kPointVerdict, ColourOfVerdict(point.verdict, palette()));
+  item.setText(kPointNote, ToQt(point.note));
+  item.setText(kPointValue, ToQt(point.value));
+  item.setText(kPointTime, point.time ? ToQt(DateTimeText(*point.time)) : QString());
 }
 
 void AcceptancePanel::ShowRound(const std::optional<LiveRound>& round) {
@@ -151,7 +159,7 @@ void AcceptancePanel::ShowRound(const std::optional<LiveRound>& round) {
     const auto& point = work_.Present().points.at(static_cast<std::size_t>(row));
     const QString now = round_ ? ToQt(InputValue(point, *round_)) : QString();
     QTreeWidgetItem& item = *list_->topLevelItem(row);
-    if (item.text(kNow) != now) item.setText(kNow, now);
+    if (item.text(kPointNow) != now) item.setText(kPointNow, now);
   }
 }
 
@@ -171,7 +179,7 @@ void AcceptancePanel::ShowSummary() {
                           .arg(ToQt(present.serialNumber), ToQt(present.configuration), counts));
   failure_->setVisible(!work_.Error().empty());
   if (work_.Error().empty()) return;
-  const QString why = Translated(work_.Error());
+  const QString why = InWords(work_.Error());
   failure_->setText(work_.MayNote()
                         ? Words::tr("The last change could not be kept: %1").arg(why)
                         : Words::tr("What was noted before cannot be read: %1").arg(why));
@@ -214,7 +222,7 @@ void AcceptancePanel::GoOn() {
 
 std::string AcceptancePanel::Table() const {
   return AcceptanceTable(work_.Present(),
-                         [](std::string_view words) { return FromQt(Translated(words)); });
+                         [](std::string_view words) { return FromQt(InWords(words)); });
 }
 
 }  // namespace ostrel

@@ -13,22 +13,22 @@ namespace {
 constexpr double kFirstView = 600;  // s
 constexpr double kLeastView = 2;    // s
 constexpr double kMostView = 32 * 86'400.0;
-constexpr double kStep = 0.1;  // part of the view that a key moves by
+constexpr double kPanStep = 0.1;  // part of the view that a key moves by
 constexpr double kZoomStep = 1.25;
-constexpr double kRoom = 0.06;  // free part of an axis above and below the values
+constexpr double kAxisRoom = 0.06;  // free part of an axis above and below the values
 constexpr double kLaneFill = 0.7;
-constexpr int kLaneHeight = 20;
+constexpr int kLaneHeight = 17;
 constexpr int kLegendColumns = 4;
 constexpr const char* kPointerLayer = "pointer";
 
 // Told apart with any common kind of colour vision.
-constexpr std::array<const char*, 8> kOnLight{"#0072b2", "#d55e00", "#009e73", "#b8479a",
-                                              "#7a5c00", "#3c3c8c", "#c2185b", "#4d7a1f"};
-constexpr std::array<const char*, 8> kOnDark{"#56b4e9", "#f0954a", "#2fd6a5", "#e58fc8",
-                                             "#f0e442", "#a9a9ff", "#ff7fa8", "#b4dc78"};
-constexpr std::array kStrokes{Qt::SolidLine, Qt::DashLine, Qt::DotLine, Qt::DashDotLine};
+constexpr std::array<const char*, 8> kCurvesOnLight{"#0072b2", "#d55e00", "#009e73", "#b8479a",
+                                                    "#7a5c00", "#3c3c8c", "#c2185b", "#4d7a1f"};
+constexpr std::array<const char*, 8> kCurvesOnDark{"#56b4e9", "#f0954a", "#2fd6a5", "#e58fc8",
+                                                   "#f0e442", "#a9a9ff", "#ff7fa8", "#b4dc78"};
+constexpr std::array kCurveStrokes{Qt::SolidLine, Qt::DashLine, Qt::DotLine, Qt::DashDotLine};
 
-QString NameOf(const LiveSeries& series) {
+QString SeriesName(const LiveSeries& series) {
   return ToQt(series.name.empty() ? LiveTag(series.id) : series.name);
 }
 
@@ -44,6 +44,7 @@ PlotChart::PlotChart(const LiveHistory& history, QWidget* parent)
   setMouseTracking(true);
   setMinimumSize(260, 140);
   setLocale(QLocale::c());
+  setAutoAddPlottableToLegend(false);
   setInteractions(QCP::iRangeDrag | QCP::iRangeZoom);
   setPlottingHints(QCP::phFastPolylines | QCP::phCacheLabels);
   clock_->setDateTimeSpec(Qt::UTC);  // keys are in local time already
@@ -67,7 +68,7 @@ TimeSpan PlotChart::View() const { return {MomentOf(view_.lower), MomentOf(view_
 
 QColor PlotChart::Colour(std::size_t place) const {
   const bool isDark = palette().color(QPalette::Base).lightness() < 128;
-  return QColor((isDark ? kOnDark : kOnLight)[place % kOnLight.size()]);
+  return QColor((isDark ? kCurvesOnDark : kCurvesOnLight)[place % kCurvesOnLight.size()]);
 }
 
 QColor PlotChart::ColourOf(LiveId id) const {
@@ -148,8 +149,8 @@ void PaintAxis(QCPAxis& axis, const QPalette& palette) {
 void PlotChart::AddCurve(LiveId id, QCPAxis& values, int lane) {
   const std::size_t place = curves_.size();
   QCPGraph* graph = addGraph(values.axisRect()->axis(QCPAxis::atBottom), &values);
-  graph->setPen(
-      QPen(Colour(place), lane < 0 ? 1 : 2, kStrokes[place / kOnLight.size() % kStrokes.size()]));
+  graph->setPen(QPen(Colour(place), lane < 0 ? 1 : 2,
+                     kCurveStrokes[place / kCurvesOnLight.size() % kCurveStrokes.size()]));
   graph->setAdaptiveSampling(false);  // the history thins
   graph->setLineStyle(lane < 0 ? QCPGraph::lsLine : QCPGraph::lsStepLeft);
   curves_.push_back({id, graph, lane});
@@ -170,7 +171,7 @@ void PlotChart::AddNumbers(const std::vector<LiveId>& ids, QCPLegend& key, int r
     }
     AddCurve(id, *axis, -1);
     const QString unit = series.unit.empty() ? QString() : " [" + ToQt(series.unit) + "]";
-    curves_.back().graph->setName(NameOf(series) + unit);
+    curves_.back().graph->setName(SeriesName(series) + unit);
     curves_.back().graph->addToLegend(&key);
   }
   for (QCPAxis* axis : rect->axes()) PaintAxis(*axis, palette());
@@ -195,14 +196,18 @@ void PlotChart::AddStates(const std::vector<LiveId>& ids, int row) {
   int lane = 0;
   for (const LiveId id : ids) {
     AddCurve(id, *lanes, lane);
-    names->addTick(lane + kLaneFill / 2, NameOf(*history_.Find(id)));
+    names->addTick(lane + kLaneFill / 2, SeriesName(*history_.Find(id)));
     ++lane;
   }
   lanes->setTicker(names);
   lanes->setRange(kLaneFill - 1, lane);
   for (QCPAxis* axis : rect->axes()) PaintAxis(*axis, palette());
   lanes->grid()->setVisible(false);
-  if (rects_.size() > 1) rect->setMaximumSize(QWIDGETSIZE_MAX, lane * kLaneHeight + 60);
+  if (rects_.size() > 1) {  // what room there is goes to the numbers
+    rect->setMinimumSize(0, lane * kLaneHeight);
+    rect->setMaximumSize(QWIDGETSIZE_MAX, lane * kLaneHeight);
+    plotLayout()->setRowStretchFactor(row, 0.001);
+  }
   rect->setRangeDragAxes({rect->axis(QCPAxis::atBottom)}, {});
   rect->setRangeZoomAxes({rect->axis(QCPAxis::atBottom)}, {});
 }
@@ -235,8 +240,8 @@ void PlotChart::FitAxes() {
     if (!isNew) place->second.expand(range);
   }
   for (const auto& [axis, range] : ranges) {
-    const double room =
-        range.size() > 0 ? range.size() * kRoom : std::max(std::abs(range.center()) * kRoom, 0.5);
+    const double room = range.size() > 0 ? range.size() * kAxisRoom
+                                         : std::max(std::abs(range.center()) * kAxisRoom, 0.5);
     axis->setRange(range.lower - room, range.upper + room);
   }
 }
@@ -373,13 +378,13 @@ void PlotChart::keyPressEvent(QKeyEvent* event) {
   const bool isValues = event->modifiers().testFlag(Qt::ShiftModifier);
   switch (event->key()) {
     case Qt::Key_Left:
-      return PanTime(-kStep);
+      return PanTime(-kPanStep);
     case Qt::Key_Right:
-      return PanTime(kStep);
+      return PanTime(kPanStep);
     case Qt::Key_Up:
-      return isValues ? PanValues(kStep) : ZoomTime(1 / kZoomStep);
+      return isValues ? PanValues(kPanStep) : ZoomTime(1 / kZoomStep);
     case Qt::Key_Down:
-      return isValues ? PanValues(-kStep) : ZoomTime(kZoomStep);
+      return isValues ? PanValues(-kPanStep) : ZoomTime(kZoomStep);
     case Qt::Key_Plus:
       return ZoomTime(1 / kZoomStep);
     case Qt::Key_Minus:

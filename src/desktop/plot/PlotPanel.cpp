@@ -1,5 +1,6 @@
 #include "desktop/plot/PlotPanel.h"
 
+#include <QCheckBox>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
@@ -19,28 +20,28 @@
 namespace ostrel {
 namespace {
 
-enum Column { kName, kValue };
-constexpr int kListWidth = 250;
+enum PlotColumn { kPlotName, kPlotValue };
+constexpr int kPlotListWidth = 250;
 constexpr int kSwatch = 12;  // px
 constexpr std::size_t kChosenAtFirst = 3;
 
-QString NameOf(const LiveSeries& series) {
+QString TextOfSeries(const LiveSeries& series) {
   const QString tag = ToQt(LiveTag(series.id));
   return series.name.empty() ? tag : ToQt(series.name) + "  " + tag;
 }
 
-QString ValueText(const LiveSeries& series, std::optional<double> value) {
+QString TextOfValue(const LiveSeries& series, std::optional<double> value) {
   if (!value) return {};
-  if (IsState(series.id.kind)) return *value != 0 ? Words::tr("on") : Words::tr("off");
+  if (IsState(series.id.kind)) return *value != 0 ? Words::tr("Active") : Words::tr("Inactive");
   const bool isWide =
       series.id.kind == LiveKind::Counter || series.id.kind == LiveKind::MathRegister;
   const QString number = ToQt(isWide ? DecText(*value) : DecText(static_cast<float>(*value)));
   return series.unit.empty() ? number : number + u' ' + ToQt(series.unit);
 }
 
-QVariant KeyOf(LiveId id) { return ToQt(LiveTag(id)); }
-std::optional<LiveId> IdOf(const QTreeWidgetItem& row) {
-  return LiveIdOf(FromQt(row.data(kName, Qt::UserRole).toString()));
+QVariant RowKey(LiveId id) { return ToQt(LiveTag(id)); }
+std::optional<LiveId> IdOfRow(const QTreeWidgetItem& row) {
+  return LiveIdOf(FromQt(row.data(kPlotName, Qt::UserRole).toString()));
 }
 
 QPixmap Swatch(const QColor& colour) {
@@ -66,7 +67,7 @@ PlotPanel::PlotPanel(const LiveHistory& history, QWidget* parent)
   column->addWidget(hint_);
   column->addWidget(chart_, 1);
   splitter->setStretchFactor(1, 1);
-  splitter->setSizes({kListWidth, 4 * kListWidth});
+  splitter->setSizes({kPlotListWidth, 4 * kPlotListWidth});
   setWidget(splitter);
   chart_->OnMoved = [this] {
     follow_->setChecked(chart_->Follows());
@@ -87,14 +88,15 @@ void PlotPanel::MakeList(QWidget* parent) {
   list_->setRootIsDecorated(false);
   list_->setUniformRowHeights(true);
   list_->header()->setStretchLastSection(false);
-  list_->header()->setSectionResizeMode(kName, QHeaderView::Stretch);
-  list_->header()->setSectionResizeMode(kValue, QHeaderView::ResizeToContents);
+  list_->header()->setSectionResizeMode(kPlotName, QHeaderView::Stretch);
+  list_->header()->setSectionResizeMode(kPlotValue, QHeaderView::ResizeToContents);
   column->addWidget(filter_);
   column->addWidget(list_, 1);
   connect(filter_, &QLineEdit::textChanged, this, [this] { Filter(); });
   connect(list_, &QTreeWidget::itemChanged, this, [this](QTreeWidgetItem* row, int at) {
-    const auto id = IdOf(*row);
-    if (!isSyncing_ && at == kName && id) Toggle(*id, row->checkState(kName) == Qt::Checked);
+    const auto id = IdOfRow(*row);
+    if (!isSyncing_ && at == kPlotName && id)
+      Toggle(*id, row->checkState(kPlotName) == Qt::Checked);
   });
 }
 
@@ -109,13 +111,14 @@ QWidget* PlotPanel::MakeTools(QWidget* parent) {
   auto* tools = new QWidget(parent);
   auto* row = new QHBoxLayout(tools);
   row->setContentsMargins(0, 0, 0, 0);
-  constexpr double kZoomStep = 2;
-  follow_ = AddButton("PlotFollow", [this] { chart_->SetFollows(follow_->isChecked()); });
-  follow_->setCheckable(true);
+  constexpr double kZoomOfButton = 2;
+  follow_ = new QCheckBox(tools);
+  follow_->setObjectName("PlotFollow");
   follow_->setChecked(true);
+  connect(follow_, &QCheckBox::clicked, chart_, &PlotChart::SetFollows);
   all_ = AddButton("PlotAll", [this] { chart_->ShowAll(); });
-  in_ = AddButton("PlotIn", [this] { chart_->ZoomTime(1 / kZoomStep); });
-  out_ = AddButton("PlotOut", [this] { chart_->ZoomTime(kZoomStep); });
+  in_ = AddButton("PlotIn", [this] { chart_->ZoomTime(1 / kZoomOfButton); });
+  out_ = AddButton("PlotOut", [this] { chart_->ZoomTime(kZoomOfButton); });
   fit_ = AddButton("PlotFit", [this] { chart_->FitValues(); });
   picture_ = AddButton("PlotPicture", [this] {
     if (OnSavePicture) OnSavePicture();
@@ -123,7 +126,8 @@ QWidget* PlotPanel::MakeTools(QWidget* parent) {
   values_ = AddButton("PlotValues", [this] {
     if (OnSaveValues) OnSaveValues();
   });
-  for (QPushButton* button : {follow_, all_, in_, out_, fit_}) row->addWidget(button);
+  row->addWidget(follow_);
+  for (QPushButton* button : {all_, in_, out_, fit_}) row->addWidget(button);
   row->addStretch(1);
   for (QPushButton* button : {picture_, values_}) row->addWidget(button);
   return tools;
@@ -166,11 +170,11 @@ void PlotPanel::SetMaySave(bool may) {
 }
 
 void PlotPanel::SyncRow(QTreeWidgetItem& row, const LiveSeries& series) {
-  row.setText(kName, NameOf(series));
-  row.setToolTip(kValue, ToQt(series.unit));
+  row.setText(kPlotName, TextOfSeries(series));
+  row.setToolTip(kPlotValue, ToQt(series.unit));
   const bool isChosen = std::ranges::find(chosen_, series.id) != chosen_.end();
-  row.setCheckState(kName, isChosen ? Qt::Checked : Qt::Unchecked);
-  row.setIcon(kName, isChosen ? Swatch(chart_->ColourOf(series.id)) : QIcon());
+  row.setCheckState(kPlotName, isChosen ? Qt::Checked : Qt::Unchecked);
+  row.setIcon(kPlotName, isChosen ? Swatch(chart_->ColourOf(series.id)) : QIcon());
 }
 
 /// Rows come and go with the model of the logger; most rounds leave them as they are.
@@ -179,7 +183,8 @@ void PlotPanel::SyncRows() {
   bool isSame = list_->topLevelItemCount() == static_cast<int>(all.size());
   for (std::size_t i = 0; isSame && i < all.size(); ++i) {
     const QTreeWidgetItem& row = *list_->topLevelItem(static_cast<int>(i));
-    isSame = row.text(kName) == NameOf(all[i]) && row.toolTip(kValue) == ToQt(all[i].unit);
+    isSame =
+        row.text(kPlotName) == TextOfSeries(all[i]) && row.toolTip(kPlotValue) == ToQt(all[i].unit);
   }
   if (isSame) return;
   const Lent syncing(isSyncing_, true);
@@ -187,9 +192,9 @@ void PlotPanel::SyncRows() {
   list_->clear();
   for (const LiveSeries& series : all) {
     auto* row = new QTreeWidgetItem(list_);
-    row->setData(kName, Qt::UserRole, KeyOf(series.id));
+    row->setData(kPlotName, Qt::UserRole, RowKey(series.id));
     row->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable);
-    row->setTextAlignment(kValue, Qt::AlignRight | Qt::AlignVCenter);
+    row->setTextAlignment(kPlotValue, Qt::AlignRight | Qt::AlignVCenter);
     SyncRow(*row, series);
   }
   Filter();
@@ -216,7 +221,7 @@ void PlotPanel::Chosen() {
   const Lent syncing(isSyncing_, true);
   for (int i = 0; i < list_->topLevelItemCount(); ++i) {
     QTreeWidgetItem& row = *list_->topLevelItem(i);
-    if (const LiveSeries* series = history_.Find(*IdOf(row))) SyncRow(row, *series);
+    if (const LiveSeries* series = history_.Find(*IdOfRow(row))) SyncRow(row, *series);
   }
 }
 
@@ -238,7 +243,7 @@ void PlotPanel::ChooseTags(const std::string& tags) {
 void PlotPanel::Filter() {
   for (int i = 0; i < list_->topLevelItemCount(); ++i) {
     QTreeWidgetItem& row = *list_->topLevelItem(i);
-    row.setHidden(!row.text(kName).contains(filter_->text(), Qt::CaseInsensitive));
+    row.setHidden(!row.text(kPlotName).contains(filter_->text(), Qt::CaseInsensitive));
   }
 }
 
@@ -250,17 +255,18 @@ void PlotPanel::ShowValues() {
   const Moment at = chart_->Pointed().value_or(kept->to);
   const Lent syncing(isSyncing_, true);
   list_->headerItem()->setText(
-      kValue, chart_->Pointed()
-                  ? ToQt(DateTimeText(WallTime{at + history_.UtcOffset(), {}}.LocalSeconds()))
-                        .section(u' ', 1)
-                  : Words::tr("Now"));
+      kPlotValue, chart_->Pointed()
+                      ? ToQt(DateTimeText(WallTime{at + history_.UtcOffset(), {}}.LocalSeconds()))
+                            .section(u' ', 1)
+                      : Words::tr("Now"));
   QStringList told;
   for (int i = 0; i < list_->topLevelItemCount(); ++i) {
     QTreeWidgetItem& row = *list_->topLevelItem(i);
-    const LiveSeries& series = *history_.Find(*IdOf(row));
-    const QString text = ValueText(series, history_.ValueAt(series.id, at));
-    if (row.text(kValue) != text) row.setText(kValue, text);
-    if (row.checkState(kName) == Qt::Checked) told << row.text(kName) + ": " + text;
+    const LiveSeries* series = history_.Find(*IdOfRow(row));
+    if (!series) continue;  // of the logger before
+    const QString text = TextOfValue(*series, history_.ValueAt(series->id, at));
+    if (row.text(kPlotValue) != text) row.setText(kPlotValue, text);
+    if (row.checkState(kPlotName) == Qt::Checked) told << row.text(kPlotName) + ": " + text;
   }
   if (chart_->accessibleDescription() != told.join("; "))
     chart_->setAccessibleDescription(told.join("; "));

@@ -7,6 +7,7 @@
 
 #include "desktop/plot/PlotChart.h"
 
+class QCheckBox;
 class QLabel;
 class QLineEdit;
 class QPushButton;
@@ -59,7 +60,8 @@ class PlotPanel final : public QDockWidget {
   QTreeWidget* list_;
   QLabel* hint_;
   PlotChart* chart_;
-  QPushButton *follow_, *all_, *in_, *out_, *fit_, *picture_, *values_;
+  QCheckBox* follow_;
+  QPushButton *all_, *in_, *out_, *fit_, *picture_, *values_;
 };
 
 }  // namespace ostrel

@@ -11,11 +11,19 @@
 namespace ostrel {
 namespace {
 
-constexpr std::string_view kWindowPart = "Window";
-constexpr std::string_view kChosen = "Plot";
+constexpr std::string_view kPlotPart = "Window";
+constexpr std::string_view kPlotKey = "Plot";
 constexpr int kPanelHeight = 330;
 
-std::string FileName(const std::string& path) { return path.substr(path.rfind('/') + 1); }
+std::string NameOfFile(const std::string& path) { return path.substr(path.rfind('/') + 1); }
+
+/// A logger tells no names of its digital inputs: those of the configuration stand for them.
+LiveRound WithNames(LiveRound round, const DeviceConf& conf) {
+  for (LiveValue& value : round.values)
+    if (value.id.kind == LiveKind::Digital && value.name.empty())
+      value.name = conf.Digital[value.id.index].NOMBRE;
+  return round;
+}
 
 }  // namespace
 
@@ -31,9 +39,9 @@ LivePanels::LivePanels(const LivePanelParts& parts)
     panel->hide();
   }
   Settings& settings = parts_.platform.settings;
-  plot_->ChooseTags(settings.Get(kMaker, kWindowPart, kChosen));
+  plot_->ChooseTags(settings.Get(kMaker, kPlotPart, kPlotKey));
   plot_->OnChosen = [this, &settings] {
-    settings.Set(kMaker, kWindowPart, kChosen, plot_->ChosenTags());
+    settings.Set(kMaker, kPlotPart, kPlotKey, plot_->ChosenTags());
   };
   plot_->OnSavePicture = [this] { parts_.guard([this] { SavePicture(); }); };
   plot_->OnSaveValues = [this] {
@@ -95,7 +103,7 @@ void LivePanels::TakeRound(const LiveRound& round) {
       configurator_.profile.TargetName + ' ' + configurator_.info.SerialNumber;
   if (logger != historyOf_) history_.Clear();
   historyOf_ = logger;
-  history_.Add(round);
+  history_.Add(WithNames(round, configurator_.conf));
   if (!plot_->isHidden()) plot_->Look();
   if (!acceptance_->isHidden()) acceptance_->ShowRound(round);
 }
@@ -112,7 +120,7 @@ void LivePanels::Look(const std::string& file) {
 void LivePanels::FollowConfiguration() {
   const Acceptance& present = work_.Present();
   Acceptance subject{.serialNumber = configurator_.info.SerialNumber,
-                     .configuration = FileName(file_),
+                     .configuration = NameOfFile(file_),
                      .model = configurator_.profile.TargetName};
   const bool isSame = workOn_ == configurator_.conf && subject.model == present.model &&
                       subject.configuration == present.configuration;

@@ -2834,5 +2834,13 @@
         <source>Switch output %1 over</source>
         <translation>Cambiar el estado de la salida %1</translation>
     </message>
+    <message>
+        <source>Active</source>
+        <translation>Activa</translation>
+    </message>
+    <message>
+        <source>Inactive</source>
+        <translation>Inactiva</translation>
+    </message>
 </context>
 </TS>

@@ -72,7 +72,9 @@ std::vector<AcceptancePoint> ConfiguredInputs(const ModelConfiguration& configur
     input.kind = id.section->words;  // of the mode that it is in, where it has some
     if (id.word == "NOMBRE" && IsOfChannel(id))
       input.name = **std::get_if<const std::string*>(&value);
-    isConfigured = isConfigured || !IsSameValue(value, emptied[i].value);
+    // The rest of an alarm that is not enabled is of no consequence, and loggers fill it variously.
+    const bool counts = IsOfChannel(id) || meta.sense == FieldSense::Enabled;
+    isConfigured = isConfigured || (counts && !IsSameValue(value, emptied[i].value));
   }
   endInput();
   return inputs;

@@ -45,8 +45,9 @@ struct Acceptance {
   bool operator==(const Acceptance&) const = default;
 };
 
-/// The inputs of a configuration that hold anything else than an emptied configuration does, in the
-/// order of the tree. The names of emptied inputs hang on the language.
+/// The inputs of a configuration that have an alarm enabled, or hold anything else of their own
+/// than an emptied configuration does, in the order of the tree. The names of emptied inputs hang
+/// on the language.
 std::vector<AcceptancePoint> ConfiguredInputs(const ModelConfiguration& configuration,
                                               const Translation& translate);
 
