@@ -38,7 +38,8 @@ std::string Recorded(VirtualWorld& world, const std::vector<std::string>& pieces
 /// The received octets of a recording in its text form.
 std::string ReceivedOf(const std::string& text) {
   std::string error, octets;
-  for (const RecordedEvent& event : ReadRecording(text, error).value())
+  const Recording recording = ReadRecording(text, error).value();
+  for (const RecordedEvent& event : recording)
     if (event.kind == RecordedKind::Received) octets += event.text;
   return octets;
 }
