@@ -8,6 +8,7 @@
 #include <string_view>
 
 #include "host/SimulatedLoggers.h"
+#include "platform/Files.h"
 #include "platform/Platform.h"
 #include "platform/PortFacts.h"
 
@@ -35,11 +36,16 @@ struct Environment {
   std::function<int(const std::string& path)> numberOfDevice;
   /// Opens a text file that grows while the command runs; null when it may not be written, which
   /// `why` tells.
-  using OpenGrowing =
-      std::function<std::unique_ptr<std::ostream>(const std::string& path, std::string& why)>;
-  OpenGrowing openLog;
+  OpenLogFile openLog;
   /// The same for a recording of live values, and for one of the line.
-  OpenGrowing openRecording{}, openLineRecording{};
+  OpenLogFile openRecording{}, openLineRecording{};
+  /// Opens a text file to which is added while the command runs.
+  OpenLogFile openGrowing;
+  /// Gives the lines of standard input as they come, and then its end, for as long as the result
+  /// lives; empty where there is no input.
+  std::function<std::shared_ptr<void>(std::function<void(std::string line)> onLine,
+                                      std::function<void()> onEnd)>
+      watchInput;
   /// A text of this program in a language such as "es"; empty where there is English alone.
   std::function<std::string(std::string_view language, std::string_view text)> translate{};
   /// A document in HTML as the octets of a PDF file; empty when it cannot be made.

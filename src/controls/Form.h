@@ -15,8 +15,8 @@ namespace ostrel {
 
 /// Any control of a form, by its kind.
 using ControlRef =
-    std::variant<Label*, Frame*, Button*, CheckBox*, OptionButton*, TextBox*, ComboBox*, ListBox*,
-                 MultiListBox*, TimePicker*, ProgressBar*, Picture*, TabStrip*, DigitBox*,
+    std::variant<Label*, Frame*, Button*, CheckBox*, OptionButton*, TextBox*, TextView*, ComboBox*,
+                 ListBox*, MultiListBox*, TimePicker*, ProgressBar*, Picture*, TabStrip*, DigitBox*,
                  LedMedio*, LimitBar*, TabRow*, Timer*>;
 
 Face& FaceOf(const ControlRef& control);

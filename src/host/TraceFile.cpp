@@ -18,6 +18,8 @@ namespace {
 
 constexpr mode_t kOwnFile = 0600;
 constexpr mode_t kAnyFile = 0666;  // less what the user's mask takes
+/// Non-blocking: a pipe that nobody reads holds nothing up.
+constexpr int kFlags = O_CREAT | O_NONBLOCK | O_NOCTTY | O_CLOEXEC;
 
 /// Writes to an open file at once, and closes it at its end.
 class DescriptorBuffer final : public std::streambuf {
@@ -95,8 +97,6 @@ std::string WordsOf(int error) {
 
 std::unique_ptr<std::ostream> Open(const std::string& path, const GrowingKind& kind,
                                    std::string& why) {
-  // Non-blocking: a pipe that nobody reads holds nothing up.
-  constexpr int kFlags = O_CREAT | O_NONBLOCK | O_NOCTTY | O_CLOEXEC;
   struct stat state {};
   const bool isPipe = ::stat(path.c_str(), &state) == 0 && !S_ISREG(state.st_mode);
   const int descriptor = ::open(path.c_str(), (isPipe ? O_WRONLY : O_RDWR) | kFlags, kind.mode);
@@ -122,6 +122,13 @@ std::unique_ptr<std::ostream> Open(const std::string& path, const GrowingKind& k
 
 std::unique_ptr<std::ostream> OpenTrace(const std::string& path, std::string& why) {
   return Open(path, kTrace, why);
+}
+
+std::unique_ptr<std::ostream> OpenLog(const std::string& path, std::string& why) {
+  const int descriptor = ::open(path.c_str(), O_WRONLY | O_APPEND | kFlags, kOwnFile);
+  if (descriptor >= 0) return std::make_unique<DescriptorStream>(descriptor);
+  why = WordsOf(errno);
+  return nullptr;
 }
 
 std::unique_ptr<std::ostream> OpenRecording(const std::string& path, std::string& why) {

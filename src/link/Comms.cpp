@@ -164,6 +164,12 @@ LinkResult Comms::ReadAutVozList(ConfAutVoz& list) {
   return Keep(line_.Converse(kAnyTime, [&] { return voice_.Read(list); }));
 }
 
+LinkResult Comms::SendFirmware(const FirmwareFiles& files,
+                               const FirmwareDialogue::OnStage& onStage) {
+  return Keep(line_.Converse(
+      kAnyTime, [&] { return FirmwareDialogue(line_, progress_).Run(files, onStage); }));
+}
+
 LinkResult Comms::Set(std::string message, std::string_view answer) {
   return Keep(
       line_.Converse(line_.TimeFor(1), [&] { return Confirm(line_, std::move(message), answer); }));

@@ -91,7 +91,8 @@ Configurator::Configurator(const Platform& platform, ConfiguratorOptions options
           comms.OnProgress([&bar = PageOf(PageId::Aut_Voz)->GetForm().Get<ProgressBar>("PBar")](
                                const Progress& progress) { ShowListOnBar(progress, bar); })),
       session(context, comms, general, Connected, [this] { ShowPages(); }),
-      tools{.comms = comms,
+      tools{.platform = platform_,
+            .comms = comms,
             .dialogs = platform_.dialogs,
             .profile = profile,
             .totals = totals,
@@ -99,9 +100,16 @@ Configurator::Configurator(const Platform& platform, ConfiguratorOptions options
             .live = live,
             .info = info,
             .conf = conf,
-            .loop = platform_.loop,
-            .clock = platform_.clock,
-            .Translate = [this](std::string_view text) { return context.Translate(text); }},
+            .ConfFilePath = ConfFilePath,
+            .Translate = [this](std::string_view text) { return context.Translate(text); },
+            .ShowHelp = [this](std::string_view word) { context.ShowHelp(word); },
+            .IniCom_Click = [this] { general.Session().IniCom_Click(); },
+            .SendFirmware =
+                [this](const FirmwareFiles& files, const FirmwareDialogue::OnStage& onStage) {
+                  return session.SendFirmware(files, onStage);
+                },
+            .OpenLog = options_.openLog,
+            .OpenRecording = options_.openRecording},
       actEdit(context),
       livePoll(tools),
       recorder(tools, livePoll),
@@ -115,9 +123,13 @@ Configurator::Configurator(const Platform& platform, ConfiguratorOptions options
       langForm(context),
       targetSelect(context, settings,
                    [this](const std::string& name) { TargetDeviceChange(name); }),
+      firm(tools),
+      terminal(tools),
       fronts_{{ToolId::TargetSelect, &targetSelect},
               {ToolId::T_Real_Tavro, &monitor},
-              {ToolId::T_Real_Katodex, &cathodicMonitor}} {
+              {ToolId::T_Real_Katodex, &cathodicMonitor},
+              {ToolId::Firm, &firm},
+              {ToolId::Terminal, &terminal}} {
   if (options_.ticking) general.OnScanPorts = [this] { comms.ScanPorts(); };
   ConnectPages();
   RegisterWire();

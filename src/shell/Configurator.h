@@ -28,21 +28,25 @@
 #include "store/IniTool.h"
 #include "tools/Ayuda.h"
 #include "tools/AyudaHex.h"
+#include "tools/Firm.h"
 #include "tools/LivePoll.h"
 #include "tools/LiveRecorder.h"
 #include "tools/SetTotal.h"
 #include "tools/T_Real_Katodex.h"
 #include "tools/T_Real_Tavro.h"
+#include "tools/Terminal.h"
 #include "tools/ToolContext.h"
 
 namespace ostrel {
 
 /// Where a configurator finds what is installed, and how it runs.
 struct ConfiguratorOptions {
-  std::string programFolder;  ///< where the help pages stand
-  std::string langFile{};     ///< the working copy of the translation table
-  Lang* lang = nullptr;       ///< the table where it is open already, with its language chosen
-  bool ticking = false;       ///< the pages' timers run and ports are scanned, as a window needs it
+  std::string programFolder;    ///< where the help pages stand
+  std::string langFile{};       ///< the working copy of the translation table
+  Lang* lang = nullptr;         ///< the table where it is open already, with its language chosen
+  OpenLogFile openLog{};        ///< opens what the terminal adds to; none where there is none
+  OpenLogFile openRecording{};  ///< opens what a monitor records into; none where there is none
+  bool ticking = false;  ///< the pages' timers run and ports are scanned, as a window needs it
   int versionMajor = OSTREL_VERSION_MAJOR;
   int versionMinor = OSTREL_VERSION_MINOR;
 };
@@ -189,6 +193,8 @@ class Configurator {
   PWForm pwForm;
   LangForm langForm;
   TargetSelect targetSelect;
+  Firm firm;
+  Terminal terminal;
 
  private:
   std::vector<std::pair<ToolId, FrontForm*>> fronts_;

@@ -130,6 +130,7 @@ Navigation::Navigation(Configurator& configurator, std::span<const FormId> stays
 Navigation::~Navigation() { configurator_.OnTargetChanged = nullptr; }
 
 NodeResult Navigation::NodeClick(std::string_view key) {
+  if (configurator_.session.State().phase == SessionPhase::Updating) return NodeResult::Rests;
   Hide();
   const NodeResult result = Open(key);
   Settle();

@@ -47,6 +47,15 @@ constexpr FaultRow kFaultRows[] = {
      "answers each N-th request, or any, as a device of another speed"},
     {FaultKind::Echo, "echo", false, 1, -1,
      "sends each N-th request back, or any, as a loopback plug"},
+    {FaultKind::RefuseErase, "refuse-erase", false, 1, -1,
+     "refuses each N-th erasing of its flash, or any"},
+    {FaultKind::ReadyLate, "ready-late", false, 1, kNeedsTime,
+     "is ready for each N-th image, or any, ms later"},
+    {FaultKind::NoAliveMark, "no-alive-mark", true, 1, -1,
+     "gives no sign of life in block N of an image"},
+    {FaultKind::SilentAfterOctet, "silent-after-octet", true, 1, -1,
+     "hears nothing more of an image behind its N-th octet"},
+    {FaultKind::RefuseLoader, "refuse-loader", false, 1, -1, "refuses each N-th loader, or any"},
 };
 
 const FaultRow& RowOf(FaultKind kind) {

@@ -160,8 +160,8 @@ float LiveValues::Flow(const Configuration& conf, int index, std::int64_t now) c
 }
 
 float LiveValues::Math(const Configuration& conf, int index, std::int64_t now) const {
-  if (index >= self_.Traits().maths) return 0;
   const MathChannel& channel = conf.maths.at(static_cast<std::size_t>(index));
+  if (index >= self_.Traits().maths || !channel.on) return 0;
   const Ends ends = EndsOf(channel.alarms, {-50, 150});
   return Between(ends.first, ends.last, Curve(Kind::Math, index, now));
 }

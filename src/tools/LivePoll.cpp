@@ -4,24 +4,23 @@ namespace ostrel {
 
 LivePoll::LivePoll(ToolContext& context) : context_(context) {}
 
-LivePoll::~LivePoll() { context_.loop.Cancel(timer_); }
+LivePoll::~LivePoll() { context_.platform.loop.Cancel(timer_); }
 
 std::shared_ptr<const void> LivePoll::KeepGoing() {
   std::shared_ptr<const void> kept = kept_.lock();
   if (!kept) kept_ = kept = std::make_shared<const char>();
-  if (timer_ == 0) timer_ = context_.loop.Every(kLivePeriod, "live rounds", [this] { Tick(); });
+  if (timer_ == 0)
+    timer_ = context_.platform.loop.Every(kLivePeriod, "live rounds", [this] { Tick(); });
   return kept;
 }
 
 void LivePoll::Tick() {
-  if (kept_.expired()) return context_.loop.Cancel(std::exchange(timer_, 0));
-  // A monitor may have read just now.
-  if (context_.loop.Now() - begun_ >= kLivePeriod) Read();
+  if (kept_.expired()) return context_.platform.loop.Cancel(std::exchange(timer_, 0));
+  Read();
 }
 
 void LivePoll::Read() {
   if (!context_.Connected || context_.comms.LinkBusy) return;
-  begun_ = context_.loop.Now();
   context_.comms.ReadRealTime();
   const LiveRound round = Present();
   context_.comms.ReadDeviceRTC();
@@ -29,7 +28,8 @@ void LivePoll::Read() {
 }
 
 LiveRound LivePoll::Present() const {
-  return TakeRound(context_.live, context_.profile, context_.info, WallTimeOf(context_.clock));
+  return TakeRound(context_.live, context_.profile, context_.info,
+                   WallTimeOf(context_.platform.clock));
 }
 
 }  // namespace ostrel

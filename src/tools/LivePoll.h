@@ -15,7 +15,8 @@ inline constexpr Duration kLivePeriod = std::chrono::milliseconds(500);
 /// plots, a recording.
 ///
 /// A monitor reads while it has the front. Beside that, rounds go on for whoever keeps them going,
-/// whichever page is in front.
+/// whichever page is in front. A tick that finds a round under way does nothing, so that together
+/// they read no more often than the line bears.
 class LivePoll {
  public:
   explicit LivePoll(ToolContext& context);
@@ -44,7 +45,6 @@ class LivePoll {
   RoundFeed rounds_;
   std::weak_ptr<const void> kept_;  ///< lives while someone keeps the rounds going
   TimerId timer_ = 0;               ///< runs since someone did so first
-  TimePoint begun_{};               ///< when the last round began
 };
 
 }  // namespace ostrel

@@ -17,7 +17,7 @@ void LiveRecorder::Toggle() {
 
 void LiveRecorder::Begin(const std::string& path) {
   std::string why;
-  auto out = context_.openRecording(path, why);
+  auto out = context_.OpenRecording(path, why);
   if (!out)
     return static_cast<void>(context_.dialogs.ShowMessage({.text = path + ": " + why,
                                                            .title = context_.profile.TargetName,

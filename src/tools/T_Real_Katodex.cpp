@@ -31,7 +31,7 @@ T_Real_Katodex::T_Real_Katodex(ToolContext& context, LivePoll& poll, LiveRecorde
       Frame2(form_, "Frame2", "Entradas/ Salidas digitales"),
       Frame4(form_, "Frame4", "Flags"),
       math_(form_),
-      Timer1(form_, "Timer1", context.loop, kLivePeriod) {
+      Timer1(form_, "Timer1", context.platform.loop, kLivePeriod) {
   AddRows(analogs_, form_, "AN", kInputs);
   AddRows(aux_, form_, "AUX", kInputs, {.hasUnit = true, .hasBar = false});
   AddLamps(Led_D, Label1, form_, "Led_D", "Label1", "I", kInputLamps);

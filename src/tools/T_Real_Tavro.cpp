@@ -43,7 +43,7 @@ T_Real_Tavro::T_Real_Tavro(ToolContext& context, LivePoll& poll, LiveRecorder& r
       Frame4(form_, "Frame4", "Flags"),
       Frame5(form_, "Frame5", "Variables MODBUS"),
       math_(form_),
-      Timer1(form_, "Timer1", context.loop, kLivePeriod) {
+      Timer1(form_, "Timer1", context.platform.loop, kLivePeriod) {
   AddRows(analogs_, form_, "AN", kAnalogRows);
   AddLamps(Led_D, Label1, form_, "Led_D", "Label1", "I", kDigitalLamps);
   AddLamps(Led_O, Label2, form_, "Led_O", "Label2", "O", kOutputLamps);

@@ -287,12 +287,7 @@ TEST(LiveRounds, GoOnForWhoeverKeepsThemGoing) {
   EXPECT_EQ(rounds, 0);
   auto going = station.program.livePoll.KeepGoing();
   station.Run(std::chrono::seconds(10));
-  const int alone = rounds;
-  EXPECT_THAT(alone, testing::AllOf(testing::Ge(9), testing::Le(20)));
-  station.navigation.NodeClick("T_Real");
-  station.Run(std::chrono::seconds(10));
-  EXPECT_LE(rounds - alone, 20) << "a monitor and a listener share the rounds";
-  station.navigation.HideAll();
+  EXPECT_THAT(rounds, testing::AllOf(testing::Ge(9), testing::Le(20)));
   going.reset();
   rounds = 0;
   station.Run(std::chrono::seconds(5));
@@ -343,7 +338,7 @@ TEST(LiveRounds, TheWindowRecordsIntoAFileUntilItTakesNoMore) {
   Station station(sim::Model::BP);
   station.Connect();
   std::ostringstream file;
-  station.program.tools.openRecording = [&](const std::string& path,
+  station.program.tools.OpenRecording = [&](const std::string& path,
                                             std::string& why) -> std::unique_ptr<std::ostream> {
     why = "no such folder";
     if (path == "/full") return std::make_unique<std::ostream>(nullptr);  // takes nothing

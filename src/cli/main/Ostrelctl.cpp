@@ -10,6 +10,7 @@
 #include <string_view>
 #include <vector>
 
+#include "cli/InputLines.h"
 #include "cli/Terminal.h"
 #include "host/Folders.h"
 #include "host/Machine.h"
@@ -46,6 +47,11 @@ int Run(const std::vector<std::string>& args) {
       .openLog = OpenTrace,
       .openRecording = OpenRecording,
       .openLineRecording = OpenLineRecording,
+      .openGrowing = OpenLog,
+      .watchInput =
+          [&](InputLines::OnLine onLine, InputLines::OnEnd onEnd) {
+            return std::make_shared<InputLines>(machine.loop, std::move(onLine), std::move(onEnd));
+          },
       .translate = MakeTranslator(),
       .makePdf = PdfOf,
       .onInterrupt = {},

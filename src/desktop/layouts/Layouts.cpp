@@ -16,7 +16,7 @@ void Plain(FormView& view, const LayoutContext&) {
   kLayOut(view);
 }
 
-constexpr std::array<LayoutOf, 31> kLayouts{{
+constexpr std::array<LayoutOf, 33> kLayouts{{
     {"General", LayOutGeneral},
     {"E_Digital", Plain<LayOutDigital>},
     {"E_Analog", Plain<LayOutAnalog>},
@@ -48,6 +48,8 @@ constexpr std::array<LayoutOf, 31> kLayouts{{
     {"TargetSelect", Plain<LayOutTargetSelect>},
     {"T_Real_Tavro", Plain<LayOutMonitor>},
     {"T_Real_Katodex", Plain<LayOutCathodicMonitor>},
+    {"Firm", Plain<LayOutFirm>},
+    {"Terminal", Plain<LayOutTerminal>},
 }};
 
 }  // namespace

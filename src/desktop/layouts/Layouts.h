@@ -53,5 +53,7 @@ void LayOutLang(FormView& view);
 void LayOutTargetSelect(FormView& view);
 void LayOutMonitor(FormView& view);
 void LayOutCathodicMonitor(FormView& view);
+void LayOutFirm(FormView& view);
+void LayOutTerminal(FormView& view);
 
 }  // namespace ostrel

@@ -46,11 +46,21 @@ void NameAfter(FormView& view, const std::string& readout, const std::string& la
   });
 }
 
+/// The number of a row, which is shown as long as its value is.
+QLabel* RowNumber(FormView& view, const std::string& readout, int index) {
+  auto* number = new QLabel(QString::number(index), &view);
+  number->setForegroundRole(QPalette::PlaceholderText);
+  const Face& face = FaceOf(view.GetForm()[readout]);
+  view.Whenever({readout}, [number, &face] { number->setVisible(face.Visible()); });
+  return number;
+}
+
 /// A measured value in the columns of a grid from `column` on; gives the column behind it.
 int AddMeasure(FormView& view, QGridLayout& grid, int row, int column, std::string_view family,
                int index) {
   const std::string name = Part("Label_", family, "_Name", index);
   const std::string digit = Part("Digit_", family, "", index);
+  grid.addWidget(RowNumber(view, digit, index), row, column++);
   grid.addWidget(Elastic(view, name), row, column);
   grid.setColumnStretch(column++, 3);
   NameAfter(view, digit, name, QString("%1 %2").arg(ToQt(family)).arg(index));
@@ -113,8 +123,14 @@ void AddOutputs(FormView& view, QVBoxLayout& column) {
 }
 
 Card DigitalCard(FormView& view) {
+  constexpr int kBesideTitle = 36;
   const Card card = MakeCard(view, std::string_view("Frame2"));
+  // Few inputs are narrower than the title.
+  view.Whenever({"Frame2"}, [box = card.box] {
+    box->setMinimumWidth(box->fontMetrics().horizontalAdvance(box->title()) + kBesideTitle);
+  });
   auto* column = new QVBoxLayout;
+  column->setSpacing(8);
   column->addWidget(LampGrid(view, "Led_D", "Label1", 5));
   if (view.Has("Led_O(0)")) AddOutputs(view, *column);
   column->addStretch(1);
@@ -147,11 +163,13 @@ QWidget* ModuleList(FormView& view) {
   grid->setContentsMargins(0, 0, 0, 0);
   grid->setVerticalSpacing(2);
   for (int i = 0; i < kModules; ++i) {
-    const int column = i / kRows * 2;
-    grid->addWidget(Elastic(view, Numbered("LabelModulo", i)), i % kRows, column);
-    grid->addWidget(view.Show(Numbered("Bar_EX", i)), i % kRows, column + 1);
-    grid->setColumnStretch(column, 2);
-    grid->setColumnStretch(column + 1, 1);
+    const int row = i % kRows;
+    const int column = i / kRows * 3;
+    grid->addWidget(RowNumber(view, Numbered("LabelModulo", i), i), row, column);
+    grid->addWidget(Elastic(view, Numbered("LabelModulo", i)), row, column + 1);
+    grid->addWidget(view.Show(Numbered("Bar_EX", i)), row, column + 2);
+    grid->setColumnStretch(column + 1, 2);
+    grid->setColumnStretch(column + 2, 1);
   }
   return box;
 }

@@ -7,7 +7,6 @@
 #include "base/Scope.h"
 #include "desktop/forms/Words.h"
 #include "desktop/program/Language.h"
-#include "host/TraceFile.h"
 
 namespace ostrel {
 
@@ -24,7 +23,6 @@ Desktop::Desktop(const Platform& platform, const ConfiguratorOptions& options,
                .dataFolder = dataFolder,
                .port = port_,
                .inspector = inspector}) {
-  configurator_.tools.openRecording = OpenRecording;
   configurator_.context.clipboardText = [] { return FromQt(QGuiApplication::clipboard()->text()); };
 }
 

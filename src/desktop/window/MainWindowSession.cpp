@@ -48,6 +48,7 @@ void MainWindow::ShowLink() {
                    .write = mayAsk && !why,
                    .cancel = IsTransfer(state.phase) || state.phase == SessionPhase::Opening,
                    .whyNot = why ? SentenceOf(*why) : QString()});
+  RestForUpdate(state.phase == SessionPhase::Updating);
   Rest(session.OwnsModel());
 }
 
@@ -56,11 +57,12 @@ void MainWindow::ShowLink() {
 /// unless the operator has taken it elsewhere.
 void MainWindow::Rest(bool rests) {
   for (QAction* action :
-       {open_, save_, saveAs_, recentFiles_, safetyCopies_, compare_, report_, doctor_, language_})
-    action->setEnabled(!rests);
+       {open_, save_, saveAs_, recentFiles_, safetyCopies_, compare_, schedule_, report_, doctor_,
+        language_})
+    action->setEnabled(!rests && !isUpdating_);
   ShowHistory();
-  trace_->SetMaySave(!rests);
-  live_.SetMaySave(!rests);
+  trace_->SetMaySave(!rests && !isUpdating_);
+  live_.SetMaySave(!rests && !isUpdating_);
   if (pages_->isEnabled() != rests) return;
   QWidget* const present = focusWidget();
   if (rests) focus_ = pages_->isAncestorOf(present) ? present : nullptr;
@@ -71,6 +73,13 @@ void MainWindow::Rest(bool rests) {
   }
   if (leaveBox_) leaveBox_->close();  // what it asks about has ended
   if (focus_ && (!present || present == refuge_)) focus_->setFocus();
+}
+
+void MainWindow::RestForUpdate(bool isUpdating) {
+  if (isUpdating == isUpdating_) return;
+  isUpdating_ = isUpdating;
+  tree_->setEnabled(!isUpdating);
+  if (leaveBox_ && !isUpdating && !configurator_.session.IsFlashErased()) leaveBox_->close();
 }
 
 void MainWindow::ShowTransfer() {

@@ -2842,5 +2842,57 @@
         <source>Inactive</source>
         <translation>Inactiva</translation>
     </message>
+    <message>
+        <source>Files</source>
+        <translation>Ficheros</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>Actualización</translation>
+    </message>
+    <message>
+        <source>The logger has no firmware from the erasing of its flash until its lamp blinks again. Keep it powered and connected so long, whatever happens.</source>
+        <translation>El equipo no tiene firmware desde que se borra su flash hasta que su led vuelve a parpadear. Manténgalo alimentado y conectado hasta entonces, pase lo que pase.</translation>
+    </message>
+    <message>
+        <source>Find in the text</source>
+        <translation>Buscar en el texto</translation>
+    </message>
+    <message>
+        <source>Command:</source>
+        <translation>Comando:</translation>
+    </message>
+    <message>
+        <source>Frame, with its &quot;#&quot;:</source>
+        <translation>Trama, con su «#»:</translation>
+    </message>
+    <message>
+        <source>Console</source>
+        <translation>Consola</translation>
+    </message>
+    <message>
+        <source>Updating</source>
+        <translation>Actualizando</translation>
+    </message>
+    <message>
+        <source>The flash of the logger is erased. Leaving now leaves it without firmware.</source>
+        <translation>La flash del equipo está borrada. Si sale ahora, el equipo se queda sin firmware.</translation>
+    </message>
+    <message>
+        <source>The firmware of the logger is being replaced. Leaving breaks that off.</source>
+        <translation>Se está sustituyendo el firmware del equipo. Si sale, la actualización se interrumpe.</translation>
+    </message>
+    <message>
+        <source>the logger gave no sign of life by octet %1 of the image</source>
+        <translation>el equipo no dio señales de vida hasta el octeto %1 de la imagen</translation>
+    </message>
+    <message>
+        <source>the logger&apos;s flash is erased and holds no firmware: leave it powered and connected, and start the update again with the same files</source>
+        <translation>la flash del equipo está borrada y no contiene firmware: déjelo alimentado y conectado, y vuelva a iniciar la actualización con los mismos ficheros</translation>
+    </message>
+    <message>
+        <source>nothing of the image was sent: if the logger still answers, its firmware is as it was</source>
+        <translation>no se ha enviado nada de la imagen: si el equipo todavía responde, su firmware es el de antes</translation>
+    </message>
 </context>
 </TS>
