@@ -19,3 +19,25 @@ install(FILES ${CMAKE_SOURCE_DIR}/data/icons/ostrel-configurator.svg
         DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps)
 install(FILES ${CMAKE_SOURCE_DIR}/docs/man/ostrel-configurator.1
         DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+
+# Help pages of our own, a page word each, in English and Spanish; pages that are supplied apart
+# come ahead of them.
+set(help_folder ${CMAKE_BINARY_DIR}/share/ostrel-configurator/help)
+file(GLOB help_texts CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/docs/help/en/*.md
+                                       ${CMAKE_SOURCE_DIR}/docs/help/es/*.md)
+set(help_pages)
+foreach(text IN LISTS help_texts)
+  cmake_path(GET text STEM word)
+  cmake_path(GET text PARENT_PATH language)
+  cmake_path(GET language FILENAME language)
+  string(TOUPPER ${language} ending)
+  set(page ${help_folder}/${word}_${ending}.htm)
+  add_custom_command(OUTPUT ${page}
+                     COMMAND ${CMAKE_COMMAND} -DTEXT=${text} -DPAGE=${page}
+                             -P ${CMAKE_SOURCE_DIR}/cmake/HelpPage.cmake
+                     DEPENDS ${text} ${CMAKE_SOURCE_DIR}/cmake/HelpPage.cmake VERBATIM)
+  list(APPEND help_pages ${page})
+endforeach()
+add_custom_target(ostrel_help ALL DEPENDS ${help_pages})
+add_dependencies(ostrel_desktop ostrel_help)
+install(DIRECTORY ${help_folder} DESTINATION ${CMAKE_INSTALL_DATADIR}/ostrel-configurator)

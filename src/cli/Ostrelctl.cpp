@@ -47,7 +47,8 @@ void AddGlobals(CLI::App& app, GlobalOptions& options) {
   app.add_option("--record", options.record,
                  "File that gets every octet both ways, for ostrel-sim --replay");
   app.add_option("--sim-state", options.simState, "File in which a simulated logger is kept");
-  app.add_option("--lang", options.lang, "Column of the language table for the core's texts")
+  app.add_option("--lang", options.lang,
+                 "Column of the language table for the core's texts, else that of the locale")
       ->check(CLI::Range(1, 5));
   app.add_option_function<std::string>(
          "--features",
@@ -164,6 +165,7 @@ ExitCode RunOstrelctl(std::span<const std::string> args, Environment& environmen
   CLI::App app("Reads, checks, compares and writes the configurations of telemetry loggers",
                "ostrelctl");
   GlobalOptions options;
+  options.lang = environment.lang;
   AddGlobals(app, options);
   const std::vector<Command> commands = AddCommands(app);
   const ConfiguratorOptions version;

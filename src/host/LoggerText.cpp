@@ -2,6 +2,8 @@
 
 #include <charconv>
 
+#include "link/WireText.h"
+
 namespace ostrel {
 
 std::optional<std::int32_t> ReadFeatures(std::string_view text) {
@@ -22,5 +24,7 @@ std::string NoWholeNumber(const std::string& text) {
 std::string ClockText(const DateTime& time) {
   return time == DateTime{} ? std::string() : DateTimeText(time);
 }
+
+std::string WithoutSecrets(std::string_view octets) { return MaskPasswords(MaskCode(octets)); }
 
 }  // namespace ostrel

@@ -64,14 +64,9 @@ std::string Take(const Texts& texts, sim::LoggerOptions& options) {
   return {};
 }
 
-/// A request with "****" for an access code and for a password in a statement.
-std::string WithoutSecrets(const std::string& request) {
-  for (const std::string_view word : {"#11", "APNPASS=", "FTPPASS="}) {
-    const std::size_t at = request.find(word);
-    if (at == std::string::npos || (word.starts_with('#') && at > 0)) continue;
-    return request.substr(0, at + word.size()) + "****";
-  }
-  return request;
+/// Octets of the line as they may be shown.
+std::string Shown(const std::string& octets) {
+  return Printable(FromCodePage(WithoutSecrets(octets)));
 }
 
 /// A time in seconds, ahead of what happened then.
@@ -121,8 +116,8 @@ bool ParseSimOptions(std::span<const std::string> args, SimOptions& options, std
 }
 
 std::string ExchangeLine(const sim::Exchange& exchange) {
-  std::string line = Stamp(exchange.at) + Printable(FromCodePage(WithoutSecrets(exchange.request)));
-  if (!exchange.reply.empty()) line += " -> " + Printable(FromCodePage(exchange.reply));
+  std::string line = Stamp(exchange.at) + Shown(exchange.request);
+  if (!exchange.reply.empty()) line += " -> " + Shown(exchange.reply);
   if (exchange.frames > 1) line += " and " + std::to_string(exchange.frames - 1) + " more";
   if (!exchange.note.empty()) line += "  (" + Printable(FromCodePage(exchange.note)) + ")";
   return line;

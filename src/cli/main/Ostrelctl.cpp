@@ -3,6 +3,7 @@
 #include <unistd.h>
 
 #include <QGuiApplication>
+#include <QLocale>
 #include <algorithm>
 #include <exception>
 #include <iostream>
@@ -26,6 +27,9 @@ namespace {
 using namespace ostrel;
 using namespace ostrel::cli;
 
+/// The column of the language table that stands for the locale: Spanish, or else English.
+std::int16_t LangColumn() { return QLocale::system().language() == QLocale::Spanish ? 1 : 2; }
+
 int Run(const std::vector<std::string>& args) {
   Machine machine;
   QtProcesses processes;
@@ -40,6 +44,7 @@ int Run(const std::vector<std::string>& args) {
       .outIsTerminal = isatty(STDOUT_FILENO) == 1,
       .ask = {},
       .readDescriptor = ReadDescriptor,
+      .lang = LangColumn(),
       .code = qEnvironmentVariable("OSTREL_CODE").toStdString(),
       .dataFolder = UserDataFolder(),
       .shippedLang = LangIn(ShippedFolder()),

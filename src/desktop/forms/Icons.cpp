@@ -102,6 +102,13 @@ void DrawCompare(QPainter& p) {
   for (const qreal y : {8.0, 16.0}) p.drawLine(QPointF(15.5, y), QPointF(18.5, y));
 }
 
+/// A sheet upon a sheet.
+void DrawChannels(QPainter& p) {
+  p.drawPolyline(QPolygonF({{8, 16}, {4, 16}, {4, 4}, {14, 4}, {14, 7}}));
+  p.drawRect(QRectF(8, 8, 12, 12));
+  for (const qreal y : {12.0, 16.0}) p.drawLine(QPointF(11, y), QPointF(17, y));
+}
+
 void DrawTrace(QPainter& p) {
   p.drawRoundedRect(QRectF(3, 4.5, 18, 15), 2, 2);
   p.drawPolyline(QPolygonF({{6.5, 9}, {9.5, 12}, {6.5, 15}}));
@@ -163,6 +170,8 @@ void Draw(QPainter& painter, Sign sign) {
       return DrawDoctor(painter);
     case Sign::Compare:
       return DrawCompare(painter);
+    case Sign::Channels:
+      return DrawChannels(painter);
     case Sign::Schedule:
       return DrawSchedule(painter);
     case Sign::Live:

@@ -24,6 +24,7 @@ enum class Sign {
   Undo,
   Redo,
   Compare,
+  Channels,
   Schedule,
   Report,
   Doctor,

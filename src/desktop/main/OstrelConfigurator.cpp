@@ -30,7 +30,7 @@ int RunWindow(const CommandLine& line) {
   if (line.demo) machine.AddSimulatedLoggers().Port().SetPaced(true);
   QtProcesses realProcesses(ShowDocument);
   QtDialogs dialogs;
-  HelpProcesses processes(realProcesses, dialogs);
+  HelpProcesses processes(realProcesses, dialogs, ShippedFolder() + "/help");
   machine.files.MakeFolder(UserDataFolder());
   const std::string langFile =
       SeedLang(machine.files, LangIn(ShippedFolder()), LangIn(UserDataFolder()));

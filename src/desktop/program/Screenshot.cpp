@@ -12,7 +12,7 @@
 #include "desktop/program/Desktop.h"
 #include "desktop/program/Language.h"
 #include "desktop/window/DoctorDialog.h"
-#include "desktop/window/ScheduleDialog.h"
+#include "desktop/window/ScheduleView.h"
 #include "host/SimulatedLoggers.h"
 #include "host/TraceFile.h"
 #include "platform/qt/QtEventLoop.h"

@@ -496,11 +496,6 @@
         <translation>Abrir</translation>
     </message>
     <message>
-        <source>Open</source>
-        <comment>the state of the link</comment>
-        <translation>Sesión abierta</translation>
-    </message>
-    <message>
         <source>Reading</source>
         <translation>Leyendo</translation>
     </message>
@@ -827,10 +822,6 @@
     <message>
         <source>Sent</source>
         <translation>Enviado</translation>
-    </message>
-    <message>
-        <source>The file is for the model %1, and a session with a %2 stands. Change the model?</source>
-        <translation>El archivo es del modelo %1, y hay una sesión abierta con un %2. ¿Cambiar el modelo?</translation>
     </message>
     <message>
         <source>The logger holds another configuration than was sent</source>
@@ -2459,6 +2450,208 @@
     <message>
         <source>Measured channels without a name are left out.</source>
         <translation>Se omiten los canales medidos sin nombre.</translation>
+    </message>
+    <message>
+        <source>Not sent to this logger</source>
+        <translation>No se envía a este equipo</translation>
+    </message>
+    <message>
+        <source>%1, another one</source>
+        <translation>%1, otra distinta</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>ninguna</translation>
+    </message>
+    <message>
+        <source>empty</source>
+        <translation>vacío</translation>
+    </message>
+    <message>
+        <source>&amp;Compare</source>
+        <translation>&amp;Comparar</translation>
+    </message>
+    <message>
+        <source>&amp;with</source>
+        <translation>c&amp;on</translation>
+    </message>
+    <message>
+        <source>Choose</source>
+        <translation>Elegir</translation>
+    </message>
+    <message>
+        <source>&amp;Take the selected over into the pages</source>
+        <translation>&amp;Pasar lo seleccionado a las páginas</translation>
+    </message>
+    <message>
+        <source>Take &amp;all over into the pages</source>
+        <translation>Pasar &amp;todo a las páginas</translation>
+    </message>
+    <message>
+        <source>the pages</source>
+        <translation>las páginas</translation>
+    </message>
+    <message>
+        <source>the logger</source>
+        <translation>el equipo</translation>
+    </message>
+    <message>
+        <source>safety copy %1</source>
+        <translation>copia de seguridad %1</translation>
+    </message>
+    <message>
+        <source>another file...</source>
+        <translation>otro archivo...</translation>
+    </message>
+    <message>
+        <source>The logger is being read.</source>
+        <translation>Se está leyendo el equipo.</translation>
+    </message>
+    <message>
+        <source>No session stands in which it could be read.</source>
+        <translation>No hay ninguna sesión en la que se pueda leer.</translation>
+    </message>
+    <message>
+        <source>The logger could not be read.</source>
+        <translation>No se ha podido leer el equipo.</translation>
+    </message>
+    <message>
+        <source>Choose what is to be compared.</source>
+        <translation>Elija qué se va a comparar.</translation>
+    </message>
+    <message>
+        <source>What is taken over comes from: %1.</source>
+        <translation>Lo que se pasa viene de: %1.</translation>
+    </message>
+    <message>
+        <source>The models are not the same, so nothing can be taken over.</source>
+        <translation>Los modelos no son el mismo, así que no se puede pasar nada.</translation>
+    </message>
+    <message>
+        <source>Compare pages, logger, files and safety copies</source>
+        <translation>Comparar páginas, equipo, archivos y copias de seguridad</translation>
+    </message>
+    <message>
+        <source>no day</source>
+        <translation>ningún día</translation>
+    </message>
+    <message>
+        <source>free</source>
+        <translation>libre</translation>
+    </message>
+    <message>
+        <source>Apply to several channels</source>
+        <translation>Aplicar a varios canales</translation>
+    </message>
+    <message>
+        <source>all but the name</source>
+        <translation>todo menos el nombre</translation>
+    </message>
+    <message>
+        <source>alarm %1 alone</source>
+        <translation>solo la alarma %1</translation>
+    </message>
+    <message>
+        <source>&amp;Copy:</source>
+        <translation>&amp;Copiar:</translation>
+    </message>
+    <message>
+        <source>&amp;What:</source>
+        <translation>&amp;Qué:</translation>
+    </message>
+    <message>
+        <source>&amp;Into:</source>
+        <translation>&amp;En:</translation>
+    </message>
+    <message>
+        <source>&amp;All</source>
+        <translation>&amp;Todos</translation>
+    </message>
+    <message>
+        <source>&amp;None of them</source>
+        <translation>&amp;Ninguno</translation>
+    </message>
+    <message>
+        <source>A&amp;pply</source>
+        <translation>A&amp;plicar</translation>
+    </message>
+    <message>
+        <source>Copy %1</source>
+        <translation>Copiar %1</translation>
+    </message>
+    <message>
+        <source>Copy alarm %1 of %2</source>
+        <translation>Copiar la alarma %1 de %2</translation>
+    </message>
+    <message>
+        <source>Paste %1 as alarm %3 of %2</source>
+        <translation>Pegar %1 como alarma %3 de %2</translation>
+    </message>
+    <message>
+        <source>Paste %1 into %2</source>
+        <translation>Pegar %1 en %2</translation>
+    </message>
+    <message>
+        <source>Apply to several channels...</source>
+        <translation>Aplicar a varios canales...</translation>
+    </message>
+    <message>
+        <source>Paste %1 into the channels selected</source>
+        <translation>Pegar %1 en los canales seleccionados</translation>
+    </message>
+    <message>
+        <source>No channel is in front</source>
+        <translation>No hay ningún canal delante</translation>
+    </message>
+    <message>
+        <source>alarm %1 of %2</source>
+        <translation>alarma %1 de %2</translation>
+    </message>
+    <message>
+        <source>Copy and paste channels and alarms</source>
+        <translation>Copiar y pegar canales y alarmas</translation>
+    </message>
+    <message>
+        <source>Copy the list</source>
+        <translation>Copiar la lista</translation>
+    </message>
+    <message>
+        <source>Paste the list</source>
+        <translation>Pegar la lista</translation>
+    </message>
+    <message>
+        <source>EN</source>
+        <translation>ES</translation>
+    </message>
+    <message>
+        <source>The configuration is being read. The page shows it when it is whole.</source>
+        <translation>Se está leyendo la configuración. La página la mostrará cuando esté completa.</translation>
+    </message>
+    <message>
+        <source>The file is for the model %1, and the session that stands is with the model %2. Change the model?</source>
+        <translation>El archivo es del modelo %1 y la sesión abierta es con el modelo %2. ¿Cambiar el modelo?</translation>
+    </message>
+    <message>
+        <source>Reading the voice-call list</source>
+        <translation>Leyendo la lista de voz</translation>
+    </message>
+    <message>
+        <source>Writing the voice-call list</source>
+        <translation>Escribiendo la lista de voz</translation>
+    </message>
+    <message>
+        <source>The list is empty: the logger loses all numbers that it holds. Write it?</source>
+        <translation>La lista está vacía: el equipo perderá todos los números que tiene. ¿Escribirla?</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n of the numbers are no telephone numbers, the first of them &quot;%1&quot;. A logger may refuse them. Write the list?</source>
+        <translation><numerusform>Uno de los números no es un teléfono: &quot;%1&quot;. El equipo puede rechazarlo. ¿Escribir la lista?</numerusform><numerusform>%n de los números no son teléfonos; el primero es &quot;%1&quot;. El equipo puede rechazarlos. ¿Escribir la lista?</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more</source>
+        <translation><numerusform>%n más</numerusform><numerusform>%n más</numerusform></translation>
+    </message>
+    <message>
         <source>Plot</source>
         <translation>Gráfica</translation>
     </message>
@@ -2721,10 +2914,6 @@
         <translation>todos salvo:</translation>
     </message>
     <message>
-        <source>none</source>
-        <translation>ninguna</translation>
-    </message>
-    <message>
         <source>No telephone is told anything.</source>
         <translation>No se avisa a ningún teléfono.</translation>
     </message>
@@ -2779,14 +2968,6 @@
     <message>
         <source>Timers in a week</source>
         <translation>Temporizadores en una semana</translation>
-    </message>
-    <message>
-        <source>no day</source>
-        <translation>ningún día</translation>
-    </message>
-    <message>
-        <source>free</source>
-        <translation>libre</translation>
     </message>
     <message>
         <source>unknown to this model</source>
