@@ -2754,6 +2754,8 @@
     <message>
         <source>fail</source>
         <translation>no aceptado</translation>
+    </message>
+    <message>
         <source>Inputs to try</source>
         <translation>Entradas que probar</translation>
     </message>
