@@ -35,7 +35,9 @@ std::string EventText(LineEvent event, const std::string& detail) {
 
 Recorder::Recorder(const EventLoop& loop, Sink sink, std::string_view remark)
     : loop_(loop), sink_(std::move(sink)), start_(loop.Now()) {
-  sink_(std::string(kLineRecordingHead) + "\n");
+  std::string head(kLineRecordingHead);
+  head += '\n';
+  sink_(head);
   sink_(RecordedLine({.kind = RecordedKind::Remark, .text = std::string(remark)}));
 }
 
