@@ -62,9 +62,10 @@ void AddGlobals(CLI::App& app, GlobalOptions& options) {
 
 std::vector<Command> AddCommands(CLI::App& app) {
   std::vector<Command> commands;
-  for (const auto add : {AddPorts, AddInfo, AddClock, AddLive, AddOutput, AddTotal, AddVoice,
-                         AddProbe, AddDownload, AddUpload, AddBackups, AddRestore, AddStatements,
-                         AddDiff, AddShow, AddCheck, AddSchedule, AddCalc})
+  for (const auto add :
+       {AddPorts, AddInfo,     AddClock,    AddLive,    AddOutput,  AddTotal,      AddVoice,
+        AddProbe, AddDownload, AddUpload,   AddBackups, AddRestore, AddStatements, AddDiff,
+        AddShow,  AddCheck,    AddSchedule, AddCalc,    AddHistory, AddInterrupted})
     commands.push_back(add(app));
   for (const Command& command : commands) command.parser->fallthrough();
   app.require_subcommand(1);
@@ -119,6 +120,8 @@ ExitCode RunChosen(const std::vector<Command>& commands, Environment& environmen
   for (const Command& command : commands) {
     if (!command.parser->parsed()) continue;
     CommandContext context(environment, options);
+    // Whoever asks for the interruptions need not be told of them.
+    if (command.parser->get_name() != "interrupted") TellInterrupted(context);
     const ExitCode result = command.run(context);
     const FileResult kept = environment.simulated.SaveState(environment.platform.files);
     environment.out.flush();

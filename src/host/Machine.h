@@ -11,6 +11,7 @@
 #include "platform/qt/QtFiles.h"
 #include "platform/qt/QtSerialPort.h"
 #include "platform/qt/QtSettings.h"
+#include "platform/qt/SqlLedger.h"
 #include "platform/virtual/PortSwitch.h"
 
 namespace ostrel {
@@ -37,6 +38,7 @@ class Machine {
 
  private:
   QtSettings settings_;
+  SqlLedger ledger_;
   PortMap map_;
   QtSerialPort serialPort_;
   std::unique_ptr<SimulatedLoggers> simulated_;

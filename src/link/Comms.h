@@ -10,6 +10,7 @@
 
 #include "link/Download.h"
 #include "link/Line.h"
+#include "link/LinkDeed.h"
 #include "link/Progress.h"
 #include "link/Upload.h"
 #include "link/VoiceDialogue.h"
@@ -41,6 +42,9 @@ struct LinkHooks {
   std::function<void()> showPWForm;   ///< asks the access code, modal, into AccessCode
   std::function<void()> carrierLost;  ///< tells the operator
   std::function<void(std::string_view portName)> portFound;  ///< one usable port, such as "COM7"
+  std::function<void(const LinkDeed&)> deedBegins{};         ///< ahead of its first octet
+  std::function<void(const LinkDeed&, const LinkFault&)> deedEnds{};
+  std::function<void()> sessionEnds{};  ///< one that stood; the port is closed
 };
 
 /// The device link: owns the serial port and has every dialogue with a logger. It is the face of
@@ -68,7 +72,7 @@ class Comms {
   void CloseComs(bool modem);
   /// Closes the port at once, without any dialogue: a running wait ends, and with it the dialogue,
   /// which fails.
-  void Abort() { line_.Close(); }
+  void Abort() { ClosePort(); }
   std::string GetChar(int timeout) { return line_.GetChar(timeout); }
   void Delay(int ms) { line_.Delay(ms); }
   void PumpEvents() { line_.PumpEvents(); }
@@ -141,7 +145,10 @@ class Comms {
 
  private:
   LinkResult Keep(LinkResult result);
-  LinkResult Set(std::string message, std::string_view answer);
+  /// Runs a dialogue that book is kept of.
+  LinkResult Do(const LinkDeed& deed, const std::function<LinkResult()>& dialogue);
+  LinkResult Set(const LinkDeed& deed, std::string message, std::string_view answer);
+  void ClosePort();
 
   Platform platform_;
   LinkRecords records_;
@@ -154,6 +161,7 @@ class Comms {
   LinkFault fault_;
   LinkFault infoFault_{LinkFault::Kind::Silence};
   bool opened_ = false;  ///< the open port is ours to close
+  bool stands_ = false;  ///< a session whose end has not been told
   std::optional<TimePoint> carrierGoneAt_;
 
  public:

@@ -16,7 +16,14 @@ constexpr bool MovesConfiguration(DialogueKind kind) {
 
 /// How far a dialogue is.
 struct Progress {
-  enum class Stage { Begun, Step, Done, Failed };
+  enum class Stage {
+    Begun,
+    Step,
+    Closing,  ///< an upload is about to ask the logger to take everything over
+    Done,
+    Failed
+  };
+
 
   DialogueKind kind;
   Stage stage;

@@ -1,3 +1,4 @@
+#include "base/CodePage.h"
 #include "base/Scope.h"
 #include "blocks/Configuration.h"
 #include "blocks/Orders.h"
@@ -54,6 +55,7 @@ FileResult Configurator::SaveConf(Replacing replacing) {
   FileResult result =
       document.SaveINI(ConfFilePath, replacing, ReadersOf(document, iniTool, ConfFilePath));
   iniTool.Forget();
+  if (result.Ok()) ledger.Saved(ConfFilePath, ToCodePage(document.OutputINI()));
   return result;
 }
 
@@ -83,6 +85,7 @@ RestoreResult Configurator::RestoreConf() {
     if (Page* page = PageOf(turn.page); page && turn.takesPart(profile)) page->RestoreConf();
   hasOrigin_ = true;
   lacking_ = WhatLacks();
+  ledger.TakeFile(ConfFilePath);
   return RestoreResult::Loaded;
 }
 

@@ -1,26 +1,11 @@
 #include "shell/GuardedWrite.h"
 
+#include "shell/Against.h"
 #include "shell/Configurator.h"
+#include "shell/ledger/IdentityGuard.h"
 
 namespace ostrel {
 namespace {
-
-/// What was sent, or is to be, against what the logger has reported.
-class Against {
- public:
-  Against(const Configurator& configurator, const DeviceConf& sent, const DeviceConf& read)
-      : features_(configurator.info.Features),
-        sent_{configurator.profile, sent},
-        read_{configurator.profile,
-              ReadAsSent(read, sent, {configurator.profile, configurator.info.Features})} {}
-
-  Comparison WhatChanges() const { return Compare(read_, sent_, features_); }
-  Comparison WhatCameBack() const { return Compare(sent_, read_, features_); }
-
- private:
-  std::int32_t features_;
-  ModelConfiguration sent_, read_;
-};
 
 /// Reads what the logger holds, and gets the consent to replace it. Nothing when all is well.
 std::optional<WriteEnd> Prepare(Configurator& configurator, const WriteRoad& road,
@@ -30,6 +15,9 @@ std::optional<WriteEnd> Prepare(Configurator& configurator, const WriteRoad& roa
   const DeviceConf held = configurator.conf;
   configurator.ShowConfiguration(toSend);
   if (road.keep && !road.keep(held)) return WriteEnd::NotKept;
+  if (const auto doubt = DoubtOfHeld(configurator, held);
+      doubt && road.inSpiteOf && !road.inSpiteOf(*doubt))
+    return WriteEnd::Declined;
   if (road.mayWrite && !road.mayWrite(Against(configurator, toSend, held).WhatChanges()))
     return WriteEnd::Declined;
   return {};
@@ -41,12 +29,14 @@ WriteEnd Send(Configurator& configurator, const WriteRoad& road, WriteResult& re
   if (!road.verify) return WriteEnd::Written;
   if (!road.read()) return WriteEnd::NotReadBack;
   result.verified = Against(configurator, result.sent, configurator.conf).WhatCameBack();
+  configurator.ledger.Verified(*result.verified);
   return WriteEnd::Written;
 }
 
 }  // namespace
 
 WriteResult WriteGuarded(Configurator& configurator, const WriteRoad& road) {
+  const auto guarded = configurator.ledger.WithGuards();
   WriteResult result{.sent = configurator.conf};
   result.end = Send(configurator, road, result);
   configurator.ShowConfiguration(result.sent);

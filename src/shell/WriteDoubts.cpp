@@ -3,6 +3,7 @@
 #include "blocks/Orders.h"
 #include "shell/Comparison.h"
 #include "shell/Configurator.h"
+#include "shell/ledger/IdentityGuard.h"
 
 namespace ostrel {
 namespace {
@@ -40,6 +41,7 @@ std::vector<FoundByRule> ErrorsIn(const ModelConfiguration& configuration,
 std::vector<Phrase> DoubtsOfWriting(const Configurator& configurator) {
   std::vector<Phrase> doubts;
   if (auto model = configurator.session.ModelDoubt()) doubts.push_back(std::move(*model));
+  for (Phrase& doubt : DoubtsOfIdentity(configurator)) doubts.push_back(std::move(doubt));
   if (configurator.session.LastReadFailed())
     doubts.push_back({"the last reading of the logger failed"});
   else if (!configurator.HasOrigin())

@@ -18,6 +18,7 @@
 #include "platform/SilentDialogs.h"
 #include "platform/virtual/VirtualClock.h"
 #include "platform/virtual/VirtualFiles.h"
+#include "platform/virtual/VirtualLedger.h"
 #include "platform/virtual/VirtualLoop.h"
 #include "platform/virtual/VirtualProcesses.h"
 #include "platform/virtual/VirtualSettings.h"
@@ -48,6 +49,7 @@ class World {
   VirtualFiles files;
   VirtualSettings settings;
   VirtualProcesses processes;
+  VirtualLedger ledger;
   SimulatedLoggers simulated;
   std::ostringstream outStream, errStream;
   SilentDialogs nobody;
@@ -57,7 +59,8 @@ class World {
                                        .dialogs = nobody,
                                        .files = files,
                                        .processes = processes,
-                                       .clock = clock},
+                                       .clock = clock,
+                                       .ledger = &ledger},
                           .simulated = simulated,
                           .out = outStream,
                           .err = errStream,

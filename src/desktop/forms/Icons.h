@@ -23,6 +23,7 @@ enum class Sign {
   Copies,
   Compare,
   Schedule,
+  History,
   Trace,
   Findings,
   Language

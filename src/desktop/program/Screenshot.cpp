@@ -8,6 +8,7 @@
 
 #include "desktop/forms/Words.h"
 #include "desktop/program/Desktop.h"
+#include "desktop/window/HistoryDialog.h"
 #include "desktop/window/ScheduleDialog.h"
 #include "host/SimulatedLoggers.h"
 #include "platform/qt/QtEventLoop.h"
@@ -15,8 +16,10 @@
 #include "platform/virtual/VirtualClock.h"
 #include "platform/virtual/VirtualDialogs.h"
 #include "platform/virtual/VirtualFiles.h"
+#include "platform/virtual/VirtualLedger.h"
 #include "platform/virtual/VirtualProcesses.h"
 #include "platform/virtual/VirtualSettings.h"
+#include "shell/GuardedWrite.h"
 #include "shell/NavigationTree.h"
 
 namespace ostrel {
@@ -25,6 +28,7 @@ namespace {
 constexpr const char* kConfiguration = "/picture.ocf";
 constexpr const char* kTable = "/Lang.txt";
 constexpr std::string_view kSchedule = "Schedule";
+constexpr std::string_view kHistoryKey = "History";
 
 /// A dialog, drawn by itself as it comes up, if the key names one.
 QPixmap DialogPicture(Desktop& desktop, VirtualDialogs& dialogs, const std::string& key) {
@@ -56,6 +60,27 @@ QPixmap SchedulePicture(Desktop& desktop, const Clock& clock, const CommandLine&
   ScheduleDialog dialog(
       MakeSchedule(core.conf, {core.profile, kEveryFeature}, clock.LocalNow()), core.profile,
       [&core](std::string_view text) { return core.context.Translate(text); }, nullptr);
+  dialog.show();
+  QCoreApplication::processEvents();
+  return dialog.grab();
+}
+
+/// The history of a session with the simulated logger of the model, if the key names it.
+QPixmap HistoryPicture(Desktop& desktop, VirtualLedger& ledger, SimulatedLoggers* loggers,
+                       const CommandLine& line) {
+  if (line.page != kHistoryKey || !loggers) return {};
+  Configurator& core = desktop.Core();
+  if (core.session.Open(loggers->NumberOf(core.profile.TargetName), {})) {
+    core.session.Download();
+    core.SaveConf();
+    core.comms.SetTotalCNT(0, 1500);
+    core.conf.General.DNAME += " 2";
+    WriteGuarded(core, {.read = [&core] { return core.session.Download(); },
+                        .write = [&core] { return core.session.Upload(); },
+                        .keep = [](const DeviceConf&) { return true; }});
+    core.session.Close(false);
+  }
+  HistoryDialog dialog(ledger, nullptr);
   dialog.show();
   QCoreApplication::processEvents();
   return dialog.grab();
@@ -102,6 +127,7 @@ std::string TakeScreenshot(const CommandLine& line, const std::string& langFile)
     files.contents[kConfiguration] = *content;
   }
   VirtualClock clock;
+  VirtualLedger ledger;
   VirtualDialogs dialogs;
   VirtualProcesses processes;
   LinePort noPort(loop);
@@ -113,7 +139,8 @@ std::string TakeScreenshot(const CommandLine& line, const std::string& langFile)
                    .dialogs = dialogs,
                    .files = files,
                    .processes = processes,
-                   .clock = clock},
+                   .clock = clock,
+                   .ledger = &ledger},
                   {.programFolder = {}, .langFile = kTable, .ticking = true}, {});
   desktop.Start(line.file.empty() ? "" : kConfiguration);
   const Configurator& core = desktop.Core();
@@ -123,6 +150,8 @@ std::string TakeScreenshot(const CommandLine& line, const std::string& langFile)
     return line.file + " is no configuration file";
   QPixmap picture = DialogPicture(desktop, dialogs, line.page);
   if (picture.isNull()) picture = SchedulePicture(desktop, clock, line);
+  if (picture.isNull())
+    picture = HistoryPicture(desktop, ledger, simulated ? &*simulated : nullptr, line);
   if (picture.isNull()) {
     if (!line.page.empty() && !LeadsToPage(core.profile, line.page))
       return "there is no page " + line.page + " for the " + core.profile.TargetName;

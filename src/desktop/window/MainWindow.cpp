@@ -108,6 +108,7 @@ MainWindow::MainWindow(const WindowParts& parts)
   configurator_.session.ServeRead = [this] { parts_.guard([this] { Read(); }); };
   configurator_.session.ServeWrite = [this] { parts_.guard([this] { Write(); }); };
   configurator_.session.OnModelDoubt = [this](const Phrase& doubt) { Tell(SentenceOf(doubt)); };
+  configurator_.ledger.OnFault = [this](const std::string& why) { TellLedgerFault(why); };
   configurator_.context.repaintTree = Following(&MainWindow::PaintTree);
   navigation_.OnFrontChanged = Following(&MainWindow::ShowFront);
   configurator_.session.OnStateChanged = Following(&MainWindow::ShowSession);
@@ -134,6 +135,7 @@ void MainWindow::LetGo() {
   session.ServeRead = session.ServeWrite = nullptr;
   session.OnModelDoubt = nullptr;
   configurator_.comms.Trace = nullptr;
+  configurator_.ledger.OnFault = nullptr;
   configurator_.OnForeignKeys = nullptr;
   configurator_.OnProtected = nullptr;
   configurator_.OnOtherModel = nullptr;
@@ -167,6 +169,7 @@ void MainWindow::Follow() {
   TakeFile();
   Look();
   overview_.ShowNode(shownNode_);
+  TellInterrupted();
 }
 
 void MainWindow::BuildTree() {
@@ -236,6 +239,7 @@ void MainWindow::Look() {
   ShowSession();
   ShowTitle();
   overview_.Look();
+  OfferWayOut();
 }
 
 void MainWindow::ShowTitle() {

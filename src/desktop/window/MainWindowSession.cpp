@@ -55,7 +55,8 @@ void MainWindow::ShowLink() {
 /// dialog that is opened in it would hold it up. The focus is where it was when it has ended,
 /// unless the operator has taken it elsewhere.
 void MainWindow::Rest(bool rests) {
-  for (QAction* action : {open_, save_, saveAs_, recentFiles_, safetyCopies_, compare_, language_})
+  for (QAction* action :
+       {open_, save_, saveAs_, recentFiles_, safetyCopies_, compare_, history_, language_})
     action->setEnabled(!rests);
   trace_->SetMaySave(!rests);
   if (pages_->isEnabled() != rests) return;

@@ -47,6 +47,7 @@ void MainWindow::MakeToolBar() {
   bar_->addSeparator();
   compare_ = AddAction(Sign::Compare, {}, [this] { Compare(); });
   schedule_ = AddAction(Sign::Schedule, {}, [this] { ShowSchedule(); });
+  history_ = AddAction(Sign::History, QKeySequence("Ctrl+H"), [this] { ShowHistory(); });
   traceSwitch_ = AddAction(Sign::Trace, QKeySequence("Ctrl+T"), {});
   traceSwitch_->setCheckable(true);
   connect(traceSwitch_, &QAction::toggled, this, [this](bool on) { ShowTrace(on); });
@@ -108,6 +109,7 @@ void MainWindow::Retranslate() {
        Words::tr("Configurations read from loggers or sent to them"));
   name(compare_, Words::tr("Compare"), Words::tr("Compare the configuration with a file"));
   name(schedule_, Words::tr("Schedule"), Words::tr("Show when the timers fire"));
+  name(history_, Words::tr("History"), Words::tr("Show what was done with loggers"));
   name(traceSwitch_, Words::tr("Trace"), Words::tr("Show what goes over the line"));
   name(findingsSwitch_, Words::tr("Findings"),
        Words::tr("Show what the check finds in the configuration"));

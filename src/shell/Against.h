@@ -1,0 +1,22 @@
+#pragma once
+
+#include "shell/Comparison.h"
+
+namespace ostrel {
+
+class Configurator;
+
+/// What was sent, or is to be, against what the logger of a configurator has reported.
+class Against {
+ public:
+  Against(const Configurator& configurator, const DeviceConf& sent, const DeviceConf& read);
+
+  Comparison WhatChanges() const { return Compare(read_, sent_, features_); }
+  Comparison WhatCameBack() const { return Compare(sent_, read_, features_); }
+
+ private:
+  std::int32_t features_;
+  ModelConfiguration sent_, read_;
+};
+
+}  // namespace ostrel
