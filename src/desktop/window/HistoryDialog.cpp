@@ -30,7 +30,11 @@ QString MatterOf(const LedgerEntry& entry) {
   QStringList parts;
   for (const std::string& part : {entry.detail, entry.file, entry.fault})
     if (!part.empty()) parts << ToQt(part);
-  return parts.join(": ");
+  if (entry.steps > 0 && entry.kind == LedgerKind::Writing)
+    parts << Words::tr("%1 statements").arg(entry.steps);
+  if (entry.steps > 0 && entry.kind == LedgerKind::Reading)
+    parts << Words::tr("%1 records").arg(entry.steps);
+  return parts.join(", ");
 }
 
 QStringList TextsOf(Ledger& books, const LedgerEntry& entry) {

@@ -2296,5 +2296,13 @@
         <source>the logger holds neither its former nor the new configuration</source>
         <translation>el registrador no contiene ni su configuración anterior ni la nueva</translation>
     </message>
+    <message>
+        <source>%1 statements</source>
+        <translation>%1 sentencias</translation>
+    </message>
+    <message>
+        <source>%1 records</source>
+        <translation>%1 registros</translation>
+    </message>
 </context>
 </TS>

@@ -1,8 +1,7 @@
 #include "platform/qt/SqlLedger.h"
 
-#include <fcntl.h>
-#include <unistd.h>
-
+#include <QCoreApplication>
+#include <QFile>
 #include <QSqlDatabase>
 #include <QSqlError>
 #include <QSqlQuery>
@@ -10,7 +9,6 @@
 #include <QSysInfo>
 #include <QVariant>
 #include <array>
-#include <cerrno>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -20,7 +18,7 @@
 namespace ostrel {
 namespace {
 
-constexpr mode_t kOwnersAlone = 0600;
+constexpr auto kOwnersAlone = QFileDevice::ReadOwner | QFileDevice::WriteOwner;
 /// How long another program may hold the file, in ms.
 constexpr const char* kPatience = "QSQLITE_BUSY_TIMEOUT=2000";
 
@@ -137,7 +135,7 @@ bool SqlLedger::Run(const QString& statement) {
 
 bool SqlLedger::Open(bool makes) {
   if (state_ != State::Unopened) return state_ == State::Open;
-  if (!makes && ::access(path_.c_str(), F_OK) != 0) return false;
+  if (!makes && !QFile::exists(TextOf(path_))) return false;
   const bool isOpen = MakeFile() && Connect() && Migrate();
   state_ = isOpen ? State::Open : State::Unusable;
   return isOpen;
@@ -148,9 +146,9 @@ bool SqlLedger::Open(bool makes) {
 bool SqlLedger::MakeFile() {
   std::error_code error;
   std::filesystem::create_directories(std::filesystem::path(path_).parent_path(), error);
-  const int file = ::open(path_.c_str(), O_RDWR | O_CREAT | O_CLOEXEC, kOwnersAlone);
-  if (file < 0) return Fail(TextOf(path_ + ": " + std::generic_category().message(errno)));
-  ::close(file);
+  QFile file(TextOf(path_));
+  if (!file.exists() && !file.open(QIODevice::ReadWrite, kOwnersAlone))
+    return Fail(TextOf(path_) + ": " + file.errorString());
   return true;
 }
 
@@ -192,7 +190,8 @@ std::int64_t SqlLedger::Add(const LedgerEntry& entry) {
                 << "machine"
                 << "process";
   columns.values << qEnvironmentVariable("USER", qEnvironmentVariable("LOGNAME"))
-                 << QSysInfo::machineHostName() << TextOf(NameOf(std::to_string(::getpid())));
+                 << QSysInfo::machineHostName()
+                 << TextOf(NameOf(std::to_string(QCoreApplication::applicationPid())));
   QSqlQuery query(Base());
   QStringList places(columns.names.size(), "?");
   query.prepare(QString("INSERT INTO entry (%1) VALUES (%2)")
