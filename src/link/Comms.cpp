@@ -15,7 +15,7 @@
 namespace ostrel {
 namespace {
 
-constexpr int kMaskBits = 16;
+constexpr int kOutputBits = 16;
 
 /// "counter 2 = 1500".
 std::string TotalText(std::string_view whose, std::int16_t index, std::int32_t value) {
@@ -157,7 +157,7 @@ LinkResult Comms::ReadRealTime() {
 }
 
 LinkResult Comms::SetOutput(std::int16_t mask) {
-  const int count = std::clamp<int>(records_.profile.OutputCount, 0, kMaskBits);
+  const int count = std::clamp<int>(records_.profile.OutputCount, 0, kOutputBits);
   const auto bits = static_cast<std::uint16_t>(mask);
   std::string detail = "outputs";
   for (int i = 0; i < count; ++i) detail += (bits >> i & 1) != 0 ? " on" : " off";
