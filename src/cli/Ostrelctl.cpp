@@ -63,9 +63,10 @@ void AddGlobals(CLI::App& app, GlobalOptions& options) {
 std::vector<Command> AddCommands(CLI::App& app) {
   std::vector<Command> commands;
   for (const auto add :
-       {AddPorts, AddInfo,     AddClock,    AddLive,    AddOutput,  AddTotal,      AddVoice,
-        AddProbe, AddDownload, AddUpload,   AddBackups, AddRestore, AddStatements, AddDiff,
-        AddShow,  AddCheck,    AddSchedule, AddCalc,    AddHistory, AddInterrupted})
+       {AddPorts,    AddInfo,    AddClock,      AddLive,       AddOutput,   AddTotal,
+        AddVoice,    AddProbe,   AddTerminal,   AddFirmware,   AddDownload, AddUpload,
+        AddBackups,  AddRestore, AddStatements, AddDiff,       AddShow,     AddCheck,
+        AddSchedule, AddCalc,    AddHistory,    AddInterrupted})
     commands.push_back(add(app));
   for (const Command& command : commands) command.parser->fallthrough();
   app.require_subcommand(1);

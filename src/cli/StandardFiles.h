@@ -27,7 +27,8 @@ class StandardFiles final : public Files {
   StandardFiles(Files& files, Ledger* books, ReadInput readInput)
       : files_(files), books_(books), readInput_(std::move(readInput)) {}
 
-  FileResult ReadInto(const std::string& path, std::string& octets) override;
+  /// What comes in by standard input has the limit of most files.
+  FileResult ReadUpTo(const std::string& path, std::size_t most, std::string& octets) override;
   bool Exists(const std::string& path) override { return IsOwn(path) || files_.Exists(path); }
   std::vector<std::string> List(const std::string& folder) override { return files_.List(folder); }
   std::string Absolute(const std::string& path) override {

@@ -1,5 +1,7 @@
 #include "shell/Configurator.h"
 
+#include <algorithm>
+
 #include "base/Scope.h"
 #include "blocks/Blocks.h"
 #include "blocks/Orders.h"
@@ -91,13 +93,30 @@ Configurator::Configurator(const Platform& platform, ConfiguratorOptions options
           comms.OnProgress([&bar = PageOf(PageId::Aut_Voz)->GetForm().Get<ProgressBar>("PBar")](
                                const Progress& progress) { ShowListOnBar(progress, bar); })),
       session(context, comms, general, Connected, [this] { ShowPages(); }),
-      tools{.comms = comms,
+      tools{.platform = platform_,
+            .comms = comms,
             .dialogs = platform_.dialogs,
             .profile = profile,
             .totals = totals,
             .Connected = Connected,
-            .Translate = [this](std::string_view text) { return context.Translate(text); }},
+            .live = live,
+            .info = info,
+            .conf = conf,
+            .ConfFilePath = ConfFilePath,
+            .Translate = [this](std::string_view text) { return context.Translate(text); },
+            .ShowHelp = [this](std::string_view word) { context.ShowHelp(word); },
+            .IniCom_Click = [this] { general.Session().IniCom_Click(); },
+            .SendFirmware =
+                [this](const FirmwareFiles& files, const FirmwareDialogue::OnStage& onStage) {
+                  return session.SendFirmware(files, onStage);
+                },
+            .OpenLog = options_.openLog,
+            .OpenRecording = options_.openRecording},
       actEdit(context),
+      livePoll(tools),
+      recorder(tools, livePoll),
+      monitor(tools, livePoll, recorder),
+      cathodicMonitor(tools, livePoll, recorder),
       setTotal(tools, kMainCounters),
       expSetTotal(tools, kExpansionCounters),
       ayuda(tools),
@@ -105,7 +124,14 @@ Configurator::Configurator(const Platform& platform, ConfiguratorOptions options
       pwForm(context),
       langForm(context),
       targetSelect(context, settings,
-                   [this](const std::string& name) { TargetDeviceChange(name); }) {
+                   [this](const std::string& name) { TargetDeviceChange(name); }),
+      firm(tools),
+      terminal(tools),
+      fronts_{{ToolId::TargetSelect, &targetSelect},
+              {ToolId::T_Real_Tavro, &monitor},
+              {ToolId::T_Real_Katodex, &cathodicMonitor},
+              {ToolId::Firm, &firm},
+              {ToolId::Terminal, &terminal}} {
   if (options_.ticking) general.OnScanPorts = [this] { comms.ScanPorts(); };
   ConnectPages();
   RegisterWire();
@@ -122,7 +148,11 @@ void Configurator::ConnectPages() {
   };
   context.showActEdit = [this](std::string_view subject) { actEdit.ShowModal(subject); };
   context.showTotal = setsTotal(setTotal);
-  context.showExpansionTotal = setsTotal(expSetTotal);
+  context.showExpansionTotal = [this, set = setsTotal(expSetTotal)](std::int16_t index) {
+    set(index);
+    // The total of an expansion counter comes with the live values alone.
+    if (Connected) comms.ReadRealTime();
+  };
   context.showPulseCalculator = [this](TextBox& field) { ayuda.ShowModal(field); };
   context.showMaskCalculator = [this] { ayudaHex.ShowModal(); };
   context.readProbeIdentity = [this]() -> std::optional<ProbeIdentity> {
@@ -220,13 +250,18 @@ Page* Configurator::PageOf(PageId id) const {
   return nullptr;
 }
 
+FrontForm* Configurator::ToolOf(ToolId id) const {
+  const auto found = std::ranges::find(fronts_, id, &std::pair<ToolId, FrontForm*>::first);
+  return found == fronts_.end() ? nullptr : found->second;
+}
+
 std::vector<Form*> Configurator::Forms() {
   std::vector<Form*> forms;
   for (const auto& page : pages_) forms.push_back(&page->GetForm());
-  for (Form* form :
-       {&actEdit.GetForm(), &setTotal.GetForm(), &expSetTotal.GetForm(), &ayuda.GetForm(),
-        &ayudaHex.GetForm(), &pwForm.GetForm(), &langForm.GetForm(), &targetSelect.GetForm()})
+  for (Form* form : {&actEdit.GetForm(), &setTotal.GetForm(), &expSetTotal.GetForm(),
+                     &ayuda.GetForm(), &ayudaHex.GetForm(), &pwForm.GetForm(), &langForm.GetForm()})
     forms.push_back(form);
+  for (const auto& [id, front] : fronts_) forms.push_back(&front->GetForm());
   return forms;
 }
 
@@ -241,7 +276,7 @@ void Configurator::TargetDeviceChange(const std::string& name) {
 
 void Configurator::LoadForms() {
   for (const auto& page : pages_) page->Form_Load();
-  targetSelect.Form_Load();
+  for (const auto& [id, front] : fronts_) front->Form_Load();
 }
 
 void Configurator::Start(const std::string& commandLine) {
@@ -301,7 +336,7 @@ void Configurator::AskLanguage() {
 
 void Configurator::LoadText() {
   for (const auto& page : pages_) page->LoadText();
-  targetSelect.LoadText();
+  for (const auto& [id, front] : fronts_) front->LoadText();
 }
 
 }  // namespace ostrel

@@ -18,6 +18,7 @@
 #include "pages/General.h"
 #include "pages/Page.h"
 #include "pages/PageContext.h"
+#include "shell/FormId.h"
 #include "shell/LangForm.h"
 #include "shell/PWForm.h"
 #include "shell/Phrase.h"
@@ -28,17 +29,25 @@
 #include "store/IniTool.h"
 #include "tools/Ayuda.h"
 #include "tools/AyudaHex.h"
+#include "tools/Firm.h"
+#include "tools/LivePoll.h"
+#include "tools/LiveRecorder.h"
 #include "tools/SetTotal.h"
+#include "tools/T_Real_Katodex.h"
+#include "tools/T_Real_Tavro.h"
+#include "tools/Terminal.h"
 #include "tools/ToolContext.h"
 
 namespace ostrel {
 
 /// Where a configurator finds what is installed, and how it runs.
 struct ConfiguratorOptions {
-  std::string programFolder;  ///< where the help pages stand
-  std::string langFile{};     ///< the working copy of the translation table
-  Lang* lang = nullptr;       ///< the table where it is open already, with its language chosen
-  bool ticking = false;       ///< the pages' timers run and ports are scanned, as a window needs it
+  std::string programFolder;    ///< where the help pages stand
+  std::string langFile{};       ///< the working copy of the translation table
+  Lang* lang = nullptr;         ///< the table where it is open already, with its language chosen
+  OpenLogFile openLog{};        ///< opens what the terminal adds to; none where there is none
+  OpenLogFile openRecording{};  ///< opens what a monitor records into; none where there is none
+  bool ticking = false;  ///< the pages' timers run and ports are scanned, as a window needs it
   int versionMajor = OSTREL_VERSION_MAJOR;
   int versionMinor = OSTREL_VERSION_MINOR;
 };
@@ -113,6 +122,8 @@ class Configurator {
   /// The page; null when this build has none.
   Page* PageOf(PageId id) const;
   const std::vector<std::unique_ptr<Page>>& Pages() const { return pages_; }
+  /// What the tree opens beside the pages; null when this build has none.
+  FrontForm* ToolOf(ToolId id) const;
   /// Every form of the program: the pages' and the dialogs'.
   std::vector<Form*> Forms();
   DeviceConf conf;
@@ -174,6 +185,10 @@ class Configurator {
   SessionDriver session;
   ToolContext tools;
   ActEdit actEdit;
+  LivePoll livePoll;
+  LiveRecorder recorder;
+  T_Real_Tavro monitor;
+  T_Real_Katodex cathodicMonitor;
   SetTotal setTotal;
   SetTotal expSetTotal;
   Ayuda ayuda;
@@ -181,6 +196,11 @@ class Configurator {
   PWForm pwForm;
   LangForm langForm;
   TargetSelect targetSelect;
+  Firm firm;
+  Terminal terminal;
+
+ private:
+  std::vector<std::pair<ToolId, FrontForm*>> fronts_;
 };
 
 }  // namespace ostrel

@@ -130,6 +130,7 @@ Navigation::Navigation(Configurator& configurator, std::span<const FormId> stays
 Navigation::~Navigation() { configurator_.OnTargetChanged = nullptr; }
 
 NodeResult Navigation::NodeClick(std::string_view key) {
+  if (configurator_.session.State().phase == SessionPhase::Updating) return NodeResult::Rests;
   Hide();
   const NodeResult result = Open(key);
   Settle();
@@ -172,9 +173,16 @@ Page* Navigation::PageOf(FormId id) const {
   return page ? configurator_.PageOf(*page) : nullptr;
 }
 
+/// What else the tree opens; null for a page, or when this build has none.
+FrontForm* Navigation::ToolOf(FormId id) const {
+  const ToolId* tool = std::get_if<ToolId>(&id);
+  return tool ? configurator_.ToolOf(*tool) : nullptr;
+}
+
 Form* Navigation::FormOf(FormId id) const {
   if (Page* page = PageOf(id)) return &page->GetForm();
-  return id == FormId(ToolId::TargetSelect) ? &configurator_.targetSelect.GetForm() : nullptr;
+  FrontForm* tool = ToolOf(id);
+  return tool ? &tool->GetForm() : nullptr;
 }
 
 bool Navigation::StaysOpen(FormId id) const {
@@ -209,15 +217,18 @@ void Navigation::Activate() {
   isActive_ = true;
   if (Page* page = FrontPage())
     page->Form_Activate();
-  else
-    configurator_.targetSelect.Form_Activate();
+  else if (FrontForm* tool = ToolOf(open_.back()))
+    tool->Form_Activate();
 }
 
 /// Takes the front from the form that has it, which stays shown until it is hidden.
 void Navigation::Deactivate() {
   if (!isActive_) return;
   isActive_ = false;
-  if (Page* page = FrontPage()) page->Form_Deactivate();
+  if (Page* page = FrontPage())
+    page->Form_Deactivate();
+  else if (FrontForm* tool = ToolOf(open_.back()))
+    tool->Form_Deactivate();
 }
 
 }  // namespace ostrel

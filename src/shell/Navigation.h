@@ -15,12 +15,14 @@ namespace ostrel {
 
 class Configurator;
 class Form;
+class FrontForm;
 class Page;
 
 /// What a click on a node came to.
 enum class NodeResult {
   Shown,     ///< a page is in front
   Nothing,   ///< the node opens nothing
+  Rests,     ///< nothing may be opened while a logger gets new firmware
   NotBuilt,  ///< the node's page does not exist in this build
 };
 
@@ -82,6 +84,7 @@ class Navigation {
 
  private:
   Page* PageOf(FormId id) const;
+  FrontForm* ToolOf(FormId id) const;
   Form* FormOf(FormId id) const;
   bool StaysOpen(FormId id) const;
   void Hide();

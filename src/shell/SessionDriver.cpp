@@ -125,6 +125,7 @@ bool SessionDriver::Open(std::int16_t port, const std::string& phone) {
       greeting_ = comms_.RxLine;
       if (const auto doubt = ModelDoubt(); doubt && OnModelDoubt) OnModelDoubt(*doubt);
       ReadAfterConnect();
+      if (comms_.InfoFault().Ok()) isFlashErased_ = false;  // what tells of itself has a firmware
     }
   }
   opening.Ended(Connected_);
@@ -237,6 +238,27 @@ LinkResult SessionDriver::WriteVoiceList(const ConfAutVoz& list) {
   return comms_.WriteAutVoz(list);
 }
 
+LinkResult SessionDriver::SendFirmware(const FirmwareFiles& files,
+                                       const FirmwareDialogue::OnStage& onStage) {
+  if (comms_.LinkBusy) return LinkFault{LinkFault::Kind::Busy};
+  Working working(*this, SessionPhase::Updating);
+  const AtEnd ended([this] {
+    watch_.End();
+    if (!brokenOff_) return;
+    Connected_ = false;
+    ShowState();
+  });
+  watch_.BeginWriting(
+      static_cast<int>(SentOctets(files.image.size()) + SentOctets(files.loader.size())));
+  const LinkResult result = comms_.SendFirmware(files, [&](FirmwareStage stage) {
+    if (stage == FirmwareStage::Erasing) isFlashErased_ = true;
+    if (stage == FirmwareStage::Copying) isFlashErased_ = false;
+    onStage(stage);
+  });
+  working.Ended(result);
+  return result;
+}
+
 bool SessionDriver::ReadOrPutBack() {
   const DeviceConf before = context_.conf;
   lastReadFailed_ = true;
@@ -288,7 +310,9 @@ SessionFault SessionDriver::FaultDuring(SessionPhase phase) const {
           .link = comms_.Fault(),
           .brokenOff = brokenOff_,
           .allSent = phase == SessionPhase::Writing && watch_.ReachedEnd(),
-          .unverified = unverified_ && phase != SessionPhase::Writing,
+          .unverified =
+              unverified_ && phase != SessionPhase::Writing && phase != SessionPhase::Updating,
+          .flashErased = phase == SessionPhase::Updating && isFlashErased_,
           .code = phase == SessionPhase::Opening ? code_ : CodeAnswer::NotAsked};
 }
 

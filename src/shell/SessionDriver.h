@@ -54,6 +54,11 @@ class SessionDriver {
   bool Upload();
   /// Writes the voice-call list, whose count and check sum are up to date.
   LinkResult WriteVoiceList(const ConfAutVoz& list);
+  /// Replaces the logger's firmware, and tells each stage as it begins. A success leaves the
+  /// session to be closed, since the logger has left the dialogue.
+  LinkResult SendFirmware(const FirmwareFiles& files, const FirmwareDialogue::OnStage& onStage);
+  /// Whether an update has erased a logger's flash and not come to its end since.
+  bool IsFlashErased() const { return isFlashErased_; }
   /// Whether that is under way: broken off, it leaves a logger without a whole list.
   bool WritesVoiceList() const { return writesVoiceList_; }
   /// Asks for a transfer from wherever the operator is: a click on its button, which the next tick
@@ -143,6 +148,7 @@ class SessionDriver {
   CodeAnswer code_ = CodeAnswer::NotAsked;
   bool lastReadFailed_ = false;
   bool writesVoiceList_ = false;
+  bool isFlashErased_ = false;
   std::string greeting_;              ///< of the logger that answers
   std::vector<std::string> fitting_;  ///< models that have all that it told of; empty: not known
   DeviceConf sent_;                   ///< what the last attempt of an upload sends

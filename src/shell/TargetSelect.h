@@ -3,24 +3,24 @@
 #include <functional>
 #include <string>
 
-#include "controls/Form.h"
+#include "controls/FrontForm.h"
 #include "pages/PageContext.h"
 #include "shell/StoredSettings.h"
 
 namespace ostrel {
 
 /// The window in which the operator picks the model.
-class TargetSelect {
+class TargetSelect final : public FrontForm {
  public:
   /// `change` selects a model by its display name.
   TargetSelect(PageContext& context, StoredSettings settings,
                std::function<void(const std::string&)> change);
 
-  Form& GetForm() { return form_; }
-  void LoadText();
-  void Form_Load();
+  Form& GetForm() override { return form_; }
+  void LoadText() override;
+  void Form_Load() override;
   /// The model cannot change while a session stands.
-  void Form_Activate();
+  void Form_Activate() override;
 
  private:
   PageContext& context_;

@@ -95,9 +95,10 @@ TEST_P(AllForms, FitIntoTheSmallestScreenInBothLanguages) {
     UseLanguage(code);
     window.Pages().Redraw();
     for (const auto* key :
-         {"Tavro", "General", "E_Digital_0", "E_Analog_0", "Grupos", "Flag_0", "MODBUS", "MODBUS_0",
-          "Modulo_0", "E_Aux_0", "PCAT", "Caudal", "Caudal_0", "E_OneWire_0", "E_Math_0",
-          "CTimer0_3", "LTimer0_3", "WTimer0_3", "MTimer0_3"}) {
+         {"Tavro",     "General",     "E_Digital_0", "E_Analog_0", "Grupos",    "Flag_0",
+          "MODBUS",    "MODBUS_0",    "Modulo_0",    "E_Aux_0",    "PCAT",      "Caudal",
+          "Caudal_0",  "E_OneWire_0", "E_Math_0",    "CTimer0_3",  "LTimer0_3", "WTimer0_3",
+          "MTimer0_3", "Firmware",    "Terminal",    "T_Real"}) {
       window.GoTo(key);
       QCoreApplication::processEvents();
       const FormView* view = window.Pages().Front();

@@ -89,22 +89,12 @@ TEST_F(WindowTools, KeepsItsOwnWordsOutOfTheTable) {
 
 TEST_F(WindowTools, SaysThatAPageDoesNotExistYet) {
   UseLanguage("en");
-  Window().GoTo("Firmware");
+  Window().GoTo("TEST");
   EXPECT_EQ(Window().Pages().Front(), nullptr);
   auto* empty = Window().Pages().findChild<QLabel*>("EmptyPage");
   EXPECT_EQ(empty->text(), "This page does not exist in this version yet.");
-  dialogs.OnModal([](Modal& modal) {
-    Form& form = AsForm(modal);
-    form.Get<ComboBox>("ComboLang").SetPosition(1);
-    form.Get<Button>("CommandOk").Click();
-  });
-  Tool("Idioma")->trigger();
-  dialogs.OnModal([](Modal& modal) {
-    Form& form = AsForm(modal);
-    form.Get<ComboBox>("ComboLang").SetPosition(0);
-    form.Get<Button>("CommandOk").Click();
-  });
-  Tool("Language")->trigger();
+  ChooseLanguage(1, "Idioma");
+  ChooseLanguage(0, "Language");
   EXPECT_TRUE(empty->text().contains("Esta")) << "it speaks the language chosen";
   Window().GoTo("CTimer");
   EXPECT_EQ(empty->text(), "");
@@ -210,12 +200,7 @@ TEST_F(WindowTools, KeepsItsGroupsOpenInAnotherLanguage) {
   group("Temporizadores")->setExpanded(true);
   group("Semanales")->setExpanded(true);
   group("Dispositivo")->setExpanded(true);
-  dialogs.OnModal([](Modal& modal) {
-    Form& form = AsForm(modal);
-    form.Get<ComboBox>("ComboLang").SetPosition(1);
-    form.Get<Button>("CommandOk").Click();
-  });
-  Tool("Idioma")->trigger();
+  ChooseLanguage(1, "Idioma");
   EXPECT_TRUE(group("Timers")->isExpanded() && group("Weekly")->isExpanded());
   Window().GoTo("E_Analog_0");
   EXPECT_EQ(On<QCheckBox>(*desktop, "HorarioHabil")->accessibleName(), "Always");
@@ -318,23 +303,6 @@ TEST_F(WindowTools, OpensFromItsMenusAndForgetsWhatIsGone) {
   files.Remove(Path("a.ocf"));
   EXPECT_FALSE(open()) << "the menu is empty";
   EXPECT_EQ(dialogs.boxes.size(), 1u);
-}
-
-TEST_F(WindowTools, RestsFromTheRequestToTheEndOfATransfer) {
-  AddLogger(sim::Model::BP);
-  port.SetPaced(true);
-  Connect();
-  Core().general.GetForm().Get<TextBox>("NameBox").Type("door");
-  loop.RunFor(seconds(2));
-  ModalScript modals;
-  modals.Expect([](QWidget* modal) { AgreeToWrite(modal, false); });
-  Core().general.Session().Escribir.Click();
-  Window().Look();
-  EXPECT_FALSE(Tool("Guardar")->isEnabled() || Window().Pages().isEnabled());
-  loop.RunFor(seconds(30));
-  EXPECT_EQ(modals.Left(), 0u);
-  EXPECT_EQ(logger->UploadsTaken(), 1U);
-  EXPECT_TRUE(Tool("Guardar")->isEnabled() && Window().Pages().isEnabled());
 }
 
 TEST_F(WindowTools, ReadingOverChangesAsksFirst) {

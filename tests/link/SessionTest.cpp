@@ -208,6 +208,17 @@ TEST_F(SessionTest, ValuesComeFromTheirFields) {
     Select(model, model == std::string("Ostrel S100") ? 0x40 : 0);
     EXPECT_TRUE(comms.ReadRealTime());
   }
+  const auto read = [&](LiveAnswer answer) { return live.ReadOf(answer); };
+  EXPECT_TRUE(read(LiveAnswer::Modules64).hasCome);
+  EXPECT_EQ(read(LiveAnswer::Aux).at, clock.LocalTime());
+  logger.Always("#22", Frames("#DF,1"));
+  EXPECT_TRUE(comms.ReadRealTime());
+  EXPECT_EQ(read(LiveAnswer::Flows).missed, 1);
+  EXPECT_FALSE(read(LiveAnswer::Flows).IsStale());
+  EXPECT_TRUE(comms.ReadRealTime());
+  EXPECT_TRUE(read(LiveAnswer::Flows).IsStale());
+  EXPECT_LT(read(LiveAnswer::Flows).at, read(LiveAnswer::Counters).at);
+  EXPECT_EQ(read(LiveAnswer::Modbus).missed, 0) << "it was not asked for";
   EXPECT_THAT(List(live.CounterValue), ElementsAre(2, 3, 4, 5, 6, 7, 8, 9, 10, 0));
   EXPECT_THAT(List(live.FlowValue), ElementsAre(2, 3, 4, 5, 6, 7, 8, 9, 10, 0));
   EXPECT_EQ(live.DigitalMask, 2);

@@ -7,6 +7,7 @@
 #include <iostream>
 #include <vector>
 
+#include "cli/InputLines.h"
 #include "cli/Terminal.h"
 #include "host/Folders.h"
 #include "host/Machine.h"
@@ -38,6 +39,12 @@ int Run(const std::vector<std::string>& args) {
       .shippedLang = LangIn(ShippedFolder()),
       .numberOfDevice = [&](const std::string& path) { return machine.NumberOfDevice(path); },
       .openLog = OpenTrace,
+      .openRecording = OpenRecording,
+      .openGrowing = OpenLog,
+      .watchInput =
+          [&](InputLines::OnLine onLine, InputLines::OnEnd onEnd) {
+            return std::make_shared<InputLines>(machine.loop, std::move(onLine), std::move(onEnd));
+          },
       .onInterrupt = {},
       .interrupted = SignalPipe::HasCome};
   if (HasOperator()) environment.ask = AskOnTerminal;

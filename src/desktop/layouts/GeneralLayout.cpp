@@ -3,34 +3,15 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QProgressBar>
-#include <QStackedWidget>
 #include <QVBoxLayout>
 
 #include "desktop/forms/Words.h"
 #include "desktop/layouts/LayoutParts.h"
 #include "desktop/layouts/Layouts.h"
 #include "desktop/window/FaultNote.h"
-#include "desktop/window/TransferMeter.h"
 
 namespace ostrel {
 namespace {
-
-/// The form's bar has one length for all transfers. While one runs, what is known of that one
-/// stands in its place.
-QWidget* ProgressPlace(FormView& view) {
-  auto* place = new QStackedWidget(&view);
-  place->setObjectName("ProgressPlace");
-  auto* former = new QWidget(place);
-  auto* row = new QHBoxLayout(former);
-  row->setContentsMargins(0, 0, 0, 0);
-  view.ShowNamed("PBar", Words::tr("Progress"));
-  view.Show<QProgressBar>("PBar")->setTextVisible(false);
-  row->addWidget(view.Show("PBar"));
-  place->addWidget(former);
-  place->addWidget(view.Own(new TransferMeter(place)));
-  place->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
-  return place;
-}
 
 Card SessionCard(FormView& view, const LayoutContext& context) {
   const Card card = MakeCard(view, Words::tr("Session"));

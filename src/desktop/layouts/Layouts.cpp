@@ -16,7 +16,7 @@ void Plain(FormView& view, const LayoutContext&) {
   kLayOut(view);
 }
 
-constexpr std::array<LayoutOf, 29> kLayouts{{
+constexpr std::array<LayoutOf, 33> kLayouts{{
     {"General", LayOutGeneral},
     {"E_Digital", Plain<LayOutDigital>},
     {"E_Analog", Plain<LayOutAnalog>},
@@ -46,6 +46,10 @@ constexpr std::array<LayoutOf, 29> kLayouts{{
     {"PWForm", Plain<LayOutPWForm>},
     {"Lang", Plain<LayOutLang>},
     {"TargetSelect", Plain<LayOutTargetSelect>},
+    {"T_Real_Tavro", Plain<LayOutMonitor>},
+    {"T_Real_Katodex", Plain<LayOutCathodicMonitor>},
+    {"Firm", Plain<LayOutFirm>},
+    {"Terminal", Plain<LayOutTerminal>},
 }};
 
 }  // namespace

@@ -51,5 +51,9 @@ void LayOutActEdit(FormView& view);
 void LayOutPWForm(FormView& view);
 void LayOutLang(FormView& view);
 void LayOutTargetSelect(FormView& view);
+void LayOutMonitor(FormView& view);
+void LayOutCathodicMonitor(FormView& view);
+void LayOutFirm(FormView& view);
+void LayOutTerminal(FormView& view);
 
 }  // namespace ostrel

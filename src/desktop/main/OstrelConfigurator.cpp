@@ -14,6 +14,7 @@
 #include "host/Folders.h"
 #include "host/LangSeed.h"
 #include "host/Machine.h"
+#include "host/TraceFile.h"
 #include "platform/qt/QtProcesses.h"
 
 namespace {
@@ -34,7 +35,11 @@ int RunWindow(const CommandLine& line) {
   const std::string langFile =
       SeedLang(machine.files, LangIn(ShippedFolder()), LangIn(UserDataFolder()));
   Desktop desktop(machine.With(dialogs, processes),
-                  {.programFolder = ShippedFolder(), .langFile = langFile, .ticking = true},
+                  {.programFolder = ShippedFolder(),
+                   .langFile = langFile,
+                   .openLog = OpenLog,
+                   .openRecording = OpenRecording,
+                   .ticking = true},
                   UserDataFolder());
   dialogs.StandBefore(desktop.Window());
   machine.loop.SetFaultHandler([&](std::exception_ptr fault) { desktop.ShowFault(fault); });

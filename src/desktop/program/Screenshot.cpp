@@ -11,6 +11,7 @@
 #include "desktop/window/HistoryDialog.h"
 #include "desktop/window/ScheduleDialog.h"
 #include "host/SimulatedLoggers.h"
+#include "host/TraceFile.h"
 #include "platform/qt/QtEventLoop.h"
 #include "platform/qt/QtFiles.h"
 #include "platform/virtual/VirtualClock.h"
@@ -97,7 +98,16 @@ bool LeadsToPage(const TargetProfile& model, const std::string& key) {
          (target->form == FormId(PageId::E_Aux) || target->form == FormId(PageId::Katodex));
 }
 
-QPixmap PagePicture(Desktop& desktop, const CommandLine& line) {
+/// Opens a session with the simulated logger of the model, and lets some rounds of live values pass
+/// on the page in front.
+void ReadLive(Configurator& core, const SimulatedLoggers& simulated, EventLoop& loop) {
+  constexpr Duration kRounds = std::chrono::milliseconds(1200);
+  if (core.session.Open(simulated.NumberOf(core.profile.TargetName), ""))
+    loop.RunUntil([] { return false; }, loop.Now() + kRounds);
+}
+
+QPixmap PagePicture(Desktop& desktop, const CommandLine& line,
+                    const std::function<void()>& readLive) {
   MainWindow& window = desktop.Window();
   if (!line.page.empty()) window.GoTo(line.page);
   window.resize(line.size);
@@ -105,6 +115,7 @@ QPixmap PagePicture(Desktop& desktop, const CommandLine& line) {
   window.setFocus();
   QCursor::setPos(window.mapToGlobal(window.rect().center()));
   window.Look();
+  if (line.page == "T_Real") readLive();
   for (int round = 0; round < 3; ++round) QCoreApplication::processEvents();
   return window.grab();
 }
@@ -141,7 +152,12 @@ std::string TakeScreenshot(const CommandLine& line, const std::string& langFile)
                    .processes = processes,
                    .clock = clock,
                    .ledger = &ledger},
-                  {.programFolder = {}, .langFile = kTable, .ticking = true}, {});
+                  {.programFolder = {},
+                   .langFile = kTable,
+                   .openLog = OpenLog,
+                   .openRecording = OpenRecording,
+                   .ticking = true},
+                  {});
   desktop.Start(line.file.empty() ? "" : kConfiguration);
   const Configurator& core = desktop.Core();
   if (!line.file.empty() &&
@@ -155,7 +171,9 @@ std::string TakeScreenshot(const CommandLine& line, const std::string& langFile)
   if (picture.isNull()) {
     if (!line.page.empty() && !LeadsToPage(core.profile, line.page))
       return "there is no page " + line.page + " for the " + core.profile.TargetName;
-    picture = PagePicture(desktop, line);
+    picture = PagePicture(desktop, line, [&] {
+      if (simulated) ReadLive(desktop.Core(), *simulated, loop);
+    });
   }
   return picture.save(ToQt(line.screenshot), "PNG") ? "" : "cannot write " + line.screenshot;
 }

@@ -22,6 +22,7 @@ const char* ColourOf(const LinkState& state) {
     case SessionPhase::Opening:
     case SessionPhase::Reading:
     case SessionPhase::Writing:
+    case SessionPhase::Updating:
     case SessionPhase::Closing:
       return kBusy;
   }

@@ -21,6 +21,8 @@ QString PhaseWords(SessionPhase phase) {
       return Words::tr("Reading");
     case SessionPhase::Writing:
       return Words::tr("Writing");
+    case SessionPhase::Updating:
+      return Words::tr("Updating");
     case SessionPhase::Closing:
       return Words::tr("Closing");
   }

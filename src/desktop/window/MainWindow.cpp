@@ -192,6 +192,7 @@ void MainWindow::PaintTree() {
 
 void MainWindow::GoTo(const std::string& key) {
   const NodeResult result = navigation_.NodeClick(key);
+  if (result == NodeResult::Rests) return;
   shownNode_ = key;
   tree_->Select(key);
   ShowGroup(key);
@@ -354,6 +355,12 @@ void MainWindow::closeEvent(QCloseEvent* event) {
     unsaved_.Touch();
     const SessionPhase phase = configurator_.session.State().phase;
     const bool losesNothing = phase != SessionPhase::Writing && !unsaved_.Changed();
+    if (configurator_.session.IsFlashErased())
+      return AskToBreakOff(
+          Words::tr("The flash of the logger is erased. Leaving now leaves it without firmware."));
+    if (phase == SessionPhase::Updating)
+      return AskToBreakOff(
+          Words::tr("The firmware of the logger is being replaced. Leaving breaks that off."));
     if (configurator_.session.WritesVoiceList())
       return AskToBreakOff(
           Words::tr("The voice-call list is being written. Leaving breaks that off, "

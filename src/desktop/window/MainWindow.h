@@ -112,6 +112,8 @@ class MainWindow final : public QMainWindow {
   void ShowLink();
   void ShowFault();
   void Rest(bool rests);
+  /// Keeps the operator on the page while a logger gets new firmware.
+  void RestForUpdate(bool isUpdating);
   void ShowMissing();
   /// Shows the table of a group in the place of a page, or below that of the group; or the page
   /// alone.
@@ -214,7 +216,8 @@ class MainWindow final : public QMainWindow {
   QPointer<QMessageBox> leaveBox_;    ///< the question that stands while a transfer runs
   QPointer<QWidget> focus_, refuge_;  ///< where the focus was, and went, when the pages rested
   bool traceShown_ = false;
-  bool isMissing_ = false;  ///< the node in front has no page in this build
+  bool isUpdating_ = false;  ///< a logger gets new firmware
+  bool isMissing_ = false;   ///< the node in front has no page in this build
 };
 
 }  // namespace ostrel

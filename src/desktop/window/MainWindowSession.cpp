@@ -48,6 +48,7 @@ void MainWindow::ShowLink() {
                    .write = mayAsk && !why,
                    .cancel = IsTransfer(state.phase) || state.phase == SessionPhase::Opening,
                    .whyNot = why ? SentenceOf(*why) : QString()});
+  RestForUpdate(state.phase == SessionPhase::Updating);
   Rest(session.OwnsModel());
 }
 
@@ -55,10 +56,10 @@ void MainWindow::ShowLink() {
 /// dialog that is opened in it would hold it up. The focus is where it was when it has ended,
 /// unless the operator has taken it elsewhere.
 void MainWindow::Rest(bool rests) {
-  for (QAction* action :
-       {open_, save_, saveAs_, recentFiles_, safetyCopies_, compare_, history_, language_})
-    action->setEnabled(!rests);
-  trace_->SetMaySave(!rests);
+  for (QAction* action : {open_, save_, saveAs_, recentFiles_, safetyCopies_, compare_, schedule_,
+                          history_, language_})
+    action->setEnabled(!rests && !isUpdating_);
+  trace_->SetMaySave(!rests && !isUpdating_);
   if (pages_->isEnabled() != rests) return;
   QWidget* const present = focusWidget();
   if (rests) focus_ = pages_->isAncestorOf(present) ? present : nullptr;
@@ -69,6 +70,13 @@ void MainWindow::Rest(bool rests) {
   }
   if (leaveBox_) leaveBox_->close();  // what it asks about has ended
   if (focus_ && (!present || present == refuge_)) focus_->setFocus();
+}
+
+void MainWindow::RestForUpdate(bool isUpdating) {
+  if (isUpdating == isUpdating_) return;
+  isUpdating_ = isUpdating;
+  tree_->setEnabled(!isUpdating);
+  if (leaveBox_ && !isUpdating && !configurator_.session.IsFlashErased()) leaveBox_->close();
 }
 
 void MainWindow::ShowTransfer() {

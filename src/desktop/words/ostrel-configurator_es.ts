@@ -496,11 +496,6 @@
         <translation>Abrir</translation>
     </message>
     <message>
-        <source>Open</source>
-        <comment>the state of the link</comment>
-        <translation>Sesión abierta</translation>
-    </message>
-    <message>
         <source>Reading</source>
         <translation>Leyendo</translation>
     </message>
@@ -1909,10 +1904,6 @@
         <translation>días de la semana</translation>
     </message>
     <message>
-        <source>days of the month</source>
-        <translation>días del mes</translation>
-    </message>
-    <message>
         <source>the line is neither MACRO and a number up to 55 nor F and a number, with the command in one pair of braces: write it anew</source>
         <translation>la línea no es MACRO y un número hasta 55, ni F y un número, con el comando entre un par de llaves: escríbala de nuevo</translation>
     </message>
@@ -2303,6 +2294,92 @@
     <message>
         <source>%1 records</source>
         <translation>%1 registros</translation>
+        <source>not read</source>
+        <translation>sin leer</translation>
+    </message>
+    <message>
+        <source>last read at %1</source>
+        <translation>última lectura a las %1</translation>
+    </message>
+    <message>
+        <source>inside</source>
+        <translation>dentro</translation>
+    </message>
+    <message>
+        <source>within the hysteresis</source>
+        <translation>dentro de la histéresis</translation>
+    </message>
+    <message>
+        <source>below the minimum</source>
+        <translation>por debajo del mínimo</translation>
+    </message>
+    <message>
+        <source>above the maximum</source>
+        <translation>por encima del máximo</translation>
+    </message>
+    <message>
+        <source>Alarm limits</source>
+        <translation>Límites de alarma</translation>
+    </message>
+    <message>
+        <source>%1 to %2, hysteresis %3</source>
+        <translation>de %1 a %2, histéresis %3</translation>
+    </message>
+    <message>
+        <source>Switch output %1 over</source>
+        <translation>Cambiar el estado de la salida %1</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Ficheros</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>Actualización</translation>
+    </message>
+    <message>
+        <source>The logger has no firmware from the erasing of its flash until its lamp blinks again. Keep it powered and connected so long, whatever happens.</source>
+        <translation>El equipo no tiene firmware desde que se borra su flash hasta que su led vuelve a parpadear. Manténgalo alimentado y conectado hasta entonces, pase lo que pase.</translation>
+    </message>
+    <message>
+        <source>Find in the text</source>
+        <translation>Buscar en el texto</translation>
+    </message>
+    <message>
+        <source>Command:</source>
+        <translation>Comando:</translation>
+    </message>
+    <message>
+        <source>Frame, with its &quot;#&quot;:</source>
+        <translation>Trama, con su «#»:</translation>
+    </message>
+    <message>
+        <source>Console</source>
+        <translation>Consola</translation>
+    </message>
+    <message>
+        <source>Updating</source>
+        <translation>Actualizando</translation>
+    </message>
+    <message>
+        <source>The flash of the logger is erased. Leaving now leaves it without firmware.</source>
+        <translation>La flash del equipo está borrada. Si sale ahora, el equipo se queda sin firmware.</translation>
+    </message>
+    <message>
+        <source>The firmware of the logger is being replaced. Leaving breaks that off.</source>
+        <translation>Se está sustituyendo el firmware del equipo. Si sale, la actualización se interrumpe.</translation>
+    </message>
+    <message>
+        <source>the logger gave no sign of life by octet %1 of the image</source>
+        <translation>el equipo no dio señales de vida hasta el octeto %1 de la imagen</translation>
+    </message>
+    <message>
+        <source>the logger&apos;s flash is erased and holds no firmware: leave it powered and connected, and start the update again with the same files</source>
+        <translation>la flash del equipo está borrada y no contiene firmware: déjelo alimentado y conectado, y vuelva a iniciar la actualización con los mismos ficheros</translation>
+    </message>
+    <message>
+        <source>nothing of the image was sent: if the logger still answers, its firmware is as it was</source>
+        <translation>no se ha enviado nada de la imagen: si el equipo todavía responde, su firmware es el de antes</translation>
     </message>
 </context>
 </TS>

@@ -22,6 +22,8 @@ SessionPhase PhaseOf(LedgerKind kind) {
       return SessionPhase::Reading;
     case LedgerKind::Writing:
       return SessionPhase::Writing;
+    case LedgerKind::Firmware:
+      return SessionPhase::Updating;
     default:
       return SessionPhase::Open;
   }
@@ -108,7 +110,7 @@ void LedgerKeeper::Follow(const Progress& progress) {
     Keep(deed_);
   }
   if (progress.stage != Progress::Stage::Step) return;
-  if (deed_.attempts == 0 || progress.step <= deed_.steps) ++deed_.attempts;
+  if (deed_.attempts == 0 || progress.step < deed_.steps) ++deed_.attempts;
   deed_.steps = progress.step;
 }
 
