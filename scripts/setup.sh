@@ -11,6 +11,7 @@ cmake
 ninja-build
 qt6-base-dev
 qt6-serialport-dev libqt6serialport6-dev
+libqt6sql6-sqlite
 qt6-tools-dev
 qt6-l10n-tools
 libgl-dev libgl1-mesa-dev

@@ -6,6 +6,7 @@
 #include "platform/virtual/VirtualClock.h"
 #include "platform/virtual/VirtualDialogs.h"
 #include "platform/virtual/VirtualFiles.h"
+#include "platform/virtual/VirtualLedger.h"
 #include "platform/virtual/VirtualLoop.h"
 #include "platform/virtual/VirtualProcesses.h"
 #include "platform/virtual/VirtualSettings.h"
@@ -27,7 +28,8 @@ struct VirtualWorld {
   VirtualFiles files;
   VirtualProcesses processes;
   VirtualClock clock{DateTime{2026, 3, 2, 9, 5, 7}, loop};
-  Platform platform{loop, port, settings, dialogs, files, processes, clock};
+  VirtualLedger ledger;
+  Platform platform{loop, port, settings, dialogs, files, processes, clock, &ledger};
 };
 
 }  // namespace ostrel

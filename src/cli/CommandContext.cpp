@@ -42,7 +42,7 @@ CommandContext::CommandContext(Environment& world, GlobalOptions shared)
       options(std::move(shared)),
       console(world.out, world.err, options.quiet, options.json),
       dialogs(world, console, options),
-      files(world.platform.files,
+      files(world.platform.files, world.platform.ledger,
             [&world](std::string& octets) {
               return world.readDescriptor ? world.readDescriptor(0, false, octets)
                                           : FileResult{"there is none"};
@@ -81,6 +81,9 @@ std::unique_ptr<Configurator> CommandContext::MakeOnline(std::string_view model)
   auto configurator = std::make_unique<Configurator>(
       platform, ConfiguratorOptions{.programFolder = {}, .lang = &lang_});
   configurator->StartForCommand(model, options.lang);
+  configurator->ledger.OnFault = [this](const std::string& why) {
+    console.Say("warning: nothing is kept in the ledger: " + why);
+  };
   return configurator;
 }
 

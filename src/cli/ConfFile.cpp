@@ -51,6 +51,7 @@ ExitCode MakeStatements(CommandContext& context, const DeviceConf& conf, const R
 
 ExitCode TryToWrite(CommandContext& context, const std::string& path) {
   if (path == kStandard) return ExitCode::Done;
+  if (HistoryEntry(path) != 0) return CannotWrite(context, path, {"what was is not changed"});
   Files& files = context.platform.files;
   if (files.Exists(path) && !files.Read(path))
     return CannotWrite(context, path, {"what stands there is no file to replace"});
@@ -85,14 +86,15 @@ bool TellTextsNotKept(CommandContext& context, const ModelConfiguration& configu
   return !lost.empty();
 }
 
-ExitCode SaveBackup(CommandContext& context, const Configurator& configurator,
-                    const DeviceConf& held, std::string& path) {
+ExitCode SaveBackup(CommandContext& context, Configurator& configurator, const DeviceConf& held,
+                    std::string& path) {
   SafetyCopies copies = CopiesOf(context);
   const SafetyCopies::Kept kept =
       copies.Keep({held, configurator.profile, configurator.info.SerialNumber,
                    configurator.comms.DownloadedLines()});
   path = kept.path;
   if (!kept.result.Ok()) return CannotWrite(context, path, kept.result);
+  configurator.ledger.NoteCopy(path);
   context.console.Note("what the logger holds is kept in " + path);
   if (TellTextsNotKept(context, {configurator.profile, held}))
     context.console.Note("the logger's own lines are kept in " + SafetyCopies::LinesBeside(path));

@@ -38,7 +38,7 @@ bool TellTextsNotKept(CommandContext& context, const ModelConfiguration& configu
 
 /// Keeps what the logger of a session holds as a safety copy in the user's data folder, named by
 /// serial number and time, with the logger's own lines beside it. `path` tells where.
-ExitCode SaveBackup(CommandContext& context, const Configurator& configurator,
-                    const DeviceConf& held, std::string& path);
+ExitCode SaveBackup(CommandContext& context, Configurator& configurator, const DeviceConf& held,
+                    std::string& path);
 
 }  // namespace ostrel::cli

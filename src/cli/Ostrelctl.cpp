@@ -69,7 +69,7 @@ std::vector<Command> AddCommands(CLI::App& app) {
        {AddPorts,  AddDoctor,   AddInfo,    AddClock,      AddLive,     AddOutput,
         AddTotal,  AddVoice,    AddProbe,   AddTerminal,   AddFirmware, AddDownload,
         AddUpload, AddBackups,  AddRestore, AddStatements, AddDiff,     AddShow,
-        AddCheck,  AddSchedule, AddReport,  AddCalc})
+        AddCheck,  AddSchedule, AddReport,  AddCalc,       AddHistory,  AddInterrupted})
     commands.push_back(add(app));
   for (const Command& command : commands) command.parser->fallthrough();
   app.require_subcommand(1);
@@ -142,6 +142,8 @@ ExitCode RunChosen(const std::vector<Command>& commands, Environment& environmen
     if (!command.parser->parsed()) continue;
     CommandContext context(environment, options);
     if (const ExitCode begun = context.StartRecording(); begun != ExitCode::Done) return begun;
+    // Whoever asks for the interruptions need not be told of them.
+    if (command.parser->get_name() != "interrupted") TellInterrupted(context);
     const ExitCode result = command.run(context);
     const bool isRecorded = context.EndRecording(result);
     const FileResult kept = environment.simulated.SaveState(environment.platform.files);

@@ -8,26 +8,32 @@
 #include <vector>
 
 #include "platform/Files.h"
+#include "platform/Ledger.h"
+#include "shell/ledger/History.h"
 
 namespace ostrel::cli {
 
 /// What stands for standard input or output where a command takes a file.
 inline constexpr std::string_view kStandard = "-";
 
-/// The file system of a machine, in which "-" is what comes in by standard input. That is read
-/// once, when it is first asked for, and then serves every reader.
+/// The file system of a machine, in which "-" is what comes in by standard input, and "history:12"
+/// the configuration of an entry of the ledger. The input is read once, when it is first asked for,
+/// and then serves every reader.
 class StandardFiles final : public Files {
  public:
   /// Brings all that comes in into a text.
   using ReadInput = std::function<FileResult(std::string& octets)>;
 
-  StandardFiles(Files& files, ReadInput readInput)
-      : files_(files), readInput_(std::move(readInput)) {}
+  StandardFiles(Files& files, Ledger* books, ReadInput readInput)
+      : files_(files), books_(books), readInput_(std::move(readInput)) {}
 
   /// What comes in by standard input has the limit of most files.
   FileResult ReadUpTo(const std::string& path, std::size_t most, std::string& octets) override;
-  bool Exists(const std::string& path) override { return path == kStandard || files_.Exists(path); }
+  bool Exists(const std::string& path) override { return IsOwn(path) || files_.Exists(path); }
   std::vector<std::string> List(const std::string& folder) override { return files_.List(folder); }
+  std::string Absolute(const std::string& path) override {
+    return IsOwn(path) ? path : files_.Absolute(path);
+  }
   std::string Resolve(const std::string& path) override { return files_.Resolve(path); }
   FileResult MayReplace(const std::string& path) override { return files_.MayReplace(path); }
   std::string TemporaryBeside(const std::string& path) override {
@@ -52,7 +58,13 @@ class StandardFiles final : public Files {
   FileResult MakeFolder(const std::string& path) override { return files_.MakeFolder(path); }
 
  private:
+  static bool IsOwn(const std::string& path) {
+    return path == kStandard || HistoryEntry(path) != 0;
+  }
+  FileResult ReadHistory(std::int64_t id, std::string& octets);
+
   Files& files_;
+  Ledger* books_;
   ReadInput readInput_;
   std::optional<FileResult> read_;  ///< what reading the input came to
   std::string input_;

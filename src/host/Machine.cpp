@@ -1,8 +1,13 @@
 #include "host/Machine.h"
 
+#include "host/Folders.h"
+
 namespace ostrel {
 
-Machine::Machine() : map_(PortMap::FromSettings(settings_)), serialPort_(loop, map_) {
+Machine::Machine()
+    : ledger_(UserDataFolder() + "/ledger.db"),
+      map_(PortMap::FromSettings(settings_)),
+      serialPort_(loop, map_) {
   ports_.AddRange(kFirstPort, kFirstSimulatedPort - 1, serialPort_);
 }
 
@@ -19,7 +24,8 @@ Platform Machine::With(Dialogs& dialogs, Processes& processes) {
           .dialogs = dialogs,
           .files = files,
           .processes = processes,
-          .clock = clock};
+          .clock = clock,
+          .ledger = &ledger_};
 }
 
 }  // namespace ostrel

@@ -12,6 +12,7 @@
 #include "platform/qt/QtFiles.h"
 #include "platform/qt/QtSerialPort.h"
 #include "platform/qt/QtSettings.h"
+#include "platform/qt/SqlLedger.h"
 #include "platform/virtual/PortSwitch.h"
 
 namespace ostrel {
@@ -38,6 +39,7 @@ class Machine {
 
  private:
   QtSettings settings_;
+  SqlLedger ledger_;
   PortMap map_;
 
  public:

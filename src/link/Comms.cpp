@@ -17,6 +17,11 @@ namespace {
 
 constexpr int kOutputBits = 16;
 
+/// "counter 2 = 1500".
+std::string TotalText(std::string_view whose, std::int16_t index, std::int32_t value) {
+  return std::string(whose) + std::to_string(index) + " = " + std::to_string(value);
+}
+
 }  // namespace
 
 Comms::Comms(const Platform& platform, const LinkRecords& records, LinkHooks hooks)
@@ -39,7 +44,7 @@ Comms::Comms(const Platform& platform, const LinkRecords& records, LinkHooks hoo
 
 Comms::~Comms() {
   platform_.port.SetOnComm({});
-  if (opened_) line_.Close();
+  if (opened_) ClosePort();
 }
 
 void Comms::SetWire(std::vector<WireSection> sections, std::vector<WireBlock> blocks) {
@@ -60,8 +65,12 @@ bool Comms::LineLost() const {
 
 LinkResult Comms::StartComs(std::int16_t port, const std::string& phone) {
   carrierGoneAt_.reset();
+  const LinkDeed deed{
+      .kind = LedgerKind::Session, .detail = {}, .port = PortName(port), .phone = phone};
+  if (hooks_.deedBegins) hooks_.deedBegins(deed);
   const LinkResult result = Keep(Opening(line_, AccessCode, hooks_.showPWForm).Run(port, phone));
-  opened_ = result;
+  opened_ = stands_ = result;
+  if (hooks_.deedEnds) hooks_.deedEnds(deed, result.Fault());
   if (!result) return result;
   // A flag left behind by whatever ran before must not block the session.
   LinkBusy = false;
@@ -72,7 +81,7 @@ LinkResult Comms::StartComs(std::int16_t port, const std::string& phone) {
 
 void Comms::CloseComs(bool modem) {
   const Line::Dialogue dialogue(line_);
-  const AtEnd closed([this] { line_.Close(); });
+  const AtEnd closed([this] { ClosePort(); });
   if (modem && line_.GoesOn()) HangUp(line_);
   if (line_.GoesOn()) line_.AwaitSent();
 }
@@ -94,12 +103,34 @@ LinkResult Comms::Keep(LinkResult result) {
   return result;
 }
 
+void Comms::ClosePort() {
+  line_.Close();
+  if (std::exchange(stands_, false) && hooks_.sessionEnds) hooks_.sessionEnds();
+}
+
+LinkResult Comms::Do(const LinkDeed& deed, const std::function<LinkResult()>& dialogue) {
+  // What is turned away does nothing with a logger.
+  if (LinkBusy || !line_.PortOpen()) return Keep(dialogue());
+  if (hooks_.deedBegins) hooks_.deedBegins(deed);
+  LinkFault fault{LinkFault::Kind::WrongAnswer};  // what is thrown was found in an answer
+  const AtEnd ended([&] {
+    if (hooks_.deedEnds) hooks_.deedEnds(deed, fault);
+  });
+  LinkResult result = Keep(dialogue());
+  // An output is set without a look at the answer; that none came is worth knowing later.
+  const bool isUnanswered = deed.kind == LedgerKind::Output && result && RxLine.empty();
+  fault = isUnanswered ? LinkFault{LinkFault::Kind::Silence} : result.Fault();
+  return result;
+}
+
 LinkResult Comms::ReadConf() {
-  return Keep(line_.Converse(kAnyTime, [this] { return download_.Run(); }));
+  return Do({LedgerKind::Reading},
+            [this] { return line_.Converse(kAnyTime, [this] { return download_.Run(); }); });
 }
 
 LinkResult Comms::WriteConf() {
-  return Keep(line_.Converse(kAnyTime, [this] { return upload_.Run(); }));
+  return Do({LedgerKind::Writing},
+            [this] { return line_.Converse(kAnyTime, [this] { return upload_.Run(); }); });
 }
 
 bool Comms::ReadInfo() {
@@ -115,7 +146,10 @@ LinkResult Comms::ReadDeviceRTC() {
                         [this] { return ReadClock(line_, records_.live.DeviceClock); });
 }
 
-LinkResult Comms::WriteDeviceRTC() { return Set(ClockMessage(platform_.clock.LocalNow()), "#A3"); }
+LinkResult Comms::WriteDeviceRTC() {
+  const DateTime now = platform_.clock.LocalNow();
+  return Set({LedgerKind::Clock, DateTimeText(now)}, ClockMessage(now), "#A3");
+}
 
 LinkResult Comms::ReadTotalCount() {
   return line_.Converse(line_.TimeFor(kLinkAttempts),
@@ -135,21 +169,29 @@ LinkResult Comms::ReadRealTime() {
 
 LinkResult Comms::SetOutput(std::int16_t mask) {
   const int count = std::clamp<int>(records_.profile.OutputCount, 0, kOutputBits);
-  return Keep(line_.Converse(line_.TimeFor(static_cast<std::size_t>(count)), [&] {
-    return SwitchOutputs(line_, static_cast<std::uint16_t>(mask), count);
-  }));
+  const auto bits = static_cast<std::uint16_t>(mask);
+  std::string detail = "outputs";
+  for (int i = 0; i < count; ++i) detail += (bits >> i & 1) != 0 ? " on" : " off";
+  return Do({LedgerKind::Output, std::move(detail)}, [&] {
+    return line_.Converse(line_.TimeFor(static_cast<std::size_t>(count)),
+                          [&] { return SwitchOutputs(line_, bits, count); });
+  });
 }
 
 LinkResult Comms::SetSingleOutput(std::int16_t index, bool on) {
-  return Keep(line_.Converse(line_.TimeFor(1), [&] { return SwitchOutput(line_, index, on); }));
+  return Do({LedgerKind::Output, "output " + std::to_string(index) + (on ? " on" : " off")}, [&] {
+    return line_.Converse(line_.TimeFor(1), [&] { return SwitchOutput(line_, index, on); });
+  });
 }
 
 LinkResult Comms::SetTotalCNT(std::int16_t index, std::int32_t value) {
-  return Set(TotalMessage("#41CNT", index, value), "#BE1");
+  return Set({LedgerKind::Total, TotalText("counter ", index, value)},
+             TotalMessage("#41CNT", index, value), "#BE1");
 }
 
 LinkResult Comms::SetExpValue(std::int16_t index, std::int32_t value) {
-  return Set(TotalMessage("#41EXP", index, value), "#BE1");
+  return Set({LedgerKind::Total, TotalText("expansion counter ", index, value)},
+             TotalMessage("#41EXP", index, value), "#BE1");
 }
 
 LinkResult Comms::ReadProbeIdentity(ProbeIdentity& identity) {
@@ -157,22 +199,28 @@ LinkResult Comms::ReadProbeIdentity(ProbeIdentity& identity) {
 }
 
 LinkResult Comms::WriteAutVoz(const ConfAutVoz& list) {
-  return Keep(line_.Converse(kAnyTime, [&] { return voice_.Write(list); }));
+  return Do({LedgerKind::VoiceWriting},
+            [&] { return line_.Converse(kAnyTime, [&] { return voice_.Write(list); }); });
 }
 
 LinkResult Comms::ReadAutVozList(ConfAutVoz& list) {
-  return Keep(line_.Converse(kAnyTime, [&] { return voice_.Read(list); }));
+  return Do({LedgerKind::VoiceReading},
+            [&] { return line_.Converse(kAnyTime, [&] { return voice_.Read(list); }); });
 }
 
 LinkResult Comms::SendFirmware(const FirmwareFiles& files,
                                const FirmwareDialogue::OnStage& onStage) {
-  return Keep(line_.Converse(
-      kAnyTime, [&] { return FirmwareDialogue(line_, progress_).Run(files, onStage); }));
+  return Do({LedgerKind::Firmware, std::to_string(files.image.size()) + " octets"}, [&] {
+    return line_.Converse(kAnyTime,
+                          [&] { return FirmwareDialogue(line_, progress_).Run(files, onStage); });
+  });
 }
 
-LinkResult Comms::Set(std::string message, std::string_view answer) {
-  return Keep(
-      line_.Converse(line_.TimeFor(1), [&] { return Confirm(line_, std::move(message), answer); }));
+LinkResult Comms::Set(const LinkDeed& deed, std::string message, std::string_view answer) {
+  return Do(deed, [&] {
+    return line_.Converse(line_.TimeFor(1),
+                          [&] { return Confirm(line_, std::move(message), answer); });
+  });
 }
 
 }  // namespace ostrel

@@ -11,6 +11,7 @@
 #include "link/Download.h"
 #include "link/FirmwareDialogue.h"
 #include "link/Line.h"
+#include "link/LinkDeed.h"
 #include "link/Progress.h"
 #include "link/Upload.h"
 #include "link/VoiceDialogue.h"
@@ -42,6 +43,9 @@ struct LinkHooks {
   std::function<void()> showPWForm;   ///< asks the access code, modal, into AccessCode
   std::function<void()> carrierLost;  ///< tells the operator
   std::function<void(std::string_view portName)> portFound;  ///< one usable port, such as "COM7"
+  std::function<void(const LinkDeed&)> deedBegins{};         ///< ahead of its first octet
+  std::function<void(const LinkDeed&, const LinkFault&)> deedEnds{};
+  std::function<void()> sessionEnds{};  ///< one that stood; the port is closed
 };
 
 /// The device link: owns the serial port and has every dialogue with a logger. It is the face of
@@ -69,7 +73,7 @@ class Comms {
   void CloseComs(bool modem);
   /// Closes the port at once, without any dialogue: a running wait ends, and with it the dialogue,
   /// which fails.
-  void Abort() { line_.Close(); }
+  void Abort() { ClosePort(); }
   /// Leaves the closed port to somebody else for some work: no dialogue begins meanwhile, and what
   /// the carrier does is none of ours. False when a dialogue runs or the port is open.
   bool LendPort(const std::function<void()>& work);
@@ -149,7 +153,10 @@ class Comms {
 
  private:
   LinkResult Keep(LinkResult result);
-  LinkResult Set(std::string message, std::string_view answer);
+  /// Runs a dialogue that book is kept of.
+  LinkResult Do(const LinkDeed& deed, const std::function<LinkResult()>& dialogue);
+  LinkResult Set(const LinkDeed& deed, std::string message, std::string_view answer);
+  void ClosePort();
 
   Platform platform_;
   LinkRecords records_;
@@ -163,6 +170,7 @@ class Comms {
   LinkFault infoFault_{LinkFault::Kind::Silence};
   bool lent_ = false;
   bool opened_ = false;  ///< the open port is ours to close
+  bool stands_ = false;  ///< a session whose end has not been told
   std::optional<TimePoint> carrierGoneAt_;
 
  public:

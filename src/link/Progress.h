@@ -19,7 +19,13 @@ constexpr bool MovesVoiceList(DialogueKind kind) {
 
 /// How far a dialogue is.
 struct Progress {
-  enum class Stage { Begun, Step, Done, Failed };
+  enum class Stage {
+    Begun,
+    Step,
+    Closing,  ///< an upload is about to ask the logger to take everything over
+    Done,
+    Failed
+  };
 
   DialogueKind kind;
   Stage stage;

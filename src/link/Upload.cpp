@@ -54,6 +54,7 @@ LinkFault Upload::RunOnce() {
 }
 
 LinkFault Upload::Close(const std::vector<std::string>& statements) {
+  Tell(Progress::Stage::Closing);
   line_.NoteQuestion();
   const int sent = statements_.Sent();
   const bool hasLeft = line_.Post(statements_.Closing());

@@ -42,6 +42,8 @@ class Files {
   /// Names of the regular files of a folder, in the order of their octets; none where it cannot be
   /// read.
   virtual std::vector<std::string> List(const std::string& folder) = 0;
+  /// A path that names the same file from any folder that a program may run in.
+  virtual std::string Absolute(const std::string& path) = 0;
   /// Where a path leads through symbolic links; the path itself where it is no link.
   virtual std::string Resolve(const std::string& path) = 0;
   /// Why a file should not be replaced without a question: it is read-only, or a link that leads in

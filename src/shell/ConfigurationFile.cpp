@@ -3,7 +3,9 @@
 #include <array>
 #include <utility>
 
+#include "base/CodePage.h"
 #include "blocks/Configuration.h"
+#include "store/IniClass.h"
 #include "store/IniTool.h"
 
 namespace ostrel {
@@ -28,6 +30,17 @@ constexpr std::array<std::pair<std::string_view, std::string_view>, 14> kStamps{
     {"OSTREL_S100", "Ostrel S100"},
 }};
 
+std::optional<ModelConfiguration> ReadKeys(const KeyReader& read, const TargetProfile& present,
+                                           const Translation& translate) {
+  ModelConfiguration made{present, {}};
+  const std::string stamp = read(std::string(kStampSection), std::string(kStampKey));
+  if (stamp != made.profile.TargetType) SelectTarget(made.profile, ModelOfStamp(stamp));
+  if (stamp.empty() || stamp != made.profile.TargetType) return {};
+  made.conf = EmptyConfiguration(made.profile, translate);
+  RestoreConfiguration(made.conf, made.profile, translate, read);
+  return made;
+}
+
 }  // namespace
 
 std::string_view ModelOfStamp(std::string_view stamp) {
@@ -40,16 +53,23 @@ std::optional<ModelConfiguration> ReadConfiguration(Files& files, const std::str
                                                     const TargetProfile& present,
                                                     const Translation& translate) {
   IniTool tool(files);
-  ModelConfiguration read{present, {}};
-  const std::string stamp = tool.ProfileRead(kStampSection, kStampKey, path);
-  if (stamp != read.profile.TargetType) SelectTarget(read.profile, ModelOfStamp(stamp));
-  if (stamp.empty() || stamp != read.profile.TargetType) return {};
-  read.conf = EmptyConfiguration(read.profile, translate);
-  RestoreConfiguration(read.conf, read.profile, translate,
-                       [&](const std::string& section, const std::string& key) {
-                         return tool.ProfileRead(section, key, path);
-                       });
-  return read;
+  return ReadKeys([&](const std::string& section,
+                      const std::string& key) { return tool.ProfileRead(section, key, path); },
+                  present, translate);
+}
+
+std::optional<ModelConfiguration> ReadContent(std::string octets, const TargetProfile& present,
+                                              const Translation& translate) {
+  ProfileIndex index(std::move(octets));
+  return ReadKeys([&](const std::string& section,
+                      const std::string& key) { return ProfileValue(index, section, key); },
+                  present, translate);
+}
+
+std::string ContentOf(Files& files, const DeviceConf& conf, const TargetProfile& profile) {
+  IniClass document(files);
+  SaveConfiguration(conf, profile, document);
+  return ToCodePage(document.OutputINI());
 }
 
 }  // namespace ostrel

@@ -27,4 +27,11 @@ std::optional<ModelConfiguration> ReadConfiguration(Files& files, const std::str
                                                     const TargetProfile& present,
                                                     const Translation& translate);
 
+/// The same of the octets of a file.
+std::optional<ModelConfiguration> ReadContent(std::string octets, const TargetProfile& present,
+                                              const Translation& translate);
+
+/// The octets of the file that a configuration is saved as.
+std::string ContentOf(Files& files, const DeviceConf& conf, const TargetProfile& profile);
+
 }  // namespace ostrel

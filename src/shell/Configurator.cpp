@@ -80,11 +80,13 @@ Configurator::Configurator(const Platform& platform, ConfiguratorOptions options
               .ConfFilePath = ConfFilePath,
               .timersRun = options.ticking,
               .programFolder = options.programFolder},
+      ledger({platform_, conf, profile, info}),
       platform_(platform),
       options_(std::move(options)),
       pages_(MakePages(context)),
       general(static_cast<General&>(*pages_.front())),
       comms(platform_, {profile, info, live, totals, ComBusy}, MakeHooks()),
+      book_(comms.OnProgress([this](const Progress& progress) { ledger.Follow(progress); })),
       bar_(comms.OnProgress(
           [&bar = general.Session().PBar](const Progress& progress) { ShowOnBar(progress, bar); })),
       voiceBar_(
@@ -176,11 +178,23 @@ LinkHooks Configurator::MakeHooks() {
             origin_ = {.isKnown = true};
             ForEach(kLoadAfterDownload, &Page::LoadData);
           },
-      .composed = [this] { session.KeepSent(); },
-      .infoChanged = [this](std::string_view key) { general.ShowInfo(key); },
+      .composed =
+          [this] {
+            session.KeepSent();
+            ledger.Composed();
+          },
+      .infoChanged =
+          [this](std::string_view key) {
+            general.ShowInfo(key);
+            ledger.InfoChanged(key);
+          },
       .showPWForm = [this] { AskCode(); },
       .carrierLost = [this] { ShowCarrierLost(); },
       .portFound = [&frame](std::string_view name) { frame.Puerto.Add(name); },
+      .deedBegins = [this](const LinkDeed& deed) { ledger.DeedBegins(deed); },
+      .deedEnds = [this](const LinkDeed& deed,
+                         const LinkFault& fault) { ledger.DeedEnds(deed, fault); },
+      .sessionEnds = [this] { ledger.SessionEnds(); },
   };
 }
 

@@ -25,6 +25,7 @@
 #include "shell/SessionDriver.h"
 #include "shell/StoredSettings.h"
 #include "shell/TargetSelect.h"
+#include "shell/ledger/LedgerKeeper.h"
 #include "store/IniTool.h"
 #include "tools/Ayuda.h"
 #include "tools/AyudaHex.h"
@@ -149,6 +150,7 @@ class Configurator {
   Lang& lang;
   IniTool iniTool;
   PageContext context;
+  LedgerKeeper ledger;
 
  private:
   /// Runs an action on the pages of a fixed order.
@@ -177,6 +179,7 @@ class Configurator {
   Comms comms;
 
  private:
+  ProgressFeed::Subscription book_;      ///< of the ledger
   ProgressFeed::Subscription bar_;       ///< of the general page
   ProgressFeed::Subscription voiceBar_;  ///< of the page with the voice-call list
 

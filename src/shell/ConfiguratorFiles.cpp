@@ -1,3 +1,4 @@
+#include "base/CodePage.h"
 #include "base/Scope.h"
 #include "blocks/Configuration.h"
 #include "blocks/Orders.h"
@@ -54,6 +55,7 @@ FileResult Configurator::SaveConf(Replacing replacing) {
   FileResult result =
       document.SaveINI(ConfFilePath, replacing, ReadersOf(document, iniTool, ConfFilePath));
   iniTool.Forget();
+  if (result.Ok()) ledger.Saved(ConfFilePath, ToCodePage(document.OutputINI()));
   return result;
 }
 
@@ -81,6 +83,7 @@ RestoreResult Configurator::RestoreConf() {
   }
   for (const FileTurn& turn : kFileOrder)
     if (Page* page = PageOf(turn.page); page && turn.takesPart(profile)) page->RestoreConf();
+  ledger.TakeFile(ConfFilePath);
   const auto translate = [this](std::string_view text) { return context.Translate(text); };
   origin_ = {true, WhatLacks({profile, conf}, ConfFilePath, platform_.files, translate)};
   return RestoreResult::Loaded;

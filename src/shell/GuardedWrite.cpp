@@ -1,29 +1,11 @@
 #include "shell/GuardedWrite.h"
 
+#include "shell/Against.h"
 #include "shell/Configurator.h"
+#include "shell/ledger/IdentityGuard.h"
 
 namespace ostrel {
 namespace {
-
-/// What was sent, or is to be, against what the logger has reported.
-class Against {
- public:
-  Against(const Configurator& configurator, const WriteRoad& road, const DeviceConf& sent,
-          const DeviceConf& read)
-      : features_(configurator.info.Features),
-        passwords_(road.passwords),
-        sent_{configurator.profile, sent},
-        read_{configurator.profile,
-              ReadAsSent(read, sent, {configurator.profile, configurator.info.Features})} {}
-
-  Comparison WhatChanges() const { return Compare(read_, sent_, features_, passwords_); }
-  Comparison WhatCameBack() const { return Compare(sent_, read_, features_, passwords_); }
-
- private:
-  std::int32_t features_;
-  Passwords passwords_;
-  ModelConfiguration sent_, read_;
-};
 
 /// Puts back what stood on the pages, at the end of a scope.
 class PagesKept {
@@ -50,7 +32,11 @@ std::optional<WriteEnd> Prepare(Configurator& configurator, const WriteRoad& roa
   const auto held = ReadBeside(configurator, road.read);
   if (!held) return WriteEnd::NotRead;
   if (road.keep && !road.keep(*held)) return WriteEnd::NotKept;
-  if (road.mayWrite && !road.mayWrite(Against(configurator, road, toSend, *held).WhatChanges()))
+  if (const auto doubt = DoubtOfHeld(configurator, *held);
+      doubt && road.inSpiteOf && !road.inSpiteOf(*doubt))
+    return WriteEnd::Declined;
+  if (road.mayWrite &&
+      !road.mayWrite(Against(configurator, toSend, *held, road.passwords).WhatChanges()))
     return WriteEnd::Declined;
   return {};
 }
@@ -61,7 +47,8 @@ WriteEnd Send(Configurator& configurator, const WriteRoad& road, WriteResult& re
   if (!road.verify) return WriteEnd::Written;
   const auto held = ReadBeside(configurator, road.read);
   if (!held) return WriteEnd::NotReadBack;
-  result.verified = Against(configurator, road, result.sent, *held).WhatCameBack();
+  result.verified = Against(configurator, result.sent, *held, road.passwords).WhatCameBack();
+  configurator.ledger.Verified(*result.verified);
   return WriteEnd::Written;
 }
 
@@ -75,6 +62,7 @@ std::optional<DeviceConf> ReadBeside(Configurator& configurator,
 }
 
 WriteResult WriteGuarded(Configurator& configurator, const WriteRoad& road) {
+  const auto guarded = configurator.ledger.WithGuards();
   WriteResult result{.sent = configurator.conf};
   result.end = Send(configurator, road, result);
   // A logger holds just this now.

@@ -7,7 +7,6 @@
 #include "base/CodePage.h"
 #include "blocks/Configuration.h"
 #include "shell/ConfigurationFile.h"
-#include "store/IniClass.h"
 #include "store/IniTool.h"
 
 namespace ostrel {
@@ -98,9 +97,7 @@ SafetyCopies::Kept SafetyCopies::Keep(const Held& held) {
   FileResult made = files_.MakeFolder(folder_);
   if (made.Ok()) made = files_.Protect(folder_);
   if (!made.Ok()) return {made, folder_};
-  IniClass document(files_);
-  SaveConfiguration(held.conf, held.profile, document);
-  const std::string octets = ToCodePage(document.OutputINI());
+  const std::string octets = ContentOf(files_, held.conf, held.profile);
   const std::string name =
       folder_ + "/" + NameOf(held.serialNumber) + "-" + StampOf(clock_.LocalNow());
   Kept kept;

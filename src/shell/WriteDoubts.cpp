@@ -3,6 +3,7 @@
 #include "blocks/Orders.h"
 #include "shell/Comparison.h"
 #include "shell/Configurator.h"
+#include "shell/ledger/IdentityGuard.h"
 
 namespace ostrel {
 namespace {
@@ -55,6 +56,7 @@ std::optional<Phrase> WhatLacks(const ModelConfiguration& configuration, const s
 std::vector<Phrase> DoubtsOfWriting(const Configurator& configurator) {
   std::vector<Phrase> doubts;
   if (auto model = configurator.session.ModelDoubt()) doubts.push_back(std::move(*model));
+  for (Phrase& doubt : DoubtsOfIdentity(configurator)) doubts.push_back(std::move(doubt));
   if (configurator.session.LastReadFailed())
     doubts.push_back({"the last reading of the logger failed"});
   else if (!configurator.WhereFrom().isKnown)

@@ -21,7 +21,11 @@ std::string IniTool::ProfileRead(std::string_view section, std::string_view key,
     index_.emplace(files_.Read(path).value_or(""));
     path_ = path;
   }
-  const std::string_view value = index_->Find(ToCodePage(section), ToCodePage(key));
+  return ProfileValue(*index_, section, key);
+}
+
+std::string ProfileValue(ProfileIndex& index, std::string_view section, std::string_view key) {
+  const std::string_view value = index.Find(ToCodePage(section), ToCodePage(key));
   return FromCodePage(WithoutQuotes(value).substr(0, kProfileValueLimit));
 }
 

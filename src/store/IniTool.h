@@ -35,6 +35,9 @@ class IniTool {
   std::optional<ProfileIndex> index_;
 };
 
+/// The value of a key as `IniTool::ProfileRead` gives it.
+std::string ProfileValue(ProfileIndex& index, std::string_view section, std::string_view key);
+
 /// The part of a written value, in UTF-8, that the reader looks at: without the blanks around it
 /// and the quotes around that. It is cut to `kProfileValueLimit` when it is read.
 std::string_view ProfilePart(std::string_view value);

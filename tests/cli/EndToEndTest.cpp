@@ -117,6 +117,29 @@ TEST_F(EndToEnd, ConfigurationGoesRoundOverAPseudoTerminal) {
   EXPECT_THAT(Read("state"), HasSubstr("Depósito de la prueba")) << "kept whatever ends it";
 }
 
+TEST_F(EndToEnd, AKilledUploadIsToldAndFinished) {
+  Simulator simulator({"--model", "BP"});
+  const std::string port = " --target BP --port " + simulator.path;
+  ASSERT_EQ(Run("ostrelctl", "download " + Path("a.ocf") + port), 0) << Read("err");
+  const std::string upload =
+      (Programs() / "ostrelctl").string() + " upload " + Path("a.ocf") + port;
+  ASSERT_EQ(std::system((upload + " >/dev/null 2>&1 & echo $! >" + Path("pid")).c_str()), 0);
+  for (std::string line = "-"; line.find("  #45030") == std::string::npos && !line.empty();)
+    line = simulator.Line();
+  EXPECT_EQ(kill(std::stoi(Read("pid")), SIGKILL), 0);
+  while (kill(std::stoi(Read("pid")), 0) == 0 && Run("ostrelctl", "interrupted") == 0 &&
+         Read("out").empty()) {
+  }
+  EXPECT_EQ(Run("ostrelctl", "interrupted --json"), 0);
+  EXPECT_THAT(Read("out"), HasSubstr("\"holding\": \"former\""));
+  const std::string id = Read("out").substr(Read("out").find("\"id\": ") + 6);
+  EXPECT_EQ(Run("ostrelctl", "interrupted " + std::to_string(std::stoi(id)) + " --finish" + port),
+            0)
+      << Read("err");
+  EXPECT_EQ(Run("ostrelctl", "interrupted"), 0);
+  EXPECT_EQ(Read("out"), "");
+}
+
 TEST_F(EndToEnd, AStateThatCannotBeReadIsNotReplaced) {
   const std::string state = "ostrel-sim-state=1\ncut off";
   std::ofstream(Path("state")) << state;

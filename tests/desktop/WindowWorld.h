@@ -13,6 +13,7 @@
 #include "platform/virtual/LinePort.h"
 #include "platform/virtual/VirtualClock.h"
 #include "platform/virtual/VirtualDialogs.h"
+#include "platform/virtual/VirtualLedger.h"
 #include "platform/virtual/VirtualLoop.h"
 #include "platform/virtual/VirtualProcesses.h"
 #include "platform/virtual/VirtualSettings.h"
@@ -63,7 +64,8 @@ struct WindowWorld {
                  .dialogs = asking ? *asking : dialogsOfWindow,
                  .files = files,
                  .processes = processes,
-                 .clock = clock},
+                 .clock = clock,
+                 .ledger = &ledger},
         ConfiguratorOptions{
             .programFolder = "/nowhere", .langFile = Path("Lang.txt"), .ticking = true},
         FromQt(folder.path()), inspector);
@@ -78,6 +80,7 @@ struct WindowWorld {
   QtFiles files;
   VirtualProcesses processes;
   VirtualClock clock;
+  VirtualLedger ledger;
   QtDialogs dialogsOfWindow;
   BlindInspector inspector;
   sim::Logger* logger = nullptr;

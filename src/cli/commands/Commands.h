@@ -5,6 +5,7 @@
 
 #include "cli/CommandContext.h"
 #include "host/ExitCode.h"
+#include "platform/Ledger.h"
 
 namespace ostrel::cli {
 
@@ -37,5 +38,16 @@ Command AddCheck(CLI::App& app);
 Command AddSchedule(CLI::App& app);
 Command AddReport(CLI::App& app);
 Command AddCalc(CLI::App& app);
+Command AddHistory(CLI::App& app);
+Command AddInterrupted(CLI::App& app);
+
+/// Says on the other stream which work on loggers was interrupted, if any.
+void TellInterrupted(CommandContext& context);
+
+/// Says that the ledger cannot be read.
+ExitCode LedgerFailed(CommandContext& context, const Ledger& books);
+/// Runs a command on an entry of the ledger; says so where there is none.
+ExitCode WithEntry(CommandContext& context, std::int64_t id,
+                   const std::function<ExitCode(Ledger&, const LedgerEntry&)>& work);
 
 }  // namespace ostrel::cli

@@ -15,7 +15,7 @@ ExitCode RunDownload(Online& online, const std::string& file) {
   if (downloaded != ExitCode::Done) return downloaded;
   const ExitCode saved = SaveTo(context, online.configurator, file);
   if (saved != ExitCode::Done) return saved;
-  const Configurator& configurator = online.configurator;
+  Configurator& configurator = online.configurator;
   const std::string& serial = configurator.info.SerialNumber;
   context.console.Note("configuration of " + serial + " saved to " +
                        (file == kStandard ? "standard output" : file));

@@ -9,6 +9,8 @@
 #include "link/UploadPlan.h"
 #include "shell/GuardedWrite.h"
 #include "shell/WriteDoubts.h"
+#include "shell/ledger/History.h"
+#include "shell/ledger/IdentityGuard.h"
 
 namespace ostrel::cli {
 namespace {
@@ -124,6 +126,18 @@ std::vector<std::string> DoubtsOfModel(const Configurator& configurator) {
   return {};
 }
 
+/// What speaks against writing to the logger that answers, before it is read.
+std::vector<std::string> DoubtsOfLogger(const Configurator& configurator) {
+  std::vector<std::string> doubts = DoubtsOfModel(configurator);
+  for (const Phrase& doubt : DoubtsOfIdentity(configurator)) doubts.push_back(Filled(doubt));
+  return doubts;
+}
+
+/// Whether a file is a former state, which is written because the logger holds another one now.
+bool IsFormerState(const UploadOptions& options) {
+  return !options.copy.empty() || HistoryEntry(options.file) != 0;
+}
+
 /// Writes with safety copy and verification, as far as the options want them.
 ExitCode Send(Online& online, const UploadOptions& options, Refusal& refusal) {
   CommandContext& context = online.context;
@@ -142,6 +156,8 @@ ExitCode Send(Online& online, const UploadOptions& options, Refusal& refusal) {
       if (!step(refusal.Of(DoubtsOfModel(online.configurator)))) return false;
       return step(SaveBackup(context, online.configurator, held, result.backup));
     };
+  if (!IsFormerState(options))
+    road.inSpiteOf = [&](const Phrase& doubt) { return step(refusal.Of({Filled(doubt)})); };
   const WriteResult written = WriteGuarded(online.configurator, road);
   if (written.end != WriteEnd::Written) return code;
   result.comparison = written.verified;
@@ -164,6 +180,7 @@ ExitCode LoadFile(CommandContext& context, Configurator& configurator, const Upl
   const ExitCode refused = refusal.Of(DoubtsOfFile(context, options, *read));
   if (refused != ExitCode::Done) return refused;
   configurator.conf = read->conf;
+  if (file != kStandard) configurator.ledger.TakeFile(file);
   const std::string& fileModel = read->profile.TargetName;
   if (fileModel == model) return ExitCode::Done;
   configurator.TargetDeviceChange(fileModel);
@@ -172,6 +189,15 @@ ExitCode LoadFile(CommandContext& context, Configurator& configurator, const Upl
   if (!options.dryRun) return refusal.Of({other});
   context.console.Note("warning: " + other);
   return ExitCode::Done;
+}
+
+/// What was made for one logger alone goes to no other.
+ExitCode MayGoTo(const Online& online, const std::string& serial) {
+  const std::string& answers = online.configurator.info.SerialNumber;
+  if (serial.empty() || serial == answers) return ExitCode::Done;
+  return online.context.console.Fail(ExitCode::BadFile, "the logger that answers is " + answers +
+                                                            ", the interrupted one is " + serial +
+                                                            ". Nothing was sent");
 }
 
 /// What speaks against a safety copy of another logger than the one that answers.
@@ -215,13 +241,14 @@ ExitCode RunUpload(CommandContext& context, const UploadOptions& options) {
   const ExitCode opened = session.Open();
   if (opened != ExitCode::Done) return opened;
   Online online{context, *configurator, session};
+  if (const ExitCode may = MayGoTo(online, options.serial); may != ExitCode::Done) return may;
   const ExitCode mayTake = MayTakeCopy(online, options.copy);
   if (mayTake != ExitCode::Done) return mayTake;
   TakeLines(online, options.copy);
   if (options.dryRun)
     return ShowPlan(context, {configurator->profile, configurator->conf},
                     configurator->info.Features);
-  const ExitCode refused = refusal.Of(DoubtsOfModel(*configurator));
+  const ExitCode refused = refusal.Of(DoubtsOfLogger(*configurator));
   if (refused != ExitCode::Done) return refused;
   return Send(online, options, refusal);
 }
@@ -230,7 +257,7 @@ void AddUploadFlags(CLI::App& parser, UploadOptions& options) {
   parser.add_flag("--no-verify", options.noVerify, "Do not read back and compare");
   parser.add_flag("--no-backup", options.noBackup, "Keep no copy of the former configuration");
   parser.add_flag("--force", options.force,
-                  "Write in spite of errors in the file, or of a logger of another model");
+                  "Write in spite of errors in the file, or of a logger that it is not for");
   parser.add_flag("--dry-run", options.dryRun, "Show what would be sent, and how long it takes");
 }
 

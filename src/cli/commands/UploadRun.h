@@ -9,8 +9,9 @@ namespace ostrel::cli {
 
 /// What is written into a logger, and how.
 struct UploadOptions {
-  std::string file;
-  std::string copy;  ///< name of the safety copy that the file is; empty for any other file
+  std::string file{};
+  std::string copy{};    ///< name of the safety copy that the file is; empty for any other file
+  std::string serial{};  ///< of the only logger that it may go to; empty for any
   bool noVerify = false;
   bool noBackup = false;
   bool dryRun = false;

@@ -130,6 +130,13 @@ void DrawLive(QPainter& p) {
   p.drawPolyline(QPolygonF({{7, 15}, {10.5, 10.5}, {13.5, 13}, {19.5, 6.5}}));
 }
 
+/// An open book.
+void DrawHistory(QPainter& p) {
+  p.drawPolyline(QPolygonF({{12, 7}, {8, 5}, {3.5, 5}, {3.5, 18}, {8, 18}, {12, 20}}));
+  p.drawPolyline(QPolygonF({{12, 7}, {16, 5}, {20.5, 5}, {20.5, 18}, {16, 18}, {12, 20}}));
+  p.drawLine(QPointF(12, 7), QPointF(12, 20));
+}
+
 void DrawLanguage(QPainter& p) {
   p.drawEllipse(QPointF(12, 12), 8.5, 8.5);
   p.drawEllipse(QPointF(12, 12), 3.8, 8.5);
@@ -176,6 +183,8 @@ void Draw(QPainter& painter, Sign sign) {
       return DrawSchedule(painter);
     case Sign::Live:
       return DrawLive(painter);
+    case Sign::History:
+      return DrawHistory(painter);
     case Sign::Trace:
       return DrawTrace(painter);
     case Sign::Findings:

@@ -29,6 +29,7 @@ enum class Sign {
   Report,
   Doctor,
   Live,
+  History,
   Trace,
   Findings,
   Language

@@ -12,6 +12,7 @@
 #include "desktop/program/Desktop.h"
 #include "desktop/program/Language.h"
 #include "desktop/window/DoctorDialog.h"
+#include "desktop/window/HistoryDialog.h"
 #include "desktop/window/ScheduleView.h"
 #include "host/SimulatedLoggers.h"
 #include "host/TraceFile.h"
@@ -20,8 +21,10 @@
 #include "platform/virtual/VirtualClock.h"
 #include "platform/virtual/VirtualDialogs.h"
 #include "platform/virtual/VirtualFiles.h"
+#include "platform/virtual/VirtualLedger.h"
 #include "platform/virtual/VirtualProcesses.h"
 #include "platform/virtual/VirtualSettings.h"
+#include "shell/GuardedWrite.h"
 #include "shell/NavigationTree.h"
 #include "shell/report/Commissioning.h"
 
@@ -33,6 +36,7 @@ constexpr const char* kTable = "/Lang.txt";
 constexpr std::string_view kSchedule = "Schedule";
 constexpr std::string_view kDoctor = "Doctor";
 constexpr std::string_view kReport = "Report";
+constexpr std::string_view kHistory = "History";
 
 /// A dialog, drawn by itself as it comes up, if the key names one.
 QPixmap DialogPicture(Desktop& desktop, VirtualDialogs& dialogs, const std::string& key) {
@@ -95,6 +99,27 @@ QPixmap DoctorPicture(EventLoop& loop, const Platform& platform, const CommandLi
   DoctorQuestion question{.port = kNumber};
   question.onSymptom = [&dialog](const Symptom& symptom) { dialog.Add(symptom); };
   dialog.Finish(LinkDoctor(platform.With(port), inspector, std::move(question)).Run());
+  dialog.show();
+  QCoreApplication::processEvents();
+  return dialog.grab();
+}
+
+/// The history of a session with the simulated logger of the model, if the key names it.
+QPixmap HistoryPicture(Desktop& desktop, VirtualLedger& ledger, SimulatedLoggers* loggers,
+                       const CommandLine& line) {
+  if (line.page != kHistory || !loggers) return {};
+  Configurator& core = desktop.Core();
+  if (core.session.Open(loggers->NumberOf(core.profile.TargetName), {})) {
+    core.session.Download();
+    core.SaveConf();
+    core.comms.SetTotalCNT(0, 1500);
+    core.conf.General.DNAME += " 2";
+    WriteGuarded(core, {.read = [&core] { return core.session.Download(); },
+                        .write = [&core] { return core.session.Upload(); },
+                        .keep = [](const DeviceConf&) { return true; }});
+    core.session.Close(false);
+  }
+  HistoryDialog dialog(ledger, nullptr);
   dialog.show();
   QCoreApplication::processEvents();
   return dialog.grab();
@@ -171,6 +196,7 @@ std::string TakeScreenshot(const CommandLine& line, const std::string& langFile)
     files.contents[kConfiguration] = *content;
   }
   VirtualClock clock;
+  VirtualLedger ledger;
   VirtualDialogs dialogs;
   VirtualProcesses processes;
   LinePort noPort(loop);
@@ -183,7 +209,8 @@ std::string TakeScreenshot(const CommandLine& line, const std::string& langFile)
                           .dialogs = dialogs,
                           .files = files,
                           .processes = processes,
-                          .clock = clock};
+                          .clock = clock,
+                          .ledger = &ledger};
   Desktop desktop(platform,
                   {.programFolder = {},
                    .langFile = kTable,
@@ -201,6 +228,8 @@ std::string TakeScreenshot(const CommandLine& line, const std::string& langFile)
   if (picture.isNull()) picture = SchedulePicture(desktop, clock, line);
   if (picture.isNull()) picture = DoctorPicture(loop, platform, line);
   if (picture.isNull()) picture = ReportPicture(desktop, platform, line);
+  if (picture.isNull())
+    picture = HistoryPicture(desktop, ledger, simulated ? &*simulated : nullptr, line);
   if (picture.isNull()) {
     if (!line.page.empty() && !LeadsToPage(core.profile, line.page))
       return "there is no page " + line.page + " for the " + core.profile.TargetName;

@@ -137,6 +137,7 @@ MainWindow::MainWindow(const WindowParts& parts)
   configurator_.session.ServeRead = [this] { parts_.guard([this] { Read(); }); };
   configurator_.session.ServeWrite = [this] { parts_.guard([this] { Write(); }); };
   configurator_.session.OnModelDoubt = [this](const Phrase& doubt) { Tell(SentenceOf(doubt)); };
+  configurator_.ledger.OnFault = [this](const std::string& why) { TellLedgerFault(why); };
   configurator_.context.repaintTree = Following(&MainWindow::PaintTree);
   navigation_.OnFrontChanged = Following(&MainWindow::ShowFront);
   configurator_.session.OnStateChanged = Following(&MainWindow::ShowSession);
@@ -166,6 +167,7 @@ void MainWindow::LetGo() {
   session.ServeRead = session.ServeWrite = nullptr;
   session.OnModelDoubt = nullptr;
   configurator_.comms.Trace = nullptr;
+  configurator_.ledger.OnFault = nullptr;
   configurator_.OnForeignKeys = nullptr;
   configurator_.OnProtected = nullptr;
   configurator_.OnOtherModel = nullptr;
@@ -201,6 +203,7 @@ void MainWindow::Follow() {
   StartHistory();
   Look();
   overview_.ShowNode(shownNode_);
+  TellInterrupted();
 }
 
 std::function<std::string(std::string_view)> MainWindow::Translate() const {
@@ -305,6 +308,7 @@ void MainWindow::Look() {
   if (timersSeen_ != unsaved_.Touches()) ShowTimers();
   if (comparing_ && !configurator_.session.OwnsModel()) comparing_->Look();
   live_.Look(shownFile_);
+  OfferWayOut();
 }
 
 void MainWindow::ShowTitle() {

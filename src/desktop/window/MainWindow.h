@@ -32,6 +32,7 @@
 #include "shell/SessionDriver.h"
 #include "shell/TraceLog.h"
 #include "shell/UnsavedMark.h"
+#include "shell/ledger/Interrupted.h"
 
 class QAction;
 class QLabel;
@@ -110,6 +111,7 @@ class MainWindow final : public QMainWindow {
   void FillCopies(QMenu& menu);
   void ShowSchedule();
   Schedule PresentSchedule() const;
+  void ShowHistory();
   void ShowTrace(bool on);
   /// Begins a recording of the line in a file that the operator names, or ends it.
   void Record(bool on);
@@ -203,6 +205,23 @@ class MainWindow final : public QMainWindow {
   /// Whether a file may change the model although a session stands.
   bool MayChangeModel(const std::string& model);
 
+  // The ledger.
+  /// Opens the configuration of an entry, from a file of its own in the user's data folder.
+  void OpenEntry(const LedgerEntry& entry);
+  void CompareEntry(const LedgerEntry& entry);
+  void SaveEntry(const LedgerEntry& entry);
+  void WriteEntry(const LedgerEntry& entry);
+  /// Says in the status bar that nothing is kept; no box, since a transfer may run.
+  void TellLedgerFault(const std::string& why);
+  /// Tells at the start what was interrupted when the program ran last.
+  void TellInterrupted();
+  /// Offers the ways out as soon as the logger of an interruption is connected, once a session.
+  void OfferWayOut();
+  void AskWayOut(const Interrupted& interrupted);
+  void TellWhatWasFound(const DeviceConf& read);
+  /// Asks whether to write in spite of what the ledger says.
+  bool MayWriteInSpite(const Phrase& doubt);
+
   /// What the file at `ConfFilePath` holds otherwise than the program; nothing when it is refused.
   std::optional<Comparison> FileDifferences() const;
   /// Reads a configuration file beside the present configuration.
@@ -250,9 +269,12 @@ class MainWindow final : public QMainWindow {
   QToolBar* bar_ = nullptr;
   QAction *open_ = nullptr, *save_ = nullptr, *saveAs_ = nullptr, *language_ = nullptr,
           *recentFiles_ = nullptr, *safetyCopies_ = nullptr, *compare_ = nullptr,
-          *channels_ = nullptr, *schedule_ = nullptr, *undo_ = nullptr, *redo_ = nullptr,
-          *report_ = nullptr, *doctor_ = nullptr, *liveTools_ = nullptr, *traceSwitch_ = nullptr,
-          *findingsSwitch_ = nullptr;
+          *channels_ = nullptr, *schedule_ = nullptr, *history_ = nullptr, *undo_ = nullptr,
+          *redo_ = nullptr, *report_ = nullptr, *doctor_ = nullptr, *liveTools_ = nullptr,
+          *traceSwitch_ = nullptr, *findingsSwitch_ = nullptr;
+  QLabel* ledgerFault_ = nullptr;
+  std::string offeredTo_;  ///< serial number of the logger that ways out were offered for
+  std::optional<LedgerEntry> looksFor_;  ///< the interrupted writing whose logger is being read
   bool following_ = false;
   QString success_;                    ///< what the status bar says of the last writing
   bool hasMoved_ = false;              ///< a transfer of this session has succeeded

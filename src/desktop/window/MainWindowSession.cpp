@@ -67,7 +67,7 @@ void MainWindow::ShowLink() {
 /// unless the operator has taken it elsewhere.
 void MainWindow::Rest(bool rests) {
   for (QAction* action : {open_, save_, saveAs_, recentFiles_, safetyCopies_, compare_, channels_,
-                          schedule_, report_, doctor_, language_})
+                          schedule_, history_, report_, doctor_, language_})
     action->setEnabled(!rests && !isUpdating_);
   ShowHistory();
   trace_->SetMaySave(!rests && !isUpdating_);

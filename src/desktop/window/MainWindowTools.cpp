@@ -58,6 +58,7 @@ void MainWindow::MakeToolBar() {
   liveTools_->setMenu(liveMenu);
   static_cast<QToolButton*>(bar_->widgetForAction(liveTools_))
       ->setPopupMode(QToolButton::InstantPopup);
+  history_ = AddAction(Sign::History, QKeySequence("Ctrl+H"), [this] { ShowHistory(); });
   traceSwitch_ = AddAction(Sign::Trace, QKeySequence("Ctrl+T"), {});
   traceSwitch_->setCheckable(true);
   connect(traceSwitch_, &QAction::toggled, this, [this](bool on) { ShowTrace(on); });
@@ -129,6 +130,7 @@ void MainWindow::Retranslate() {
   name(doctor_, Words::tr("Link doctor"), Words::tr("Find out why nothing answers at the port"));
   name(liveTools_, Words::tr("Live"), Words::tr("Plot live values, and accept the installation"));
   live_.Retranslate();
+  name(history_, Words::tr("History"), Words::tr("Show what was done with loggers"));
   name(traceSwitch_, Words::tr("Trace"), Words::tr("Show what goes over the line"));
   name(findingsSwitch_, Words::tr("Findings"),
        Words::tr("Show what the check finds in the configuration"));

@@ -47,7 +47,8 @@ void MainWindow::Write() {
   };
   WriteRoad road{.read = [step] { return step(&SessionDriver::Download); },
                  .write = [step] { return step(&SessionDriver::Upload); },
-                 .keep = [this](const DeviceConf& held) { return KeepFormer(held); }};
+                 .keep = [this](const DeviceConf& held) { return KeepFormer(held); },
+                 .inSpiteOf = [this](const Phrase& doubt) { return MayWriteInSpite(doubt); }};
   if (dialog.ShowsChanges())
     road.mayWrite = [this](const Comparison& changes) { return MayChange(changes); };
   ShowWritten(WriteGuarded(configurator_, road));
@@ -65,14 +66,24 @@ WriteQuestion MainWindow::AskedBeforeWriting() const {
 }
 
 bool MainWindow::KeepFormer(const DeviceConf& held) {
-  const FileResult kept = copies_
-                              .Keep({held, configurator_.profile, configurator_.info.SerialNumber,
-                                     configurator_.comms.DownloadedLines()})
-                              .result;
-  if (!kept.Ok())
+  const SafetyCopies::Kept kept =
+      copies_.Keep({held, configurator_.profile, configurator_.info.SerialNumber,
+                    configurator_.comms.DownloadedLines()});
+  if (kept.result.Ok())
+    configurator_.ledger.NoteCopy(kept.path);
+  else
     Tell(Words::tr("Nothing was sent, since no safety copy could be kept: %1")
-             .arg(ToQt(kept.error)));
-  return kept.Ok();
+             .arg(ToQt(kept.result.error)));
+  return kept.result.Ok();
+}
+
+bool MainWindow::MayWriteInSpite(const Phrase& doubt) {
+  const BoxAnswer answer = parts_.platform.dialogs.ShowMessage(
+      {.text = FromQt(SentenceOf(doubt) + u' ' + Words::tr("Write all the same?")),
+       .title = configurator_.profile.TargetName,
+       .icon = BoxIcon::Question,
+       .buttons = BoxButtons::YesNo});
+  return answer == BoxAnswer::Yes && configurator_.Connected;
 }
 
 bool MainWindow::MayChange(const Comparison& changes) {
@@ -109,11 +120,14 @@ void MainWindow::TransferEnded(const TransferEnd& end) {
   }
   SafetyCopies::Held held{end.held, configurator_.profile, configurator_.info.SerialNumber};
   if (end.kind == SessionPhase::Reading) held.lines = configurator_.comms.DownloadedLines();
-  const FileResult kept = copies_.Keep(held).result;
-  if (!kept.Ok())
-    statusBar()->showMessage(Words::tr("No safety copy could be kept: %1").arg(ToQt(kept.error)),
-                             kMessageTime);
+  const SafetyCopies::Kept kept = copies_.Keep(held);
+  if (!kept.result.Ok())
+    statusBar()->showMessage(
+        Words::tr("No safety copy could be kept: %1").arg(ToQt(kept.result.error)), kMessageTime);
+  else if (end.kind == SessionPhase::Reading)
+    configurator_.ledger.NoteCopy(kept.path);
   ShowTitle();
+  if (end.kind == SessionPhase::Reading) TellWhatWasFound(end.held);
 }
 
 bool MainWindow::MayWriteList(const ConfAutVoz& list) {

@@ -2984,6 +2984,250 @@
         <translation>hora</translation>
     </message>
     <message>
+        <source>History</source>
+        <translation>Historial</translation>
+    </message>
+    <message>
+        <source>Show what was done with loggers</source>
+        <translation>Mostrar lo que se hizo con los registradores</translation>
+    </message>
+    <message>
+        <source>No.</source>
+        <translation>N.º</translation>
+    </message>
+    <message>
+        <source>Begun</source>
+        <translation>Inicio</translation>
+    </message>
+    <message>
+        <source>Work</source>
+        <translation>Trabajo</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Resultado</translation>
+    </message>
+    <message>
+        <source>Port</source>
+        <translation>Puerto</translation>
+    </message>
+    <message>
+        <source>What</source>
+        <translation>Detalle</translation>
+    </message>
+    <message>
+        <source>Serial number, date, work, file</source>
+        <translation>Número de serie, fecha, trabajo, archivo</translation>
+    </message>
+    <message>
+        <source>The ledger cannot be read: %1</source>
+        <translation>No se puede leer el libro de registro: %1</translation>
+    </message>
+    <message>
+        <source>&amp;Open</source>
+        <translation>&amp;Abrir</translation>
+    </message>
+    <message>
+        <source>Co&amp;mpare</source>
+        <translation>Co&amp;mparar</translation>
+    </message>
+    <message>
+        <source>&amp;Save to a file</source>
+        <translation>&amp;Guardar en un archivo</translation>
+    </message>
+    <message>
+        <source>cut off</source>
+        <translation>cortado</translation>
+    </message>
+    <message>
+        <source>under way</source>
+        <translation>en curso</translation>
+    </message>
+    <message>
+        <source>done</source>
+        <translation>hecho</translation>
+    </message>
+    <message>
+        <source>failed</source>
+        <translation>fallido</translation>
+    </message>
+    <message>
+        <source>session</source>
+        <translation>sesión</translation>
+    </message>
+    <message>
+        <source>reading</source>
+        <translation>lectura</translation>
+    </message>
+    <message>
+        <source>writing</source>
+        <translation>escritura</translation>
+    </message>
+    <message>
+        <source>verification</source>
+        <translation>verificación</translation>
+    </message>
+    <message>
+        <source>saving</source>
+        <translation>guardado</translation>
+    </message>
+    <message>
+        <source>voice reading</source>
+        <translation>lectura de voz</translation>
+    </message>
+    <message>
+        <source>voice list</source>
+        <translation>lista de voz</translation>
+    </message>
+    <message>
+        <source>clock</source>
+        <translation>reloj</translation>
+    </message>
+    <message>
+        <source>total</source>
+        <translation>totalizador</translation>
+    </message>
+    <message>
+        <source>test run</source>
+        <translation>prueba de fábrica</translation>
+    </message>
+    <message>
+        <source>Comparison with entry %1</source>
+        <translation>Comparación con la entrada %1</translation>
+    </message>
+    <message>
+        <source>In the entry</source>
+        <translation>En la entrada</translation>
+    </message>
+    <message>
+        <source>Nothing is kept in the ledger: %1</source>
+        <translation>No se guarda nada en el libro de registro: %1</translation>
+    </message>
+    <message>
+        <source>As soon as that logger is connected, ways out are offered.</source>
+        <translation>En cuanto se conecte ese registrador se ofrecerán salidas.</translation>
+    </message>
+    <message>
+        <source>&amp;Later</source>
+        <translation>&amp;Más tarde</translation>
+    </message>
+    <message>
+        <source>Read and &amp;compare</source>
+        <translation>Leer y &amp;comparar</translation>
+    </message>
+    <message>
+        <source>&amp;Write the new one</source>
+        <translation>&amp;Escribir la nueva</translation>
+    </message>
+    <message>
+        <source>&amp;Put the former one back</source>
+        <translation>&amp;Reponer la anterior</translation>
+    </message>
+    <message>
+        <source>Do &amp;not tell again</source>
+        <translation>&amp;No avisar más</translation>
+    </message>
+    <message>
+        <source>Write all the same?</source>
+        <translation>¿Escribir de todos modos?</translation>
+    </message>
+    <message>
+        <source>the configuration was read from the logger %1, and the logger that answers is %2</source>
+        <translation>la configuración se leyó del registrador %1, y el que responde es %2</translation>
+    </message>
+    <message>
+        <source>the file was last used with the logger %1 on %2, and the logger that answers is %3</source>
+        <translation>el archivo se usó por última vez con el registrador %1 el %2, y el que responde es %3</translation>
+    </message>
+    <message>
+        <source>the file was last used with a firmware of the features %1, and the logger that answers has %2</source>
+        <translation>el archivo se usó por última vez con un firmware de prestaciones %1, y el registrador que responde tiene %2</translation>
+    </message>
+    <message>
+        <source>the logger holds what the file has never held: it was changed since %1</source>
+        <translation>el registrador contiene lo que el archivo nunca tuvo: se cambió desde %1</translation>
+    </message>
+    <message>
+        <source>the logger was changed by others since the file was last used with it on %1: %2 field(s) differ, the first %3 in %4</source>
+        <translation>otros han cambiado el registrador desde que el archivo se usó con él el %1: difieren %2 campos, el primero %3 en %4</translation>
+    </message>
+    <message>
+        <source>writing the voice-call list to the %1 %2, begun on %3, was interrupted</source>
+        <translation>se interrumpió la escritura de la lista de voz en el %1 %2, iniciada el %3</translation>
+    </message>
+    <message>
+        <source>writing the firmware to the %1 %2, begun on %3, was interrupted</source>
+        <translation>se interrumpió la escritura del firmware en el %1 %2, iniciada el %3</translation>
+    </message>
+    <message>
+        <source>reading back what was written to the %1 %2, begun on %3, was interrupted</source>
+        <translation>se interrumpió la relectura de lo escrito en el %1 %2, iniciado el %3</translation>
+    </message>
+    <message>
+        <source>writing the configuration to the %1 %2, begun on %3, was interrupted</source>
+        <translation>se interrumpió la escritura de la configuración en el %1 %2, iniciada el %3</translation>
+    </message>
+    <message>
+        <source>its list is most probably not whole</source>
+        <translation>lo más probable es que su lista no esté completa</translation>
+    </message>
+    <message>
+        <source>writing begins with erasing the former one</source>
+        <translation>la escritura empieza por borrar la anterior</translation>
+    </message>
+    <message>
+        <source>whether it holds a whole firmware is not known</source>
+        <translation>no se sabe si contiene un firmware completo</translation>
+    </message>
+    <message>
+        <source>a firmware is written over the former one</source>
+        <translation>un firmware se escribe sobre el anterior</translation>
+    </message>
+    <message>
+        <source>it most probably holds its former configuration</source>
+        <translation>lo más probable es que contenga su configuración anterior</translation>
+    </message>
+    <message>
+        <source>it had not been asked to take the new one over</source>
+        <translation>aún no se le había pedido que adoptara la nueva</translation>
+    </message>
+    <message>
+        <source>it most probably holds the new configuration</source>
+        <translation>lo más probable es que contenga la configuración nueva</translation>
+    </message>
+    <message>
+        <source>it has said that it took it over, which is not verified</source>
+        <translation>confirmó que la adoptaba, lo que no está verificado</translation>
+    </message>
+    <message>
+        <source>whether it holds its former or the new configuration is not known</source>
+        <translation>no se sabe si contiene su configuración anterior o la nueva</translation>
+    </message>
+    <message>
+        <source>it had been asked to take the new one over, and its answer is not known</source>
+        <translation>se le había pedido que adoptara la nueva, y no se conoce su respuesta</translation>
+    </message>
+    <message>
+        <source>the logger holds the new configuration</source>
+        <translation>el registrador contiene la configuración nueva</translation>
+    </message>
+    <message>
+        <source>the logger holds its former configuration</source>
+        <translation>el registrador contiene su configuración anterior</translation>
+    </message>
+    <message>
+        <source>the logger holds neither its former nor the new configuration</source>
+        <translation>el registrador no contiene ni su configuración anterior ni la nueva</translation>
+    </message>
+    <message>
+        <source>%1 statements</source>
+        <translation>%1 sentencias</translation>
+    </message>
+    <message>
+        <source>%1 records</source>
+        <translation>%1 registros</translation>
+    </message>
+    <message>
         <source>not read</source>
         <translation>sin leer</translation>
     </message>

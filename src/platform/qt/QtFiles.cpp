@@ -136,6 +136,12 @@ std::vector<std::string> QtFiles::List(const std::string& folder) {
   return names;
 }
 
+std::string QtFiles::Absolute(const std::string& path) {
+  std::error_code error;
+  const fs::path absolute = fs::absolute(path, error);
+  return error ? path : absolute.lexically_normal().string();
+}
+
 std::string QtFiles::Resolve(const std::string& path) {
   fs::path target = path;
   for (int i = 0; i < kMostLinks; ++i) {

@@ -14,6 +14,7 @@ class QtFiles final : public Files {
   FileResult ReadUpTo(const std::string& path, std::size_t most, std::string& octets) override;
   bool Exists(const std::string& path) override;
   std::vector<std::string> List(const std::string& folder) override;
+  std::string Absolute(const std::string& path) override;
   std::string Resolve(const std::string& path) override;
   FileResult MayReplace(const std::string& path) override;
   /// The name bears the number of this process. A file whose process is gone was left by a kill.

@@ -37,6 +37,8 @@ class VirtualFiles final : public Files {
   FileResult ReadUpTo(const std::string& path, std::size_t most, std::string& octets) override;
   bool Exists(const std::string& path) override;
   std::vector<std::string> List(const std::string& folder) override;
+  /// There is no present folder here: the path itself.
+  std::string Absolute(const std::string& path) override { return path; }
   std::string Resolve(const std::string& path) override;
   FileResult MayReplace(const std::string& path) override;
   /// One process saves here: always the same name.

@@ -1,0 +1,82 @@
+#include "cli/LedgerText.h"
+
+#include <iomanip>
+#include <type_traits>
+
+#include "base/Printable.h"
+#include "host/LoggerText.h"
+
+namespace ostrel::cli {
+namespace {
+
+constexpr int kFieldWidth = 14;
+
+std::string StateText(const LedgerEntry& entry, bool isCutOff) {
+  return isCutOff ? "cut off" : std::string(WordOf(entry.state));
+}
+
+std::string FeaturesOf(const LedgerEntry& entry) {
+  return entry.features == LedgerEntry::kUnknown
+             ? std::string()
+             : FeaturesText(static_cast<std::int32_t>(entry.features));
+}
+
+/// What an entry is about, beside its kind.
+std::string Matter(const LedgerEntry& entry) {
+  std::string matter;
+  for (const std::string& part : {entry.detail, entry.file, entry.fault})
+    if (!part.empty()) matter += (matter.empty() ? "" : ": ") + part;
+  return matter;
+}
+
+}  // namespace
+
+Json EntryJson(const LedgerEntry& entry, bool isCutOff) {
+  Json json;
+  VisitLedgerEntry(entry, [&](const char* name, const auto& value) {
+    using Value = std::remove_cvref_t<decltype(value)>;
+    if constexpr (std::is_enum_v<Value>)
+      json[name] = WordOf(value);
+    else if constexpr (std::is_same_v<Value, std::string>)
+      json[name] = value.empty() ? Json() : Json(value);
+    else
+      json[name] = value;
+  });
+  const std::string features = FeaturesOf(entry);
+  json["features"] = features.empty() ? Json() : Json(features);
+  json["cutOff"] = isCutOff;
+  return json;
+}
+
+void PrintEntryLine(std::ostream& out, const LedgerEntry& entry, bool isCutOff) {
+  out << std::right << std::setw(5) << entry.id << "  " << entry.began << "  " << std::left
+      << std::setw(kFieldWidth) << WordOf(entry.kind) << std::setw(10) << StateText(entry, isCutOff)
+      << entry.model;
+  if (!entry.serial.empty()) out << ' ' << Printable(entry.serial);
+  if (const std::string matter = Matter(entry); !matter.empty()) out << "  " << Printable(matter);
+  out << '\n';
+}
+
+void PrintEntry(std::ostream& out, const LedgerEntry& entry, bool isCutOff) {
+  const auto print = [&out](const char* name, const std::string& text) {
+    if (!text.empty())
+      out << std::left << std::setw(kFieldWidth) << name << Printable(text) << '\n';
+  };
+  VisitLedgerEntry(entry, [&](const char* name, const auto& value) {
+    using Value = std::remove_cvref_t<decltype(value)>;
+    if constexpr (std::is_same_v<Value, LedgerState>)
+      print(name, StateText(entry, isCutOff));
+    else if constexpr (std::is_enum_v<Value>)
+      print(name, std::string(WordOf(value)));
+    else if constexpr (std::is_same_v<Value, std::string>)
+      print(name, value);
+    else if constexpr (std::is_same_v<Value, bool>)
+      print(name, value ? "yes" : "");
+    else if (std::string_view(name) == "features")
+      print(name, FeaturesOf(entry));
+    else
+      print(name, value == 0 ? std::string() : std::to_string(value));
+  });
+}
+
+}  // namespace ostrel::cli

@@ -1,0 +1,154 @@
+#include "desktop/window/HistoryDialog.h"
+
+#include <QHeaderView>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTableWidget>
+#include <QVBoxLayout>
+#include <algorithm>
+#include <utility>
+
+#include "desktop/forms/Words.h"
+
+namespace ostrel {
+namespace {
+
+enum HistoryColumn { kNumber, kBegan, kWork, kResult, kLogger, kLine, kMatter, kHistoryColumns };
+
+/// What is older is found by the command line.
+constexpr std::size_t kEntriesShown = 2000;
+
+QString WordIn(std::string_view word) { return Words::tr(std::string(word).c_str()); }
+
+QString ResultOf(Ledger& books, const LedgerEntry& entry) {
+  const bool isCutOff = entry.state == LedgerState::UnderWay && !books.IsRunning(entry);
+  return isCutOff ? Words::tr("cut off") : WordIn(WordOf(entry.state));
+}
+
+QString MatterOf(const LedgerEntry& entry) {
+  QStringList parts;
+  for (const std::string& part : {entry.detail, entry.file, entry.fault})
+    if (!part.empty()) parts << ToQt(part);
+  if (entry.steps > 0 && entry.kind == LedgerKind::Writing)
+    parts << Words::tr("%1 statements").arg(entry.steps);
+  if (entry.steps > 0 && entry.kind == LedgerKind::Reading)
+    parts << Words::tr("%1 records").arg(entry.steps);
+  return parts.join(", ");
+}
+
+QStringList TextsOf(Ledger& books, const LedgerEntry& entry) {
+  QStringList texts(kHistoryColumns);
+  texts[kNumber] = QString::number(entry.id);
+  texts[kBegan] = ToQt(entry.began);
+  texts[kWork] = WordIn(WordOf(entry.kind));
+  texts[kResult] = ResultOf(books, entry);
+  texts[kLogger] = ToQt(entry.model + " " + entry.serial).trimmed();
+  texts[kLine] = ToQt(entry.port + " " + entry.phone).trimmed();
+  texts[kMatter] = MatterOf(entry);
+  return texts;
+}
+
+QTableWidget* MakeHistoryTable(Ledger& books, const std::vector<LedgerEntry>& entries,
+                               QWidget* parent) {
+  auto* table = new QTableWidget(static_cast<int>(entries.size()), kHistoryColumns, parent);
+  table->setAccessibleName(Words::tr("History"));
+  table->setHorizontalHeaderLabels({Words::tr("No."), Words::tr("Begun"), Words::tr("Work"),
+                                    Words::tr("Result"), Words::tr("Logger"), Words::tr("Port"),
+                                    Words::tr("What")});
+  int row = 0;
+  for (const LedgerEntry& entry : entries) {
+    int column = 0;
+    for (const QString& text : TextsOf(books, entry))
+      table->setItem(row, column++, new QTableWidgetItem(text));
+    ++row;
+  }
+  table->setEditTriggers(QAbstractItemView::NoEditTriggers);
+  table->setSelectionBehavior(QAbstractItemView::SelectRows);
+  table->setSelectionMode(QAbstractItemView::SingleSelection);
+  table->setAlternatingRowColors(true);
+  table->setTabKeyNavigation(false);
+  table->verticalHeader()->hide();
+  table->resizeColumnsToContents();
+  table->horizontalHeader()->setSectionResizeMode(kMatter, QHeaderView::Stretch);
+  return table;
+}
+
+}  // namespace
+
+HistoryDialog::HistoryDialog(Ledger& books, QWidget* parent)
+    : QDialog(parent),
+      entries_(books.Find({.most = kEntriesShown})),
+      table_(MakeHistoryTable(books, entries_, this)) {
+  setWindowTitle(Words::tr("History"));
+  auto* column = new QVBoxLayout(this);
+  auto* filter = new QLineEdit(this);
+  filter->setObjectName("Filter");
+  filter->setPlaceholderText(Words::tr("Serial number, date, work, file"));
+  filter->setAccessibleName(Words::tr("Filter"));
+  filter->setClearButtonEnabled(true);
+  connect(filter, &QLineEdit::textChanged, this, [this](const QString& text) { Filter(text); });
+  column->addWidget(filter);
+  if (!books.Fault().empty())
+    column->addWidget(
+        new QLabel(Words::tr("The ledger cannot be read: %1").arg(ToQt(books.Fault())), this));
+  column->addWidget(table_, 1);
+  auto* row = new QHBoxLayout;
+  column->addLayout(row);
+  row->addWidget(AddButton(Words::tr("&Open"), "Open", [this] {
+    const LedgerEntry entry = *Chosen();
+    accept();
+    if (OnOpen) OnOpen(entry);
+  }));
+  row->addWidget(AddButton(Words::tr("Co&mpare"), "Compare", [this] {
+    if (OnCompare) OnCompare(*Chosen());
+  }));
+  row->addWidget(AddButton(Words::tr("&Save to a file"), "Save", [this] {
+    if (OnSave) OnSave(*Chosen());
+  }));
+  row->addStretch(1);
+  auto* close = new QPushButton(Words::tr("Close"), this);
+  connect(close, &QPushButton::clicked, this, &QDialog::reject);
+  row->addWidget(close);
+  connect(table_, &QTableWidget::itemSelectionChanged, this, [this] { ShowChoice(); });
+  ShowChoice();
+  filter->setFocus();
+  resize(1080, 560);
+}
+
+QPushButton* HistoryDialog::AddButton(const QString& text, const char* name,
+                                      std::function<void()> run) {
+  auto* button = new QPushButton(text, this);
+  button->setObjectName(name);
+  button->setAutoDefault(false);
+  connect(button, &QPushButton::clicked, this, [run = std::move(run)] { run(); });
+  buttons_.push_back(button);
+  return button;
+}
+
+void HistoryDialog::Filter(const QString& text) {
+  const QStringList words = text.split(u' ', Qt::SkipEmptyParts);
+  for (int row = 0; row < table_->rowCount(); ++row) {
+    QString line;
+    for (int column = 0; column < kHistoryColumns; ++column)
+      line += table_->item(row, column)->text() + u' ';
+    const bool matches = std::all_of(words.begin(), words.end(), [&](const QString& word) {
+      return line.contains(word, Qt::CaseInsensitive);
+    });
+    table_->setRowHidden(row, !matches);
+  }
+  ShowChoice();
+}
+
+const LedgerEntry* HistoryDialog::Chosen() const {
+  const int row = table_->currentRow();
+  if (row < 0 || table_->isRowHidden(row) || table_->selectedItems().isEmpty()) return nullptr;
+  const LedgerEntry& entry = entries_[static_cast<std::size_t>(row)];
+  return entry.content.empty() ? nullptr : &entry;
+}
+
+void HistoryDialog::ShowChoice() {
+  for (QPushButton* button : buttons_) button->setEnabled(Chosen() != nullptr);
+}
+
+}  // namespace ostrel

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QDialog>
+#include <functional>
+#include <vector>
+
+#include "platform/Ledger.h"
+
+class QPushButton;
+class QTableWidget;
+
+namespace ostrel {
+
+/// Shows what was done with loggers, the newest first, with a box that leaves the matching lines.
+class HistoryDialog final : public QDialog {
+ public:
+  HistoryDialog(Ledger& books, QWidget* parent);
+
+  using Act = std::function<void(const LedgerEntry&)>;
+  // What is done with the configuration of an entry. Set by the window.
+  Act OnOpen;  ///< the dialog closes ahead of it
+  Act OnCompare, OnSave;
+
+ private:
+  QPushButton* AddButton(const QString& text, const char* name, std::function<void()> run);
+  void Filter(const QString& text);
+  /// The entry of the line that is chosen, if it has a configuration; else null.
+  const LedgerEntry* Chosen() const;
+  void ShowChoice();
+
+  std::vector<LedgerEntry> entries_;
+  QTableWidget* table_;
+  std::vector<QPushButton*> buttons_;  ///< those that want an entry
+};
+
+}  // namespace ostrel

@@ -1,0 +1,156 @@
+#include <QLabel>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QStatusBar>
+#include <utility>
+
+#include "desktop/forms/Words.h"
+#include "desktop/window/CompareDialog.h"
+#include "desktop/window/FaultText.h"
+#include "desktop/window/HistoryDialog.h"
+#include "desktop/window/MainWindow.h"
+#include "platform/Dialogs.h"
+#include "shell/Configurator.h"
+#include "shell/ledger/History.h"
+
+// What the window does with the ledger: the history, and work that was interrupted.
+
+namespace ostrel {
+namespace {
+
+QString TextOf(const Interrupted& interrupted) {
+  const InterruptedWords words = WordsOf(interrupted);
+  return SentenceOf(words.what) + u' ' + SentenceOf(words.holding) + u' ' + SentenceOf(words.why);
+}
+
+}  // namespace
+
+void MainWindow::ShowHistory() {
+  Ledger* const books = parts_.platform.ledger;
+  if (!books) return;
+  HistoryDialog dialog(*books, this);
+  const auto guarded = [this](void (MainWindow::*act)(const LedgerEntry&)) {
+    return [this, act](const LedgerEntry& entry) { parts_.guard([&] { (this->*act)(entry); }); };
+  };
+  dialog.OnOpen = guarded(&MainWindow::OpenEntry);
+  dialog.OnCompare = guarded(&MainWindow::CompareEntry);
+  dialog.OnSave = guarded(&MainWindow::SaveEntry);
+  dialog.exec();
+}
+
+void MainWindow::OpenEntry(const LedgerEntry& entry) {
+  Files& files = parts_.platform.files;
+  const std::string folder = parts_.dataFolder + "/history";
+  const std::string path = folder + "/entry-" + std::to_string(entry.id) + ".ocf";
+  FileResult made = files.MakeFolder(folder);
+  if (made.Ok() && !files.Exists(path))
+    made = ExportEntry(*parts_.platform.ledger, entry, files, path);
+  if (made.Ok()) return OpenPath(path);
+  Tell(Words::tr("%1 could not be written: %2").arg(ToQt(path), ToQt(made.error)));
+}
+
+void MainWindow::CompareEntry(const LedgerEntry& entry) {
+  const auto past = ContentOfHistory(configurator_, entry.content);
+  if (!past) return Tell(Words::tr("The file holds no configuration."));
+  const ModelConfiguration present{configurator_.profile, unsaved_.WithFront()};
+  CompareDialog dialog({.title = Words::tr("Comparison with entry %1").arg(entry.id),
+                        .note = {},
+                        .before = Words::tr("Present"),
+                        .after = Words::tr("In the entry")},
+                       ostrel::Compare(present, *past).differences, this);
+  dialog.exec();
+}
+
+void MainWindow::SaveEntry(const LedgerEntry& entry) {
+  const std::string filter =
+      FromQt(Words::tr("Configuration files") + "|*.ocf|" + Words::tr("All files") + "|*.*");
+  const auto path = parts_.platform.dialogs.ChooseFile(
+      {.mode = FileQuestion::Mode::Save, .filter = filter, .overwritePrompt = true});
+  if (!path) return;
+  const FileResult saved =
+      ExportEntry(*parts_.platform.ledger, entry, parts_.platform.files, *path);
+  if (!saved.Ok())
+    Tell(Words::tr("%1 could not be written: %2").arg(ToQt(*path), ToQt(saved.error)));
+}
+
+void MainWindow::TellLedgerFault(const std::string& why) {
+  if (!ledgerFault_) {
+    ledgerFault_ = new QLabel(this);
+    ledgerFault_->setObjectName("LedgerFault");
+    statusBar()->addPermanentWidget(ledgerFault_);
+  }
+  ledgerFault_->setText(Words::tr("Nothing is kept in the ledger: %1").arg(ToQt(why)));
+}
+
+void MainWindow::TellInterrupted() {
+  Ledger* const books = parts_.platform.ledger;
+  if (!books) return;
+  QStringList texts;
+  for (const Interrupted& one : FindInterrupted(*books)) texts << TextOf(one);
+  if (!books->Fault().empty()) TellLedgerFault(books->Fault());
+  if (texts.isEmpty()) return;
+  texts << Words::tr("As soon as that logger is connected, ways out are offered.");
+  Tell(texts.join("\n\n"));
+}
+
+void MainWindow::OfferWayOut() {
+  Ledger* const books = parts_.platform.ledger;
+  const SessionDriver& session = configurator_.session;
+  const std::string& serial = configurator_.info.SerialNumber;
+  if (session.State().phase == SessionPhase::Closed) offeredTo_.clear();
+  if (!books || session.State().phase != SessionPhase::Open || IsLineInUse() ||
+      session.OwnsModel() || serial.empty() || offeredTo_ == serial)
+    return;
+  offeredTo_ = serial;
+  for (const Interrupted& one : FindInterrupted(*books))
+    if (one.entry.serial == serial) AskWayOut(one);
+}
+
+void MainWindow::AskWayOut(const Interrupted& interrupted) {
+  Ledger& books = *parts_.platform.ledger;
+  QMessageBox box(QMessageBox::NoIcon, ToQt(configurator_.profile.TargetName), TextOf(interrupted),
+                  QMessageBox::NoButton, this);
+  box.setIconPixmap(BoxPicture(BoxIcon::Exclamation));
+  const bool isWriting = interrupted.entry.kind == LedgerKind::Writing;
+  QPushButton* later = box.addButton(Words::tr("&Later"), QMessageBox::RejectRole);
+  QPushButton* look =
+      isWriting ? box.addButton(Words::tr("Read and &compare"), QMessageBox::AcceptRole) : nullptr;
+  QPushButton* finish = interrupted.CanFinish() ? box.addButton(Words::tr("&Write the new one"),
+                                                                QMessageBox::AcceptRole)
+                                                : nullptr;
+  QPushButton* putBack =
+      interrupted.CanPutBack()
+          ? box.addButton(Words::tr("&Put the former one back"), QMessageBox::AcceptRole)
+          : nullptr;
+  QPushButton* forget =
+      box.addButton(Words::tr("Do &not tell again"), QMessageBox::DestructiveRole);
+  box.setDefaultButton(look ? look : later);
+  box.setEscapeButton(later);
+  box.exec();
+  const QAbstractButton* chosen = box.clickedButton();
+  if (chosen == forget) return Settle(books, interrupted.entry);
+  if (look && chosen == look) {
+    looksFor_ = interrupted.entry;
+    return AskFor(SessionPhase::Reading);
+  }
+  if (finish && chosen == finish) return WriteEntry(interrupted.entry);
+  if (!putBack || chosen != putBack) return;
+  if (const auto former = FormerEntry(books, interrupted.entry)) return WriteEntry(*former);
+}
+
+/// The question ahead of each writing comes by itself.
+void MainWindow::WriteEntry(const LedgerEntry& entry) {
+  OpenEntry(entry);
+  const auto wanted = ContentOfHistory(configurator_, entry.content);
+  if (wanted && ostrel::Compare({configurator_.profile, configurator_.conf}, *wanted).isSame)
+    AskFor(SessionPhase::Writing);
+}
+
+void MainWindow::TellWhatWasFound(const DeviceConf& read) {
+  if (!looksFor_) return;
+  const LedgerEntry sought = *std::exchange(looksFor_, {});
+  if (configurator_.info.SerialNumber == sought.serial)
+    Tell(SentenceOf(FoundWords(WhatWasFound(configurator_, sought, read))));
+}
+
+}  // namespace ostrel

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <optional>
+#include <vector>
+
+#include "model/DeviceConf.h"
+#include "shell/Phrase.h"
+
+namespace ostrel {
+
+class Configurator;
+
+// Whether a configuration goes to the logger that it is for, as far as the ledger knows. Of a file
+// without a history nothing is known, and nothing is said.
+
+/// What speaks against it before anything has been asked of the logger: the file, or what stands on
+/// the pages, was last used with another logger, or with a firmware of other features.
+std::vector<Phrase> DoubtsOfIdentity(const Configurator& configurator);
+
+/// What speaks against it once the logger was read: it holds what the file never held nor was
+/// written, so that somebody else has changed it since.
+std::optional<Phrase> DoubtOfHeld(const Configurator& configurator, const DeviceConf& held);
+
+}  // namespace ostrel

@@ -1,0 +1,121 @@
+#include "shell/ledger/Interrupted.h"
+
+#include <algorithm>
+
+#include "shell/Against.h"
+#include "shell/Configurator.h"
+#include "shell/ledger/History.h"
+
+namespace ostrel {
+namespace {
+
+/// What is older than so many entries is not told any more.
+constexpr std::size_t kLookedThrough = 2000;
+
+/// Work that leaves a logger in doubt when it is interrupted.
+bool LeavesDoubt(LedgerKind kind) {
+  return kind == LedgerKind::Writing || kind == LedgerKind::VoiceWriting ||
+         kind == LedgerKind::Firmware;
+}
+
+/// Whether an entry tells what a logger holds after work of a kind.
+bool Tells(const LedgerEntry& entry, LedgerKind kind) {
+  if (entry.state != LedgerState::Done) return false;
+  if (entry.kind == kind) return true;
+  return kind == LedgerKind::Writing        ? entry.kind == LedgerKind::Reading
+         : kind == LedgerKind::VoiceWriting ? entry.kind == LedgerKind::VoiceReading
+                                            : false;
+}
+
+/// Whether a program was ended in the midst of what an entry tells of.
+bool IsCutOff(const Ledger& books, const LedgerEntry& entry) {
+  return entry.state == LedgerState::UnderWay && !books.IsRunning(entry);
+}
+
+Holding HoldingOf(const LedgerEntry& entry) {
+  if (entry.state == LedgerState::Done) return Holding::New;
+  if (entry.kind != LedgerKind::Writing || entry.closing) return Holding::Unknown;
+  return Holding::Former;
+}
+
+Phrase WhatWasInterrupted(const LedgerEntry& entry) {
+  const std::vector<std::string> of{entry.model, entry.serial.empty() ? "?" : entry.serial,
+                                    entry.began};
+  if (entry.kind == LedgerKind::VoiceWriting)
+    return {"writing the voice-call list to the %1 %2, begun on %3, was interrupted", of};
+  if (entry.kind == LedgerKind::Firmware)
+    return {"writing the firmware to the %1 %2, begun on %3, was interrupted", of};
+  if (entry.state == LedgerState::Done)
+    return {"reading back what was written to the %1 %2, begun on %3, was interrupted", of};
+  return {"writing the configuration to the %1 %2, begun on %3, was interrupted", of};
+}
+
+}  // namespace
+
+std::vector<Interrupted> FindInterrupted(Ledger& books) {
+  std::vector<Interrupted> open;
+  std::vector<LedgerEntry> later;  // of which the newest come first
+  for (const LedgerEntry& entry : books.Find({.most = kLookedThrough})) {
+    // A reading back counts for the writing that it is about.
+    const bool isReadBack = entry.kind == LedgerKind::Reading && entry.about != 0;
+    const auto work =
+        isReadBack && IsCutOff(books, entry) ? FindEntry(books, entry.about) : std::optional(entry);
+    const bool isOpen =
+        work && LeavesDoubt(work->kind) && !work->settled &&
+        (IsCutOff(books, entry) || (work->state == LedgerState::Failed && work->closing));
+    const auto tells = [&](const LedgerEntry& one) {
+      return one.serial == work->serial && Tells(one, work->kind);
+    };
+    if (isOpen && std::ranges::none_of(later, tells))
+      open.push_back({.entry = *work, .holding = HoldingOf(*work)});
+    later.push_back(entry);
+  }
+  std::ranges::reverse(open);
+  return open;
+}
+
+InterruptedWords WordsOf(const Interrupted& interrupted) {
+  const LedgerEntry& entry = interrupted.entry;
+  InterruptedWords words{.what = WhatWasInterrupted(entry)};
+  if (entry.kind == LedgerKind::VoiceWriting) {
+    words.holding = {"its list is most probably not whole"};
+    words.why = {"writing begins with erasing the former one"};
+  } else if (entry.kind == LedgerKind::Firmware) {
+    words.holding = {"whether it holds a whole firmware is not known"};
+    words.why = {"a firmware is written over the former one"};
+  } else if (interrupted.holding == Holding::Former) {
+    words.holding = {"it most probably holds its former configuration"};
+    words.why = {"it had not been asked to take the new one over"};
+  } else if (interrupted.holding == Holding::New) {
+    words.holding = {"it most probably holds the new configuration"};
+    words.why = {"it has said that it took it over, which is not verified"};
+  } else {
+    words.holding = {"whether it holds its former or the new configuration is not known"};
+    words.why = {"it had been asked to take the new one over, and its answer is not known"};
+  }
+  return words;
+}
+
+void Settle(Ledger& books, LedgerEntry entry) {
+  entry.settled = true;
+  books.Change(entry);
+}
+
+Holding WhatWasFound(const Configurator& configurator, const LedgerEntry& entry,
+                     const DeviceConf& read) {
+  const auto isAs = [&](const std::string& hash) {
+    const auto known = ContentOfHistory(configurator, hash);
+    return known && known->profile.TargetName == configurator.profile.TargetName &&
+           Against(configurator, known->conf, read).WhatCameBack().isSame;
+  };
+  if (isAs(entry.content)) return Holding::New;
+  return isAs(entry.former) ? Holding::Former : Holding::Unknown;
+}
+
+Phrase FoundWords(Holding found) {
+  if (found == Holding::New) return {"the logger holds the new configuration"};
+  if (found == Holding::Former) return {"the logger holds its former configuration"};
+  return {"the logger holds neither its former nor the new configuration"};
+}
+
+}  // namespace ostrel

@@ -1,0 +1,134 @@
+#include "cli/World.h"
+
+namespace ostrel::cli {
+namespace {
+
+using testing::HasSubstr;
+using testing::Not;
+
+TEST(History, ListsShowsComparesAndExportsWhatWasDone) {
+  World world;
+  world.HaveFile("/a.ocf");
+  const std::string former = world.files.contents["/a.ocf"];
+  world.SetKey("/a.ocf", "General", "NOMBRE", "Nuevo");
+  ASSERT_EQ(world.Run("upload /a.ocf --port sim:VR200"), 0) << world.err;
+  ASSERT_EQ(world.Run("history --json"), 0) << world.err;
+  const QJsonArray all = world.Json().array();
+  ASSERT_EQ(all.size(), 8);
+  const QJsonObject read = all[1].toObject(), written = all[5].toObject();
+  EXPECT_EQ(read["kind"].toString(), "reading");
+  EXPECT_EQ(written["kind"].toString(), "writing");
+  EXPECT_EQ(written["file"].toString(), "/a.ocf");
+  EXPECT_EQ(written["former"], read["content"]);
+  EXPECT_TRUE(written["copy"].toString().contains("/backups/"));
+  EXPECT_EQ(world.Run("history --serial nobody"), 0);
+  EXPECT_EQ(world.out, "");
+  EXPECT_EQ(world.Run("history --since 2026-03-03"), 0);
+  EXPECT_EQ(world.out, "");
+  EXPECT_EQ(world.Run("history --since yesterday"), 2);
+  EXPECT_EQ(world.Run("history"), 0);
+  EXPECT_THAT(world.out, HasSubstr("\n    6  2026-03-02 09:0"));
+  EXPECT_EQ(world.Run("history show 6"), 0);
+  EXPECT_THAT(world.out, HasSubstr("file          /a.ocf\n"));
+  EXPECT_THAT(world.out, HasSubstr("verification  done"));
+  EXPECT_EQ(world.Run("history show 99"), 5);
+  EXPECT_EQ(world.Run("history export 2 /old.ocf"), 0) << world.err;
+  EXPECT_TRUE(world.files.contents["/old.ocf"] == former);
+  EXPECT_EQ(world.files.modes["/old.ocf"], 0600);
+  EXPECT_EQ(world.Run("history export 1 /none.ocf"), 5);
+  EXPECT_EQ(world.Run("diff history:2 /a.ocf"), 1);
+  EXPECT_THAT(world.out, HasSubstr("-> \"Nuevo\""));
+  EXPECT_EQ(world.Run("diff history:2 history:99"), 5);
+  EXPECT_EQ(world.Run("download history:2 --port sim:VR200"), 5);
+  EXPECT_EQ(world.Run("upload history:2 --port sim:VR200"), 0) << world.err;
+  EXPECT_NE(world.Logger().Conf().name, "Nuevo");
+}
+
+TEST(History, ThatCannotBeReadIsToldAndStopsNothing) {
+  World world;
+  world.ledger.fault = "the disk is gone";
+  EXPECT_EQ(world.Run("history"), 5);
+  EXPECT_THAT(world.err, HasSubstr("cannot read the ledger: the disk is gone"));
+  EXPECT_EQ(world.Run("download /a.ocf --port sim:VR200"), 0);
+  EXPECT_THAT(world.err, HasSubstr("nothing is kept in the ledger: the disk is gone"));
+}
+
+TEST(Identity, AFileOfAnotherLoggerIsRefusedUnlessForced) {
+  World world;
+  world.HaveFile("/a.ocf");
+  for (LedgerEntry& entry : world.ledger.entries) entry.serial = "OTHER";
+  EXPECT_EQ(world.Run("upload /a.ocf --port sim:VR200"), 5);
+  EXPECT_THAT(world.err, HasSubstr("was last used with the logger OTHER"));
+  EXPECT_EQ(world.Logger().UploadsTaken(), 0U);
+  EXPECT_EQ(world.Run("upload /a.ocf --force --port sim:VR200"), 0);
+  EXPECT_EQ(world.Run("upload /a.ocf --port sim:VR200"), 0) << "it is this one's now" << world.err;
+}
+
+TEST(Identity, ALoggerThatOthersChangedIsNotOverwrittenUnlessForced) {
+  World world;
+  world.HaveFile("/a.ocf");
+  sim::Configuration changed = world.Logger().Conf();
+  changed.name = "Otro";
+  world.Logger().SetConf(changed);
+  EXPECT_EQ(world.Run("upload /a.ocf --port sim:VR200"), 5);
+  EXPECT_THAT(world.err, HasSubstr("the logger was changed by others"));
+  EXPECT_EQ(world.Logger().Conf().name, "Otro");
+  EXPECT_EQ(world.Run("upload /a.ocf --force --port sim:VR200"), 0) << world.err;
+  changed.name = "Tercero";
+  world.Logger().SetConf(changed);
+  ASSERT_EQ(world.Run("backups --json"), 0);
+  const QString copy = world.Json().array().last().toObject()["name"].toString();
+  EXPECT_EQ(world.Run("restore " + copy.toStdString() + " --port sim:VR200"), 0)
+      << "a former state is written because the logger holds another one" << world.err;
+  EXPECT_EQ(world.Logger().Conf().name, "Otro");
+}
+
+/// Each way out of a writing that was killed, from a shell.
+TEST(InterruptedUpload, IsToldWithItsWaysOut) {
+  World world;
+  world.HaveFile("/a.ocf");
+  const std::string former = world.Logger().Conf().name;
+  const auto interrupt = [&] {
+    world.ledger.cut = false;
+    world.HaveFile("/a.ocf");
+    world.SetKey("/a.ocf", "General", "NOMBRE", "Nuevo");
+    world.Logger().OnExchange([&](const sim::Exchange& exchange) {
+      if (!exchange.request.starts_with("#45020")) return;
+      world.ledger.cut = true;
+      world.environment.onInterrupt();
+    });
+    EXPECT_EQ(world.Run("upload /a.ocf --port sim:VR200"), 4);
+    world.Logger().OnExchange({});
+    world.ledger.cut = false;
+    world.ledger.process += "+";
+    EXPECT_EQ(world.Run("interrupted --json"), 0);
+    const QJsonArray open = world.Json().array();
+    EXPECT_EQ(open.size(), 1);
+    EXPECT_EQ(open[0].toObject()["holding"].toString(), "former");
+    return "interrupted " + std::to_string(open[0].toObject()["id"].toInt()) + " --port sim:VR200 ";
+  };
+  std::string way = interrupt();
+  EXPECT_EQ(world.Run("ports"), 0);
+  EXPECT_THAT(world.err, HasSubstr("was interrupted: it most probably holds its former"));
+  EXPECT_EQ(world.Run(way + "--look"), 0) << world.err;
+  EXPECT_EQ(world.out, "the logger holds its former configuration\n");
+  EXPECT_EQ(world.Run("interrupted"), 0);
+  EXPECT_EQ(world.out, "");
+  EXPECT_EQ(world.Run(way + "--look"), 5) << "it is settled";
+  way = interrupt();
+  EXPECT_EQ(world.Run(way + "--finish"), 0) << world.err;
+  EXPECT_EQ(world.Logger().Conf().name, "Nuevo");
+  sim::Configuration reset = world.Logger().Conf();
+  reset.name = former;
+  world.Logger().SetConf(reset);
+  way = interrupt();
+  EXPECT_EQ(world.Run(way + "--put-back"), 0) << world.err;
+  EXPECT_EQ(world.Logger().Conf().name, former);
+  way = interrupt();
+  EXPECT_EQ(world.Run(way + "--forget"), 0);
+  EXPECT_EQ(world.Run("ports"), 0);
+  EXPECT_THAT(world.err, Not(HasSubstr("interrupted")));
+}
+
+}  // namespace
+}  // namespace ostrel::cli

@@ -1,0 +1,94 @@
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTableWidget>
+
+#include "OpenWindow.h"
+
+namespace ostrel {
+namespace {
+
+using std::chrono::seconds;
+
+class WindowHistory : public OpenWindow {
+ protected:
+  WindowHistory() { AddLogger(sim::Model::BP); }
+
+  void ReadLogger() {
+    Window().show();
+    Connect();
+    SessionTool("ReadTool")->trigger();
+    loop.RunFor(seconds(40));
+  }
+  /// Clicks the button of a question whose text holds a word.
+  static auto Chooses(const QString& word) {
+    return [word](QWidget* modal) {
+      for (QPushButton* button : modal->findChildren<QPushButton*>())
+        if (button->text().remove(u'&').contains(word)) return button->click();
+      ADD_FAILURE() << "no button " << FromQt(word);
+      Press(modal, Qt::Key_Escape);
+    };
+  }
+};
+
+TEST_F(WindowHistory, FindsOpensAndComparesWhatWas) {
+  ReadLogger();
+  ASSERT_EQ(ledger.entries.size(), 2U);
+  const std::string read = Core().conf.General.DNAME;
+  Core().conf.General.DNAME = "edited";
+  Core().ShowConfiguration(Core().conf);
+  ModalScript modals;
+  modals.Expect([&](QWidget* modal) {
+    auto* table = modal->findChild<QTableWidget*>();
+    EXPECT_EQ(table->rowCount(), 2);
+    table->selectRow(1);
+    EXPECT_FALSE(modal->findChild<QPushButton*>("Open")->isEnabled()) << "a session holds nothing";
+    Type(modal->findChild<QLineEdit*>("Filter"), "lectura 2026");
+    EXPECT_TRUE(table->isRowHidden(1));
+    EXPECT_FALSE(table->isRowHidden(0));
+    table->selectRow(0);
+    modals.Expect([](QWidget* compare) {
+      EXPECT_EQ(compare->findChild<QTableWidget*>()->rowCount(), 1);
+      Press(compare, Qt::Key_Escape);
+    });
+    modal->findChild<QPushButton*>("Compare")->click();
+    modals.Expect(Chooses("sin guardar"));
+    modal->findChild<QPushButton*>("Open")->click();
+  });
+  Tool("Historial")->trigger();
+  EXPECT_EQ(modals.Left(), 0U);
+  EXPECT_EQ(Core().conf.General.DNAME, read);
+  EXPECT_EQ(Core().ConfFilePath, Path("history/entry-2.ocf"));
+  EXPECT_EQ(ledger.entries.back().serial, logger->Options().serial);
+}
+
+TEST_F(WindowHistory, TellsOfWhatWasInterruptedAndOffersAWayOut) {
+  ReadLogger();
+  LedgerEntry cut = ledger.entries.back();
+  cut.kind = LedgerKind::Writing;
+  cut.state = LedgerState::UnderWay;
+  cut.former = cut.content;
+  ledger.Add(cut);
+  ledger.process = "two";
+  desktop.reset();
+  desktop = Make(&dialogs);
+  desktop->Start("");
+  ASSERT_FALSE(dialogs.boxes.empty());
+  EXPECT_NE(dialogs.boxes.back().text.find("contenga su configuración anterior"), std::string::npos)
+      << dialogs.boxes.back().text;
+  ModalScript modals;
+  modals.Expect(Chooses("Leer y comparar"));
+  Window().show();
+  Connect();
+  loop.RunFor(seconds(40));
+  EXPECT_EQ(modals.Left(), 0U);
+  EXPECT_EQ(dialogs.boxes.back().text, "El registrador contiene la configuración nueva.")
+      << "both hashes are the same here";
+  const std::size_t told = dialogs.boxes.size();
+  desktop.reset();
+  desktop = Make(&dialogs);
+  desktop->Start("");
+  EXPECT_EQ(dialogs.boxes.size(), told) << "it is known now";
+}
+
+}  // namespace
+}  // namespace ostrel

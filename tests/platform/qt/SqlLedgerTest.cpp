@@ -1,0 +1,103 @@
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+
+#include <QSqlDatabase>
+#include <QSqlQuery>
+#include <QTemporaryDir>
+#include <QVariant>
+#include <fstream>
+
+#include "platform/qt/SqlLedger.h"
+
+namespace ostrel {
+namespace {
+
+class OnDisk : public testing::Test {
+ protected:
+  /// Runs statements on the file, past the ledger.
+  void Run(const QStringList& statements) {
+    {
+      QSqlDatabase base = QSqlDatabase::addDatabase("QSQLITE", "beside");
+      base.setDatabaseName(QString::fromStdString(path));
+      ASSERT_TRUE(base.open());
+      QSqlQuery query(base);
+      for (const QString& statement : statements)
+        ASSERT_TRUE(query.exec(statement)) << statement.toStdString();
+    }
+    QSqlDatabase::removeDatabase("beside");
+  }
+
+  QTemporaryDir folder;
+  std::string path = folder.path().toStdString() + "/deep/ledger.db";
+};
+
+/// An entry in which no two fields hold the same.
+LedgerEntry Distinct() {
+  LedgerEntry entry;
+  std::int64_t next = 100;
+  VisitLedgerEntry(entry, [&](const char* name, auto& value) {
+    using Value = std::remove_cvref_t<decltype(value)>;
+    if constexpr (std::is_same_v<Value, std::string>) value = std::string(name) + " \xC3\xB1";
+    if constexpr (std::is_same_v<Value, std::int64_t>) value = ++next << 32;
+    if constexpr (std::is_same_v<Value, bool>) value = true;
+  });
+  entry.kind = LedgerKind::TestRun;
+  entry.state = LedgerState::Failed;
+  return entry;
+}
+
+TEST_F(OnDisk, WhatOneProgramKeepsAnotherFinds) {
+  LedgerEntry entry = Distinct();
+  SqlLedger one(path), other(path);
+  EXPECT_TRUE(other.Find({}).empty());
+  EXPECT_FALSE(std::ifstream(path).is_open()) << "looking makes no file";
+  entry.id = one.Add(entry);
+  ASSERT_EQ(entry.id, 1) << one.Fault();
+  ASSERT_EQ(other.Add({.began = "2026-03-02 09:05:07", .serial = "Q2"}), 2) << other.Fault();
+  entry.state = LedgerState::Done;
+  EXPECT_TRUE(one.Change(entry));
+  const std::vector<LedgerEntry> found = other.Find({});
+  ASSERT_EQ(found.size(), 2U);
+  EXPECT_EQ(found[0].id, 2) << "the newest first";
+  EXPECT_TRUE(one.IsRunning(found[1]));
+  LedgerEntry kept = found[1];
+  kept.user = entry.user;
+  kept.machine = entry.machine;
+  kept.process = entry.process;
+  EXPECT_EQ(kept, entry);
+  EXPECT_FALSE(one.IsRunning(entry)) << "that is no process";
+  EXPECT_EQ(one.Find({.serial = "Q2"}).size(), 1U);
+  EXPECT_EQ(one.Find({.file = entry.file}).size(), 1U);
+  EXPECT_EQ(one.Find({.since = "2026-03-03"}).size(), 1U);
+  EXPECT_EQ(one.Find({.after = 1, .most = 1}).front().id, 2);
+  const std::string octets("a\0b\xFF", 4);
+  EXPECT_TRUE(one.KeepContent("h", octets) && other.KeepContent("h", octets));
+  EXPECT_EQ(other.Content("h"), octets);
+  EXPECT_FALSE(other.Content("g"));
+  struct stat state {};
+  ASSERT_EQ(::stat(path.c_str(), &state), 0);
+  EXPECT_EQ(state.st_mode & 0777, 0600U);
+}
+
+TEST_F(OnDisk, AnOlderSchemaGrowsAndALaterOneIsLeftAlone) {
+  SqlLedger(path).Add({.serial = "Q1"});
+  Run({"DROP INDEX entry_serial", "DROP INDEX entry_file", "PRAGMA user_version=1"});
+  EXPECT_EQ(SqlLedger(path).Find({.serial = "Q1"}).size(), 1U);
+  Run({"DROP INDEX entry_serial", "PRAGMA user_version=77"});
+  SqlLedger later(path);
+  EXPECT_EQ(later.Add({}), 0);
+  EXPECT_EQ(later.Fault(), "the ledger was made by a later version of this program");
+}
+
+TEST_F(OnDisk, AFileThatIsNoLedgerIsToldAndLeftAlone) {
+  SqlLedger(path).Add({});
+  std::ofstream(path, std::ios::trunc) << std::string(4096, 'x');
+  SqlLedger ledger(path);
+  EXPECT_EQ(ledger.Add({}), 0);
+  EXPECT_FALSE(ledger.KeepContent("h", "octets"));
+  EXPECT_TRUE(ledger.Find({}).empty());
+  EXPECT_FALSE(ledger.Fault().empty());
+}
+
+}  // namespace
+}  // namespace ostrel
