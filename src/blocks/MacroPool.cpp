@@ -9,14 +9,12 @@ namespace {
 void TakeMacro(std::string_view word, LineReader& line, ConfMacro& pool) {
   const auto number = RoundToEven<std::int32_t>(line.Number()).value_or(0);
   constexpr int kBody = 2;
-  std::string& place = pool.LINE[pool.MacroPoolCount];
-  place = std::string(word) + std::to_string(number) + "={" +
-          std::string(BracedFieldOfLine(line.Line(), kBody)) + "}";
+  pool.LINE[pool.MacroPoolCount] = PoolLine(word, number, BracedFieldOfLine(line.Line(), kBody));
   ++pool.MacroPoolCount;
 }
 
 void ReadMacro(LineReader& line, DeviceConf& conf, const DeviceInfo&) {
-  TakeMacro("MACRO", line, conf.Macro);
+  TakeMacro(kMacroWord, line, conf.Macro);
 }
 
 }  // namespace
@@ -25,7 +23,7 @@ const std::array<LineSection, 3> MacroPool::kLines{{
     {"MACROS", ReadMacro},
     {"MACRO", ReadMacro},
     {"F", [](LineReader& line, DeviceConf& conf,
-             const DeviceInfo&) { TakeMacro("F", line, conf.Macro); }},
+             const DeviceInfo&) { TakeMacro(kEquationWord, line, conf.Macro); }},
 }};
 
 void MacroPool::Compose(const DeviceConf& conf, const Receiver&, int, StatementList& out) {

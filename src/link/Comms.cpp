@@ -15,7 +15,7 @@
 namespace ostrel {
 namespace {
 
-constexpr int kMaskBits = 16;
+constexpr int kOutputBits = 16;
 
 }  // namespace
 
@@ -123,7 +123,7 @@ LinkResult Comms::ReadRealTime() {
 }
 
 LinkResult Comms::SetOutput(std::int16_t mask) {
-  const int count = std::clamp<int>(records_.profile.OutputCount, 0, kMaskBits);
+  const int count = std::clamp<int>(records_.profile.OutputCount, 0, kOutputBits);
   return Keep(line_.Converse(line_.TimeFor(static_cast<std::size_t>(count)), [&] {
     return SwitchOutputs(line_, static_cast<std::uint16_t>(mask), count);
   }));

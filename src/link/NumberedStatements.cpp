@@ -1,14 +1,14 @@
 #include "link/NumberedStatements.h"
 
-#include "link/UploadPlan.h"
+#include "link/LinkTimes.h"
 #include "link/WireText.h"
+#include "model/Features.h"
 
 namespace ostrel {
-namespace {
 
-constexpr std::string_view kStatementRefused = "#BA0";
-
-}  // namespace
+int RefusalWindowMs(std::int32_t features) {
+  return Has(features, Feature::FastRefusal) ? kFastRefusalMs : kRefusalMs;
+}
 
 LinkFault NumberedStatements::Send(std::string_view statement) {
   const int number = sent_;

@@ -8,6 +8,12 @@
 
 namespace ostrel {
 
+/// How a logger's refusal of a statement begins.
+inline constexpr std::string_view kStatementRefused = "#BA0";
+
+/// How long a statement waits for the refusal of a logger of these features, in ms.
+int RefusalWindowMs(std::int32_t features);
+
 /// Statements that go to a logger one after the other, each with a number of three digits that
 /// rises from 0. A logger says nothing to a statement that it takes.
 class NumberedStatements {

@@ -7,7 +7,6 @@
 namespace ostrel {
 namespace {
 
-constexpr std::string_view kRefusal = "#BA0";
 constexpr std::string_view kTakenOver = "#B91";
 
 }  // namespace
@@ -60,7 +59,7 @@ LinkFault Upload::Close(const std::vector<std::string>& statements) {
   const bool hasLeft = line_.Post(statements_.Closing());
   if (!hasLeft || !line_.RxSer(line_.ReplyTimeout)) return line_.WaitFault(sent);
   if (line_.RxLine.starts_with(kTakenOver)) return {};
-  const bool isLateRefusal = line_.RxLine.find(kRefusal) != std::string::npos;
+  const bool isLateRefusal = line_.RxLine.find(kStatementRefused) != std::string::npos;
   if (isLateRefusal && !statements.empty())
     return line_.FaultNow(LinkFault::Kind::Refused, sent - 1, statements.back());
   return line_.FaultNow(LinkFault::Kind::NotTakenOver, sent, line_.RxLine);

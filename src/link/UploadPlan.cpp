@@ -2,7 +2,7 @@
 
 #include "base/Utf8.h"
 #include "link/LinkTimes.h"
-#include "model/Features.h"
+#include "link/NumberedStatements.h"
 
 namespace ostrel {
 namespace {
@@ -11,10 +11,6 @@ namespace {
 constexpr std::size_t kFrameOctets = 4 + 2 + 3 + 1;
 
 }  // namespace
-
-int RefusalWindowMs(std::int32_t features) {
-  return Has(features, Feature::FastRefusal) ? kFastRefusalMs : kRefusalMs;
-}
 
 UploadPlan PlanUpload(const std::vector<std::string>& statements, std::int32_t features) {
   UploadPlan plan{.octets = kFrameOctets};

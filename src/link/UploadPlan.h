@@ -17,9 +17,6 @@ struct UploadPlan {
 /// The plan of an upload of these statements to a logger of these features.
 UploadPlan PlanUpload(const std::vector<std::string>& statements, std::int32_t features);
 
-/// How long a statement waits for the refusal of a logger of these features, in ms.
-int RefusalWindowMs(std::int32_t features);
-
 /// About how long a download of so many records takes at 9600 bit/s.
 Duration ReadingTime(int records);
 

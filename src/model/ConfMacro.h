@@ -46,6 +46,14 @@ struct MacroLine {
   std::string_view name{};  ///< of a macro that has one
 };
 
+/// The word of a macro's line, that of an equation's, and what stands ahead of a macro's name.
+inline constexpr std::string_view kMacroWord = "MACRO";
+inline constexpr std::string_view kEquationWord = "F";
+inline constexpr std::string_view kMacroName = ",NAME=";
+
+/// A line of the pool put together of its word, its number and what stands in its braces.
+std::string PoolLine(std::string_view word, std::int32_t number, std::string_view body);
+
 /// Takes a line apart. Nothing for one that a logger would not take: another word, a number that is
 /// none, no braces around the rest or one more within it.
 std::optional<MacroLine> ReadMacroLine(std::string_view line);

@@ -64,14 +64,9 @@ constexpr FieldMeta CodeMeta(std::string_view word, std::string_view words,
   return {.word = word, .words = words, .codes = codes};
 }
 
-/// A field, such as a number, for which an operator may type only so many characters.
-constexpr FieldMeta LimitedMeta(std::string_view word, std::string_view words, int longest) {
-  return {.word = word, .words = words, .longest = longest};
-}
-
 /// A text field of a limited length.
 constexpr FieldMeta TextMeta(std::string_view word, std::string_view words, int longest) {
-  return LimitedMeta(word, words, longest);
+  return {.word = word, .words = words, .longest = longest};
 }
 
 /// A password.

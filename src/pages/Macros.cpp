@@ -6,7 +6,6 @@
 namespace ostrel {
 namespace {
 
-constexpr std::string_view kNameToken = ",NAME=";
 /// The number of a macro goes up by itself to the first that no action can start, that of an
 /// equation to the last that there is.
 constexpr int kLastByMacros = kMacrosOfActions;
@@ -61,9 +60,9 @@ void MacroControls::AfterClear() {
 
 void MacroControls::AddMacro() {
   if (MacroCommand.Text().empty()) return;
-  std::string line = "MACRO" + std::to_string(MacroNum.Position()) + "={" + MacroCommand.Text();
-  if (!MacroName.Text().empty()) line.append(kNameToken).append(MacroName.Text());
-  Add(line + "}", kLastByMacros);
+  std::string body = MacroCommand.Text();
+  if (!MacroName.Text().empty()) body.append(kMacroName).append(MacroName.Text());
+  Add(PoolLine(kMacroWord, MacroNum.Position(), body), kLastByMacros);
 }
 
 void MacroControls::AddEquation() {
@@ -74,8 +73,7 @@ void MacroControls::AddEquation() {
         BoxIcon::None);
   if (!MacroName.Text().empty())
     context_.ShowMessage(context_.Translate("El campo nombre se descartara"), BoxIcon::None);
-  Add("F" + std::to_string(MacroNum.Position()) + "={" + MacroCommand.Text() + "}",
-      kLastByEquations);
+  Add(PoolLine(kEquationWord, MacroNum.Position(), MacroCommand.Text()), kLastByEquations);
 }
 
 void MacroControls::Add(std::string line, int lastToAdvance) {
@@ -97,9 +95,9 @@ void MacroControls::Delete() {
 
 void MacroControls::Edit() {
   const std::string line = MacroPool.RowText(MacroPool.Position());
-  const bool isMacro = line.find("MACRO") != std::string::npos;
+  const bool isMacro = line.find(kMacroWord) != std::string::npos;
   if (isMacro ? EditMacro(line) : EditEquation(line)) return;
-  const bool isNameless = isMacro && line.find(kNameToken) == std::string::npos;
+  const bool isNameless = isMacro && line.find(kMacroName) == std::string::npos;
   context_.ShowMessage(
       context_.Translate(isNameless ? "La macro no tiene nombre y por eso no se puede llevar a los "
                                       "campos. Eliminela y escribala de nuevo"
@@ -108,10 +106,10 @@ void MacroControls::Edit() {
 }
 
 bool MacroControls::EditMacro(const std::string& line) {
-  const std::size_t name = line.find(kNameToken);
+  const std::size_t name = line.find(kMacroName);
   if (name == std::string::npos) return false;
   const std::size_t open = line.rfind('{', name);
-  const std::size_t nameStart = name + kNameToken.size();
+  const std::size_t nameStart = name + kMacroName.size();
   const std::size_t close = line.find('}', nameStart);
   if (open == std::string::npos || close == std::string::npos) return false;
   MacroName.SetText(line.substr(nameStart, close - nameStart));

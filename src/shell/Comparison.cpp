@@ -4,7 +4,7 @@
 
 #include "base/Printable.h"
 #include "shell/FieldWords.h"
-#include "shell/SentProbe.h"
+#include "shell/SentFields.h"
 
 namespace ostrel {
 namespace {
@@ -88,13 +88,13 @@ class SentSides {
         after_(after.conf),
         fieldsBefore_(FieldsOf(before_, before.profile)),
         fieldsAfter_(FieldsOf(after_, before.profile)),
-        probeBefore_(before_, receiver_),
-        probeAfter_(after_, receiver_) {}
+        sentBefore_(before_, receiver_),
+        sentAfter_(after_, receiver_) {}
 
   /// Whether copying field `index` from either to the other changes a statement.
   bool Differ(std::size_t index) {
-    return probeBefore_.Changes(index, fieldsAfter_[index].value) ||
-           probeAfter_.Changes(index, fieldsBefore_[index].value);
+    return sentBefore_.Changes(index, fieldsAfter_[index].value) ||
+           sentAfter_.Changes(index, fieldsBefore_[index].value);
   }
   bool AreSame() const {
     return ComposeStatements(before_, receiver_) == ComposeStatements(after_, receiver_);
@@ -104,7 +104,7 @@ class SentSides {
   Receiver receiver_;
   const DeviceConf &before_, &after_;
   std::vector<ConstField> fieldsBefore_, fieldsAfter_;
-  SentProbe probeBefore_, probeAfter_;
+  SentFields sentBefore_, sentAfter_;
 };
 
 }  // namespace

@@ -103,7 +103,8 @@ SafetyCopies::Kept SafetyCopies::Keep(const Held& held) {
   const std::string octets = ToCodePage(document.OutputINI());
   const std::string name =
       folder_ + "/" + NameOf(held.serialNumber) + "-" + StampOf(clock_.LocalNow());
-  Kept kept{.result = {}, .path = name + std::string(kEnding)};
+  Kept kept;
+  kept.path = name + std::string(kEnding);
   kept.result = SaveNew(files_, kept.path, octets);
   for (int next = 2; kept.result.stands; ++next) {
     kept.path = name + "-" + std::to_string(next) + std::string(kEnding);

@@ -1,7 +1,7 @@
 #include "blocks/expansion/ExpansionInputs.h"
 
 #include "blocks/AlarmWire.h"
-#include "blocks/inputs/AnalogInputs.h"
+#include "blocks/inputs/InterfaceCodes.h"
 
 namespace ostrel {
 namespace {

@@ -11,14 +11,6 @@
 
 namespace ostrel {
 
-/// Codes of the electrical interface of an analog input that is on.
-enum AnalogInterface : std::int16_t {
-  kInterfaceCurrent = 1,
-  kInterface5V = 2,
-  kInterface10V = 3,
-  kInterfacePressure = 7,
-};
-
 /// The analog inputs of a configuration.
 struct AnalogInputs {
   static constexpr SectionMeta kSection{"ANALOG", "analog input", "AI"};

@@ -5,11 +5,11 @@
 #include "desktop/forms/Words.h"
 #include "desktop/layouts/LayoutParts.h"
 #include "desktop/layouts/Layouts.h"
+#include "lang/Calculators.h"
 
 namespace ostrel {
 namespace {
 
-constexpr int kMaskBoxes = 16;
 constexpr int kMaskColumns = 4;
 
 }  // namespace
@@ -41,7 +41,7 @@ void LayOutMaskCalculator(FormView& view) {
   auto* dialog = new QVBoxLayout(&view);
   auto* bits = new QGridLayout;
   // Columns of four, the lowest bit first.
-  for (int bit = 0; bit < kMaskBoxes; ++bit)
+  for (int bit = 0; bit < kMaskBits; ++bit)
     bits->addWidget(
         view.ShowNamed("BitCheck(" + std::to_string(bit) + ")", Words::tr("Bit %1").arg(bit)),
         bit % kMaskColumns, bit / kMaskColumns);

@@ -1,17 +1,12 @@
 #include <QLabel>
 #include <QVBoxLayout>
 
+#include "blocks/inputs/Sampling.h"
 #include "desktop/forms/Words.h"
 #include "desktop/layouts/LayoutParts.h"
 #include "desktop/layouts/Layouts.h"
 
 namespace ostrel {
-namespace {
-
-constexpr int kMeters = 8;
-
-}  // namespace
-
 void LayOutSampleRate(FormView& view) {
   QVBoxLayout* page = MakeSheet(view);
   auto* warning = view.Show<QLabel>("WarningText");
@@ -21,7 +16,7 @@ void LayOutSampleRate(FormView& view) {
   notice->addWidget(warning, 1);
   page->addLayout(notice);
   const Card weights = MakeCard(view, Words::tr("Totalisers"));
-  for (int meter = 0; meter < kMeters; ++meter) {
+  for (int meter = 0; meter < Sampling::kMeters; ++meter) {
     const std::string number = "(" + std::to_string(meter) + ")";
     AddField(weights, view.LabelFor("ComboT" + number, std::string_view("LabelT" + number)),
              Narrow(view.Show("ComboT" + number), 12));

@@ -1,6 +1,6 @@
 #include "pages/expansion/ModeControls.h"
 
-#include "blocks/inputs/AnalogInputs.h"
+#include "blocks/inputs/InterfaceCodes.h"
 
 namespace ostrel {
 namespace {

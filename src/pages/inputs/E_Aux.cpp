@@ -1,21 +1,11 @@
 #include "pages/inputs/E_Aux.h"
 
-#include "blocks/inputs/InterfaceCodes.h"
-
 namespace ostrel {
-namespace {
-
-constexpr std::array<CodeOption, 2> kAuxInterfaces{{
-    {"Int_NoHabil", "No habil.", kInterfaceOff},
-    {"Int_Habil", "Habil.", kInterfaceOn},
-}};
-
-}  // namespace
 
 AuxiliaryChannel::AuxiliaryChannel(Form& form, const PageContext&)
     : Nombre(form, "Nombre"),
       Unidad(form, "Unidad"),
-      interface_(form, {}, kAuxInterfaces),
+      interface_(form, {}, kOffOrOn),
       Label1(form, "Label1", "Inicio escala:"),
       IE(form, "IE"),
       Label2(form, "Label2", "Fondo escala:"),

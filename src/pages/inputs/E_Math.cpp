@@ -1,21 +1,11 @@
 #include "pages/inputs/E_Math.h"
 
-#include "blocks/inputs/InterfaceCodes.h"
-
 namespace ostrel {
-namespace {
-
-constexpr std::array<CodeOption, 2> kMathInterfaces{{
-    {"Int_NoHabil", "No habil.", kInterfaceOff},
-    {"Int_Habil", "Habil.", kInterfaceOn},
-}};
-
-}  // namespace
 
 MathChannel::MathChannel(Form& form, const PageContext&)
     : Nombre(form, "Nombre"),
       Unidad(form, "Unidad"),
-      interface_(form, {}, kMathInterfaces),
+      interface_(form, {}, kOffOrOn),
       FrameEcuacion(form, "FrameEcuacion", "Ecuacion de conversion"),
       Ecuacion(form, "Ecuacion") {
   fields_.Bind(Nombre, &ConfMath::NOMBRE);

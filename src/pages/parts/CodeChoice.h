@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <functional>
 #include <memory>
@@ -7,6 +8,7 @@
 #include <string_view>
 #include <vector>
 
+#include "blocks/inputs/InterfaceCodes.h"
 #include "controls/Form.h"
 #include "pages/parts/ControlNames.h"
 #include "pages/parts/Edits.h"
@@ -19,6 +21,12 @@ struct CodeOption {
   std::string_view caption;
   std::int16_t code;
 };
+
+/// The options of an input that can be on or off and nothing else.
+inline constexpr std::array<CodeOption, 2> kOffOrOn{{
+    {"Int_NoHabil", "No habil.", kInterfaceOff},
+    {"Int_Habil", "Habil.", kInterfaceOn},
+}};
 
 /// Options that stand for the codes of a field. A code that none stands for selects none, and is
 /// kept until one is chosen.

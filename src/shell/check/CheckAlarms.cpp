@@ -49,6 +49,10 @@ void VisitEnabledAlarms(const Examined& file, const AlarmVisitor& visit) {
   });
 }
 
+Finding AtField(const SectionMeta& section, int channel, std::string_view word, Phrase sentence) {
+  return {SectionName(section, channel), std::string(word), std::move(sentence)};
+}
+
 Finding AtAlarm(const AlarmPlace& place, std::string_view word, Phrase sentence) {
   const FieldId id{place.section, place.channel, word, {.config = place.config}};
   return {SectionName(id), KeyName(id, PlaceForm::InBrackets), std::move(sentence)};

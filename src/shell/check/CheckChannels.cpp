@@ -14,11 +14,6 @@
 namespace ostrel {
 namespace {
 
-/// A finding at one field of a record.
-Finding AtField(const SectionMeta& section, int channel, std::string_view word, Phrase sentence) {
-  return {SectionName(section, channel), std::string(word), std::move(sentence)};
-}
-
 // ---- Alarms of all kinds of channels
 
 constexpr float kTrifle = 1e-5F;

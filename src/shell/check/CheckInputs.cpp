@@ -20,10 +20,6 @@ void EachProbe(const Examined& file, const Look& look) {
       look(i, probe);
 }
 
-Finding AtInput(const SectionMeta& section, int channel, std::string_view word, Phrase sentence) {
-  return {SectionName(section, channel), std::string(word), std::move(sentence)};
-}
-
 /// The channels of a kind that an equation can name, and how many of them a model has.
 struct NamedChannels {
   std::string_view token;
@@ -68,7 +64,7 @@ std::vector<Finding> BrokenIdentities(const Examined& file) {
     for (const auto& [word, half] :
          {std::pair{"ADDRESS1", &probe.ADDRESS1}, {"ADDRESS2", &probe.ADDRESS2}})
       if (OctetsOfHalf(*half).empty() || (*half == kUnsetHalf && !isUnset))
-        found.push_back(AtInput(Probes::kSection, i, word,
+        found.push_back(AtField(Probes::kSection, i, word,
                                 {"%1 is no half of an identity: write four numbers up to 255 with "
                                  "points between them",
                                  {*half}}));
@@ -87,7 +83,7 @@ std::vector<Finding> SharedIdentities(const Examined& file) {
     if (identity == std::pair(none, none)) return;
     const auto [earlier, isNew] = first.emplace(identity, i);
     if (isNew) return;
-    found.push_back(AtInput(Probes::kSection, i, "ADDRESS1",
+    found.push_back(AtField(Probes::kSection, i, "ADDRESS1",
                             {"probe %1 has the same identity: read that of the other one",
                              {std::to_string(earlier->second)}}));
   });
@@ -100,7 +96,7 @@ std::vector<Finding> EquationsOfMissingChannels(const Examined& file) {
     const ConfMath& math = file.Conf().Math[i];
     if (math.INTERFAZ == kInterfaceOff) continue;
     if (const std::string missing = MissingChannel(math.ECUACION, file.Model()); !missing.empty())
-      found.push_back(AtInput(
+      found.push_back(AtField(
           MathChannels::kSection, i, "ECUACION",
           {"the %1 has no channel %2: name another one", {file.Model().TargetName, missing}}));
   }

@@ -20,11 +20,6 @@ namespace {
 
 constexpr std::size_t kMostStatements = 999;
 
-bool HasControl(std::string_view text) {
-  return std::ranges::any_of(
-      text, [](char c) { return static_cast<unsigned char>(c) < 0x20 || c == 0x7F; });
-}
-
 /// Whether an upload to the logger would carry the text of a field.
 bool IsTextSent(const Examined& file, std::size_t index) {
   const std::string other = "x";
@@ -39,7 +34,8 @@ std::string_view TroubleOf(const std::string& text, FieldSense sense) {
     return "a comma ends the text on the line: write something else for it";
   if (!isStatement && text.find_first_of("{}") != std::string::npos)
     return "a brace encloses commands on the line: write something else for it";
-  return HasControl(text) ? "a control character breaks the line: remove it" : "";
+  return UpToControl(text).size() < text.size() ? "a control character breaks the line: remove it"
+                                                : "";
 }
 
 std::vector<Finding> BrokenTexts(const Examined& file) {
@@ -352,7 +348,7 @@ Examined::Examined(const ModelConfiguration& configuration, std::optional<std::i
       statements_(ComposeStatements(configuration.conf,
                                     {configuration.profile, features.value_or(kEveryFeature)})
                       .size()),
-      probe_(configuration.conf, {configuration.profile, features.value_or(kEveryFeature)}) {
+      sent_(configuration.conf, {configuration.profile, features.value_or(kEveryFeature)}) {
   std::string_view section;
   document.Visit([&](std::string_view name) { section = name; },
                  [&](std::string_view key, const std::string& value) {
@@ -373,10 +369,10 @@ bool Examined::IsSet(std::size_t index) const {
 
 bool Examined::IsUnknownToFirmware(std::size_t index) const {
   const FieldView& empty = emptyFields_[index].value;
-  if (!fullProbe_) fullProbe_.emplace(Conf(), Receiver{Model(), kEveryFeature});
+  if (!fullySent_) fullySent_.emplace(Conf(), Receiver{Model(), kEveryFeature});
   // Most records are the same to every firmware.
-  return probe_.StatementsOf(index) != fullProbe_->StatementsOf(index) &&
-         !probe_.Changes(index, empty) && fullProbe_->Changes(index, empty);
+  return sent_.StatementsOf(index) != fullySent_->StatementsOf(index) &&
+         !sent_.Changes(index, empty) && fullySent_->Changes(index, empty);
 }
 
 std::string Examined::ValueText(const ConstField& field) const {

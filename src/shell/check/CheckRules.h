@@ -10,7 +10,7 @@
 
 #include "shell/ConfigurationFile.h"
 #include "shell/Phrase.h"
-#include "shell/SentProbe.h"
+#include "shell/SentFields.h"
 #include "store/IniClass.h"
 
 namespace ostrel {
@@ -45,7 +45,7 @@ class Examined {
   bool IsSet(std::size_t index) const;
   /// Whether the logger gets to know that field `index` takes another value.
   bool IsSent(std::size_t index, const FieldView& other) const {
-    return probe_.Changes(index, other);
+    return sent_.Changes(index, other);
   }
   /// Whether a setting is known to other firmware, but not to this one.
   bool IsUnknownToFirmware(std::size_t index) const;
@@ -60,8 +60,8 @@ class Examined {
   std::vector<ConstField> fields_, emptyFields_;
   std::unordered_map<std::string, const std::string*> written_;  ///< by section and key
   std::size_t statements_;
-  mutable SentProbe probe_;  ///< under the features, or under all where they are not known
-  mutable std::optional<SentProbe> fullProbe_;  ///< under all features, once it is asked
+  mutable SentFields sent_;  ///< under the features, or under all where they are not known
+  mutable std::optional<SentFields> fullySent_;  ///< under all features, once it is asked
 };
 
 /// What a finding says, in English.
@@ -94,6 +94,8 @@ std::vector<FoundByRule> Examine(const Examined& file, std::span<const std::stri
 
 /// Visits the alarms that are enabled and that the logger gets to know.
 void VisitEnabledAlarms(const Examined& file, const AlarmVisitor& visit);
+/// A finding at one field of a record.
+Finding AtField(const SectionMeta& section, int channel, std::string_view word, Phrase sentence);
 /// A finding at one field of an alarm.
 Finding AtAlarm(const AlarmPlace& place, std::string_view word, Phrase sentence);
 

@@ -1,4 +1,4 @@
-#include "shell/SentProbe.h"
+#include "shell/SentFields.h"
 
 #include <algorithm>
 
@@ -6,10 +6,10 @@
 
 namespace ostrel {
 
-SentProbe::SentProbe(const DeviceConf& conf, const Receiver& receiver)
+SentFields::SentFields(const DeviceConf& conf, const Receiver& receiver)
     : receiver_(receiver), conf_(conf), fields_(FieldsOf(conf_, receiver.profile)) {}
 
-const std::vector<std::string>& SentProbe::StatementsOf(std::size_t index) {
+const std::vector<std::string>& SentFields::StatementsOf(std::size_t index) {
   const Field& field = fields_[index];
   if (!hasKept_ || keptPage_ != field.page || keptChannel_ != field.id.channel) {
     kept_ = StatementsFor(field);
@@ -20,7 +20,7 @@ const std::vector<std::string>& SentProbe::StatementsOf(std::size_t index) {
   return kept_;
 }
 
-bool SentProbe::Changes(std::size_t index, const FieldView& value) {
+bool SentFields::Changes(std::size_t index, const FieldView& value) {
   const Field& field = fields_[index];
   const std::vector<std::string>& present = StatementsOf(index);
   // The one field is changed and put back.
@@ -35,7 +35,7 @@ bool SentProbe::Changes(std::size_t index, const FieldView& value) {
       field.value);
 }
 
-std::vector<std::string> SentProbe::StatementsFor(const Field& field) const {
+std::vector<std::string> SentFields::StatementsFor(const Field& field) const {
   StatementList statements;
   for (const UploadStep& step : UploadOrder()) {
     if (std::ranges::find(step.pages, field.page) == step.pages.end()) continue;

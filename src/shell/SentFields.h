@@ -10,11 +10,11 @@ namespace ostrel {
 
 /// Tells which fields of a configuration a logger gets to know: a field is sent when another value
 /// in it changes a statement. Only the statements that can carry it are made anew.
-class SentProbe {
+class SentFields {
  public:
-  SentProbe(const DeviceConf& conf, const Receiver& receiver);
-  SentProbe(const SentProbe&) = delete;
-  SentProbe& operator=(const SentProbe&) = delete;
+  SentFields(const DeviceConf& conf, const Receiver& receiver);
+  SentFields(const SentFields&) = delete;
+  SentFields& operator=(const SentFields&) = delete;
 
   /// Whether the statements change when field `index`, in file order, takes another value.
   bool Changes(std::size_t index, const FieldView& value);
