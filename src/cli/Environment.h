@@ -7,6 +7,7 @@
 #include <string>
 #include <string_view>
 
+#include "factory/Station.h"
 #include "host/SimulatedLoggers.h"
 #include "platform/Platform.h"
 
@@ -28,6 +29,7 @@ struct Environment {
   std::function<FileResult(int descriptor, bool lineOnly, std::string& octets)> readDescriptor;
   std::string code;         ///< access code of the environment; empty for none
   std::string dataFolder;   ///< the user's own; made when needed
+  Station station{};        ///< of factory tests, where none is stored
   std::string shippedLang;  ///< the installed translation table
   /// Number of a device path; 0 when there is none to give.
   std::function<int(const std::string& path)> numberOfDevice;

@@ -13,7 +13,8 @@ namespace {
 constexpr const char* kFooter =
     "Exit codes:\n"
     "  0  done\n"
-    "  1  differences found by diff or by the verification of an upload, or errors by check\n"
+    "  1  differences found by diff or by the verification of an upload, errors by check, or a\n"
+    "     test not passed\n"
     "  2  usage\n"
     "  3  no session: port, modem or handshake\n"
     "  4  a dialogue failed or was interrupted\n"
@@ -64,7 +65,7 @@ std::vector<Command> AddCommands(CLI::App& app) {
   std::vector<Command> commands;
   for (const auto add : {AddPorts, AddInfo, AddClock, AddLive, AddOutput, AddTotal, AddVoice,
                          AddProbe, AddDownload, AddUpload, AddBackups, AddRestore, AddStatements,
-                         AddDiff, AddShow, AddCheck, AddSchedule, AddCalc})
+                         AddDiff, AddShow, AddCheck, AddSchedule, AddCalc, AddTest})
     commands.push_back(add(app));
   for (const Command& command : commands) command.parser->fallthrough();
   app.require_subcommand(1);

@@ -106,7 +106,13 @@ Configurator::Configurator(const Platform& platform, ConfiguratorOptions options
       langForm(context),
       targetSelect(context, settings,
                    [this](const std::string& name) { TargetDeviceChange(name); }),
-      fronts_{{ToolId::TargetSelect, &targetSelect}} {
+      test(TestParts(), kTest),
+      testKA2(TestParts(), kTestKA2),
+      testBQ(TestParts(), kTestBQ),
+      fronts_{{ToolId::TargetSelect, &targetSelect},
+              {ToolId::Test, &test},
+              {ToolId::TestKA2, &testKA2},
+              {ToolId::TestBQ, &testBQ}} {
   if (options_.ticking) general.OnScanPorts = [this] { comms.ScanPorts(); };
   ConnectPages();
   RegisterWire();
@@ -133,6 +139,20 @@ void Configurator::ConnectPages() {
   };
   context.readVoiceList = [this](ConfAutVoz& list) { return comms.ReadAutVozList(list); };
   context.writeVoiceList = [this](const ConfAutVoz& list) { return session.WriteVoiceList(list); };
+}
+
+TestPageContext Configurator::TestParts() {
+  return {.bench = Bench(),
+          .Connected = Connected,
+          .usual = options_.station,
+          .IniCom_Click = [this] { general.Session().IniCom.Click(); },
+          .lendSession = [this](bool lent) { session.Lend(lent); }};
+}
+
+TestPage* Configurator::RunningTest() {
+  for (TestPage* page : {&test, &testKA2, &testBQ})
+    if (page->Running()) return page;
+  return nullptr;
 }
 
 LinkHooks Configurator::MakeHooks() {

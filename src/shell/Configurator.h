@@ -8,6 +8,8 @@
 #include <utility>
 #include <vector>
 
+#include "factory/Station.h"
+#include "factory/TestPage.h"
 #include "lang/Lang.h"
 #include "link/Comms.h"
 #include "model/DeviceConf.h"
@@ -38,6 +40,8 @@ struct ConfiguratorOptions {
   std::string programFolder;  ///< where the help pages stand
   std::string langFile{};     ///< the working copy of the translation table
   Lang* lang = nullptr;       ///< the table where it is open already, with its language chosen
+  Station station{};          ///< of factory tests, where none is stored
+  bool factory = false;       ///< the tree has a node for the factory test of the model
   bool ticking = false;       ///< the pages' timers run and ports are scanned, as a window needs it
   int versionMajor = OSTREL_VERSION_MAJOR;
   int versionMinor = OSTREL_VERSION_MINOR;
@@ -117,6 +121,12 @@ class Configurator {
   FrontForm* ToolOf(ToolId id) const;
   /// Every form of the program: the pages' and the dialogs'.
   std::vector<Form*> Forms();
+  /// What a test run has of the program.
+  TestBench Bench() { return {platform_, comms, info, profile}; }
+  /// Whether the tree has a node for the factory test.
+  bool HasFactoryNode() const { return options_.factory; }
+  /// The page whose test runs; null when none does.
+  TestPage* RunningTest();
   DeviceConf conf;
   TargetProfile profile;
   DeviceInfo info;
@@ -143,6 +153,7 @@ class Configurator {
   /// The dialogs and dialogues that pages ask for.
   void ConnectPages();
   LinkHooks MakeHooks();
+  TestPageContext TestParts();
   void RegisterWire();
   void LoadForms();
   void ShowPages();
@@ -181,6 +192,7 @@ class Configurator {
   PWForm pwForm;
   LangForm langForm;
   TargetSelect targetSelect;
+  TestPage test, testKA2, testBQ;
 
  private:
   std::vector<std::pair<ToolId, FrontForm*>> fronts_;

@@ -36,7 +36,7 @@ TEST(SimLogger, InformationComesAsNumberedRecords) {
   SimBench bench(options);
   EXPECT_THAT(bench.AskAll("#44"),
               ElementsAre("#BB000VERSION,123", "#BB001FEATURES,-2147483647", "#BB002SERIAL,BQ-7",
-                          "#BB003VBAT,3.61", "#BB004RSSI,18", "#BB005LOG.SIZE,65536",
+                          "#BB003VBAT,7.21", "#BB004RSSI,18", "#BB005LOG.SIZE,65536",
                           "#BB006LOG.USE,1200", "#BB"));
 }
 

@@ -33,5 +33,6 @@ Command AddShow(CLI::App& app);
 Command AddCheck(CLI::App& app);
 Command AddSchedule(CLI::App& app);
 Command AddCalc(CLI::App& app);
+Command AddTest(CLI::App& app);
 
 }  // namespace ostrel::cli

@@ -12,6 +12,7 @@
 #include "host/Machine.h"
 #include "host/SignalPipe.h"
 #include "host/TraceFile.h"
+#include "host/UsualStation.h"
 #include "platform/SilentDialogs.h"
 #include "platform/qt/QtProcesses.h"
 
@@ -35,6 +36,7 @@ int Run(const std::vector<std::string>& args) {
       .readDescriptor = ReadDescriptor,
       .code = qEnvironmentVariable("OSTREL_CODE").toStdString(),
       .dataFolder = UserDataFolder(),
+      .station = UsualStation(),
       .shippedLang = LangIn(ShippedFolder()),
       .numberOfDevice = [&](const std::string& path) { return machine.NumberOfDevice(path); },
       .openLog = OpenTrace,

@@ -51,5 +51,6 @@ void LayOutActEdit(FormView& view);
 void LayOutPWForm(FormView& view);
 void LayOutLang(FormView& view);
 void LayOutTargetSelect(FormView& view);
+void LayOutTest(FormView& view);
 
 }  // namespace ostrel

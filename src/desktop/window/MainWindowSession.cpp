@@ -42,7 +42,8 @@ void MainWindow::ShowLink() {
   LinkState state = LinkStateOf(configurator_);
   state.step = IsTransfer(state.phase) ? writeStep_ : 0;
   session_->Link().ShowState(state, NameOfLogger());
-  const bool mayAsk = state.phase == SessionPhase::Open && !session.OwnsModel();
+  const bool mayAsk =
+      state.phase == SessionPhase::Open && !session.OwnsModel() && !session.IsLent();
   const auto why = WhyWritingRests(state.life);
   session_->Allow({.read = mayAsk && state.life.health != LinkHealth::Lost,
                    .write = mayAsk && !why,

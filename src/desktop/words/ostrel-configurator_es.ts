@@ -2056,5 +2056,29 @@
         <source>time between FTP attempts</source>
         <translation>tiempo entre intentos FTP</translation>
     </message>
+    <message>
+        <source>Value</source>
+        <translation>Valor</translation>
+    </message>
+    <message>
+        <source>Band</source>
+        <translation>Banda</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>Resultado</translation>
+    </message>
+    <message>
+        <source>good</source>
+        <translation>correcto</translation>
+    </message>
+    <message>
+        <source>FAILED</source>
+        <translation>FALLO</translation>
+    </message>
+    <message>
+        <source>Measured values</source>
+        <translation>Valores medidos</translation>
+    </message>
 </context>
 </TS>
