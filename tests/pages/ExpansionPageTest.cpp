@@ -36,6 +36,32 @@ TEST_F(ExpansionPage, AnAddressIsThatOfTheHexadecimalSwitch) {
   EXPECT_EQ(conf.Modulo[95].GRUPO, 15);
 }
 
+TEST_F(ExpansionPage, ASharedPlaceIsToldAndAFreeOneFound) {
+  const Face& shared = page.GetForm().Get<Label>("Shared").face;
+  for (int i = 0; i < 12; ++i) {
+    ConfModulo& other = conf.Modulo[i];
+    other.MODO = i == 9 ? kModeOff : kModeCounter;
+    other.DIR = static_cast<std::int16_t>(14 + i / 8);
+    other.ENTRADA = static_cast<std::int16_t>(i % 8);
+  }
+  page.ChangeIndex(40);
+  Combo("AddressCombo").SetPosition(14);
+  Combo("InputCombo").SetPosition(3);
+  EXPECT_FALSE(shared.Visible()) << "an input that is off is wired to nothing";
+  Combo("ModeCombo").SetPosition(kModeDigital);
+  EXPECT_TRUE(shared.Visible());
+  EXPECT_EQ(shared.Caption(), "Esta entrada la usa tambien el canal 3");
+  const auto next = [&] {
+    page.GetForm().Get<Button>("FindFree").Click();
+    return std::pair(Combo("AddressCombo").Position(), Combo("InputCombo").Position());
+  };
+  EXPECT_EQ(next(), std::pair(15, 1)) << "its user is off";
+  EXPECT_FALSE(shared.Visible());
+  EXPECT_EQ(next(), std::pair(15, 4));
+  for (int i = 0; i < 3; ++i) next();
+  EXPECT_EQ(next(), std::pair(0, 0)) << "from the first module again";
+}
+
 TEST_F(ExpansionPage, TheModeChoosesTabAndHelp) {
   const char* const words[] = {"ExpNone", "ExpDigital", "ExpFlow", "ExpCounter", "ExpAnalog"};
   for (const int mode : {1, 2, 3, 4, 0}) {

@@ -148,6 +148,26 @@ void ExpansionInputs::Clear(DeviceConf& conf, const TargetProfile&, const Transl
   }
 }
 
+int ExpansionInputs::OtherUser(const DeviceConf& conf, ModuleInput place, int self) {
+  for (int i = 0; i < kInputs; ++i) {
+    const ConfModulo& other = conf.Modulo[i];
+    const bool isUser = i != self && other.MODO != kModeOff;
+    if (isUser && ModuleInput{other.DIR, other.ENTRADA} == place) return i;
+  }
+  return -1;
+}
+
+ModuleInput ExpansionInputs::NextFree(const DeviceConf& conf, ModuleInput behind, int self) {
+  constexpr int kPlaces = kModules * kInputsOfModule;
+  const int start = behind.module * kInputsOfModule + behind.input;
+  for (int step = 1; step < kPlaces; ++step) {
+    const int number = (start + step) % kPlaces;
+    const ModuleInput place{number / kInputsOfModule, number % kInputsOfModule};
+    if (OtherUser(conf, place, self) < 0) return place;
+  }
+  return behind;
+}
+
 void ExpansionInputs::Alarms(const DeviceConf& conf, const Receiver& receiver,
                              const AlarmVisitor& visit) {
   for (int i = 0; i < Count(receiver); ++i) {

@@ -10,6 +10,16 @@
 
 namespace ostrel {
 
+/// Where an expansion input is wired: the address of its module, 0 to 15, and an input of it, 0
+/// to 7.
+struct ModuleInput {
+  int module = 0;
+  int input = 0;
+  bool operator==(const ModuleInput&) const = default;
+};
+inline constexpr int kModules = 16;
+inline constexpr int kInputsOfModule = 8;
+
 /// The inputs on expansion modules of a configuration.
 struct ExpansionInputs {
   static constexpr SectionMeta kFrame{"MINPUT", "expansion input", ""};
@@ -33,6 +43,11 @@ struct ExpansionInputs {
       Describe(input.A, AtRecord(kAnalog, i, visit));
     }
   }
+  /// The first other input that is on and wired to the same place as `place`; -1 for none.
+  static int OtherUser(const DeviceConf& conf, ModuleInput place, int self);
+  /// The next place behind one that no other input uses, from the first module again behind the
+  /// last one; the place itself where all others are used.
+  static ModuleInput NextFree(const DeviceConf& conf, ModuleInput behind, int self);
   /// The alarm of the mode that an input is in.
   static void Alarms(const DeviceConf& conf, const Receiver& receiver, const AlarmVisitor& visit);
   static const std::array<LineSection, 10> kLines;

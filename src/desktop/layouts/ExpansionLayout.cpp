@@ -58,7 +58,11 @@ Card AddressCard(FormView& view) {
                          Qt::AlignRight | Qt::AlignVCenter);
     card.grid->addWidget(view.Show(control), 0, column++);
   }
+  card.grid->addWidget(view.Show("FindFree"), 0, column++);
   card.grid->setColumnStretch(column, 1);
+  auto* shared = view.Show<QLabel>("Shared");
+  shared->setWordWrap(true);
+  card.grid->addWidget(shared, 1, 1, 1, column);
   return card;
 }
 

@@ -46,6 +46,10 @@ E_Modular::E_Modular(PageContext& context)
   counter_.OnModify = [this] {
     if (context_.showExpansionTotal) context_.showExpansionTotal(CurrentIndex_);
   };
+  frame_.OnChosen = [this] { ShowShared(); };
+  frame_.OnFindFree = [this] {
+    frame_.SetPlace(ExpansionInputs::NextFree(context_.conf, frame_.Place(), CurrentIndex_));
+  };
   help_.OnClick = [this] { ShowHelp(); };
   Timer1_.OnTimer = [this] { Tick(); };
 }
@@ -84,6 +88,15 @@ void E_Modular::LoadData() {
   flow_.LoadData(input.Q);
   counter_.Load(input.C, context_.live.ModuloValue[CurrentIndex_]);
   analog_.LoadData(input.A);
+  ShowShared();
+}
+
+void E_Modular::ShowShared() {
+  const int other = frame_.Mode() > kModeOff
+                        ? ExpansionInputs::OtherUser(context_.conf, frame_.Place(), CurrentIndex_)
+                        : -1;
+  frame_.SetShared(
+      other < 0 ? "" : context_.Translate("Esta entrada la usa tambien el canal") + NumText(other));
 }
 
 void E_Modular::RestoreConf() {

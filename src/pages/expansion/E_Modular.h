@@ -40,6 +40,8 @@ class E_Modular final : public Page {
   void Commit();
   void Tick();
   void CheckNumbers();
+  /// Tells which other input is wired to the place that is chosen.
+  void ShowShared();
   /// Lets the tree show which inputs are in use.
   void RepaintTree() const;
   template <auto kPart, class Tab>

@@ -1,6 +1,7 @@
 #include "pages/expansion/InputFrame.h"
 
 #include <algorithm>
+#include <array>
 #include <string>
 #include <utility>
 
@@ -12,7 +13,6 @@ namespace {
 constexpr std::array<std::string_view, 5> kModes{"NO HABIL.", "DIGITAL", "CAUDALIMETRO", "CONTADOR",
                                                  "ANALOGICA"};
 constexpr std::string_view kHexDigits = "0123456789ABCDEF";
-constexpr int kInputsOfModule = 8;
 constexpr int kReadingGroups = 16;
 
 void ShowRowOf(ComboBox& box, std::int16_t value) {
@@ -33,6 +33,8 @@ InputFrame::InputFrame(Form& form)
       AddressCombo(form, "AddressCombo"),
       LabelInput(form, "LabelInput", "Entrada:"),
       InputCombo(form, "InputCombo"),
+      FindFree(form, "FindFree", "Buscar libre"),
+      Shared(form, "Shared"),
       LabelGroup(form, "LabelGroup", "Grupo:"),
       GroupCombo(form, "GroupCombo"),
       SSTab1(form, "SSTab1"),
@@ -46,7 +48,17 @@ InputFrame::InputFrame(Form& form)
   Edits(AddressCombo.face, &ConfModulo::DIR);
   Edits(InputCombo.face, &ConfModulo::ENTRADA);
   Edits(GroupCombo.face, &ConfModulo::GRUPO);
-  ModeCombo.OnClick = [this] { SSTab1.SetTab(std::max(ModeCombo.Position(), 0)); };
+  ModeCombo.OnClick = [this] {
+    SSTab1.SetTab(std::max(ModeCombo.Position(), 0));
+    if (OnChosen) OnChosen();
+  };
+  for (ComboBox* box : {&AddressCombo, &InputCombo})
+    box->OnClick = [this] {
+      if (OnChosen) OnChosen();
+    };
+  FindFree.OnClick = [this] {
+    if (OnFindFree) OnFindFree();
+  };
 }
 
 void InputFrame::Load(const ConfModulo& input) {
@@ -54,6 +66,20 @@ void InputFrame::Load(const ConfModulo& input) {
   ShowRowOf(AddressCombo, input.DIR);
   ShowRowOf(InputCombo, input.ENTRADA);
   ShowRowOf(GroupCombo, input.GRUPO);
+}
+
+ModuleInput InputFrame::Place() const {
+  return {std::max(AddressCombo.Position(), 0), std::max(InputCombo.Position(), 0)};
+}
+
+void InputFrame::SetPlace(ModuleInput place) {
+  AddressCombo.SetPosition(place.module);
+  InputCombo.SetPosition(place.input);
+}
+
+void InputFrame::SetShared(std::string_view words) {
+  Shared.face.SetCaption(words);
+  Shared.face.SetVisible(!words.empty());
 }
 
 void InputFrame::Save(ConfModulo& input) const {

@@ -1,9 +1,10 @@
 #pragma once
 
-#include <array>
+#include <functional>
+#include <string_view>
 
+#include "blocks/expansion/ExpansionInputs.h"
 #include "controls/Form.h"
-#include "model/ConfExpansion.h"
 
 namespace ostrel {
 
@@ -17,8 +18,18 @@ class InputFrame {
   void Load(const ConfModulo& input);
   void Save(ConfModulo& input) const;
   void SetTitle(std::string_view title) { Titulo.face.SetCaption(title); }
+  /// The place that is chosen now; the first where there is none.
+  ModuleInput Place() const;
+  void SetPlace(ModuleInput place);
+  /// Tells that another input is wired to the same place; an empty text for none.
+  void SetShared(std::string_view words);
   /// The mode chosen; -1 for none.
   int Mode() const { return ModeCombo.Position(); }
+
+  /// Runs when another mode or place is chosen.
+  std::function<void()> OnChosen;
+  /// Runs when a free place is to be found.
+  std::function<void()> OnFindFree;
 
  private:
   Label Titulo, LabelMode;
@@ -27,6 +38,8 @@ class InputFrame {
   ComboBox AddressCombo;
   Label LabelInput;
   ComboBox InputCombo;
+  Button FindFree;
+  Label Shared;
   Label LabelGroup;
   ComboBox GroupCombo;
   TabStrip SSTab1;

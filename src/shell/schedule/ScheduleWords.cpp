@@ -1,5 +1,6 @@
 #include "shell/schedule/ScheduleWords.h"
 
+#include <algorithm>
 #include <array>
 
 #include "blocks/timers/EnabledTimers.h"
