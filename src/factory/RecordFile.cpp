@@ -62,7 +62,7 @@ std::string RowOf(const TestRecord& record, const std::vector<std::string>& valu
   for (const std::string& name : values) {
     const auto measured = std::ranges::find(record.values, name, &Measurement::name);
     const bool stands = measured != record.values.end();
-    row.Add(stands ? DecText(measured->value) : "").Add(stands ? measured->band.Text() : "");
+    row.Add(stands ? measured->Text() : "").Add(stands ? measured->band.Text() : "");
   }
   return row.Line();
 }

@@ -1,5 +1,7 @@
 #include "factory/TestPage.h"
 
+#include <algorithm>
+
 #include "base/Numbers.h"
 #include "base/Scope.h"
 #include "platform/Dialogs.h"
@@ -90,6 +92,13 @@ void TestPage::RunTest() {
     LabelTest.face.SetColour(BackColour::Red);
   else if (record.checked)
     LabelTest.face.SetColour(BackColour::Green);
+  ShowFirstFailed();
+}
+
+void TestPage::ShowFirstFailed() {
+  const auto failed = std::ranges::find(Values.Rows(), 0, &ListRow::value);
+  if (failed != Values.Rows().end())
+    Values.SetPosition(static_cast<int>(failed - Values.Rows().begin()));
 }
 
 void TestPage::Stop() {
@@ -100,7 +109,7 @@ void TestPage::ShowStep(std::string_view text) { LabelTest.face.SetCaption(text)
 
 /// The columns of a row stand between tabs; its value tells whether it has passed.
 void TestPage::ShowMeasured(const Measurement& measured) {
-  Values.Add(measured.name + "\t" + DecText(measured.value) + "\t" + measured.band.Text(),
+  Values.Add(measured.name + "\t" + measured.Text() + "\t" + measured.band.Text(),
              measured.passed ? 1 : 0);
   Values.SetPosition(static_cast<int>(Values.Rows().size()) - 1);
 }

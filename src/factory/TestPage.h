@@ -48,6 +48,7 @@ class TestPage final : public FrontForm, private TestPanel {
 
   void Tick();
   void RunTest();
+  void ShowFirstFailed();
   void ShowRunning(bool runs);
 
   TestPageContext context_;

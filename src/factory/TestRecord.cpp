@@ -1,5 +1,7 @@
 #include "factory/TestRecord.h"
 
+#include <charconv>
+
 #include "base/Numbers.h"
 #include "factory/GsmStates.h"
 
@@ -49,6 +51,14 @@ std::string Band::Text() const {
       return "not 0, 2..8";
   }
   return {};
+}
+
+std::string Measurement::Text() const {
+  constexpr int kDigits = 7;
+  char digits[32];
+  const auto end =
+      std::to_chars(digits, digits + sizeof digits, value, std::chars_format::general, kDigits).ptr;
+  return {digits, end};
 }
 
 std::string_view VerdictWord(TestVerdict verdict) {

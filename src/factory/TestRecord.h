@@ -37,6 +37,9 @@ struct Measurement {
   float value = 0;
   Band band;
   bool passed = false;
+
+  /// The value in up to 7 digits, as many as a single-precision number has.
+  std::string Text() const;
 };
 
 enum class TestVerdict {

@@ -46,12 +46,15 @@ void TestRun::HoldLine() {
 
 bool TestRun::GoesOn() const { return !stopped_ && !lineLost_; }
 
+/// A wait that ended ahead of its time, and was not stopped, has lost the line.
+void TestRun::NoteLine() { lineLost_ = !stopped_ && !line_.GoesOn(); }
+
 // ---- The board
 
 bool TestRun::Order(std::string_view message) {
   if (!GoesOn()) return false;
   const bool confirmed = OrderTest(line_, std::string(message));
-  lineLost_ = !stopped_ && !line_.GoesOn();
+  NoteLine();
   return confirmed && GoesOn();
 }
 
@@ -63,13 +66,13 @@ bool TestRun::FirstOrder(std::string_view message) {
 void TestRun::Delay(int ms) {
   if (!GoesOn()) return;
   line_.Delay(ms);
-  lineLost_ = !stopped_ && !line_.GoesOn();
+  NoteLine();
 }
 
 void TestRun::ReadTestFrame() {
   if (!GoesOn()) return;
   ostrel::ReadTestFrame(line_, plan_.scale, frame_);
-  lineLost_ = !stopped_ && !line_.GoesOn();
+  NoteLine();
 }
 
 void TestRun::NumberBoard(bool isBlank) {

@@ -92,6 +92,7 @@ class TestRun {
 
  private:
   void HoldLine();
+  void NoteLine();
   void End();
   void Keep();
   TestVerdict Verdict() const;

@@ -79,6 +79,7 @@ TEST_F(TestPageView, ARunEndsOnItsColourWithItsValues) {
     EXPECT_EQ(values->rowCount(), 42);
     EXPECT_EQ(values->item(32, 0)->text(), "VO2=24 A0");
     EXPECT_EQ(values->item(32, 3)->text().contains("FAILED"), !isGood);
+    EXPECT_EQ(values->currentRow(), isGood ? 41 : 32) << "what failed first is in view";
     EXPECT_GE(On<QLabel>(*desktop, "LabelTest")->font().pointSize(), 30) << "read from afar";
   }
 }

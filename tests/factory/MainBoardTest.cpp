@@ -113,6 +113,7 @@ TEST(MainBoard, ABoardShowsAllItsFaultsInOrder) {
   EXPECT_EQ(station.Colour(), BackColour::Red);
   auto record = station.LastRecord("main");
   EXPECT_EQ(record["VO0=12 A0"], "4.6013");
+  EXPECT_EQ(record["VO1=12 A1"], "0.02937");
   EXPECT_EQ(record["VO0=12 A0 band"], "4.4..4.8");
   EXPECT_EQ(record["VO1=12 S"], "-1");
   EXPECT_EQ(record["VBat"], "4.7");

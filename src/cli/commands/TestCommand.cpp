@@ -22,8 +22,8 @@ class TerminalPanel final : public TestPanel {
 
   void ShowStep(std::string_view text) override { Console().Note(text); }
   void ShowMeasured(const Measurement& measured) override {
-    Console().Note("  " + measured.name + " = " + DecText(measured.value) + " (" +
-                   measured.band.Text() + ")");
+    Console().Note("  " + measured.name + " = " + measured.Text() + " (" + measured.band.Text() +
+                   ")");
   }
   void ShowSignal(int rssi) override { Console().Note("  Gsm: " + std::to_string(rssi)); }
   void ShowSerial(const std::string& serial) override { Console().Note("  Serial: " + serial); }
@@ -66,7 +66,7 @@ void WriteRecord(std::ostream& out, const TestRecord& record) {
   constexpr int kNameWidth = 14, kValueWidth = 12, kBandWidth = 14;
   for (const Measurement& measured : record.values)
     out << std::left << std::setw(kNameWidth) << measured.name << std::setw(kValueWidth)
-        << DecText(measured.value) << std::setw(kBandWidth) << measured.band.Text()
+        << measured.Text() << std::setw(kBandWidth) << measured.band.Text()
         << (measured.passed ? "ok" : "FAILED") << '\n';
   out << record.model << ", serial number " << record.serial << ": " << VerdictWord(record.verdict)
       << '\n';

@@ -13,26 +13,23 @@
 namespace ostrel {
 namespace {
 
-constexpr int kStepPoints = 34;  // sizes of letters
-constexpr int kDigitPoints = 22;
-constexpr int kTablePoints = 15;
-constexpr int kButtonPoints = 13;
-constexpr int kTableRow = 30;  // pixels
+constexpr int kStepHeight = 150;  // of two lines of the step, in pixels
+constexpr int kTableRow = 32;
 
-void SetPoints(QWidget* widget, int points, bool isBold = false) {
-  QFont font = widget->font();
-  font.setPointSize(points);
-  font.setBold(isBold);
-  widget->setFont(font);
+/// Shows a widget in the large letters that the style sheet has for a part of this page.
+QWidget* Large(QWidget* widget, const char* part) {
+  widget->setProperty("testPart", part);
+  return widget;
 }
 
 /// What the run does, and at its end the verdict on its colour.
 QWidget* StepBox(FormView& view) {
   auto* step = view.Show<QLabel>("LabelTest");
-  SetPoints(step, kStepPoints, true);
+  Large(step, "step");
   step->setWordWrap(true);
   step->setAlignment(Qt::AlignCenter);
-  step->setMinimumHeight(step->fontMetrics().height() * 2 + 24);
+  step->setFixedHeight(kStepHeight);
+  step->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
   view.Whenever({"LabelTest"}, [step, face = &FaceOf(view.GetForm()["LabelTest"])] {
     const QString verdict = face->Colour() == BackColour::Green ? "passed"
                             : face->Colour() == BackColour::Red ? "failed"
@@ -48,14 +45,8 @@ QWidget* StepBox(FormView& view) {
 QLayout* ButtonRow(FormView& view) {
   auto* row = new QHBoxLayout;
   view.Show("Command1")->setProperty("primary", true);
-  for (const auto* name : {"Command1", "CommandStop", "Command2"}) {
-    SetPoints(view.Show(name), kButtonPoints);
-    row->addWidget(view.Show(name));
-  }
-  if (view.Has("Check1")) {
-    SetPoints(view.Show("Check1"), kButtonPoints);
-    row->addWidget(view.Show("Check1"));
-  }
+  for (const auto* name : {"Command1", "CommandStop", "Command2", "Check1"})
+    if (view.Has(name)) row->addWidget(Large(view.Show(name), "button"));
   row->addStretch(1);
   return row;
 }
@@ -66,9 +57,8 @@ QWidget* Digits(FormView& view) {
   int column = 0;
   for (const auto& [label, digit] :
        {std::pair{"LabelVin", "DigitVin"}, std::pair{"LabelSerial", "DigitSerial"}}) {
-    SetPoints(view.Show(digit), kDigitPoints, true);
     card.grid->addWidget(view.Show(label), 0, column++);
-    card.grid->addWidget(view.Show(digit), 0, column++);
+    card.grid->addWidget(Large(view.Show(digit), "digits"), 0, column++);
     card.grid->setColumnStretch(column - 1, 1);
   }
   card.grid->addWidget(view.LabelFor("ProgressBar1", std::string_view("LabelGsm")), 0, column++);
@@ -86,7 +76,7 @@ QWidget* Hints(FormView& view) {
   row->addWidget(view.LabelFor("TextStation", std::string_view("LabelStation")));
   row->addWidget(view.Show("TextStation"), 1);
   for (const auto* name : {"Label1", "Label2", "Picture1"})
-    if (view.Has(name)) row->addWidget(view.Show(name));
+    if (view.Has(name)) row->addWidget(Large(view.Show(name), "button"));
   return box;
 }
 
@@ -99,7 +89,7 @@ QWidget* ValueTable(FormView& view) {
                << (passed ? "\u2714 " + Words::tr("good") : "\u2718 " + Words::tr("FAILED"));
       });
   auto* table = static_cast<QTableWidget*>(view.ShowNamed("Values", Words::tr("Measured values")));
-  SetPoints(table, kTablePoints);
+  Large(table, "table");
   table->verticalHeader()->setDefaultSectionSize(kTableRow);
   table->setMinimumHeight(5 * kTableRow);
   return table;
