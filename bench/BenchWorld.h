@@ -13,6 +13,10 @@
 
 namespace ostrel {
 
+inline double Seconds(Duration duration) {
+  return std::chrono::duration<double>(duration).count();
+}
+
 /// A configurator and a simulated logger with a dense configuration, on virtual time.
 struct BenchWorld {
   static constexpr std::int16_t kPort = 7;

@@ -3,13 +3,13 @@
 
 #include <benchmark/benchmark.h>
 
+#include <algorithm>
+
 #include "BenchWorld.h"
 #include "model/Features.h"
 
 namespace ostrel {
 namespace {
-
-double Seconds(Duration duration) { return std::chrono::duration<double>(duration).count(); }
 
 void Report(benchmark::State& state, Duration took, Duration ideal) {
   state.counters["line_s"] = Seconds(took);
@@ -54,6 +54,29 @@ void PacedUpload(benchmark::State& state) {
   }
 }
 BENCHMARK(PacedUpload)->DenseRange(0, 5)->Unit(benchmark::kMillisecond);
+
+/// The image of a firmware update, of so many octets as stored, on the paced line. Its ratio is at
+/// most 1.01.
+void PacedFirmware(benchmark::State& state) {
+  const FirmwareFiles files{std::string(static_cast<std::size_t>(state.range(0)), 'x'), ":"};
+  for ([[maybe_unused]] const auto _ : state) {
+    BenchWorld world(sim::Model::BP, true);
+    if (!world.program.session.Open(BenchWorld::kPort, ""))
+      return state.SkipWithError("no session");
+    TimePoint begun{}, ended{};
+    std::size_t mostQueued = 0;
+    const auto listener = world.program.comms.OnProgress([&](const Progress& told) {
+      if (told.stage == Progress::Stage::Begun) begun = world.loop.Now();
+      if (told.stage == Progress::Stage::Step) ended = world.loop.Now();
+      mostQueued = std::max(mostQueued, world.port.OutBufferCount());
+    });
+    if (!world.program.session.SendFirmware(files, [](FirmwareStage) {}))
+      return state.SkipWithError("firmware");
+    Report(state, ended - begun, LineTime(SentOctets(files.image.size())));
+    state.counters["queued"] = static_cast<double>(mostQueued);  // at most 480
+  }
+}
+BENCHMARK(PacedFirmware)->Arg(100'000)->Arg(1'000'000)->Unit(benchmark::kMillisecond);
 
 void DecodeStream(benchmark::State& state) {
   BenchWorld world(sim::Model::BP);

@@ -1,6 +1,8 @@
 # The window: what it links, its program, its words and what they bring to an installation.
-find_package(Qt6 REQUIRED COMPONENTS Widgets DBus LinguistTools)
-target_link_libraries(ostrel_desktop PUBLIC Qt6::Widgets PRIVATE Qt6::DBus)
+find_package(Qt6 REQUIRED COMPONENTS Widgets PrintSupport DBus LinguistTools)
+find_package(QCustomPlotQt6 REQUIRED)
+target_link_libraries(ostrel_desktop PUBLIC Qt6::Widgets Qt6::PrintSupport
+                                            QCustomPlotQt6::QCustomPlotQt6 PRIVATE Qt6::DBus)
 
 add_executable(ostrel-configurator src/desktop/main/OstrelConfigurator.cpp)
 target_link_libraries(ostrel-configurator PRIVATE ostrel_desktop)
@@ -23,3 +25,25 @@ install(FILES ${CMAKE_SOURCE_DIR}/data/icons/ostrel-configurator.svg
         DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps)
 install(FILES ${CMAKE_SOURCE_DIR}/docs/man/ostrel-configurator.1
         DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+
+# Help pages of our own, a page word each, in English and Spanish; pages that are supplied apart
+# come ahead of them.
+set(help_folder ${CMAKE_BINARY_DIR}/share/ostrel-configurator/help)
+file(GLOB help_texts CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/docs/help/en/*.md
+                                       ${CMAKE_SOURCE_DIR}/docs/help/es/*.md)
+set(help_pages)
+foreach(text IN LISTS help_texts)
+  cmake_path(GET text STEM word)
+  cmake_path(GET text PARENT_PATH language)
+  cmake_path(GET language FILENAME language)
+  string(TOUPPER ${language} ending)
+  set(page ${help_folder}/${word}_${ending}.htm)
+  add_custom_command(OUTPUT ${page}
+                     COMMAND ${CMAKE_COMMAND} -DTEXT=${text} -DPAGE=${page}
+                             -P ${CMAKE_SOURCE_DIR}/cmake/HelpPage.cmake
+                     DEPENDS ${text} ${CMAKE_SOURCE_DIR}/cmake/HelpPage.cmake VERBATIM)
+  list(APPEND help_pages ${page})
+endforeach()
+add_custom_target(ostrel_help ALL DEPENDS ${help_pages})
+add_dependencies(ostrel_desktop ostrel_help)
+install(DIRECTORY ${help_folder} DESTINATION ${CMAKE_INSTALL_DATADIR}/ostrel-configurator)

@@ -14,6 +14,7 @@ qt6-serialport-dev libqt6serialport6-dev
 qt6-tools-dev
 qt6-l10n-tools
 libgl-dev libgl1-mesa-dev
+libqcustomplot-dev
 libcli11-dev
 nlohmann-json3-dev
 libgtest-dev

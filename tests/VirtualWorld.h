@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/Line.h"
 #include "platform/Platform.h"
 #include "platform/virtual/LinePort.h"
 #include "platform/virtual/VirtualClock.h"
@@ -10,6 +11,12 @@
 #include "platform/virtual/VirtualSettings.h"
 
 namespace ostrel {
+
+/// A device that never speaks.
+struct SilentDevice final : LineDevice {
+  void Receive(std::string_view) override {}
+  void SetTerminalReady(bool) override {}
+};
 
 /// The outside world of a test: everything in memory and on virtual time.
 struct VirtualWorld {

@@ -9,6 +9,7 @@
 
 #include "factory/Station.h"
 #include "host/SimulatedLoggers.h"
+#include "platform/Files.h"
 #include "platform/Platform.h"
 
 namespace ostrel::cli {
@@ -27,6 +28,7 @@ struct Environment {
   Ask ask;  ///< empty when no operator sits at the terminal
   /// Reads an open descriptor to its end, or to the end of its first line, which it leaves out.
   std::function<FileResult(int descriptor, bool lineOnly, std::string& octets)> readDescriptor;
+  std::int16_t lang = 1;    ///< column of the language table that the user's language asks for
   std::string code;         ///< access code of the environment; empty for none
   std::string dataFolder;   ///< the user's own; made when needed
   Station station{};        ///< of factory tests, where none is stored
@@ -35,7 +37,16 @@ struct Environment {
   std::function<int(const std::string& path)> numberOfDevice;
   /// Opens a text file that grows while the command runs; null when it may not be written, which
   /// `why` tells.
-  std::function<std::unique_ptr<std::ostream>(const std::string& path, std::string& why)> openLog;
+  OpenLogFile openLog;
+  /// The same for a recording of live values.
+  OpenLogFile openRecording{};
+  /// Opens a text file to which is added while the command runs.
+  OpenLogFile openGrowing;
+  /// Gives the lines of standard input as they come, and then its end, for as long as the result
+  /// lives; empty where there is no input.
+  std::function<std::shared_ptr<void>(std::function<void(std::string line)> onLine,
+                                      std::function<void()> onEnd)>
+      watchInput;
   /// What an interrupt does; set by a command for as long as it has a port open.
   std::function<void()> onInterrupt;
   /// Whether a signal has come that ends the program, served or not; empty where none can come.

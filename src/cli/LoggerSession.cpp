@@ -83,6 +83,12 @@ ExitCode LoggerSession::WriteVoiceList(const ConfAutVoz& list) {
   return Fault(ExitCode::DialogueFailed, fault);
 }
 
+ExitCode LoggerSession::SendFirmware(const FirmwareFiles& files,
+                                     const FirmwareDialogue::OnStage& onStage) {
+  if (configurator_.session.SendFirmware(files, onStage)) return ExitCode::Done;
+  return Fault(ExitCode::DialogueFailed, *configurator_.session.State().failed);
+}
+
 SessionFault LoggerSession::FaultOf(const LinkResult& result) const {
   SessionFault fault = configurator_.session.FaultDuring(SessionPhase::Open);
   fault.link = result.Fault();

@@ -29,6 +29,8 @@ class LoggerSession {
   ExitCode Run(const std::function<LinkResult()>& dialogue);
   /// Writes the voice-call list, whose count and check sum are up to date.
   ExitCode WriteVoiceList(const ConfAutVoz& list);
+  /// Replaces the logger's firmware; the session is to be closed then.
+  ExitCode SendFirmware(const FirmwareFiles& files, const FirmwareDialogue::OnStage& onStage);
   /// Says why a short dialogue failed.
   ExitCode Failed(const LinkResult& result);
   void Close();

@@ -46,7 +46,8 @@ void AddGlobals(CLI::App& app, GlobalOptions& options) {
   codeFile->excludes(code);
   app.add_option("--trace", options.trace, "File that gets what passes on the line");
   app.add_option("--sim-state", options.simState, "File in which a simulated logger is kept");
-  app.add_option("--lang", options.lang, "Column of the language table for the core's texts")
+  app.add_option("--lang", options.lang,
+                 "Column of the language table for the core's texts, else that of the locale")
       ->check(CLI::Range(1, 5));
   app.add_option_function<std::string>(
          "--features",
@@ -63,9 +64,10 @@ void AddGlobals(CLI::App& app, GlobalOptions& options) {
 
 std::vector<Command> AddCommands(CLI::App& app) {
   std::vector<Command> commands;
-  for (const auto add : {AddPorts, AddInfo, AddClock, AddLive, AddOutput, AddTotal, AddVoice,
-                         AddProbe, AddDownload, AddUpload, AddBackups, AddRestore, AddStatements,
-                         AddDiff, AddShow, AddCheck, AddSchedule, AddCalc, AddTest})
+  for (const auto add :
+       {AddPorts,      AddInfo,     AddClock,    AddLive,     AddOutput,   AddTotal,   AddVoice,
+        AddProbe,      AddTerminal, AddFirmware, AddDownload, AddUpload,   AddBackups, AddRestore,
+        AddStatements, AddDiff,     AddShow,     AddCheck,    AddSchedule, AddCalc,    AddTest})
     commands.push_back(add(app));
   for (const Command& command : commands) command.parser->fallthrough();
   app.require_subcommand(1);
@@ -140,6 +142,7 @@ ExitCode RunOstrelctl(std::span<const std::string> args, Environment& environmen
   CLI::App app("Reads, checks, compares and writes the configurations of telemetry loggers",
                "ostrelctl");
   GlobalOptions options;
+  options.lang = environment.lang;
   AddGlobals(app, options);
   const std::vector<Command> commands = AddCommands(app);
   const ConfiguratorOptions version;

@@ -2,8 +2,8 @@
 
 namespace ostrel::cli {
 
-FileResult StandardFiles::ReadInto(const std::string& path, std::string& octets) {
-  if (path != kStandard) return files_.ReadInto(path, octets);
+FileResult StandardFiles::ReadUpTo(const std::string& path, std::size_t most, std::string& octets) {
+  if (path != kStandard) return files_.ReadUpTo(path, most, octets);
   if (!read_) read_ = readInput_(input_);
   octets = input_;
   return *read_;

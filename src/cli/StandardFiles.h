@@ -24,7 +24,8 @@ class StandardFiles final : public Files {
   StandardFiles(Files& files, ReadInput readInput)
       : files_(files), readInput_(std::move(readInput)) {}
 
-  FileResult ReadInto(const std::string& path, std::string& octets) override;
+  /// What comes in by standard input has the limit of most files.
+  FileResult ReadUpTo(const std::string& path, std::size_t most, std::string& octets) override;
   bool Exists(const std::string& path) override { return path == kStandard || files_.Exists(path); }
   std::vector<std::string> List(const std::string& folder) override { return files_.List(folder); }
   std::string Resolve(const std::string& path) override { return files_.Resolve(path); }

@@ -89,6 +89,20 @@ void TextBox::SetHidden(bool hidden) {
   face.Changed();
 }
 
+TextView::TextView(Form& form, std::string_view name) : face(name, "") { form.Register(this); }
+
+void TextView::Append(std::string_view text) {
+  if (text.empty()) return;
+  text_ += text;
+  face.Changed();
+}
+
+void TextView::Clear() {
+  text_.clear();
+  ++clearings_;
+  face.Changed();
+}
+
 ComboBox::ComboBox(Form& form, std::string_view name) : face(name, "") { form.Register(this); }
 
 void ComboBox::Add(std::string_view text, std::int32_t value) {

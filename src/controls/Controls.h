@@ -108,12 +108,32 @@ class TextBox {
   void SetHidden(bool hidden);
 
   Face face;
+  /// Arrow up (-1) or down (1) was pressed in the box.
+  std::function<void(int way)> OnArrow;
 
  private:
   std::string text_;
   int maxLength_;
   std::string_view numberKind_;
   bool hidden_ = false;
+};
+
+/// A text of any length that grows at its end and is only read.
+class TextView {
+ public:
+  TextView(Form& form, std::string_view name);
+  const std::string& Text() const { return text_; }
+  void Append(std::string_view text);
+  void Clear();
+  /// How often it was cleared: whoever has shown a part of the text knows by that whether it
+  /// stands.
+  int Clearings() const { return clearings_; }
+
+  Face face;
+
+ private:
+  std::string text_;
+  int clearings_ = 0;
 };
 
 /// One row of a list, with the value that stands for it.

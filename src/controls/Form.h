@@ -8,14 +8,16 @@
 #include <vector>
 
 #include "controls/Controls.h"
+#include "controls/Readouts.h"
 #include "platform/Dialogs.h"
 
 namespace ostrel {
 
 /// Any control of a form, by its kind.
 using ControlRef =
-    std::variant<Label*, Frame*, Button*, CheckBox*, OptionButton*, TextBox*, ComboBox*, ListBox*,
-                 MultiListBox*, TimePicker*, ProgressBar*, Picture*, TabStrip*, Timer*>;
+    std::variant<Label*, Frame*, Button*, CheckBox*, OptionButton*, TextBox*, TextView*, ComboBox*,
+                 ListBox*, MultiListBox*, TimePicker*, ProgressBar*, Picture*, TabStrip*, DigitBox*,
+                 LedMedio*, LimitBar*, TabRow*, Timer*>;
 
 Face& FaceOf(const ControlRef& control);
 

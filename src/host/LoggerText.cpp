@@ -3,6 +3,8 @@
 #include <array>
 #include <charconv>
 
+#include "link/WireText.h"
+
 namespace ostrel {
 
 std::string FeaturesText(std::int32_t features) {
@@ -30,5 +32,7 @@ std::string NoWholeNumber(const std::string& text) {
 std::string ClockText(const DateTime& time) {
   return time == DateTime{} ? std::string() : DateTimeText(time);
 }
+
+std::string WithoutSecrets(std::string_view octets) { return MaskPasswords(MaskCode(octets)); }
 
 }  // namespace ostrel

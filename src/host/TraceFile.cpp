@@ -10,10 +10,15 @@
 #include <string_view>
 #include <system_error>
 
+#include "tools/LiveRecording.h"
+
 namespace ostrel {
 namespace {
 
 constexpr mode_t kOwnFile = 0600;
+constexpr mode_t kAnyFile = 0666;  // less what the user's mask takes
+/// Non-blocking: a pipe that nobody reads holds nothing up.
+constexpr int kFlags = O_CREAT | O_NONBLOCK | O_NOCTTY | O_CLOEXEC;
 
 /// Writes to an open file at once, and closes it at its end.
 class DescriptorBuffer final : public std::streambuf {
@@ -54,16 +59,31 @@ class DescriptorStream final : public std::ostream {
   DescriptorBuffer buffer_;
 };
 
-/// Whether a file is empty or begins as a trace does: each of its lines says early which way it
-/// went.
-bool HoldsNothingElse(int descriptor) {
+/// A kind of file that grows while a program runs.
+struct GrowingKind {
+  bool (*isFirstLine)(std::string_view line);  ///< how a former one begins
+  const char* name;
+  mode_t mode;  ///< of a new one
+};
+
+/// Each line of a trace says early which way it went.
+constexpr GrowingKind kTrace{
+    [](std::string_view line) {
+      for (const std::string_view word : {"TxSer", "RxSer", "TxGsm", "RxGsm", "octets"})
+        if (line.find(word) != std::string_view::npos) return true;
+      return false;
+    },
+    "a trace", kOwnFile};
+constexpr GrowingKind kRecording{
+    [](std::string_view line) { return line.starts_with(kRecordingHead); }, "a recording",
+    kAnyFile};
+
+/// Whether a file is empty or begins as one of its kind does.
+bool HoldsNothingElse(int descriptor, const GrowingKind& kind) {
   std::array<char, 256> start{};
   const ssize_t got = ::pread(descriptor, start.data(), start.size(), 0);
   const std::string_view text(start.data(), got > 0 ? static_cast<std::size_t>(got) : 0);
-  const std::string_view line = text.substr(0, text.find('\n'));
-  for (const std::string_view word : {"TxSer", "RxSer", "TxGsm", "RxGsm", "octets"})
-    if (line.find(word) != std::string_view::npos) return true;
-  return text.empty();
+  return text.empty() || kind.isFirstLine(text.substr(0, text.find('\n')));
 }
 
 std::string WordsOf(int error) {
@@ -71,29 +91,44 @@ std::string WordsOf(int error) {
   return std::generic_category().message(error);
 }
 
-}  // namespace
-
-std::unique_ptr<std::ostream> OpenTrace(const std::string& path, std::string& why) {
-  // Non-blocking: a pipe that nobody reads holds nothing up.
-  constexpr int kFlags = O_CREAT | O_NONBLOCK | O_NOCTTY | O_CLOEXEC;
+std::unique_ptr<std::ostream> Open(const std::string& path, const GrowingKind& kind,
+                                   std::string& why) {
   struct stat state {};
   const bool isPipe = ::stat(path.c_str(), &state) == 0 && !S_ISREG(state.st_mode);
-  const int descriptor = ::open(path.c_str(), (isPipe ? O_WRONLY : O_RDWR) | kFlags, kOwnFile);
+  const int descriptor = ::open(path.c_str(), (isPipe ? O_WRONLY : O_RDWR) | kFlags, kind.mode);
   if (descriptor < 0) {
     why = WordsOf(errno);
     return nullptr;
   }
   auto stream = std::make_unique<DescriptorStream>(descriptor);
   if (isPipe) return stream;
-  if (!HoldsNothingElse(descriptor)) {
-    why = "it holds something else than a trace";
+  if (!HoldsNothingElse(descriptor, kind)) {
+    why = std::string("it holds something else than ") + kind.name;
     return nullptr;
   }
-  if (::fchmod(descriptor, kOwnFile) != 0 || ::ftruncate(descriptor, 0) != 0) {
+  const bool isProtected = kind.mode != kOwnFile || ::fchmod(descriptor, kOwnFile) == 0;
+  if (!isProtected || ::ftruncate(descriptor, 0) != 0) {
     why = WordsOf(errno);
     return nullptr;
   }
   return stream;
+}
+
+}  // namespace
+
+std::unique_ptr<std::ostream> OpenTrace(const std::string& path, std::string& why) {
+  return Open(path, kTrace, why);
+}
+
+std::unique_ptr<std::ostream> OpenLog(const std::string& path, std::string& why) {
+  const int descriptor = ::open(path.c_str(), O_WRONLY | O_APPEND | kFlags, kOwnFile);
+  if (descriptor >= 0) return std::make_unique<DescriptorStream>(descriptor);
+  why = WordsOf(errno);
+  return nullptr;
+}
+
+std::unique_ptr<std::ostream> OpenRecording(const std::string& path, std::string& why) {
+  return Open(path, kRecording, why);
 }
 
 }  // namespace ostrel

@@ -12,4 +12,12 @@ namespace ostrel {
 /// tells.
 std::unique_ptr<std::ostream> OpenTrace(const std::string& path, std::string& why);
 
+/// The same for a recording of live values, which takes the place of a former one alone. Who may
+/// read a new one is as for any new file.
+std::unique_ptr<std::ostream> OpenRecording(const std::string& path, std::string& why);
+/// Opens a text file to add to what it holds; a new one is readable by its owner alone. A device or
+/// a pipe is written to where another program reads it. Null when it cannot be written, which `why`
+/// tells.
+std::unique_ptr<std::ostream> OpenLog(const std::string& path, std::string& why);
+
 }  // namespace ostrel

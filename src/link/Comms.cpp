@@ -62,8 +62,11 @@ LinkResult Comms::StartComs(std::int16_t port, const std::string& phone) {
   carrierGoneAt_.reset();
   const LinkResult result = Keep(Opening(line_, AccessCode, hooks_.showPWForm).Run(port, phone));
   opened_ = result;
+  if (!result) return result;
   // A flag left behind by whatever ran before must not block the session.
-  if (result) LinkBusy = false;
+  LinkBusy = false;
+  // The values that are held may be those of another logger.
+  records_.live.reads = {};
   return result;
 }
 
@@ -119,7 +122,8 @@ LinkResult Comms::ReadIOParameter() {
 
 LinkResult Comms::ReadRealTime() {
   const auto requests = ValueRequests(records_.live, records_.profile, records_.info);
-  return line_.Converse(line_.TimeFor(requests.size()), [&] { return FetchLive(line_, requests); });
+  return line_.Converse(line_.TimeFor(requests.size()),
+                        [&] { return FetchLive(line_, requests, platform_.clock); });
 }
 
 LinkResult Comms::SetOutput(std::int16_t mask) {
@@ -151,6 +155,12 @@ LinkResult Comms::WriteAutVoz(const ConfAutVoz& list) {
 
 LinkResult Comms::ReadAutVozList(ConfAutVoz& list) {
   return Keep(line_.Converse(kAnyTime, [&] { return voice_.Read(list); }));
+}
+
+LinkResult Comms::SendFirmware(const FirmwareFiles& files,
+                               const FirmwareDialogue::OnStage& onStage) {
+  return Keep(line_.Converse(
+      kAnyTime, [&] { return FirmwareDialogue(line_, progress_).Run(files, onStage); }));
 }
 
 LinkResult Comms::Set(std::string message, std::string_view answer) {

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "link/Download.h"
+#include "link/FirmwareDialogue.h"
 #include "link/Line.h"
 #include "link/Progress.h"
 #include "link/Upload.h"
@@ -70,6 +71,7 @@ class Comms {
   /// which fails.
   void Abort() { line_.Close(); }
   std::string GetChar(int timeout) { return line_.GetChar(timeout); }
+  std::string TakeInput() { return line_.TakeInput(); }
   void Delay(int ms) { line_.Delay(ms); }
   void PumpEvents() { line_.PumpEvents(); }
   bool PortOpen() const { return line_.PortOpen(); }
@@ -122,6 +124,9 @@ class Comms {
   LinkResult WriteAutVoz(const ConfAutVoz& list);
   /// Reads the voice-call list. After a failure some of its numbers may have come.
   LinkResult ReadAutVozList(ConfAutVoz& list);
+  /// Replaces the logger's firmware, and tells each stage as it begins. Success: all is sent, and
+  /// the logger has left the dialogue.
+  LinkResult SendFirmware(const FirmwareFiles& files, const FirmwareDialogue::OnStage& onStage);
 
   /// Why the last opening, transfer or setting failed; kept until the next one ends. What is only
   /// read now and then does not change it.

@@ -130,11 +130,15 @@ void Line::EndTornMessage() {
   if (std::exchange(torn_, false)) port_.Output(std::string_view(&kEndOfLine, 1));
 }
 
-bool Line::AwaitSent() {
-  for (std::size_t queued = port_.OutBufferCount(); queued > 0; queued = port_.OutBufferCount()) {
+bool Line::AwaitSent(std::size_t mayWait) {
+  for (std::size_t queued = Unsent(); queued > mayWait; queued = Unsent()) {
     const TimePoint giveUp = loop_.Now() + LineTime(queued) + kLongestHold;
-    const bool moved = loop_.RunUntil([&] { return port_.OutBufferCount() < queued || !GoesOn(); },
-                                      std::min(giveUp, limit_));
+    // A queue tells when it is empty; when it holds little enough follows from the line's speed.
+    if (mayWait > 0)
+      loop_.RunUntil([&] { return Unsent() <= mayWait || !GoesOn(); },
+                     std::min(loop_.Now() + LineTime(queued - mayWait + 1), limit_));
+    const bool moved =
+        loop_.RunUntil([&] { return Unsent() < queued || !GoesOn(); }, std::min(giveUp, limit_));
     if (moved && GoesOn()) continue;
     GiveUpSending(!moved);
     return false;
@@ -165,6 +169,22 @@ std::string Line::GetChar(int timeout) {
   return HasInput() ? port_.Input() : std::string();
 }
 
+std::string Line::TakeInput() {
+  NoteLostOctets();
+  std::string taken;
+  while (HasInput()) {
+    heardAt_ = loop_.Now();
+    taken += port_.Input();
+  }
+  return taken;
+}
+
+bool Line::AwaitThat(const std::function<bool()>& hasCome, int timeout) {
+  MainTimer_.Start(timeout);
+  loop_.RunUntil([&] { return hasCome() || !GoesOn(); }, std::min(MainTimer_.Deadline(), limit_));
+  return hasCome();
+}
+
 void Line::Delay(int ms) {
   const bool wentOn = GoesOn();
   MainTimer_.Start(ms);
@@ -173,12 +193,13 @@ void Line::Delay(int ms) {
 }
 
 Duration Line::SilentFor() const {
-  if (!LinkBusy || !awaitedSince_) return Duration::zero();
+  // What has come and is not taken yet, while a question to the operator stands, is no silence.
+  if (!LinkBusy || !awaitedSince_ || HasInput()) return Duration::zero();
   return loop_.Now() - *awaitedSince_;
 }
 
 Duration Line::UnansweredFor() const {
-  return askedAt_ ? loop_.Now() - *askedAt_ : Duration::zero();
+  return askedAt_ && !HasInput() ? loop_.Now() - *askedAt_ : Duration::zero();
 }
 
 void Line::NoteQuestion() {

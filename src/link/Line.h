@@ -64,6 +64,8 @@ class Line {
   bool Ask(std::string message, int extraMs = 0);
   /// Sends a message and awaits a reply that starts with `head`.
   LinkFault AskFor(std::string message, std::string_view head);
+  /// Sends a message and awaits exactly one reply to it, in a time of its own.
+  LinkFault AskOnly(std::string message, int timeout, std::string_view reply);
   /// Sends a message that has no reply of its own, and waits until it has left; false when it does
   /// not leave. `RxLine` is empty then, and a damaged frame from now on counts as one of its time.
   bool Post(std::string message);
@@ -83,12 +85,18 @@ class Line {
   /// Ends what is left of a message that was given up, where there is such a thing. `Put` does it,
   /// too; this is for who must keep silent before the next octet.
   void EndTornMessage();
-  /// Waits until what was written is on the line, however long that takes as long as it moves. A
-  /// line that flow control holds for too long is given up: the rest is discarded, so that it never
-  /// reaches a logger late, and the result is false.
-  bool AwaitSent();
+  /// Waits until what was written is on the line, but for the last `mayWait` octets, however long
+  /// that takes as long as it moves. A line that flow control holds for too long is given up: the
+  /// rest is discarded, so that it never reaches a logger late, and the result is false.
+  bool AwaitSent(std::size_t mayWait = 0);
+  /// Octets that were written and are not on the line yet.
+  std::size_t Unsent() const { return port_.OutBufferCount(); }
   /// One received character as an octet in a text, or empty after `timeout`.
   std::string GetChar(int timeout);
+  /// All that has been received and not taken yet.
+  std::string TakeInput();
+  /// Waits for something that received characters bring about. False when it has not come in time.
+  bool AwaitThat(const std::function<bool()>& hasCome, int timeout);
   /// Ignores what arrives until the line is quiet: for a stream that failed and may still run.
   void AwaitQuiet();
   /// Waits, serving events. Ends early when the port is closed or lost meanwhile.

@@ -72,6 +72,14 @@ LinkFault Line::AskFor(std::string message, std::string_view head) {
   return FaultNow(LinkFault::Kind::WrongAnswer, 0, RxLine);
 }
 
+LinkFault Line::AskOnly(std::string message, int timeout, std::string_view reply) {
+  RxLine.clear();
+  TxSer(message, timeout);
+  if (RxLine.empty()) return WaitFault();
+  if (RxLine == reply) return {};
+  return FaultNow(LinkFault::Kind::WrongAnswer, 0, RxLine);
+}
+
 bool Line::Post(std::string message) {
   RxLine.clear();
   TxSer(message, 0);

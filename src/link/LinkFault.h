@@ -33,6 +33,7 @@ struct LinkFault {
     LineLost,         ///< the port's device has gone
     PortClosed,       ///< the port was closed in the middle
     LineTooLong,      ///< a line without an end arrived; `number` as for Silence
+    NoAliveMark,      ///< no sign of life came while an image was sent; `number` octets had left
   } kind = Kind::None;
   int number = 0;
   std::string text{};

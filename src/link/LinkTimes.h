@@ -22,6 +22,14 @@ inline constexpr int kFastRefusalMs = 10;
 inline constexpr int kEraseMs = 10'000;   ///< on top of the reply wait, while a list is erased
 inline constexpr int kVoicePauseMs = 50;  ///< behind each number of the voice-call list
 
+// Waits of a firmware update.
+inline constexpr int kFlashAnswerMs = 10'000;   ///< until the logger says that it erases its flash
+inline constexpr int kFlashEraseMs = 50'000;    ///< until it has erased it
+inline constexpr int kImageEndMs = 10'000;      ///< for its last word on the image
+inline constexpr int kLoaderAnswerMs = 20'000;  ///< until it is ready for the loader
+/// For a sign of life behind a block that has left: the time of its own octets, and to spare.
+inline constexpr int kAliveMarkMs = 100;
+
 /// How often a message is sent, and a dialogue tried, before it counts as failed.
 inline constexpr int kLinkAttempts = 3;
 inline constexpr int kCodePasses = 3;

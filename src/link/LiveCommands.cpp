@@ -33,10 +33,11 @@ LinkFault FetchEach(Line& line, const std::vector<LiveRequest>& requests) {
   return EndOf(line);
 }
 
-LinkFault FetchLive(Line& line, const std::vector<LiveRequest>& requests) {
+LinkFault FetchLive(Line& line, const std::vector<LiveRequest>& requests, const Clock& clock) {
   LinkFault ofMasks;
   for (const LiveRequest& request : requests) {
     LinkFault fault = Fetch(line, request);
+    if (request.read) request.read->Note(fault.Ok(), clock.LocalTime());
     if (request.message == kMasksRequest) ofMasks = std::move(fault);
   }
   const LinkFault end = EndOf(line);

@@ -7,6 +7,7 @@
 
 #include "link/Line.h"
 #include "link/LiveRequests.h"
+#include "platform/Clock.h"
 
 namespace ostrel {
 
@@ -17,8 +18,8 @@ LinkFault FetchTotals(Line& line, TotalCounts& totals);
 /// only that the line did not last to the end.
 LinkFault FetchEach(Line& line, const std::vector<LiveRequest>& requests);
 
-/// The same, but the answer that carries the masks has to come.
-LinkFault FetchLive(Line& line, const std::vector<LiveRequest>& requests);
+/// The same, but the answer that carries the masks has to come. Notes which answers came and when.
+LinkFault FetchLive(Line& line, const std::vector<LiveRequest>& requests, const Clock& clock);
 
 /// Sets outputs 0 to `count` less 1 by a mask, one bit each. Answers are not looked at.
 LinkFault SwitchOutputs(Line& line, std::uint16_t mask, int count);

@@ -115,17 +115,20 @@ std::vector<LiveRequest> ValueRequests(RealTimeData& live, const TargetProfile& 
   const auto modules = [&live](int first) {
     return FieldsInto(live.ModuloValue, kModulesAValue, first);
   };
+  const auto into = [&live](LiveAnswer answer) { return &live.reads[static_cast<int>(answer)]; };
   return Applying({
-      {"#2F1D3D", "#D0", profile.IsS100, modules(0)},
-      {"#2F7595", "#D0", profile.IsS100, modules(32)},
-      {"#2F95B5", "#D0", profile.IsS100, modules(64)},
-      {"#2D", "#D2", profile.IsVR200, FieldsInto(live.ModbusValue, kModbusChannels)},
-      {"#20", "#DF", true, FieldsInto(live.CounterValue, kCounters)},
-      {"#22", "#DD", true, FieldsInto(live.FlowValue, kFlows)},
-      {std::string(kMasksRequest), "#DC", true, MasksInto(live)},
-      {"#29", "#D6", hasMath, FieldsInto(live.MathValue, profile.MathCount)},
-      {"#28", "#D7", hasMath, RawMathInto(live)},
-      {"#36", "#C9", hasAux, FieldsInto(live.AuxValue, kAuxInputs)},
+      {"#2F1D3D", "#D0", profile.IsS100, modules(0), into(LiveAnswer::Modules0)},
+      {"#2F7595", "#D0", profile.IsS100, modules(32), into(LiveAnswer::Modules32)},
+      {"#2F95B5", "#D0", profile.IsS100, modules(64), into(LiveAnswer::Modules64)},
+      {"#2D", "#D2", profile.IsVR200, FieldsInto(live.ModbusValue, kModbusChannels),
+       into(LiveAnswer::Modbus)},
+      {"#20", "#DF", true, FieldsInto(live.CounterValue, kCounters), into(LiveAnswer::Counters)},
+      {"#22", "#DD", true, FieldsInto(live.FlowValue, kFlows), into(LiveAnswer::Flows)},
+      {std::string(kMasksRequest), "#DC", true, MasksInto(live), into(LiveAnswer::Masks)},
+      {"#29", "#D6", hasMath, FieldsInto(live.MathValue, profile.MathCount),
+       into(LiveAnswer::Math)},
+      {"#28", "#D7", hasMath, RawMathInto(live), into(LiveAnswer::MathRaw)},
+      {"#36", "#C9", hasAux, FieldsInto(live.AuxValue, kAuxInputs), into(LiveAnswer::Aux)},
   });
 }
 

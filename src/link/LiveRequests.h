@@ -18,6 +18,7 @@ struct LiveRequest {
   std::string_view head;  ///< the first three characters of the answer
   bool applies;           ///< whether this model and firmware know it
   std::function<void(LineReader&)> fill;
+  LiveRead* read = nullptr;  ///< where it is noted whether live values came; null for other answers
 };
 
 /// The request whose answer carries the masks of inputs, outputs and flags.

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "base/Bounded.h"
+#include "model/LiveRead.h"
 #include "platform/DateTime.h"
 
 namespace ostrel {
@@ -30,6 +31,10 @@ struct RealTimeData {
   Bounded<std::string, 9> MathRaw;
   Bounded<float, 129> ModuloValue;
   Bounded<std::string, 129> ModuloName, ModuloUnit;
+  /// What became of each answer with values in the rounds of this session.
+  Bounded<LiveRead, kLiveAnswers> reads;
+
+  const LiveRead& ReadOf(LiveAnswer answer) const { return reads[static_cast<int>(answer)]; }
 };
 
 /// The totals of the pulse counters.

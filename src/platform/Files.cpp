@@ -28,6 +28,10 @@ std::optional<std::string> Files::Read(const std::string& path) {
   return octets;
 }
 
+FileResult TooLarge(std::size_t most) {
+  return {"it is larger than " + std::to_string(most >> 20U) + " MB"};
+}
+
 FileResult SaveWhole(Files& files, const std::string& path, std::string_view octets,
                      Replacing replacing, Readers readers) {
   if (replacing == Replacing::Unprotected)

@@ -2,7 +2,9 @@
 
 #include <cstddef>
 #include <functional>
+#include <memory>
 #include <optional>
+#include <ostream>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -18,8 +20,8 @@ struct FileResult {
   bool Ok() const { return error.empty(); }
 };
 
-/// Most octets of a file that is read. No file of this program comes near it: a larger one was
-/// named by mistake.
+/// Most octets of a file that is read. No file of this program but a firmware comes near it: a
+/// larger one was named by mistake.
 inline constexpr std::size_t kMostFileOctets = 16U * 1024U * 1024U;
 
 /// The file system as the few steps that reading and safe saving need; injected so that each step
@@ -28,8 +30,12 @@ class Files {
  public:
   virtual ~Files() = default;
   /// Brings the whole content into a text, which is empty after a failure. What is no regular file
-  /// is not read, nor what is larger than `kMostFileOctets`.
-  virtual FileResult ReadInto(const std::string& path, std::string& octets) = 0;
+  /// is not read, nor what is larger than `most`.
+  virtual FileResult ReadUpTo(const std::string& path, std::size_t most, std::string& octets) = 0;
+  /// The same with the limit of most files.
+  FileResult ReadInto(const std::string& path, std::string& octets) {
+    return ReadUpTo(path, kMostFileOctets, octets);
+  }
   /// The whole content, or nothing when the file cannot be read.
   std::optional<std::string> Read(const std::string& path);
   virtual bool Exists(const std::string& path) = 0;
@@ -69,6 +75,13 @@ class Files {
   /// there is none and stays. A failure to get the lock within a few seconds runs nothing.
   virtual FileResult WhileLocked(const std::string& path, const std::function<void()>& work) = 0;
 };
+
+/// Opens a text file to which is added while it is open. Null when it cannot be, which `why` tells.
+using OpenLogFile =
+    std::function<std::unique_ptr<std::ostream>(const std::string& path, std::string& why)>;
+
+/// What reading comes to for a file beyond the most that is read of it.
+FileResult TooLarge(std::size_t most);
 
 /// Whether a file may be replaced that `Files::MayReplace` speaks against.
 enum class Replacing { Unprotected, Any };

@@ -12,21 +12,6 @@
 namespace ostrel {
 namespace {
 
-/// Whether a field counts: an expansion input keeps those of the modes that it is not in, too.
-bool IsInForce(const DeviceConf& conf, const FieldId& id) {
-  constexpr std::array<std::pair<const SectionMeta*, ExpansionMode>, 4> kSections{{
-      {&ExpansionInputs::kDigital, kModeDigital},
-      {&ExpansionInputs::kFlow, kModeFlow},
-      {&ExpansionInputs::kCounter, kModeCounter},
-      {&ExpansionInputs::kAnalog, kModeAnalog},
-  }};
-  for (const auto& [section, mode] : kSections)
-    if (id.section == section) return conf.Modulo[id.channel].MODO == mode;
-  return true;
-}
-
-bool IsOfChannel(const FieldId& id) { return id.slot.config < 0 && id.slot.place < 0; }
-
 /// Whether two fields of one place read alike.
 bool IsSame(const ConstField& a, const ConstField& b, bool isS100) {
   return IsSameValue(a.value, b.value) || FieldText(a.value, isS100) == FieldText(b.value, isS100);
@@ -55,6 +40,20 @@ class NodeFinder {
 };
 
 }  // namespace
+
+bool IsInForce(const DeviceConf& conf, const FieldId& id) {
+  constexpr std::array<std::pair<const SectionMeta*, ExpansionMode>, 4> kSections{{
+      {&ExpansionInputs::kDigital, kModeDigital},
+      {&ExpansionInputs::kFlow, kModeFlow},
+      {&ExpansionInputs::kCounter, kModeCounter},
+      {&ExpansionInputs::kAnalog, kModeAnalog},
+  }};
+  for (const auto& [section, mode] : kSections)
+    if (id.section == section) return conf.Modulo[id.channel].MODO == mode;
+  return true;
+}
+
+bool IsOfChannel(const FieldId& id) { return id.slot.config < 0 && id.slot.place < 0; }
 
 std::optional<ConstField> FieldOf(const Finding& finding, const std::vector<ConstField>& fields) {
   for (const ConstField& field : fields)
@@ -117,7 +116,7 @@ ChannelTable TableOfGroup(std::string_view group, const ModelConfiguration& conf
     if (field.page != *page || field.id.channel < 0) continue;
     const std::string node = NodeOf(*page, field.id.channel);
     if (node.empty() || !hasNode(node)) continue;
-    if (table.rows.empty() || table.rows.back().node != node)
+    if (table.rows.empty() || table.rows.back().channel != field.id.channel)
       table.rows.push_back({node, field.id.channel, {}, false});
     ChannelTable::Row& row = table.rows.back();
     if (!IsInForce(conf, field.id)) continue;

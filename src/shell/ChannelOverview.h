@@ -29,6 +29,12 @@ using FactTable = std::map<std::string, NodeFacts, std::less<>>;
 FactTable FactsOfNodes(const ModelConfiguration& present, const DeviceConf& kept,
                        std::span<const FoundByRule> found);
 
+/// Whether a field counts: an expansion input keeps those of the modes that it is not in, too.
+bool IsInForce(const DeviceConf& conf, const FieldId& id);
+
+/// Whether a field is of a channel itself, and no alarm's and no list's.
+bool IsOfChannel(const FieldId& id);
+
 /// The field that a finding is about; nothing for one about a whole section or file.
 std::optional<ConstField> FieldOf(const Finding& finding, const std::vector<ConstField>& fields);
 

@@ -91,13 +91,30 @@ Configurator::Configurator(const Platform& platform, ConfiguratorOptions options
           comms.OnProgress([&bar = PageOf(PageId::Aut_Voz)->GetForm().Get<ProgressBar>("PBar")](
                                const Progress& progress) { ShowListOnBar(progress, bar); })),
       session(context, comms, general, Connected, [this] { ShowPages(); }),
-      tools{.comms = comms,
+      tools{.platform = platform_,
+            .comms = comms,
             .dialogs = platform_.dialogs,
             .profile = profile,
             .totals = totals,
             .Connected = Connected,
-            .Translate = [this](std::string_view text) { return context.Translate(text); }},
+            .live = live,
+            .info = info,
+            .conf = conf,
+            .ConfFilePath = ConfFilePath,
+            .Translate = [this](std::string_view text) { return context.Translate(text); },
+            .ShowHelp = [this](std::string_view word) { context.ShowHelp(word); },
+            .IniCom_Click = [this] { general.Session().IniCom_Click(); },
+            .SendFirmware =
+                [this](const FirmwareFiles& files, const FirmwareDialogue::OnStage& onStage) {
+                  return session.SendFirmware(files, onStage);
+                },
+            .OpenLog = options_.openLog,
+            .OpenRecording = options_.openRecording},
       actEdit(context),
+      livePoll(tools),
+      recorder(tools, livePoll),
+      monitor(tools, livePoll, recorder),
+      cathodicMonitor(tools, livePoll, recorder),
       setTotal(tools, kMainCounters),
       expSetTotal(tools, kExpansionCounters),
       ayuda(tools),
@@ -106,10 +123,16 @@ Configurator::Configurator(const Platform& platform, ConfiguratorOptions options
       langForm(context),
       targetSelect(context, settings,
                    [this](const std::string& name) { TargetDeviceChange(name); }),
+      firm(tools),
+      terminal(tools),
       test(TestParts(), kTest),
       testKA2(TestParts(), kTestKA2),
       testBQ(TestParts(), kTestBQ),
       fronts_{{ToolId::TargetSelect, &targetSelect},
+              {ToolId::T_Real_Tavro, &monitor},
+              {ToolId::T_Real_Katodex, &cathodicMonitor},
+              {ToolId::Firm, &firm},
+              {ToolId::Terminal, &terminal},
               {ToolId::Test, &test},
               {ToolId::TestKA2, &testKA2},
               {ToolId::TestBQ, &testBQ}} {
@@ -129,7 +152,11 @@ void Configurator::ConnectPages() {
   };
   context.showActEdit = [this](std::string_view subject) { actEdit.ShowModal(subject); };
   context.showTotal = setsTotal(setTotal);
-  context.showExpansionTotal = setsTotal(expSetTotal);
+  context.showExpansionTotal = [this, set = setsTotal(expSetTotal)](std::int16_t index) {
+    set(index);
+    // The total of an expansion counter comes with the live values alone.
+    if (Connected) comms.ReadRealTime();
+  };
   context.showPulseCalculator = [this](TextBox& field) { ayuda.ShowModal(field); };
   context.showMaskCalculator = [this] { ayudaHex.ShowModal(); };
   context.readProbeIdentity = [this]() -> std::optional<ProbeIdentity> {
@@ -137,7 +164,7 @@ void Configurator::ConnectPages() {
     if (!comms.ReadProbeIdentity(identity)) return {};
     return identity;
   };
-  context.readVoiceList = [this](ConfAutVoz& list) { return comms.ReadAutVozList(list); };
+  context.readVoiceList = [this](ConfAutVoz& list) { return session.ReadVoiceList(list); };
   context.writeVoiceList = [this](const ConfAutVoz& list) { return session.WriteVoiceList(list); };
 }
 
@@ -166,8 +193,7 @@ LinkHooks Configurator::MakeHooks() {
           },
       .loadPages =
           [this] {
-            hasOrigin_ = true;
-            lacking_.reset();
+            origin_ = {.isKnown = true};
             ForEach(kLoadAfterDownload, &Page::LoadData);
           },
       .composed = [this] { session.KeepSent(); },

@@ -30,19 +30,27 @@
 #include "store/IniTool.h"
 #include "tools/Ayuda.h"
 #include "tools/AyudaHex.h"
+#include "tools/Firm.h"
+#include "tools/LivePoll.h"
+#include "tools/LiveRecorder.h"
 #include "tools/SetTotal.h"
+#include "tools/T_Real_Katodex.h"
+#include "tools/T_Real_Tavro.h"
+#include "tools/Terminal.h"
 #include "tools/ToolContext.h"
 
 namespace ostrel {
 
 /// Where a configurator finds what is installed, and how it runs.
 struct ConfiguratorOptions {
-  std::string programFolder;  ///< where the help pages stand
-  std::string langFile{};     ///< the working copy of the translation table
-  Lang* lang = nullptr;       ///< the table where it is open already, with its language chosen
-  Station station{};          ///< of factory tests, where none is stored
-  bool factory = false;       ///< the tree has a node for the factory test of the model
-  bool ticking = false;       ///< the pages' timers run and ports are scanned, as a window needs it
+  std::string programFolder;    ///< where the help pages stand
+  std::string langFile{};       ///< the working copy of the translation table
+  Lang* lang = nullptr;         ///< the table where it is open already, with its language chosen
+  OpenLogFile openLog{};        ///< opens what the terminal adds to; none where there is none
+  OpenLogFile openRecording{};  ///< opens what a monitor records into; none where there is none
+  Station station{};            ///< of factory tests, where none is stored
+  bool factory = false;         ///< the tree has a node for the factory test of the model
+  bool ticking = false;  ///< the pages' timers run and ports are scanned, as a window needs it
   int versionMajor = OSTREL_VERSION_MAJOR;
   int versionMinor = OSTREL_VERSION_MINOR;
 };
@@ -99,11 +107,16 @@ class Configurator {
 
   /// Puts a configuration in place of the present one and shows it on all pages.
   void ShowConfiguration(const DeviceConf& shown);
-  /// Whether the present configuration comes from a file or a logger.
-  bool HasOrigin() const { return hasOrigin_; }
-  /// What the file that the configuration was opened from lacks; nothing when it was whole, or when
-  /// a logger has been read since.
-  const std::optional<Phrase>& Lacking() const { return lacking_; }
+  /// Where the configuration on the pages comes from.
+  struct Origin {
+    bool isKnown = false;  ///< from a file or a logger
+    /// What the file that it was opened from lacks; nothing when it was whole, or when a logger has
+    /// been read since.
+    std::optional<Phrase> lacking{};
+  };
+  const Origin& WhereFrom() const { return origin_; }
+  /// For those who have put back what stood on the pages before.
+  void SetOrigin(Origin origin) { origin_ = std::move(origin); }
   /// Asks whether a file of another model may change the model while a session stands. Set by a
   /// face; without one nobody is asked.
   std::function<bool(const std::string& model)> OnOtherModel;
@@ -164,10 +177,7 @@ class Configurator {
   ConfiguratorOptions options_;
   std::string mainCaption_;
   bool carrierBoxUp_ = false;
-  std::optional<Phrase> WhatLacks() const;
-
-  bool hasOrigin_ = false;
-  std::optional<Phrase> lacking_;
+  Origin origin_;
   /// The language of this run is not the one to store: the choice of a first run waits for the
   /// next.
   bool keepsStoredLanguage_ = false;
@@ -185,6 +195,10 @@ class Configurator {
   SessionDriver session;
   ToolContext tools;
   ActEdit actEdit;
+  LivePoll livePoll;
+  LiveRecorder recorder;
+  T_Real_Tavro monitor;
+  T_Real_Katodex cathodicMonitor;
   SetTotal setTotal;
   SetTotal expSetTotal;
   Ayuda ayuda;
@@ -192,6 +206,8 @@ class Configurator {
   PWForm pwForm;
   LangForm langForm;
   TargetSelect targetSelect;
+  Firm firm;
+  Terminal terminal;
   TestPage test, testKA2, testBQ;
 
  private:

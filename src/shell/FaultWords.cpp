@@ -109,6 +109,9 @@ FaultWords LinkWords(const SessionFault& fault, const std::string& port) {
                       "record %1 is longer than any line of a logger",
                       "the answer to statement %1 is longer than any line of a logger"),
               {"check that a logger is what is connected"}};
+    case Kind::NoAliveMark:
+      return {{"the logger gave no sign of life by octet %1 of the image", {number}},
+              {kLooksAtCable}};
     case Kind::PortClosed:
       return {{"%1 was closed in the middle of the dialogue", {port}}};
   }
@@ -125,6 +128,14 @@ Phrase Outcome(const SessionFault& fault) {
       if (fault.allSent)
         return {"whether the logger has taken the configuration over is not known: read it back"};
       return {"the logger's former configuration stays in force"};
+    case SessionPhase::Updating:
+      if (fault.flashErased)
+        return {
+            "the logger's flash is erased and holds no firmware: leave it powered and "
+            "connected, and start the update again with the same files"};
+      return {
+          "nothing of the image was sent: if the logger still answers, its firmware is as it "
+          "was"};
     case SessionPhase::Opening:
       if (!fault.brokenOff) return {};
       [[fallthrough]];

@@ -10,16 +10,16 @@ constexpr Duration kOldestAnswer = std::chrono::seconds(5);
 /// may have rested for long.
 constexpr Duration kThinkingTime = std::chrono::seconds(1);
 
-/// A transfer has stretches in which no answer is due; its dialogue knows them.
+/// A long dialogue has stretches in which no answer is due; its dialogue knows them.
 bool IsSilent(const Comms& comms, SessionPhase phase) {
-  if (IsTransfer(phase)) return comms.SilentFor() > kOldestAnswer;
+  if (IsLongDialogue(phase)) return comms.SilentFor() > kOldestAnswer;
   return comms.SinceAnswer() > kOldestAnswer && comms.UnansweredFor() > kThinkingTime;
 }
 
 LinkHealth HealthOf(const Comms& comms, SessionPhase phase) {
   if (comms.LineLost()) return LinkHealth::Lost;
   if (IsSilent(comms, phase)) return LinkHealth::Silent;
-  const bool isFresh = IsTransfer(phase) || comms.SinceAnswer() <= kOldestAnswer;
+  const bool isFresh = IsLongDialogue(phase) || comms.SinceAnswer() <= kOldestAnswer;
   return isFresh ? LinkHealth::Alive : LinkHealth::Resting;
 }
 

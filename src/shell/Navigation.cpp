@@ -116,6 +116,8 @@ std::string NodeOf(PageId page, int channel) {
 std::optional<PageId> PageOfGroup(std::string_view key) {
   for (const auto& [stem, page, last] : kNumbered)
     if (stem == std::string(key) + "_" || (key == "Flags" && page == PageId::Flags)) return page;
+  for (const auto& [stem, page] : kTimerPages)
+    if (stem == key) return page;
   return {};
 }
 
@@ -130,6 +132,7 @@ Navigation::Navigation(Configurator& configurator, std::span<const FormId> stays
 Navigation::~Navigation() { configurator_.OnTargetChanged = nullptr; }
 
 NodeResult Navigation::NodeClick(std::string_view key) {
+  if (configurator_.session.State().phase == SessionPhase::Updating) return NodeResult::Rests;
   Hide();
   const NodeResult result = Open(key);
   Settle();

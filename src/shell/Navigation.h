@@ -22,6 +22,7 @@ class Page;
 enum class NodeResult {
   Shown,     ///< a page is in front
   Nothing,   ///< the node opens nothing
+  Rests,     ///< nothing may be opened while a logger gets new firmware
   NotBuilt,  ///< the node's page does not exist in this build
 };
 

@@ -116,6 +116,7 @@ bool SessionDriver::Open(std::int16_t port, const std::string& phone) {
   port_ = port;
   code_ = CodeAnswer::NotAsked;
   Working opening(*this, SessionPhase::Opening);
+  context_.info.SerialNumber.clear();  // of a former logger; the page keeps its texts
   session_.ComStat.face.SetCaption(
       "", context_.Translate("Detectando ") + context_.profile.TargetName + "...");
   {
@@ -131,6 +132,7 @@ bool SessionDriver::Open(std::int16_t port, const std::string& phone) {
       greeting_ = comms_.RxLine;
       if (const auto doubt = ModelDoubt(); doubt && OnModelDoubt) OnModelDoubt(*doubt);
       ReadAfterConnect();
+      if (comms_.InfoFault().Ok()) isFlashErased_ = false;  // what tells of itself has a firmware
     }
   }
   opening.Ended(Connected_);
@@ -166,8 +168,9 @@ void SessionDriver::ReadAfterConnect() {
   comms_.ReadInfo();
   comms_.ReadTotalCount();
   comms_.ReadIOParameter();
-  comms_.ReadDeviceRTC();
-  if (comms_.PortOpen()) CompareClocks();
+  // A clock that did not come, or came damaged, is no reason to set one.
+  const bool isClockRead = comms_.ReadDeviceRTC();
+  if (isClockRead && comms_.PortOpen()) CompareClocks();
 }
 
 void SessionDriver::CompareClocks() {
@@ -239,8 +242,51 @@ bool SessionDriver::Transfer(SessionPhase kind, std::string_view status, std::st
 }
 
 LinkResult SessionDriver::WriteVoiceList(const ConfAutVoz& list) {
-  const Lent writing(writesVoiceList_, true);
-  return comms_.WriteAutVoz(list);
+  return MoveVoiceList(ListWork::Writing, [&] { return comms_.WriteAutVoz(list); });
+}
+
+LinkResult SessionDriver::ReadVoiceList(ConfAutVoz& list) {
+  return MoveVoiceList(ListWork::Reading, [&] { return comms_.ReadAutVozList(list); });
+}
+
+LinkResult SessionDriver::MoveVoiceList(ListWork work,
+                                        const std::function<LinkResult()>& dialogue) {
+  if (listWork_ != ListWork::None) return dialogue();  // which is turned away
+  brokenOff_ = false;
+  LinkResult result = [&] {
+    const Lent moving(listWork_, work);
+    SetState({SessionPhase::Open});
+    return dialogue();
+  }();
+  SessionState after{Connected_ ? SessionPhase::Open : SessionPhase::Closed};
+  if (!result) {
+    after.failed = FaultDuring(SessionPhase::Open);
+    after.failed->link = result.Fault();
+    after.failed->writingVoiceList = work == ListWork::Writing;
+  }
+  SetState(std::move(after));
+  return result;
+}
+
+LinkResult SessionDriver::SendFirmware(const FirmwareFiles& files,
+                                       const FirmwareDialogue::OnStage& onStage) {
+  if (comms_.LinkBusy) return LinkFault{LinkFault::Kind::Busy};
+  Working working(*this, SessionPhase::Updating);
+  const AtEnd ended([this] {
+    watch_.End();
+    if (!brokenOff_) return;
+    Connected_ = false;
+    ShowState();
+  });
+  watch_.BeginWriting(
+      static_cast<int>(SentOctets(files.image.size()) + SentOctets(files.loader.size())));
+  const LinkResult result = comms_.SendFirmware(files, [&](FirmwareStage stage) {
+    if (stage == FirmwareStage::Erasing) isFlashErased_ = true;
+    if (stage == FirmwareStage::Copying) isFlashErased_ = false;
+    onStage(stage);
+  });
+  working.Ended(result);
+  return result;
 }
 
 bool SessionDriver::ReadOrPutBack() {
@@ -294,7 +340,9 @@ SessionFault SessionDriver::FaultDuring(SessionPhase phase) const {
           .link = comms_.Fault(),
           .brokenOff = brokenOff_,
           .allSent = phase == SessionPhase::Writing && watch_.ReachedEnd(),
-          .unverified = unverified_ && phase != SessionPhase::Writing,
+          .unverified =
+              unverified_ && phase != SessionPhase::Writing && phase != SessionPhase::Updating,
+          .flashErased = phase == SessionPhase::Updating && isFlashErased_,
           .code = phase == SessionPhase::Opening ? code_ : CodeAnswer::NotAsked};
 }
 

@@ -7,11 +7,19 @@
 namespace ostrel {
 
 /// What a session is doing.
-enum class SessionPhase { Closed, Opening, Open, Reading, Writing, Closing };
+enum class SessionPhase { Closed, Opening, Open, Reading, Writing, Updating, Closing };
 
 /// Whether a phase carries a whole configuration over the line.
 constexpr bool IsTransfer(SessionPhase phase) {
   return phase == SessionPhase::Reading || phase == SessionPhase::Writing;
+}
+
+/// What is done with the voice-call list, within a session that is open.
+enum class ListWork { None, Reading, Writing };
+
+/// Whether a phase is one long dialogue, which has stretches in which no answer is due.
+constexpr bool IsLongDialogue(SessionPhase phase) {
+  return IsTransfer(phase) || phase == SessionPhase::Updating;
 }
 
 /// How the question for an access code was answered while a session was opened.
@@ -19,13 +27,14 @@ enum class CodeAnswer { NotAsked, NotGiven, Given };
 
 /// What a session failed of.
 struct SessionFault {
-  /// Opening, Reading or Writing; Open for any shorter dialogue.
+  /// Opening, Reading, Writing or Updating; Open for any shorter dialogue.
   SessionPhase during = SessionPhase::Open;
   LinkFault link{};
   bool brokenOff = false;   ///< by the operator
   bool allSent = false;     ///< an upload had nothing left to send but its end
   bool unverified = false;  ///< an earlier upload of the session was taken over, not yet read back
   bool writingVoiceList = false;  ///< which begins with erasing the one that the logger holds
+  bool flashErased = false;       ///< an update had got so far that the logger erased its firmware
   CodeAnswer code = CodeAnswer::NotAsked;
 };
 

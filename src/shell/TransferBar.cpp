@@ -32,7 +32,7 @@ void ShowOnBar(const Progress& progress, ProgressBar& bar) {
 }
 
 void ShowListOnBar(const Progress& progress, ProgressBar& bar) {
-  if (MovesConfiguration(progress.kind)) return;
+  if (!MovesVoiceList(progress.kind)) return;
   switch (progress.stage) {
     case Progress::Stage::Begun:
       bar.SetMaximum(progress.expected);

@@ -43,6 +43,15 @@ constexpr FaultRow kFaultRows[] = {
      "ends the voice list behind its N-th number"},
     {FaultKind::WrongSum, "wrong-sum", false, 1, -1,
      "tells each N-th check sum of the voice list wrong, or any"},
+    {FaultKind::RefuseErase, "refuse-erase", false, 1, -1,
+     "refuses each N-th erasing of its flash, or any"},
+    {FaultKind::ReadyLate, "ready-late", false, 1, kNeedsTime,
+     "is ready for each N-th image, or any, ms later"},
+    {FaultKind::NoAliveMark, "no-alive-mark", true, 1, -1,
+     "gives no sign of life in block N of an image"},
+    {FaultKind::SilentAfterOctet, "silent-after-octet", true, 1, -1,
+     "hears nothing more of an image behind its N-th octet"},
+    {FaultKind::RefuseLoader, "refuse-loader", false, 1, -1, "refuses each N-th loader, or any"},
 };
 
 const FaultRow& RowOf(FaultKind kind) {

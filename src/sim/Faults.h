@@ -27,7 +27,12 @@ enum class FaultKind {
   WrongClosing,
   RefuseCommand,
   SilentAfterNumber,
-  WrongSum
+  WrongSum,
+  RefuseErase,
+  ReadyLate,
+  NoAliveMark,
+  SilentAfterOctet,
+  RefuseLoader
 };
 
 /// One fault switch. Where `last` is above `first`, each strike draws its number between the two.
@@ -35,7 +40,7 @@ struct Fault {
   FaultKind kind = FaultKind::Silent;
   int first = 1;
   int last = 1;
-  int milliseconds = 0;  ///< of a delay, or between the parts of a torn refusal
+  int milliseconds = 0;  ///< of a delay or lateness, or between the parts of a torn refusal
   bool once = false;     ///< acts a single time
 
   bool operator==(const Fault&) const = default;

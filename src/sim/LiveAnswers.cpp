@@ -46,13 +46,13 @@ class Answers {
     return text_;
   }
   std::string Flows() {
-    for (int i = 0; i < kFlows; ++i) Add(live_.Flow(i, now_));
+    for (int i = 0; i < kFlows; ++i) Add(live_.Flow(conf_, i, now_));
     return text_;
   }
   std::string MasksAndAnalogs() {
     Add(live_.DigitalMask(now_));
     Add(outputs_);
-    Add(live_.FlagMask(now_));
+    Add(live_.FlagMask(conf_, now_));
     for (int i = 0; i < kAnalogs; ++i) Add(live_.Analog(conf_, i, now_));
     return text_;
   }
@@ -76,22 +76,23 @@ class Answers {
     return text_;
   }
   std::string MathRaws() {
-    for (int i = 0; i < kMathRaws; ++i) Add(live_.Math(i, now_) * 2);
+    for (int i = 0; i < kMathRaws; ++i) Add(i < kMaths ? live_.Math(conf_, i, now_) * 2 : 0.0F);
     return text_;
   }
   std::string Maths() {
-    for (int i = 0; i < self_.Traits().maths; ++i) Add(live_.Math(i, now_));
+    for (int i = 0; i < self_.Traits().maths; ++i) Add(live_.Math(conf_, i, now_));
     return text_;
   }
   std::string MathNames() { return Channels(conf_.maths); }
   std::string ModbusNames() { return Channels(conf_.modbus); }
   std::string ModbusValues() {
-    for (int i = 0; i < self_.Traits().modbus; ++i) Add(live_.Modbus(i, now_));
+    for (int i = 0; i < self_.Traits().modbus; ++i) Add(live_.Modbus(conf_, i, now_));
     return text_;
   }
-  std::string AuxNames() { return Channels(conf_.auxiliaries); }
+  /// Where there are probes, they stand in the place of the auxiliary inputs.
+  std::string AuxNames() { return Channels(conf_.probes); }
   std::string AuxValues() {
-    for (int i = 0; i < kAuxiliaries; ++i) Add(live_.Aux(i, now_));
+    for (int i = 0; i < kProbes; ++i) Add(live_.Probe(conf_, i, now_));
     return text_;
   }
   std::optional<std::string> ModuleNames(std::string_view range) {
@@ -103,7 +104,7 @@ class Answers {
   std::optional<std::string> ModuleValues(std::string_view range) {
     const int first = FirstInput(range, 32, 32);
     if (first < 0) return std::nullopt;
-    for (int i = first; i < first + 32; ++i) Add(live_.Module(i, now_));
+    for (int i = first; i < first + 32; ++i) Add(live_.Module(conf_, i, now_));
     return text_;
   }
 

@@ -13,22 +13,26 @@ namespace ostrel::sim {
 
 inline constexpr int kCounters = 9;
 
-/// Readings that move slowly with time, the same for the same seed, and the totals. Times are
-/// whole seconds of the loop.
+/// Readings that move as those of a waterworks do, the same for the same seed, and the totals.
+/// Levels and temperatures follow the hours of the day, with a ripple; consumption is low at night,
+/// and the counters count what flows; a value with an alarm passes its limits now and then. Times
+/// are whole seconds of the loop.
 class LiveValues {
  public:
-  LiveValues(const Identity& self, std::uint64_t seed);
+  /// `start` is what the logger's clock shows as the loop begins, in seconds.
+  LiveValues(const Identity& self, std::uint64_t seed, std::int64_t start);
 
   /// The reading of an input within its scale; 0 when it is off.
   float Analog(const Configuration& conf, int index, std::int64_t now) const;
   unsigned DigitalMask(std::int64_t now) const;
-  unsigned FlagMask(std::int64_t now) const;
-  float Flow(int index, std::int64_t now) const;
-  float Math(int index, std::int64_t now) const;
-  float Modbus(int index, std::int64_t now) const;
-  float Aux(int index, std::int64_t now) const;
+  /// The first flags tell which analog inputs are outside the limits of their alarms.
+  unsigned FlagMask(const Configuration& conf, std::int64_t now) const;
+  float Flow(const Configuration& conf, int index, std::int64_t now) const;
+  float Math(const Configuration& conf, int index, std::int64_t now) const;
+  float Modbus(const Configuration& conf, int index, std::int64_t now) const;
+  float Probe(const Configuration& conf, int index, std::int64_t now) const;
   /// An expansion input; it counts on from a value that was set.
-  float Module(int index, std::int64_t now) const;
+  float Module(const Configuration& conf, int index, std::int64_t now) const;
   void SetModule(int index, int value, std::int64_t now) { modules_[index] = {value, now}; }
   /// A total; it counts pulses from the value set last. Indices outside 0 to 8 read 0.
   int Counter(int index, std::int64_t now) const;
@@ -42,15 +46,29 @@ class LiveValues {
     int value = 0;
     std::int64_t since = 0;
   };
-  enum class Kind : std::uint64_t { Analog, Digital, Flag, Flow, Math, Modbus, Aux, Module, Pulse };
+  enum class Kind : std::uint64_t { Analog, Digital, Flag, Math, Modbus, Probe, Module, Pulse };
 
   std::uint64_t Mix(Kind kind, int index) const;
-  double Wave(Kind kind, int index, std::int64_t now) const;
-  unsigned Bits(Kind kind, int count, std::int64_t now) const;
+  /// A level from 0 to 1.
+  double Curve(Kind kind, int index, std::int64_t now) const;
+  /// A contact that is closed for a share of the time.
+  bool Contact(Kind kind, int index, double share, std::int64_t now) const;
+  unsigned Bits(Kind kind, int first, int count, double share, std::int64_t now) const;
+  /// How the pulses of a meter come, in seconds.
+  struct Consumption {
+    double interval;  ///< from pulse to pulse, on the average
+    double ripple;    ///< period in which they come more often and more rarely
+  };
+  Consumption ConsumptionOf(Kind kind, int index) const;
+  /// Pulses since the beginning of all time, and those of the present second.
+  double Pulses(Kind kind, int index, std::int64_t now) const;
+  double PulsesNow(Kind kind, int index, std::int64_t now) const;
+  float FlowOf(Kind kind, int index, float ratio, std::string_view unit, std::int64_t now) const;
   int Grown(const Count& count, Kind kind, int index, std::int64_t now) const;
 
   Identity self_;
   std::uint64_t seed_;
+  std::int64_t start_;
   std::array<Count, kCounters> counters_{};
   std::map<int, Count> modules_;
 };

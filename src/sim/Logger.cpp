@@ -27,15 +27,17 @@ LoggerOptions MakeDefaultOptions(Model model) {
 }
 
 const Logger::Command Logger::kCommands[] = {
-    {"#11", &Logger::AnswerAccessCode},    {"#40", &Logger::AnswerHandshake},
-    {"#41", &Logger::AnswerOrder},         {"#42", &Logger::AnswerDownload},
-    {"#44", &Logger::AnswerInformation},   {"#45", &Logger::AnswerStatement},
-    {"#46", &Logger::AnswerClosing},       {"#47", &Logger::AnswerOutputOn},
-    {"#48", &Logger::AnswerOutputOff},     {"#4E", &Logger::AnswerVoiceSum},
-    {"#4F", &Logger::AnswerVoiceList},     {"#5C", &Logger::AnswerSetClock},
-    {"#5D", &Logger::AnswerReadClock},     {"#F4", &Logger::AnswerTestFrame},
-    {"#F5", &Logger::AnswerIdle},          {"#F6", &Logger::AnswerNumber},
-    {"#FA", &Logger::AnswerProbeIdentity}, {"#FB", &Logger::AnswerIdleOfBQ},
+    {"#01", &Logger::AnswerConsole},     {"#04", &Logger::AnswerTraces},
+    {"#F0", &Logger::AnswerErase},       {"#F1", &Logger::AnswerLoader},
+    {"#11", &Logger::AnswerAccessCode},  {"#40", &Logger::AnswerHandshake},
+    {"#41", &Logger::AnswerOrder},       {"#42", &Logger::AnswerDownload},
+    {"#44", &Logger::AnswerInformation}, {"#45", &Logger::AnswerStatement},
+    {"#46", &Logger::AnswerClosing},     {"#47", &Logger::AnswerOutputOn},
+    {"#48", &Logger::AnswerOutputOff},   {"#4E", &Logger::AnswerVoiceSum},
+    {"#4F", &Logger::AnswerVoiceList},   {"#5C", &Logger::AnswerSetClock},
+    {"#5D", &Logger::AnswerReadClock},   {"#FA", &Logger::AnswerProbeIdentity},
+    {"#F4", &Logger::AnswerTestFrame},   {"#F5", &Logger::AnswerIdle},
+    {"#F6", &Logger::AnswerNumber},      {"#FB", &Logger::AnswerIdleOfBQ},
 };
 
 Logger::Logger(EventLoop& loop, LineEnd& line, LoggerOptions options)
@@ -45,7 +47,7 @@ Logger::Logger(EventLoop& loop, LineEnd& line, LoggerOptions options)
       plan_(options_.faults, options_.seed),
       sender_(loop, line, plan_, [this] { LoseCarrier(); }),
       upload_(Self()),
-      live_(Self(), options_.seed),
+      live_(Self(), options_.seed, ToSeconds(options_.clockStart) + options_.clockOffsetSeconds),
       fixture_(options_.fixture) {
   SetClock(FromSeconds(ToSeconds(options_.clockStart) + options_.clockOffsetSeconds));
   if (!options_.modem) {
@@ -63,7 +65,9 @@ Logger::Logger(EventLoop& loop, LineEnd& line, LoggerOptions options)
                         }});
 }
 
-Logger::~Logger() { loop_.Cancel(answer_); }
+Logger::~Logger() {
+  for (const TimerId timer : {answer_, copying_, trace_}) loop_.Cancel(timer);
+}
 
 // ---- The way of a request
 
@@ -75,6 +79,8 @@ void Logger::Receive(std::string_view octets) {
 }
 
 void Logger::TakeOctets(std::string_view octets) {
+  if (taking_.Now() == FirmwareTaking::State::Copying) return;
+  TakeFirmware(octets);
   while (auto request = reader_.Take(octets)) {
     // A flood is lost beyond what the memory of a logger would hold many times over.
     if (requestOctets_ + request->size() > kMostRequestOctets) continue;
@@ -104,8 +110,11 @@ void Logger::Answer(const std::string& request) {
     exchange_.note = "asleep";
   else if (!admitted_ && !request.starts_with("#11"))
     exchange_.note = "access code missing";
+  else if (HasNoWordFor(request))
+    exchange_.note = "no firmware";
   else if (!Dispatch(request) && exchange_.note.empty())
     exchange_.note = "unknown request";
+  TraceRequest(request);
   // Told first: what is sent may end the call, and its end belongs behind.
   Tell(std::exchange(exchange_, {}));
   sender_.Flush();
@@ -131,6 +140,10 @@ void Logger::Tell(const Exchange& exchange) const {
 }
 
 void Logger::SetTerminalReady(bool ready) {
+  isHeard_ = ready;
+  ScheduleTrace();
+  // A loader without an end record has ended with the line.
+  if (!ready && taking_.Now() == FirmwareTaking::State::Loader) CopyFirmware();
   if (!ready) ForgetLine();
   if (ready) fixture_.PutIn(loop_.Now());
   if (modem_ && !ready) modem_->HangUp();
@@ -169,11 +182,7 @@ bool Logger::AnswerAccessCode(std::string_view rest) {
 
 bool Logger::AnswerHandshake(std::string_view rest) {
   if (!rest.empty()) return false;
-  std::string text = "#BF" + std::string(Self().Traits().displayName) + " v";
-  AppendNumber(text, options_.version / 100);
-  text += '.';
-  AppendPadded(text, options_.version % 100, 2);
-  Reply(text);
+  Reply("#BF" + VersionText());
   return true;
 }
 

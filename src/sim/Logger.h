@@ -12,6 +12,7 @@
 #include "platform/EventLoop.h"
 #include "platform/Line.h"
 #include "sim/Configuration.h"
+#include "sim/FirmwareTaking.h"
 #include "sim/Fixture.h"
 #include "sim/Frame.h"
 #include "sim/LiveValues.h"
@@ -59,6 +60,10 @@ class Logger final : public LineDevice {
   void SetClock(const DateTime& now);
   /// State of the outputs, bit by bit.
   unsigned Outputs() const { return outputs_; }
+  /// The update of its firmware that is under way, or the last one.
+  const FirmwareTaking& Firmware() const { return taking_; }
+  /// Whether its console tells what it does.
+  bool Traces() const { return traces_; }
   /// Total of a counter, 0 to 8.
   int Total(int index) const { return live_.Counter(index, Seconds()); }
 
@@ -98,6 +103,7 @@ class Logger final : public LineDevice {
   void ForgetLine();
   void ChangeCall(bool up);
   void LoseCarrier();
+  bool HasNoWordFor(std::string_view request) const;
   void Tell(const Exchange& exchange) const;
 
   // Answers; false when the logger keeps silent
@@ -120,6 +126,21 @@ class Logger final : public LineDevice {
   bool AnswerNumber(std::string_view rest);
   bool AnswerIdle(std::string_view rest);
   bool AnswerIdleOfBQ(std::string_view rest);
+  bool AnswerErase(std::string_view rest);
+  bool AnswerLoader(std::string_view rest);
+  bool AnswerConsole(std::string_view rest);
+  bool AnswerTraces(std::string_view rest);
+
+  void TakeFirmware(std::string_view octets);
+  void CopyFirmware();
+
+  // Console
+  void Say(const std::string& line);
+  void TraceRequest(std::string_view request);
+  void ScheduleTrace();
+  std::string TimeOfDayText() const;
+  std::string InputsText() const;
+  std::string VersionText() const;
 
   // Orders; they tell `in` what is wrong
   void SetTotal(StatementCursor& in);
@@ -154,6 +175,12 @@ class Logger final : public LineDevice {
   Fixture fixture_;
   unsigned outputs_ = 0;
   std::int64_t clockAhead_ = 0;  ///< seconds from the loop's time to the clock's
+
+  FirmwareTaking taking_;
+  TimerId copying_ = 0;
+  bool traces_ = false;
+  bool isHeard_ = true;  ///< a program has the line open, as far as known
+  TimerId trace_ = 0;
 
   std::function<void(const Exchange&)> observer_;
   Exchange exchange_;  ///< the one being answered

@@ -25,6 +25,8 @@ struct LoggerOptions {
   std::int64_t clockOffsetSeconds = 0;                   ///< ... and what is added to that
   Duration replyDelay = std::chrono::milliseconds{2};    ///< from a request to its answer
   Duration eraseTime = std::chrono::milliseconds{1500};  ///< to empty the voice list
+  Duration flashEraseTime = std::chrono::seconds{4};     ///< ahead of an image
+  Duration flashCopyTime = std::chrono::seconds{8};      ///< to write an image and start anew
   FixtureScript fixture{};                               ///< that it is tested in
   ProbeIdentity probe{40, 113, 0, 0, 0, 0, 0, 11};       ///< that hangs on the bus
   bool modem = false;                                    ///< behind a modem instead of a cable

@@ -50,6 +50,12 @@ void Sender::Frame(std::string_view message, Duration tear) {
   if (plan_.Count(FaultKind::Vanish)) Last().end = End::Vanish;
 }
 
+void Sender::Text(std::string_view octets) {
+  if (waiting_ > kMostWaiting) return;
+  waiting_ += octets.size();
+  Put(octets);
+}
+
 void Sender::Flush() {
   while (wait_ == 0 && !gone_ && !pieces_.empty()) {
     Piece& next = pieces_.front();

@@ -23,6 +23,8 @@ class Sender {
   /// Queues a message as a frame; with a `tear`, its second half that much later than its first.
   /// Where very much waits already it is lost.
   void Frame(std::string_view message, Duration tear = {});
+  /// Queues octets that are no frame, such as the words of a console.
+  void Text(std::string_view octets);
   /// What is queued behind this leaves that much later.
   void Wait(Duration wait) { pieces_.push_back({wait, {}, End::None}); }
   /// Sends what is queued.

@@ -64,14 +64,9 @@ std::string Take(const Texts& texts, sim::LoggerOptions& options) {
   return {};
 }
 
-/// A request with "****" for an access code and for a password in a statement.
-std::string WithoutSecrets(const std::string& request) {
-  for (const std::string_view word : {"#11", "APNPASS=", "FTPPASS="}) {
-    const std::size_t at = request.find(word);
-    if (at == std::string::npos || (word.starts_with('#') && at > 0)) continue;
-    return request.substr(0, at + word.size()) + "****";
-  }
-  return request;
+/// Octets of the line as they may be shown.
+std::string Shown(const std::string& octets) {
+  return Printable(FromCodePage(WithoutSecrets(octets)));
 }
 
 }  // namespace
@@ -102,9 +97,9 @@ bool ParseSimOptions(std::span<const std::string> args, SimOptions& options, std
 std::string ExchangeLine(const sim::Exchange& exchange) {
   const auto milliseconds = std::chrono::duration_cast<std::chrono::milliseconds>(exchange.at);
   const std::string rest = std::to_string(milliseconds.count() % 1000 + 1000).substr(1);
-  std::string line = std::to_string(milliseconds.count() / 1000) + "." + rest + "  " +
-                     Printable(FromCodePage(WithoutSecrets(exchange.request)));
-  if (!exchange.reply.empty()) line += " -> " + Printable(FromCodePage(exchange.reply));
+  std::string line =
+      std::to_string(milliseconds.count() / 1000) + "." + rest + "  " + Shown(exchange.request);
+  if (!exchange.reply.empty()) line += " -> " + Shown(exchange.reply);
   if (exchange.frames > 1) line += " and " + std::to_string(exchange.frames - 1) + " more";
   if (!exchange.note.empty()) line += "  (" + Printable(FromCodePage(exchange.note)) + ")";
   return line;

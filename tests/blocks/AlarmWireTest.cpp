@@ -63,18 +63,13 @@ TEST_F(AlarmWire, ActionsComePlaceByPlace) {
   Cell(0, 1).ACTHI[8] = 9;
   Cell(0, 1).ACTLO[7] = 5;
   Receive("ANALOG.ACT,0,1,1,2,3,4,5,6,70000,8,9");
-  const AlarmBlock& alarm = Cell(0, 1);
-  EXPECT_EQ(alarm.ACTHI[0], 1);
-  EXPECT_EQ(alarm.ACTNO[0], 2);
-  EXPECT_EQ(alarm.ACTLO[0], 3);
-  EXPECT_EQ(alarm.ACTLO[1], 6);
-  EXPECT_EQ(alarm.ACTHI[2], 0) << "outside the width: left";
-  EXPECT_EQ(alarm.ACTNO[2], 8);
-  EXPECT_EQ(alarm.ACTLO[7], 0) << "a missing field is 0";
-  EXPECT_EQ(alarm.ACTHI[8], 9);
   Receive("DIGITAL.ACT,8,2,1,2,0,0,5,6");
-  EXPECT_EQ(conf.Digital[8].ALARM[2].common.ACTHI[2], 5);
-  EXPECT_EQ(conf.Digital[8].ALARM[2].common.ACTLO[2], 6);
+  // What is outside the width is left, and a missing field is 0.
+  EXPECT_EQ(Changes(),
+            "[ANALOG 0] ACTHI( 1 0)= 1; ACTLO( 1 0)= 3; ACTNO( 1 0)= 2; ACTHI( 1 1)= 4; "
+            "ACTLO( 1 1)= 6; ACTNO( 1 1)= 5; ACTLO( 1 2)= 9; ACTNO( 1 2)= 8; "
+            "[DIGITAL 8] ACTHI( 2 0)= 1; ACTLO( 2 0)= 2; ACTHI( 2 2)= 5; ACTLO( 2 2)= 6; ");
+  EXPECT_EQ(Cell(0, 1).ACTHI[8], 9);
 }
 
 TEST_F(AlarmWire, Statements) {

@@ -70,6 +70,21 @@ class BlockFixture : public testing::Test {
                  });
   }
 
+  /// The fields that an empty configuration has otherwise: "[DIGITAL 8] NOMBRE=Pozo; NC=True; ".
+  std::string Changes() const {
+    const DeviceConf empty = EmptyConfiguration(profile, translate);
+    const auto now = FieldsOf(conf, profile), former = FieldsOf(empty, profile);
+    std::string changes, section;
+    for (std::size_t i = 0; i < now.size(); ++i)
+      if (const std::string text = FieldText(now[i].value, profile.IsS100);
+          text != FieldText(former[i].value, profile.IsS100)) {
+        if (std::exchange(section, now[i].Section()) != now[i].Section())
+          changes += "[" + section + "] ";
+        changes += now[i].Key() + "=" + text + "; ";
+      }
+    return changes;
+  }
+
   VirtualFiles files;
   Translation translate = [](std::string_view text) { return std::string(text); };
   TargetProfile profile;

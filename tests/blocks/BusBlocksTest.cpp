@@ -47,23 +47,17 @@ TEST_F(BusBlocks, AFileWithoutARoleIsOfAMasterWithoutAnAddress) {
 TEST_F(BusBlocks, ChannelLinesByFirmware) {
   const std::string line = "MODBUS,31,Bomba,kWh,3,70000,0.5,-2,12,1,2";
   Receive(line);
-  const ConfModbus& read = conf.Modbus[31];
-  EXPECT_EQ(read.NOMBRE + read.UNIDAD, "BombakWh");
-  EXPECT_EQ(read.SLAVE, 3);
-  EXPECT_EQ(read.REGADD, 70'000);
-  EXPECT_EQ(read.MULT, 0.5F);
-  EXPECT_EQ(read.MASCARA, 0);
-  EXPECT_EQ(read.TYPE, 0);
+  const std::string head =
+      "[MODBUS 31] NOMBRE=Bomba; UNIDAD=kWh; SLAVE= 3; REGADD= 70000; MULT= .5; "
+      "ANALOG_MODE=True; ";
+  EXPECT_EQ(Changes(), head);
   info.Features = kFormats;
   Receive(line);
-  EXPECT_EQ(read.TYPE, 2) << "behind fields that this firmware leaves";
-  EXPECT_EQ(read.CONSTANTE, 0);
+  EXPECT_EQ(Changes(), head + "TYPE= 2; ") << "behind fields that this firmware leaves";
   info.Features = kConstants;
   Receive(line);
-  EXPECT_EQ(read.CONSTANTE, -2);
-  EXPECT_EQ(read.MASCARA, 12);
-  EXPECT_TRUE(read.NEGATE);
-  EXPECT_EQ(read.TYPE, 0) << "reset where the firmware has no sizes";
+  EXPECT_EQ(Changes(), head + "CONSTANTE=-2; MASCARA= 12; NEGATE=True; ")
+      << "no size where the firmware has none";
   for (const auto& [mult, analog] : {std::pair{"0.1", true}, {"0", false}, {"-1", false}}) {
     Receive(std::string("MODBUS,0,N,U,1,2,") + mult);
     EXPECT_EQ(bool(conf.Modbus[0].ANALOG_MODE), analog) << mult;
@@ -137,36 +131,17 @@ TEST_F(BusBlocks, AReadingTakesTheFormOfWhatWasSent) {
 }
 
 TEST_F(BusBlocks, ARangeThatCoversAllIsReadAsAlways) {
-  ValidityRange& sent = conf.Modbus[2].ALARM[0].common.valid;
+  ValidityRange& alarm = conf.Modbus[2].ALARM[0].common.valid;
+  ValidityRange& timer = conf.CTimer[2].valid;
   DeviceConf read = conf;
-  read.Modbus[2].ALARM[0].common.valid.SIEMPRE = kTrue;
+  read.Modbus[2].ALARM[0].common.valid.SIEMPRE = read.CTimer[2].valid.SIEMPRE = kTrue;
   for (const auto& [stop, days, same] :
        {std::tuple{86'399, 127, true}, {86'399, 126, false}, {86'398, 127, false}}) {
-    sent = {kFalse, {}, {stop}, static_cast<std::uint8_t>(days)};
+    alarm = timer = {kFalse, {}, {stop}, static_cast<std::uint8_t>(days)};
     const DeviceConf taken = ReadAsSent(read, conf, {profile, 0});
     EXPECT_EQ(!taken.Modbus[2].ALARM[0].common.valid.SIEMPRE, same) << stop << ' ' << days;
+    EXPECT_EQ(!taken.CTimer[2].valid.SIEMPRE, same) << stop << ' ' << days;
   }
-}
-
-TEST_F(BusBlocks, EmptyingResetsFourChannelsInPart) {
-  for (const int c : {3, 4}) {
-    ConfModbus& channel = conf.Modbus[c];
-    channel = {};
-    channel.NOMBRE = "former";
-    channel.CONSTANTE = 5;
-    channel.ALARM[0].thresholds = {1, 2, 3, 4};
-    channel.ALARM[0].common.FLAG = 6;
-  }
-  const ConfModbus left = conf.Modbus[4];
-  FindBlock(PageId::E_MODBUS)->clear(conf, profile, translate);
-  EXPECT_EQ(conf.Modbus[4], left);
-  const ConfModbus& emptied = conf.Modbus[3];
-  EXPECT_EQ(emptied.NOMBRE, "");
-  EXPECT_EQ(emptied.MULT, 1);
-  EXPECT_EQ(emptied.CONSTANTE, 5);
-  EXPECT_EQ(emptied.ALARM[0].thresholds, (RegisterThresholds{0, 0, 0, 4}));
-  EXPECT_EQ(emptied.ALARM[0].common.FLAG, 6);
-  EXPECT_EQ(emptied.ALARM[0].common.valid, kAlways);
 }
 
 TEST_F(BusBlocks, AnEarlierMarkOf32BitsLeavesTheSize) {

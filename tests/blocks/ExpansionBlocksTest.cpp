@@ -9,20 +9,17 @@ class ExpansionBlocks : public BlockFixture {
 };
 
 TEST_F(ExpansionBlocks, EachModeHasItsLines) {
-  Receive("EXPINPUT.D,128,15,7,12,1,Puerta");
+  Receive("EXPINPUT.D,127,15,7,12,1,Puerta");
   Receive("EXPINPUT.Q,1,2,3,4,Caudal,l/s,60,0.25");
   Receive("EXPINPUT.C,2,2,3,4,Contador,m3,0.1");
-  EXPECT_EQ(conf.Modulo[128].MODO, kModeDigital);
-  EXPECT_EQ(conf.Modulo[128].DIR, 15);
-  EXPECT_EQ(conf.Modulo[128].ENTRADA, 7);
-  EXPECT_EQ(conf.Modulo[128].GRUPO, 12);
-  EXPECT_EQ(conf.Modulo[128].D.NOMBRE, "Puerta");
-  EXPECT_TRUE(conf.Modulo[128].D.NC);
-  EXPECT_EQ(conf.Modulo[1].MODO, kModeFlow);
-  EXPECT_EQ(conf.Modulo[1].Q.TIMEBASE, 60);
-  EXPECT_EQ(conf.Modulo[1].Q.RATIO, 0.25F);
-  EXPECT_EQ(conf.Modulo[2].MODO, kModeCounter);
-  EXPECT_EQ(conf.Modulo[2].C, (ModuloCounter{"Contador", "m3", 0.1F}));
+  EXPECT_EQ(Changes(),
+            "[MINPUT 1] MODO= 2; DIR= 2; ENTRADA= 3; GRUPO= 4; [MINPUT.Q 1] NOMBRE=Caudal; "
+            "UNIDAD=l/s; TIMEBASE= 60; RATIO= .25; [MINPUT 2] MODO= 3; DIR= 2; ENTRADA= 3; "
+            "GRUPO= 4; [MINPUT.C 2] NOMBRE=Contador; UNIDAD=m3; RATIO= .1; "
+            "[MINPUT 127] MODO= 1; DIR= 15; ENTRADA= 7; GRUPO= 12; [MINPUT.D 127] NOMBRE=Puerta; "
+            "NC=True; ");
+  Receive("EXPINPUT.D,128,0,0,0,0,spare");
+  EXPECT_EQ(conf.Modulo[128].D.NOMBRE, "spare");
   for (const auto& [reported, code] : {std::pair{"1", 1}, {"2", 3}, {"0", 3}}) {
     Receive(std::string("EXPINPUT.A,3,2,3,4,Nivel,m,") + reported + ",4,0,20,6.5");
     EXPECT_EQ(conf.Modulo[3].A.INTERFAZ, code) << reported;
@@ -30,7 +27,6 @@ TEST_F(ExpansionBlocks, EachModeHasItsLines) {
   const ModuloAnalog& analog = conf.Modulo[3].A;
   EXPECT_EQ(std::vector({analog.IE, analog.EqIE, analog.FE, analog.EqFE}),
             (std::vector{4.F, 0.F, 20.F, 6.5F}));
-  EXPECT_EQ(conf.Modulo[0].MODO, kModeOff) << "what is not reported stays off";
   EXPECT_THROW(Receive("EXPINPUT.D,129,0,0,0"), BoundFailure);
   EXPECT_THROW(Receive("EXPINPUT.A.ALM,1,2,Texto"), BoundFailure);
 }
@@ -101,7 +97,6 @@ TEST_F(ExpansionBlocks, AlarmsAreThoseOfTheModeInForce) {
 TEST_F(ExpansionBlocks, AFileHoldsEveryModeOf128Inputs) {
   conf.Modulo[127].MODO = kModeFlow;
   conf.Modulo[127].A.GRUPO = 5;
-  conf.Modulo[128].D.NOMBRE = "spare";
   const std::string file = FileText(PageId::E_Modular);
   EXPECT_TRUE(
       file.starts_with("[MINPUT 0]\r\nMODO= 0\r\nDIR= 0\r\nENTRADA= 0\r\nGRUPO= 0\r\n"
@@ -112,45 +107,6 @@ TEST_F(ExpansionBlocks, AFileHoldsEveryModeOf128Inputs) {
         "[MINPUT.C 0]\r\nNOMBRE=\r\nUNIDAD=\r\nRATIO= 1\r\n[MINPUT.A 0]\r\nNOMBRE=\r\n",
         "EqFE= 0\r\nGRUPO= 5\r\nHABIL( 0)="})
     EXPECT_NE(file.find(part), std::string::npos) << part;
-  EXPECT_EQ(file.find("spare"), std::string::npos);
-  const DeviceConf saved = conf;
-  conf.Modulo[127] = {};
-  Restore(PageId::E_Modular, file);
-  EXPECT_EQ(conf, saved);
-}
-
-using AuxiliaryBlocks = BlockFixture;
-
-TEST_F(AuxiliaryBlocks, InputsGoOutWhereAModelHasThem) {
-  for (const auto& [mode, code] : {std::pair{"1", 6}, {"2", 6}, {"0", 0}, {"1", 6}}) {
-    Receive(std::string("AUX,2,P,V,") + mode + ",,0,0,10,100");
-    EXPECT_EQ(conf.Aux[2].INTERFAZ, code) << mode;
-  }
-  EXPECT_EQ(conf.Aux[2].FE, 10);
-  EXPECT_EQ(conf.Aux[2].EqFE, 100);
-  Receive("AUX.ALM,0,3,Texto,1,2,3,0,86400,127,1,4,6");
-  Receive("AUX.ACT,0,3,1,2,3");
-  EXPECT_TRUE(Statements(PageId::E_Aux).empty());
-  profile.AuxCount = 3;
-  const auto sent = Statements(PageId::E_Aux);
-  ASSERT_EQ(sent.size(), 15U);
-  EXPECT_EQ(sent[0], "DISAUX0");
-  EXPECT_EQ(sent[4],
-            "+ALMAUX0=Texto,INDEX= 3,MAX= 2,MIN= 1,HIST= 3,P= 6,EQ= 4,ACTHI= 1,ACTLO= 3,ACTNOM= 2");
-  EXPECT_EQ(sent[10], "AUXCONF2=P,UNIT=V,BSVAL= 0,FSVAL= 10,BSUNIT= 0,FSUNIT= 100");
-  EXPECT_EQ(sent[11], "-ALMAUX2,INDEX= 0");
-  EXPECT_TRUE(FileText(PageId::E_Aux)
-                  .starts_with("[AUX 0]\r\nNOMBRE=\r\nUNIDAD=\r\nINTERFAZ= 0\r\nIE= 0\r\nFE= 0\r\n"
-                               "EqIE= 0\r\nEqFE= 0\r\nHABIL( 0)=False\r\n"));
-}
-
-TEST_F(AuxiliaryBlocks, OffMeasurementsAreReadAndNeverSent) {
-  EXPECT_EQ(conf.Katodex, (ConfKatodex{1, 3, 0}));
-  Receive("KTX,2,30,0.5");
-  FindBlock(PageId::Katodex)->clear(conf, profile, translate);
-  EXPECT_EQ(conf.Katodex, (ConfKatodex{2, 30, 0.5F})) << "emptying leaves it";
-  EXPECT_TRUE(Statements(PageId::Katodex).empty());
-  EXPECT_EQ(FileText(PageId::Katodex), "[KTX]\r\nOFFTIME= 2\r\nSAMPLERATE= 30\r\nAUX1RATIO= .5");
 }
 
 }  // namespace

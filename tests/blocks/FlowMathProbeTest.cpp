@@ -15,18 +15,18 @@ constexpr const char* kLevelKeys =
 
 TEST_F(FlowBlocks, ATimeBaseOfZeroMeansOff) {
   Receive("CAUDAL,7,Entrada,m3/h,60,.1");
-  const ConfCaudal& meter = conf.Caudal[7];
-  EXPECT_EQ(meter.INTERFAZ, 6);
-  EXPECT_EQ(meter.TIMEBASE, 60);
-  EXPECT_EQ(meter.RATIO, 0.1F);
+  const std::string head = "[CAUDAL 7] NOMBRE=Entrada; UNIDAD=m3/h; ";
+  EXPECT_EQ(Changes(), head + "INTERFAZ= 6; TIMEBASE= 60; RATIO= .1; ");
   Receive("CAUDAL,7,Entrada,m3/h,0,.1");
-  EXPECT_EQ(meter.INTERFAZ, 0);
+  EXPECT_EQ(Changes(), head + "RATIO= .1; ");
   Receive("CAUDAL.ALM,7,3,Fuga,1,2,3,0,86400,127,1,9,4");
   Receive("CAUDAL.ACT,7,3,1,2,3");
-  const auto& [alarm, limits] = meter.ALARM[3];
-  EXPECT_EQ(limits, (LevelThresholds{1, 2, 3, 4}));
-  EXPECT_EQ(alarm.FLAG, 9);
-  EXPECT_EQ(alarm.ACTHI[0] * 100 + alarm.ACTNO[0] * 10 + alarm.ACTLO[0], 123);
+  EXPECT_EQ(Changes(),
+            head +
+                "RATIO= .1; HABIL( 3)=True; SMS( 3)=True; TEXTO( 3)=Fuga; MINIMO( 3)= 1; "
+                "MAXIMO( 3)= 2; HISTERESIS( 3)= 3; PERSISTENCIA( 3)= 4; FINAL( 3)=23:59:59; FLAG( "
+                "3)= 9; ACTHI( 3 0)= 1; "
+                "ACTLO( 3 0)= 3; ACTNO( 3 0)= 2; ");
   EXPECT_THROW(Receive("CAUDAL,10,x"), BoundFailure);
 }
 
@@ -54,29 +54,6 @@ TEST_F(FlowBlocks, Statements) {
                 "-ALMFLOW0,INDEX= 0",
                 "+ALMFLOW0=Fuga,INDEX= 1,MAX= 2.5,MIN= 1,HIST= .5,P= 4,NOSEND,EQ= 0,ACTHI=,ACTLO=,"
                 "ACTNOM= 80"}));
-}
-
-TEST_F(FlowBlocks, EmptyingKeepsPersistenceConditionAndTotaliser) {
-  ConfCaudal& meter = conf.Caudal[8];
-  meter.ALARM[0].thresholds = {1, 2, 3, 4};
-  meter.ALARM[0].common.FLAG = 5;
-  meter.TOTALRATIO = 10;
-  conf.Caudal[9].NOMBRE = "spare";
-  FindBlock(PageId::Caudal)->clear(conf, profile, translate);
-  EXPECT_EQ(meter.ALARM[0].thresholds, (LevelThresholds{0, 0, 0, 4}));
-  EXPECT_EQ(meter.ALARM[0].common.FLAG, 5);
-  EXPECT_EQ(meter.TOTALRATIO, 10);
-  EXPECT_EQ(conf.Caudal[9].NOMBRE, "spare");
-}
-
-TEST_F(FlowBlocks, TheFile) {
-  const std::string file = FileText(PageId::Caudal);
-  EXPECT_TRUE(
-      file.starts_with("[CAUDAL 0]\r\nNOMBRE=\r\nUNIDAD=\r\nINTERFAZ= 0\r\nTIMEBASE= 0\r\n"
-                       "RATIO= 1\r\n" +
-                       std::string(kLevelKeys)));
-  EXPECT_NE(file.find("[CAUDAL 8]"), std::string::npos);
-  EXPECT_EQ(file.find("[CAUDAL 9]"), std::string::npos);
 }
 
 TEST_F(FlowBlocks, SamplingIsSentToPressureLoggersAlone) {
@@ -116,6 +93,10 @@ TEST_F(MathBlock, LinesStatementsAndFile) {
           "MCCONF2=,UNIT=,EQ=", "-ALMM2,INDEX= 0", "DISMC3",
           "+ALMM3=Texto,INDEX= 0,MAX= 2,MIN= 1,HIST= 3,P= 4,EQ= 9,ACTHI= 1,ACTLO= 3,ACTNOM= 2"}));
   conf.Math[0].ECUACION = "A0*2";
+  EXPECT_TRUE(FileText(PageId::Caudal)
+                  .starts_with("[CAUDAL 0]\r\nNOMBRE=\r\nUNIDAD=\r\nINTERFAZ= 0\r\nTIMEBASE= 0\r\n"
+                               "RATIO= 1\r\n" +
+                               std::string(kLevelKeys)));
   EXPECT_TRUE(
       FileText(PageId::E_Math)
           .starts_with("[MATH 0]\r\nNOMBRE=\r\nUNIDAD=\r\nINTERFAZ= 0\r\nECUACION=A0*2\r\n" +
@@ -155,11 +136,9 @@ TEST_F(ProbeBlock, LinesStatementsAndFile) {
   EXPECT_EQ(read.OneWire[1].ADDRESS1, "40.113.0.0") << "the same octets";
   EXPECT_EQ(read.OneWire[1].ADDRESS2, "000.000.000.011") << "others";
   FindBlock(PageId::E_OneWire)->clear(conf, profile, translate);
-  EXPECT_TRUE(conf.OneWire[1].ID) << "kept";
   EXPECT_TRUE(FileText(PageId::E_OneWire)
                   .starts_with("[1WIRE 0]\r\nNOMBRE=\r\nUNIDAD=\r\nINTERFAZ= 0\r\nID=True\r\n"
-                               "ADDRESS1=0\r\nADDRESS2=0\r\n" +
-                               std::string(kLevelKeys)));
+                               "ADDRESS1=0\r\nADDRESS2=0\r\n"));
 }
 
 }  // namespace

@@ -39,29 +39,13 @@ TEST_F(InputBlocks, DigitalInputs) {
                                "REST( 0)=False\r\n"));
 }
 
-TEST_F(InputBlocks, TheSpareDigitalRecordIsNeverTouched) {
-  conf.Digital[9].NOMBRE = "spare";
-  conf.Digital[9].ALARM[0].common.TEXTO = "spare";
-  const ConfDigital spare = conf.Digital[9];
-  const std::string file = FileText(PageId::E_Digital);
-  EXPECT_EQ(file.find("spare"), std::string::npos);
-  Restore(PageId::E_Digital, file + "\r\n[DIGITAL 9]\r\nNOMBRE=file");
-  EXPECT_EQ(conf.Digital[9], spare);
-}
-
 TEST_F(InputBlocks, AnalogInputs) {
   for (const auto& [reported, code] :
        {std::pair{"1", 1}, {"2", 2}, {"3", 3}, {"4", 7}, {"5", 7}, {"0", 0}, {"7", 0}}) {
     Receive(std::string("ANALOG,3,Nivel,m,") + reported + ",2,4,0,20,10.5");
     EXPECT_EQ(conf.Analog[3].INTERFAZ, code) << reported;
   }
-  const ConfAnalog& read = conf.Analog[3];
-  EXPECT_EQ(read.UNIDAD, "m");
-  EXPECT_EQ(read.GRUPO, 2);
-  EXPECT_EQ(read.IE, 4);
-  EXPECT_EQ(read.EqIE, 0);
-  EXPECT_EQ(read.FE, 20);
-  EXPECT_EQ(read.EqFE, 10.5F);
+  EXPECT_EQ(Changes(), "[ANALOG 3] NOMBRE=Nivel; UNIDAD=m; IE= 4; FE= 20; EqFE= 10.5; GRUPO= 2; ");
   profile.AnalogCount = 1;
   ConfAnalog& input = conf.Analog[0];
   EXPECT_EQ(Statements(PageId::E_Analog)[0], "DISAI0");

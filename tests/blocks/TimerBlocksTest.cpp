@@ -64,16 +64,21 @@ TEST_F(TimerBlocks, LinesGoBackAsStatements) {
 }
 
 TEST_F(TimerBlocks, WhatALineOfADisabledTimerSaysIsKept) {
-  Receive("CTIMER,3,0,60,86400,60,2");
-  EXPECT_EQ(conf.CTimer[3].PERIOD, 60);
-  EXPECT_EQ(conf.CTimer[3].valid, (ValidityRange{kFalse, {60}, {86'399}, 0}));
+  for (const char* line : {"CTIMER,3,0,60,86400,60,2", "WTIMER,1,0,3600"}) Receive(line);
+  EXPECT_EQ(Changes(),
+            "[CTIMER 3] PERIOD= 60; SIEMPRE=False; INICIO=0:01:00; FINAL=23:59:59; SEMANA= 0; "
+            "EQ= 2; [WTIMER 1] INICIO=1:00:00; SEMANA= 0; ");
   Receive("CTIMER,3,127,0,86399,0,0");
   EXPECT_EQ(conf.CTimer[3].valid.SIEMPRE, kTrue);
-  Receive("LTIMER,0,90000");
-  EXPECT_EQ(conf.LTimer[0].PERIOD, 1);
-  Receive("WTIMER,1,0,3600");
-  EXPECT_EQ(conf.WTimer[1].INICIO, TimeOfDay{3600});
-  EXPECT_EQ(conf.WTimer[1].SEMANA, 0);
+}
+
+TEST_F(TimerBlocks, AWeekThatFitsNoMaskEnablesNothing) {
+  Receive("CTIMER,3,256,0,86400,60,2");
+  Receive("WTIMER,1,1e9,3600");
+  EXPECT_FALSE(conf.CTimer[3].HABIL);
+  EXPECT_FALSE(conf.WTimer[1].HABIL);
+  Receive("WTIMER,1,255,3600");
+  EXPECT_TRUE(conf.WTimer[1].HABIL);
 }
 
 TEST_F(TimerBlocks, SectionsOfAFile) {
@@ -103,15 +108,6 @@ TEST_F(TimerBlocks, SectionsOfAFile) {
   EXPECT_EQ(conf.WTimer[2].ACT[3], 4);
 }
 
-TEST_F(TimerBlocks, EmptyingLeavesTheSpareRecordAlone) {
-  conf.CTimer[16].PERIOD = conf.CTimer[15].PERIOD = 5;
-  conf.MTimer[16].MES = conf.MTimer[15].MES = 5;
-  for (const PageId page : {PageId::CTimer, PageId::MTimer})
-    FindBlock(page)->clear(conf, profile, translate);
-  EXPECT_EQ(conf.CTimer[15].PERIOD + conf.MTimer[15].MES, 0);
-  EXPECT_EQ(conf.CTimer[16].PERIOD + conf.MTimer[16].MES, 10);
-}
-
 TEST_F(TimerBlocks, ALongPeriodEndsTheMakingOfAnUpload) {
   const auto fault = [&](std::int16_t days) {
     conf.LTimer[5] = {kTrue, days, {}};
@@ -124,14 +120,6 @@ TEST_F(TimerBlocks, ALongPeriodEndsTheMakingOfAnUpload) {
   }
   conf.LTimer[5].HABIL = kFalse;
   EXPECT_TRUE(ComposeUpload(conf, {profile, 0}).Fault().Ok());
-}
-
-TEST_F(TimerBlocks, ARangeOfAllTimesComesBackAsItWasSent) {
-  DeviceConf read = conf;
-  for (const auto& [end, comesBack] : {std::pair{86'399, kFalse}, {86'398, kTrue}}) {
-    conf.CTimer[2].valid = {kFalse, {0}, {end}, 127};
-    EXPECT_EQ(ReadAsSent(read, conf, {profile, 0}).CTimer[2].valid.SIEMPRE, comesBack) << end;
-  }
 }
 
 }  // namespace

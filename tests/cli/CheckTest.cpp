@@ -53,12 +53,10 @@ TEST(Check, FindsEachMistakeByItsRule) {
            {"Bomba", "Bomba, sur", "", "text-breaks-statement", 1},
            {"Abierta", "Abierta\tya", "", "text-breaks-statement", 1},
            {"Abierta", "Abierta {ya", "", "text-breaks-statement", 1},
-           {"NOMBRE=Puerta", "NOMBRE=Puerta, norte", "", "text-breaks-statement", 1},
            {"HABIL( 0)=True\r\nSMS( 0)=True\r\nTEXTO( 0)=Abierta", "TEXTO( 0)=cerrada, no enviada",
             anyMask, ""},
            {"Bomba", std::string(51, 'x'), "", "text-too-long"},
            {"Bomba", std::string(50, 'x'), "", ""},
-           {"NOMBRE=Puerta", "NOMBRE=" + std::string(60, 'x'), "", "text-too-long"},
            {"Abierta", std::string(60, 'x'), "", "text-too-long"},
            {"+34600100200", "+3460010020012345678", "", "text-too-long"},
            {"RENVT= 10", "RENVT=abc", "", "value-misread"},
@@ -73,7 +71,6 @@ TEST(Check, FindsEachMistakeByItsRule) {
            {"MASKMODE1,DI2", "MASKMODE1,DI3", anyMask, "alarm-for-nobody"},
            {"MASKMODE1,DI2", "MASKMODE2,DI2", "", "alarm-for-nobody"},
            {"MASKMODE1,DI2", "MASKMODE2,DI3", anyMask, ""},
-           {"MASKMODE1,DI2", "MASKMODE0", "", ""},
            {"TLFM 0=+34600100200", "TLFX 0=", "", "alarm-for-nobody"},
            {"SMS( 0)=True", "SMS( 0)=False", "", ""},
            {"SIEMPRE( 0)=True\r\nSEMANA( 0)= 127", "SIEMPRE( 0)=False\r\nSEMANA( 0)= 0", "",
@@ -83,7 +80,6 @@ TEST(Check, FindsEachMistakeByItsRule) {
            {"MASKMODE1,DI2", "MASKMODE1,DI2,FG3", shortMasks, "mask-not-sent"},
            {"MASKMODE1,DI2", "MASKMODE1,DI2,FG3", "", "mask-without-alarm"},
            {"+34600100200", "34-600", "", "bad-telephone"},
-           {"+34600100200", "12", "", "bad-telephone"},
        }) {
     ExpectRule(Sound(), one);
   }
@@ -143,7 +139,6 @@ TEST(Check, FindsEachMistakeOfTimersByItsRule) {
            {"MES= 1", "MES= 3.5", "", "number-out-of-range", 1},
            {"ACT( 0)= 42", "ACT( 0)= 0", "", idle},
            {"ACT( 7)= 43", "ACT( 7)=-1", "", idle},
-           {"ACT( 0)= 50", "ACT( 0)= 0", "", idle},
            {"ACT( 0)= 48", "ACT( 0)= 0", "", idle},
            {"MES= 1\r\nACT( 0)= 48", "MES= 0", "", never},
            {"24855", "24856", "", "period-too-long", 1},
@@ -181,7 +176,6 @@ TEST(Check, FindsEachMistakeOfMacrosAndGprsByItsRule) {
            {"MACRO55", "MACRO38", "", "macro-number-twice"},
            {"MACRO55={X}", "MACRO56={X}", "", "macro-broken", 1},
            {"MACRO55={X}", "MACRO55={X}}", "", "macro-broken", 1},
-           {"MACRO55={X}", "MACRO55={\tX}", "", "text-breaks-statement", 1},
            {"MACRO55={X}", "F16={X}", "", "equation-above-f15", 1},
            {"MACRO55={X}", "MACRO15={X}", "", ""},
            {"MACRO38", "MACRO37", otherVoice, "action-without-macro"},
@@ -221,9 +215,7 @@ TEST(Check, FindsEachSenselessNumberByItsRule) {
   for (const RuleCase& one : std::vector<RuleCase>{
            {"IE= 4", "IE= 4", "", ""},
            {"FE= 20", "FE= 4", "", "scale-useless"},
-           {"FE= 20", "FE= 3", "", "scale-useless"},
            {"EqIE=-1", "EqIE= 6", "", "scale-useless"},
-           {"EqIE=-1", "EqIE= 7", "", "scale-useless"},
            {"INTERFAZ= 6", "INTERFAZ= 1", "", "interface-unknown"},
            {"INTERFAZ= 1", "INTERFAZ= 4", "", "interface-unknown"},
            {"TLFM 9=601", "TLFM 9=600", "", "telephone-twice"},
@@ -272,8 +264,6 @@ TEST(Check, FindsEachMistakeOfProbesAndEquationsByItsRule) {
             "", ""},
            {"40.113.0.1", "40.113.0", "", "probe-identity-broken", 1},
            {"40.113.0.1", "40.113.0.256", "", "probe-identity-broken", 1},
-           {"40.113.0.1", "40.113.0.1.", "", "probe-identity-broken", 1},
-           {"40.113.0.1", "a", "", "probe-identity-broken", 1},
            {"40.113.0.1", "0", "", "probe-identity-broken", 1},
            {"FL7", "FL8", "", "equation-without-channel"},
            {"DI0", "MB0", "", "equation-without-channel"},
@@ -291,26 +281,29 @@ TEST(Check, FindsNothingInWhatASimulatedLoggerHolds) {
   }
 }
 
-TEST(Check, FindsThatAFileWasCut) {
+TEST(Check, FindsThatAFileWasCutAndSaysWhere) {
   World world;
   world.HaveFile("/a.ocf");
   std::string& text = world.files.contents["/a.ocf"];
   text.resize(text.find("[FLAG 14]"));
-  EXPECT_EQ(world.Run("check /a.ocf"), 1);
-  EXPECT_THAT(world.out, HasSubstr("error: [FLAG 14]: this section and "));
+  world.Expect("check /a.ocf", 1, "error: [FLAG 14]: this section and ");
   text.resize(text.rfind("NOMBRE="));
-  EXPECT_EQ(world.Run("check /a.ocf --silence section-missing"), 1);
-  EXPECT_THAT(world.out, HasSubstr("error: [MODBUS 31] NOMBRE: this key and "));
+  world.Expect("check /a.ocf --silence section-missing", 1,
+               "error: [MODBUS 31] NOMBRE: this key and ");
 }
 
-TEST(Check, SaysWhereAndWhatHelps) {
-  World world;
-  world.files.contents["/a.ocf"] = Sound();
-  world.Edit("/a.ocf", "Bomba", "Bomba, sur");
-  EXPECT_EQ(world.Run("check /a.ocf --silence section-missing --silence key-missing"), 1);
-  EXPECT_EQ(world.out,
-            "error: [GENERAL] NOMBRE: a comma ends the text on the line: write something else for "
-            "it (text-breaks-statement)\n");
+TEST(Check, CountsWithTheFirmwareOfTheLoggerAtThePort) {
+  World world([](sim::Model model) {
+    sim::LoggerOptions options = sim::MakeDefaultOptions(model);
+    options.features = 0;
+    return options;
+  });
+  world.HaveFile("/a.ocf");
+  world.SetKey("/a.ocf", "MTIMER 0", "HABIL", "True");
+  EXPECT_EQ(world.Run("check /a.ocf"), 0);
+  EXPECT_THAT(world.out, testing::Not(HasSubstr("this firmware does not take")));
+  EXPECT_EQ(world.Run("check /a.ocf --port sim:VR200"), 0) << world.err;
+  EXPECT_THAT(world.out, HasSubstr("this firmware does not take"));
 }
 
 }  // namespace

@@ -1,5 +1,4 @@
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 #include <signal.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -11,6 +10,8 @@
 #include <sstream>
 #include <string>
 #include <vector>
+
+#include "tools/HexFiles.h"
 
 namespace ostrel::cli {
 namespace {
@@ -38,9 +39,10 @@ class EndToEnd : public testing::Test {
     return {std::istreambuf_iterator<char>(file), {}};
   }
   /// Runs a program to its end; its output and errors land in "out" and "err".
-  int Run(const std::string& program, const std::string& words) const {
+  int Run(const std::string& program, const std::string& words,
+          const std::string& input = "/dev/null") const {
     const std::string line = (Programs() / program).string() + " " + words + " >" + Path("out") +
-                             " 2>" + Path("err") + " </dev/null";
+                             " 2>" + Path("err") + " <" + input;
     return WEXITSTATUS(std::system(line.c_str()));
   }
 
@@ -154,6 +156,26 @@ TEST_F(EndToEnd, AnUploadKeepsToTheSpeedOfTheLine) {
   for (std::string line = simulator.Line(); !line.empty(); line = simulator.Line())
     closings += line.find("  #46") != std::string::npos;
   EXPECT_EQ(closings, 1) << "sent once, and heard whole before its answer was missed";
+}
+
+TEST_F(EndToEnd, TheConsoleAndAnUpdateGoOverAPseudoTerminal) {
+  Simulator simulator({"--model", "BP"});
+  const std::string port = " --target BP --port " + simulator.path;
+  std::ofstream(Path("typed")) << "VER\nOUT";
+  EXPECT_EQ(Run("ostrelctl", "terminal --log " + Path("log") + port, Path("typed")), 0)
+      << Read("err");
+  EXPECT_EQ(Read("out"), "Tavro BP v3.56\nOUT=0\n");
+  EXPECT_EQ(Read("log"), Read("out"));
+  std::ofstream(Path("image.hex"), std::ios::binary) << HexFile(20);
+  std::ofstream(Path("CopyFlash.hex"), std::ios::binary) << HexFile(2);
+  EXPECT_EQ(
+      Run("ostrelctl", "firmware --yes " + Path("image.hex") + " " + Path("CopyFlash.hex") + port),
+      0)
+      << Read("err");
+  EXPECT_EQ(simulator.Stop(SIGTERM), 0);
+  std::string told;
+  for (std::string line = simulator.Line(); !line.empty(); line = simulator.Line()) told = line;
+  EXPECT_THAT(told, HasSubstr("#F1 -> #DWLD_RAM_READY"));
 }
 
 TEST_F(EndToEnd, AnInterruptEndsADownloadWithoutAFile) {

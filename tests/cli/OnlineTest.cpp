@@ -9,8 +9,7 @@ using testing::Not;
 
 TEST(Online, ShowsWhoTheLoggerIs) {
   World world;
-  EXPECT_EQ(world.Run("info --port sim:VR200"), 0);
-  EXPECT_THAT(world.out, HasSubstr("model      Ostrel VR200\n"));
+  world.Expect("info --port sim:VR200", 0, "model      Ostrel VR200\n");
   EXPECT_THAT(world.out, HasSubstr("firmware   4.12\n"));
   EXPECT_THAT(world.out, HasSubstr("clock      2026-03-02 09:05:"));
   EXPECT_EQ(world.err, "");
@@ -23,30 +22,32 @@ TEST(Online, ShowsWhoTheLoggerIs) {
 
 TEST(Online, ReadsAndSetsTheClock) {
   World world;
-  world.Logger().SetClock({2026, 3, 2, 8, 0, 0});
-  EXPECT_EQ(world.Run("clock --port sim:VR200"), 0);
+  const auto isAnHourLate = [&] { world.Logger().SetClock({2026, 3, 2, 8, 0, 0}); };
+  isAnHourLate();
+  world.Expect("clock --port sim:VR200", 0, "logger     2026-03-02 08:00:0");
   EXPECT_THAT(world.err, HasSubstr("no (--yes answers yes)")) << "the session offers to set it";
-  EXPECT_THAT(world.out, HasSubstr("logger     2026-03-02 08:00:0"));
   EXPECT_EQ(world.Run("clock --set --quiet --json --port sim:VR200"), 0);
   EXPECT_EQ(world.err, "");
   EXPECT_LE(std::abs(world.Json().object()["secondsAhead"].toInt(99)), 1);
   EXPECT_EQ(world.Logger().Clock().hour, 9);
-}
-
-TEST(Online, AnswersTheClockQuestionAsTheOperatorDoes) {
-  World world;
-  std::vector<std::string> asked;
-  world.environment.ask = [&](std::string_view prompt, bool) {
-    asked.emplace_back(prompt);
-    return asked.size() == 1 ? "n" : "y";
-  };
-  for (const int hour : {8, 9}) {
-    world.Logger().SetClock({2026, 3, 2, 8, 0, 0});
+  for (const auto& [answer, hour] : {std::pair{"n", 8}, {"y", 9}}) {
+    world.environment.ask = [&](std::string_view prompt, bool) {
+      EXPECT_THAT(std::string(prompt), HasSubstr("Ostrel VR200: Parece que la hora"));
+      return answer;
+    };
+    isAnHourLate();
     EXPECT_EQ(world.Run("info --port sim:VR200"), 0);
     EXPECT_EQ(world.Logger().Clock().hour, hour);
   }
-  ASSERT_EQ(asked.size(), 2U);
-  EXPECT_THAT(asked[0], HasSubstr("Ostrel VR200: Parece que la hora"));
+}
+
+/// A clock that came damaged is not compared.
+TEST(Online, ADamagedLineIsNoReasonToAskAboutTheClock) {
+  for (int place = 1; place <= 12; ++place) {
+    World world(WithFaults({"bad-checksum@" + std::to_string(place)}));
+    world.Run("info --port sim:VR200");
+    EXPECT_THAT(world.err, testing::Not(HasSubstr("hora del dispositivo"))) << place;
+  }
 }
 
 TEST(Online, ShowsLiveValues) {
@@ -60,6 +61,44 @@ TEST(Online, ShowsLiveValues) {
   EXPECT_EQ(live["analog"].toArray().size(), 1);
   EXPECT_EQ(live["flows"].toArray().size(), 2);
   EXPECT_EQ(live["modbus"].toArray().size(), 0);
+}
+
+TEST(Online, RecordsLiveValues) {
+  World world;
+  std::ostringstream file;
+  world.environment.openRecording = [&](const std::string& path,
+                                        std::string& why) -> std::unique_ptr<std::ostream> {
+    why = "it is a folder";
+    if (path != "/day.csv") return nullptr;
+    return std::make_unique<std::ostream>(file.rdbuf());
+  };
+  const std::string watch = "live --port sim:BQ --watch --interval 2000 --count 3 --csv ";
+  const TimePoint begun = world.loop.Now();
+  EXPECT_EQ(world.Run(watch + "/day.csv"), 0) << world.err;
+  EXPECT_GE(world.loop.Now() - begun, std::chrono::seconds(4));
+  EXPECT_THAT(file.str(), testing::StartsWith("utc,local,DI0,DI1,"));
+  EXPECT_THAT(file.str(), HasSubstr("AI0 Presión red [bar]"));
+  EXPECT_EQ(std::ranges::count(file.str(), '\n'), 4);
+  EXPECT_THAT(world.out, HasSubstr("flow meter 1 "));
+  EXPECT_EQ(world.Run(watch + "-"), 0);
+  EXPECT_EQ(std::ranges::count(world.out, '\n'), 4) << "the table alone";
+  EXPECT_EQ(world.Run(watch + "/"), 5);
+  EXPECT_THAT(world.err, HasSubstr("cannot write the values to /: it is a folder"));
+  EXPECT_EQ(world.Run("live --port sim:BQ --count 3"), 2);
+}
+
+TEST(Online, AWatchGoesOnOverARoundThatFailed) {
+  World world([](sim::Model model) {
+    sim::LoggerOptions options = sim::MakeDefaultOptions(model);
+    std::string error;
+    for (int request = 14; request < 20; ++request)
+      options.faults.push_back(
+          *sim::ParseFault("silent@" + std::to_string(request) + "!once", error));
+    return options;
+  });
+  EXPECT_EQ(world.Run("live --port sim:BP --watch --count 6 --csv -"), 0) << world.err;
+  EXPECT_EQ(std::ranges::count(world.out, '\n'), 7);
+  EXPECT_THAT(world.out, HasSubstr(",,,,,")) << "a gap";
 }
 
 TEST(Online, WatchesUntilInterrupted) {
@@ -91,8 +130,7 @@ TEST(Online, SetsOutputsAndTotals) {
   EXPECT_EQ(std::stoi(world.out) / 100, 1234);
   EXPECT_EQ(world.Run("total 3 --port sim:VR200 --json"), 0);
   EXPECT_FALSE(world.Json().object()["set"].toBool(true));
-  EXPECT_EQ(world.Run("total 8 44 --port sim:VR200"), 4);
-  EXPECT_THAT(world.err, HasSubstr("the logger refused the setting: \"#BE0\""));
+  world.Expect("total 8 44 --port sim:VR200", 4, "the logger refused the setting: \"#BE0\"");
 }
 
 TEST(Online, SetsExpansionTotalsAndReadsTheProbe) {
@@ -116,26 +154,12 @@ TEST(Calc, GivesWhatTheCalculatorsGive) {
 TEST(Online, SaysWhatEndedAShortDialogue) {
   // The opening of a session takes 1.9 s; the dialogue of the command is the next.
   constexpr auto kSessionStands = std::chrono::milliseconds(1950);
-  struct Silent final : LineDevice {
-    void Receive(std::string_view) override {}
-    void SetTerminalReady(bool) override {}
-  } other;
   for (const std::string command : {"live", "clock", "clock --set", "total 3", "output 1 on"}) {
-    for (const bool held : {true, false}) {
-      World world;
-      LinePort& port = world.simulated.Port();
-      world.loop.After(kSessionStands, "fault", [&] {
-        if (held)
-          port.HoldOutput(253, true);
-        else
-          port.AddDevice(253, "other", "", other);
-      });
-      EXPECT_EQ(world.Run(command + " --port sim:VR200"), 4) << command;
-      EXPECT_THAT(world.err, HasSubstr(held ? "the line at COM253 (sim:VR200) was held"
-                                            : "COM253 (sim:VR200) has gone"))
-          << command;
-      port.HoldOutput(253, false);
-    }
+    World world;
+    LinePort& port = world.simulated.Port();
+    world.loop.After(kSessionStands, "fault", [&] { port.HoldOutput(253, true); });
+    world.Expect(command + " --port sim:VR200", 4, "the line at COM253 (sim:VR200) was held");
+    port.HoldOutput(253, false);
   }
 }
 
@@ -158,37 +182,23 @@ TEST(Online, KeepsASimulatedLoggerInAFileWhenToldTo) {
   EXPECT_EQ(next.Logger(sim::Model::KA1).Outputs(), 2U);
   EXPECT_EQ(next.Run("info --port sim:KA2 --sim-state /ka1.state"), 5) << "another model's";
   next.files.FailOperation(VirtualFiles::Change::Write, 1);
-  EXPECT_EQ(next.Run("info --port sim:KA1 --sim-state /ka1.state"), 5);
-  EXPECT_THAT(next.err, HasSubstr("cannot write /ka1.state"));
+  next.Expect("info --port sim:KA1 --sim-state /ka1.state", 5, "cannot write /ka1.state");
 }
 
 TEST(Online, LeavesNothingBehindAFailedDownload) {
-  struct Failure {
-    std::string fault;
-    std::string says;
-    int code = 4;
-  };
-  for (const Failure& failure : std::vector<Failure>{
-           {"silent-after-record@5", "the logger fell silent at record 6"},
-           {"bad-checksum@1", "no logger answers", 3},
-           {"bad-checksum@9",
-            "the logger did not tell who it is: lines were lost or arrived damaged"},
-           {"vanish@20", "COM253 (sim:VR200) has gone"},
-           {"vanish@3", "COM253 (sim:VR200) has gone in the middle of the dialogue"},
-       }) {
-    World world(WithFaults({failure.fault}));
+  for (const auto& [fault, code, says] : std::vector<std::tuple<std::string, int, std::string>>{
+           {"silent-after-record@5", 4, "the logger fell silent at record 6"},
+           {"bad-checksum@1", 3, "no logger answers"},
+           {"bad-checksum@9", 4, "did not tell who it is: lines were lost or arrived damaged"},
+           {"vanish@20", 4, "COM253 (sim:VR200) has gone"},
+           {"vanish@3", 4, "COM253 (sim:VR200) has gone in the middle of the dialogue"}}) {
+    World world(WithFaults({fault}));
     world.files.contents["/old.ocf"] = "old";
-    for (const std::string path : {"/old.ocf", "/new.ocf"}) {
-      const int code = world.Run("download " + path + " --port sim:VR200");
-      if (path == "/old.ocf") {
-        EXPECT_EQ(code, failure.code) << failure.fault;
-        EXPECT_THAT(world.err, HasSubstr(failure.says)) << failure.fault;
-      }
-      EXPECT_NE(code, 0) << failure.fault;
-      world.simulated.Port().Restore(253);
-    }
-    EXPECT_EQ(world.files.contents.size(), 1U) << failure.fault;
-    EXPECT_EQ(world.files.contents["/old.ocf"], "old") << failure.fault;
+    world.Expect("download /old.ocf --port sim:VR200", code, says);
+    world.simulated.Port().Restore(253);
+    EXPECT_NE(world.Run("download /new.ocf --port sim:VR200"), 0) << fault;
+    EXPECT_EQ(world.files.contents.size(), 1U) << fault;
+    EXPECT_EQ(world.files.contents["/old.ocf"], "old") << fault;
   }
 }
 
@@ -201,20 +211,6 @@ TEST(Online, TellsAnUnwritableFileBeforeTheLoggerIsKeptBusy) {
   world.files.FailOperation(VirtualFiles::Change::Rename, 1);
   EXPECT_EQ(world.Run("download /new.ocf --port sim:VR200"), 5);
   EXPECT_TRUE(world.files.contents.empty());
-}
-
-TEST(Online, AnInterruptEndsADownloadAndSaysHowTheLoggerStands) {
-  World world;
-  world.environment.errIsTerminal = true;
-  world.simulated.Port().SetPaced(true);
-  world.loop.After(std::chrono::seconds(6), "interrupt", [&] { world.environment.onInterrupt(); });
-  EXPECT_EQ(world.Run("download /new.ocf --port sim:VR200"), 4);
-  EXPECT_THAT(world.err, HasSubstr("\r\x1b[Kostrelctl: interrupted; the logger's configuration is "
-                                   "unchanged\n"));
-  EXPECT_TRUE(world.files.contents.empty());
-  EXPECT_FALSE(world.simulated.Port().PortOpen());
-  EXPECT_LT(world.loop.Now(), std::chrono::milliseconds(6100));
-  EXPECT_EQ(world.environment.onInterrupt, nullptr);
 }
 
 TEST(Online, ShowsProgressWithTheTimeThatRemainsOnATerminalAlone) {
@@ -245,8 +241,7 @@ TEST(Online, TracesTheLineWithItsPrefixes) {
   world.environment.openLog = [](const std::string&, std::string&) {
     return std::make_unique<std::ostream>(nullptr);  // takes nothing
   };
-  EXPECT_EQ(world.Run("info --port sim:VR200 --trace /full"), 5);
-  EXPECT_THAT(world.err, HasSubstr("cannot write /full"));
+  world.Expect("info --port sim:VR200 --trace /full", 5, "cannot write /full");
 }
 
 /// A logger behind a modem.
@@ -261,26 +256,27 @@ SimulatedLoggers::MakeOptions Behind(std::string code) {
 
 TEST(Online, GivesTheAccessCodeOnceFromTheOptionsOrAsksForIt) {
   World world(Behind("4711"));
-  EXPECT_EQ(world.Run("info --port sim:VR200 --phone 600100200 --code 4711"), 0) << world.err;
-  EXPECT_EQ(world.Run("info --port sim:VR200 --phone 600100200 --code 1"), 3);
-  EXPECT_THAT(world.err, HasSubstr("did not accept the access code"));
-  EXPECT_EQ(world.Run("info --port sim:VR200 --phone 600100200"), 3);
-  EXPECT_THAT(world.err, HasSubstr("--code, --code-file, --code-fd or OSTREL_CODE gives one"));
   const std::string call = "info --port sim:VR200 --phone 600100200 ";
   world.files.contents["/code"] = "4711\r\nmore";
-  EXPECT_EQ(world.Run(call + "--code-file /code"), 0) << world.err;
-  EXPECT_EQ(world.Run(call + "--code-file /none"), 5);
-  EXPECT_EQ(world.Run(call + "--code-file /code --code 4711"), 2);
   world.environment.readDescriptor = [](int descriptor, bool lineOnly, std::string& octets) {
     EXPECT_TRUE(lineOnly);
     octets = descriptor == 9 ? "4711" : "";
     return FileResult{};
   };
-  EXPECT_EQ(world.Run(call + "--code-fd 9"), 0) << world.err;
-  EXPECT_EQ(world.Run(call + "--code-fd 8"), 5);
-  world.environment.code = "4711";
-  EXPECT_EQ(world.Run(call), 0) << world.err;
-  EXPECT_EQ(world.Run(call + "--code 1"), 3) << "the option counts more";
+  for (const auto& [ofEnvironment, option, code, says] :
+       {std::tuple{"", "--code 4711", 0, ""},
+        {"", "--code 1", 3, "did not accept the access code"},
+        {"", "", 3, "--code, --code-file, --code-fd or OSTREL_CODE gives one"},
+        {"", "--code-file /code", 0, ""},
+        {"", "--code-file /none", 5, ""},
+        {"", "--code-file /code --code 4711", 2, ""},
+        {"", "--code-fd 9", 0, ""},
+        {"", "--code-fd 8", 5, ""},
+        {"4711", "", 0, ""},
+        {"4711", "--code 1", 3, ""}}) {
+    world.environment.code = ofEnvironment;
+    world.Expect(call + option, code, says);
+  }
   world.environment.code.clear();
   int asked = 0;
   world.environment.ask = [&](std::string_view prompt, bool echo) {
@@ -288,7 +284,7 @@ TEST(Online, GivesTheAccessCodeOnceFromTheOptionsOrAsksForIt) {
     EXPECT_THAT(std::string(prompt), HasSubstr("Introduzca la clave de acceso:"));
     return ++asked < 3 ? "99" : "4711";
   };
-  EXPECT_EQ(world.Run("info --port sim:VR200 --phone 600100200"), 0) << world.err;
+  EXPECT_EQ(world.Run(call), 0) << world.err;
   EXPECT_EQ(asked, 3);
 }
 
@@ -299,17 +295,13 @@ TEST(Online, AnInterruptAtAQuestionEndsTheCommand) {
     ++asked;
     return std::nullopt;
   };
-  EXPECT_EQ(world.Run("info --port sim:VR200 --phone 600100200"), 4);
-  EXPECT_THAT(world.err, HasSubstr("interrupted before a session stood"));
+  world.Expect("info --port sim:VR200 --phone 600100200", 4, "interrupted before a session stood");
   World cable;
-  cable.HaveFile("/ka1.ocf", "KA1");
   cable.environment.ask = world.environment.ask;
   cable.Logger().SetClock({2026, 3, 2, 8, 0, 0});
   EXPECT_EQ(cable.Run("info --port sim:VR200"), 4);
   EXPECT_EQ(cable.out, "");
-  EXPECT_EQ(cable.Run("upload /ka1.ocf --port sim:VR200"), 4);
-  EXPECT_EQ(cable.Logger().UploadsTaken(), 0U);
-  EXPECT_EQ(asked, 3) << "nobody is asked twice";
+  EXPECT_EQ(asked, 2) << "nobody is asked twice";
 }
 
 }  // namespace

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <QByteArray>
 #include <QJsonArray>
@@ -13,14 +12,10 @@
 #include <string_view>
 #include <vector>
 
+#include "VirtualWorld.h"
 #include "cli/Ostrelctl.h"
 #include "host/SimulatedLoggers.h"
 #include "platform/SilentDialogs.h"
-#include "platform/virtual/VirtualClock.h"
-#include "platform/virtual/VirtualFiles.h"
-#include "platform/virtual/VirtualLoop.h"
-#include "platform/virtual/VirtualProcesses.h"
-#include "platform/virtual/VirtualSettings.h"
 
 namespace ostrel::cli {
 
@@ -38,16 +33,10 @@ inline SimulatedLoggers::MakeOptions WithFaults(std::vector<std::string> faults)
 
 /// A shell in memory: the command line on virtual time with six simulated loggers and its own
 /// files. Loggers and files live on from one command to the next.
-class World {
- public:
+struct World : VirtualWorld {
   explicit World(const SimulatedLoggers::MakeOptions& makeOptions = sim::MakeDefaultOptions)
       : simulated(loop, clock, makeOptions) {}
 
-  VirtualLoop loop;
-  VirtualClock clock{{2026, 3, 2, 9, 5, 7}, loop};
-  VirtualFiles files;
-  VirtualSettings settings;
-  VirtualProcesses processes;
   SimulatedLoggers simulated;
   std::ostringstream outStream, errStream;
   SilentDialogs nobody;
@@ -70,6 +59,8 @@ class World {
                           .shippedLang = "/share/Lang.txt",
                           .numberOfDevice = [](const std::string&) { return 0; },
                           .openLog = {},
+                          .openGrowing = {},
+                          .watchInput = {},
                           .onInterrupt = {},
                           .interrupted = {}};
 
@@ -86,6 +77,11 @@ class World {
     out = outStream.str();
     err = errStream.str();
     return static_cast<int>(code);
+  }
+  /// Runs a command line, which ends with a code and says something, as a result or a message.
+  void Expect(const std::string& line, int code, const std::string& says) {
+    EXPECT_EQ(Run(line), code) << line << '\n' << err;
+    EXPECT_THAT(out + err, testing::HasSubstr(says)) << line;
   }
   /// What the last command wrote as JSON; a null document when that is none.
   QJsonDocument Json() const { return QJsonDocument::fromJson(QByteArray::fromStdString(out)); }

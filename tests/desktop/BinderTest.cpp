@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <QAccessible>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGroupBox>
@@ -9,12 +10,14 @@
 #include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QTabBar>
 #include <QTimeEdit>
 
 #include "Input.h"
 #include "controls/NumberBox.h"
 #include "desktop/forms/AccessKeys.h"
 #include "desktop/forms/FormView.h"
+#include "desktop/forms/ReadoutViews.h"
 #include "desktop/forms/Words.h"
 #include "desktop/layouts/LayoutParts.h"
 #include "platform/virtual/VirtualLoop.h"
@@ -49,10 +52,52 @@ class Binder : public testing::Test {
   MultiListBox multi{form, "multi"};
   TimePicker time{form, "time"};
   ProgressBar bar{form, "bar"};
+  DigitBox digit{form, "digit"};
+  LedMedio lamp{form, "lamp"};
+  LimitBar limits{form, "limits"};
+  TabRow tabs{form, "tabs"};
   Timer timer{form, "timer", loop, std::chrono::seconds(1)};
   int runs = 0;  ///< of click logic
   FormView view{form, [](const std::function<void()>& run) { run(); }};
 };
+
+TEST_F(Binder, ReadoutsTellTheirValueToThoseWhoCannotSeeThem) {
+  const auto told = [](QWidget* widget) {
+    QAccessibleInterface* face = QAccessible::queryAccessibleInterface(widget);
+    return face ? face->text(QAccessible::Value) : QString();
+  };
+  auto* shownDigit = Show<Readout>("digit");
+  auto* shownLamp = Show<Readout>("lamp");
+  auto* shownLimits = Show<Readout>("limits");
+  EXPECT_FALSE(shownLimits->isVisibleTo(&view));
+  digit.SetText(" 12.5");
+  lamp.SetValue(LedMedio::kLit);
+  limits.Set({{2, 8, 0.5}, {0, 12.4, 1}}, 12.5);
+  EXPECT_EQ(told(shownDigit), "12.5");
+  EXPECT_EQ(told(shownLamp), "on");
+  EXPECT_EQ(told(shownLimits),
+            "2 to 8, hysteresis .5: above the maximum\n0 to 12.4, hysteresis 1: above the maximum");
+  EXPECT_TRUE(shownLimits->isVisibleTo(&view));
+  const QImage fresh = shownDigit->grab().toImage();
+  digit.SetStale({.isStale = true, .since = "9:05:07"});
+  lamp.SetStale({.isStale = true});
+  EXPECT_EQ(told(shownDigit), "12.5, last read at 9:05:07");
+  EXPECT_EQ(told(shownLamp), "on, not read");
+  EXPECT_NE(shownDigit->grab().toImage(), fresh) << "it is seen, too";
+  limits.Set({}, {});
+  EXPECT_FALSE(shownLimits->isVisibleTo(&view));
+}
+
+TEST_F(Binder, TabsAreChosenByTheOperatorAmongThoseThatThereAre) {
+  auto* row = Show<QTabBar>("tabs");
+  tabs.SetTabs({{"A", true}, {"B", false}, {"C", true}});
+  EXPECT_FALSE(row->isTabVisible(1));
+  row->setCurrentIndex(2);
+  EXPECT_EQ(tabs.Chosen(), 2);
+  tabs.SetTabs({{"A", true}, {"B", true}, {"C", false}});
+  EXPECT_EQ(tabs.Chosen(), 0);
+  EXPECT_EQ(row->currentIndex(), 0);
+}
 
 TEST_F(Binder, CarriesEditsOfTheUserToEachKindOnce) {
   const auto count = [this] { ++runs; };
@@ -208,7 +253,7 @@ TEST_F(Binder, PaintsBadNumbersAndSaysWhatTheyCountAs) {
   EXPECT_TRUE(edit->property("bad").toBool());
   EXPECT_TRUE(edit->toolTip().contains("12."));
   EXPECT_EQ(edit->grab().toImage().pixelColor(edit->width() / 2, edit->height() / 2),
-            QColor(255, 0, 0));
+            QColor("#ffe3e3"));
   Type(edit, "12");
   CheckNumberBox(text, "int");
   EXPECT_FALSE(edit->property("bad").toBool());

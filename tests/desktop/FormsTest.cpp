@@ -3,6 +3,7 @@
 #include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QAbstractSpinBox>
+#include <QApplication>
 #include <QComboBox>
 #include <QDirIterator>
 #include <QFile>
@@ -95,9 +96,10 @@ TEST_P(AllForms, FitIntoTheSmallestScreenInBothLanguages) {
     UseLanguage(code);
     window.Pages().Redraw();
     for (const auto* key :
-         {"Tavro", "General", "E_Digital_0", "E_Analog_0", "Grupos", "Flag_0", "MODBUS", "MODBUS_0",
-          "Modulo_0", "E_Aux_0", "PCAT", "Caudal", "Caudal_0", "E_OneWire_0", "E_Math_0",
-          "CTimer0_3", "LTimer0_3", "WTimer0_3", "MTimer0_3"}) {
+         {"Tavro",     "General",     "E_Digital_0", "E_Analog_0", "Grupos",    "Flag_0",
+          "MODBUS",    "MODBUS_0",    "Modulo_0",    "E_Aux_0",    "PCAT",      "Caudal",
+          "Caudal_0",  "E_OneWire_0", "E_Math_0",    "CTimer0_3",  "LTimer0_3", "WTimer0_3",
+          "MTimer0_3", "Firmware",    "Terminal",    "T_Real"}) {
       window.GoTo(key);
       QCoreApplication::processEvents();
       const FormView* view = window.Pages().Front();
@@ -113,6 +115,23 @@ TEST_P(AllForms, FitIntoTheSmallestScreenInBothLanguages) {
       }
     }
   }
+}
+
+TEST_P(AllForms, TheGeneralPageHasRoomInALargerFont) {
+  const QFont usual = QApplication::font();
+  QFont larger = usual;
+  larger.setPointSize(12);
+  QApplication::setFont(larger);
+  MainWindow& window = desktop->Window();
+  window.resize(1280, 720);
+  window.show();
+  UseLanguage("es");
+  window.GoTo("General");
+  window.Pages().Redraw();
+  QCoreApplication::processEvents();
+  EXPECT_LE(window.Pages().Front()->minimumSizeHint().width(), window.Pages().width());
+  QApplication::setFont(usual);
+  UseLanguage("en");
 }
 
 INSTANTIATE_TEST_SUITE_P(Models, AllForms,

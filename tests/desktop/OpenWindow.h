@@ -29,6 +29,15 @@ class OpenWindow : public testing::Test, protected WindowWorld<VirtualLoop> {
       if (action->text() == text) return action;
     throw std::invalid_argument("no tool " + FromQt(text));
   }
+  /// Chooses the language of a row by the tool for it.
+  void ChooseLanguage(int row, const QString& tool) {
+    dialogs.OnModal([row](Modal& modal) {
+      AsForm(modal).Get<ComboBox>("ComboLang").SetPosition(row);
+      AsForm(modal).Get<Button>("CommandOk").Click();
+    });
+    Tool(tool)->trigger();
+  }
+
   /// A tool of the session bar.
   QAction* SessionTool(const char* name) { return Window().findChild<QAction*>(name); }
   QString LinkWords() { return Window().findChild<QLabel*>("LinkState")->text(); }

@@ -33,7 +33,6 @@ TEST_F(ReportViews, PasswordsAreDotsUntilTheBoxIsChecked) {
     EXPECT_EQ(Find<QLineEdit>(name)->echoMode(), QLineEdit::Password);
   Find<QAbstractButton>("CheckMostrar")->click();
   EXPECT_EQ(Find<QLineEdit>("TextFTPPass")->echoMode(), QLineEdit::Normal);
-  EXPECT_EQ(Find<QLineEdit>("TextAPNUserName")->echoMode(), QLineEdit::Normal);
 }
 
 TEST_F(ReportViews, LinesThatAreNotSentAreGrey) {

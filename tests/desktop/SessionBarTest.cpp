@@ -26,6 +26,15 @@ class OnEveryPage : public OpenWindow {
   TextBox& NameOfInput() {
     return Core().PageOf(PageId::E_Digital)->GetForm().Get<TextBox>("Nombre");
   }
+  /// Starts anew with the window's own boxes, and connects over a line of real speed.
+  void ConnectWithOwnBoxes() {
+    desktop.reset();
+    desktop = Make();
+    desktop->Start("");
+    Window().show();
+    port.SetPaced(true);
+    Connect(seconds(15));
+  }
   /// Presses a tool and agrees to a plain writing.
   void WriteFromTheBar() {
     modals.Expect([](QWidget* modal) { AgreeToWrite(modal, false); });
@@ -92,7 +101,7 @@ TEST_F(OnEveryPage, ReadsAndWritesWhereTheOperatorIs) {
   SessionTool("ReadTool")->trigger();
   bool rested = false;
   loop.After(seconds(4), "look", [&] {
-    rested = !Window().Pages().isEnabled();
+    rested = !Window().Pages().isEnabled() && !Tool("Guardar")->isEnabled();
     EXPECT_EQ(LinkWords(), "Reading");
     auto* bar = Window().findChild<QToolBar*>("Session")->findChild<QProgressBar*>();
     EXPECT_TRUE(bar->isVisibleTo(&Window()));
@@ -136,12 +145,7 @@ TEST_F(OnEveryPage, ATransferIsCancelledAsAnInterruptionDoes) {
 
 /// Whoever waits in an event of the window would hold the transfer below it.
 TEST_F(OnEveryPage, QuestionsDoNotHoldATransfer) {
-  desktop.reset();
-  desktop = Make();  // with the window's own boxes
-  desktop->Start("");
-  Window().show();
-  port.SetPaced(true);
-  Connect(seconds(15));
+  ConnectWithOwnBoxes();
   QTimer::singleShot(5000, [] {  // a box that waits after all is not to hang the test
     if (QMessageBox* box = Box()) box->reject();
   });
@@ -162,34 +166,75 @@ TEST_F(OnEveryPage, QuestionsDoNotHoldATransfer) {
 }
 
 TEST_F(OnEveryPage, LeavingAVoiceListThatIsBeingWrittenIsAsked) {
-  desktop.reset();
-  desktop = Make();
-  desktop->Start("");
-  Window().show();
-  port.SetPaced(true);
-  Connect(seconds(15));
+  ConnectWithOwnBoxes();
   SetNumbers(Core().conf.AutVoz, std::vector<std::string>(50, "600123456"));
   Core().PageOf(PageId::Aut_Voz)->LoadData();
   Window().GoTo("Aut_Voz");
   loop.RunFor(seconds(2));
   loop.After(seconds(2), "close", [&] {
-    EXPECT_TRUE(Core().session.WritesVoiceList());
+    EXPECT_EQ(Core().session.VoiceList(), ListWork::Writing);
+    EXPECT_EQ(LinkWords(), "Escribiendo la lista de voz");
     EXPECT_FALSE(Window().close()) << "it asks";
     ASSERT_NE(Box(), nullptr);
     Box()->reject();
   });
   Core().PageOf(PageId::Aut_Voz)->GetForm().Get<Button>("WriteBut").Click();
-  EXPECT_FALSE(Core().session.WritesVoiceList());
+  EXPECT_EQ(Core().session.VoiceList(), ListWork::None);
   EXPECT_EQ(logger->Conf().voice.numbers.size(), 50U) << "and goes on meanwhile";
 }
 
-TEST_F(OnEveryPage, LeavingAWritingBreaksItOff) {
-  desktop.reset();
-  desktop = Make();
-  desktop->Start("");
-  Window().show();
+TEST_F(OnEveryPage, AVoiceListIsAskedAboutAndCancelledWithItsWords) {
   port.SetPaced(true);
   Connect(seconds(15));
+  Window().GoTo("Aut_Voz");
+  loop.RunFor(seconds(2));
+  Button& write = Core().PageOf(PageId::Aut_Voz)->GetForm().Get<Button>("WriteBut");
+  const auto held = logger->Conf().voice.numbers;
+  for (const std::vector<std::string>& numbers : {std::vector<std::string>{}, {"600", "six"}}) {
+    SetNumbers(Core().conf.AutVoz, numbers);
+    Core().PageOf(PageId::Aut_Voz)->LoadData();
+    dialogs.Answer(BoxAnswer::No);
+    write.Click();
+    ASSERT_FALSE(dialogs.boxes.empty());
+    EXPECT_TRUE(dialogs.boxes.back().prefersNo) << dialogs.boxes.back().text;
+    EXPECT_EQ(dialogs.Unused(), 0U) << "it was asked";
+  }
+  EXPECT_EQ(logger->Conf().voice.numbers, held);
+  SetNumbers(Core().conf.AutVoz, std::vector<std::string>(50, "600123456"));
+  Core().PageOf(PageId::Aut_Voz)->LoadData();
+  loop.After(seconds(2), "cancel", [&] { SessionTool("CancelTool")->trigger(); });
+  write.Click();
+  EXPECT_EQ(Strip(),
+            "Interrupted. The logger's voice-call list may be erased or incomplete: write it "
+            "again.");
+}
+
+TEST_F(OnEveryPage, AReadingCoversWhatItEmptiesAndItsBarTellsOfSuccessAlone) {
+  port.SetPaced(true);
+  Connect(seconds(15));
+  const auto bar = [&] {
+    Window().GoTo("General");
+    return On(*desktop, "PBar")->isVisibleTo(&Window());
+  };
+  const auto covers = [&] { return Window().Pages().findChildren<QLabel*>("Cover").size(); };
+  EXPECT_FALSE(bar());
+  SessionTool("ReadTool")->trigger();
+  loop.After(seconds(4), "look", [&] {
+    EXPECT_EQ(covers(), 2) << "name and telephones";
+    Window().GoTo("E_Digital_3");
+    EXPECT_EQ(covers(), 1) << "the whole page";
+  });
+  loop.RunFor(seconds(60));
+  EXPECT_EQ(covers(), 0);
+  EXPECT_TRUE(bar());
+  SessionTool("ReadTool")->trigger();
+  loop.After(seconds(4), "cancel", [&] { SessionTool("CancelTool")->trigger(); });
+  loop.RunFor(seconds(10));
+  EXPECT_FALSE(bar()) << "it tells of no success";
+}
+
+TEST_F(OnEveryPage, LeavingAWritingBreaksItOff) {
+  ConnectWithOwnBoxes();
   WriteFromTheBar();
   loop.After(seconds(3), "close", [&] {
     Window().close();
@@ -199,12 +244,6 @@ TEST_F(OnEveryPage, LeavingAWritingBreaksItOff) {
   loop.RunFor(seconds(6));
   EXPECT_FALSE(Window().isVisible() || port.PortOpen());
   EXPECT_EQ(logger->UploadsTaken(), 0u);
-}
-
-TEST_F(OnEveryPage, AHeldLineIsNamedWhenTheOpeningFailsOfIt) {
-  port.HoldOutput(kPort, true);
-  Connect(seconds(60));
-  EXPECT_TRUE(Fault().startsWith("The line at COM7 was held")) << FromQt(Fault());
 }
 
 TEST_F(OnEveryPage, SavesToTheFileThatIsKnown) {

@@ -89,22 +89,12 @@ TEST_F(WindowTools, KeepsItsOwnWordsOutOfTheTable) {
 
 TEST_F(WindowTools, SaysThatAPageDoesNotExistYet) {
   UseLanguage("en");
-  Window().GoTo("Firmware");
+  Window().GoTo("TEST");
   EXPECT_EQ(Window().Pages().Front(), nullptr);
   auto* empty = Window().Pages().findChild<QLabel*>("EmptyPage");
   EXPECT_EQ(empty->text(), "This page does not exist in this version yet.");
-  dialogs.OnModal([](Modal& modal) {
-    Form& form = AsForm(modal);
-    form.Get<ComboBox>("ComboLang").SetPosition(1);
-    form.Get<Button>("CommandOk").Click();
-  });
-  Tool("Idioma")->trigger();
-  dialogs.OnModal([](Modal& modal) {
-    Form& form = AsForm(modal);
-    form.Get<ComboBox>("ComboLang").SetPosition(0);
-    form.Get<Button>("CommandOk").Click();
-  });
-  Tool("Language")->trigger();
+  ChooseLanguage(1, "Idioma");
+  ChooseLanguage(0, "Language");
   EXPECT_TRUE(empty->text().contains("Esta")) << "it speaks the language chosen";
   Window().GoTo("CTimer");
   EXPECT_EQ(empty->text(), "");
@@ -210,12 +200,7 @@ TEST_F(WindowTools, KeepsItsGroupsOpenInAnotherLanguage) {
   group("Temporizadores")->setExpanded(true);
   group("Semanales")->setExpanded(true);
   group("Dispositivo")->setExpanded(true);
-  dialogs.OnModal([](Modal& modal) {
-    Form& form = AsForm(modal);
-    form.Get<ComboBox>("ComboLang").SetPosition(1);
-    form.Get<Button>("CommandOk").Click();
-  });
-  Tool("Idioma")->trigger();
+  ChooseLanguage(1, "Idioma");
   EXPECT_TRUE(group("Timers")->isExpanded() && group("Weekly")->isExpanded());
   Window().GoTo("E_Analog_0");
   EXPECT_EQ(On<QCheckBox>(*desktop, "HorarioHabil")->accessibleName(), "Always");
@@ -320,23 +305,6 @@ TEST_F(WindowTools, OpensFromItsMenusAndForgetsWhatIsGone) {
   EXPECT_EQ(dialogs.boxes.size(), 1u);
 }
 
-TEST_F(WindowTools, RestsFromTheRequestToTheEndOfATransfer) {
-  AddLogger(sim::Model::BP);
-  port.SetPaced(true);
-  Connect();
-  Core().general.GetForm().Get<TextBox>("NameBox").Type("door");
-  loop.RunFor(seconds(2));
-  ModalScript modals;
-  modals.Expect([](QWidget* modal) { AgreeToWrite(modal, false); });
-  Core().general.Session().Escribir.Click();
-  Window().Look();
-  EXPECT_FALSE(Tool("Guardar")->isEnabled() || Window().Pages().isEnabled());
-  loop.RunFor(seconds(30));
-  EXPECT_EQ(modals.Left(), 0u);
-  EXPECT_EQ(logger->UploadsTaken(), 1U);
-  EXPECT_TRUE(Tool("Guardar")->isEnabled() && Window().Pages().isEnabled());
-}
-
 TEST_F(WindowTools, ReadingOverChangesAsksFirst) {
   AddLogger(sim::Model::BP);
   Connect();
@@ -366,26 +334,6 @@ TEST_F(WindowTools, IsTitledByTheFileThatItWorksOn) {
   Core().general.Session().Leer.Click();
   loop.RunFor(seconds(5));
   EXPECT_TRUE(Window().windowTitle().startsWith("Quorvane Tavro BP")) << "it is the logger's now";
-}
-
-TEST_F(WindowTools, ComparesWithAFileWithoutTouchingAnything) {
-  UseLanguage("en");
-  Core().ConfFilePath = Path("a.ocf");
-  ASSERT_TRUE(Core().SaveConf().Ok());
-  Window().GoTo("E_Digital_2");
-  Core().PageOf(PageId::E_Digital)->GetForm().Get<TextBox>("Nombre").Type("door");
-  dialogs.ChoosePath(Path("a.ocf"));
-  ModalScript modals;
-  modals.Expect([](QWidget* modal) {
-    auto* table = modal->findChild<QTableWidget*>();
-    ASSERT_EQ(table->rowCount(), 1);
-    EXPECT_EQ(table->item(0, 0)->text() + table->item(0, 2)->text(), "DIGITAL 2door");
-    EXPECT_EQ(modal->findChild<QLabel*>("Summary")->text(), "1 field differs.");
-    Press(modal, Qt::Key_Escape);
-  });
-  Tool("Comparar")->trigger();
-  EXPECT_EQ(modals.Left(), 0u);
-  EXPECT_EQ(Core().conf.Digital[2].NOMBRE, "");
 }
 
 TEST_F(WindowTools, ShowsWhenTimersFireAsThePageInFrontHasThem) {

@@ -66,14 +66,6 @@ TEST_F(LangTest, TheKeysOwnLanguageAddsNothing) {
   EXPECT_TRUE(files.log.empty());
 }
 
-TEST_F(LangTest, ARowWithoutATranslationGivesTheText) {
-  ASSERT_TRUE(Load("{Es}{En}\r\n{Aviso}\r\n{Error}{Failure}\r\n{Error}{Other}"));
-  EXPECT_EQ(lang.Translate("Aviso"), "Aviso");
-  EXPECT_EQ(lang.Translate("Error"), "Failure");
-  EXPECT_EQ(lang.Translate(""), "");  // the free row matches it
-  EXPECT_TRUE(files.log.empty());
-}
-
 TEST_F(LangTest, AMissingTextIsAppendedAtOnce) {
   ASSERT_TRUE(Load("{Es}{En}\n"));
   EXPECT_EQ(lang.Translate("Añadir"), "Añadir");
@@ -90,16 +82,6 @@ TEST_F(LangTest, AMissingTextIsAppendedAtOnce) {
   EXPECT_EQ(Disk(),
             "{Es}{En}\r\n{A\xF1"
             "adir}\r\n\r\n{Otro}\r\n\r\n");
-}
-
-TEST_F(LangTest, ATextWithAClosingBraceIsNeverFoundAgain) {
-  ASSERT_TRUE(Load("{Es}{En}"));
-  lang.Translate("a}b");
-  lang.Translate("a}b");
-  EXPECT_EQ(lang.LangCount(), 3);
-  EXPECT_EQ(lang.LangLine(2), "{a}b}");
-  lang.Translate("a");
-  EXPECT_EQ(lang.LangCount(), 3);
 }
 
 TEST_F(LangTest, WithoutAFileEveryTextStays) {

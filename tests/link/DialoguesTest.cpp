@@ -32,7 +32,12 @@ class EveryDialogue : public LinkTest {
       {"SetExpValue", [this] { return comms.SetExpValue(1, 2); }, "#BE1"},
       {"ReadProbeIdentity", [this] { return comms.ReadProbeIdentity(probe); }, "#05001,2"},
       {"WriteAutVoz", [this] { return comms.WriteAutVoz(voice); }, "#BE1"},
-      {"ReadAutVozList", [this] { return comms.ReadAutVozList(voice); }, "#B00"}};
+      {"ReadAutVozList", [this] { return comms.ReadAutVozList(voice); }, "#B00"},
+      {"SendFirmware",
+       [this] {
+         return comms.SendFirmware({"image", "loader"}, [](auto) {});
+       },
+       "#DWLD_ERASING"}};
 
   ProbeIdentity probe;
   ConfAutVoz voice;
@@ -96,7 +101,7 @@ TEST_F(EveryDialogue, OfASilentLoggerSaysSo) {
   Prepare();
   for (const char* name : {"ReadConf", "WriteConf", "ReadInfo", "ReadDeviceRTC", "WriteDeviceRTC",
                            "ReadTotalCount", "ReadRealTime", "SetTotalCNT", "SetExpValue",
-                           "ReadProbeIdentity", "WriteAutVoz", "ReadAutVozList"})
+                           "ReadProbeIdentity", "WriteAutVoz", "ReadAutVozList", "SendFirmware"})
     for (const Case& c : inSession)
       EXPECT_TRUE(c.name != std::string(name) || c.run().Fault().kind == Kind::Silence) << name;
 }

@@ -104,16 +104,6 @@ TEST_F(LineTest, TxSerWithoutWaitLeavesTheReplyForLater) {
   EXPECT_EQ(logger.raw, "#64;40\r#E9;\xE9\r");
 }
 
-TEST_F(LineTest, ClosedPortLeavesEverythingAlone) {
-  port.SetPortOpen(false);
-  comms.RxLine = "old";
-  EXPECT_EQ(Send("#40", 1000), "#40");
-  comms.TxGsm("AT", 1000);
-  EXPECT_FALSE(comms.RxSer(1000) || comms.RxGsm(1000) || !comms.GetChar(1000).empty());
-  EXPECT_EQ(comms.RxLine, "old");
-  EXPECT_EQ(loop.Now(), Duration::zero());
-}
-
 TEST_F(LineTest, GsmLines) {
   struct Case {
     Texts answers;

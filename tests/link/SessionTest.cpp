@@ -208,6 +208,17 @@ TEST_F(SessionTest, ValuesComeFromTheirFields) {
     Select(model, model == std::string("Ostrel S100") ? 0x40 : 0);
     EXPECT_TRUE(comms.ReadRealTime());
   }
+  const auto read = [&](LiveAnswer answer) { return live.ReadOf(answer); };
+  EXPECT_TRUE(read(LiveAnswer::Modules64).hasCome);
+  EXPECT_EQ(read(LiveAnswer::Aux).at, clock.LocalTime());
+  logger.Always("#22", Frames("#DF,1"));
+  EXPECT_TRUE(comms.ReadRealTime());
+  EXPECT_EQ(read(LiveAnswer::Flows).missed, 1);
+  EXPECT_FALSE(read(LiveAnswer::Flows).IsStale());
+  EXPECT_TRUE(comms.ReadRealTime());
+  EXPECT_TRUE(read(LiveAnswer::Flows).IsStale());
+  EXPECT_LT(read(LiveAnswer::Flows).at, read(LiveAnswer::Counters).at);
+  EXPECT_EQ(read(LiveAnswer::Modbus).missed, 0) << "it was not asked for";
   EXPECT_THAT(List(live.CounterValue), ElementsAre(2, 3, 4, 5, 6, 7, 8, 9, 10, 0));
   EXPECT_THAT(List(live.FlowValue), ElementsAre(2, 3, 4, 5, 6, 7, 8, 9, 10, 0));
   EXPECT_EQ(live.DigitalMask, 2);
@@ -250,6 +261,19 @@ TEST_F(SessionTest, NamesComeFromTheirFields) {
   check(live.ModuloName, live.ModuloUnit, 88, 8, 2, 2);
   EXPECT_THAT(List(live.CounterName),
               ElementsAre("2", "3", "4", "5", "6", "7", "8", "9", "10", ""));
+}
+
+/// A dialogue whose answer lies there, because a question to the operator stands, is not silent.
+TEST_F(SessionTest, WhatHasComeAndIsNotTakenIsNoSilence) {
+  At(milliseconds(20), [this] {
+    loop.RunFor(seconds(3));
+    EXPECT_GT(comms.SilentFor(), seconds(2));
+    logger.end->Send("x");
+    loop.RunFor(seconds(8));
+    EXPECT_EQ(comms.SilentFor(), Duration::zero());
+    EXPECT_EQ(comms.UnansweredFor(), Duration::zero());
+  });
+  comms.ReadTotalCount();
 }
 
 TEST_F(SessionTest, TotalsAreCutToWholeNumbers) {

@@ -26,11 +26,5 @@ TEST(FieldText, ReadsWhatAFileMayHold) {
   EXPECT_EQ(flag, kFalse);
 }
 
-TEST(MetaOf, FindsWhatIsKnownOfAMember) {
-  EXPECT_EQ(MetaOf(&ConfAnalog::UNIDAD).longest, 9);
-  EXPECT_EQ(MetaOf(&ConfAnalog::EqFE).word, "EqFE");
-  EXPECT_EQ(MetaOf(&ConfGeneral::RENVN).longest, 3);
-}
-
 }  // namespace
 }  // namespace ostrel

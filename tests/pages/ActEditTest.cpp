@@ -1,5 +1,3 @@
-#include <gtest/gtest.h>
-
 #include <set>
 #include <sstream>
 
@@ -49,40 +47,17 @@ TEST(ActionCatalogue, EachModelOffersItsNumbers) {
 }
 
 TEST(ActionCatalogue, LinesReadAsNumberNameAndIndex) {
-  const std::pair<const char*, std::vector<const char*>> table[] = {
-      {"Tavro BP",
-       {"1 - Ejecutar macro 0",
-        "39 - Ejecutar macro 38",
-        "42 - Sincronizar reloj",
-        "43 - Encender GSM durante 5m",
-        "44 - Leer grupo de analogicas 0",
-        "47 - Leer grupo de analogicas 3",
-        "48 - Enviar SMS tipo Kestrel",
-        "50 - Encender GSM durante 10m",
-        "51 - Encender GSM durante 20m",
-        "52 - Encender GSM durante 30m",
-        "56 - Registrar grupo de analogicas 3",
-        "57 - Registrar contador 0",
-        "65 - Registrar caudal 0 y 1",
-        "66 - Registrar caudal 2 y 3",
-        "67 - Registrar caudal 4 y 5",
-        "68 - Registrar caudal 6 y 7",
-        "79 - Iniciar conexion GPRS",
-        "80 - Registrar alarma",
-        "81 - Registrar canal auxiliar 0",
-        "88 - Leer canal auxiliar 3",
-        "89 - Iniciar conexion FTP",
-        "90 - Leer canal matematico 0",
-        "97 - Registrar canal matematico 3",
-        "109 - Registrar entrada digital 7"}},
-      {"Tavro BQ", {"44 - Leer presion", "53 - Registrar presion"}},
-      {"Ostrel VR200",
-       {"70 - Leer MODBUS todo", "71 - Leer MODBUS grupo 0", "75 - Registrar MODBUS grupo 0",
-        "78 - Registrar MODBUS grupo 3"}},
-      {"Ostrel KA1", {"98 - Registrar sonda 0"}},
-      {"Ostrel S100", {"124 - Registrar grupo de expansiones 14"}},
-  };
-  for (const auto& [model, lines] : table) {
+  for (const auto& [model, lines] : std::vector<std::pair<const char*, std::vector<const char*>>>{
+           {"Tavro BP",
+            {"39 - Ejecutar macro 38", "43 - Encender GSM durante 5m",
+             "44 - Leer grupo de analogicas 0", "52 - Encender GSM durante 30m",
+             "56 - Registrar grupo de analogicas 3", "66 - Registrar caudal 2 y 3",
+             "88 - Leer canal auxiliar 3", "97 - Registrar canal matematico 3",
+             "109 - Registrar entrada digital 7"}},
+           {"Tavro BQ", {"44 - Leer presion", "53 - Registrar presion"}},
+           {"Ostrel VR200", {"70 - Leer MODBUS todo", "71 - Leer MODBUS grupo 0"}},
+           {"Ostrel KA1", {"98 - Registrar sonda 0"}},
+           {"Ostrel S100", {"124 - Registrar grupo de expansiones 14"}}}) {
     TargetProfile profile;
     SelectTarget(profile, model);
     std::set<std::string> offered;

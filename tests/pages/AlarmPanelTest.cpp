@@ -1,5 +1,3 @@
-#include <gtest/gtest.h>
-
 #include "PageFixture.h"
 #include "pages/inputs/E_Analog.h"
 
@@ -8,13 +6,9 @@ namespace {
 
 class AlarmPage : public PageFixture {
  protected:
-  AlarmPage() {
-    page.Form_Load();
-    page.Clear();
-  }
+  AlarmPage() { Start(page); }
 
   AlarmBlock& Cell(int channel, int config) { return conf.Analog[channel].ALARM[config].common; }
-  bool Enabled(std::string_view name) { return FaceOf(page.GetForm()[name]).Enabled(); }
   CheckBox& Check(std::string_view name) { return page.GetForm().Get<CheckBox>(name); }
   OptionButton& Option(std::string_view name) { return page.GetForm().Get<OptionButton>(name); }
   TextBox& Box(std::string_view name) { return page.GetForm().Get<TextBox>(name); }
@@ -33,13 +27,13 @@ TEST_F(AlarmPage, TheAlarmTickAndSiempreDecideWhatIsEnabled) {
     Cell(0, 0).HABIL = Bool16(c.alarm);
     Cell(0, 0).valid.SIEMPRE = Bool16(c.always);
     page.LoadData();
-    for (const char* name :
-         {"RestHabil", "ReenvHabil", "NotSMS", "NotVoz", "NotGPRS", "NotNone", "HorarioHabil",
-          "TextoAlarma", "Minimo", "Persist", "BotonAlto", "BotonBajo", "BotonNormal",
-          "LabelInicio", "LabelFinal", "LabelFlag", "LabelTrue", "FlagCombo"})
-      EXPECT_EQ(Enabled(name), c.boxes) << name;
-    for (const char* name : {"HoraInicio", "HoraFinal", "CheckLun", "CheckMie", "CheckDom"})
-      EXPECT_EQ(Enabled(name), c.range) << name;
+    EXPECT_EQ(Enabled(page, {"RestHabil", "ReenvHabil", "NotSMS", "NotVoz", "NotGPRS", "NotNone",
+                             "HorarioHabil", "TextoAlarma", "Minimo", "Persist", "BotonAlto",
+                             "BotonBajo", "BotonNormal", "LabelInicio", "LabelFinal", "LabelFlag",
+                             "LabelTrue", "FlagCombo"}),
+              std::string(18, c.boxes ? '1' : '0'));
+    EXPECT_EQ(Enabled(page, {"HoraInicio", "HoraFinal", "CheckLun", "CheckMie", "CheckDom"}),
+              std::string(5, c.range ? '1' : '0'));
   }
 }
 
@@ -96,16 +90,6 @@ TEST_F(AlarmPage, AnotherChannelCommitsAndShowsItsConfiguration0) {
   EXPECT_EQ(page.CurrentIndex(), 3) << "there is no such channel";
 }
 
-TEST_F(AlarmPage, AFlagThatNoRowStandsForIsKept) {
-  Cell(0, 0).FLAG = 3;
-  Cell(0, 1).FLAG = 20;
-  page.LoadData();
-  Option("Config1").SetSelected(true);
-  EXPECT_EQ(page.GetForm().Get<ComboBox>("FlagCombo").Text(), "");
-  page.SavePage();
-  EXPECT_EQ(Cell(0, 1).FLAG, 20);
-}
-
 TEST_F(AlarmPage, TheActionEditorWorksOnTheRowOfItsButton) {
   Cell(0, 0).HABIL = kTrue;
   Cell(0, 0).ACTNO[0] = 42;
@@ -123,11 +107,6 @@ TEST_F(AlarmPage, TheActionEditorWorksOnTheRowOfItsButton) {
   EXPECT_EQ(Cell(0, 0).ACTNO[1], 1);
   EXPECT_EQ(Cell(0, 0).ACTNO[8], 7) << "the ninth place stays untouched";
   EXPECT_EQ(Cell(0, 0).ACTHI, ActionList{});
-}
-
-TEST_F(AlarmPage, ItsHelpIsStarted) {
-  page.GetForm().Get<Button>("Help").Click();
-  EXPECT_EQ(processes.started.at(0), "Explorer /opt/ostrel\\html\\Analog_ES.htm");
 }
 
 }  // namespace

@@ -1,5 +1,3 @@
-#include <gtest/gtest.h>
-
 #include "PageFixture.h"
 #include "pages/inputs/E_Analog.h"
 #include "pages/inputs/Flags.h"
@@ -11,11 +9,6 @@ namespace {
 class ChannelPages : public PageFixture {
  protected:
   ChannelPages() { SelectModel("Tavro BP"); }
-
-  void Start(Page& page) {
-    page.Form_Load();
-    page.Clear();
-  }
 
   E_Analog analog{context};
   Grupos groups{context};
@@ -34,14 +27,11 @@ TEST_F(ChannelPages, AnalogPageAllowsWhatTheModelHas) {
                         Case{"Ostrel KA1", "000011", "0000"}}) {
     SelectModel(c.model);
     analog.Form_Activate();
-    std::string enabled, shown;
-    for (const char* name : {"Int_Press", "Int_4_20", "Int_0_5", "Int_0_10", "IE", "Grupo"})
-      enabled += FaceOf(analog.GetForm()[name]).Enabled() ? '1' : '0';
-    for (const char* name : {"Label11", "Jumper", "Asterisk", "Notice"})
-      shown += FaceOf(analog.GetForm()[name]).Visible() ? '1' : '0';
-    EXPECT_EQ(enabled, c.enabled) << c.model;
-    EXPECT_EQ(shown, c.shown) << c.model;
-    EXPECT_TRUE(FaceOf(analog.GetForm()["Int_NoHabil"]).Enabled());
+    EXPECT_EQ(Enabled(analog, {"Int_NoHabil", "Int_Press", "Int_4_20", "Int_0_5", "Int_0_10", "IE",
+                               "Grupo"}),
+              std::string("1") + c.enabled)
+        << c.model;
+    EXPECT_EQ(Shown(analog, {"Label11", "Jumper", "Asterisk", "Notice"}), c.shown) << c.model;
   }
 }
 
@@ -57,9 +47,9 @@ TEST_F(ChannelPages, JumperPicturesFollowInterfaceAndModel) {
                         Case{"Ostrel S100", "Int_4_20", 9}, Case{"Tavro BP", "Int_Press", 9}}) {
     SelectModel(c.model);
     analog.Clear();
-    auto& jumper = analog.GetForm().Get<Picture>("Jumper");
+    auto& jumper = On<Picture>(analog, "Jumper");
     jumper.SetImage(9);
-    analog.GetForm().Get<OptionButton>(c.option).SetSelected(true);
+    Choose(analog, c.option);
     EXPECT_EQ(jumper.Image(), c.image) << c.model << c.option;
   }
 }
@@ -70,27 +60,9 @@ TEST_F(ChannelPages, APressureLoggerHasNoScaleAndNoGroup) {
   conf.Analog[0].GRUPO = 2;
   analog.LoadData();
   analog.Form_Activate();
-  for (const char* name : {"Label1", "Label2", "IE", "FE", "Grupo"})
-    EXPECT_FALSE(FaceOf(analog.GetForm()[name]).Enabled()) << name;
-  EXPECT_EQ(analog.GetForm().Get<ComboBox>("Grupo").Position(), 2) << "shown anew at the end";
-  EXPECT_EQ(analog.GetForm().Get<TextBox>("EqFE").Text(), "10") << "no place for the sign";
-  analog.GetForm().Get<OptionButton>("Int_Press").SetSelected(true);
-  analog.SavePage();
-  EXPECT_EQ(conf.Analog[0].INTERFAZ, 7);
-}
-
-TEST_F(ChannelPages, WhatAListDoesNotOfferIsKeptAsFarAsItCan) {
-  Start(analog);
-  conf.Analog[0].INTERFAZ = 3;
-  conf.Analog[1].INTERFAZ = 5;
-  conf.Analog[1].GRUPO = -1;
-  analog.LoadData();
-  analog.ChangeIndex(1);
-  EXPECT_FALSE(analog.GetForm().Get<OptionButton>("Int_0_10").Selected());
-  analog.ChangeIndex(0);
-  EXPECT_EQ(conf.Analog[1].INTERFAZ, 5);
-  EXPECT_EQ(conf.Analog[1].GRUPO, -1);
-  EXPECT_EQ(conf.Analog[0].INTERFAZ, 3);
+  EXPECT_EQ(Enabled(analog, {"Label1", "Label2", "IE", "FE", "Grupo"}), "00000");
+  EXPECT_EQ(On<ComboBox>(analog, "Grupo").Position(), 2) << "shown anew at the end";
+  EXPECT_EQ(On<TextBox>(analog, "EqFE").Text(), "10") << "no place for the sign";
 }
 
 TEST_F(ChannelPages, AnOddVoltageStaysUntilTheRowReplacesIt) {
@@ -100,23 +72,23 @@ TEST_F(ChannelPages, AnOddVoltageStaysUntilTheRowReplacesIt) {
   EXPECT_EQ(conf.Grupo[1], (ConfGrupo{2, 5, 100}));
   groups.Form_Deactivate();
   EXPECT_EQ(conf.Grupo[1], (ConfGrupo{2, 0, 100}));
-  groups.GetForm().Get<TextBox>("Period(1)").Type("1.5");
-  groups.GetForm().Get<ComboBox>("ComboTension(1)").SetPosition(2);
+  On<TextBox>(groups, "Period(1)").Type("1.5");
+  On<ComboBox>(groups, "ComboTension(1)").SetPosition(2);
   groups.SavePage();
-  EXPECT_EQ(groups.GetForm().Get<TextBox>("Period(1)").face.Colour(), BackColour::Red);
+  EXPECT_EQ(On<TextBox>(groups, "Period(1)").face.Colour(), BackColour::Red);
   EXPECT_EQ(conf.Grupo[1], (ConfGrupo{2, 24, 1.5F}));
 }
 
 TEST_F(ChannelPages, FlagsHaveOneConfigurationAndNoCondition) {
   Start(flags);
-  EXPECT_FALSE(flags.GetForm().Contains("FlagCombo"));
-  EXPECT_FALSE(flags.GetForm().Contains("BotonNormal"));
+  for (const auto* none : {"FlagCombo", "BotonNormal"})
+    EXPECT_FALSE(flags.GetForm().Contains(none));
   for (const char* config : {"Config1", "Config2", "Config3"}) {
-    auto& option = flags.GetForm().Get<OptionButton>(config);
+    auto& option = On<OptionButton>(flags, config);
     EXPECT_FALSE(option.face.Visible());
     option.SetSelected(true);
     EXPECT_EQ(flags.CurrentConfig(), 0);
-    EXPECT_TRUE(flags.GetForm().Get<OptionButton>("Config0").Selected()) << "what is shown";
+    EXPECT_TRUE(On<OptionButton>(flags, "Config0").Selected()) << "what is shown";
   }
 }
 

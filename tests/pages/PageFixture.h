@@ -23,6 +23,41 @@ class PageFixture : public testing::Test, protected VirtualWorld {
     iniTool.Forget();
   }
 
+  static void Start(Page& page) {
+    page.Form_Load();
+    page.Clear();
+  }
+
+  template <class Control>
+  static Control& On(Page& page, std::string_view name) {
+    return page.GetForm().Get<Control>(name);
+  }
+
+  static void Choose(Page& page, std::string_view option) {
+    On<OptionButton>(page, option).SetSelected(true);
+  }
+
+  static std::string Caption(Page& page, std::string_view control) {
+    return FaceOf(page.GetForm()[control]).Caption();
+  }
+
+  /// '1' for each control that is enabled.
+  static std::string Enabled(Page& page, std::initializer_list<const char*> names) {
+    std::string enabled;
+    for (const char* name : names) enabled += FaceOf(page.GetForm()[name]).Enabled() ? '1' : '0';
+    return enabled;
+  }
+
+  /// '1' for each control that is shown.
+  static std::string Shown(Page& page, std::initializer_list<const char*> names) {
+    std::string shown;
+    for (const char* name : names) shown += FaceOf(page.GetForm()[name]).Visible() ? '1' : '0';
+    return shown;
+  }
+
+  /// Lets the timers of the pages run once.
+  void Tick() { loop.RunFor(std::chrono::seconds(1)); }
+
   Lang lang{files, "Lang.txt"};
   IniTool iniTool{files};
   DeviceConf conf;

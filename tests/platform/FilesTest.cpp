@@ -71,22 +71,5 @@ TEST(SaveNewTest, NeverTakesTheNameOfWhatStands) {
   EXPECT_EQ(files.modes["/copy"], 0600);
 }
 
-TEST(VirtualFilesTest, FailsTheChangeAskedForAndTellsWhy) {
-  VirtualFiles files;
-  files.FailOperation(VirtualFiles::Change::Write, 2);
-  EXPECT_TRUE(files.Create("/a").Ok());
-  EXPECT_TRUE(files.Write("/a", "12345678").Ok());
-  EXPECT_EQ(files.Write("/a", "abcdefgh").error, "no space left");
-  EXPECT_EQ(files.Read("/a"), "abcd") << "a failing write leaves a part";
-  EXPECT_TRUE(files.Write("/a", "whole").Ok());
-  EXPECT_FALSE(files.Create("/a").Ok());
-  EXPECT_FALSE(files.Write("/none", "x").Ok());
-  EXPECT_FALSE(files.Rename("/none", "/a").Ok());
-  EXPECT_FALSE(files.Remove("/none").Ok());
-  EXPECT_EQ(files.Read("/none"), std::nullopt);
-  files.links["/loop"] = "/loop";
-  EXPECT_FALSE(files.Exists("/loop"));
-}
-
 }  // namespace
 }  // namespace ostrel

@@ -19,7 +19,6 @@ class EchoDevice final : public LineDevice {
  public:
   void Receive(std::string_view octets) override {
     got += octets;
-    ++deliveries;
     if (end && octets.back() == '\r') end->Send(answer);
   }
   void SetTerminalReady(bool ready) override { got += ready ? "<up>" : "<down>"; }
@@ -27,7 +26,6 @@ class EchoDevice final : public LineDevice {
   LineEnd* end = nullptr;
   std::string answer;
   std::string got;
-  int deliveries = 0;
 };
 
 class LinePortTest : public testing::Test {
@@ -88,28 +86,6 @@ TEST_F(LinePortTest, PacedOctetsTakeTheirLineTimeBothWays) {
   EXPECT_TRUE(Await(960, seconds(3)));
   EXPECT_EQ(loop.Now(), seconds(2));
   EXPECT_EQ(port.Input(), Lines(60));
-}
-
-TEST_F(LinePortTest, PacedStreamCostsAFractionOfAnEventAnOctet) {
-  port.SetPaced(true);
-  port.SetPortOpen(true);
-  const std::string stream(9600, 'x');
-  port.Output(stream);
-  loop.RunFor(seconds(10));
-  EXPECT_EQ(device.got.size(), stream.size() + 4);
-  EXPECT_EQ(device.deliveries, 600);
-  EXPECT_EQ(loop.Steps(), 600u);
-}
-
-TEST_F(LinePortTest, PacedPauseStartsTheLineAnew) {
-  port.SetPaced(true);
-  port.SetPortOpen(true);
-  device.end->Send("a");
-  loop.RunFor(seconds(5));
-  device.end->Send("b");
-  EXPECT_EQ(port.InBufferCount(), 1u);
-  EXPECT_TRUE(Await(2, kNever));
-  EXPECT_EQ(loop.Now(), seconds(5) + LineTime(1));
 }
 
 /// Whoever takes with each event loses nothing, however fast it comes; whoever does not finds the

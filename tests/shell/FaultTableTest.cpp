@@ -1,6 +1,3 @@
-#include <gtest/gtest.h>
-
-#include <iostream>
 #include <random>
 
 #include "SimWorld.h"
@@ -235,10 +232,7 @@ TEST(FaultTable, RandomSessionsAlwaysEndSoundly) {
     const Outcome out = Road(options).Run();
     uploaded += out.uploaded;
     ExpectSound(out, "seed " + std::to_string(seed) + ": " + faults);
-    if (testing::Test::HasFailure()) {
-      std::cout << "seed " << seed << " " << faults << '\n';
-      return;
-    }
+    if (testing::Test::HasFailure()) return;
   }
   EXPECT_GT(uploaded, 200);
   EXPECT_LT(uploaded, 1900);

@@ -1,5 +1,3 @@
-#include <gtest/gtest.h>
-
 #include "World.h"
 #include "shell/ForeignKeys.h"
 

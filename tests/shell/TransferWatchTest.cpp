@@ -1,9 +1,8 @@
 #include <gtest/gtest.h>
 
-#include "SimWorld.h"
+#include "platform/virtual/VirtualLoop.h"
 #include "platform/virtual/VirtualSettings.h"
 #include "shell/TransferWatch.h"
-#include "sim/LineComposer.h"
 
 namespace ostrel {
 namespace {
@@ -55,29 +54,6 @@ TEST_F(TransferWatches, KnowThatAnAttemptHasReachedTheEnd) {
   EXPECT_TRUE(watch.ReachedEnd());
   watch.BeginWriting(3);
   EXPECT_FALSE(watch.ReachedEnd());
-}
-
-TEST(TransferWatch, FollowsTheTransfersOfASession) {
-  sim::LoggerOptions options = sim::MakeDefaultOptions(sim::Model::S100);
-  SimWorld world(options);
-  world.logger->SetConf(sim::RandomConfiguration(options.model, options.features, 3, 1.0));
-  Configurator program(world.platform, world.Options(false));
-  program.StartForCommand(world.TargetName(), 1);
-  ASSERT_TRUE(program.session.Open(SimWorld::kPort, ""));
-  TransferWatch& watch = program.session.Watch();
-  int steps = 0;
-  watch.OnStep = [&] { ++steps; };
-  ASSERT_TRUE(program.session.Download());
-  const auto records = sim::ConfigurationRecords(world.logger->Conf(), world.logger->Self()).size();
-  EXPECT_GT(records, 300U);
-  EXPECT_EQ(watch.Done(), static_cast<int>(records));
-  EXPECT_GE(steps, watch.Done());
-  watch.BeginReading(program.profile.TargetType);
-  EXPECT_EQ(watch.Steps(), static_cast<int>(records));
-  ASSERT_TRUE(program.session.Upload());
-  EXPECT_FALSE(watch.Running());
-  EXPECT_EQ(watch.Steps(), static_cast<int>(program.comms.ComposeStatements().size()));
-  EXPECT_EQ(watch.Done(), watch.Steps());
 }
 
 }  // namespace

@@ -32,16 +32,6 @@ TEST(SimFrame, BadFramesAreDropped) {
   EXPECT_THAT(Messages(std::string(70'000, '#') + "\r#64;40\r"), ElementsAre("#40"));
 }
 
-TEST(SimFrame, AFrameMayComeOctetByOctet) {
-  FrameReader reader;
-  std::vector<std::string> messages;
-  for (const char octet : std::string("x#64;40\r#66;42\r")) {
-    std::string_view one(&octet, 1);
-    while (auto message = reader.Take(one)) messages.push_back(*message);
-  }
-  EXPECT_THAT(messages, ElementsAre("#40", "#42"));
-}
-
 TEST(SimModel, EveryNameLeadsToItsModel) {
   for (const Model model : kModels) {
     const ModelTraits& traits = TraitsOf(model);

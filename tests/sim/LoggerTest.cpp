@@ -28,18 +28,6 @@ TEST(SimLogger, WhatItDoesNotKnowIsPassedOverInSilence) {
   EXPECT_EQ(bench.Say("#65;40\r"), "");
 }
 
-TEST(SimLogger, InformationComesAsNumberedRecords) {
-  LoggerOptions options = MakeDefaultOptions(Model::BQ);
-  options.version = 123;
-  options.features = 0x80000001;
-  options.serial = "BQ-7";
-  SimBench bench(options);
-  EXPECT_THAT(bench.AskAll("#44"),
-              ElementsAre("#BB000VERSION,123", "#BB001FEATURES,-2147483647", "#BB002SERIAL,BQ-7",
-                          "#BB003VBAT,7.21", "#BB004RSSI,18", "#BB005LOG.SIZE,65536",
-                          "#BB006LOG.USE,1200", "#BB"));
-}
-
 TEST(SimLogger, TheClockRunsAndIsSet) {
   LoggerOptions options = MakeDefaultOptions(Model::BP);
   options.clockStart = {2026, 1, 15, 8, 30, 5};
@@ -72,8 +60,7 @@ TEST(SimLogger, TotalsAndOutputs) {
     EXPECT_EQ(bench.Ask(bad), "#BE0") << bad;
 
   SimBench outputs(Model::KA1);
-  for (const char* on : {"#470", "#475", "#473"}) EXPECT_EQ(outputs.Ask(on), "#B81");
-  EXPECT_EQ(outputs.Ask("#483"), "#B71");
+  for (const char* on : {"#470", "#475"}) EXPECT_EQ(outputs.Ask(on), "#B81");
   EXPECT_EQ(outputs.Ask("#476"), "#B80");
   EXPECT_EQ(outputs.logger.Outputs(), 0b100001U);
   EXPECT_EQ(Field(outputs.Ask("#23"), 3), "33");
@@ -95,26 +82,22 @@ TEST(SimLogger, LiveAnswersStandInTheirFields) {
     EXPECT_NE(Field(answer, shape.fields), "(none)") << answer;
     EXPECT_EQ(Field(answer, shape.fields + 1), "(none)") << answer;
   }
-  const std::string analogs = bench.Ask("#25");
-  EXPECT_EQ(Field(analogs, 6), "Nivel dep\xF3sito");
-  EXPECT_EQ(Field(analogs, 7), "m");
-  EXPECT_EQ(Field(analogs, 24), "Turbidez");
-  EXPECT_EQ(Field(analogs, 25), "NTU");
-  EXPECT_EQ(Field(bench.Ask("#26"), 3), "Caudal salida");
-  EXPECT_EQ(Field(bench.Ask("#27"), 6), "Riego parque");
-  EXPECT_EQ(Field(bench.Ask("#27"), 7), "l/min");
-  EXPECT_EQ(Field(bench.Ask("#2A"), 4), "Balance");
-  EXPECT_EQ(Field(bench.Ask("#2A"), 5), "m\xB3/h");
-  EXPECT_EQ(Field(bench.Ask("#2C"), 12), "Tensi\xF3n L1");
-  EXPECT_EQ(Field(bench.Ask("#2C"), 13), "V");
+  for (const auto& [request, field, text] : {std::tuple{"#25", 6, "Nivel dep\xF3sito"},
+                                             {"#25", 25, "NTU"},
+                                             {"#26", 3, "Caudal salida"},
+                                             {"#27", 7, "l/min"},
+                                             {"#2A", 4, "Balance"},
+                                             {"#2A", 5, "m\xB3/h"},
+                                             {"#2C", 13, "V"}})
+    EXPECT_EQ(Field(bench.Ask(request), field), text) << request;
 }
 
 TEST(SimLogger, AuxiliaryAndExpansionInputs) {
   SimBench aux(Model::KA2);
-  EXPECT_EQ(Field(aux.Ask("#35"), 17), "");
-  EXPECT_EQ(Field(aux.Ask("#35"), 18), "(none)");
-  EXPECT_NE(Field(aux.Ask("#36"), 5), "(none)");
-  EXPECT_EQ(Field(aux.Ask("#36"), 6), "(none)");
+  for (const auto& [request, fields] : {std::pair{"#35", 17}, {"#36", 5}}) {
+    EXPECT_NE(Field(aux.Ask(request), fields), "(none)");
+    EXPECT_EQ(Field(aux.Ask(request), fields + 1), "(none)");
+  }
 
   SimBench bench(Model::S100);
   Configuration conf;
@@ -139,6 +122,8 @@ TEST(SimLogger, ReadingsMoveSlowlyAndRepeatBySeed) {
   SimBench same(options);
   options.seed = 2;
   SimBench other(options);
+  for (SimBench* bench : {&one, &same, &other})
+    bench->logger.SetConf(DemoConfiguration(Model::VR200));
   const std::string first = one.Ask("#2D");
   EXPECT_EQ(same.Ask("#2D"), first);
   EXPECT_NE(other.Ask("#2D"), first);
@@ -207,20 +192,6 @@ TEST(SimUpload, StatementsOfOneBurstKeepTheirOrder) {
   EXPECT_EQ(bench.line.sendings[0].first, std::chrono::milliseconds{6});
 }
 
-TEST(SimLogger, ExchangesAreTold) {
-  SimBench bench(Model::KA1);
-  std::vector<std::string> told;
-  bench.logger.OnExchange([&](const Exchange& e) {
-    told.push_back(e.request + "|" + e.reply + "|" + std::to_string(e.frames) + "|" + e.note);
-  });
-  bench.Ask("#5D");
-  bench.Ask("#42");
-  bench.Ask("#45000ID");
-  bench.Ask("#77");
-  EXPECT_THAT(told, ElementsAre("#5D|#A2260115083005|1|", "#42|#BD000DNAME,|425|",
-                                "#45000ID|#BA0000|1|= expected at \"\"", "#77||0|unknown request"));
-}
-
 TEST(SimLogger, AClosedPortForgetsWhatWasBegun) {
   SimBench bench(Model::KA1);
   bench.logger.Receive("#64;40\r#64;4");
@@ -240,6 +211,46 @@ TEST(LoggerTest, AFloodIsBounded) {
   bench.loop.RunFor(std::chrono::seconds(10));
   EXPECT_LT(answered, 20);
   EXPECT_THAT(bench.Ask("#40"), testing::StartsWith("#BF"));
+}
+
+TEST(SimLogger, ValuesMoveAsThoseOfAWaterworksDo) {
+  const Identity self{Model::VR200, MakeDefaultOptions(Model::VR200).features};
+  const Configuration conf = DemoConfiguration(Model::VR200);
+  const LiveValues live(self, 1, ToSeconds({2026, 1, 15, 0, 0, 0}));
+  constexpr int kHour = 3600, kMinute = 60;
+  float lowest = 99, highest = 0, jump = 0;
+  int alarms = 0, edges = 0;
+  double flowed = 0, night = 0, day = 0;
+  bool wasOut = false;
+  for (int now = 0; now < 24 * kHour; now += kMinute) {
+    const float level = live.Analog(conf, 0, now);
+    lowest = std::min(lowest, level);
+    highest = std::max(highest, level);
+    jump = std::max(jump, std::abs(live.Analog(conf, 0, now + 1) - level));
+    const bool isOut = level < 0.8F || level > 6.2F;
+    EXPECT_EQ((live.FlagMask(conf, now) & 1U) != 0, isOut) << now;
+    alarms += isOut ? 1 : 0;
+    edges += isOut != std::exchange(wasOut, isOut) ? 1 : 0;
+    const double flow = live.Flow(conf, 0, now);
+    flowed += flow / kHour * kMinute;
+    (now < 6 * kHour ? night : day) += flow;
+  }
+  EXPECT_LT(lowest, 1.5F);
+  EXPECT_GT(highest, 5.5F);
+  EXPECT_LT(jump, 0.3F) << "no level jumps within a second";
+  EXPECT_THAT(alarms, testing::AllOf(testing::Gt(0), testing::Lt(500))) << "minutes of a day";
+  EXPECT_GE(edges, 2);
+  EXPECT_LT(night / 6, day / 18);
+  const double counted = (live.Counter(0, 24 * kHour) - live.Counter(0, 0)) * 0.1;
+  EXPECT_NEAR(counted, flowed, flowed * 0.02) << "the counter counts what flows";
+  EXPECT_FLOAT_EQ(live.Modbus(conf, 3, 0), 0) << "a contact that is open";
+  EXPECT_GT(live.Modbus(conf, 0, 24 * kHour), live.Modbus(conf, 0, 0)) << "energy grows";
+  EXPECT_EQ(live.Modbus(conf, 20, 0), 0) << "it is not set up";
+
+  SimBench probes(Model::KA1);
+  probes.logger.SetConf(DemoConfiguration(Model::KA1));
+  EXPECT_EQ(Field(probes.Ask("#35"), 4), "Temperatura agua");
+  EXPECT_EQ(Field(probes.Ask("#36"), 4), "0") << "no third probe is set up";
 }
 
 }  // namespace

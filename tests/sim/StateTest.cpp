@@ -19,11 +19,8 @@ TEST(SimConfiguration, RandomOnesDifferAndFollowTheirDensity) {
   };
   EXPECT_NE(make(1, 0.5), make(2, 0.5));
   EXPECT_EQ(make(1, 0.5), make(1, 0.5));
-  EXPECT_EQ(make(1, 0).phones[0].number, "");
   EXPECT_EQ(make(1, 0).digitals, Configuration{}.digitals);
   const Configuration full = make(1, 1);
-  EXPECT_NE(full.phones[19].number, "");
-  EXPECT_NE(full.analogs[3].alarms[3].week, 0);
   std::set<char> accents;
   for (const std::string& record : ConfigurationRecords(full, {Model::VR200, features})) {
     EXPECT_LT(record.size(), 200U);
@@ -32,19 +29,6 @@ TEST(SimConfiguration, RandomOnesDifferAndFollowTheirDensity) {
     }
   }
   EXPECT_GT(accents.size(), 5U);
-}
-
-TEST(SimConfiguration, TheDemoSuitsEveryModel) {
-  for (const Model model : kModels) {
-    const Configuration demo = DemoConfiguration(model);
-    const ModelTraits& traits = TraitsOf(model);
-    EXPECT_THAT(demo.name, HasSubstr(traits.displayName));
-    EXPECT_EQ(demo.phones[1].maskMode, 1);
-    for (int i = 0; i < traits.digitals; ++i)
-      EXPECT_NE(demo.digitals[static_cast<std::size_t>(i)].name, "");
-    for (int i = 0; i < kAnalogs; ++i)
-      EXPECT_EQ(demo.analogs[static_cast<std::size_t>(i)].name.empty(), i >= traits.analogs);
-  }
 }
 
 // ---- The saved state

@@ -1,5 +1,3 @@
-#include <gtest/gtest.h>
-
 #include "shell/SimWorld.h"
 
 namespace ostrel {
@@ -74,7 +72,10 @@ TEST_F(Tools, ExpansionTotalsGoByAMessageOfTheirOwn) {
   program.comms.Trace = [&](const std::string& line) {
     if (const auto at = line.find("#41"); at != std::string::npos) sent = line.substr(at);
   };
-  In([&] { program.context.showExpansionTotal(95); },
+  Page& page = *program.PageOf(PageId::E_Modular);
+  page.ChangeIndex(95);
+  EXPECT_EQ(Caption(page.GetForm(), "C_TotalText"), "") << "nothing was read";
+  In([&] { page.GetForm().Get<Button>("C_BotonModificar").Click(); },
      [&](Form& form) {
        EXPECT_EQ(form.Name(), "ExpSetTotal");
        EXPECT_FALSE(FaceOf(form["LabelPreValue"]).Visible());
@@ -82,6 +83,7 @@ TEST_F(Tools, ExpansionTotalsGoByAMessageOfTheirOwn) {
        Press(form, "OKButton");
      });
   EXPECT_EQ(sent, "#41EXP95=7");
+  EXPECT_EQ(Caption(page.GetForm(), "C_TotalText"), " 7");
 }
 
 TEST_F(Tools, WithoutASessionNothingIsSet) {

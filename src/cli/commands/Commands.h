@@ -23,6 +23,8 @@ Command AddOutput(CLI::App& app);
 Command AddTotal(CLI::App& app);
 Command AddVoice(CLI::App& app);
 Command AddProbe(CLI::App& app);
+Command AddTerminal(CLI::App& app);
+Command AddFirmware(CLI::App& app);
 Command AddDownload(CLI::App& app);
 Command AddUpload(CLI::App& app);
 Command AddBackups(CLI::App& app);

@@ -1,168 +1,215 @@
+#include <algorithm>
+#include <array>
+#include <iterator>
+#include <limits>
+#include <memory>
+#include <optional>
 #include <sstream>
-#include <variant>
 
 #include "cli/commands/Commands.h"
 #include "cli/commands/OnlineCommand.h"
 #include "host/LoggerText.h"
-#include "model/Features.h"
+#include "model/LiveRound.h"
+#include "tools/LiveRecording.h"
 
 namespace ostrel::cli {
 namespace {
 
-constexpr Duration kWatchInterval = std::chrono::seconds(1);
+constexpr int kLongestIntervalMs = 86'400'000;
 
-/// One measured channel, ready to be shown.
-struct Measure {
-  int index;
-  std::variant<float, std::int32_t> value;
-  std::string name, unit;
+struct LiveOptions {
+  bool watch = false;
+  int intervalMs = 1000;  ///< from the beginning of a round to that of the next
+  int count = 0;          ///< rounds; 0 for no end
+  std::string csv;        ///< file that gets the rounds; empty for none
 };
 
-/// The channels of one kind.
-struct Group {
-  std::string_view key;
-  std::string_view title;
-  std::vector<Measure> measures;
+/// How a kind of value is called in the output.
+struct KindWords {
+  LiveKind kind;
+  std::string_view key;    ///< of its list in JSON
+  std::string_view title;  ///< of its lines
 };
 
-/// States told by the bits of a mask.
-struct States {
-  std::string_view key;
-  std::string_view title;
-  std::uint32_t mask;
-  int count;
-};
+constexpr std::array<KindWords, 11> kKinds{{
+    {LiveKind::Digital, "digital", "digital inputs"},
+    {LiveKind::Output, "outputs", "outputs"},
+    {LiveKind::Flag, "flags", "flags"},
+    {LiveKind::Analog, "analog", "analog input"},
+    {LiveKind::Counter, "counters", "counter"},
+    {LiveKind::Flow, "flows", "flow meter"},
+    {LiveKind::Math, "math", "math channel"},
+    {LiveKind::MathRegister, "registers", "math register"},
+    {LiveKind::Modbus, "modbus", "MODBUS channel"},
+    {LiveKind::Probe, "aux", "auxiliary input"},
+    {LiveKind::Module, "modules", "expansion input"},
+}};
 
-template <class Values, class Names, class Units>
-Group MakeGroup(std::string_view key, std::string_view title, int count, const Values& values,
-                const Names& names, const Units& units) {
-  Group group{key, title, {}};
-  for (int i = 0; i < count; ++i) group.measures.push_back({i, values[i], names[i], units[i]});
-  return group;
+/// The values of one kind, which stand together in a round.
+std::vector<LiveValue> ValuesOf(const LiveRound& round, LiveKind kind) {
+  std::vector<LiveValue> values;
+  std::ranges::copy_if(round.values, std::back_inserter(values),
+                       [kind](const LiveValue& value) { return value.id.kind == kind; });
+  return values;
 }
 
-std::vector<Group> GroupsOf(const Configurator& configurator) {
-  const TargetProfile& model = configurator.profile;
-  const RealTimeData& live = configurator.live;
-  const Bounded<std::string, 10> noUnits;
-  const int aux = model.IsKA1 || model.IsKA2 ? 4 : 0;
-  const int math = Has(configurator.info.Features, Feature::Math) ? model.MathCount : 0;
-  return {
-      MakeGroup("analog", "analog input", model.AnalogCount, live.AnalogValue, live.AnalogName,
-                live.AnalogUnit),
-      MakeGroup("counters", "counter", model.CaudalCount, live.CounterValue, live.CounterName,
-                noUnits),
-      MakeGroup("flows", "flow meter", model.CaudalCount, live.FlowValue, live.FlowName,
-                live.FlowUnit),
-      MakeGroup("math", "math channel", math, live.MathValue, live.MathName, live.MathUnit),
-      MakeGroup("modbus", "MODBUS channel", model.IsVR200 ? model.ModbusCount : 0, live.ModbusValue,
-                live.ModbusName, live.ModbusUnit),
-      MakeGroup("aux", "auxiliary input", aux, live.AuxValue, live.AuxName, live.AuxUnit),
-      MakeGroup("modules", "expansion input", model.ModuloCount, live.ModuloValue, live.ModuloName,
-                live.ModuloUnit),
-  };
+Json MeasureJson(const LiveValue& value) {
+  Json number;
+  if (value.IsFresh() && value.id.kind == LiveKind::Counter)
+    number = static_cast<std::int64_t>(*value.number);
+  else if (value.IsFresh())
+    number = JsonNumber(static_cast<float>(*value.number));
+  return {{"index", value.id.index}, {"name", value.name}, {"value", number}, {"unit", value.unit}};
 }
 
-std::vector<States> StatesOf(const Configurator& configurator) {
-  const RealTimeData& live = configurator.live;
-  return {{"digital", "digital inputs", static_cast<std::uint16_t>(live.DigitalMask),
-           configurator.profile.DigitalCount},
-          {"outputs", "outputs", static_cast<std::uint16_t>(live.OutputMask),
-           configurator.profile.OutputCount},
-          {"flags", "flags", static_cast<std::uint32_t>(live.FlagMask), 16}};
-}
+Json StateJson(const LiveValue& value) { return value.IsFresh() ? Json(*value.on) : Json(); }
 
-Json LiveJson(const Online& online) {
-  Json live{{"time", ClockText(online.context.platform.clock.LocalNow())}};
-  for (const States& states : StatesOf(online.configurator)) {
-    Json& list = live[std::string(states.key)] = Json::array();
-    for (int i = 0; i < states.count; ++i) list.push_back((states.mask >> i & 1U) != 0);
-  }
-  for (const Group& group : GroupsOf(online.configurator)) {
-    Json& list = live[std::string(group.key)] = Json::array();
-    for (const Measure& measure : group.measures) {
-      const auto* number = std::get_if<float>(&measure.value);
-      list.push_back(
-          {{"index", measure.index},
-           {"name", measure.name},
-           {"value", number ? JsonNumber(*number) : Json(std::get<std::int32_t>(measure.value))},
-           {"unit", measure.unit}});
-    }
+Json LiveJson(const LiveRound& round) {
+  Json live{{"time", ClockText(round.at.LocalSeconds())}};
+  for (const KindWords& words : kKinds) {
+    Json& list = live[std::string(words.key)] = Json::array();
+    for (const LiveValue& value : ValuesOf(round, words.kind))
+      list.push_back(IsState(words.kind) ? StateJson(value) : MeasureJson(value));
   }
   return live;
 }
 
-void PrintLive(std::ostream& out, const Online& online) {
-  out << ClockText(online.context.platform.clock.LocalNow()) << '\n';
-  for (const States& states : StatesOf(online.configurator)) {
-    if (states.count == 0) continue;
-    out << states.title << ' ';
-    for (int i = 0; i < states.count; ++i) out << ((states.mask >> i & 1U) != 0 ? '1' : '0');
-    out << '\n';
-  }
-  for (const Group& group : GroupsOf(online.configurator))
-    for (const Measure& measure : group.measures) {
-      const auto* number = std::get_if<float>(&measure.value);
-      const std::string value =
-          number ? DecText(*number) : std::to_string(std::get<std::int32_t>(measure.value));
-      out << group.title << ' ' << measure.index << ' ' << value;
-      if (!measure.unit.empty()) out << ' ' << Printable(measure.unit);
-      if (!measure.name.empty()) out << "  " << Printable(measure.name);
+/// A value that did not come in this round is none.
+std::string Shown(const LiveValue& value) { return value.IsFresh() ? LiveText(value) : "-"; }
+
+void PrintLive(std::ostream& out, const LiveRound& round) {
+  out << ClockText(round.at.LocalSeconds()) << '\n';
+  for (const KindWords& words : kKinds) {
+    const std::vector<LiveValue> values = ValuesOf(round, words.kind);
+    if (IsState(words.kind) && !values.empty()) {
+      out << words.title << ' ';
+      for (const LiveValue& value : values) out << Shown(value);
+      out << '\n';
+      continue;
+    }
+    for (const LiveValue& value : values) {
+      out << words.title << ' ' << value.id.index << ' ' << Shown(value);
+      if (!value.unit.empty()) out << ' ' << Printable(value.unit);
+      if (!value.name.empty()) out << "  " << Printable(value.name);
       out << '\n';
     }
+  }
 }
 
 /// Each time anew on a terminal: the former values stand under the present ones then, which are
 /// drawn over them line by line, so that nothing flickers.
-void DrawLive(std::ostream& out, const Online& online) {
+void DrawLive(std::ostream& out, const LiveRound& round) {
   constexpr const char* kHome = "\x1b[H";
   constexpr const char* kRestOfLine = "\x1b[K\n";
   constexpr const char* kRestOfScreen = "\x1b[J";
   std::ostringstream text;
-  PrintLive(text, online);
+  PrintLive(text, round);
   out << kHome;
   std::istringstream lines(text.str());
   for (std::string line; std::getline(lines, line);) out << line << kRestOfLine;
   out << kRestOfScreen;
 }
 
-void Show(const Online& online, bool watch) {
+void Show(const Online& online, const LiveRound& round, bool watch) {
   const bool inPlace = watch && online.context.environment.outIsTerminal;
   online.context.Show(
-      {[&] { return LiveJson(online); },
-       [&](std::ostream& out) { inPlace ? DrawLive(out, online) : PrintLive(out, online); }},
+      {[&] { return LiveJson(round); },
+       [&](std::ostream& out) { inPlace ? DrawLive(out, round) : PrintLive(out, round); }},
       watch ? JsonLayout::OneLine : JsonLayout::Indented);
   online.context.console.Out().flush();
 }
 
-ExitCode RunLive(Online& online, bool watch) {
-  CommandContext& context = online.context;
-  EventLoop& loop = context.platform.loop;
-  const auto interrupted = [&] { return online.session.Interrupted(); };
-  for (;;) {
-    const TimePoint next = loop.Now() + kWatchInterval;
-    const LinkResult read = online.configurator.comms.ReadRealTime();
-    // Watching is ended by an interrupt, which is no failure then.
-    if (context.isDone = watch && interrupted(); context.isDone) return ExitCode::Done;
-    if (!read) return online.session.Failed(read);
-    Show(online, watch);
-    if (!context.console.Out()) {
-      context.isDone = watch && context.Interrupted();
-      return context.isDone ? ExitCode::Done : ExitCode::BadFile;
-    }
-    if (!watch || loop.RunUntil(interrupted, next)) return ExitCode::Done;
-  }
+/// Whether the next round may bring what this one did not.
+bool IsPassing(const LinkFault& fault) {
+  using Kind = LinkFault::Kind;
+  return fault.IsDamage() || fault.kind == Kind::Silence || fault.kind == Kind::WrongAnswer;
 }
+
+/// Reads rounds and shows or records them.
+class LiveRun {
+ public:
+  LiveRun(Online& online, const LiveOptions& options)
+      : online_(online), context_(online.context), options_(options) {}
+
+  ExitCode Run() {
+    if (const ExitCode opened = OpenRecording(); opened != ExitCode::Done) return opened;
+    EventLoop& loop = context_.platform.loop;
+    const auto interrupted = [this] { return online_.session.Interrupted(); };
+    for (int round = 1;; ++round) {
+      const TimePoint next = loop.Now() + std::chrono::milliseconds(options_.intervalMs);
+      const LinkResult read = online_.configurator.comms.ReadRealTime();
+      // Watching is ended by an interrupt, which is no failure then.
+      if (context_.isDone = options_.watch && interrupted(); context_.isDone) return ExitCode::Done;
+      const bool isLast = !options_.watch || round == options_.count;
+      if (!read && (isLast || !IsPassing(read.Fault()))) return online_.session.Failed(read);
+      if (const ExitCode taken = Take(); taken != ExitCode::Done) return taken;
+      if (isLast || loop.RunUntil(interrupted, next)) return ExitCode::Done;
+    }
+  }
+
+ private:
+  bool IsOnOutput() const { return options_.csv == kStandard; }
+
+  ExitCode OpenRecording() {
+    if (options_.csv.empty()) return ExitCode::Done;
+    std::string why;
+    auto out = IsOnOutput() ? std::make_unique<std::ostream>(context_.console.Out().rdbuf())
+                            : context_.environment.openRecording(options_.csv, why);
+    if (!out)
+      return context_.console.Fail(ExitCode::BadFile,
+                                   "cannot write the values to " + options_.csv + ": " + why);
+    recording_.emplace(std::move(out));
+    return ExitCode::Done;
+  }
+
+  /// Records and shows the values as they are now.
+  ExitCode Take() {
+    const Configurator& program = online_.configurator;
+    const LiveRound round =
+        TakeRound(program.live, program.profile, program.info, WallTimeOf(context_.platform.clock));
+    if (recording_ && !recording_->Add(round)) {
+      if (IsOnOutput()) return Unread();
+      return context_.console.Fail(ExitCode::BadFile,
+                                   "cannot write the values to " + options_.csv + " to the end");
+    }
+    if (!IsOnOutput()) Show(online_, round, options_.watch);
+    return context_.console.Out() ? ExitCode::Done : Unread();
+  }
+
+  /// Nobody reads the output any more, which an interrupt may have ended as well.
+  ExitCode Unread() {
+    context_.isDone = options_.watch && context_.Interrupted();
+    return context_.isDone ? ExitCode::Done : ExitCode::BadFile;
+  }
+
+  Online& online_;
+  CommandContext& context_;
+  const LiveOptions& options_;
+  std::optional<LiveRecording> recording_;
+};
 
 }  // namespace
 
 Command AddLive(CLI::App& app) {
   CLI::App* parser = app.add_subcommand("live", "Show the live values of the logger");
-  const auto watch = std::make_shared<bool>(false);
-  parser->add_flag("--watch", *watch,
-                   "Again each second, in place on a terminal, until interrupted");
-  return {parser, [watch](CommandContext& context) {
-            return RunOnline(context, "", [&](Online& online) { return RunLive(online, *watch); });
+  const auto options = std::make_shared<LiveOptions>();
+  CLI::Option* watch = parser->add_flag(
+      "--watch", options->watch, "Again each second, in place on a terminal, until interrupted");
+  parser->add_option("--interval", options->intervalMs, "Milliseconds from one round to the next")
+      ->needs(watch)
+      ->check(CLI::Range(1, kLongestIntervalMs))
+      ->type_name("MS");
+  parser->add_option("--count", options->count, "End after so many rounds")
+      ->needs(watch)
+      ->check(CLI::Range(1, std::numeric_limits<int>::max()))
+      ->type_name("N");
+  parser
+      ->add_option("--csv", options->csv,
+                   "Record the rounds as comma-separated values; \"-\" for standard output")
+      ->type_name("FILE");
+  return {parser, [options](CommandContext& context) {
+            return RunOnline(context, "",
+                             [&](Online& online) { return LiveRun(online, *options).Run(); });
           }};
 }
 

@@ -3,6 +3,7 @@
 #include <unordered_map>
 
 #include "base/Channels.h"
+#include "cli/ConfFile.h"
 #include "cli/commands/Commands.h"
 #include "cli/commands/OnlineCommand.h"
 #include "host/LoggerText.h"
@@ -217,7 +218,7 @@ ExitCode Report(CommandContext& context, const ShowOptions& options,
 }
 
 ExitCode RunShow(CommandContext& context, const ShowOptions& options) {
-  const auto configuration = context.OpenFile(options.file);
+  const auto configuration = OpenAndTell(context, options.file);
   if (!configuration) return ExitCode::BadFile;
   return WithFeatures(context, options.file, [&](std::optional<std::int32_t> features) {
     return Report(context, options, *configuration, ViewOf(context, *configuration, features));

@@ -3,10 +3,12 @@
 #include <unistd.h>
 
 #include <QCoreApplication>
+#include <QLocale>
 #include <exception>
 #include <iostream>
 #include <vector>
 
+#include "cli/InputLines.h"
 #include "cli/Terminal.h"
 #include "host/Folders.h"
 #include "host/Machine.h"
@@ -21,6 +23,9 @@ namespace {
 using namespace ostrel;
 using namespace ostrel::cli;
 
+/// The column of the language table that stands for the locale: Spanish, or else English.
+std::int16_t LangColumn() { return QLocale::system().language() == QLocale::Spanish ? 1 : 2; }
+
 int Run(const std::vector<std::string>& args) {
   Machine machine;
   QtProcesses processes;
@@ -34,12 +39,19 @@ int Run(const std::vector<std::string>& args) {
       .outIsTerminal = isatty(STDOUT_FILENO) == 1,
       .ask = {},
       .readDescriptor = ReadDescriptor,
+      .lang = LangColumn(),
       .code = qEnvironmentVariable("OSTREL_CODE").toStdString(),
       .dataFolder = UserDataFolder(),
       .station = UsualStation(),
       .shippedLang = LangIn(ShippedFolder()),
       .numberOfDevice = [&](const std::string& path) { return machine.NumberOfDevice(path); },
       .openLog = OpenTrace,
+      .openRecording = OpenRecording,
+      .openGrowing = OpenLog,
+      .watchInput =
+          [&](InputLines::OnLine onLine, InputLines::OnEnd onEnd) {
+            return std::make_shared<InputLines>(machine.loop, std::move(onLine), std::move(onEnd));
+          },
       .onInterrupt = {},
       .interrupted = SignalPipe::HasCome};
   if (HasOperator()) environment.ask = AskOnTerminal;

@@ -2,25 +2,31 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QFontDatabase>
 #include <QGroupBox>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QPlainTextEdit>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
+#include <QScrollBar>
 #include <QShortcut>
 #include <QSignalBlocker>
 #include <QStackedWidget>
 #include <QStyle>
+#include <QTabBar>
 #include <QTableWidget>
+#include <QTextCursor>
 #include <QTimeEdit>
 #include <algorithm>
 
 #include "base/Values.h"
 #include "controls/NumberBox.h"
 #include "desktop/forms/AccessKeys.h"
+#include "desktop/forms/ReadoutViews.h"
 #include "desktop/forms/Words.h"
 
 namespace ostrel {
@@ -118,8 +124,12 @@ void FollowColour(QLineEdit& edit, const TextBox& box) {
   const bool isBad = box.face.Colour() == BackColour::Red;
   if (edit.property("bad").toBool() == isBad) return;
   edit.setProperty("bad", isBad);
-  edit.style()->unpolish(&edit);
-  edit.style()->polish(&edit);
+  QPalette palette;  // of the program
+  if (isBad) {
+    const bool isDark = palette.color(QPalette::Base).lightness() < 128;
+    palette.setColor(QPalette::Base, QColor(isDark ? "#4d1f22" : "#ffe3e3"));
+  }
+  edit.setPalette(palette);
 }
 
 Bound BindKind(TextBox& box, const BindOptions& options, QWidget* parent) {
@@ -131,6 +141,14 @@ Bound BindKind(TextBox& box, const BindOptions& options, QWidget* parent) {
                        TestNumberBox(box);
                      });
                    });
+  if (box.OnArrow)
+    for (const auto& [key, arrow] : {std::pair{Qt::Key_Up, -1}, std::pair{Qt::Key_Down, 1}}) {
+      auto* shortcut = new QShortcut(QKeySequence(key), widget);
+      shortcut->setContext(Qt::WidgetShortcut);
+      QObject::connect(
+          shortcut, &QShortcut::activated, widget,
+          [&box, guard = options.guard, way = arrow] { guard([&] { box.OnArrow(way); }); });
+    }
   // A decimal comma is put right when the box is left: in the middle of typing it may be another.
   QObject::connect(widget, &QLineEdit::editingFinished, widget, [&box, guard = options.guard] {
     if (!box.NumberKind().empty()) guard([&] { CheckNumberBox(box, box.NumberKind()); });
@@ -150,6 +168,47 @@ Bound BindKind(TextBox& box, const BindOptions& options, QWidget* parent) {
             widget->setText(text);
             // Its beginning is seen, or the place at which it is being edited.
             widget->setCursorPosition(widget->hasFocus() ? cursor : 0);
+          }};
+}
+
+/// Adds what is new of a text that grows, so that its length costs nothing.
+class GrowingText {
+ public:
+  explicit GrowingText(QPlainTextEdit& edit) : edit_(edit) {}
+
+  void Follow(const TextView& view) {
+    if (clearings_ != view.Clearings()) {
+      clearings_ = view.Clearings();
+      edit_.clear();
+      shown_ = 0;
+    }
+    if (shown_ == view.Text().size()) return;
+    std::string_view piece = std::string_view(view.Text()).substr(shown_);
+    // Both ends of a line in two pieces are one.
+    if (shown_ > 0 && view.Text()[shown_ - 1] == '\r' && piece.starts_with('\n'))
+      piece.remove_prefix(1);
+    shown_ = view.Text().size();
+    QTextCursor cursor(edit_.document());
+    cursor.movePosition(QTextCursor::End);
+    cursor.insertText(QString::fromUtf8(piece.data(), static_cast<qsizetype>(piece.size())));
+    edit_.verticalScrollBar()->setValue(edit_.verticalScrollBar()->maximum());
+  }
+
+ private:
+  QPlainTextEdit& edit_;
+  int clearings_ = 0;
+  std::size_t shown_ = 0;  ///< octets of the text
+};
+
+Bound BindKind(TextView& view, const BindOptions&, QWidget* parent) {
+  auto* widget = new QPlainTextEdit(parent);
+  widget->setReadOnly(true);
+  widget->setUndoRedoEnabled(false);
+  widget->setLineWrapMode(QPlainTextEdit::NoWrap);
+  widget->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
+  return {widget, [widget, &view, text = std::make_shared<GrowingText>(*widget)] {
+            FollowFace(*widget, view.face);
+            text->Follow(view);
           }};
 }
 
@@ -328,6 +387,39 @@ Bound BindKind(TabStrip& tabs, const BindOptions&, QWidget* parent) {
   return {widget, [widget, &tabs] {
             FollowFace(*widget, tabs.face);
             widget->setCurrentIndex(tabs.Tab());
+          }};
+}
+
+Bound BindKind(DigitBox& box, const BindOptions&, QWidget* parent) {
+  return BindReadout(box, parent);
+}
+
+Bound BindKind(LedMedio& lamp, const BindOptions&, QWidget* parent) {
+  return BindReadout(lamp, parent);
+}
+
+Bound BindKind(LimitBar& bar, const BindOptions&, QWidget* parent) {
+  return BindReadout(bar, parent);
+}
+
+Bound BindKind(TabRow& row, const BindOptions& options, QWidget* parent) {
+  auto* widget = new QTabBar(parent);
+  widget->setExpanding(false);
+  widget->setDrawBase(false);
+  QObject::connect(widget, &QTabBar::currentChanged, widget,
+                   [&row, guard = options.guard](int tab) { guard([&] { row.Choose(tab); }); });
+  return {widget, [widget, &row] {
+            FollowFace(*widget, row.face);
+            const QSignalBlocker blocker(widget);
+            const auto& tabs = row.Tabs();
+            while (widget->count() > static_cast<int>(tabs.size())) widget->removeTab(0);
+            for (int i = 0; i < static_cast<int>(tabs.size()); ++i) {
+              const TabRow::Tab& tab = tabs[static_cast<std::size_t>(i)];
+              if (i == widget->count()) widget->addTab(QString());
+              widget->setTabText(i, EscapedCaption(ToQt(tab.caption)));
+              widget->setTabVisible(i, tab.visible);
+            }
+            widget->setCurrentIndex(row.Chosen());
           }};
 }
 

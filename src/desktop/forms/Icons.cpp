@@ -72,6 +72,13 @@ void DrawCompare(QPainter& p) {
   for (const qreal y : {8.0, 16.0}) p.drawLine(QPointF(15.5, y), QPointF(18.5, y));
 }
 
+/// A sheet upon a sheet.
+void DrawChannels(QPainter& p) {
+  p.drawPolyline(QPolygonF({{8, 16}, {4, 16}, {4, 4}, {14, 4}, {14, 7}}));
+  p.drawRect(QRectF(8, 8, 12, 12));
+  for (const qreal y : {12.0, 16.0}) p.drawLine(QPointF(11, y), QPointF(17, y));
+}
+
 void DrawTrace(QPainter& p) {
   p.drawRoundedRect(QRectF(3, 4.5, 18, 15), 2, 2);
   p.drawPolyline(QPolygonF({{6.5, 9}, {9.5, 12}, {6.5, 15}}));
@@ -85,6 +92,12 @@ void DrawSchedule(QPainter& p) {
   for (const qreal x : {8.5, 15.5}) p.drawLine(QPointF(x, 3), QPointF(x, 7));
   for (const qreal x : {8.5, 12.0, 15.5}) p.drawPoint(QPointF(x, 14));
   for (const qreal x : {8.5, 12.0}) p.drawPoint(QPointF(x, 17));
+}
+
+/// A curve on its axes.
+void DrawLive(QPainter& p) {
+  p.drawPolyline(QPolygonF({{4, 4}, {4, 20}, {20.5, 20}}));
+  p.drawPolyline(QPolygonF({{7, 15}, {10.5, 10.5}, {13.5, 13}, {19.5, 6.5}}));
 }
 
 void DrawLanguage(QPainter& p) {
@@ -119,8 +132,12 @@ void Draw(QPainter& painter, Sign sign) {
       return DrawCopies(painter);
     case Sign::Compare:
       return DrawCompare(painter);
+    case Sign::Channels:
+      return DrawChannels(painter);
     case Sign::Schedule:
       return DrawSchedule(painter);
+    case Sign::Live:
+      return DrawLive(painter);
     case Sign::Trace:
       return DrawTrace(painter);
     case Sign::Findings:

@@ -22,7 +22,9 @@ enum class Sign {
   Recent,
   Copies,
   Compare,
+  Channels,
   Schedule,
+  Live,
   Trace,
   Findings,
   Language

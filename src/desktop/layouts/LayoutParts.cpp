@@ -4,9 +4,12 @@
 #include <QBoxLayout>
 #include <QFontMetrics>
 #include <QLabel>
+#include <QProgressBar>
 #include <QPushButton>
+#include <QStackedWidget>
 
 #include "desktop/forms/Words.h"
+#include "desktop/window/TransferMeter.h"
 
 namespace ostrel {
 namespace {
@@ -82,6 +85,22 @@ QVBoxLayout* MakeSheet(FormView& view, const QString& untitled) {
   page->addWidget(heading);
   if (view.Has("Help")) heading->layout()->addWidget(HelpButton(view));
   return page;
+}
+
+QWidget* ProgressPlace(FormView& view) {
+  auto* place = new QStackedWidget(&view);
+  place->setObjectName("ProgressPlace");
+  auto* former = new QWidget(place);
+  auto* row = new QHBoxLayout(former);
+  row->setContentsMargins(0, 0, 0, 0);
+  view.ShowNamed("PBar", Words::tr("Progress"));
+  view.Show<QProgressBar>("PBar")->setTextVisible(false);
+  row->addWidget(view.Show("PBar"));
+  place->addWidget(former);
+  place->addWidget(view.Own(new TransferMeter(place)));
+  place->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
+  place->setMinimumWidth(kNarrowBar);
+  return place;
 }
 
 QHBoxLayout* EndButtons(QWidget* accept, QWidget* leave) {

@@ -16,7 +16,7 @@ void Plain(FormView& view, const LayoutContext&) {
   kLayOut(view);
 }
 
-constexpr std::array<LayoutOf, 32> kLayouts{{
+constexpr std::array<LayoutOf, 36> kLayouts{{
     {"General", LayOutGeneral},
     {"E_Digital", Plain<LayOutDigital>},
     {"E_Analog", Plain<LayOutAnalog>},
@@ -49,6 +49,10 @@ constexpr std::array<LayoutOf, 32> kLayouts{{
     {"Test", Plain<LayOutTest>},
     {"TestKA2", Plain<LayOutTest>},
     {"TestBQ", Plain<LayOutTest>},
+    {"T_Real_Tavro", Plain<LayOutMonitor>},
+    {"T_Real_Katodex", Plain<LayOutCathodicMonitor>},
+    {"Firm", Plain<LayOutFirm>},
+    {"Terminal", Plain<LayOutTerminal>},
 }};
 
 }  // namespace

@@ -14,6 +14,7 @@
 #include "host/Folders.h"
 #include "host/LangSeed.h"
 #include "host/Machine.h"
+#include "host/TraceFile.h"
 #include "host/UsualStation.h"
 #include "platform/qt/QtProcesses.h"
 
@@ -36,13 +37,15 @@ int RunWindow(const CommandLine& line) {
   if (line.demo) machine.AddSimulatedLoggers().Port().SetPaced(true);
   QtProcesses realProcesses(ShowDocument);
   QtDialogs dialogs;
-  HelpProcesses processes(realProcesses, dialogs);
+  HelpProcesses processes(realProcesses, dialogs, ShippedFolder() + "/help");
   machine.files.MakeFolder(UserDataFolder());
   const std::string langFile =
       SeedLang(machine.files, LangIn(ShippedFolder()), LangIn(UserDataFolder()));
   Desktop desktop(machine.With(dialogs, processes),
                   {.programFolder = ShippedFolder(),
                    .langFile = langFile,
+                   .openLog = OpenLog,
+                   .openRecording = OpenRecording,
                    .station = StationOf(line),
                    .factory = line.factory,
                    .ticking = true},

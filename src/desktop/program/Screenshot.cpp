@@ -8,8 +8,9 @@
 
 #include "desktop/forms/Words.h"
 #include "desktop/program/Desktop.h"
-#include "desktop/window/ScheduleDialog.h"
+#include "desktop/window/ScheduleView.h"
 #include "host/SimulatedLoggers.h"
+#include "host/TraceFile.h"
 #include "platform/qt/QtEventLoop.h"
 #include "platform/qt/QtFiles.h"
 #include "platform/virtual/VirtualClock.h"
@@ -72,7 +73,16 @@ bool LeadsToPage(const TargetProfile& model, const std::string& key) {
                     target->form == FormId(PageId::Katodex));
 }
 
-QPixmap PagePicture(Desktop& desktop, const CommandLine& line) {
+/// Opens a session with the simulated logger of the model, and lets some rounds of live values pass
+/// on the page in front.
+void ReadLive(Configurator& core, const SimulatedLoggers& simulated, EventLoop& loop) {
+  constexpr Duration kRounds = std::chrono::milliseconds(1200);
+  if (core.session.Open(simulated.NumberOf(core.profile.TargetName), ""))
+    loop.RunUntil([] { return false; }, loop.Now() + kRounds);
+}
+
+QPixmap PagePicture(Desktop& desktop, const CommandLine& line,
+                    const std::function<void()>& readLive) {
   MainWindow& window = desktop.Window();
   if (!line.page.empty()) window.GoTo(line.page);
   window.resize(line.size);
@@ -80,6 +90,7 @@ QPixmap PagePicture(Desktop& desktop, const CommandLine& line) {
   window.setFocus();
   QCursor::setPos(window.mapToGlobal(window.rect().center()));
   window.Look();
+  if (line.page == "T_Real") readLive();
   for (int round = 0; round < 3; ++round) QCoreApplication::processEvents();
   return window.grab();
 }
@@ -107,15 +118,20 @@ std::string TakeScreenshot(const CommandLine& line, const std::string& langFile)
   LinePort noPort(loop);
   std::optional<SimulatedLoggers> simulated;
   if (line.demo) simulated.emplace(loop, clock);
-  Desktop desktop(
-      {.loop = loop,
-       .port = simulated ? simulated->Port() : noPort,
-       .settings = settings,
-       .dialogs = dialogs,
-       .files = files,
-       .processes = processes,
-       .clock = clock},
-      {.programFolder = {}, .langFile = kTable, .factory = line.factory, .ticking = true}, {});
+  Desktop desktop({.loop = loop,
+                   .port = simulated ? simulated->Port() : noPort,
+                   .settings = settings,
+                   .dialogs = dialogs,
+                   .files = files,
+                   .processes = processes,
+                   .clock = clock},
+                  {.programFolder = {},
+                   .langFile = kTable,
+                   .openLog = OpenLog,
+                   .openRecording = OpenRecording,
+                   .factory = line.factory,
+                   .ticking = true},
+                  {});
   desktop.Start(line.file.empty() ? "" : kConfiguration);
   const Configurator& core = desktop.Core();
   if (!line.file.empty() &&
@@ -127,7 +143,9 @@ std::string TakeScreenshot(const CommandLine& line, const std::string& langFile)
   if (picture.isNull()) {
     if (!line.page.empty() && !LeadsToPage(core.profile, line.page))
       return "there is no page " + line.page + " for the " + core.profile.TargetName;
-    picture = PagePicture(desktop, line);
+    picture = PagePicture(desktop, line, [&] {
+      if (simulated) ReadLive(desktop.Core(), *simulated, loop);
+    });
   }
   return picture.save(ToQt(line.screenshot), "PNG") ? "" : "cannot write " + line.screenshot;
 }

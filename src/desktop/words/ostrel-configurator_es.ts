@@ -829,10 +829,6 @@
         <translation>Enviado</translation>
     </message>
     <message>
-        <source>The file is for the model %1, and a session with a %2 stands. Change the model?</source>
-        <translation>El archivo es del modelo %1, y hay una sesión abierta con un %2. ¿Cambiar el modelo?</translation>
-    </message>
-    <message>
         <source>The logger holds another configuration than was sent</source>
         <translation>El registrador contiene otra configuración que la enviada</translation>
     </message>
@@ -1909,10 +1905,6 @@
         <translation>días de la semana</translation>
     </message>
     <message>
-        <source>days of the month</source>
-        <translation>días del mes</translation>
-    </message>
-    <message>
         <source>the line is neither MACRO and a number up to 55 nor F and a number, with the command in one pair of braces: write it anew</source>
         <translation>la línea no es MACRO y un número hasta 55, ni F y un número, con el comando entre un par de llaves: escríbala de nuevo</translation>
     </message>
@@ -2057,8 +2049,484 @@
         <translation>tiempo entre intentos FTP</translation>
     </message>
     <message>
+        <source>Not sent to this logger</source>
+        <translation>No se envía a este equipo</translation>
+    </message>
+    <message>
+        <source>%1, another one</source>
+        <translation>%1, otra distinta</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>ninguna</translation>
+    </message>
+    <message>
+        <source>empty</source>
+        <translation>vacío</translation>
+    </message>
+    <message>
+        <source>&amp;Compare</source>
+        <translation>&amp;Comparar</translation>
+    </message>
+    <message>
+        <source>&amp;with</source>
+        <translation>c&amp;on</translation>
+    </message>
+    <message>
+        <source>Choose</source>
+        <translation>Elegir</translation>
+    </message>
+    <message>
+        <source>&amp;Take the selected over into the pages</source>
+        <translation>&amp;Pasar lo seleccionado a las páginas</translation>
+    </message>
+    <message>
+        <source>Take &amp;all over into the pages</source>
+        <translation>Pasar &amp;todo a las páginas</translation>
+    </message>
+    <message>
+        <source>the pages</source>
+        <translation>las páginas</translation>
+    </message>
+    <message>
+        <source>the logger</source>
+        <translation>el equipo</translation>
+    </message>
+    <message>
+        <source>safety copy %1</source>
+        <translation>copia de seguridad %1</translation>
+    </message>
+    <message>
+        <source>another file...</source>
+        <translation>otro archivo...</translation>
+    </message>
+    <message>
+        <source>The logger is being read.</source>
+        <translation>Se está leyendo el equipo.</translation>
+    </message>
+    <message>
+        <source>No session stands in which it could be read.</source>
+        <translation>No hay ninguna sesión en la que se pueda leer.</translation>
+    </message>
+    <message>
+        <source>The logger could not be read.</source>
+        <translation>No se ha podido leer el equipo.</translation>
+    </message>
+    <message>
+        <source>Choose what is to be compared.</source>
+        <translation>Elija qué se va a comparar.</translation>
+    </message>
+    <message>
+        <source>What is taken over comes from: %1.</source>
+        <translation>Lo que se pasa viene de: %1.</translation>
+    </message>
+    <message>
+        <source>The models are not the same, so nothing can be taken over.</source>
+        <translation>Los modelos no son el mismo, así que no se puede pasar nada.</translation>
+    </message>
+    <message>
+        <source>Compare pages, logger, files and safety copies</source>
+        <translation>Comparar páginas, equipo, archivos y copias de seguridad</translation>
+    </message>
+    <message>
+        <source>no day</source>
+        <translation>ningún día</translation>
+    </message>
+    <message>
+        <source>free</source>
+        <translation>libre</translation>
+    </message>
+    <message>
+        <source>Apply to several channels</source>
+        <translation>Aplicar a varios canales</translation>
+    </message>
+    <message>
+        <source>all but the name</source>
+        <translation>todo menos el nombre</translation>
+    </message>
+    <message>
+        <source>alarm %1 alone</source>
+        <translation>solo la alarma %1</translation>
+    </message>
+    <message>
+        <source>&amp;Copy:</source>
+        <translation>&amp;Copiar:</translation>
+    </message>
+    <message>
+        <source>&amp;What:</source>
+        <translation>&amp;Qué:</translation>
+    </message>
+    <message>
+        <source>&amp;Into:</source>
+        <translation>&amp;En:</translation>
+    </message>
+    <message>
+        <source>&amp;All</source>
+        <translation>&amp;Todos</translation>
+    </message>
+    <message>
+        <source>&amp;None of them</source>
+        <translation>&amp;Ninguno</translation>
+    </message>
+    <message>
+        <source>A&amp;pply</source>
+        <translation>A&amp;plicar</translation>
+    </message>
+    <message>
+        <source>Copy %1</source>
+        <translation>Copiar %1</translation>
+    </message>
+    <message>
+        <source>Copy alarm %1 of %2</source>
+        <translation>Copiar la alarma %1 de %2</translation>
+    </message>
+    <message>
+        <source>Paste %1 as alarm %3 of %2</source>
+        <translation>Pegar %1 como alarma %3 de %2</translation>
+    </message>
+    <message>
+        <source>Paste %1 into %2</source>
+        <translation>Pegar %1 en %2</translation>
+    </message>
+    <message>
+        <source>Apply to several channels...</source>
+        <translation>Aplicar a varios canales...</translation>
+    </message>
+    <message>
+        <source>Paste %1 into the channels selected</source>
+        <translation>Pegar %1 en los canales seleccionados</translation>
+    </message>
+    <message>
+        <source>No channel is in front</source>
+        <translation>No hay ningún canal delante</translation>
+    </message>
+    <message>
+        <source>alarm %1 of %2</source>
+        <translation>alarma %1 de %2</translation>
+    </message>
+    <message>
+        <source>Copy and paste channels and alarms</source>
+        <translation>Copiar y pegar canales y alarmas</translation>
+    </message>
+    <message>
+        <source>Copy the list</source>
+        <translation>Copiar la lista</translation>
+    </message>
+    <message>
+        <source>Paste the list</source>
+        <translation>Pegar la lista</translation>
+    </message>
+    <message>
+        <source>EN</source>
+        <translation>ES</translation>
+    </message>
+    <message>
+        <source>The configuration is being read. The page shows it when it is whole.</source>
+        <translation>Se está leyendo la configuración. La página la mostrará cuando esté completa.</translation>
+    </message>
+    <message>
+        <source>The file is for the model %1, and the session that stands is with the model %2. Change the model?</source>
+        <translation>El archivo es del modelo %1 y la sesión abierta es con el modelo %2. ¿Cambiar el modelo?</translation>
+    </message>
+    <message>
+        <source>Reading the voice-call list</source>
+        <translation>Leyendo la lista de voz</translation>
+    </message>
+    <message>
+        <source>Writing the voice-call list</source>
+        <translation>Escribiendo la lista de voz</translation>
+    </message>
+    <message>
+        <source>The list is empty: the logger loses all numbers that it holds. Write it?</source>
+        <translation>La lista está vacía: el equipo perderá todos los números que tiene. ¿Escribirla?</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n of the numbers are no telephone numbers, the first of them &quot;%1&quot;. A logger may refuse them. Write the list?</source>
+        <translation><numerusform>Uno de los números no es un teléfono: &quot;%1&quot;. El equipo puede rechazarlo. ¿Escribir la lista?</numerusform><numerusform>%n de los números no son teléfonos; el primero es &quot;%1&quot;. El equipo puede rechazarlos. ¿Escribir la lista?</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more</source>
+        <translation><numerusform>%n más</numerusform><numerusform>%n más</numerusform></translation>
+    </message>
+    <message>
+        <source>Plot</source>
+        <translation>Gráfica</translation>
+    </message>
+    <message>
+        <source>Filter the values</source>
+        <translation>Filtrar los valores</translation>
+    </message>
+    <message>
         <source>Value</source>
         <translation>Valor</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>Ahora</translation>
+    </message>
+    <message>
+        <source>Values to plot</source>
+        <translation>Valores que dibujar</translation>
+    </message>
+    <message>
+        <source>Nothing has been read yet. Values come while a session with a logger is open.</source>
+        <translation>Todavía no se ha leído nada. Los valores llegan mientras hay una sesión abierta con un equipo.</translation>
+    </message>
+    <message>
+        <source>Plot of live values</source>
+        <translation>Gráfica de valores en tiempo real</translation>
+    </message>
+    <message>
+        <source>Drag or arrow keys: move. Wheel, + and -: zoom. With Shift: the values instead of time. Home: all. End: follow. 0 or double click: fit the values.</source>
+        <translation>Arrastrar o flechas: mover. Rueda, + y -: ampliar y reducir. Con Mayús: los valores en lugar del tiempo. Inicio: todo. Fin: seguir. 0 o doble clic: ajustar los valores.</translation>
+    </message>
+    <message>
+        <source>&amp;Follow now</source>
+        <translation>&amp;Seguir ahora</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Todo</translation>
+    </message>
+    <message>
+        <source>Zoom in</source>
+        <translation>Ampliar</translation>
+    </message>
+    <message>
+        <source>Zoom out</source>
+        <translation>Reducir</translation>
+    </message>
+    <message>
+        <source>Fit values</source>
+        <translation>Ajustar valores</translation>
+    </message>
+    <message>
+        <source>Picture...</source>
+        <translation>Imagen...</translation>
+    </message>
+    <message>
+        <source>Values...</source>
+        <translation>Valores...</translation>
+    </message>
+    <message>
+        <source>Values</source>
+        <translation>Valores</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Imagen</translation>
+    </message>
+    <message>
+        <source>Live</source>
+        <translation>En vivo</translation>
+    </message>
+    <message>
+        <source>Plot live values, and accept the installation</source>
+        <translation>Dibujar valores en tiempo real y dar por buena la instalación</translation>
+    </message>
+    <message>
+        <source>Acceptance</source>
+        <translation>Aceptación</translation>
+    </message>
+    <message>
+        <source>Inputs to try</source>
+        <translation>Entradas que probar</translation>
+    </message>
+    <message>
+        <source>Verdict</source>
+        <translation>Resultado</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Nota</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Hora</translation>
+    </message>
+    <message>
+        <source>&amp;Pass</source>
+        <translation>&amp;Correcto</translation>
+    </message>
+    <message>
+        <source>F&amp;ail</source>
+        <translation>&amp;Fallo</translation>
+    </message>
+    <message>
+        <source>Take &amp;back</source>
+        <translation>&amp;Retirar</translation>
+    </message>
+    <message>
+        <source>&amp;Note:</source>
+        <translation>&amp;Nota:</translation>
+    </message>
+    <message>
+        <source>Export...</source>
+        <translation>Exportar...</translation>
+    </message>
+    <message>
+        <source>%1 passed, %2 failed, %3 open</source>
+        <translation>%1 correctas, %2 con fallo, %3 pendientes</translation>
+    </message>
+    <message>
+        <source>No input is configured.</source>
+        <translation>No hay ninguna entrada configurada.</translation>
+    </message>
+    <message>
+        <source>Open a session to begin: results are kept by serial number.</source>
+        <translation>Abra una sesión para empezar: los resultados se guardan por número de serie.</translation>
+    </message>
+    <message>
+        <source>Logger %1: %2</source>
+        <translation>Equipo %1: %2</translation>
+    </message>
+    <message>
+        <source>Logger %1, %2: %3</source>
+        <translation>Equipo %1, %2: %3</translation>
+    </message>
+    <message>
+        <source>The last change could not be kept: %1</source>
+        <translation>No se ha podido guardar el último cambio: %1</translation>
+    </message>
+    <message>
+        <source>What was noted before cannot be read: %1</source>
+        <translation>No se puede leer lo que se anotó antes: %1</translation>
+    </message>
+    <message>
+        <source>it is damaged, or made by a newer program</source>
+        <translation>está dañado o es de un programa más nuevo</translation>
+    </message>
+    <message>
+        <source>open</source>
+        <translation>pendiente</translation>
+    </message>
+    <message>
+        <source>pass</source>
+        <translation>correcto</translation>
+    </message>
+    <message>
+        <source>fail</source>
+        <translation>fallo</translation>
+    </message>
+    <message>
+        <source>serial number</source>
+        <translation>número de serie</translation>
+    </message>
+    <message>
+        <source>configuration</source>
+        <translation>configuración</translation>
+    </message>
+    <message>
+        <source>kind</source>
+        <translation>tipo</translation>
+    </message>
+    <message>
+        <source>verdict</source>
+        <translation>resultado</translation>
+    </message>
+    <message>
+        <source>note</source>
+        <translation>nota</translation>
+    </message>
+    <message>
+        <source>value</source>
+        <translation>valor</translation>
+    </message>
+    <message>
+        <source>time</source>
+        <translation>hora</translation>
+        <source>not read</source>
+        <translation>sin leer</translation>
+    </message>
+    <message>
+        <source>last read at %1</source>
+        <translation>última lectura a las %1</translation>
+    </message>
+    <message>
+        <source>inside</source>
+        <translation>dentro</translation>
+    </message>
+    <message>
+        <source>within the hysteresis</source>
+        <translation>dentro de la histéresis</translation>
+    </message>
+    <message>
+        <source>below the minimum</source>
+        <translation>por debajo del mínimo</translation>
+    </message>
+    <message>
+        <source>above the maximum</source>
+        <translation>por encima del máximo</translation>
+    </message>
+    <message>
+        <source>Alarm limits</source>
+        <translation>Límites de alarma</translation>
+    </message>
+    <message>
+        <source>%1 to %2, hysteresis %3</source>
+        <translation>de %1 a %2, histéresis %3</translation>
+    </message>
+    <message>
+        <source>Switch output %1 over</source>
+        <translation>Cambiar el estado de la salida %1</translation>
+    </message>
+    <message>
+        <source>Active</source>
+        <translation>Activa</translation>
+    </message>
+    <message>
+        <source>Inactive</source>
+        <translation>Inactiva</translation>
+        <source>Files</source>
+        <translation>Ficheros</translation>
+    </message>
+    <message>
+        <source>Update</source>
+        <translation>Actualización</translation>
+    </message>
+    <message>
+        <source>The logger has no firmware from the erasing of its flash until its lamp blinks again. Keep it powered and connected so long, whatever happens.</source>
+        <translation>El equipo no tiene firmware desde que se borra su flash hasta que su led vuelve a parpadear. Manténgalo alimentado y conectado hasta entonces, pase lo que pase.</translation>
+    </message>
+    <message>
+        <source>Find in the text</source>
+        <translation>Buscar en el texto</translation>
+    </message>
+    <message>
+        <source>Command:</source>
+        <translation>Comando:</translation>
+    </message>
+    <message>
+        <source>Frame, with its &quot;#&quot;:</source>
+        <translation>Trama, con su «#»:</translation>
+    </message>
+    <message>
+        <source>Console</source>
+        <translation>Consola</translation>
+    </message>
+    <message>
+        <source>Updating</source>
+        <translation>Actualizando</translation>
+    </message>
+    <message>
+        <source>The flash of the logger is erased. Leaving now leaves it without firmware.</source>
+        <translation>La flash del equipo está borrada. Si sale ahora, el equipo se queda sin firmware.</translation>
+    </message>
+    <message>
+        <source>The firmware of the logger is being replaced. Leaving breaks that off.</source>
+        <translation>Se está sustituyendo el firmware del equipo. Si sale, la actualización se interrumpe.</translation>
+    </message>
+    <message>
+        <source>the logger gave no sign of life by octet %1 of the image</source>
+        <translation>el equipo no dio señales de vida hasta el octeto %1 de la imagen</translation>
+    </message>
+    <message>
+        <source>the logger&apos;s flash is erased and holds no firmware: leave it powered and connected, and start the update again with the same files</source>
+        <translation>la flash del equipo está borrada y no contiene firmware: déjelo alimentado y conectado, y vuelva a iniciar la actualización con los mismos ficheros</translation>
+    </message>
+    <message>
+        <source>nothing of the image was sent: if the logger still answers, its firmware is as it was</source>
+        <translation>no se ha enviado nada de la imagen: si el equipo todavía responde, su firmware es el de antes</translation>
     </message>
     <message>
         <source>Band</source>

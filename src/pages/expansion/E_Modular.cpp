@@ -45,6 +45,7 @@ E_Modular::E_Modular(PageContext& context)
   analog_.OnActions = [this](auto list) { EditActionsOf<&ConfModulo::A>(list, analog_); };
   counter_.OnModify = [this] {
     if (context_.showExpansionTotal) context_.showExpansionTotal(CurrentIndex_);
+    counter_.ShowTotal(CurrentIndex_);
   };
   frame_.OnChosen = [this] { ShowShared(); };
   frame_.OnFindFree = [this] {
@@ -86,7 +87,8 @@ void E_Modular::LoadData() {
   frame_.Load(input);
   digital_.LoadData(input.D);
   flow_.LoadData(input.Q);
-  counter_.Load(input.C, context_.live.ModuloValue[CurrentIndex_]);
+  counter_.Load(input.C);
+  counter_.ShowTotal(CurrentIndex_);
   analog_.LoadData(input.A);
   ShowShared();
 }
@@ -121,6 +123,7 @@ void E_Modular::Commit() {
 
 void E_Modular::Tick() {
   flow_.Tick();
+  counter_.ShowTotal(CurrentIndex_);
   CheckNumbers();
   RepaintTree();
 }

@@ -73,9 +73,9 @@ ModuloCounterControls::ModuloCounterControls(Form& form, const PageContext& cont
   BotonModificar.OnClick = [this] { OnModify(); };
 }
 
-void ModuloCounterControls::Load(const ModuloCounter& record, float liveValue) {
-  fields_.Load(record);
-  TotalText.face.SetCaption(context_.Connected ? NumText(liveValue) : "");
+void ModuloCounterControls::ShowTotal(int input) {
+  const bool isKnown = context_.Connected && context_.live.ReadOf(AnswerOfModule(input)).hasCome;
+  TotalText.face.SetCaption(isKnown ? NumText(context_.live.ModuloValue[input]) : "");
 }
 
 ModuloAnalogControls::ModuloAnalogControls(Form& form, const PageContext&)

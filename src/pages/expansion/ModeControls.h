@@ -70,8 +70,9 @@ class ModuloCounterControls {
  public:
   ModuloCounterControls(Form& form, const PageContext& context);
 
-  /// Shows a record and the live value of its input, which only a session can tell.
-  void Load(const ModuloCounter& record, float liveValue);
+  void Load(const ModuloCounter& record) { fields_.Load(record); }
+  /// Shows the live value of an input; nothing until it came in this session.
+  void ShowTotal(int input);
   void Save(ModuloCounter& record) const { fields_.Save(record); }
   void CheckNumbers() const { fields_.CheckNumbers(); }
 

@@ -14,6 +14,9 @@ class QtClock final : public Clock {
     return std::chrono::milliseconds(now.toMSecsSinceEpoch()) +
            std::chrono::seconds(now.offsetFromUtc());
   }
+  std::chrono::minutes UtcOffset() const override {
+    return std::chrono::minutes(QDateTime::currentDateTime().offsetFromUtc() / 60);
+  }
 };
 
 }  // namespace ostrel

@@ -73,8 +73,8 @@ bool WriteAll(int handle, std::string_view octets) {
 }
 
 /// Reads to the end, or beyond the most that is read of a file.
-bool ReadAll(int handle, std::string& octets) {
-  while (octets.size() <= kMostFileOctets) {
+bool ReadAll(int handle, std::size_t most, std::string& octets) {
+  while (octets.size() <= most) {
     constexpr std::size_t kBlock = 65'536;
     const std::size_t size = octets.size();
     octets.resize(size + kBlock);
@@ -119,22 +119,22 @@ bool IsLeftOver(std::string_view ending) {
 
 }  // namespace
 
-FileResult QtFiles::ReadInto(const std::string& path, std::string& octets) {
+FileResult QtFiles::ReadUpTo(const std::string& path, std::size_t most, std::string& octets) {
   octets.clear();
   // Non-blocking, so that a pipe by this name cannot hold the program up.
   const Handle file(path, O_RDONLY | O_NONBLOCK);
   struct stat state {};
   if (!file || ::fstat(file.Number(), &state) != 0) return Outcome(false);
   if (!S_ISREG(state.st_mode)) return {"it is no regular file"};
-  const bool isLarge = state.st_size > static_cast<off_t>(kMostFileOctets);
-  if (!isLarge && !ReadAll(file.Number(), octets)) {
+  const bool isLarge = state.st_size > static_cast<off_t>(most);
+  if (!isLarge && !ReadAll(file.Number(), most, octets)) {
     const FileResult failed = Outcome(false);
     octets.clear();
     return failed;
   }
-  if (!isLarge && octets.size() <= kMostFileOctets) return {};
+  if (!isLarge && octets.size() <= most) return {};
   octets.clear();
-  return {"it is larger than 16 MB"};
+  return TooLarge(most);
 }
 
 bool QtFiles::Exists(const std::string& path) {

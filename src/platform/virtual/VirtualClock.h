@@ -21,6 +21,9 @@ class VirtualClock final : public Clock {
     if (!loop_) return shown;
     return shown + std::chrono::floor<std::chrono::milliseconds>(loop_->Now() - setAt_);
   }
+  std::chrono::minutes UtcOffset() const override { return utcOffset; }
+
+  std::chrono::minutes utcOffset{60};
 
  private:
   const EventLoop* loop_ = nullptr;

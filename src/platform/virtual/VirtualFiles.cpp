@@ -35,11 +35,11 @@ bool VirtualFiles::Fails(Change kind, const std::string& what) {
          (failFrom_ && changes_ >= *failFrom_);
 }
 
-FileResult VirtualFiles::ReadInto(const std::string& path, std::string& octets) {
+FileResult VirtualFiles::ReadUpTo(const std::string& path, std::size_t most, std::string& octets) {
   octets.clear();
   const auto found = contents.find(Resolve(path));
   if (found == contents.end()) return {"no such file"};
-  if (found->second.size() > kMostFileOctets) return {"it is larger than 16 MB"};
+  if (found->second.size() > most) return TooLarge(most);
   octets = found->second;
   return {};
 }

@@ -45,7 +45,7 @@ class VirtualFiles final : public Files {
   /// Nothing fails any more.
   void Heal();
 
-  FileResult ReadInto(const std::string& path, std::string& octets) override;
+  FileResult ReadUpTo(const std::string& path, std::size_t most, std::string& octets) override;
   bool Exists(const std::string& path) override;
   std::vector<std::string> List(const std::string& folder) override;
   std::string Resolve(const std::string& path) override;

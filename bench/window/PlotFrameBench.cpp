@@ -1,0 +1,131 @@
+// Frames of the plot as the operator pans through a day: six numbers and eight states, read twice a
+// second, on 1200 x 600 pixels. A frame that takes at most 16.7 ms makes 60 of them a second. While
+// the line is polled, a simulated logger on a paced line of 9600 bit/s is read on the same thread
+// with no pause between two rounds; the counter tells how many rounds there were.
+
+#include <benchmark/benchmark.h>
+
+#include <QApplication>
+#include <algorithm>
+#include <chrono>
+#include <cmath>
+
+#include "desktop/plot/PlotChart.h"
+#include "platform/qt/QtEventLoop.h"
+#include "platform/virtual/LinePort.h"
+#include "platform/virtual/VirtualClock.h"
+#include "platform/virtual/VirtualDialogs.h"
+#include "platform/virtual/VirtualFiles.h"
+#include "platform/virtual/VirtualProcesses.h"
+#include "platform/virtual/VirtualSettings.h"
+#include "shell/Configurator.h"
+#include "sim/Logger.h"
+
+namespace ostrel {
+namespace {
+
+constexpr int kNumbers = 6, kStates = 8;
+constexpr int kRoundsADay = 2 * 86'400;
+constexpr std::int16_t kPort = 7;
+
+struct Day {
+  Day() {
+    constexpr LiveRead kCame{.hasCome = true, .missed = 0, .at = {}};
+    LiveRound round;
+    for (int i = 0; i < kStates; ++i)
+      round.values.push_back({{LiveKind::Digital, i}, "", "", {}, true, kCame});
+    for (int i = 0; i < kNumbers; ++i)
+      round.values.push_back({{LiveKind::Flow, i}, "", i % 2 ? "bar" : "m3/h", 0., {}, kCame});
+    for (int number = 0; number < kRoundsADay; ++number) {
+      round.at.local = std::chrono::milliseconds(500) * number;
+      for (LiveValue& value : round.values)
+        if (IsState(value.id.kind))
+          value.on = number / (40 + value.id.index * 13) % 2 == 0;
+        else
+          value.number =
+              std::sin(number / 9000.0 + value.id.index) * 10 + number * 7919 % 100 / 40.0;
+      history.Add(round);
+    }
+  }
+  LiveHistory history;
+};
+
+/// The chart of a day, of which the argument tells the part in view, in thousandths.
+struct DayChart {
+  explicit DayChart(benchmark::State& state) {
+    chart.resize(1200, 600);
+    std::vector<LiveId> ids;
+    for (const LiveSeries& series : day.history.Series()) ids.push_back(series.id);
+    chart.Choose(ids);
+    chart.ShowAll();
+    chart.ZoomTime(static_cast<double>(state.range(0)) / 1000);
+    chart.show();
+    QApplication::processEvents();
+  }
+  void Frame() {
+    constexpr double kPan = 0.005;
+    chart.PanTime(frame++ / 40 % 2 == 0 ? -kPan : kPan);
+    chart.replot(QCustomPlot::rpImmediateRefresh);
+    QApplication::processEvents();
+  }
+  inline static Day day;
+  PlotChart chart{day.history, nullptr};
+  int frame = 0;
+};
+
+void PanADay(benchmark::State& state) {
+  DayChart chart(state);
+  for ([[maybe_unused]] const auto _ : state) chart.Frame();
+}
+BENCHMARK(PanADay)->Arg(1000)->Arg(500)->Arg(10)->Unit(benchmark::kMillisecond);
+
+/// A configurator in session with a simulated logger, on real time.
+struct PolledLogger {
+  PolledLogger() {
+    const sim::LoggerOptions options = sim::MakeDefaultOptions(sim::Model::BP);
+    port.AddDevice(kPort, "sim", "",
+                   [&](LineEnd& end) { return std::make_unique<sim::Logger>(loop, end, options); });
+    port.SetPaced(true);
+    program.StartForCommand("Tavro BP", 1);
+    program.session.Open(kPort, "");
+    rounds = program.livePoll.OnRound([this](const LiveRound&) { ++count; });
+    going = program.livePoll.KeepGoing();
+  }
+  QtEventLoop loop;
+  LinePort port{loop};
+  VirtualSettings settings;
+  VirtualDialogs dialogs;
+  VirtualFiles files;
+  VirtualProcesses processes;
+  VirtualClock clock;
+  Configurator program{{loop, port, settings, dialogs, files, processes, clock},
+                       {.programFolder = "", .langFile = "/Lang.txt"}};
+  LivePoll::RoundFeed::Subscription rounds;
+  std::shared_ptr<const void> going;
+  int count = 0;
+};
+
+void PanADayWhileTheLineIsPolled(benchmark::State& state) {
+  PolledLogger logger;
+  DayChart chart(state);
+  std::chrono::duration<double, std::milli> worst{};
+  for ([[maybe_unused]] const auto _ : state) {
+    const auto start = std::chrono::steady_clock::now();
+    chart.Frame();
+    worst = std::max<decltype(worst)>(worst, std::chrono::steady_clock::now() - start);
+  }
+  state.counters["rounds"] = logger.count;
+  state.counters["worst_ms"] = worst.count();
+}
+BENCHMARK(PanADayWhileTheLineIsPolled)->Arg(1000)->MinTime(5)->Unit(benchmark::kMillisecond);
+
+}  // namespace
+}  // namespace ostrel
+
+int main(int argc, char** argv) {
+  if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+  const QApplication app(argc, argv);
+  benchmark::Initialize(&argc, argv);
+  benchmark::RunSpecifiedBenchmarks();
+  return 0;
+}

@@ -1,0 +1,34 @@
+#include "shell/acceptance/AcceptanceWork.h"
+
+#include <utility>
+
+namespace ostrel {
+
+void AcceptanceWork::Begin(const Acceptance& subject) {
+  present_ = subject;
+  error_.clear();
+  isForeign_ = false;
+  if (subject.serialNumber.empty()) return;
+  AcceptanceFiles::Kept kept = files_.Read(subject.serialNumber, subject.configuration);
+  error_ = kept.result.error;
+  isForeign_ = !kept.result.Ok();
+  present_.points = WithNotes(std::move(present_.points), kept.acceptance.points);
+}
+
+void AcceptanceWork::Judge(std::size_t place, Verdict verdict, const std::string& value) {
+  if (!MayNote()) return;
+  AcceptancePoint& point = present_.points.at(place);
+  point.verdict = verdict;
+  const bool isOpen = verdict == Verdict::Open;
+  point.value = isOpen ? std::string() : value;
+  point.time = isOpen ? std::nullopt : std::optional(clock_.LocalNow());
+  Keep();
+}
+
+void AcceptanceWork::Note(std::size_t place, const std::string& note) {
+  if (!MayNote() || present_.points.at(place).note == note) return;
+  present_.points[place].note = note;
+  Keep();
+}
+
+}  // namespace ostrel

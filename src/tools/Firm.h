@@ -1,0 +1,51 @@
+#pragma once
+
+#include <cstddef>
+#include <string_view>
+
+#include "controls/FrontForm.h"
+#include "link/Progress.h"
+#include "tools/FirmwareDoubts.h"
+#include "tools/ToolContext.h"
+
+namespace ostrel {
+
+/// Replaces the firmware of the connected logger.
+class Firm final : public FrontForm {
+ public:
+  explicit Firm(ToolContext& context);
+
+  Form& GetForm() override { return form_; }
+  void LoadText() override;
+  void Form_Load() override;
+  void Form_Activate() override;
+  void Form_Deactivate() override;
+
+ private:
+  void Choose(TextBox& path);
+  void Start();
+  /// Shows what looks wrong with the files; true when nothing does, or the operator goes on.
+  bool MayGoOn(const FirmwarePaths& paths, const FirmwareFiles& files);
+  void SendFirmware(const FirmwareFiles& files);
+  void ShowStage(FirmwareStage stage);
+  void EnableAll(bool enabled);
+  void SetInfo(std::string_view key);
+  void Tell(std::string_view key);
+
+  ToolContext& context_;
+  Form form_{"Firm", "Actualizacion de firmware"};
+  Label LabelFirm;
+  TextBox FirmPath;
+  Button FirmBut;
+  Label LabelLoader;
+  TextBox LoaderPath;
+  Button LoaderBut, StarBut;
+  Label LabelInfo;
+  ProgressBar PBar;
+  Button Help;
+  Timer Timer1;
+  std::size_t imageOctets_ = 0;  ///< as stored
+  ProgressFeed::Subscription progress_;
+};
+
+}  // namespace ostrel

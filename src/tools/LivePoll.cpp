@@ -1,0 +1,35 @@
+#include "tools/LivePoll.h"
+
+namespace ostrel {
+
+LivePoll::LivePoll(ToolContext& context) : context_(context) {}
+
+LivePoll::~LivePoll() { context_.platform.loop.Cancel(timer_); }
+
+std::shared_ptr<const void> LivePoll::KeepGoing() {
+  std::shared_ptr<const void> kept = kept_.lock();
+  if (!kept) kept_ = kept = std::make_shared<const char>();
+  if (timer_ == 0)
+    timer_ = context_.platform.loop.Every(kLivePeriod, "live rounds", [this] { Tick(); });
+  return kept;
+}
+
+void LivePoll::Tick() {
+  if (kept_.expired()) return context_.platform.loop.Cancel(std::exchange(timer_, 0));
+  Read();
+}
+
+void LivePoll::Read() {
+  if (!context_.Connected || context_.comms.LinkBusy) return;
+  context_.comms.ReadRealTime();
+  const LiveRound round = Present();
+  context_.comms.ReadDeviceRTC();
+  rounds_.Tell(round);
+}
+
+LiveRound LivePoll::Present() const {
+  return TakeRound(context_.live, context_.profile, context_.info,
+                   WallTimeOf(context_.platform.clock));
+}
+
+}  // namespace ostrel

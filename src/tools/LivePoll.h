@@ -1,0 +1,50 @@
+#pragma once
+
+#include <memory>
+
+#include "base/Feed.h"
+#include "model/LiveRound.h"
+#include "tools/ToolContext.h"
+
+namespace ostrel {
+
+/// Twice a second, as far as the line keeps up.
+inline constexpr Duration kLivePeriod = std::chrono::milliseconds(500);
+
+/// Reads the live values of the session, and hands each round to whoever listens: the monitors, the
+/// plots, a recording.
+///
+/// A monitor reads while it has the front. Beside that, rounds go on for whoever keeps them going,
+/// whichever page is in front. A tick that finds a round under way does nothing, so that together
+/// they read no more often than the line bears.
+class LivePoll {
+ public:
+  explicit LivePoll(ToolContext& context);
+  ~LivePoll();
+  LivePoll(const LivePoll&) = delete;
+  LivePoll& operator=(const LivePoll&) = delete;
+
+  using RoundFeed = Feed<LiveRound>;
+  /// Hands the rounds to a listener, as long as the subscription lives.
+  [[nodiscard]] RoundFeed::Subscription OnRound(RoundFeed::Listener listener) {
+    return rounds_.Listen(std::move(listener));
+  }
+  /// Keeps the rounds going as long as the result lives.
+  [[nodiscard]] std::shared_ptr<const void> KeepGoing();
+
+  /// One round: the live values and the logger's clock. Tells it, whatever came; nothing is told or
+  /// sent while no session stands or another dialogue has the line.
+  void Read();
+  /// The round as the records hold it now.
+  LiveRound Present() const;
+
+ private:
+  void Tick();
+
+  ToolContext& context_;
+  RoundFeed rounds_;
+  std::weak_ptr<const void> kept_;  ///< lives while someone keeps the rounds going
+  TimerId timer_ = 0;               ///< runs since someone did so first
+};
+
+}  // namespace ostrel

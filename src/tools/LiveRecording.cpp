@@ -1,0 +1,71 @@
+#include "tools/LiveRecording.h"
+
+#include <cstdlib>
+
+namespace ostrel {
+namespace {
+
+constexpr int kMillisecondsASecond = 1000;
+
+std::string TwoDigits(std::int64_t number) {
+  return (number < 10 ? "0" : "") + std::to_string(number);
+}
+
+/// "2026-03-02T09:05:07.250".
+std::string IsoText(std::chrono::milliseconds time) {
+  const auto whole = std::chrono::floor<std::chrono::seconds>(time);
+  std::string text = DateTimeText(FromSeconds(whole.count()));
+  text.replace(text.find(' '), 1, "T");
+  const auto rest = (time - whole).count();
+  return text + "." + std::to_string(kMillisecondsASecond + rest).substr(1);
+}
+
+/// A field as it may stand between commas.
+std::string Quoted(const std::string& text) {
+  if (text.find_first_of(",\"\r\n") == std::string::npos) return text;
+  std::string quoted = "\"";
+  for (const char c : text) quoted.append(c == '"' ? 2 : 1, c);
+  return quoted + '"';
+}
+
+/// "AI0 Level [m]".
+std::string HeadOf(const LiveValue& value) {
+  std::string head = LiveTag(value.id);
+  if (!value.name.empty()) head += ' ' + value.name;
+  if (!value.unit.empty()) head += " [" + value.unit + ']';
+  return Quoted(head);
+}
+
+}  // namespace
+
+std::string UtcText(const WallTime& time) { return IsoText(time.local - time.utcOffset) + "Z"; }
+
+std::string LocalText(const WallTime& time) {
+  const std::int64_t minutes = std::abs(time.utcOffset.count());
+  return IsoText(time.local) + (time.utcOffset.count() < 0 ? "-" : "+") + TwoDigits(minutes / 60) +
+         ":" + TwoDigits(minutes % 60);
+}
+
+void LiveRecording::WriteHead(const LiveRound& round) {
+  *out_ << "utc,local";
+  for (const LiveValue& value : round.values) {
+    columns_.push_back(value.id);
+    *out_ << ',' << HeadOf(value);
+  }
+  *out_ << '\n';
+}
+
+bool LiveRecording::Add(const LiveRound& round) {
+  if (columns_.empty()) WriteHead(round);
+  *out_ << UtcText(round.at) << ',' << LocalText(round.at);
+  for (const LiveId id : columns_) {
+    *out_ << ',';
+    const LiveValue* value = round.Find(id);
+    if (value && value->IsFresh()) *out_ << LiveText(*value);
+  }
+  *out_ << std::endl;
+  ++rows_;
+  return out_->good();
+}
+
+}  // namespace ostrel

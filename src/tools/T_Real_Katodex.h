@@ -1,0 +1,52 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+
+#include "controls/FrontForm.h"
+#include "tools/LivePoll.h"
+#include "tools/LiveRecorder.h"
+#include "tools/MonitorParts.h"
+#include "tools/ToolContext.h"
+
+namespace ostrel {
+
+/// The monitor of a logger for cathodic protection. Its four measuring channels have fixed ranges.
+class T_Real_Katodex final : public FrontForm {
+ public:
+  T_Real_Katodex(ToolContext& context, LivePoll& poll, LiveRecorder& recorder);
+
+  Form& GetForm() override { return form_; }
+  void LoadText() override;
+  void Form_Activate() override;
+  void Form_Deactivate() override { Timer1.SetEnabled(false); }
+  /// Switches an output over with the next round. All outputs are written at once, so of two in
+  /// one round the second alone takes effect.
+  void OutputChange(std::int16_t index);
+
+ private:
+  void Poll();
+  void ShowNames();
+  void Show();
+
+  ToolContext& context_;
+  LivePoll& poll_;
+  LiveShow show_{context_};
+  Form form_{"T_Real_Katodex", "Tiempo real"};
+  Label RTCText, LabelLectura;
+  RecorderPart recorder_;
+  Frame Frame1;
+  MeasureRows analogs_, aux_;
+  Frame Frame2;
+  Lamps Led_D;
+  Labels Label1;
+  Frame Frame4;
+  Lamps Led_F;
+  Labels Label4;
+  MathPart math_;
+  Timer Timer1;
+  bool hasNames_ = false;                ///< those of the first round stay for the whole run
+  std::optional<std::int16_t> pending_;  ///< the outputs to be written
+};
+
+}  // namespace ostrel

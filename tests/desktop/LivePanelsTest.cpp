@@ -1,0 +1,190 @@
+#include <QCheckBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QTreeWidget>
+
+#include "OpenWindow.h"
+#include "desktop/acceptance/AcceptancePanel.h"
+#include "desktop/plot/PlotPanel.h"
+#include "desktop/program/Language.h"
+#include "shell/acceptance/AcceptanceFile.h"
+
+namespace ostrel {
+namespace {
+
+using std::chrono::minutes;
+using std::chrono::seconds;
+
+/// The panels of a session with a simulated logger, in English.
+class WindowLivePanels : public OpenWindow {
+ protected:
+  WindowLivePanels() {
+    UseLanguage("en");
+    AddLogger(sim::Model::BP);
+    Connect();
+  }
+  /// Lets time pass on the wall clock, too.
+  void Run(seconds time) {
+    for (; time > seconds(0); time -= seconds(1)) {
+      loop.RunFor(seconds(1));
+      clock.SetNow(FromSeconds(ToSeconds(clock.LocalNow()) + 1));
+    }
+  }
+  /// Shows or hides a panel.
+  void Switch(const QString& keys) {
+    for (QAction* action : Window().actions())
+      if (action->shortcut() == QKeySequence(keys)) return action->toggle();
+    throw std::invalid_argument("no switch " + FromQt(keys));
+  }
+  template <class Widget>
+  Widget* Find(const char* name) {
+    return Window().findChild<Widget*>(name);
+  }
+  PlotChart& Chart() { return *static_cast<PlotChart*>(Find<QWidget>("PlotChart")); }
+  QTreeWidgetItem* Row(const char* list, int row) {
+    return Find<QTreeWidget>(list)->topLevelItem(row);
+  }
+  QTreeWidgetItem* PlotRow(const QString& tag) {
+    for (int row = 0; row < Find<QTreeWidget>("PlotList")->topLevelItemCount(); ++row)
+      if (Row("PlotList", row)->text(0).section(u' ', -1) == tag) return Row("PlotList", row);
+    throw std::invalid_argument("no value " + FromQt(tag));
+  }
+  /// What stands in a file that a button saves.
+  std::string Saved(const char* button, const std::string& name) {
+    dialogs.ChoosePath(Path(name));
+    Find<QPushButton>(button)->click();
+    return files.Read(Path(name)).value_or("");
+  }
+};
+
+TEST_F(WindowLivePanels, PlotsWhatIsChosenOnAnyPage) {
+  Window().GoTo("E_Digital_0");
+  Switch("Ctrl+L");
+  Run(minutes(2));
+  PlotChart& chart = Chart();
+  EXPECT_EQ(chart.Chosen().size(), 3u) << "a chart without curves tells nothing";
+  for (const LiveId id : std::vector(chart.Chosen()))
+    PlotRow(ToQt(LiveTag(id)))->setCheckState(0, Qt::Unchecked);
+  PlotRow("DI0")->setCheckState(0, Qt::Checked);
+  PlotRow("AI0")->setCheckState(0, Qt::Checked);
+  chart.replot();
+  ASSERT_EQ(chart.graphCount(), 2);
+  EXPECT_GT(chart.graph(0)->dataCount(), 100);
+  EXPECT_TRUE(chart.accessibleDescription().contains("DI0: ")) << "in words, too";
+  EXPECT_FALSE(PlotRow("AI0")->text(1).isEmpty());
+  Find<QLineEdit>("PlotFilter")->setText("ai0");
+  EXPECT_TRUE(PlotRow("DI0")->isHidden());
+  EXPECT_FALSE(PlotRow("AI0")->isHidden());
+
+  Switch("Ctrl+L");
+  Run(seconds(2));
+  const auto before = chart.View();
+  Run(minutes(1));
+  EXPECT_EQ(chart.View(), before) << "nothing is drawn while nobody looks";
+  desktop = Make(&dialogs);
+  desktop->Start("");
+  EXPECT_EQ(static_cast<PlotChart*>(Window().findChild<QWidget*>("PlotChart"))->Chosen().size(), 2u)
+      << "the choice is remembered";
+}
+
+TEST_F(WindowLivePanels, PansAndZoomsByKeyboardAndFollowsAgain) {
+  Switch("Ctrl+L");
+  Run(minutes(2));
+  PlotChart& chart = Chart();
+  auto* follow = Find<QCheckBox>("PlotFollow");
+  const auto length = [&] { return chart.View().Length(); };
+  EXPECT_TRUE(follow->isChecked());
+  const auto end = chart.View().to;
+  Run(seconds(10));
+  EXPECT_GT(chart.View().to, end + seconds(8));
+  const auto former = length();
+  Press(&chart, Qt::Key_Plus);
+  EXPECT_LT(length(), former);
+  EXPECT_TRUE(follow->isChecked()) << "a zoom keeps the end";
+  const auto last = chart.View().to;
+  Press(&chart, Qt::Key_Left);
+  EXPECT_FALSE(follow->isChecked());
+  const auto rest = chart.View();
+  EXPECT_LT(rest.to, last);
+  Run(seconds(10));
+  EXPECT_EQ(chart.View(), rest);
+  Press(&chart, Qt::Key_End);
+  EXPECT_TRUE(follow->isChecked());
+  EXPECT_GT(chart.View().to, last + seconds(8));
+  Press(&chart, Qt::Key_Home);
+  EXPECT_NEAR(double(length().count()), 140'000, 15'000) << "all that was read";
+
+  chart.resize(800, 300);
+  chart.replot();
+  const QPoint middle(400, 200);
+  const auto whole = chart.View();
+  QWheelEvent wheel(middle, chart.mapToGlobal(middle), {}, {0, 120}, Qt::NoButton, Qt::NoModifier,
+                    Qt::NoScrollPhase, false);
+  QApplication::sendEvent(&chart, &wheel);
+  EXPECT_LT(length(), whole.Length());
+  const auto zoomed = chart.View();
+  SendMouse(&chart, QEvent::MouseButtonPress, middle);
+  SendMouse(&chart, QEvent::MouseMove, middle + QPoint(100, 0));
+  SendMouse(&chart, QEvent::MouseButtonRelease, middle + QPoint(100, 0));
+  EXPECT_LT(chart.View().to, zoomed.to);
+  EXPECT_EQ(length(), zoomed.Length());
+  EXPECT_FALSE(follow->isChecked());
+  EXPECT_TRUE(chart.Pointed()) << "the list tells the values there";
+}
+
+TEST_F(WindowLivePanels, SavesPictureAndValuesInView) {
+  Switch("Ctrl+L");
+  Run(seconds(30));
+  const std::string picture = Saved("PlotPicture", "plot.png");
+  EXPECT_TRUE(QImage::fromData(QByteArray::fromStdString(picture)).width() > 2000);
+  const std::string values = Saved("PlotValues", "values.csv");
+  EXPECT_TRUE(values.starts_with("utc,local,"));
+  const auto rows = std::ranges::count(values, '\n') - 1;
+  EXPECT_GT(rows, 20);
+  for (int i = 0; i < 5; ++i) Press(&Chart(), Qt::Key_Plus);
+  while (Chart().View().Length() > seconds(10)) Press(&Chart(), Qt::Key_Plus);
+  const std::string fewer = Saved("PlotValues", "fewer.csv");
+  EXPECT_LT(std::ranges::count(fewer, '\n') - 1, rows / 2) << "what is in view";
+}
+
+TEST_F(WindowLivePanels, AcceptsPointByPointAndKeepsIt) {
+  Core().conf.Digital[0].NOMBRE = "Door";
+  Core().conf.Analog[1].NOMBRE = "Level";
+  Switch("Ctrl+K");
+  Run(seconds(10));
+  auto* list = Find<QTreeWidget>("AcceptanceList");
+  ASSERT_EQ(list->topLevelItemCount(), 2);
+  EXPECT_EQ(list->topLevelItem(0)->text(0), "Analog input 1: Level");
+  const QString now = list->topLevelItem(0)->text(1);
+  EXPECT_FALSE(now.isEmpty());
+  Find<QPushButton>("AcceptancePass")->click();
+  EXPECT_EQ(list->topLevelItem(0)->text(2), "pass");
+  EXPECT_EQ(list->topLevelItem(0)->text(4), now);
+  EXPECT_EQ(list->currentItem(), list->topLevelItem(1)) << "on to the next";
+  Find<QPushButton>("AcceptanceFail")->click();
+  auto* note = Find<QLineEdit>("AcceptanceNote");
+  Type(note, "no pulse");
+  const std::string& serial = Core().info.SerialNumber;
+  const auto kept = AcceptanceFiles(files, FromQt(folder.path())).Read(serial, "").acceptance;
+  ASSERT_EQ(kept.points.size(), 2u);
+  EXPECT_EQ(kept.points[0].verdict, Verdict::Passed);
+  EXPECT_EQ(kept.points[1].note, "no pulse");
+  EXPECT_TRUE(Find<QLabel>("AcceptanceSummary")->text().contains("1 passed, 1 failed, 0 open"));
+  const std::string table = Saved("AcceptanceExport", "acceptance.csv");
+  EXPECT_NE(table.find(serial + ",,digital input,0,Door,fail,no pulse,"), std::string::npos)
+      << table;
+
+  Core().conf.Digital[1].NOMBRE = "Pump";
+  Run(seconds(2));
+  ASSERT_EQ(list->topLevelItemCount(), 3) << "it follows the configuration";
+  EXPECT_EQ(list->topLevelItem(1)->text(3), "no pulse");
+  Core().session.Close(false);
+  Core().conf.Digital[2].NOMBRE = "Gate";
+  Run(seconds(2));
+  EXPECT_FALSE(Find<QPushButton>("AcceptancePass")->isEnabled())
+      << "of which logger this is, nobody knows";
+}
+
+}  // namespace
+}  // namespace ostrel

@@ -1,0 +1,187 @@
+#include <gmock/gmock.h>
+
+#include "base/CodePage.h"
+#include "shell/FaultWords.h"
+#include "shell/Navigation.h"
+#include "shell/SimWorld.h"
+#include "tools/HexFiles.h"
+#include "tools/IntelHex.h"
+
+namespace ostrel {
+namespace {
+
+using std::chrono::seconds;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+struct FirmBench {
+  explicit FirmBench(const char* fault = nullptr) : world(Options(fault)) {
+    program.StartForCommand(world.TargetName(), 1);
+    world.files.contents = {
+        {"/image.hex", HexFile(600)}, {"/CopyFlash.hex", HexFile(20)}, {"/Lang.txt", ""}};
+    form.Get<TextBox>("FirmPath").SetText("/image.hex");
+    form.Get<TextBox>("LoaderPath").SetText("/CopyFlash.hex");
+    world.logger->OnExchange([this](const sim::Exchange& exchange) {
+      if (exchange.request.starts_with("#F")) asked += exchange.request + " ";
+    });
+  }
+  static sim::LoggerOptions Options(const char* fault) {
+    sim::LoggerOptions options = sim::MakeDefaultOptions(sim::Model::BP);
+    std::string error;
+    if (fault) options.faults.push_back(sim::ParseFault(fault, error).value());
+    return options;
+  }
+  void Connect() { ASSERT_TRUE(program.session.Open(SimWorld::kPort, "")); }
+  void Start() { form.Get<Button>("StarBut").Click(); }
+  std::string Info() { return FaceOf(form["LabelInfo"]).Caption(); }
+  std::string LastBox() {
+    return world.dialogs.boxes.empty() ? "" : world.dialogs.boxes.back().text;
+  }
+
+  SimWorld world;
+  Configurator program{world.platform, world.Options(false)};
+  Form& form = program.firm.GetForm();
+  std::string asked;  ///< of the logger
+};
+
+TEST(FirmPage, SendsBothFilesAndEndsTheSession) {
+  FirmBench bench;
+  EXPECT_EQ(bench.Info(), "Preparado");
+  bench.Connect();
+  Navigation navigation(bench.program);
+  EXPECT_EQ(navigation.NodeClick("Firmware"), NodeResult::Shown);
+  std::vector<std::string> stages;
+  FaceOf(bench.form["LabelInfo"]).OnChanged = [&] {
+    if (stages.empty() || stages.back() != bench.Info()) stages.push_back(bench.Info());
+    EXPECT_EQ(navigation.NodeClick("General"), NodeResult::Rests);
+  };
+  bench.Start();
+  FaceOf(bench.form["LabelInfo"]).OnChanged = nullptr;
+  EXPECT_THAT(stages,
+              ElementsAre("Borrando flash...", "Cargando imagen...", "Cargando CopyFlash en RAM...",
+                          "Escribiendo imagen en flash, espere a que el led parpadee de "
+                          "nuevo..."));
+  EXPECT_EQ(bench.LastBox(), "NO CORTE LA ALIMENTACION MIENTRAS DURE LA ACTUALIZACION");
+  EXPECT_EQ(bench.world.dialogs.boxes.back().title, "Tavro BP");
+  const std::string image = HexFile(600);
+  const auto& bar = bench.form.Get<ProgressBar>("PBar");
+  EXPECT_EQ(bar.Maximum(), static_cast<int>(image.size()));
+  EXPECT_EQ(bar.Value(), static_cast<int>(image.size()) - 1);
+  EXPECT_EQ(bench.world.logger->Firmware().Image() + "\r\n", image);
+  EXPECT_TRUE(bench.form.Get<Button>("StarBut").face.Enabled());
+  bench.program.session.Tick();
+  EXPECT_FALSE(bench.program.Connected);
+  EXPECT_FALSE(bench.program.session.IsFlashErased());
+}
+
+TEST(FirmPage, RefusesToStartWithoutSessionAndFiles) {
+  struct Case {
+    bool connected;
+    const char* image;
+    const char* loader;
+    const char* box;
+  };
+  for (const Case& c :
+       {Case{false, "/image.hex", "/CopyFlash.hex", "Debe iniciar la comunicacion primero"},
+        {true, "", "/CopyFlash.hex", "Debe seleccionar la ruta de los dos archivos"},
+        {true, "/image.hex", "", "Debe seleccionar la ruta de los dos archivos"},
+        {true, "/image.hex", "/copyflash.hex", "Debe seleccionar la ruta de los dos archivos"},
+        {true, "/image.hex", "/CopyFlash2.hex",
+         "No se puede leer el fichero /CopyFlash2.hex: "
+         "no such file"}}) {
+    FirmBench bench;
+    if (c.connected) bench.Connect();
+    bench.form.Get<TextBox>("FirmPath").SetText(c.image);
+    bench.form.Get<TextBox>("LoaderPath").SetText(c.loader);
+    bench.Start();
+    EXPECT_EQ(bench.LastBox(), c.box);
+    EXPECT_EQ(bench.Info(), "Preparado");
+    EXPECT_EQ(bench.asked, "");
+  }
+}
+
+/// Ahead of the erasing the operator is told what looks wrong, and may go on.
+TEST(FirmPage, WarnsOfFilesThatLookWrong) {
+  const std::string good = HexFile(30), loader = HexFile(2);
+  const auto spoilt = [&](std::string_view from, std::string_view to) {
+    return std::string(good).replace(good.find(from), from.size(), to);
+  };
+  struct Case {
+    std::string image, loader;
+    const char* warning;
+  };
+  for (const Case& c :
+       {Case{spoilt("2146", "2147"), loader, "image.hex: Linea 1: la suma de control"},
+        {spoilt("\r\n:", "\r\n;"), loader, "image.hex: Linea 2: no es un registro"},
+        {good.substr(0, good.size() - 13), loader, "image.hex: falta el registro final"},
+        {good, "", "CopyFlash.hex: falta el registro final"},
+        {loader, good, "intercambiados"},
+        {std::string(17'000'000, '\n') + good, loader, "image.hex: ocupa mas de 16 MB"}}) {
+    SCOPED_TRACE(c.warning);
+    FirmBench bench;
+    bench.Connect();
+    bench.world.files.contents["/image.hex"] = c.image;
+    bench.world.files.contents["/CopyFlash.hex"] = c.loader;
+    bench.world.dialogs.Answer(BoxAnswer::No);
+    bench.Start();
+    EXPECT_THAT(bench.LastBox(), HasSubstr(c.warning));
+    EXPECT_EQ(bench.world.dialogs.boxes.size(), 1U);
+    EXPECT_EQ(bench.asked, "");
+    if (c.image.size() > good.size()) continue;  // it would take its time
+    bench.Start();
+    EXPECT_THAT(bench.asked, testing::StartsWith("#F0 "));
+  }
+  EXPECT_EQ(FirstHexFault(good + "rubbish"), HexFault{}) << "behind the end nothing counts";
+}
+
+TEST(FirmPage, EachFaultOfTheLoggerEndsItWithWordsOfWhatToDo) {
+  struct Case {
+    const char* fault;
+    const char* what;
+    bool erased;
+    std::size_t taken;  ///< octets of the image
+  };
+  for (const Case& c :
+       {Case{"refuse-erase", "answered something else: \"#DWLD_ERROR\"", false, 0},
+        {"ready-late:45000", "", true, 27'012},
+        {"ready-late:60000", "fell silent", true, 0},
+        {"no-alive-mark@2", "no sign of life by octet 16386", true, 16'386},
+        {"silent-after-octet@9000", "no sign of life by octet 16386", true, 9000},
+        {"refuse-loader", "answered something else: \"#DWLD_ERROR\"", true, 27'011}}) {
+    SCOPED_TRACE(c.fault);
+    FirmBench bench(c.fault);
+    bench.Connect();
+    bench.world.port.SetPaced(true);
+    bench.Start();
+    if (*c.what == '\0') {
+      EXPECT_THAT(bench.Info(), HasSubstr("espere"));
+      continue;
+    }
+    EXPECT_EQ(bench.Info(), "¡Error!");
+    EXPECT_EQ(bench.LastBox(), "¡Error!");
+    EXPECT_EQ(bench.world.logger->Firmware().Image().size(), c.taken);
+    EXPECT_TRUE(bench.program.Connected) << "the session stays as it was";
+    EXPECT_EQ(bench.program.session.IsFlashErased(), c.erased);
+    const auto& failed = bench.program.session.State().failed;
+    ASSERT_TRUE(failed);
+    const FaultWords words = WordsOf(*failed, "COM7");
+    EXPECT_THAT(Filled(words.what), HasSubstr(c.what));
+    EXPECT_THAT(Filled(words.outcome),
+                HasSubstr(c.erased ? "start the update again" : "as it was"));
+  }
+}
+
+TEST(FirmPage, WhoBreaksItOffIsNotToldOfIt) {
+  FirmBench bench;
+  bench.Connect();
+  bench.world.port.SetPaced(true);
+  bench.world.loop.After(seconds(10), "leave", [&] { bench.program.ShutDown(); });
+  bench.Start();
+  EXPECT_EQ(bench.Info(), "¡Error!");
+  EXPECT_THAT(bench.world.dialogs.boxes, IsEmpty());
+  EXPECT_TRUE(bench.program.session.IsFlashErased());
+}
+
+}  // namespace
+}  // namespace ostrel
