@@ -21,6 +21,12 @@ bool ConsoleDialogs::Confirm(const std::string& question) {
   return answer == "y" || answer == "Y" || answer == "yes";
 }
 
+void ConsoleDialogs::AwaitDone(const std::string& request) {
+  const std::string shown = Printable(request);
+  if (options_.yes || !environment_.ask) return console_.Say(shown);
+  Ask(shown + " [Enter] ", true);
+}
+
 std::string ConsoleDialogs::Ask(const std::string& prompt, bool echo) {
   if (left_) return {};
   auto answer = environment_.ask(prompt, echo);

@@ -28,6 +28,9 @@ class ConsoleDialogs final : public Dialogs {
 
   /// Asks a question of the command line itself.
   bool Confirm(const std::string& question);
+  /// Asks for something to be done, and waits until the operator says that it is; without an
+  /// operator it goes on.
+  void AwaitDone(const std::string& request);
   /// Whether a question was left by an interrupt, or by the end of the input.
   bool Left() const { return left_; }
   /// While this is set, message boxes are not written: the command says itself what happened.

@@ -7,6 +7,7 @@
 #include <string>
 #include <string_view>
 
+#include "factory/Station.h"
 #include "host/SimulatedLoggers.h"
 #include "platform/Files.h"
 #include "platform/Platform.h"
@@ -32,6 +33,7 @@ struct Environment {
   std::int16_t lang = 1;    ///< column of the language table that the user's language asks for
   std::string code;         ///< access code of the environment; empty for none
   std::string dataFolder;   ///< the user's own; made when needed
+  Station station{};        ///< of factory tests, where none is stored
   std::string shippedLang;  ///< the installed translation table
   /// Number of a device path; 0 when there is none to give.
   std::function<int(const std::string& path)> numberOfDevice;

@@ -13,7 +13,8 @@ namespace {
 constexpr const char* kFooter =
     "Exit codes:\n"
     "  0  done\n"
-    "  1  differences found by diff or by the verification of an upload, or errors by check\n"
+    "  1  differences found by diff or by the verification of an upload, errors by check, or a\n"
+    "     test not passed\n"
     "  2  usage\n"
     "  3  no session: port, modem or handshake\n"
     "  4  a dialogue failed or was interrupted\n"
@@ -65,11 +66,11 @@ void AddGlobals(CLI::App& app, GlobalOptions& options) {
 
 std::vector<Command> AddCommands(CLI::App& app) {
   std::vector<Command> commands;
-  for (const auto add :
-       {AddPorts,  AddDoctor,   AddInfo,    AddClock,      AddLive,     AddOutput,
-        AddTotal,  AddVoice,    AddProbe,   AddTerminal,   AddFirmware, AddDownload,
-        AddUpload, AddBackups,  AddRestore, AddStatements, AddDiff,     AddShow,
-        AddCheck,  AddSchedule, AddReport,  AddCalc,       AddHistory,  AddInterrupted})
+  for (const auto add : {AddPorts,      AddDoctor,   AddInfo,    AddClock,       AddLive,
+                         AddOutput,     AddTotal,    AddVoice,   AddProbe,       AddTerminal,
+                         AddFirmware,   AddDownload, AddUpload,  AddBackups,     AddRestore,
+                         AddStatements, AddDiff,     AddShow,    AddCheck,       AddSchedule,
+                         AddReport,     AddCalc,     AddHistory, AddInterrupted, AddTest})
     commands.push_back(add(app));
   for (const Command& command : commands) command.parser->fallthrough();
   app.require_subcommand(1);

@@ -56,6 +56,12 @@ class StandardFiles final : public Files {
   }
   FileResult Remove(const std::string& path) override { return files_.Remove(path); }
   FileResult MakeFolder(const std::string& path) override { return files_.MakeFolder(path); }
+  FileResult Append(const std::string& path, std::string_view octets) override {
+    return files_.Append(path, octets);
+  }
+  FileResult WhileLocked(const std::string& path, const std::function<void()>& work) override {
+    return files_.WhileLocked(path, work);
+  }
 
  private:
   static bool IsOwn(const std::string& path) {

@@ -7,7 +7,7 @@
 namespace ostrel {
 
 /// Back colours that the logic gives a control.
-enum class BackColour { Window, Red };
+enum class BackColour { Window, Red, Green };
 
 /// The field of a configuration that a control edits, as a file names it.
 struct EditedField {

@@ -25,7 +25,8 @@ Duration Line::TimeFor(std::size_t messages) const {
 }
 
 bool Line::GoesOn() const {
-  return PortOpen() && !port_.LineLost() && !heldOut_ && !unsendable_ && loop_.Now() < limit_;
+  return PortOpen() && !port_.LineLost() && !heldOut_ && !unsendable_ && !brokenOff_ &&
+         loop_.Now() < limit_;
 }
 
 LinkFault Line::FaultNow(LinkFault::Kind kind, int number, std::string text) const {
@@ -220,13 +221,13 @@ void Line::Note(std::string_view what, std::string_view text) const {
 }
 
 Line::Dialogue::Dialogue(Line& line) : line_(line), wasBusy_(std::exchange(line.LinkBusy, true)) {
-  line.heldOut_ = line.unsendable_ = false;
+  line.heldOut_ = line.unsendable_ = line.brokenOff_ = false;
   line.ExpectAnswer(true);
 }
 
 Line::Dialogue::~Dialogue() {
   line_.LinkBusy = wasBusy_;
-  line_.heldOut_ = line_.unsendable_ = false;
+  line_.heldOut_ = line_.unsendable_ = line_.brokenOff_ = false;
 }
 
 Line::Limit::Limit(Line& line, Duration span) : line_(line), former_(line.limit_) {

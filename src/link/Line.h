@@ -38,6 +38,9 @@ class Line {
   /// True while there is something to wait for: the port is open, its device there, flow control
   /// not holding the line for good, and the dialogue within its time.
   bool GoesOn() const;
+  /// Makes the dialogue under way break off, as silence would: what waits in it ends, and the port
+  /// stays open.
+  void BreakOff() { brokenOff_ = LinkBusy; }
   /// A fault of the dialogue under way. What ended the line counts more than what it led to.
   LinkFault FaultNow(LinkFault::Kind kind, int number = 0, std::string text = {}) const;
   /// The fault of having waited for a frame in vain.
@@ -158,6 +161,7 @@ class Line {
   bool tooLong_ = false;     ///< the bad frame was longer than any line
   bool unsendable_ = false;  ///< a message of the dialogue could not be sent, which ends it
   bool heldOut_ = false;     ///< flow control has held the line for so long that the dialogue ends
+  bool brokenOff_ = false;   ///< the dialogue is to end
   bool torn_ = false;        ///< the last message may have left in part, without its end
 };
 

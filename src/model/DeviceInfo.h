@@ -5,6 +5,9 @@
 
 namespace ostrel {
 
+/// The strongest signal on the scale that modems report.
+inline constexpr int kStrongestSignal = 31;
+
 /// What the connected logger reports of itself.
 struct DeviceInfo {
   float FirmwareVersion = 0;  ///< hundredths: 123 is version 1.23

@@ -8,7 +8,6 @@
 namespace ostrel {
 namespace {
 
-constexpr int kStrongestSignal = 31;  // on the scale that modems report
 constexpr std::string_view kMovistar = "+34609090909";
 constexpr std::string_view kVodafone = "+34607003110";
 constexpr std::string_view kOrange = "+34656000311";

@@ -69,6 +69,13 @@ class Files {
   virtual FileResult Remove(const std::string& path) = 0;
   /// Makes a folder and its parents; one that stands is success.
   virtual FileResult MakeFolder(const std::string& path) = 0;
+  /// Adds octets to the end of a file, which is made where there is none, and brings them to the
+  /// disk: all of them, or none where that can be taken back.
+  virtual FileResult Append(const std::string& path, std::string_view octets) = 0;
+  /// Runs `work` while every other program that asks for the same lock waits, on this machine or on
+  /// another one that shares the folder. The file at `path` stands for the lock; it is made where
+  /// there is none and stays. A failure to get the lock within a few seconds runs nothing.
+  virtual FileResult WhileLocked(const std::string& path, const std::function<void()>& work) = 0;
 };
 
 /// Opens a text file to which is added while it is open. Null when it cannot be, which `why` tells.

@@ -127,11 +127,17 @@ Configurator::Configurator(const Platform& platform, ConfiguratorOptions options
                    [this](const std::string& name) { TargetDeviceChange(name); }),
       firm(tools),
       terminal(tools),
+      test(TestParts(), kTest),
+      testKA2(TestParts(), kTestKA2),
+      testBQ(TestParts(), kTestBQ),
       fronts_{{ToolId::TargetSelect, &targetSelect},
               {ToolId::T_Real_Tavro, &monitor},
               {ToolId::T_Real_Katodex, &cathodicMonitor},
               {ToolId::Firm, &firm},
-              {ToolId::Terminal, &terminal}} {
+              {ToolId::Terminal, &terminal},
+              {ToolId::Test, &test},
+              {ToolId::TestKA2, &testKA2},
+              {ToolId::TestBQ, &testBQ}} {
   if (options_.ticking) general.OnScanPorts = [this] { comms.ScanPorts(); };
   ConnectPages();
   RegisterWire();
@@ -162,6 +168,20 @@ void Configurator::ConnectPages() {
   };
   context.readVoiceList = [this](ConfAutVoz& list) { return session.ReadVoiceList(list); };
   context.writeVoiceList = [this](const ConfAutVoz& list) { return session.WriteVoiceList(list); };
+}
+
+TestPageContext Configurator::TestParts() {
+  return {.bench = Bench(),
+          .Connected = Connected,
+          .usual = options_.station,
+          .IniCom_Click = [this] { general.Session().IniCom.Click(); },
+          .lendSession = [this](bool lent) { session.Lend(lent); }};
+}
+
+TestPage* Configurator::RunningTest() {
+  for (TestPage* page : {&test, &testKA2, &testBQ})
+    if (page->Running()) return page;
+  return nullptr;
 }
 
 LinkHooks Configurator::MakeHooks() {

@@ -8,6 +8,8 @@
 #include <utility>
 #include <vector>
 
+#include "factory/Station.h"
+#include "factory/TestPage.h"
 #include "lang/Lang.h"
 #include "link/Comms.h"
 #include "model/DeviceConf.h"
@@ -47,6 +49,8 @@ struct ConfiguratorOptions {
   Lang* lang = nullptr;         ///< the table where it is open already, with its language chosen
   OpenLogFile openLog{};        ///< opens what the terminal adds to; none where there is none
   OpenLogFile openRecording{};  ///< opens what a monitor records into; none where there is none
+  Station station{};            ///< of factory tests, where none is stored
+  bool factory = false;         ///< the tree has a node for the factory test of the model
   bool ticking = false;  ///< the pages' timers run and ports are scanned, as a window needs it
   int versionMajor = OSTREL_VERSION_MAJOR;
   int versionMinor = OSTREL_VERSION_MINOR;
@@ -131,6 +135,12 @@ class Configurator {
   FrontForm* ToolOf(ToolId id) const;
   /// Every form of the program: the pages' and the dialogs'.
   std::vector<Form*> Forms();
+  /// What a test run has of the program.
+  TestBench Bench() { return {platform_, comms, info, profile}; }
+  /// Whether the tree has a node for the factory test.
+  bool HasFactoryNode() const { return options_.factory; }
+  /// The page whose test runs; null when none does.
+  TestPage* RunningTest();
   DeviceConf conf;
   TargetProfile profile;
   DeviceInfo info;
@@ -158,6 +168,7 @@ class Configurator {
   /// The dialogs and dialogues that pages ask for.
   void ConnectPages();
   LinkHooks MakeHooks();
+  TestPageContext TestParts();
   void RegisterWire();
   void LoadForms();
   void ShowPages();
@@ -200,6 +211,7 @@ class Configurator {
   TargetSelect targetSelect;
   Firm firm;
   Terminal terminal;
+  TestPage test, testKA2, testBQ;
 
  private:
   std::vector<std::pair<ToolId, FrontForm*>> fronts_;

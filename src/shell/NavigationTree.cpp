@@ -92,4 +92,9 @@ std::vector<TreeNode> BuildNavigationTree(
   return tree.Take();
 }
 
+std::optional<TreeNode> FactoryNode(const TargetProfile& model) {
+  if (!model.IsBP && !model.IsBQ && !model.IsKA2) return {};
+  return TreeNode{"TEST", "TEST", std::string(kRoot)};
+}
+
 }  // namespace ostrel

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -23,5 +24,8 @@ struct TreeNode {
 /// The nodes of a model's tree, each behind its parent, in the order in which they are shown.
 std::vector<TreeNode> BuildNavigationTree(
     const TargetProfile& model, const std::function<std::string(std::string_view)>& translate);
+
+/// The node of a model's factory test, which no tree has by itself; nothing for a model without.
+std::optional<TreeNode> FactoryNode(const TargetProfile& model);
 
 }  // namespace ostrel

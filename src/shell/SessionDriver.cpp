@@ -59,7 +59,7 @@ SessionDriver::SessionDriver(PageContext& context, Comms& comms, General& genera
 }
 
 void SessionDriver::Tick() {
-  if (ticking_) return;
+  if (ticking_ || lent_) return;
   const Lent ticking(ticking_, true);
   if (session_.IniRequest && !Connected_) comms_.LinkBusy = false;
   if (!comms_.LinkBusy && session_.IniRequest) OpenOrClose();
@@ -70,10 +70,16 @@ void SessionDriver::Tick() {
 }
 
 void SessionDriver::AskFor(SessionPhase kind) {
-  if (!Connected_) return;
+  if (!Connected_ || lent_) return;
   fromAnyPage_ = true;
   (kind == SessionPhase::Writing ? session_.Escribir : session_.Leer).Click();
   fromAnyPage_ = HasRequest();  // a button that rests takes no click
+}
+
+void SessionDriver::Lend(bool lent) {
+  lent_ = lent;
+  session_.EnableTransfers(Connected_ && !lent);
+  SetState(state_);
 }
 
 void SessionDriver::Serve(bool& request, const std::function<void()>& byFace,

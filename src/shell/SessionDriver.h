@@ -67,6 +67,12 @@ class SessionDriver {
   /// serves even when the general page is not in front.
   void AskFor(SessionPhase kind);
 
+  /// Lends the session to a test run, or takes it back: meanwhile no request is served and nothing
+  /// is asked of the logger by itself. A request to close it that comes meanwhile is served behind.
+  void Lend(bool lent);
+  /// Whether a test run has the session.
+  bool IsLent() const { return lent_; }
+
   const SessionState& State() const { return state_; }
   /// Number of the port that a session was last asked on; 0 before.
   std::int16_t Port() const { return port_; }
@@ -145,6 +151,7 @@ class SessionDriver {
   SessionState state_;
   std::int16_t port_ = 0;
   bool ticking_ = false;
+  bool lent_ = false;
   bool fromAnyPage_ = false;  ///< the request that waits needs no general page
   bool unverified_ = false;   ///< the logger has taken over what was not read back since
   bool brokenOff_ = false;

@@ -11,6 +11,7 @@ namespace ostrel::sim {
 namespace {
 
 constexpr std::size_t kMostRequestOctets = 1'048'576;
+constexpr int kTavroBattery = 720;  // hundredths of a volt
 
 }  // namespace
 
@@ -21,6 +22,7 @@ LoggerOptions MakeDefaultOptions(Model model) {
   options.version = traits.version;
   options.features = traits.features;
   options.serial = std::string(traits.word) + "-000137";
+  if (model == Model::BP || model == Model::BQ) options.battery = kTavroBattery;
   return options;
 }
 
@@ -34,6 +36,8 @@ const Logger::Command Logger::kCommands[] = {
     {"#48", &Logger::AnswerOutputOff},   {"#4E", &Logger::AnswerVoiceSum},
     {"#4F", &Logger::AnswerVoiceList},   {"#5C", &Logger::AnswerSetClock},
     {"#5D", &Logger::AnswerReadClock},   {"#FA", &Logger::AnswerProbeIdentity},
+    {"#F4", &Logger::AnswerTestFrame},   {"#F5", &Logger::AnswerIdle},
+    {"#F6", &Logger::AnswerNumber},      {"#FB", &Logger::AnswerIdleOfBQ},
 };
 
 Logger::Logger(EventLoop& loop, LineEnd& line, LoggerOptions options)
@@ -43,7 +47,8 @@ Logger::Logger(EventLoop& loop, LineEnd& line, LoggerOptions options)
       plan_(options_.faults, options_.seed),
       sender_(loop, line, plan_, [this] { LoseCarrier(); }),
       upload_(Self()),
-      live_(Self(), options_.seed, ToSeconds(options_.clockStart) + options_.clockOffsetSeconds) {
+      live_(Self(), options_.seed, ToSeconds(options_.clockStart) + options_.clockOffsetSeconds),
+      fixture_(options_.fixture) {
   SetClock(FromSeconds(ToSeconds(options_.clockStart) + options_.clockOffsetSeconds));
   if (!options_.modem) {
     line_.SetCarrier(true);
@@ -105,6 +110,8 @@ void Logger::Answer(const std::string& request) {
     AnswerNoise();
   else if (plan_.Count(FaultKind::Echo))
     AnswerEcho(request);
+  else if (fixture_.Asleep())
+    exchange_.note = "asleep";
   else if (!admitted_ && !request.starts_with("#11"))
     exchange_.note = "access code missing";
   else if (HasNoWordFor(request))
@@ -156,6 +163,7 @@ void Logger::SetTerminalReady(bool ready) {
   // A loader without an end record has ended with the line.
   if (!ready && taking_.Now() == FirmwareTaking::State::Loader) CopyFirmware();
   if (!ready) ForgetLine();
+  if (ready) fixture_.PutIn(loop_.Now());
   if (modem_ && !ready) modem_->HangUp();
   if (!modem_ && ready) line_.SetCarrier(true);
 }
@@ -204,13 +212,15 @@ void Logger::ReplyRecord(std::string_view head, int number, std::string_view rec
 
 bool Logger::AnswerInformation(std::string_view rest) {
   if (!rest.empty()) return false;
-  const auto battery = static_cast<int>(options_.seed % 30);
+  const int battery = options_.battery + static_cast<int>(options_.seed % 30);
+  std::string volts = std::to_string(battery / 100) + ".";
+  AppendPadded(volts, battery % 100, 2);
   const std::int64_t used = 1200 + Seconds() / 60;
   const std::string records[] = {
       "VERSION," + std::to_string(options_.version),
       "FEATURES," + std::to_string(static_cast<std::int32_t>(options_.features)),
       "SERIAL," + options_.serial,
-      "VBAT,3." + std::to_string(60 + battery),
+      "VBAT," + volts,
       "RSSI," + std::to_string(18 + Seconds() / 20 % 5),
       "LOG.SIZE,65536",
       "LOG.USE," + std::to_string(std::min<std::int64_t>(used, 65536)),

@@ -13,6 +13,7 @@
 #include "platform/Line.h"
 #include "sim/Configuration.h"
 #include "sim/FirmwareTaking.h"
+#include "sim/Fixture.h"
 #include "sim/Frame.h"
 #include "sim/LiveValues.h"
 #include "sim/LoggerOptions.h"
@@ -65,6 +66,9 @@ class Logger final : public LineDevice {
   bool Traces() const { return traces_; }
   /// Total of a counter, 0 to 8.
   int Total(int index) const { return live_.Counter(index, Seconds()); }
+
+  /// The test fixture that it lies in, if it is tested.
+  Fixture& InFixture() { return fixture_; }
 
   /// All that outlives a power cycle as readable UTF-8 text: configuration, clock, totals, outputs.
   std::string SaveState() const;
@@ -120,6 +124,10 @@ class Logger final : public LineDevice {
   bool AnswerVoiceSum(std::string_view rest);
   bool AnswerVoiceList(std::string_view rest);
   bool SwitchOutput(std::string_view rest, bool on);
+  bool AnswerTestFrame(std::string_view rest);
+  bool AnswerNumber(std::string_view rest);
+  bool AnswerIdle(std::string_view rest);
+  bool AnswerIdleOfBQ(std::string_view rest);
   bool AnswerErase(std::string_view rest);
   bool AnswerLoader(std::string_view rest);
   bool AnswerConsole(std::string_view rest);
@@ -142,6 +150,10 @@ class Logger final : public LineDevice {
   void ClearVoiceNumbers(StatementCursor& in);
   void SetVoiceMacro(StatementCursor& in);
   void ClearVoiceMacro(StatementCursor& in);
+  void DriveVolts(StatementCursor& in);
+  void DriveSwitches(StatementCursor& in);
+  void TakeDisplayOff(StatementCursor& in);
+  void TakeProbe(StatementCursor& in);
 
   std::int64_t Seconds() const;
 
@@ -162,6 +174,7 @@ class Logger final : public LineDevice {
   bool muteUpload_ = false;  ///< a fault made the rest of an attempt unheard
   std::size_t uploadsTaken_ = 0;
   LiveValues live_;
+  Fixture fixture_;
   unsigned outputs_ = 0;
   std::int64_t clockAhead_ = 0;  ///< seconds from the loop's time to the clock's
 

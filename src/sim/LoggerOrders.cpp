@@ -9,6 +9,10 @@ namespace ostrel::sim {
 namespace {
 
 bool ToAny(const Identity&) { return true; }
+template <Model kModel>
+bool To(const Identity& self) {
+  return self.model == kModel;
+}
 bool WithVoiceList(const Identity& self) { return kVoiceBlock.stands(self); }
 
 /// "=" and a whole number of 32 bits without a place for its sign.
@@ -35,6 +39,10 @@ const Logger::Order Logger::kOrders[] = {
     {"CLRTEL", WithVoiceList, &Logger::ClearVoiceNumbers},
     {"VCAUTMACRO", WithVoiceList, &Logger::SetVoiceMacro},
     {"CLRVCAUTMACRO", WithVoiceList, &Logger::ClearVoiceMacro},
+    {"VO", To<Model::BP>, &Logger::DriveVolts},
+    {"OUT", To<Model::KA2>, &Logger::DriveSwitches},
+    {"ONEWCONF", To<Model::KA2>, &Logger::TakeProbe},
+    {"DISPOF", To<Model::BQ>, &Logger::TakeDisplayOff},
 };
 
 bool Logger::AnswerOrder(std::string_view rest) {

@@ -62,6 +62,7 @@ std::string Logger::SaveState() const {
     out("total." + std::to_string(i), std::int64_t{Total(i)});
   for (const auto& [index, value] : live_.ModulesSet(Seconds()))
     out("module." + std::to_string(index), std::int64_t{value});
+  out("serial", options_.serial);
   for (const Block* block : Blocks()) block->save(conf_, out);
   return out.Take();
 }
@@ -71,11 +72,13 @@ bool Logger::LoadState(std::string_view text, std::string& error) {
   std::int64_t format = 0;
   std::string model;
   std::string clock;
+  std::string serial = options_.serial;
   std::int64_t outputs = 0;
   Configuration conf;
   in(std::string(kFormatKey), format);
   in("model", model);
   in("clock", clock);
+  in("serial", serial);
   in("outputs", outputs);
   const auto totals = ReadIndexed(in, "total.");
   const auto modules = ReadIndexed(in, "module.");
@@ -95,6 +98,7 @@ bool Logger::LoadState(std::string_view text, std::string& error) {
   }
   conf_ = std::move(conf);
   SetClock(now);
+  options_.serial = serial;
   outputs_ = static_cast<unsigned>(outputs);
   live_.ForgetModules();
   for (const auto& [index, value] : totals) live_.SetCounter(index, value, Seconds());

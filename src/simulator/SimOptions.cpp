@@ -13,6 +13,7 @@ namespace {
 struct Texts {
   std::string model = "VR200";
   std::string features;
+  std::optional<std::string> serial;
   std::vector<std::string> faults;
   int firmware = -1;
 };
@@ -21,6 +22,7 @@ void AddOptions(CLI::App& app, SimOptions& options, Texts& texts) {
   app.add_option("--model", texts.model, "KA1 KA2 VR200 S100 BP BQ")->capture_default_str();
   app.add_option("--firmware", texts.firmware, "Version of the firmware in hundredths")
       ->check(CLI::Range(0, 9999));
+  app.add_option("--serial", texts.serial, "Serial number; 0, or -1 of a KA2, is a new board's");
   app.add_option("--features", texts.features, "Features of the firmware, hexadecimal");
   app.add_flag("--pace", options.isPaced, "960 octets a second, as on a cable");
   app.add_flag("--empty", options.isEmpty, "Start without a configuration");
@@ -49,7 +51,8 @@ std::string Take(const Texts& texts, sim::LoggerOptions& options) {
   options.model = *model;
   options.version = texts.firmware < 0 ? usual.version : texts.firmware;
   options.features = usual.features;
-  options.serial = usual.serial;
+  options.serial = texts.serial.value_or(usual.serial);
+  options.battery = usual.battery;
   if (!texts.features.empty()) {
     const auto features = ReadFeatures(texts.features);
     if (!features) return texts.features + " is no hexadecimal mask";

@@ -65,9 +65,11 @@ TEST(SimState, IsReadableText) {
   conf.name = "Dep\xF3sito \x80";
   conf.digitals[1].alarms[2] = {.text = "x", .persistence = 0.5F, .week = 127, .high = {5, 42}};
   bench.logger.SetConf(conf);
+  EXPECT_EQ(bench.Ask("#F61203050042"), "#BE1");
   const std::string state = bench.logger.SaveState();
   EXPECT_THAT(state, testing::StartsWith("ostrel-sim-state = 1\nmodel = BQ\nclock = 2026-01-15 "
                                          "08:30:05\noutputs = 0\ntotal.0 = "));
+  EXPECT_THAT(state, HasSubstr("\nserial = 1203050042\n"));
   EXPECT_THAT(state, HasSubstr("\nname = Dep\xC3\xB3sito \xE2\x82\xAC\n"));
   EXPECT_THAT(state, HasSubstr("\ndigital.1.alarm.2.persistence = 0.5\n"));
   EXPECT_THAT(state, HasSubstr("\ndigital.1.alarm.2.actions.high = 5 42 0 0 0 0 0 0\n"));

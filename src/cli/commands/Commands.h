@@ -38,6 +38,7 @@ Command AddCheck(CLI::App& app);
 Command AddSchedule(CLI::App& app);
 Command AddReport(CLI::App& app);
 Command AddCalc(CLI::App& app);
+Command AddTest(CLI::App& app);
 Command AddHistory(CLI::App& app);
 Command AddInterrupted(CLI::App& app);
 

@@ -9,7 +9,12 @@ ExitCode RunOnline(CommandContext& context, const std::string& file,
   if (chosen != ExitCode::Done) return chosen;
   const auto model = context.ChooseModel(port, file);
   if (!model) return ExitCode::Usage;
-  const auto configurator = context.MakeOnline(*model);
+  return RunOnlineAs(context, port, *model, work);
+}
+
+ExitCode RunOnlineAs(CommandContext& context, const PortChoice& port, const std::string& model,
+                     const std::function<ExitCode(Online&)>& work) {
+  const auto configurator = context.MakeOnline(model);
   LoggerSession session(context, *configurator, port);
   const ExitCode opened = session.Open();
   if (opened != ExitCode::Done) return opened;

@@ -21,6 +21,10 @@ struct Online {
 ExitCode RunOnline(CommandContext& context, const std::string& file,
                    const std::function<ExitCode(Online&)>& work);
 
+/// The same with a model that the command itself knows.
+ExitCode RunOnlineAs(CommandContext& context, const PortChoice& port, const std::string& model,
+                     const std::function<ExitCode(Online&)>& work);
+
 /// Runs a command on a file with the firmware's features: those of the options, else those of the
 /// logger at the port of the options, else none, since they are not known.
 ExitCode WithFeatures(CommandContext& context, const std::string& file,

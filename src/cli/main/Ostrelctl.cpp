@@ -19,6 +19,7 @@
 #include "host/SignalPipe.h"
 #include "host/TraceFile.h"
 #include "host/Translator.h"
+#include "host/UsualStation.h"
 #include "platform/SilentDialogs.h"
 #include "platform/qt/QtProcesses.h"
 
@@ -47,6 +48,7 @@ int Run(const std::vector<std::string>& args) {
       .lang = LangColumn(),
       .code = qEnvironmentVariable("OSTREL_CODE").toStdString(),
       .dataFolder = UserDataFolder(),
+      .station = UsualStation(),
       .shippedLang = LangIn(ShippedFolder()),
       .numberOfDevice = [&](const std::string& path) { return machine.NumberOfDevice(path); },
       .openLog = OpenTrace,

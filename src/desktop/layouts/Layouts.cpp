@@ -16,7 +16,7 @@ void Plain(FormView& view, const LayoutContext&) {
   kLayOut(view);
 }
 
-constexpr std::array<LayoutOf, 33> kLayouts{{
+constexpr std::array<LayoutOf, 36> kLayouts{{
     {"General", LayOutGeneral},
     {"E_Digital", Plain<LayOutDigital>},
     {"E_Analog", Plain<LayOutAnalog>},
@@ -46,6 +46,9 @@ constexpr std::array<LayoutOf, 33> kLayouts{{
     {"PWForm", Plain<LayOutPWForm>},
     {"Lang", Plain<LayOutLang>},
     {"TargetSelect", Plain<LayOutTargetSelect>},
+    {"Test", Plain<LayOutTest>},
+    {"TestKA2", Plain<LayOutTest>},
+    {"TestBQ", Plain<LayOutTest>},
     {"T_Real_Tavro", Plain<LayOutMonitor>},
     {"T_Real_Katodex", Plain<LayOutCathodicMonitor>},
     {"Firm", Plain<LayOutFirm>},

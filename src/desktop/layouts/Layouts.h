@@ -55,6 +55,7 @@ void LayOutActEdit(FormView& view);
 void LayOutPWForm(FormView& view);
 void LayOutLang(FormView& view);
 void LayOutTargetSelect(FormView& view);
+void LayOutTest(FormView& view);
 void LayOutMonitor(FormView& view);
 void LayOutCathodicMonitor(FormView& view);
 void LayOutFirm(FormView& view);

@@ -15,6 +15,7 @@
 #include "host/LangSeed.h"
 #include "host/Machine.h"
 #include "host/TraceFile.h"
+#include "host/UsualStation.h"
 #include "platform/qt/QtProcesses.h"
 
 namespace {
@@ -23,6 +24,12 @@ using namespace ostrel;
 
 bool ShowDocument(const std::string& path) {
   return QDesktopServices::openUrl(QUrl::fromLocalFile(ToQt(path)));
+}
+
+Station StationOf(const CommandLine& line) {
+  Station station = UsualStation();
+  if (!line.factoryFolder.empty()) station.folder = line.factoryFolder;
+  return station;
 }
 
 int RunWindow(const CommandLine& line) {
@@ -39,6 +46,8 @@ int RunWindow(const CommandLine& line) {
                    .langFile = langFile,
                    .openLog = OpenLog,
                    .openRecording = OpenRecording,
+                   .station = StationOf(line),
+                   .factory = line.factory,
                    .ticking = true},
                   UserDataFolder(), machine.inspector);
   dialogs.StandBefore(desktop.Window());

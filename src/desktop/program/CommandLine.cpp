@@ -72,6 +72,9 @@ CommandLine ReadCommandLine(const QStringList& arguments) {
   parser.addPositionalArgument("FILE", "Configuration file to open.", "[FILE]");
   parser.addOptions({
       {"demo", "Put six simulated loggers into the port list, COM251 to COM256."},
+      {"factory", "Add the node TEST of the factory tests to the tree."},
+      {"factory-folder", "Folder of the records of factory tests, which stations may share.",
+       "FOLDER"},
       {"scheme", "Colours: light, dark or system.", "SCHEME", "system"},
       {"screenshot", "Draw one page into a PNG file, without a display, and end.", "OUT"},
       {"target", "Model for the picture.", "NAME"},
@@ -95,6 +98,9 @@ CommandLine ReadCommandLine(const QStringList& arguments) {
   line.language = ReadLanguage(parser.value("language"));
   line.size = ReadSize(parser.value("size"));
   line.scheme = ReadScheme(parser.value("scheme"));
+  if (const QString folder = parser.value("factory-folder"); !folder.isEmpty())
+    line.factoryFolder = FromQt(QFileInfo(folder).absoluteFilePath());
+  line.factory = parser.isSet("factory");
   line.demo = parser.isSet("demo");
   return line;
 }

@@ -18,7 +18,9 @@ struct CommandLine {
   int language = 0;        ///< column of the translation table for a picture
   QSize size{1280, 720};   ///< of a picture
   Scheme scheme = Scheme::System;
-  bool demo = false;  ///< simulated loggers stand in the port list
+  std::string factoryFolder;  ///< of the records of factory tests; empty for the user's own
+  bool factory = false;       ///< the tree has a node for the factory test
+  bool demo = false;          ///< simulated loggers stand in the port list
 };
 
 /// Whether the arguments ask for something that needs no display: a picture, the help, the version.

@@ -100,6 +100,14 @@ QLabel#Heading { font-size: 15pt; font-weight: 600; }
 QLabel#EmptyPage { color: palette(placeholder-text); font-size: 12pt; }
 QLabel#Status { font-weight: 600; }
 QLabel#Failure { color: #d9480f; }
+*[testPart="step"] { font-size: 34pt; font-weight: 700; }
+*[testPart="digits"] { font-size: 22pt; font-weight: 700; }
+*[testPart="table"] { font-size: 15pt; }
+*[testPart="button"] { font-size: 13pt; }
+QLabel[verdict] { border: 1px solid palette(mid); border-radius: 8px; padding: 8px;
+            background: palette(base); }
+QLabel[verdict="passed"] { background: #2b8a3e; color: #ffffff; }
+QLabel[verdict="failed"] { background: #c92a2a; color: #ffffff; }
 QLineEdit, QComboBox, QTimeEdit { min-height: 22px; }
 QPushButton { min-height: 22px; padding: 1px 12px; }
 QPushButton[primary="true"]:enabled { background: palette(highlight);

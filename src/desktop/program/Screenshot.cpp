@@ -152,8 +152,8 @@ bool LeadsToPage(const TargetProfile& model, const std::string& key) {
       BuildNavigationTree(model, [](std::string_view text) { return std::string(text); });
   if (std::ranges::find(nodes, key, &TreeNode::key) != nodes.end()) return true;
   const auto target = FindNodeTarget(key, model, true);
-  return target &&
-         (target->form == FormId(PageId::E_Aux) || target->form == FormId(PageId::Katodex));
+  return target && (key == "TEST" || target->form == FormId(PageId::E_Aux) ||
+                    target->form == FormId(PageId::Katodex));
 }
 
 /// Opens a session with the simulated logger of the model, and lets some rounds of live values pass
@@ -216,6 +216,7 @@ std::string TakeScreenshot(const CommandLine& line, const std::string& langFile)
                    .langFile = kTable,
                    .openLog = OpenLog,
                    .openRecording = OpenRecording,
+                   .factory = line.factory,
                    .ticking = true},
                   {}, inspector);
   desktop.Start(line.file.empty() ? "" : kConfiguration);

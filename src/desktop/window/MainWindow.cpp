@@ -214,6 +214,8 @@ void MainWindow::BuildTree() {
   auto nodes = BuildNavigationTree(configurator_.profile, Translate());
   for (TreeNode& node : nodes)
     if (node.key == "Grupos") node.text = FromQt(Words::tr("Groups"));
+  if (configurator_.HasFactoryNode())
+    if (auto node = FactoryNode(configurator_.profile)) nodes.push_back(std::move(*node));
   tree_->SetNodes(nodes);
   tree_->Select(shownNode_);
   PaintTree();
@@ -422,6 +424,8 @@ void MainWindow::closeEvent(QCloseEvent* event) {
   event->ignore();
   parts_.guard([&] {
     unsaved_.Touch();
+    // The first closing ends a test run, which switches its fixture off; the next one leaves.
+    if (TestPage* test = configurator_.RunningTest()) return test->Stop();
     const SessionPhase phase = configurator_.session.State().phase;
     const bool losesNothing = phase != SessionPhase::Writing && !unsaved_.Changed();
     if (configurator_.session.IsFlashErased())

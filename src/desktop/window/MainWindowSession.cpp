@@ -47,7 +47,8 @@ void MainWindow::ShowLink() {
   state.step = IsTransfer(state.phase) ? writeStep_ : 0;
   session_->Link().ShowState(state, NameOfLogger());
   const bool isListBusy = state.list != ListWork::None;
-  const bool mayAsk = state.phase == SessionPhase::Open && !session.OwnsModel() && !isListBusy;
+  const bool mayAsk =
+      state.phase == SessionPhase::Open && !session.OwnsModel() && !isListBusy && !session.IsLent();
   const auto why = WhyWritingRests(state.life);
   session_->Allow(
       {.read = mayAsk && state.life.health != LinkHealth::Lost,

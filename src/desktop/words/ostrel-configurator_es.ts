@@ -3323,5 +3323,21 @@
         <source>nothing of the image was sent: if the logger still answers, its firmware is as it was</source>
         <translation>no se ha enviado nada de la imagen: si el equipo todavía responde, su firmware es el de antes</translation>
     </message>
+    <message>
+        <source>Band</source>
+        <translation>Banda</translation>
+    </message>
+    <message>
+        <source>good</source>
+        <translation>correcto</translation>
+    </message>
+    <message>
+        <source>FAILED</source>
+        <translation>FALLO</translation>
+    </message>
+    <message>
+        <source>Measured values</source>
+        <translation>Valores medidos</translation>
+    </message>
 </context>
 </TS>

@@ -8,9 +8,11 @@
 #include <algorithm>
 #include <cerrno>
 #include <charconv>
+#include <chrono>
 #include <cstdio>
 #include <filesystem>
 #include <system_error>
+#include <thread>
 #include <utility>
 
 namespace ostrel {
@@ -24,6 +26,8 @@ constexpr mode_t kPermissions = 0777;
 constexpr mode_t kWritable = 0222;
 constexpr mode_t kOwnFile = 0600;
 constexpr mode_t kOwnFolder = 0700;
+constexpr std::chrono::milliseconds kLongestLock{5000};
+constexpr std::chrono::milliseconds kLockPause{10};
 constexpr mode_t kAnyNewFile = 0666;  // less what the process's mask takes away
 
 /// An open file, closed at the end of its scope.
@@ -88,6 +92,20 @@ FileResult SyncFolderOf(const std::string& path) {
   const fs::path folder = fs::path(path).parent_path();
   const Handle handle(folder.empty() ? "." : folder.string(), O_RDONLY | O_DIRECTORY);
   return Outcome(!handle || SyncHandle(handle.Number()) || errno == EINVAL);
+}
+
+/// Gets the lock of a file, if others give it back soon. A process that dies gives it back, too.
+bool LockWhole(int handle) {
+  struct flock whole {};
+  whole.l_type = F_WRLCK;
+  whole.l_whence = SEEK_SET;
+  const auto giveUp = std::chrono::steady_clock::now() + kLongestLock;
+  while (::fcntl(handle, F_OFD_SETLK, &whole) != 0) {
+    const bool isHeld = errno == EAGAIN || errno == EACCES || errno == EINTR;
+    if (!isHeld || std::chrono::steady_clock::now() >= giveUp) return false;
+    std::this_thread::sleep_for(kLockPause);
+  }
+  return true;
 }
 
 /// Whether a temporary file of this ending was left by a process that is gone, or by a former one
@@ -235,6 +253,26 @@ FileResult QtFiles::MakeFolder(const std::string& path) {
   std::error_code ignored;
   if (fs::is_directory(path, ignored)) return {};
   return {error ? error.message() : "is no folder"};
+}
+
+FileResult QtFiles::Append(const std::string& path, std::string_view octets) {
+  Handle file(path, O_WRONLY | O_APPEND | O_CREAT);
+  struct stat before {};
+  if (!file || ::fstat(file.Number(), &before) != 0) return Outcome(false);
+  if (WriteAll(file.Number(), octets) && SyncHandle(file.Number())) return Outcome(file.Close());
+  const FileResult failed = Outcome(false);
+  [[maybe_unused]] const int taken = ::ftruncate(file.Number(), before.st_size);
+  return failed;
+}
+
+FileResult QtFiles::WhileLocked(const std::string& path, const std::function<void()>& work) {
+  const Handle file(path, O_RDWR | O_CREAT);
+  if (!file) return Outcome(false);
+  if (!LockWhole(file.Number()))
+    return errno == EAGAIN || errno == EACCES ? FileResult{"another program holds it"}
+                                              : Outcome(false);
+  work();
+  return {};
 }
 
 }  // namespace ostrel

@@ -29,6 +29,10 @@ class QtFiles final : public Files {
   FileResult MoveToNew(const std::string& from, const std::string& to) override;
   FileResult Remove(const std::string& path) override;
   FileResult MakeFolder(const std::string& path) override;
+  FileResult Append(const std::string& path, std::string_view octets) override;
+  /// By a lock of the system on the whole file, which network file systems hand on to their server
+  /// and which goes with the process that holds it.
+  FileResult WhileLocked(const std::string& path, const std::function<void()>& work) override;
 };
 
 }  // namespace ostrel

@@ -6,8 +6,8 @@ namespace ostrel {
 namespace {
 
 constexpr int kMostLinks = 40;
-constexpr std::array<std::string_view, 8> kChangeNames = {"create", "mode", "write",  "sync",
-                                                          "rename", "move", "remove", "folder"};
+constexpr std::array<std::string_view, 10> kChangeNames = {
+    "create", "mode", "write", "sync", "rename", "move", "remove", "folder", "append", "lock"};
 constexpr int kUsualMode = 0644;
 constexpr int kOwnerWrites = 0200;
 
@@ -146,6 +146,20 @@ FileResult VirtualFiles::Remove(const std::string& path) {
 FileResult VirtualFiles::MakeFolder(const std::string& path) {
   if (Fails(Change::MakeFolder, path)) return {"cannot make the folder"};
   folders.insert(path);
+  return {};
+}
+
+FileResult VirtualFiles::Append(const std::string& path, std::string_view octets) {
+  if (Fails(Change::Append, path)) return {"no space left"};
+  contents[Resolve(path)] += octets;
+  return {};
+}
+
+FileResult VirtualFiles::WhileLocked(const std::string& path, const std::function<void()>& work) {
+  if (Fails(Change::Lock, path)) return {"another program holds it"};
+  contents.try_emplace(path);
+  work();
+  log.push_back("unlock " + path);
   return {};
 }
 

@@ -17,7 +17,18 @@ namespace ostrel {
 /// change can be made to fail. Folders are not asked for: a file may stand anywhere.
 class VirtualFiles final : public Files {
  public:
-  enum class Change { Create, Mode, Write, Sync, Rename, MoveToNew, Remove, MakeFolder };
+  enum class Change {
+    Create,
+    Mode,
+    Write,
+    Sync,
+    Rename,
+    MoveToNew,
+    Remove,
+    MakeFolder,
+    Append,
+    Lock
+  };
 
   std::map<std::string, std::string> contents;  ///< octets by path
   std::map<std::string, std::string> links;     ///< symbolic links: where each path leads
@@ -52,6 +63,8 @@ class VirtualFiles final : public Files {
   FileResult MoveToNew(const std::string& from, const std::string& to) override;
   FileResult Remove(const std::string& path) override;
   FileResult MakeFolder(const std::string& path) override;
+  FileResult Append(const std::string& path, std::string_view octets) override;
+  FileResult WhileLocked(const std::string& path, const std::function<void()>& work) override;
 
  private:
   void Move(const std::string& from, const std::string& to);

@@ -1,0 +1,140 @@
+#include "factory/TestPage.h"
+
+#include <algorithm>
+
+#include "base/Numbers.h"
+#include "base/Scope.h"
+#include "platform/Dialogs.h"
+
+namespace ostrel {
+
+TestPage::TestPage(TestPageContext context, const TestPlan& plan)
+    : context_(std::move(context)),
+      plan_(plan),
+      form_(plan.form, "TEST"),
+      Titulo(form_, "Titulo", "TEST"),
+      LabelTest(form_, "LabelTest", "Preparado"),
+      Command1(form_, "Command1", "Iniciar Test"),
+      CommandStop(form_, "CommandStop", "Parar Test"),
+      Command2(form_, "Command2", "Iniciar/ Parar Comunicacion"),
+      LabelVin(form_, "LabelVin", "VIn:"),
+      DigitVin(form_, "DigitVin"),
+      LabelSerial(form_, "LabelSerial", "Serial:"),
+      DigitSerial(form_, "DigitSerial"),
+      LabelGsm(form_, "LabelGsm", "Gsm:"),
+      ProgressBar1(form_, "ProgressBar1"),
+      LabelOperator(form_, "LabelOperator", "Operario:"),
+      TextOperator(form_, "TextOperator"),
+      LabelStation(form_, "LabelStation", "Puesto:"),
+      TextStation(form_, "TextStation"),
+      Values(form_, "Values"),
+      Timer1(form_, "Timer1", context_.bench.platform.loop, std::chrono::seconds(1)) {
+  if (&plan == &kTestKA2)
+    Label1.emplace(form_, "Label1", "Iniciar el test con la bateria desconectada.");
+  if (&plan == &kTestBQ) Check1.emplace(form_, "Check1", "No probar ED");
+  if (&plan == &kTest) {
+    Label2.emplace(form_, "Label2", "Posicion jumper para prueba:");
+    Picture1.emplace(form_, "Picture1");
+  }
+  ProgressBar1.SetMaximum(kStrongestSignal);
+  Command1.OnClick = [this] { RunTest(); };
+  CommandStop.OnClick = [this] { Stop(); };
+  Command2.OnClick = [this] { context_.IniCom_Click(); };
+  Timer1.OnTimer = [this] { Tick(); };
+  ShowRunning(false);
+}
+
+void TestPage::Form_Activate() {
+  if (!Running()) {
+    const Station station = StoredStation(context_.bench.platform.settings, context_.usual);
+    TextOperator.SetText(station.operatorName);
+    TextStation.SetText(station.name);
+  }
+  Tick();
+  Timer1.SetEnabled(true);
+}
+
+void TestPage::Tick() {
+  Command1.face.SetEnabled(context_.Connected && !Running());
+  if (!context_.Connected) return;
+  DigitVin.face.SetCaption(DecText(context_.bench.info.BatteryVoltage));
+  if (&plan_ != &kTestKA2) DigitSerial.face.SetCaption(context_.bench.info.SerialNumber);
+}
+
+void TestPage::ShowRunning(bool runs) {
+  Command1.face.SetEnabled(context_.Connected && !runs);
+  CommandStop.face.SetEnabled(runs);
+  for (Face* face : {&TextOperator.face, &TextStation.face}) face->SetEnabled(!runs);
+  if (Check1) Check1->face.SetEnabled(!runs);
+}
+
+void TestPage::RunTest() {
+  Settings& settings = context_.bench.platform.settings;
+  TestChoice choice{.station = StoredStation(settings, context_.usual),
+                    .skipsKeys = Check1 && Check1->Checked()};
+  choice.station.operatorName = TextOperator.Text();
+  choice.station.name = TextStation.Text();
+  StoreStation(settings, choice.station);
+  Values.Clear();
+  LabelTest.face.SetColour(BackColour::Window);
+  TestPanel& panel = *this;
+  run_.emplace(context_.bench, plan_, choice, panel);
+  ShowRunning(true);
+  context_.lendSession(true);
+  const AtEnd ended([this] {
+    context_.lendSession(false);
+    run_.reset();
+    ShowRunning(false);
+  });
+  const TestRecord& record = run_->Run();
+  // Nothing that was not checked is shown as good.
+  if (record.verdict != TestVerdict::Passed)
+    LabelTest.face.SetColour(BackColour::Red);
+  else if (record.checked)
+    LabelTest.face.SetColour(BackColour::Green);
+  ShowFirstFailed();
+}
+
+void TestPage::ShowFirstFailed() {
+  const auto failed = std::ranges::find(Values.Rows(), 0, &ListRow::value);
+  if (failed != Values.Rows().end())
+    Values.SetPosition(static_cast<int>(failed - Values.Rows().begin()));
+}
+
+void TestPage::Stop() {
+  if (run_) run_->Stop();
+}
+
+void TestPage::ShowStep(std::string_view text) { LabelTest.face.SetCaption(text); }
+
+/// The columns of a row stand between tabs; its value tells whether it has passed.
+void TestPage::ShowMeasured(const Measurement& measured) {
+  Values.Add(measured.name + "\t" + measured.Text() + "\t" + measured.band.Text(),
+             measured.passed ? 1 : 0);
+  Values.SetPosition(static_cast<int>(Values.Rows().size()) - 1);
+}
+
+void TestPage::TellFailure(const std::string& text) {
+  context_.bench.platform.dialogs.ShowMessage(
+      {.text = text, .title = context_.bench.profile.TargetName, .icon = BoxIcon::Exclamation});
+}
+
+void TestPage::Request(const std::string& text) {
+  context_.bench.platform.dialogs.ShowMessage(
+      {.text = text, .title = context_.bench.profile.TargetName});
+}
+
+bool TestPage::AskAgain(const std::string& text) {
+  return context_.bench.platform.dialogs.ShowMessage({.text = text,
+                                                      .title = context_.bench.profile.TargetName,
+                                                      .icon = BoxIcon::Question,
+                                                      .buttons = BoxButtons::YesNo}) ==
+         BoxAnswer::Yes;
+}
+
+void TestPage::CloseSession() {
+  context_.lendSession(false);
+  if (context_.Connected) context_.IniCom_Click();
+}
+
+}  // namespace ostrel

@@ -1,0 +1,117 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "factory/Station.h"
+#include "factory/TestPanel.h"
+#include "factory/TestPlan.h"
+#include "factory/TestRecord.h"
+#include "link/Comms.h"
+#include "link/TestDialogue.h"
+#include "model/DeviceInfo.h"
+#include "model/TargetProfile.h"
+#include "platform/Platform.h"
+
+namespace ostrel {
+
+/// What a test run has of the program around it.
+struct TestBench {
+  const Platform& platform;
+  Comms& comms;
+  const DeviceInfo& info;
+  const TargetProfile& profile;
+};
+
+/// What is chosen for one run.
+struct TestChoice {
+  Station station;
+  bool skipsKeys = false;  ///< the keys at the inputs are not tested
+};
+
+/// From a change at the fixture to the reading of what it has come to.
+inline constexpr int kSettleMs = 3000;
+
+/// How a failure is told: as its text stands, or with the reading behind it.
+enum class Telling { Plain, WithReading };
+
+/// One run of a test on one board. A check that fails is told, and the run goes on, so that a board
+/// shows all its faults. The line is held from the first step to the record, except while the
+/// operator is asked.
+///
+/// `Stop` ends a run, and so does a line that has gone: from then on no step does anything, and
+/// what is left is to switch the fixture's outputs off, to keep the record and to end the session.
+/// So the steps of a test stand in a straight list.
+class TestRun {
+ public:
+  TestRun(const TestBench& bench, const TestPlan& plan, const TestChoice& choice, TestPanel& panel);
+  TestRun(const TestRun&) = delete;
+  TestRun& operator=(const TestRun&) = delete;
+
+  /// Runs the test to its end. The result stands in the table of records, unless `Kept` says no.
+  const TestRecord& Run();
+  /// Ends the run at the next moment, from within a wait of it.
+  void Stop();
+  /// Whether the record is on the disk.
+  bool Kept() const { return kept_; }
+
+  // Steps.
+  void Step(std::string_view text);
+  /// Sends an order; true when the board confirms it.
+  bool Order(std::string_view message);
+  /// The first order, without whose confirmation nothing is checked.
+  bool FirstOrder(std::string_view message);
+  void Delay(int ms);
+  /// Reads a frame, or keeps the last one where no good answer comes.
+  void ReadTestFrame();
+  const TestFrame& Frame() const { return frame_; }
+  const DeviceInfo& Info() const { return bench_.info; }
+  bool SkipsKeys() const { return choice_.skipsKeys; }
+  /// True as long as steps do something.
+  bool GoesOn() const;
+
+  /// Notes a value, and tells of a failure when it is not in its band. The text of a failure stands
+  /// ahead of the reading.
+  void Check(std::string_view name, float value, const Band& band, std::string_view failure,
+             Telling telling = Telling::WithReading);
+  /// Notes a value that has passed or not.
+  void Note(std::string_view name, float value, const Band& band, bool passed);
+  void Fail(std::string text);
+  void Request(std::string_view text);
+  /// Raises the counter of serial numbers and makes the new one.
+  void TakeSerial();
+  /// The battery of a board that runs on one.
+  void CheckBattery();
+  /// Waits for the modem, and tells what is wrong with it.
+  void CheckGsm();
+  /// Writes the new serial number into a board that has none.
+  void NumberBoard(bool isBlank);
+  /// Asks the board who it is, and shows its number.
+  void ShowSerial();
+
+ private:
+  void HoldLine();
+  void NoteLine();
+  void End();
+  void Keep();
+  TestVerdict Verdict() const;
+
+  TestBench bench_;
+  const TestPlan& plan_;
+  TestChoice choice_;
+  TestPanel& panel_;
+  Line& line_;
+  std::optional<Line::Dialogue> hold_;
+  TestFrame frame_;
+  TestRecord record_;
+  TimePoint began_{};
+  std::string newSerial_;
+  bool mayNumber_ = true;  ///< false when no new number could be made safely
+  bool failed_ = false;
+  bool stopped_ = false;
+  bool lineLost_ = false;
+  bool kept_ = false;
+};
+
+}  // namespace ostrel

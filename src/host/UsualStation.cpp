@@ -1,0 +1,15 @@
+#include "host/UsualStation.h"
+
+#include <QSysInfo>
+
+#include "host/Folders.h"
+
+namespace ostrel {
+
+Station UsualStation() {
+  return {.operatorName = qEnvironmentVariable("USER").toStdString(),
+          .name = QSysInfo::machineHostName().toStdString(),
+          .folder = UserDataFolder() + "/factory"};
+}
+
+}  // namespace ostrel

@@ -1,0 +1,102 @@
+#include <gtest/gtest.h>
+
+#include <QLabel>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QTableWidget>
+
+#include "WindowWorld.h"
+#include "desktop/layouts/Layouts.h"
+#include "platform/virtual/VirtualDialogs.h"
+
+namespace ostrel {
+namespace {
+
+/// A window with a board in the fixture, on the page of its test.
+class TestPageView : public testing::Test {
+ protected:
+  TestPageView() {
+    world.StartBefore("Tavro BP", "2");
+    world.AddLogger(sim::Model::BP);
+    desktop = std::make_unique<Desktop>(
+        Platform{.loop = world.loop,
+                 .port = world.port,
+                 .settings = world.settings,
+                 .dialogs = operatorAtWork,
+                 .files = world.files,
+                 .processes = world.processes,
+                 .clock = world.clock},
+        ConfiguratorOptions{.programFolder = "/nowhere",
+                            .langFile = world.Path("Lang.txt"),
+                            .station = {"Ana", "Puesto 1", world.Path("factory")},
+                            .factory = true,
+                            .ticking = true},
+        FromQt(world.folder.path()));
+    desktop->Start("");
+    desktop->Window().resize(1280, 720);
+    desktop->Window().show();
+  }
+  void Connect() {
+    desktop->Core().session.Open(world.kPort, "");
+    desktop->Window().GoTo("TEST");
+  }
+  QString Verdict() { return On<QLabel>(*desktop, "LabelTest")->property("verdict").toString(); }
+
+  WindowWorld<VirtualLoop> world;
+  VirtualDialogs operatorAtWork;
+  std::unique_ptr<Desktop> desktop;
+};
+
+TEST_F(TestPageView, TheNodeStandsForModelsWithATestAlone) {
+  EXPECT_TRUE(desktop->Window().Tree().Has("TEST"));
+  desktop->Core().TargetDeviceChange("Ostrel VR200");
+  EXPECT_FALSE(desktop->Window().Tree().Has("TEST"));
+  EXPECT_FALSE(FactoryNode(desktop->Core().profile));
+}
+
+TEST_F(TestPageView, ARunEndsOnItsColourWithItsValues) {
+  Connect();
+  auto* values = On<QTableWidget>(*desktop, "Values");
+  for (const bool isGood : {true, false}) {
+    const QSize needs = desktop->Window().Pages().Front()->minimumSizeHint();
+    EXPECT_LE(needs.width(), desktop->Window().Pages().width());
+    EXPECT_LE(needs.height(), desktop->Window().Pages().height());
+    if (!isGood) {
+      world.logger->InFixture().Script().driven[6].analogs[0] = 900;
+      Connect();
+    }
+    ASSERT_TRUE(On(*desktop, "Command1")->isEnabled());
+    EXPECT_FALSE(On(*desktop, "CommandStop")->isEnabled());
+    bool couldStop = false;
+    operatorAtWork.whileShown = [&](const MessageBox& box) {
+      couldStop = On(*desktop, "CommandStop")->isEnabled();
+      EXPECT_FALSE(desktop->Window().IsLineInUse()) << "a box would not wait: " << box.text;
+      world.loop.RunFor(std::chrono::seconds(2));
+    };
+    On<QPushButton>(*desktop, "Command1")->click();
+    EXPECT_TRUE(couldStop);
+    EXPECT_EQ(Verdict(), isGood ? "passed" : "failed");
+    EXPECT_EQ(values->rowCount(), 42);
+    EXPECT_EQ(values->item(32, 0)->text(), "VO2=24 A0");
+    EXPECT_EQ(values->item(32, 3)->text().contains("FAILED"), !isGood);
+    EXPECT_EQ(values->currentRow(), isGood ? 41 : 32) << "what failed first is in view";
+    EXPECT_GE(On<QLabel>(*desktop, "LabelTest")->font().pointSize(), 30) << "read from afar";
+  }
+}
+
+TEST_F(TestPageView, ClosingTheWindowEndsTheRunFirst) {
+  Connect();
+  bool isOpenStill = false;
+  world.loop.After(std::chrono::seconds(7), "operator", [&] {
+    desktop->Window().close();
+    isOpenStill = desktop->Window().isVisible();
+  });
+  On<QPushButton>(*desktop, "Command1")->click();
+  EXPECT_TRUE(isOpenStill);
+  EXPECT_EQ(Verdict(), "failed");
+  EXPECT_EQ(world.logger->InFixture().Level(0) + world.logger->InFixture().Level(1), 0);
+  EXPECT_TRUE(desktop->Window().close());
+}
+
+}  // namespace
+}  // namespace ostrel

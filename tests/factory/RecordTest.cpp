@@ -1,0 +1,164 @@
+#include <gtest/gtest.h>
+
+#include "FactoryWorld.h"
+#include "factory/RecordFile.h"
+#include "factory/SerialCounter.h"
+
+namespace ostrel {
+namespace {
+
+using testing::ElementsAre;
+
+TEST(Bands, EndsBelongToThemAsEachSays) {
+  using Kind = Band::Kind;
+  struct Case {
+    Band band;
+    float in, out;
+    const char* text;
+  };
+  for (const auto& [band, in, out, text] :
+       {Case{{Kind::Within, 4.4F, 4.8F}, 4.4F, 4.39F, "4.4..4.8"},
+        Case{{Kind::Within, 4.4F, 4.8F}, 4.8F, 4.81F, "4.4..4.8"},
+        Case{{Kind::AtMost, 0, 0.7F}, 0.7F, 0.71F, "<= 0.7"},
+        Case{{Kind::AtLeast, 5}, 5, 4.99F, ">= 5"},
+        Case{{Kind::Below, 0, 0.1F}, 0.09F, 0.1F, "< 0.1"},
+        Case{{Kind::Above, 4.18F}, 4.19F, 4.18F, "> 4.18"},
+        Case{{Kind::Equal, 170}, 170, 426, "= 170"}, Case{{Kind::HasBits, 256}, 426, 255, "& 256"},
+        Case{{Kind::GsmCode}, 9, 8, "not 0, 2..8"}}) {
+    EXPECT_TRUE(band.Holds(in)) << text << " " << in;
+    EXPECT_FALSE(band.Holds(out)) << text << " " << out;
+    EXPECT_EQ(band.Text(), text);
+  }
+}
+
+TEST(SerialNumber, IsTheDateAndTheCounter) {
+  EXPECT_EQ(SerialOf({2012, 3, 5}, 42), "1203050042");
+  EXPECT_EQ(SerialOf({2009, 12, 31}, 0), "912310000") << "the year's leading zero goes";
+  EXPECT_EQ(SerialOf({2000, 1, 2}, 9999), "1029999");
+}
+
+TEST(SerialCounter, IsRaisedUnderItsLockAndKeptWhole) {
+  VirtualFiles files;
+  SerialCounter counter(files, "/share");
+  int value = -1;
+  EXPECT_TRUE(counter.Raise(value).Ok());
+  EXPECT_EQ(value, 1);
+  files.contents["/share/TestOstrel.ini"] = "[NS]\r\nNS=9999\r\n";
+  files.modes["/share/TestOstrel.ini"] = 0664;
+  files.log.clear();
+  EXPECT_TRUE(counter.Raise(value).Ok());
+  EXPECT_EQ(value, 0) << "it starts over";
+  EXPECT_EQ(files.contents["/share/TestOstrel.ini"], "[NS]\r\nNS=0\r\n");
+  EXPECT_EQ(files.modes["/share/TestOstrel.ini"], 0664) << "other stations write it, too";
+  EXPECT_EQ(files.log[1], "lock /share/TestOstrel.lock");
+  EXPECT_EQ(files.log.back(), "unlock /share/TestOstrel.lock");
+}
+
+TEST(SerialCounter, AFailureGivesNoNumber) {
+  using Change = VirtualFiles::Change;
+  for (const Change change : {Change::Lock, Change::Write, Change::Sync, Change::Rename}) {
+    VirtualFiles files;
+    files.contents["/share/TestOstrel.ini"] = "[NS]\r\nNS=41\r\n";
+    files.FailOperation(change, 1);
+    int value = -1;
+    EXPECT_FALSE(SerialCounter(files, "/share").Raise(value).Ok());
+    EXPECT_EQ(value, -1);
+    EXPECT_EQ(files.contents["/share/TestOstrel.ini"], "[NS]\r\nNS=41\r\n");
+  }
+  for (const char* cut :
+       {"[NS]\r\n", "[NS]\r\nNS=\r\n", "[NS]\r\nNS=4x\r\n", "[NS]\r\nNS=-2\r\n"}) {
+    VirtualFiles files;
+    files.contents["/share/TestOstrel.ini"] = cut;
+    int value = -1;
+    EXPECT_FALSE(SerialCounter(files, "/share").Raise(value).Ok()) << cut;
+    EXPECT_EQ(value, -1);
+  }
+}
+
+TEST(SerialCounter, WithoutItABlankBoardStaysBlankAndFails) {
+  TestStation station(Board(sim::Model::BP));
+  station.world.files.FailOperation(VirtualFiles::Change::Lock, 1);
+  station.Run();
+  EXPECT_EQ(station.Boxes().front(),
+            "Error en el contador de numeros de serie: another program holds it");
+  EXPECT_EQ(station.Orders().size(), 19u) << "all but the number";
+  EXPECT_EQ(station.LastRecord("main")["serial"], "0");
+  EXPECT_EQ(station.Status(), kFailedText);
+}
+
+TEST(Records, ARowABoardInOneTable) {
+  TestStation station(Board(sim::Model::BQ));
+  station.page->GetForm().Get<CheckBox>("Check1").SetChecked(true);
+  station.page->GetForm().Get<TextBox>("TextOperator").Type("Luz, \"jefa\"");
+  station.Run();
+  EXPECT_TRUE(station.program->session.Open(SimWorld::kPort, ""));
+  station.world.files.contents["/data/factory/test-bq.csv"] += "torn row";
+  station.world.loop.RunFor(std::chrono::seconds(2));
+  station.Run();
+  const std::string table = station.Records("bq");
+  EXPECT_EQ(table.substr(0, table.find("\r\n")),
+            "time,test,model,operator,station,serial,given serial,verdict,checked,seconds,failures,"
+            "VBat,VBat band,IN0 tecla 0,IN0 tecla 0 band,IN0 tecla 1,IN0 tecla 1 band,"
+            "IN0 tecla 2,IN0 tecla 2 band,IN1 tecla 0,IN1 tecla 0 band,IN1 tecla 1,"
+            "IN1 tecla 1 band,IN1 tecla 2,IN1 tecla 2 band,GSM,GSM band");
+  EXPECT_EQ(std::ranges::count(table, '\n'), 4) << "headings, two boards and what was torn";
+  EXPECT_NE(table.find("\r\n2012-03-05 09:00:0"), std::string::npos);
+  EXPECT_NE(
+      table.find(",bq,Tavro BQ,\"Luz, \"\"jefa\"\"\",Puesto 1,1203050001,1203050001,passed,yes,"),
+      std::string::npos)
+      << table;
+  EXPECT_NE(table.find("torn row\r\n2012-"), std::string::npos);
+  EXPECT_NE(table.find(",1203050001,,passed,yes,"), std::string::npos) << "kept its number";
+}
+
+/// What a test measures is what the headings of its table name: nothing is left out of a row.
+TEST(Records, EveryValueHasItsColumn) {
+  for (const auto& [model, word] :
+       {std::pair{sim::Model::BP, "main"}, {sim::Model::KA2, "ka2"}, {sim::Model::BQ, "bq"}}) {
+    TestStation station(Board(model));
+    station.Run();
+    const auto& shown = station.page->GetForm().Get<ListBox>("Values").Rows();
+    const auto record = station.LastRecord(word);
+    std::size_t filled = 0;
+    for (const auto& [name, field] : record)
+      filled += record.contains(name + " band") && !field.empty() ? 1U : 0U;
+    EXPECT_EQ(filled, shown.size()) << word;
+    for (const ListRow& row : shown) EXPECT_EQ(row.value, 1) << row.text;
+  }
+}
+
+TEST(Records, ABoardWhoseRecordIsNotKeptHasNotPassed) {
+  using Change = VirtualFiles::Change;
+  for (const bool again : {true, false}) {
+    TestStation station(Board(sim::Model::BQ));
+    station.page->GetForm().Get<CheckBox>("Check1").SetChecked(true);
+    station.world.files.FailOperation(Change::Append, 1);
+    station.world.dialogs.Answer(again ? BoxAnswer::Yes : BoxAnswer::No);
+    station.Run();
+    EXPECT_EQ(station.Boxes().front(),
+              "No se puede guardar el registro de la prueba en /data/factory/test-bq.csv: no space "
+              "left. Se intenta otra vez?");
+    EXPECT_EQ(station.Status(), again ? kPassedText : kFailedText);
+    EXPECT_EQ(station.LastRecord("bq").empty(), !again);
+  }
+}
+
+/// How long a good board takes, without the operator; `--gtest_output=xml` tells it.
+TEST(TestTimes, AWholeRunStaysShort) {
+  for (const auto& [model, most] : {std::pair{sim::Model::BP, std::chrono::seconds(36)},
+                                    {sim::Model::KA2, std::chrono::seconds(18)},
+                                    {sim::Model::BQ, std::chrono::seconds(32)}}) {
+    for (const bool isPaced : {false, true}) {
+      TestStation station(Board(model));
+      station.world.port.SetPaced(isPaced);
+      station.Run();
+      EXPECT_EQ(station.Status(), kPassedText);
+      EXPECT_LT(station.took, most);
+      RecordProperty(station.page->GetForm().Name() + (isPaced ? "_paced_ms" : "_ms"),
+                     static_cast<int>(station.took / std::chrono::milliseconds(1)));
+    }
+  }
+}
+
+}  // namespace
+}  // namespace ostrel
