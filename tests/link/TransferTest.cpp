@@ -20,7 +20,7 @@ class TransferTest : public LinkTest {
                     }}});
   }
   ProgressFeed::Subscription listener = comms.OnProgress([this](const Progress& told) {
-    const char* stages[] = {"begun", "step", "done", "failed"};
+    const char* stages[] = {"begun", "step", "closing", "done", "failed"};
     hooked.push_back(stages[static_cast<int>(told.stage)] + std::string(" ") +
                      std::to_string(told.step) + " of " + std::to_string(told.expected));
   });
@@ -158,7 +158,7 @@ TEST_F(TransferTest, UploadSendsTheStatementsAndCloses) {
   EXPECT_THAT(logger.lines, ElementsAre("#45000ID=Pozo \xE9", "#45001CELL=0", "#45002CELL=0",
                                         "#45003CELL=9", "#46004"));
   EXPECT_THAT(hooked, ElementsAre("begun 0 of 0", "step 1 of 4", "step 2 of 4", "step 3 of 4",
-                                  "step 4 of 4", "done 4 of 0"));
+                                  "step 4 of 4", "closing 4 of 0", "done 4 of 0"));
   listener.reset();
   hooked.clear();
   comms.WriteConf();
