@@ -1,5 +1,5 @@
-# The window: what it links, its program, its words and what they bring to an installation.
-find_package(Qt6 REQUIRED COMPONENTS Widgets PrintSupport DBus LinguistTools)
+# The window: what it links, its program and what it brings to an installation.
+find_package(Qt6 REQUIRED COMPONENTS Widgets PrintSupport DBus)
 find_package(QCustomPlotQt6 REQUIRED)
 target_link_libraries(ostrel_desktop PUBLIC Qt6::Widgets Qt6::PrintSupport
                                             QCustomPlotQt6::QCustomPlotQt6 PRIVATE Qt6::DBus)
@@ -10,12 +10,6 @@ target_precompile_headers(ostrel-configurator REUSE_FROM ostrel_std_headers)
 target_compile_definitions(ostrel-configurator PRIVATE OSTREL_VERSION="${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR}")
 add_dependencies(ostrel-configurator ostrel_lang_copy)
 
-# The window's own words: English in the code, Spanish here.
-qt_add_translations(ostrel_desktop
-                    TS_FILES ${CMAKE_SOURCE_DIR}/src/desktop/words/ostrel-configurator_es.ts
-                             ${CMAKE_SOURCE_DIR}/src/desktop/words/ostrel-configurator_en.ts
-                    RESOURCE_PREFIX /i18n)
-
 install(TARGETS ostrel-configurator RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
 install(FILES ${CMAKE_SOURCE_DIR}/data/desktop/ostrel-configurator.desktop
         DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
@@ -25,3 +19,25 @@ install(FILES ${CMAKE_SOURCE_DIR}/data/icons/ostrel-configurator.svg
         DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps)
 install(FILES ${CMAKE_SOURCE_DIR}/docs/man/ostrel-configurator.1
         DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+
+# Help pages of our own, a page word each, in English and Spanish; pages that are supplied apart
+# come ahead of them.
+set(help_folder ${CMAKE_BINARY_DIR}/share/ostrel-configurator/help)
+file(GLOB help_texts CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/docs/help/en/*.md
+                                       ${CMAKE_SOURCE_DIR}/docs/help/es/*.md)
+set(help_pages)
+foreach(text IN LISTS help_texts)
+  cmake_path(GET text STEM word)
+  cmake_path(GET text PARENT_PATH language)
+  cmake_path(GET language FILENAME language)
+  string(TOUPPER ${language} ending)
+  set(page ${help_folder}/${word}_${ending}.htm)
+  add_custom_command(OUTPUT ${page}
+                     COMMAND ${CMAKE_COMMAND} -DTEXT=${text} -DPAGE=${page}
+                             -P ${CMAKE_SOURCE_DIR}/cmake/HelpPage.cmake
+                     DEPENDS ${text} ${CMAKE_SOURCE_DIR}/cmake/HelpPage.cmake VERBATIM)
+  list(APPEND help_pages ${page})
+endforeach()
+add_custom_target(ostrel_help ALL DEPENDS ${help_pages})
+add_dependencies(ostrel_desktop ostrel_help)
+install(DIRECTORY ${help_folder} DESTINATION ${CMAKE_INSTALL_DATADIR}/ostrel-configurator)

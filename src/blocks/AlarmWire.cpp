@@ -172,6 +172,8 @@ void SetRange(ValidityRange& valid, double start, double stop, double week) {
   valid.SEMANA = days.value_or(valid.SEMANA);
 }
 
+bool NamesDays(double week) { return week >= 1 && RoundToEven<std::uint8_t>(week).has_value(); }
+
 void AddRange(Statement& statement, const ValidityRange& valid) {
   if (valid.SIEMPRE) return;
   statement.Text(",START=").Text(TimeText(valid.INICIO));

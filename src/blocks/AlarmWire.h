@@ -63,6 +63,8 @@ void AddAlarms(StatementList& out, std::string_view key, int channel, AlarmShape
 void SetTime(TimeOfDay& time, double seconds);
 /// Sets a range of validity that a logger tells: two times of the day, and the days.
 void SetRange(ValidityRange& valid, double start, double stop, double week);
+/// Whether a week names days; one that fits no mask names none.
+bool NamesDays(double week);
 /// Appends the tokens of a range of validity; none when it is valid at all times.
 void AddRange(Statement& statement, const ValidityRange& valid);
 

@@ -4,6 +4,7 @@
 #include "blocks/Configuration.h"
 #include "cli/FaultText.h"
 #include "shell/ForeignKeys.h"
+#include "shell/WriteDoubts.h"
 #include "shell/check/CheckRules.h"
 
 namespace ostrel::cli {
@@ -28,6 +29,15 @@ ExitCode SaveTo(CommandContext& context, Configurator& configurator, const std::
   // Whether a protected file may go was asked ahead of the session.
   const FileResult result = configurator.SaveConf(Replacing::Any);
   return result.Ok() ? ExitCode::Done : CannotWrite(context, path, result);
+}
+
+std::optional<ModelConfiguration> OpenAndTell(CommandContext& context, const std::string& path) {
+  auto configuration = context.OpenFile(path);
+  if (!configuration) return {};
+  if (const auto lack =
+          WhatLacks(*configuration, path, context.platform.files, context.Translator()))
+    context.console.Note("warning: " + path + " is not whole: " + Filled(lack->parts.front()));
+  return configuration;
 }
 
 ExitCode MakeStatements(CommandContext& context, const DeviceConf& conf, const Receiver& receiver,

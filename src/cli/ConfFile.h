@@ -13,6 +13,9 @@ namespace ostrel::cli {
 /// failed.
 ExitCode SaveTo(CommandContext& context, Configurator& configurator, const std::string& path);
 
+/// The configuration of a file, as `CommandContext::OpenFile` opens it; what it lacks is told.
+std::optional<ModelConfiguration> OpenAndTell(CommandContext& context, const std::string& path);
+
 /// The statements that a configuration gives for a receiver. Anything but Done after saying why one
 /// of them cannot be made.
 ExitCode MakeStatements(CommandContext& context, const DeviceConf& conf, const Receiver& receiver,

@@ -30,14 +30,15 @@ void PrintDifferences(std::ostream& out, const Comparison& comparison) {
   PrintList(out, comparison, false);
 }
 
-Json DifferencesJson(const Comparison& comparison) {
+Json DifferencesJson(const Comparison& comparison, std::optional<bool> isSent) {
   Json list = Json::array();
   for (const Difference& difference : comparison.differences)
-    list.push_back({{"section", difference.Section()},
-                    {"key", difference.Key()},
-                    {"before", difference.beforeWords},
-                    {"after", difference.afterWords},
-                    {"sent", difference.isSent}});
+    if (difference.isSent == isSent.value_or(difference.isSent))
+      list.push_back({{"section", difference.Section()},
+                      {"key", difference.Key()},
+                      {"before", difference.beforeWords},
+                      {"after", difference.afterWords},
+                      {"sent", difference.isSent}});
   return list;
 }
 

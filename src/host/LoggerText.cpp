@@ -1,16 +1,10 @@
 #include "host/LoggerText.h"
 
-#include <array>
 #include <charconv>
 
-namespace ostrel {
+#include "link/WireText.h"
 
-std::string FeaturesText(std::int32_t features) {
-  std::array<char, 8> text{};
-  const auto end = std::to_chars(text.data(), text.data() + text.size(),
-                                 static_cast<std::uint32_t>(features), 16);
-  return "0x" + std::string(text.data(), end.ptr);
-}
+namespace ostrel {
 
 std::optional<std::int32_t> ReadFeatures(std::string_view text) {
   if (text.starts_with("0x") || text.starts_with("0X")) text.remove_prefix(2);
@@ -30,5 +24,7 @@ std::string NoWholeNumber(const std::string& text) {
 std::string ClockText(const DateTime& time) {
   return time == DateTime{} ? std::string() : DateTimeText(time);
 }
+
+std::string WithoutSecrets(std::string_view octets) { return MaskPasswords(MaskCode(octets)); }
 
 }  // namespace ostrel

@@ -192,12 +192,13 @@ void Line::Delay(int ms) {
 }
 
 Duration Line::SilentFor() const {
-  if (!LinkBusy || !awaitedSince_) return Duration::zero();
+  // What has come and is not taken yet, while a question to the operator stands, is no silence.
+  if (!LinkBusy || !awaitedSince_ || HasInput()) return Duration::zero();
   return loop_.Now() - *awaitedSince_;
 }
 
 Duration Line::UnansweredFor() const {
-  return askedAt_ ? loop_.Now() - *askedAt_ : Duration::zero();
+  return askedAt_ && !HasInput() ? loop_.Now() - *askedAt_ : Duration::zero();
 }
 
 void Line::NoteQuestion() {

@@ -66,4 +66,12 @@ FieldView ViewOf(const FieldRef& field) {
   return std::visit([](auto* typed) { return FieldView(typed); }, field);
 }
 
+FieldView ViewOf(const FieldValue& value) {
+  return std::visit([](const auto& typed) { return FieldView(&typed); }, value);
+}
+
+FieldValue ValueOf(const FieldView& field) {
+  return std::visit([](const auto* typed) { return FieldValue(*typed); }, field);
+}
+
 }  // namespace ostrel

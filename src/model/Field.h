@@ -19,6 +19,10 @@ using FieldView = std::variant<const std::string*, const std::int16_t*, const st
                                const float*, const double*, const Bool16*, const TimeOfDay*,
                                const std::uint8_t*, const ConfPhone*>;
 
+/// A value of a field on its own.
+using FieldValue = std::variant<std::string, std::int16_t, std::int32_t, float, double, Bool16,
+                                TimeOfDay, std::uint8_t, ConfPhone>;
+
 /// Gets one field of a configuration with its address and what is known of it.
 using FieldVisitor = std::function<void(const FieldId& id, const FieldMeta& meta, FieldRef field)>;
 /// The same for those who only look.
@@ -39,6 +43,10 @@ bool IsSameValue(const FieldView& a, const FieldView& b);
 
 /// The same field for looking only.
 FieldView ViewOf(const FieldRef& field);
+FieldView ViewOf(const FieldValue& value);
+
+/// The value of a field, taken out of its record.
+FieldValue ValueOf(const FieldView& field);
 
 /// What is known of a member of a record, as its description tells it.
 template <class Record, class T>

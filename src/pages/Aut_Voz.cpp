@@ -195,6 +195,7 @@ void VoiceListControls::TakeNumbers(std::string_view text) {
 void VoiceListControls::Write() {
   Save(context_.conf);
   const ConfAutVoz list = context_.conf.AutVoz;
+  if (context_.mayWriteVoiceList && !context_.mayWriteVoiceList(list)) return;
   RunDialogue("Escribiendo...", "Lista escrita con exito",
               [&] { return context_.writeVoiceList(list); });
 }

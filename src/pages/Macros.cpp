@@ -11,6 +11,17 @@ namespace {
 constexpr int kLastByMacros = kMacrosOfActions;
 constexpr int kLastByEquations = kEquations - 1;
 
+/// Why a line does not go back into the boxes; `isMacro` where it speaks of one.
+std::string_view WhyNotEdited(const std::string& line, bool isMacro) {
+  if (!isMacro || line.find(kMacroName) != std::string::npos)
+    return "La linea no tiene la forma de una macro ni de una ecuacion";
+  if (line.starts_with(kMacroWord))
+    return "La macro no tiene nombre y por eso no se puede llevar a los campos. Eliminela y "
+           "escribala de nuevo";
+  return "La ecuacion nombra una macro y por eso no se puede llevar a los campos. Eliminela y "
+         "escribala de nuevo";
+}
+
 }  // namespace
 
 MacroControls::MacroControls(Form& form, PageContext& context)
@@ -97,12 +108,7 @@ void MacroControls::Edit() {
   const std::string line = MacroPool.RowText(MacroPool.Position());
   const bool isMacro = line.find(kMacroWord) != std::string::npos;
   if (isMacro ? EditMacro(line) : EditEquation(line)) return;
-  const bool isNameless = isMacro && line.find(kMacroName) == std::string::npos;
-  context_.ShowMessage(
-      context_.Translate(isNameless ? "La macro no tiene nombre y por eso no se puede llevar a los "
-                                      "campos. Eliminela y escribala de nuevo"
-                                    : "La linea no tiene la forma de una macro ni de una ecuacion"),
-      BoxIcon::Exclamation);
+  context_.ShowMessage(context_.Translate(WhyNotEdited(line, isMacro)), BoxIcon::Exclamation);
 }
 
 bool MacroControls::EditMacro(const std::string& line) {

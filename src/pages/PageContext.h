@@ -55,6 +55,8 @@ struct PageContext {
   // The voice-call list and the logger; false when the dialogue failed.
   std::function<bool(ConfAutVoz& list)> readVoiceList{};
   std::function<bool(const ConfAutVoz& list)> writeVoiceList{};
+  /// Asks whether a list may be written that somebody may not mean. Null asks nobody.
+  std::function<bool(const ConfAutVoz& list)> mayWriteVoiceList{};
   /// The text that the operator has copied elsewhere. Null without a clipboard.
   std::function<std::string()> clipboardText{};
 

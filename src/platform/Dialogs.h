@@ -16,6 +16,7 @@ struct MessageBox {
   std::string title;
   BoxIcon icon = BoxIcon::None;
   BoxButtons buttons = BoxButtons::Ok;
+  bool prefersNo = false;  ///< of Yes and No, Return presses No
 };
 
 /// A question for a file name. `filter` is a list of description and pattern pairs, all joined by

@@ -116,7 +116,7 @@ ChannelTable TableOfGroup(std::string_view group, const ModelConfiguration& conf
     if (field.page != *page || field.id.channel < 0) continue;
     const std::string node = NodeOf(*page, field.id.channel);
     if (node.empty() || !hasNode(node)) continue;
-    if (table.rows.empty() || table.rows.back().node != node)
+    if (table.rows.empty() || table.rows.back().channel != field.id.channel)
       table.rows.push_back({node, field.id.channel, {}, false});
     ChannelTable::Row& row = table.rows.back();
     if (!IsInForce(conf, field.id)) continue;

@@ -24,32 +24,39 @@ bool IsNothing(const ConstField& field) {
 /// One side of a difference.
 struct Side {
   std::string text{}, words{kAbsent};
+  std::optional<FieldValue> value{};
 };
 
 Side SideOf(const ConstField& field, bool isS100, Passwords passwords) {
   return {ShownText(field.value, field.meta, isS100, passwords),
-          ReadableValue(field.value, field.meta, isS100, passwords)};
+          ReadableValue(field.value, field.meta, isS100, passwords), ValueOf(field.value)};
 }
 
 Difference DifferenceOf(const ConstField& field, Side before, Side after) {
-  return {.id = field.id,
+  return {.page = field.page,
+          .id = field.id,
           .meta = field.meta,
           .before = std::move(before.text),
           .after = std::move(after.text),
           .beforeWords = std::move(before.words),
-          .afterWords = std::move(after.words)};
+          .afterWords = std::move(after.words),
+          .valueBefore = std::move(before.value),
+          .valueAfter = std::move(after.value)};
 }
 
 Comparison CompareModels(const ModelConfiguration& before, const ModelConfiguration& after,
                          Passwords passwords) {
   Comparison comparison{.isSame = false};
   const std::string &nameBefore = before.profile.TargetName, &nameAfter = after.profile.TargetName;
-  comparison.differences.push_back({.id = {&GeneralParameters::kSection, -1, kStampKey, {}},
+  comparison.differences.push_back({.page = PageId::General,
+                                    .id = {&GeneralParameters::kSection, -1, kStampKey, {}},
                                     .meta = kModelMeta,
                                     .before = nameBefore,
                                     .after = nameAfter,
                                     .beforeWords = nameBefore,
-                                    .afterWords = nameAfter});
+                                    .afterWords = nameAfter,
+                                    .valueBefore = nameBefore,
+                                    .valueAfter = nameAfter});
   const auto fieldsBefore = FieldsOf(before.conf, before.profile);
   const auto fieldsAfter = FieldsOf(after.conf, after.profile);
   std::unordered_map<std::string, const ConstField*> others;

@@ -13,11 +13,14 @@ namespace ostrel {
 
 /// One field in which two configurations differ.
 struct Difference {
+  PageId page;  ///< that edits it
   FieldId id;
   FieldMeta meta;
   /// As a file holds them, save for hidden passwords; empty for a side that lacks the field.
   std::string before{}, after{};
   std::string beforeWords{}, afterWords{};  ///< as a person reads them
+  /// The values themselves; nothing for a side that lacks the field.
+  std::optional<FieldValue> valueBefore{}, valueAfter{};
   bool isSent = true;  ///< a statement carries it under the features in question
 
   std::string Section() const { return SectionName(id); }

@@ -158,7 +158,7 @@ void Configurator::ConnectPages() {
     if (!comms.ReadProbeIdentity(identity)) return {};
     return identity;
   };
-  context.readVoiceList = [this](ConfAutVoz& list) { return comms.ReadAutVozList(list); };
+  context.readVoiceList = [this](ConfAutVoz& list) { return session.ReadVoiceList(list); };
   context.writeVoiceList = [this](const ConfAutVoz& list) { return session.WriteVoiceList(list); };
 }
 
@@ -173,8 +173,7 @@ LinkHooks Configurator::MakeHooks() {
           },
       .loadPages =
           [this] {
-            hasOrigin_ = true;
-            lacking_.reset();
+            origin_ = {.isKnown = true};
             ForEach(kLoadAfterDownload, &Page::LoadData);
           },
       .composed = [this] { session.KeepSent(); },

@@ -103,11 +103,16 @@ class Configurator {
 
   /// Puts a configuration in place of the present one and shows it on all pages.
   void ShowConfiguration(const DeviceConf& shown);
-  /// Whether the present configuration comes from a file or a logger.
-  bool HasOrigin() const { return hasOrigin_; }
-  /// What the file that the configuration was opened from lacks; nothing when it was whole, or when
-  /// a logger has been read since.
-  const std::optional<Phrase>& Lacking() const { return lacking_; }
+  /// Where the configuration on the pages comes from.
+  struct Origin {
+    bool isKnown = false;  ///< from a file or a logger
+    /// What the file that it was opened from lacks; nothing when it was whole, or when a logger has
+    /// been read since.
+    std::optional<Phrase> lacking{};
+  };
+  const Origin& WhereFrom() const { return origin_; }
+  /// For those who have put back what stood on the pages before.
+  void SetOrigin(Origin origin) { origin_ = std::move(origin); }
   /// Asks whether a file of another model may change the model while a session stands. Set by a
   /// face; without one nobody is asked.
   std::function<bool(const std::string& model)> OnOtherModel;
@@ -161,10 +166,7 @@ class Configurator {
   ConfiguratorOptions options_;
   std::string mainCaption_;
   bool carrierBoxUp_ = false;
-  std::optional<Phrase> WhatLacks() const;
-
-  bool hasOrigin_ = false;
-  std::optional<Phrase> lacking_;
+  Origin origin_;
   /// The language of this run is not the one to store: the choice of a first run waits for the
   /// next.
   bool keepsStoredLanguage_ = false;

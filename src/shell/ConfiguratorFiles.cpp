@@ -81,20 +81,9 @@ RestoreResult Configurator::RestoreConf() {
   }
   for (const FileTurn& turn : kFileOrder)
     if (Page* page = PageOf(turn.page); page && turn.takesPart(profile)) page->RestoreConf();
-  hasOrigin_ = true;
-  lacking_ = WhatLacks();
-  return RestoreResult::Loaded;
-}
-
-std::optional<Phrase> Configurator::WhatLacks() const {
-  IniClass document(platform_.files);
-  document.OpenINI(ConfFilePath, false);
   const auto translate = [this](std::string_view text) { return context.Translate(text); };
-  for (const auto& [rule, finding] :
-       ErrorsIn({profile, conf}, {}, &document, platform_.files, translate))
-    if (rule->id == kMissingSections || rule->id == kMissingKeys)
-      return Phrase{"the file that was opened is not whole: %1", {FindingText(finding)}};
-  return {};
+  origin_ = {true, WhatLacks({profile, conf}, ConfFilePath, platform_.files, translate)};
+  return RestoreResult::Loaded;
 }
 
 RestoreResult Configurator::OpenFile(const std::string& path) {

@@ -18,7 +18,8 @@ struct WriteRoad {
   std::function<bool(const DeviceConf& held)> keep{};
   /// Asked with what will change, from the logger to the model; null when nobody asks.
   std::function<bool(const Comparison& changes)> mayWrite{};
-  bool verify = true;  ///< reads everything back and compares
+  bool verify = true;                       ///< reads everything back and compares
+  Passwords passwords = Passwords::Hidden;  ///< in what is compared
 };
 
 /// The step at which writing ended.
@@ -39,6 +40,10 @@ struct WriteResult {
 
   bool IsAsSent() const { return end == WriteEnd::Written && (!verified || verified->isSame); }
 };
+
+/// What a logger holds, read beside the pages: they stay as they are, and so does what is known of
+/// where they come from. Nothing when reading failed.
+std::optional<DeviceConf> ReadBeside(Configurator& configurator, const std::function<bool()>& read);
 
 /// Writes the configuration of a configurator: first reads and keeps what the logger holds, then
 /// sends, then reads everything back and compares. However it ends, the pages show again what was

@@ -22,6 +22,8 @@ bool LangForm::AskUser() {
   accepted_ = false;
   ComboLang.Clear();
   for (const std::string& name : context_.lang.OfferedNames()) ComboLang.Add(name);
+  // The keys' own language needs no table.
+  if (ComboLang.Rows().empty()) ComboLang.Add("Español");
   // Columns count from 1; before the first choice none is in use.
   const int inUse = context_.lang.SelectedLang() - 1;
   const int offered = static_cast<int>(ComboLang.Rows().size());

@@ -116,6 +116,8 @@ std::string NodeOf(PageId page, int channel) {
 std::optional<PageId> PageOfGroup(std::string_view key) {
   for (const auto& [stem, page, last] : kNumbered)
     if (stem == std::string(key) + "_" || (key == "Flags" && page == PageId::Flags)) return page;
+  for (const auto& [stem, page] : kTimerPages)
+    if (stem == key) return page;
   return {};
 }
 

@@ -13,16 +13,26 @@ namespace ostrel {
 struct Phrase {
   std::string text{};
   std::vector<std::string> arguments{};
+  std::vector<Phrase> parts{};  ///< phrases of their own, whose places come behind the arguments
 
   Phrase() = default;
   template <std::convertible_to<std::string> Text>
-  Phrase(Text&& words, std::vector<std::string> values = {})
-      : text(std::forward<Text>(words)), arguments(std::move(values)) {}
+  Phrase(Text&& words, std::vector<std::string> values = {}, std::vector<Phrase> inner = {})
+      : text(std::forward<Text>(words)), arguments(std::move(values)), parts(std::move(inner)) {}
   bool operator==(const Phrase&) const = default;
 };
 
 /// A text with its arguments in their places.
 std::string Filled(std::string_view text, const std::vector<std::string>& arguments);
-inline std::string Filled(const Phrase& phrase) { return Filled(phrase.text, phrase.arguments); }
+/// A phrase with all that goes into it, each text of it as `translate` gives it.
+template <class Translate>
+std::string Filled(const Phrase& phrase, const Translate& translate) {
+  std::vector<std::string> values = phrase.arguments;
+  for (const Phrase& part : phrase.parts) values.push_back(Filled(part, translate));
+  return Filled(translate(phrase.text), values);
+}
+inline std::string Filled(const Phrase& phrase) {
+  return Filled(phrase, [](const std::string& text) { return text; });
+}
 
 }  // namespace ostrel

@@ -110,6 +110,7 @@ bool SessionDriver::Open(std::int16_t port, const std::string& phone) {
   port_ = port;
   code_ = CodeAnswer::NotAsked;
   Working opening(*this, SessionPhase::Opening);
+  context_.info.SerialNumber.clear();  // of a former logger; the page keeps its texts
   session_.ComStat.face.SetCaption(
       "", context_.Translate("Detectando ") + context_.profile.TargetName + "...");
   {
@@ -161,8 +162,9 @@ void SessionDriver::ReadAfterConnect() {
   comms_.ReadInfo();
   comms_.ReadTotalCount();
   comms_.ReadIOParameter();
-  comms_.ReadDeviceRTC();
-  if (comms_.PortOpen()) CompareClocks();
+  // A clock that did not come, or came damaged, is no reason to set one.
+  const bool isClockRead = comms_.ReadDeviceRTC();
+  if (isClockRead && comms_.PortOpen()) CompareClocks();
 }
 
 void SessionDriver::CompareClocks() {
@@ -234,8 +236,30 @@ bool SessionDriver::Transfer(SessionPhase kind, std::string_view status, std::st
 }
 
 LinkResult SessionDriver::WriteVoiceList(const ConfAutVoz& list) {
-  const Lent writing(writesVoiceList_, true);
-  return comms_.WriteAutVoz(list);
+  return MoveVoiceList(ListWork::Writing, [&] { return comms_.WriteAutVoz(list); });
+}
+
+LinkResult SessionDriver::ReadVoiceList(ConfAutVoz& list) {
+  return MoveVoiceList(ListWork::Reading, [&] { return comms_.ReadAutVozList(list); });
+}
+
+LinkResult SessionDriver::MoveVoiceList(ListWork work,
+                                        const std::function<LinkResult()>& dialogue) {
+  if (listWork_ != ListWork::None) return dialogue();  // which is turned away
+  brokenOff_ = false;
+  LinkResult result = [&] {
+    const Lent moving(listWork_, work);
+    SetState({SessionPhase::Open});
+    return dialogue();
+  }();
+  SessionState after{Connected_ ? SessionPhase::Open : SessionPhase::Closed};
+  if (!result) {
+    after.failed = FaultDuring(SessionPhase::Open);
+    after.failed->link = result.Fault();
+    after.failed->writingVoiceList = work == ListWork::Writing;
+  }
+  SetState(std::move(after));
+  return result;
 }
 
 LinkResult SessionDriver::SendFirmware(const FirmwareFiles& files,

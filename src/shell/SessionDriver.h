@@ -54,13 +54,15 @@ class SessionDriver {
   bool Upload();
   /// Writes the voice-call list, whose count and check sum are up to date.
   LinkResult WriteVoiceList(const ConfAutVoz& list);
+  LinkResult ReadVoiceList(ConfAutVoz& list);
+  /// What is under way with the voice-call list. A writing that is broken off leaves a logger
+  /// without a whole one.
+  ListWork VoiceList() const { return listWork_; }
   /// Replaces the logger's firmware, and tells each stage as it begins. A success leaves the
   /// session to be closed, since the logger has left the dialogue.
   LinkResult SendFirmware(const FirmwareFiles& files, const FirmwareDialogue::OnStage& onStage);
   /// Whether an update has erased a logger's flash and not come to its end since.
   bool IsFlashErased() const { return isFlashErased_; }
-  /// Whether that is under way: broken off, it leaves a logger without a whole list.
-  bool WritesVoiceList() const { return writesVoiceList_; }
   /// Asks for a transfer from wherever the operator is: a click on its button, which the next tick
   /// serves even when the general page is not in front.
   void AskFor(SessionPhase kind);
@@ -125,6 +127,7 @@ class SessionDriver {
   bool Transfer(SessionPhase kind, std::string_view status, std::string_view success);
   bool ReadOrPutBack();
   void BeginWatch(SessionPhase kind);
+  LinkResult MoveVoiceList(ListWork work, const std::function<LinkResult()>& dialogue);
   void SetStatus(std::string_view key);
   void SetState(SessionState state);
   bool HasRequest() const { return session_.ReadRequest || session_.WriteRequest; }
@@ -147,7 +150,7 @@ class SessionDriver {
   bool brokenOff_ = false;
   CodeAnswer code_ = CodeAnswer::NotAsked;
   bool lastReadFailed_ = false;
-  bool writesVoiceList_ = false;
+  ListWork listWork_ = ListWork::None;
   bool isFlashErased_ = false;
   std::string greeting_;              ///< of the logger that answers
   std::vector<std::string> fitting_;  ///< models that have all that it told of; empty: not known

@@ -14,6 +14,9 @@ constexpr bool IsTransfer(SessionPhase phase) {
   return phase == SessionPhase::Reading || phase == SessionPhase::Writing;
 }
 
+/// What is done with the voice-call list, within a session that is open.
+enum class ListWork { None, Reading, Writing };
+
 /// Whether a phase is one long dialogue, which has stretches in which no answer is due.
 constexpr bool IsLongDialogue(SessionPhase phase) {
   return IsTransfer(phase) || phase == SessionPhase::Updating;

@@ -21,6 +21,8 @@ class TransferWatch {
   void BeginReading(const std::string& targetType);
   /// An upload of so many statements, or octets, comes next.
   void BeginWriting(int statements);
+  /// A dialogue on a list of so many places comes next.
+  void BeginList(int places) { Begin({}, places); }
   /// Takes how far the transfer is. A number that falls is a new attempt. A download that has
   /// brought everything tells how long the next one is expected to be.
   void Follow(const Progress& progress);

@@ -37,14 +37,29 @@ std::vector<FoundByRule> ErrorsIn(const ModelConfiguration& configuration,
   return found;
 }
 
+std::optional<Phrase> WhatLacks(const ModelConfiguration& configuration, const std::string& path,
+                                Files& files, const Translation& translate) {
+  IniClass document(files);
+  document.OpenINI(path, false);
+  const Examined examined(configuration, {}, document, translate);
+  for (const Rule& rule : Rules()) {
+    if (rule.id != kMissingSections && rule.id != kMissingKeys) continue;
+    const std::vector<Finding> found = rule.examine(examined);
+    if (!found.empty())
+      return Phrase{
+          "the file that was opened is not whole: %1", {}, {FindingPhrase(found.front())}};
+  }
+  return {};
+}
+
 std::vector<Phrase> DoubtsOfWriting(const Configurator& configurator) {
   std::vector<Phrase> doubts;
   if (auto model = configurator.session.ModelDoubt()) doubts.push_back(std::move(*model));
   if (configurator.session.LastReadFailed())
     doubts.push_back({"the last reading of the logger failed"});
-  else if (!configurator.HasOrigin())
+  else if (!configurator.WhereFrom().isKnown)
     doubts.push_back({"nothing has been read from a logger or opened since the program started"});
-  if (configurator.Lacking()) doubts.push_back(*configurator.Lacking());
+  if (const auto& lacking = configurator.WhereFrom().lacking) doubts.push_back(*lacking);
   if (IsEmpty(configurator)) doubts.push_back({"the configuration on the pages is empty"});
   const auto errors =
       ErrorsIn({configurator.profile, configurator.conf}, configurator.info.Features, nullptr,
@@ -52,7 +67,8 @@ std::vector<Phrase> DoubtsOfWriting(const Configurator& configurator) {
                [&](std::string_view text) { return configurator.context.Translate(text); });
   if (!errors.empty())
     doubts.push_back({"the check finds %1 error(s), the first: %2",
-                      {std::to_string(errors.size()), FindingText(errors.front().finding)}});
+                      {std::to_string(errors.size())},
+                      {FindingPhrase(errors.front().finding)}});
   return doubts;
 }
 

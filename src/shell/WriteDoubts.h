@@ -17,6 +17,10 @@ std::vector<FoundByRule> ErrorsIn(const ModelConfiguration& configuration,
                                   std::optional<std::int32_t> features, const IniClass* document,
                                   Files& files, const Translation& translate);
 
+/// What a file lacks that a configuration was read from; nothing when it is whole.
+std::optional<Phrase> WhatLacks(const ModelConfiguration& configuration, const std::string& path,
+                                Files& files, const Translation& translate);
+
 /// What speaks against writing the configuration of a configurator into the logger that answers,
 /// as sentences for people. Empty when nothing does.
 std::vector<Phrase> DoubtsOfWriting(const Configurator& configurator);

@@ -72,6 +72,15 @@ TEST_F(TimerBlocks, WhatALineOfADisabledTimerSaysIsKept) {
   EXPECT_EQ(conf.CTimer[3].valid.SIEMPRE, kTrue);
 }
 
+TEST_F(TimerBlocks, AWeekThatFitsNoMaskEnablesNothing) {
+  Receive("CTIMER,3,256,0,86400,60,2");
+  Receive("WTIMER,1,1e9,3600");
+  EXPECT_FALSE(conf.CTimer[3].HABIL);
+  EXPECT_FALSE(conf.WTimer[1].HABIL);
+  Receive("WTIMER,1,255,3600");
+  EXPECT_TRUE(conf.WTimer[1].HABIL);
+}
+
 TEST_F(TimerBlocks, SectionsOfAFile) {
   conf.CTimer[0] = {kTrue, 60.5F, {kFalse, {29'100}, {72'000}, 31}, 3, {}};
   conf.CTimer[0].ACT[7] = 12;

@@ -292,5 +292,19 @@ TEST(Check, FindsThatAFileWasCutAndSaysWhere) {
                "error: [MODBUS 31] NOMBRE: this key and ");
 }
 
+TEST(Check, CountsWithTheFirmwareOfTheLoggerAtThePort) {
+  World world([](sim::Model model) {
+    sim::LoggerOptions options = sim::MakeDefaultOptions(model);
+    options.features = 0;
+    return options;
+  });
+  world.HaveFile("/a.ocf");
+  world.SetKey("/a.ocf", "MTIMER 0", "HABIL", "True");
+  EXPECT_EQ(world.Run("check /a.ocf"), 0);
+  EXPECT_THAT(world.out, testing::Not(HasSubstr("this firmware does not take")));
+  EXPECT_EQ(world.Run("check /a.ocf --port sim:VR200"), 0) << world.err;
+  EXPECT_THAT(world.out, HasSubstr("this firmware does not take"));
+}
+
 }  // namespace
 }  // namespace ostrel::cli

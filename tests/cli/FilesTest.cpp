@@ -115,7 +115,8 @@ TEST(Schedule, TellsFiringsOfTimersAndMacros) {
   for (const std::string moment : {"tomorrow", "2026-02-29", "2026-03-02T8:00", "2026-03-02_08:00"})
     EXPECT_EQ(world.Run("schedule /a.ocf --from " + moment), 2) << moment;
   world.Edit("/a.ocf", "HABIL=True", "HABIL=False");
-  world.Expect("schedule /a.ocf", 0, "/a.ocf: no timer is enabled\n");
+  EXPECT_EQ(world.Run("schedule /a.ocf"), 0);
+  EXPECT_THAT(world.err, testing::EndsWith("/a.ocf: no timer is enabled\n"));
 }
 
 TEST(Diff, TellsDifferencesInWordsAndByExitCode) {
@@ -263,6 +264,36 @@ TEST(Files, AProtectedFileIsReplacedAfterAQuestion) {
   EXPECT_EQ(world.Run("download /a.ocf --yes --port sim:VR200"), 0) << world.err;
   EXPECT_NE(world.files.contents["/a.ocf"], former);
   EXPECT_EQ(world.files.modes["/a.ocf"], 0444);
+}
+
+TEST(Files, OfACutFileEveryReaderTells) {
+  World world;
+  world.HaveFile("/a.ocf");
+  world.HaveFile("/cut.ocf");
+  std::string& cut = world.files.contents["/cut.ocf"];
+  cut.resize(cut.size() / 2);
+  for (const auto* line : {"show /cut.ocf", "statements /cut.ocf", "schedule /cut.ocf",
+                           "diff /a.ocf /cut.ocf", "diff /cut.ocf /a.ocf"}) {
+    world.Run(line);
+    EXPECT_THAT(world.err, HasSubstr("warning: /cut.ocf is not whole: ")) << line;
+  }
+  EXPECT_EQ(world.Run("show /a.ocf"), 0);
+  EXPECT_THAT(world.err, testing::Not(HasSubstr("not whole")));
+}
+
+TEST(Files, CoreTextsAreInTheLanguageOfTheLocale) {
+  World world;
+  world.files.contents["/share/Lang.txt"] =
+      "{Espa\xF1ol}{English}\r\n{Ejecutar macro}{Run macro}\r\n";
+  world.HaveFile("/a.ocf");
+  world.SetKey("/a.ocf", "DIGITAL 0", "ACTHI( 0 0)", " 3");
+  EXPECT_EQ(world.Run("show /a.ocf"), 0);
+  EXPECT_THAT(world.out, HasSubstr("3 - Ejecutar macro"));
+  world.environment.lang = 2;
+  EXPECT_EQ(world.Run("show /a.ocf"), 0);
+  EXPECT_THAT(world.out, HasSubstr("3 - Run macro"));
+  EXPECT_EQ(world.Run("show /a.ocf --lang 1"), 0);
+  EXPECT_THAT(world.out, HasSubstr("3 - Ejecutar macro"));
 }
 
 }  // namespace

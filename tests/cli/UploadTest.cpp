@@ -137,6 +137,55 @@ TEST(Upload, SaysWhyItFailedAndHowTheLoggerStands) {
                                    "which is not verified"));
 }
 
+TEST(Upload, OneWordSendsTheFileOfAnotherModel) {
+  World world;
+  world.HaveFile("/ka1.ocf", "KA1");
+  for (const auto* line :
+       {"upload /ka1.ocf --port sim:VR200", "upload /ka1.ocf --yes --port sim:VR200"}) {
+    EXPECT_EQ(world.Run(line), 5);
+    EXPECT_THAT(world.err, HasSubstr("is for the model Ostrel KA1, and the logger is of the model "
+                                     "Ostrel VR200. Nothing was sent: --force sends it"));
+  }
+  EXPECT_EQ(world.Logger().UploadsTaken(), 0U);
+  EXPECT_EQ(world.Run("upload /ka1.ocf --dry-run --port sim:VR200"), 0);
+  EXPECT_EQ(world.Run("upload /ka1.ocf --force --port sim:VR200"), 4) << "it is sent";
+  EXPECT_THAT(world.err, HasSubstr("the logger refused statement"));
+  const std::size_t told = world.err.find("forced: the logger says");
+  ASSERT_NE(told, std::string::npos) << world.err;
+  EXPECT_EQ(world.err.find("forced: the logger says", told + 1), std::string::npos) << "once";
+}
+
+TEST(Upload, WhatIsNotSentIsNoDifference) {
+  World world([](sim::Model model) {
+    sim::LoggerOptions options = sim::MakeDefaultOptions(model);
+    options.features = 0;
+    return options;
+  });
+  world.HaveFile("/a.ocf");
+  world.SetKey("/a.ocf", "MTIMER 0", "HABIL", "True");
+  EXPECT_EQ(world.Run("upload /a.ocf --json --port sim:VR200"), 0) << world.err;
+  const QJsonObject result = world.Json().object();
+  EXPECT_TRUE(result["verified"].toBool());
+  EXPECT_TRUE(result["differences"].toArray().isEmpty());
+  EXPECT_EQ(result["notSent"].toArray().at(0).toObject()["section"].toString(), "MTIMER 0");
+}
+
+TEST(Upload, ShowsPasswordsThatCameBackOtherwiseWhenAsked) {
+  World world;
+  world.HaveFile("/a.ocf");
+  world.SetKey("/a.ocf", "GPRS", "APN_PASS", "sent");
+  world.Logger().OnExchange([&](const sim::Exchange& exchange) {
+    if (!exchange.request.starts_with("#46")) return;
+    sim::Configuration conf = world.Logger().Conf();
+    conf.gprs.apnPassword = "held";
+    world.Logger().SetConf(conf);
+  });
+  EXPECT_EQ(world.Run("upload /a.ocf --port sim:VR200"), 1) << world.err;
+  EXPECT_THAT(world.out, testing::Not(HasSubstr("held")));
+  EXPECT_EQ(world.Run("upload /a.ocf --secrets --port sim:VR200"), 1);
+  EXPECT_THAT(world.out, HasSubstr("\"sent\" -> \"held\""));
+}
+
 /// A copy goes back with the texts that its file does not keep; one of another logger does not go
 /// without a question.
 TEST(Upload, ASafetyCopyIsWrittenBack) {
@@ -173,7 +222,6 @@ TEST(Upload, RefusesWhatWouldHarmTheLogger) {
   std::string& cut = world.files.contents["/cut.ocf"];
   cut.resize(cut.find("NOMBRE", cut.find("[General]")));
   for (const auto& [line, says] : std::vector<std::pair<std::string, std::string>>{
-           {"/ka1.ocf", "/ka1.ocf is for another model: --yes with --force sends it"},
            {"/ka1.ocf --yes --target KA1",
             "the logger says that it is the model Ostrel VR200, and "
             "the model chosen is Ostrel KA1"},

@@ -56,6 +56,29 @@ TEST(Voice, IsWrittenFromTextAndConfiguration) {
   EXPECT_EQ(world.Held().macro, 3);
 }
 
+TEST(Voice, AnEmptyListIsAskedAndACutFileIsLeftAlone) {
+  VoiceWorld world;
+  world.HaveFile("/a.ocf");  // a download never carries the list
+  world.SetKey("/a.ocf", "AUT_VOZ", "MACRO", "-1");
+  world.files.contents["/none.txt"] = "";
+  for (const auto* file : {"/a.ocf", "/none.txt"}) {
+    EXPECT_EQ(world.Voice(std::string("write ") + file), 5);
+    EXPECT_THAT(world.err, HasSubstr("the logger would lose all numbers of its list. --yes"));
+    EXPECT_EQ(world.Held().numbers.size(), 3U);
+  }
+  world.environment.errIsTerminal = true;
+  EXPECT_EQ(world.Voice("read /a.ocf"), 0);
+  EXPECT_THAT(world.err, HasSubstr("voice-call list [")) << "it shows how far it is";
+  std::string& cut = world.files.contents["/a.ocf"];
+  cut.resize(cut.size() / 2);
+  const std::string before = cut;
+  EXPECT_EQ(world.Voice("read /a.ocf"), 5);
+  EXPECT_THAT(world.err, HasSubstr("mend the file first"));
+  EXPECT_EQ(world.files.contents["/a.ocf"], before);
+  EXPECT_EQ(world.Voice("write /none.txt --yes"), 0) << world.err;
+  EXPECT_TRUE(world.Held().numbers.empty());
+}
+
 TEST(Voice, RefusesWhatIsNoListOrNoMacro) {
   VoiceWorld world;
   world.files.contents["/list.txt"] = "801\nAna\n";

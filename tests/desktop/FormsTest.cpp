@@ -3,6 +3,7 @@
 #include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QAbstractSpinBox>
+#include <QApplication>
 #include <QComboBox>
 #include <QDirIterator>
 #include <QFile>
@@ -114,6 +115,23 @@ TEST_P(AllForms, FitIntoTheSmallestScreenInBothLanguages) {
       }
     }
   }
+}
+
+TEST_P(AllForms, TheGeneralPageHasRoomInALargerFont) {
+  const QFont usual = QApplication::font();
+  QFont larger = usual;
+  larger.setPointSize(12);
+  QApplication::setFont(larger);
+  MainWindow& window = desktop->Window();
+  window.resize(1280, 720);
+  window.show();
+  UseLanguage("es");
+  window.GoTo("General");
+  window.Pages().Redraw();
+  QCoreApplication::processEvents();
+  EXPECT_LE(window.Pages().Front()->minimumSizeHint().width(), window.Pages().width());
+  QApplication::setFont(usual);
+  UseLanguage("en");
 }
 
 INSTANTIATE_TEST_SUITE_P(Models, AllForms,

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <QClipboard>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -72,8 +73,15 @@ struct OverviewS100 : OverviewOf {
 
 TEST_F(OverviewBP, ABadNumberSaysWhatItCountsAsAndACommaIsPutRight) {
   GoTo("E_Analog_1");
+  const QRect place = On(*desktop, "IE")->geometry();
   Type(On(*desktop, "IE"), "1.2.3");
   EXPECT_EQ(Bubble(), "This is not a number of the kind expected here. It counts as 1.2.");
+  auto* strip = desktop->Window().findChild<QLabel*>("Notes");
+  On(*desktop, "EqIE")->setFocus();
+  QCoreApplication::processEvents();
+  EXPECT_TRUE(strip->isVisible() && strip->text().contains("It counts as 1.2."))
+      << "for all to see";
+  EXPECT_EQ(On(*desktop, "IE")->geometry(), place) << "a mark takes no room";
   Type(On(*desktop, "FE"), "0,9");
   EXPECT_EQ(Bubble(), "") << "the other box has the focus";
   EXPECT_EQ(On<QLineEdit>(*desktop, "FE")->text(), "0,9") << "it is being typed";
@@ -115,6 +123,12 @@ TEST_F(OverviewBP, FindingsStandAtTheirFieldsAndAPanelLeadsThere) {
   Type(On(*desktop, "Persist"), "3");
   Pass();
   EXPECT_EQ(NoteOf("Persist"), "");
+  EXPECT_TRUE(desktop->Window().Pages().Front()->findChildren<QWidget*>("NoteMark").size() > 0);
+  desktop->Core().conf = DeviceConf{};
+  desktop->Core().ShowConfiguration(desktop->Core().conf);
+  Pass();
+  EXPECT_TRUE(desktop->Window().Pages().Front()->findChildren<QWidget*>("NoteMark").isEmpty())
+      << "marks go with what they told";
   EXPECT_TRUE(Findings()->findItems("100000", Qt::MatchContains, 3).empty());
 }
 
@@ -172,6 +186,48 @@ TEST_F(OverviewS100, AGroupIsATableOfItsChannelsThatOpensThem) {
   GoTo("Caudal");
   EXPECT_TRUE(On(*desktop, "ComboT(0)")->isVisible()) << "the page of the group is there, too";
   EXPECT_EQ(Table()->rowCount(), 2);
+}
+
+TEST_F(OverviewBP, TimersAreTablesThatOpenThem) {
+  desktop->Core().conf.LTimer[6] = {kTrue, 5, {}};
+  GoTo("LTimer");
+  EXPECT_EQ(Table()->rowCount(), 16);
+  Table()->cellActivated(6, 0);
+  EXPECT_TRUE(desktop->Window().Pages().isVisible());
+  EXPECT_EQ(On<QLineEdit>(*desktop, "Period(2)")->text().trimmed(), "5");
+  Type(On(*desktop, "Period(2)"), "9");
+  GoTo("Timer");
+  auto* timers = desktop->Window().findChild<QWidget*>("Timers")->findChild<QTableWidget*>();
+  ASSERT_TRUE(timers->isVisible());
+  EXPECT_EQ(timers->item(0, 0)->text() + ": " + timers->item(0, 1)->text(),
+            "long timer 6: every 9 days");
+  GoTo("General");
+  timers->cellActivated(0, 0);
+  EXPECT_EQ(On<QLineEdit>(*desktop, "Period(2)")->text().trimmed(), "9");
+}
+
+TEST_F(OverviewBP, AListOfActionsIsCopiedToAnother) {
+  ConfDigital& input = desktop->Core().conf.Digital[4];
+  input.ALARM[0].common.HABIL = kTrue;
+  input.ALARM[0].common.ACTHI[0] = 13;
+  input.ALARM[0].common.ACTHI[1] = 8;
+  input.ALARM[0].common.ACTLO[0] = 3;
+  GoTo("E_Digital_4");
+  const auto press = [&](const char* list, const char* name) {
+    dialogs.OnModal([&, name](Modal& modal) {
+      Form& form = AsForm(modal);
+      const std::unique_ptr<FormView> view(MakeView(form, desktop->Window().Context()));
+      view->findChild<QPushButton*>(name)->click();
+      form.Get<Button>("OKButton").Click();
+    });
+    Click(On(*desktop, list));
+  };
+  press("BotonAlto", "CopyList");
+  press("BotonBajo", "PasteList");
+  EXPECT_EQ(input.ALARM[0].common.ACTLO, input.ALARM[0].common.ACTHI);
+  QApplication::clipboard()->setText("nothing of the kind");
+  press("BotonBajo", "PasteList");
+  EXPECT_EQ(input.ALARM[0].common.ACTLO, input.ALARM[0].common.ACTHI);
 }
 
 TEST_F(OverviewBP, ActionsAreCountedFoundMovedAndTakenOut) {

@@ -1,6 +1,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
 #include <set>
 
 #include "base/Help.h"
@@ -11,12 +14,13 @@
 #include "desktop/program/Language.h"
 #include "desktop/program/PortWatch.h"
 #include "desktop/window/FaultText.h"
+#include "platform/qt/QtProcesses.h"
 #include "platform/virtual/LinePort.h"
 #include "platform/virtual/VirtualClock.h"
 #include "platform/virtual/VirtualDialogs.h"
 #include "platform/virtual/VirtualLoop.h"
-#include "platform/virtual/VirtualProcesses.h"
 #include "shell/FaultWords.h"
+#include "shell/check/CheckRules.h"
 #include "shell/schedule/ScheduleWords.h"
 
 namespace ostrel {
@@ -34,6 +38,18 @@ TEST(FaultText, IsSentencesOfTheWindowsLanguage) {
             "stays in force.");
   EXPECT_TRUE(FaultText({.link = {LinkFault::Kind::LineLost, 0, ""}}, "usb").startsWith("usb has"))
       << "a name keeps its letters";
+}
+
+TEST(FaultText, TranslatesAPhraseWithinAPhrase) {
+  UseLanguage("es");
+  const QString text = SentenceOf(
+      {"the check finds %1 error(s), the first: %2",
+       {"2"},
+       {FindingPhrase(
+           {"WTIMER 0", "HABIL", {"the timer is enabled, but on no day: choose days"}})}});
+  EXPECT_TRUE(text.contains("[WTIMER 0] HABIL: ")) << FromQt(text);
+  EXPECT_FALSE(text.contains("the timer")) << FromQt(text);
+  UseLanguage("en");
 }
 
 TEST(FaultText, HasSpanishForEachPhrase) {
@@ -66,16 +82,44 @@ TEST(FaultText, HasSpanishForEachPhrase) {
   UseLanguage("en");
 }
 
-TEST(Help, SaysBrieflyWhenThereIsNone) {
-  VirtualProcesses real;
+TEST(Help, SuppliedPagesComeFirstThenOurOwn) {
+  std::vector<std::string> opened;
+  QtProcesses real([&](const std::string& path) {
+    opened.push_back(path);
+    return true;
+  });
   VirtualDialogs dialogs;
-  HelpProcesses processes(real, dialogs);
-  EXPECT_TRUE(ShowHelp(processes, "/opt", "General"));
+  QTemporaryDir supply;
+  const std::string supplied = FromQt(supply.path());
+  const std::string own =
+      FromQt(QCoreApplication::applicationDirPath()) + "/../share/ostrel-configurator/help";
+  HelpProcesses processes(real, dialogs, own);
+  for (const char* language : {"en", "es"}) {
+    UseLanguage(language);
+    for (const auto* word :
+         {"General",  "Digital", "Analog",     "Group",   "Flow",       "FlowC",
+          "Flag",     "Math",    "Probe",      "MODBUS",  "MODBUSC",    "CT",
+          "WT",       "MT",      "LT",         "Macros",  "GPRS",       "Voice",
+          "Firmware", "ExpNone", "ExpDigital", "ExpFlow", "ExpCounter", "ExpAnalog"}) {
+      ASSERT_TRUE(ShowHelp(processes, supplied, word)) << word;
+      QFile page(ToQt(opened.back()));
+      ASSERT_TRUE(page.open(QIODevice::ReadOnly));
+      const QString text = QString::fromUtf8(page.readAll());
+      EXPECT_TRUE(text.contains("<h1>") && text.contains("<li><b>")) << opened.back();
+      EXPECT_FALSE(text.contains("**") || text.contains("](")) << opened.back();
+      EXPECT_EQ(text.contains("lang=\"es\""), *language == 'e' && language[1] == 's');
+    }
+  }
+  UseLanguage("en");
+  QDir(supply.path()).mkdir("html");
+  QFile page(supply.filePath("html/Digital_ES.htm"));
+  ASSERT_TRUE(page.open(QIODevice::WriteOnly));
+  EXPECT_TRUE(ShowHelp(processes, supplied, "Digital"));
+  EXPECT_EQ(opened.back(), supplied + "/html/Digital_ES.htm");
   EXPECT_TRUE(dialogs.boxes.empty());
-  real.fails = true;
-  EXPECT_FALSE(ShowHelp(processes, "/opt", "General"));
-  ASSERT_EQ(dialogs.boxes.size(), 1u);
-  EXPECT_FALSE(processes.Start("other"));
+  EXPECT_FALSE(ShowHelp(processes, supplied, "none"));
+  EXPECT_EQ(dialogs.boxes.size(), 1u);
+  EXPECT_FALSE(processes.Start("/no/such/program"));
   EXPECT_EQ(dialogs.boxes.size(), 1u);
 }
 

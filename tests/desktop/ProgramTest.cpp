@@ -31,7 +31,8 @@ TEST(Program, InstallsAndRunsFromAnEmptyFolder) {
   RunProgram("cmake", {"--install", build, "--prefix", folder.path()});
   for (const auto* file :
        {"bin/ostrel-configurator", "bin/ostrelctl", "bin/ostrel-sim",
-        "share/ostrel-configurator/Lang.txt", "share/applications/ostrel-configurator.desktop",
+        "share/ostrel-configurator/Lang.txt", "share/ostrel-configurator/help/Digital_ES.htm",
+        "share/applications/ostrel-configurator.desktop",
         "share/icons/hicolor/scalable/apps/ostrel-configurator.svg",
         "share/mime/packages/ostrel-configurator.xml", "share/man/man1/ostrel-configurator.1",
         "share/man/man1/ostrelctl.1", "share/man/man1/ostrel-sim.1",

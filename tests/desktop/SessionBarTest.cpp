@@ -172,14 +172,65 @@ TEST_F(OnEveryPage, LeavingAVoiceListThatIsBeingWrittenIsAsked) {
   Window().GoTo("Aut_Voz");
   loop.RunFor(seconds(2));
   loop.After(seconds(2), "close", [&] {
-    EXPECT_TRUE(Core().session.WritesVoiceList());
+    EXPECT_EQ(Core().session.VoiceList(), ListWork::Writing);
+    EXPECT_EQ(LinkWords(), "Escribiendo la lista de voz");
     EXPECT_FALSE(Window().close()) << "it asks";
     ASSERT_NE(Box(), nullptr);
     Box()->reject();
   });
   Core().PageOf(PageId::Aut_Voz)->GetForm().Get<Button>("WriteBut").Click();
-  EXPECT_FALSE(Core().session.WritesVoiceList());
+  EXPECT_EQ(Core().session.VoiceList(), ListWork::None);
   EXPECT_EQ(logger->Conf().voice.numbers.size(), 50U) << "and goes on meanwhile";
+}
+
+TEST_F(OnEveryPage, AVoiceListIsAskedAboutAndCancelledWithItsWords) {
+  port.SetPaced(true);
+  Connect(seconds(15));
+  Window().GoTo("Aut_Voz");
+  loop.RunFor(seconds(2));
+  Button& write = Core().PageOf(PageId::Aut_Voz)->GetForm().Get<Button>("WriteBut");
+  const auto held = logger->Conf().voice.numbers;
+  for (const std::vector<std::string>& numbers : {std::vector<std::string>{}, {"600", "six"}}) {
+    SetNumbers(Core().conf.AutVoz, numbers);
+    Core().PageOf(PageId::Aut_Voz)->LoadData();
+    dialogs.Answer(BoxAnswer::No);
+    write.Click();
+    ASSERT_FALSE(dialogs.boxes.empty());
+    EXPECT_TRUE(dialogs.boxes.back().prefersNo) << dialogs.boxes.back().text;
+    EXPECT_EQ(dialogs.Unused(), 0U) << "it was asked";
+  }
+  EXPECT_EQ(logger->Conf().voice.numbers, held);
+  SetNumbers(Core().conf.AutVoz, std::vector<std::string>(50, "600123456"));
+  Core().PageOf(PageId::Aut_Voz)->LoadData();
+  loop.After(seconds(2), "cancel", [&] { SessionTool("CancelTool")->trigger(); });
+  write.Click();
+  EXPECT_EQ(Strip(),
+            "Interrupted. The logger's voice-call list may be erased or incomplete: write it "
+            "again.");
+}
+
+TEST_F(OnEveryPage, AReadingCoversWhatItEmptiesAndItsBarTellsOfSuccessAlone) {
+  port.SetPaced(true);
+  Connect(seconds(15));
+  const auto bar = [&] {
+    Window().GoTo("General");
+    return On(*desktop, "PBar")->isVisibleTo(&Window());
+  };
+  const auto covers = [&] { return Window().Pages().findChildren<QLabel*>("Cover").size(); };
+  EXPECT_FALSE(bar());
+  SessionTool("ReadTool")->trigger();
+  loop.After(seconds(4), "look", [&] {
+    EXPECT_EQ(covers(), 2) << "name and telephones";
+    Window().GoTo("E_Digital_3");
+    EXPECT_EQ(covers(), 1) << "the whole page";
+  });
+  loop.RunFor(seconds(60));
+  EXPECT_EQ(covers(), 0);
+  EXPECT_TRUE(bar());
+  SessionTool("ReadTool")->trigger();
+  loop.After(seconds(4), "cancel", [&] { SessionTool("CancelTool")->trigger(); });
+  loop.RunFor(seconds(10));
+  EXPECT_FALSE(bar()) << "it tells of no success";
 }
 
 TEST_F(OnEveryPage, LeavingAWritingBreaksItOff) {

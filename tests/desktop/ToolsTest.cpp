@@ -336,26 +336,6 @@ TEST_F(WindowTools, IsTitledByTheFileThatItWorksOn) {
   EXPECT_TRUE(Window().windowTitle().startsWith("Quorvane Tavro BP")) << "it is the logger's now";
 }
 
-TEST_F(WindowTools, ComparesWithAFileWithoutTouchingAnything) {
-  UseLanguage("en");
-  Core().ConfFilePath = Path("a.ocf");
-  ASSERT_TRUE(Core().SaveConf().Ok());
-  Window().GoTo("E_Digital_2");
-  Core().PageOf(PageId::E_Digital)->GetForm().Get<TextBox>("Nombre").Type("door");
-  dialogs.ChoosePath(Path("a.ocf"));
-  ModalScript modals;
-  modals.Expect([](QWidget* modal) {
-    auto* table = modal->findChild<QTableWidget*>();
-    ASSERT_EQ(table->rowCount(), 1);
-    EXPECT_EQ(table->item(0, 0)->text() + table->item(0, 2)->text(), "DIGITAL 2door");
-    EXPECT_EQ(modal->findChild<QLabel*>("Summary")->text(), "1 field differs.");
-    Press(modal, Qt::Key_Escape);
-  });
-  Tool("Comparar")->trigger();
-  EXPECT_EQ(modals.Left(), 0u);
-  EXPECT_EQ(Core().conf.Digital[2].NOMBRE, "");
-}
-
 TEST_F(WindowTools, ShowsWhenTimersFireAsThePageInFrontHasThem) {
   Core().conf.LTimer[0] = {kTrue, 5, {}};
   Core().conf.LTimer[0].ACT[0] = 3;

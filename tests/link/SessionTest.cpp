@@ -263,6 +263,19 @@ TEST_F(SessionTest, NamesComeFromTheirFields) {
               ElementsAre("2", "3", "4", "5", "6", "7", "8", "9", "10", ""));
 }
 
+/// A dialogue whose answer lies there, because a question to the operator stands, is not silent.
+TEST_F(SessionTest, WhatHasComeAndIsNotTakenIsNoSilence) {
+  At(milliseconds(20), [this] {
+    loop.RunFor(seconds(3));
+    EXPECT_GT(comms.SilentFor(), seconds(2));
+    logger.end->Send("x");
+    loop.RunFor(seconds(8));
+    EXPECT_EQ(comms.SilentFor(), Duration::zero());
+    EXPECT_EQ(comms.UnansweredFor(), Duration::zero());
+  });
+  comms.ReadTotalCount();
+}
+
 TEST_F(SessionTest, TotalsAreCutToWholeNumbers) {
   logger.Next("#20", Frames("#DD,9"));
   logger.Next("#20", Frames("#DF,7.9,-7.9,3000000000,4"));

@@ -102,6 +102,8 @@ TEST_F(ReportPages, LinesAreTakenBackForEditing) {
   EXPECT_EQ(edit("F3={D0&D1}"), "D0&D1|");
   EXPECT_EQ(edit("MACRO7={S0=1}"), "old|oldName!") << "it says why nothing changes";
   EXPECT_THAT(Message(), HasSubstr("no tiene nombre"));
+  EXPECT_EQ(edit("F3={MACRO1}"), "old|oldName!");
+  EXPECT_THAT(Message(), HasSubstr("La ecuacion nombra una macro"));
   EXPECT_EQ(edit("F3"), "old|oldName!");
 }
 

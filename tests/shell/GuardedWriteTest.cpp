@@ -103,6 +103,29 @@ TEST_F(Writing, NothingIsSentWithoutACopyOrAConsent) {
   EXPECT_EQ(world.logger->UploadsTaken(), 0U);
 }
 
+/// The safety copy is a reading, but not of what the pages show.
+TEST_F(Writing, ADeclinedOneForgetsNotWhatTheFileLacked) {
+  Begin("Ostrel VR200");
+  program.SetOrigin({.isKnown = true, .lacking = Phrase("something")});
+  WriteRoad road = Road();
+  road.mayWrite = [](const Comparison&) { return false; };
+  ASSERT_EQ(WriteGuarded(program, road).end, WriteEnd::Declined);
+  EXPECT_TRUE(program.WhereFrom().lacking.has_value());
+  EXPECT_TRUE(WriteGuarded(program, Road()).IsAsSent());
+  EXPECT_FALSE(program.WhereFrom().lacking.has_value()) << "a logger holds just this now";
+}
+
+TEST_F(Writing, AFormerLoggersNumberIsGoneWhenAnotherIsDoubted) {
+  Begin("Ostrel VR200");
+  ASSERT_FALSE(program.info.SerialNumber.empty());
+  program.session.Close(false);
+  program.TargetDeviceChange("Ostrel KA1");
+  std::string serial = "not doubted";
+  program.session.OnModelDoubt = [&](const Phrase&) { serial = program.info.SerialNumber; };
+  ASSERT_TRUE(program.session.Open(SimWorld::kPort, ""));
+  EXPECT_EQ(serial, "");
+}
+
 TEST_F(Writing, AFailedReadingPutsBackWhatWasThere) {
   Begin("Ostrel VR200");
   program.conf.General.DNAME = "Pozo";

@@ -37,6 +37,19 @@ TEST_F(Lifecycle, TheFirstRunAsksForLanguageAndModel) {
   EXPECT_EQ(world.Stored("Idioma"), "2") << "the end of the run does not undo the choice";
 }
 
+TEST_F(Lifecycle, WithoutATableItsOwnLanguageIsOffered) {
+  world.files.contents.erase(World::kLangFile);
+  world.dialogs.OnModal([](Modal& modal) {
+    Form& form = AsForm(modal);
+    ASSERT_EQ(form.Get<ComboBox>("ComboLang").Rows().size(), 1U);
+    EXPECT_EQ(form.Get<ComboBox>("ComboLang").Text(), "Español");
+    form.Get<Button>("CommandOk").Click();
+  });
+  Configurator program(world.platform, world.Options(true));
+  program.Start("");
+  EXPECT_EQ(world.Stored("Idioma"), "1");
+}
+
 TEST_F(Lifecycle, AFirstRunIsOneThatLacksEitherSetting) {
   for (const char* lost : {"Idioma", "ComPort"}) {
     KnowEverything();

@@ -51,6 +51,11 @@ TEST(SimOptions, AnExchangeIsOneLine) {
                           .frames = 3,
                           .note = "all"}),
             "1.042  #42 -> #BD000DNAME,Dep\xC3\xB3sito and 2 more  (all)");
+  EXPECT_EQ(ExchangeLine({.at = {},
+                          .request = "#42",
+                          .reply = "#BD007GPRS,apn,clave,user,1,2,3,1.2.3.4,5,6,0,1",
+                          .note = {}}),
+            "0.000  #42 -> #BD007GPRS,apn,****,user,1,2,3,1.2.3.4,5,6,0,1");
   for (const auto& [request, told] : std::vector<std::pair<std::string, std::string>>{
            {"#114711", "#11****"},
            {"#45101APNPASS=clave", "#45101APNPASS=****"},

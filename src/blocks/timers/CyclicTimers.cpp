@@ -14,7 +14,7 @@ void ReadCyclicTimer(LineReader& line, DeviceConf& conf, const DeviceInfo&) {
   SetRange(timer.valid, start, stop, week);
   line.Into(timer.PERIOD);
   line.Into(timer.EQ);
-  timer.HABIL = Bool16(timer.PERIOD > 0 && week >= 1);
+  timer.HABIL = Bool16(timer.PERIOD > 0 && NamesDays(week));
 }
 
 }  // namespace

@@ -21,7 +21,7 @@ const std::array<LineSection, 2> WeeklyTimers::kLines{{
        const double week = line.Number();
        Assign(timer.SEMANA, week);
        SetTime(timer.INICIO, line.Number());
-       timer.HABIL = Bool16(week >= 1);
+       timer.HABIL = Bool16(NamesDays(week));
      }},
     {"WTIMER.ACTION",
      [](LineReader& line, DeviceConf& conf, const DeviceInfo&) {

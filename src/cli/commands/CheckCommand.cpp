@@ -1,6 +1,7 @@
 #include <algorithm>
 
 #include "cli/commands/Commands.h"
+#include "cli/commands/OnlineCommand.h"
 #include "shell/check/CheckRules.h"
 
 namespace ostrel::cli {
@@ -35,6 +36,16 @@ void PrintFound(std::ostream& out, const std::vector<FoundByRule>& found) {
         << ")\n";
 }
 
+ExitCode Report(CommandContext& context, const CheckOptions& options,
+                const std::vector<FoundByRule>& found) {
+  const auto errors = static_cast<std::size_t>(std::ranges::count_if(
+      found, [](const FoundByRule& one) { return one.rule->severity == Severity::Error; }));
+  context.Show({[&] { return FoundJson(options.file, found, errors); },
+                [&](std::ostream& out) { PrintFound(out, found); }});
+  if (found.empty()) context.console.Note(options.file + ": nothing found");
+  return errors > 0 ? ExitCode::Differences : ExitCode::Done;
+}
+
 ExitCode RunCheck(CommandContext& context, const CheckOptions& options) {
   for (const std::string& id : options.silenced)
     if (std::ranges::find(Rules(), id, &Rule::id) == Rules().end())
@@ -43,14 +54,11 @@ ExitCode RunCheck(CommandContext& context, const CheckOptions& options) {
   if (!configuration) return ExitCode::BadFile;
   IniClass document(context.platform.files);
   document.OpenINI(options.file, false);
-  const Examined file(*configuration, context.options.features, document, context.Translator());
-  const std::vector<FoundByRule> found = Examine(file, options.silenced);
-  const auto errors = static_cast<std::size_t>(std::ranges::count_if(
-      found, [](const FoundByRule& one) { return one.rule->severity == Severity::Error; }));
-  context.Show({[&] { return FoundJson(options.file, found, errors); },
-                [&](std::ostream& out) { PrintFound(out, found); }});
-  if (found.empty()) context.console.Note(options.file + ": nothing found");
-  return errors > 0 ? ExitCode::Differences : ExitCode::Done;
+  return WithFeatures(context, options.file, [&](std::optional<std::int32_t> features) {
+    return Report(context, options,
+                  Examine(Examined(*configuration, features, document, context.Translator()),
+                          options.silenced));
+  });
 }
 
 std::string RuleList() {

@@ -1,3 +1,4 @@
+#include "cli/ConfFile.h"
 #include "cli/DifferenceText.h"
 #include "cli/commands/Commands.h"
 #include "cli/commands/OnlineCommand.h"
@@ -28,8 +29,8 @@ ExitCode Report(CommandContext& context, const DiffOptions& options, const Compa
 }
 
 ExitCode DiffFiles(CommandContext& context, const DiffOptions& options) {
-  const auto a = context.OpenFile(options.a);
-  const auto b = a ? context.OpenFile(options.b) : std::nullopt;
+  const auto a = OpenAndTell(context, options.a);
+  const auto b = a ? OpenAndTell(context, options.b) : std::nullopt;
   if (!b) return ExitCode::BadFile;
   const auto features = context.options.features;
   return Report(context, options, Compare(*a, *b, features, context.ShownPasswords()), features);
@@ -37,7 +38,7 @@ ExitCode DiffFiles(CommandContext& context, const DiffOptions& options) {
 
 ExitCode DiffWithPort(CommandContext& context, const DiffOptions& options, const std::string& file,
                       bool isPortFirst) {
-  const auto other = context.OpenFile(file);
+  const auto other = OpenAndTell(context, file);
   if (!other) return ExitCode::BadFile;
   return RunOnline(context, file, [&](Online& online) {
     const ExitCode downloaded = online.session.Download();

@@ -1,4 +1,5 @@
 #include "blocks/FileKeys.h"
+#include "cli/ConfFile.h"
 #include "cli/commands/Commands.h"
 #include "cli/commands/OnlineCommand.h"
 #include "shell/schedule/ScheduleWords.h"
@@ -74,7 +75,7 @@ void Print(std::ostream& out, CommandContext& context, const TargetProfile& prof
 }
 
 ExitCode RunSchedule(CommandContext& context, const ScheduleOptions& options) {
-  const auto configuration = context.OpenFile(options.file);
+  const auto configuration = OpenAndTell(context, options.file);
   if (!configuration) return ExitCode::BadFile;
   const auto& [profile, conf] = *configuration;
   const DateTime from = ReadDateTime(options.from).value_or(context.platform.clock.LocalNow());

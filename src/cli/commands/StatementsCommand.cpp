@@ -49,7 +49,7 @@ ExitCode Report(CommandContext& context, const std::string& file,
 }
 
 ExitCode RunStatements(CommandContext& context, const std::string& file) {
-  const auto configuration = context.OpenFile(file);
+  const auto configuration = OpenAndTell(context, file);
   if (!configuration) return ExitCode::BadFile;
   return WithFeatures(context, file, [&](std::optional<std::int32_t> features) {
     return Report(context, file, *configuration, features);

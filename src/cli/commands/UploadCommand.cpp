@@ -1,3 +1,5 @@
+#include <set>
+
 #include "cli/ConfFile.h"
 #include "cli/DifferenceText.h"
 #include "cli/commands/Commands.h"
@@ -64,7 +66,11 @@ ExitCode Report(Online& online, const UploadOptions& options, const DeviceConf& 
                                        ComposeStatements(sent, {configurator.profile, features})));
                   json["backup"] = result.backup.empty() ? Json() : Json(result.backup);
                   json["verified"] = result.comparison ? Json(isSame) : Json();
-                  if (result.comparison) json["differences"] = DifferencesJson(*result.comparison);
+                  if (result.comparison) {
+                    // What this logger does not get cannot come back.
+                    json["differences"] = DifferencesJson(*result.comparison, true);
+                    json["notSent"] = DifferencesJson(*result.comparison, false);
+                  }
                   return json;
                 },
                 [&](std::ostream& out) {
@@ -79,17 +85,27 @@ ExitCode Report(Online& online, const UploadOptions& options, const DeviceConf& 
   return ExitCode::Done;
 }
 
-/// Refuses what speaks against writing a file, unless it is forced: errors that `check` finds, and
-/// a logger that is of another model than the one chosen.
-ExitCode Refuse(CommandContext& context, const UploadOptions& options,
-                const std::vector<std::string>& doubts) {
-  if (doubts.empty()) return ExitCode::Done;
-  if (!options.force)
-    return context.console.Fail(
-        ExitCode::BadFile, doubts.front() + ". Nothing was sent: --force sends it all the same");
-  for (const std::string& doubt : doubts) context.console.Note("forced: " + doubt);
-  return ExitCode::Done;
-}
+/// Refuses what speaks against writing a file, unless it is forced: errors that `check` finds, a
+/// file or a logger of another model than the one chosen. What is forced is told once.
+class Refusal {
+ public:
+  Refusal(CommandContext& context, bool isForced) : context_(context), isForced_(isForced) {}
+
+  ExitCode Of(const std::vector<std::string>& doubts) {
+    if (doubts.empty()) return ExitCode::Done;
+    if (!isForced_)
+      return context_.console.Fail(
+          ExitCode::BadFile, doubts.front() + ". Nothing was sent: --force sends it all the same");
+    for (const std::string& doubt : doubts)
+      if (told_.insert(doubt).second) context_.console.Note("forced: " + doubt);
+    return ExitCode::Done;
+  }
+
+ private:
+  CommandContext& context_;
+  bool isForced_;
+  std::set<std::string> told_;
+};
 
 std::vector<std::string> DoubtsOfFile(CommandContext& context, const UploadOptions& options,
                                       const ModelConfiguration& configuration) {
@@ -109,7 +125,7 @@ std::vector<std::string> DoubtsOfModel(const Configurator& configurator) {
 }
 
 /// Writes with safety copy and verification, as far as the options want them.
-ExitCode Send(Online& online, const UploadOptions& options) {
+ExitCode Send(Online& online, const UploadOptions& options, Refusal& refusal) {
   CommandContext& context = online.context;
   UploadResult result;
   ExitCode code = ExitCode::Done;
@@ -119,10 +135,11 @@ ExitCode Send(Online& online, const UploadOptions& options) {
   };
   WriteRoad road{.read = [&] { return step(online.session.Download()); },
                  .write = [&] { return step(online.session.Upload()); },
-                 .verify = !options.noVerify};
+                 .verify = !options.noVerify,
+                 .passwords = context.ShownPasswords()};
   if (!options.noBackup)
     road.keep = [&](const DeviceConf& held) {
-      if (!step(Refuse(context, options, DoubtsOfModel(online.configurator)))) return false;
+      if (!step(refusal.Of(DoubtsOfModel(online.configurator)))) return false;
       return step(SaveBackup(context, online.configurator, held, result.backup));
     };
   const WriteResult written = WriteGuarded(online.configurator, road);
@@ -133,8 +150,8 @@ ExitCode Send(Online& online, const UploadOptions& options) {
 
 /// Loads the file into the configurator of a session. A file of another model than the logger's is
 /// for another logger, most likely.
-ExitCode LoadFile(CommandContext& context, Configurator& configurator,
-                  const UploadOptions& options) {
+ExitCode LoadFile(CommandContext& context, Configurator& configurator, const UploadOptions& options,
+                  Refusal& refusal) {
   const std::string& file = options.file;
   const std::string model = configurator.profile.TargetName;
   const auto read = context.OpenFile(file);
@@ -144,20 +161,17 @@ ExitCode LoadFile(CommandContext& context, Configurator& configurator,
   const ExitCode made =
       MakeStatements(context, read->conf, {read->profile, kEveryFeature}, statements);
   if (made != ExitCode::Done) return made;
-  const ExitCode refused = Refuse(context, options, DoubtsOfFile(context, options, *read));
+  const ExitCode refused = refusal.Of(DoubtsOfFile(context, options, *read));
   if (refused != ExitCode::Done) return refused;
-  const std::string& fileModel = read->profile.TargetName;
-  if (fileModel != model) configurator.TargetDeviceChange(fileModel);
   configurator.conf = read->conf;
-  if (fileModel == model ||
-      context.dialogs.Confirm(file + " is for the model " + fileModel +
-                              ", the logger is of the model " + model + ". Go on?"))
-    return ExitCode::Done;
-  if (context.dialogs.Left())
-    return context.console.Fail(ExitCode::DialogueFailed,
-                                "interrupted before a session stood: the logger is unchanged");
-  return context.console.Fail(
-      ExitCode::BadFile, file + " is for another model: --yes with --force sends it all the same");
+  const std::string& fileModel = read->profile.TargetName;
+  if (fileModel == model) return ExitCode::Done;
+  configurator.TargetDeviceChange(fileModel);
+  const std::string other =
+      file + " is for the model " + fileModel + ", and the logger is of the model " + model;
+  if (!options.dryRun) return refusal.Of({other});
+  context.console.Note("warning: " + other);
+  return ExitCode::Done;
 }
 
 /// What speaks against a safety copy of another logger than the one that answers.
@@ -194,7 +208,8 @@ ExitCode RunUpload(CommandContext& context, const UploadOptions& options) {
   const auto model = context.ChooseModel(port, options.file);
   if (!model) return ExitCode::Usage;
   const auto configurator = context.MakeOnline(*model);
-  const ExitCode loaded = LoadFile(context, *configurator, options);
+  Refusal refusal(context, options.force);
+  const ExitCode loaded = LoadFile(context, *configurator, options, refusal);
   if (loaded != ExitCode::Done) return loaded;
   LoggerSession session(context, *configurator, port);
   const ExitCode opened = session.Open();
@@ -206,9 +221,9 @@ ExitCode RunUpload(CommandContext& context, const UploadOptions& options) {
   if (options.dryRun)
     return ShowPlan(context, {configurator->profile, configurator->conf},
                     configurator->info.Features);
-  const ExitCode refused = Refuse(context, options, DoubtsOfModel(*configurator));
+  const ExitCode refused = refusal.Of(DoubtsOfModel(*configurator));
   if (refused != ExitCode::Done) return refused;
-  return Send(online, options);
+  return Send(online, options, refusal);
 }
 
 void AddUploadFlags(CLI::App& parser, UploadOptions& options) {

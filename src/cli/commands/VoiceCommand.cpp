@@ -2,11 +2,13 @@
 #include <cctype>
 
 #include "base/Printable.h"
+#include "base/Scope.h"
 #include "blocks/Configuration.h"
 #include "cli/ConfFile.h"
 #include "cli/TransferLine.h"
 #include "cli/commands/Commands.h"
 #include "cli/commands/OnlineCommand.h"
+#include "shell/WriteDoubts.h"
 #include "store/IniClass.h"
 #include "store/IniTool.h"
 
@@ -15,6 +17,7 @@ namespace {
 
 constexpr std::string_view kNoMacroWord = "none";
 constexpr std::string_view kConfigurationEnd = ".ocf";
+constexpr std::string_view kListLabel = "voice-call list";
 constexpr std::string_view kTooMany = "a list has 250 numbers at the most";
 /// Refused lines that are told one by one.
 constexpr std::size_t kRefusedTold = 12;
@@ -63,6 +66,11 @@ ExitCode WantList(const Online& online) {
 ExitCode Read(const Online& online, ConfAutVoz& list) {
   const ExitCode wanted = WantList(online);
   if (wanted != ExitCode::Done) return wanted;
+  TransferWatch& watch = online.configurator.session.Watch();
+  const TransferLine shown(online.context.console, watch, kListLabel,
+                           online.context.environment.errIsTerminal);
+  watch.BeginList(kVoiceNumbers);
+  const AtEnd ended([&] { watch.End(); });
   return online.session.Run([&] { return online.configurator.comms.ReadAutVozList(list); });
 }
 
@@ -102,6 +110,15 @@ ExitCode Written(CommandContext& context, const std::string& path, const FileRes
 ExitCode ReadToConfiguration(CommandContext& context, const std::string& path) {
   auto configuration = context.OpenFile(path);
   if (!configuration) return ExitCode::BadFile;
+  // Saving a file that was cut would make it look whole.
+  IniClass former(context.platform.files);
+  former.OpenINI(path, false);
+  const auto errors = ErrorsIn(*configuration, context.options.features, &former,
+                               context.platform.files, context.Translator());
+  if (!errors.empty())
+    return context.console.Fail(ExitCode::BadFile, path + ": " +
+                                                       FindingText(errors.front().finding) +
+                                                       ". Nothing was read: mend the file first");
   const ExitCode tried = TryToWrite(context, path);
   if (tried != ExitCode::Done) return tried;
   const ExitCode replaced = MayReplace(context, path, configuration->profile);
@@ -233,9 +250,8 @@ ExitCode WriteOnline(Online& online, ConfAutVoz list, bool keepsMacro) {
   TransferWatch& watch = online.configurator.session.Watch();
   ExitCode code = ExitCode::Done;
   {
-    const TransferLine shown(context.console, watch, "voice-call list",
-                             context.environment.errIsTerminal);
-    watch.BeginWriting(list.AutVozCount);
+    const TransferLine shown(context.console, watch, kListLabel, context.environment.errIsTerminal);
+    watch.BeginList(list.AutVozCount);
     code = online.session.WriteVoiceList(list);
     watch.End();
   }
@@ -250,11 +266,22 @@ ExitCode WriteOnline(Online& online, ConfAutVoz list, bool keepsMacro) {
   return ExitCode::Done;
 }
 
+/// Asks before the list that a logger holds is only taken away.
+ExitCode MayEmpty(CommandContext& context, const std::string& file, const ConfAutVoz& list) {
+  if (!NumbersOf(list).empty()) return ExitCode::Done;
+  const std::string loses =
+      file + " holds no number: the logger would lose all numbers of its list";
+  if (context.dialogs.Confirm(loses + ". Write it?")) return ExitCode::Done;
+  return context.console.Fail(ExitCode::BadFile, loses + ". --yes writes it all the same");
+}
+
 ExitCode RunWrite(CommandContext& context, const VoiceOptions& options) {
   const bool isConfiguration = IsConfiguration(context, options.file);
   const std::optional<ConfAutVoz> list =
       isConfiguration ? OpenConfigured(context, options) : OpenText(context, options);
   if (!list) return ExitCode::BadFile;
+  const ExitCode may = MayEmpty(context, options.file, *list);
+  if (may != ExitCode::Done) return may;
   const bool keepsMacro = !isConfiguration && options.macro.empty();
   return RunOnline(context, isConfiguration ? options.file : std::string(),
                    [&](Online& online) { return WriteOnline(online, *list, keepsMacro); });

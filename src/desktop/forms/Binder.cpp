@@ -124,8 +124,12 @@ void FollowColour(QLineEdit& edit, const TextBox& box) {
   const bool isBad = box.face.Colour() == BackColour::Red;
   if (edit.property("bad").toBool() == isBad) return;
   edit.setProperty("bad", isBad);
-  edit.style()->unpolish(&edit);
-  edit.style()->polish(&edit);
+  QPalette palette;  // of the program
+  if (isBad) {
+    const bool isDark = palette.color(QPalette::Base).lightness() < 128;
+    palette.setColor(QPalette::Base, QColor(isDark ? "#4d1f22" : "#ffe3e3"));
+  }
+  edit.setPalette(palette);
 }
 
 Bound BindKind(TextBox& box, const BindOptions& options, QWidget* parent) {

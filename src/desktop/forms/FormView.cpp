@@ -1,9 +1,11 @@
 #include "desktop/forms/FormView.h"
 
 #include <QAbstractButton>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QEvent>
 #include <QHBoxLayout>
+#include <QRadioButton>
 #include <QStyle>
 #include <QTimeEdit>
 #include <utility>
@@ -12,6 +14,7 @@
 #include "controls/NumberBox.h"
 #include "desktop/forms/AccessKeys.h"
 #include "desktop/forms/NoteBubble.h"
+#include "desktop/forms/NoteMark.h"
 #include "desktop/forms/PictureView.h"
 #include "desktop/forms/Words.h"
 
@@ -201,16 +204,36 @@ void FormView::ShowNote(std::string_view control) {
   if (!widget) return;
   const QString note = NoteOf(control);
   const bool isNoted = !note.isEmpty();
+  const QString wasNoted = widget->property("noted").toBool() ? widget->toolTip() : QString();
   if (isNoted || widget->property("noted").toBool()) {
     widget->setToolTip(note);
     widget->setAccessibleDescription(note);
   }
-  if (widget->property("noted").toBool() != isNoted) {
-    widget->setProperty("noted", isNoted);
+  // Words of boxes to check are coloured by the sheet; all else gets an outline.
+  const bool hasOutline = !qobject_cast<QCheckBox*>(widget) && !qobject_cast<QRadioButton*>(widget);
+  const bool wasMarked = widget->property("noted").toBool();
+  widget->setProperty("noted", isNoted);
+  if (hasOutline && (isNoted || wasMarked)) {
+    const QColor colour(widget->property("bad").toBool() ? "#e03131" : "#d97706");
+    NoteMark::Set(*widget, isNoted ? colour : QColor());
+  } else if (wasMarked != isNoted) {
     widget->style()->unpolish(widget);
     widget->style()->polish(widget);
   }
   if (widget->hasFocus()) bubble_->Tell(*widget, note);
+  if (OnNotesChanged && wasNoted != note) OnNotesChanged();
+}
+
+QStringList FormView::Notes() const {
+  QStringList notes;
+  for (const auto& [control, bound] : bound_) {
+    const QString note =
+        bound.widget && bound.widget->isVisibleTo(this) ? NoteOf(control) : QString();
+    if (note.isEmpty()) continue;
+    const QString name = bound.widget->accessibleName();
+    notes << (name.isEmpty() ? note : name + ": " + note);
+  }
+  return notes;
 }
 
 bool FormView::eventFilter(QObject* watched, QEvent* event) {

@@ -73,6 +73,8 @@ class FormView final : public QWidget {
   /// What is to be told of controls, by their names, in the place of what was told before: each
   /// gets a mark, and says it while it has the focus.
   void SetNotes(std::map<std::string, QString, std::less<>> notes);
+  /// What is told of the controls in view, with their names.
+  QStringList Notes() const;
   /// Lets go of the controls, ahead of being replaced.
   void Detach();
 
@@ -80,6 +82,8 @@ class FormView final : public QWidget {
   std::function<void()> OnFormChanged;
   /// Runs after anything that a control shows has changed.
   std::function<void()> OnControlChanged;
+  /// Runs after something else is told of a control.
+  std::function<void()> OnNotesChanged;
 
  protected:
   /// Keeps a turn of the wheel over a box that has not the focus from changing it unseen, and shows

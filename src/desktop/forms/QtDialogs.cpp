@@ -64,7 +64,7 @@ BoxAnswer QtDialogs::ShowMessage(const MessageBox& box) {
   }
   QPushButton* yes = message.addButton(Words::tr("&Yes"), QMessageBox::YesRole);
   QPushButton* no = message.addButton(Words::tr("&No"), QMessageBox::NoRole);
-  message.setDefaultButton(yes);
+  message.setDefaultButton(box.prefersNo ? no : yes);
   message.setEscapeButton(no);
   message.exec();
   return message.clickedButton() == yes ? BoxAnswer::Yes : BoxAnswer::No;

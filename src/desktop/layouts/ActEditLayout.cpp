@@ -1,3 +1,5 @@
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -8,6 +10,7 @@
 #include "desktop/forms/Words.h"
 #include "desktop/layouts/LayoutParts.h"
 #include "desktop/layouts/Layouts.h"
+#include "model/ActionList.h"
 
 namespace ostrel {
 
@@ -22,6 +25,52 @@ void ShowMatches(QListWidget& list, const QString& text) {
     if (matches && first < 0) first = row;
   }
   if (!text.isEmpty()) list.setCurrentRow(first);
+}
+
+/// The actions of a list as a text that another list, or a letter, can take: a line an action.
+QString ActionsText(const ListBox& list) {
+  QStringList lines;
+  for (const ListRow& row : list.Rows()) lines << ToQt(row.text);
+  return lines.join(u'\n');
+}
+
+/// Puts the actions that a text names in the place of a list. A text without any leaves the list.
+void TakeActions(const QString& text, const ListBox& offered, ListBox& list) {
+  std::vector<ListRow> named;
+  for (const QString& line : text.split(u'\n')) {
+    const int number = line.section(u'-', 0, 0).trimmed().toInt();
+    for (const ListRow& row : offered.Rows())
+      if (number > 0 && row.value == number && named.size() < kActionPlaces) named.push_back(row);
+  }
+  if (named.empty()) return;
+  list.Clear();
+  for (const ListRow& row : named) list.Add(row.text, row.value);
+}
+
+/// Buttons that copy the list to the clipboard, and put it in the place of the list.
+QWidget* CopyButtons(FormView& view, QListWidget& chosen) {
+  auto* place = new QWidget(&view);
+  auto* row = new QHBoxLayout(place);
+  row->setContentsMargins(0, 0, 0, 0);
+  const auto add = [&](const QString& words, const char* name, QKeySequence::StandardKey keys,
+                       auto run) {
+    auto* button = view.Own(new QPushButton(words, place));
+    button->setObjectName(name);
+    row->addWidget(button);
+    auto* shortcut = new QShortcut(keys, &chosen);
+    shortcut->setContext(Qt::WidgetShortcut);
+    QObject::connect(button, &QPushButton::clicked, &view, run);
+    QObject::connect(shortcut, &QShortcut::activated, &view, run);
+  };
+  const Form& form = view.GetForm();
+  add(Words::tr("Copy the list"), "CopyList", QKeySequence::Copy, [&form] {
+    QGuiApplication::clipboard()->setText(ActionsText(form.Get<ListBox>("DeviceList")));
+  });
+  add(Words::tr("Paste the list"), "PasteList", QKeySequence::Paste, [&form] {
+    TakeActions(QGuiApplication::clipboard()->text(), form.Get<ListBox>("RefList"),
+                form.Get<ListBox>("DeviceList"));
+  });
+  return place;
 }
 
 }  // namespace
@@ -61,6 +110,7 @@ void LayOutActEdit(FormView& view) {
   hint->setWordWrap(true);
   auto* right = new QVBoxLayout;
   right->addWidget(chosen);
+  right->addWidget(CopyButtons(view, *chosen));
   right->addWidget(hint);
   lists->addLayout(right, 1, 2);
   lists->setColumnStretch(0, 1);

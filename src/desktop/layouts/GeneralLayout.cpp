@@ -9,6 +9,7 @@
 #include "desktop/layouts/LayoutParts.h"
 #include "desktop/layouts/Layouts.h"
 #include "desktop/window/FaultNote.h"
+#include "desktop/window/FieldText.h"
 
 namespace ostrel {
 namespace {
@@ -19,7 +20,7 @@ Card SessionCard(FormView& view, const LayoutContext& context) {
   QLabel* port = view.LabelFor("Puerto", Words::tr("Port:"));
   auto* ports = view.Show<QComboBox>("Puerto");
   ports->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-  ports->setMinimumContentsLength(24);
+  ports->setMinimumContentsLength(12);
   card.grid->addWidget(port, 0, 0);
   card.grid->addWidget(ports, 0, 1, 1, 2);
   card.grid->addWidget(view.ShowWithWords("ModemCheck", Words::tr("By modem")), 1, 0);
@@ -55,6 +56,7 @@ Card DeviceCard(FormView& view) {
   add("UsedHText", Words::tr("Log in use:"));
   auto* bar = view.Show<QProgressBar>("RSSIBar");
   bar->setTextVisible(false);
+  bar->setMinimumWidth(kNarrowBar);
   AddField(card, view.LabelFor("RSSIBar", Words::tr("Signal:")), bar);
   card.grid->addWidget(view.Show("LabelRSSI"), card.grid->rowCount() - 1, 2);
   card.grid->setColumnMinimumWidth(2, 34);
@@ -71,8 +73,9 @@ Card LoggerCard(FormView& view) {
   AddField(card, centre, OptionBox(view, {"CSMMovi", "CSMVoda", "CSMAmen", "CSMOtro"}, 2));
   card.grid->addWidget(view.ShowNamed("SMSCBox", Words::tr("SMS centre")), card.grid->rowCount(),
                        1);
-  AddField(card, view.LabelFor("RestoreText", Words::tr("Restoration text:")),
-           view.Show("RestoreText"));
+  QLabel* restored = view.LabelFor("RestoreText", Words::tr("Restoration text:"));
+  restored->setWordWrap(true);
+  AddField(card, restored, view.Show("RestoreText"));
   const auto addCount = [&](std::string_view control, const QString& label, const QString& unit) {
     QLabel* labelWidget = view.LabelFor(control, label);
     AddField(card, labelWidget,
@@ -113,34 +116,13 @@ QVBoxLayout* PhoneMask(FormView& view) {
   return column;
 }
 
-QString PrivilegeText(QString level) {
-  if (level == "PRV3") return "Kestrel";
-  if (level == "PRV2") return Words::tr("Administrator");
-  if (level == "PRV1") return Words::tr("Advanced user");
-  return level == "PRV0" ? Words::tr("User") : level;
-}
-
-QString MaskText(const QString& mode, const QString& channels) {
-  if (mode == "MASKMODE1") return channels.isEmpty() ? Words::tr("No alarms") : channels;
-  if (mode == "MASKMODE2" && !channels.isEmpty()) return Words::tr("All but %1").arg(channels);
-  return Words::tr("All alarms");
-}
-
-/// A telephone in words: its row reads "600111222,Prio=2,PRV1,MASKMODE1,DI0,AI1".
-QStringList PhoneCells(const ListRow& row) {
-  const QStringList parts = ToQt(row.text).split(u',');
-  const QString priority = parts.value(1).section(u'=', 1);
-  return {parts.value(0), priority == "0" ? Words::tr("None") : priority,
-          PrivilegeText(parts.value(2)), MaskText(parts.value(3), parts.mid(4).join(", "))};
-}
-
 QVBoxLayout* PhoneList(FormView& view) {
   auto* column = new QVBoxLayout;
   column->setSpacing(6);
   view.SetColumns(
       "ListaTlf",
       {Words::tr("Number"), Words::tr("Priority"), Words::tr("Privilege"), Words::tr("Alarms of")},
-      PhoneCells);
+      [](const ListRow& row) { return PhoneCells(ToQt(row.text)); });
   column->addWidget(view.LabelFor("ListaTlf", std::string_view("LabelEditar")));
   column->addWidget(view.Show("ListaTlf"), 1);
   auto* buttons = new QHBoxLayout;
@@ -180,12 +162,14 @@ void LayOutGeneral(FormView& view, const LayoutContext& context) {
   auto* top = new QHBoxLayout;
   top->addWidget(SessionCard(view, context).box, 7);
   top->addWidget(DeviceCard(view).box, 4);
-  top->addWidget(LoggerCard(view).box, 5);
+  const Card logger = LoggerCard(view), phones = PhoneCard(view, context);
+  for (const Card& card : {logger, phones}) card.box->setProperty(kCoveredInReading, true);
+  top->addWidget(logger.box, 5);
   auto* notice = Joined(view, {view.Show("Warning"), warning});
   static_cast<QBoxLayout*>(notice->layout())->setStretch(1, 1);
   page->addWidget(notice);
   page->addLayout(top);
-  page->addWidget(PhoneCard(view, context).box, 1);
+  page->addWidget(phones.box, 1);
 }
 
 }  // namespace ostrel

@@ -99,6 +99,7 @@ QWidget* ProgressPlace(FormView& view) {
   place->addWidget(former);
   place->addWidget(view.Own(new TransferMeter(place)));
   place->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
+  place->setMinimumWidth(kNarrowBar);
   return place;
 }
 

@@ -42,6 +42,8 @@ QVBoxLayout* MakeSheet(FormView& view, const QString& untitled = {});
 /// The place of a form's bar, which tells less than the window knows of a transfer: while one runs,
 /// the meter of that one stands there.
 QWidget* ProgressPlace(FormView& view);
+/// Least width of a bar, in pixels.
+inline constexpr int kNarrowBar = 60;
 
 /// The row that ends a dialog: the button that Return presses, and the one that leaves.
 QHBoxLayout* EndButtons(QWidget* accept, QWidget* leave);

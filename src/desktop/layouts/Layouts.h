@@ -17,6 +17,10 @@ struct LayoutContext {
   std::function<QString(const ListRow&)> wordText;
 };
 
+/// Property of a part of a page that a reading empties and fills, where the rest of it stays in
+/// use.
+inline constexpr const char* kCoveredInReading = "coveredInReading";
+
 /// Draws any form of the program. One that has no layout is drawn from its controls in order.
 FormView* MakeView(Form& form, const LayoutContext& context, QWidget* parent = nullptr);
 

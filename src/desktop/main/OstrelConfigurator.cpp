@@ -30,7 +30,7 @@ int RunWindow(const CommandLine& line) {
   if (line.demo) machine.AddSimulatedLoggers().Port().SetPaced(true);
   QtProcesses realProcesses(ShowDocument);
   QtDialogs dialogs;
-  HelpProcesses processes(realProcesses, dialogs);
+  HelpProcesses processes(realProcesses, dialogs, ShippedFolder() + "/help");
   machine.files.MakeFolder(UserDataFolder());
   const std::string langFile =
       SeedLang(machine.files, LangIn(ShippedFolder()), LangIn(UserDataFolder()));
@@ -40,7 +40,7 @@ int RunWindow(const CommandLine& line) {
                    .openLog = OpenLog,
                    .openRecording = OpenRecording,
                    .ticking = true},
-                  UserDataFolder());
+                  UserDataFolder(), machine.inspector);
   dialogs.StandBefore(desktop.Window());
   machine.loop.SetFaultHandler([&](std::exception_ptr fault) { desktop.ShowFault(fault); });
   desktop.Window().show();  // ahead of the first questions, which want a window behind them

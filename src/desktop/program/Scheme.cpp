@@ -107,10 +107,6 @@ QPushButton[primary="true"]:enabled { background: palette(highlight);
             border-radius: 4px; padding: 0 12px; }
 QPushButton[primary="true"]:enabled:hover,
 QPushButton[primary="true"]:enabled:focus { border-color: palette(text); }
-QLineEdit[bad="true"] { background: #ff0000; color: #ffffff; }
-QLineEdit[noted="true"], QComboBox[noted="true"], QListWidget[noted="true"],
-QPushButton[noted="true"], QTableWidget[noted="true"] {
-            border: 2px solid #d97706; border-radius: 4px; }
 QCheckBox[noted="true"], QRadioButton[noted="true"] {
             color: #d97706; text-decoration: underline; }
 QLabel#NoteBubble { background: palette(base); color: palette(text);

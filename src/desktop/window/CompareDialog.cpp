@@ -1,57 +1,35 @@
 #include "desktop/window/CompareDialog.h"
 
 #include <QDialogButtonBox>
-#include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
-#include <QTableWidget>
 #include <QVBoxLayout>
 
 #include "desktop/forms/Words.h"
 
 namespace ostrel {
-namespace {
 
-QTableWidget* MakeTable(const ComparisonWords& words, const std::vector<Difference>& differences,
-                        QWidget* parent) {
-  auto* table = new QTableWidget(static_cast<int>(differences.size()), 4, parent);
-  table->setHorizontalHeaderLabels(
-      {Words::tr("Section"), Words::tr("Field"), words.before, words.after});
-  table->setAccessibleName(Words::tr("Differences"));
-  int row = 0;
-  for (const Difference& difference : differences) {
-    int column = 0;
-    for (const std::string& text :
-         {difference.Section(), difference.Key(), difference.before, difference.after})
-      table->setItem(row, column++, new QTableWidgetItem(ToQt(text).trimmed()));
-    ++row;
-  }
-  table->setEditTriggers(QAbstractItemView::NoEditTriggers);
-  table->setSelectionBehavior(QAbstractItemView::SelectRows);
-  table->setAlternatingRowColors(true);
-  table->setTabKeyNavigation(false);
-  table->verticalHeader()->hide();
-  table->resizeColumnsToContents();
-  table->horizontalHeader()->setSectionResizeMode(2, QHeaderView::Stretch);
-  table->horizontalHeader()->setSectionResizeMode(3, QHeaderView::Stretch);
-  return table;
+QString DifferencesText(std::size_t differences) {
+  return differences == 0
+             ? Words::tr("Both hold the same.")
+             : Words::tr("%n field(s) differ.", nullptr, static_cast<int>(differences));
 }
 
-}  // namespace
-
 CompareDialog::CompareDialog(const ComparisonWords& words,
-                             const std::vector<Difference>& differences, QWidget* parent)
+                             const std::vector<Difference>& differences,
+                             const TargetProfile& profile, const ComparisonTree::Names& translate,
+                             QWidget* parent)
     : QDialog(parent) {
   setWindowTitle(words.title);
+  resize(760, 480);
   auto* column = new QVBoxLayout(this);
-  auto* summary = new QLabel(differences.empty() ? Words::tr("Both hold the same.")
-                                                 : Words::tr("%n field(s) differ.", nullptr,
-                                                             static_cast<int>(differences.size())),
-                             this);
+  auto* summary = new QLabel(DifferencesText(differences.size()), this);
   summary->setObjectName("Summary");
   column->addWidget(summary);
-  if (!words.note.isEmpty()) column->addWidget(new QLabel(words.note, this));
-  column->addWidget(MakeTable(words, differences, this), 1);
+  auto* tree = new ComparisonTree(this);
+  tree->SetSides(words.before, words.after);
+  tree->ShowDifferences(differences, profile, translate);
+  column->addWidget(tree, 1);
   auto* buttons = new QDialogButtonBox(this);
   if (!words.accept.isEmpty()) buttons->addButton(words.accept, QDialogButtonBox::AcceptRole);
   buttons->addButton(words.accept.isEmpty() ? Words::tr("Close") : Words::tr("&Cancel"),
@@ -59,7 +37,6 @@ CompareDialog::CompareDialog(const ComparisonWords& words,
   connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
   connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
   column->addWidget(buttons);
-  resize(760, 480);
 }
 
 }  // namespace ostrel

@@ -5,9 +5,10 @@
 namespace ostrel {
 QString SentenceOf(const Phrase& phrase) {
   if (phrase.text.empty()) return {};
-  QString sentence = Words::tr(phrase.text.c_str());
-  sentence[0] = sentence[0].toUpper();
-  return ToQt(Filled(FromQt(sentence), phrase.arguments)) + u'.';
+  QString sentence =
+      ToQt(Filled(phrase, [](const std::string& text) { return FromQt(Words::tr(text.c_str())); }));
+  if (!phrase.text.starts_with('%')) sentence[0] = sentence[0].toUpper();
+  return sentence + u'.';
 }
 
 QString FaultText(const SessionFault& fault, const QString& device) {

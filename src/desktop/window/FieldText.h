@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <QStringList>
 
 #include "blocks/Configuration.h"
 
@@ -15,7 +16,9 @@ QString RecordText(const FieldId& id);
 /// The field within its record: "alarm 1, minimum".
 QString FieldName(const FieldId& id, const FieldMeta& meta);
 /// A value: texts as they are, numbers with their unit, codes in words, yes and no.
-QString ValueText(const ConstField& field, bool isS100);
+QString ValueText(const FieldView& value, const FieldMeta& meta, bool isS100);
+/// A telephone in words, from its row: number, priority, privilege, the alarms that reach it.
+QStringList PhoneCells(const QString& row);
 /// With a capital letter at its head.
 QString Capitalised(QString text);
 

@@ -20,7 +20,7 @@ GroupTable::GroupTable(QWidget* parent)
   table_->setObjectName("GroupTable");
   table_->setEditTriggers(QAbstractItemView::NoEditTriggers);
   table_->setSelectionBehavior(QAbstractItemView::SelectRows);
-  table_->setSelectionMode(QAbstractItemView::SingleSelection);
+  table_->setSelectionMode(QAbstractItemView::ExtendedSelection);
   table_->setAlternatingRowColors(true);
   table_->setTabKeyNavigation(false);
   table_->verticalHeader()->hide();
@@ -38,6 +38,7 @@ void GroupTable::ShowGroup(const QString& title, const ChannelTable& table, bool
   const int chosen = table_->currentRow();
   table_->clear();
   nodes_.clear();
+  channels_.clear();
   table_->setColumnCount(static_cast<int>(table.columns.size()) + kOwnColumns);
   table_->setRowCount(static_cast<int>(table.rows.size()));
   QStringList headers{Words::tr("Channel"), Words::tr("Alarm")};
@@ -46,17 +47,26 @@ void GroupTable::ShowGroup(const QString& title, const ChannelTable& table, bool
   for (int row = 0; row < table_->rowCount(); ++row) {
     const ChannelTable::Row& channel = table.rows[static_cast<std::size_t>(row)];
     nodes_.push_back(channel.node);
+    channels_.push_back(channel.channel);
     int column = 0;
     const auto add = [&](const QString& text) {
       table_->setItem(row, column++, new QTableWidgetItem(text));
     };
     add(QString::number(channel.channel));
     add(channel.hasAlarm ? Words::tr("yes") : QString());
-    for (const auto& field : channel.cells) add(field ? ValueText(*field, isS100) : QString());
+    for (const auto& field : channel.cells)
+      add(field ? ValueText(field->value, field->meta, isS100) : QString());
   }
   table_->resizeColumnsToContents();
   if (table_->rowCount() > 0)
     table_->setCurrentCell(std::clamp(chosen, 0, table_->rowCount() - 1), 0);
+}
+
+std::vector<int> GroupTable::SelectedChannels() const {
+  std::vector<int> channels;
+  for (const QModelIndex& row : table_->selectionModel()->selectedRows())
+    channels.push_back(channels_[static_cast<std::size_t>(row.row())]);
+  return channels;
 }
 
 }  // namespace ostrel

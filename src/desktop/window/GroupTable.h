@@ -19,6 +19,9 @@ class GroupTable final : public QWidget {
 
   void ShowGroup(const QString& title, const ChannelTable& table, bool isS100);
 
+  /// The channels that are selected.
+  std::vector<int> SelectedChannels() const;
+
   /// Runs when the operator opens a channel. Set by the window.
   std::function<void(const std::string& node)> OnChannel;
 
@@ -26,6 +29,7 @@ class GroupTable final : public QWidget {
   QLabel* heading_;
   QTableWidget* table_;
   std::vector<std::string> nodes_;
+  std::vector<int> channels_;
 };
 
 }  // namespace ostrel

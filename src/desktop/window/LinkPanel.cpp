@@ -18,7 +18,7 @@ const char* ColourOf(const LinkState& state) {
     case SessionPhase::Closed:
       return kUnknown;
     case SessionPhase::Open:
-      return kGood;
+      return state.list == ListWork::None ? kGood : kBusy;
     case SessionPhase::Opening:
     case SessionPhase::Reading:
     case SessionPhase::Writing:
@@ -41,9 +41,9 @@ QString LampStyle(const LinkState& state) {
 
 LinkPanel::LinkPanel(QWidget* parent)
     : QWidget(parent),
-      who_(new QLabel(this)),
+      who_(new ElidedLabel(this)),
       lamp_(new QLabel(this)),
-      words_(new QLabel(this)),
+      words_(new ElidedLabel(this)),
       meter_(new TransferMeter(this)) {
   auto* row = new QHBoxLayout(this);
   row->setContentsMargins(8, 0, 8, 0);
@@ -51,15 +51,9 @@ LinkPanel::LinkPanel(QWidget* parent)
   strong.setBold(true);
   who_->setFont(strong);
   who_->setObjectName("Logger");
-  who_->setTextInteractionFlags(Qt::TextSelectableByMouse);
-  who_->setMinimumWidth(1);
-  words_->setMinimumWidth(1);
   lamp_->setFixedSize(12, 12);
   lamp_->setObjectName("Lamp");
   words_->setObjectName("LinkState");
-  QSizePolicy policy = meter_->sizePolicy();
-  policy.setRetainSizeWhenHidden(true);  // the bar is not to jump
-  meter_->setSizePolicy(policy);
   row->addWidget(who_);
   row->addSpacing(12);
   row->addWidget(lamp_);
@@ -76,11 +70,8 @@ QSize LinkPanel::sizeHint() const {
 }
 
 void LinkPanel::ShowState(const LinkState& state, const QString& who) {
-  if (who != who_->text()) who_->setText(who);
-  if (const QString words = LinkStateWords(state); words != words_->text()) {
-    words_->setText(words);
-    words_->setToolTip(words);
-  }
+  who_->SetWords(who);
+  words_->SetWords(LinkStateWords(state));
   if (const QString style = LampStyle(state); style != lamp_->styleSheet())
     lamp_->setStyleSheet(style);
 }

@@ -3,6 +3,7 @@
 #include <QLabel>
 #include <QWidget>
 
+#include "desktop/window/ElidedLabel.h"
 #include "desktop/window/LinkState.h"
 #include "desktop/window/TransferMeter.h"
 
@@ -25,9 +26,9 @@ class LinkPanel final : public QWidget {
   void ShowProgress(const TransferWatch* transfer);
 
  private:
-  QLabel* who_;
+  ElidedLabel* who_;
   QLabel* lamp_;
-  QLabel* words_;
+  ElidedLabel* words_;
   TransferMeter* meter_;
 };
 

@@ -51,6 +51,12 @@ QString OpenWords(const LinkLife& life) {
   return PhaseWords(SessionPhase::Open);
 }
 
+QString BusyWords(const LinkState& state) {
+  if (state.list == ListWork::Reading) return Words::tr("Reading the voice-call list");
+  if (state.list == ListWork::Writing) return Words::tr("Writing the voice-call list");
+  return PhaseWords(state.phase);
+}
+
 QString WithStep(const QString& words, int step) {
   constexpr int kSteps = 3;
   return step > 0 ? Words::tr("%1, step %2 of %3").arg(words).arg(step).arg(kSteps) : words;
@@ -76,12 +82,13 @@ LinkState LinkStateOf(Configurator& configurator) {
   return {.phase = configurator.session.State().phase,
           .life = configurator.session.Life(),
           .silentSeconds = silent >= kWorthTelling ? static_cast<int>(silent) : 0,
-          .wait = WaitOf(configurator)};
+          .wait = WaitOf(configurator),
+          .list = configurator.session.VoiceList()};
 }
 
 QString LinkStateWords(const LinkState& state) {
-  const bool isOpen = state.phase == SessionPhase::Open;
-  const QString standing = isOpen ? OpenWords(state.life) : PhaseWords(state.phase);
+  const bool isOpen = state.phase == SessionPhase::Open && state.list == ListWork::None;
+  const QString standing = isOpen ? OpenWords(state.life) : BusyWords(state);
   const QString words = WithStep(WithWait(standing, state.wait), state.step);
   if (state.silentSeconds == 0 || (isOpen && state.life.health != LinkHealth::Alive)) return words;
   return Words::tr("%1, silent for %2 s").arg(words).arg(state.silentSeconds);

@@ -17,7 +17,8 @@ struct LinkState {
   LinkLife life{};
   int silentSeconds = 0;  ///< how long an answer has been awaited in vain; 0 below 2 s
   RequestWait wait = RequestWait::None;
-  int step = 0;  ///< of the three transfers of a guarded writing; 0 for any other
+  ListWork list = ListWork::None;  ///< with the voice-call list
+  int step = 0;                    ///< of the three transfers of a guarded writing; 0 for any other
 };
 
 LinkState LinkStateOf(Configurator& configurator);

@@ -2,6 +2,7 @@
 
 #include <QAction>
 #include <QCloseEvent>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QScreen>
@@ -12,6 +13,7 @@
 
 #include "desktop/forms/Icons.h"
 #include "desktop/forms/Words.h"
+#include "desktop/window/CompareWindow.h"
 #include "desktop/window/FaultText.h"
 #include "platform/Settings.h"
 #include "shell/Configurator.h"
@@ -25,6 +27,7 @@ constexpr int kTreeWidth = 230;
 constexpr QSize kFirstSize{1280, 720};
 constexpr std::string_view kWindowPart = "Window";
 constexpr std::string_view kPlace = "Place";
+constexpr std::string_view kTimersNode = "Timer";
 
 }  // namespace
 
@@ -39,7 +42,9 @@ MainWindow::MainWindow(const WindowParts& parts)
              parts.guard),
       tree_(new TreePane(this)),
       pages_(new PageArea([this] { return Context(); }, this)),
+      notes_(new QLabel(this)),
       group_(new GroupTable(this)),
+      timers_(new ScheduleView(this)),
       session_(new SessionBar(this)),
       fault_(new FaultNote("FaultStrip", this)),
       traceLog_(parts.platform.loop, parts.platform.clock),
@@ -59,8 +64,16 @@ MainWindow::MainWindow(const WindowParts& parts)
   auto* sheets = new QVBoxLayout(sheet);
   sheets->setContentsMargins(0, 0, 0, 0);
   sheets->addWidget(pages_, 3);
+  sheets->addWidget(notes_);
+  notes_->setObjectName("Notes");
+  notes_->setWordWrap(true);
+  notes_->setContentsMargins(16, 0, 16, 6);
+  notes_->hide();
   sheets->addWidget(group_, 2);
   group_->hide();
+  sheets->addWidget(timers_, 3);
+  timers_->setObjectName("Timers");
+  timers_->hide();
   splitter->addWidget(tree_);
   splitter->addWidget(sheet);
   splitter->setStretchFactor(1, 1);
@@ -87,6 +100,9 @@ MainWindow::MainWindow(const WindowParts& parts)
   setWindowIcon(ProgramIcon());
   tree_->OnNode = [this](const std::string& key) { parts_.guard([&] { GoTo(key); }); };
   group_->OnChannel = [this](const std::string& key) { parts_.guard([&] { GoTo(key); }); };
+  timers_->OnTimer = [this](const SectionMeta& section, int timer) {
+    parts_.guard([&] { GoToTimer(section, timer); });
+  };
   findings_->OnFinding = [this](PageId page, const FieldId& field) {
     parts_.guard([&] { GoToField(page, field); });
   };
@@ -98,12 +114,14 @@ MainWindow::MainWindow(const WindowParts& parts)
       unsetCursor();
   };
   pages_->OnControlChanged = [this] { unsaved_.Touch(); };
+  pages_->OnNotesChanged = [this] { ShowNotes(); };
   configurator_.comms.Trace = [this](const std::string& line) { traceLog_.Add(line); };
   navigation_.OnTargetChanged = [this] {
     BuildTree();
     shownFile_.clear();  // it is of the former model
     ForgetSuccess();
     unsaved_.Touch();
+    StartHistory();
   };
   configurator_.OnForeignKeys = [this](const std::string& path,
                                        const std::vector<std::string>& lost) {
@@ -113,6 +131,9 @@ MainWindow::MainWindow(const WindowParts& parts)
     return MayReplace(path, why);
   };
   configurator_.OnOtherModel = [this](const std::string& model) { return MayChangeModel(model); };
+  configurator_.context.mayWriteVoiceList = [this](const ConfAutVoz& list) {
+    return MayWriteList(list);
+  };
   configurator_.session.ServeRead = [this] { parts_.guard([this] { Read(); }); };
   configurator_.session.ServeWrite = [this] { parts_.guard([this] { Write(); }); };
   configurator_.session.OnModelDoubt = [this](const Phrase& doubt) { Tell(SentenceOf(doubt)); };
@@ -127,7 +148,10 @@ MainWindow::MainWindow(const WindowParts& parts)
   Retranslate();
 }
 
-MainWindow::~MainWindow() { LetGo(); }
+MainWindow::~MainWindow() {
+  Record(false);
+  LetGo();
+}
 
 std::function<void()> MainWindow::Following(void (MainWindow::*react)()) {
   return [this, react] {
@@ -146,6 +170,7 @@ void MainWindow::LetGo() {
   configurator_.OnProtected = nullptr;
   configurator_.OnOtherModel = nullptr;
   configurator_.context.repaintTree = nullptr;
+  configurator_.context.mayWriteVoiceList = nullptr;
   navigation_.OnTargetChanged = navigation_.OnFrontChanged = nullptr;
 }
 
@@ -173,15 +198,17 @@ void MainWindow::Follow() {
   tree_->Tree().setFocus();
   unsaved_.Keep(unsaved_.WithFront());
   TakeFile();
+  StartHistory();
   Look();
   overview_.ShowNode(shownNode_);
 }
 
+std::function<std::string(std::string_view)> MainWindow::Translate() const {
+  return [this](std::string_view text) { return configurator_.context.Translate(text); };
+}
+
 void MainWindow::BuildTree() {
-  const auto translate = [this](std::string_view text) {
-    return configurator_.context.Translate(text);
-  };
-  auto nodes = BuildNavigationTree(configurator_.profile, translate);
+  auto nodes = BuildNavigationTree(configurator_.profile, Translate());
   for (TreeNode& node : nodes)
     if (node.key == "Grupos") node.text = FromQt(Words::tr("Groups"));
   tree_->SetNodes(nodes);
@@ -198,6 +225,7 @@ void MainWindow::PaintTree() {
 void MainWindow::GoTo(const std::string& key) {
   const NodeResult result = navigation_.NodeClick(key);
   if (result == NodeResult::Rests) return;
+  NoteEdits();  // of the page that was left
   shownNode_ = key;
   tree_->Select(key);
   ShowGroup(key);
@@ -209,9 +237,25 @@ void MainWindow::ShowGroup(const std::string& key) {
   const bool isGroup = PageOfGroup(key).has_value();
   const bool hasPage = FindNodeTarget(key, configurator_.profile, false).has_value();
   // Some groups have a page of their own, which stands above the table.
-  pages_->setVisible(hasPage || !isGroup);
+  const bool isTimers = key == kTimersNode;
+  const bool isPage = hasPage || !(isGroup || isTimers);
+  pages_->setVisible(isPage);
+  if (!isPage) notes_->hide();
   group_->setVisible(isGroup);
+  timers_->setVisible(isTimers);
+  ShowTimers();
   overview_.ShowNode(key);
+}
+
+void MainWindow::ShowTimers() {
+  if (timers_->isHidden() || configurator_.session.OwnsModel()) return;
+  timersSeen_ = unsaved_.Touches();
+  timers_->ShowSchedule(PresentSchedule(), configurator_.profile, Translate());
+}
+
+void MainWindow::GoToTimer(const SectionMeta& section, int timer) {
+  for (const ConstField& field : FieldsOf(std::as_const(configurator_.conf), configurator_.profile))
+    if (field.id.section == &section) return GoTo(NodeOf(field.page, timer));
 }
 
 void MainWindow::GoToField(PageId page, const FieldId& field) {
@@ -237,14 +281,29 @@ void MainWindow::ShowFront() {
     pages_->ShowForm(*front);
   else
     pages_->ShowEmpty({});
-  ShowLink();
-  ShowFault();
+  ShowSession();
+  ShowNotes();
+}
+
+void MainWindow::ShowNotes() {
+  constexpr qsizetype kShown = 2;
+  const FormView* front = pages_->Front();
+  QStringList notes = front ? front->Notes() : QStringList();
+  const qsizetype more = notes.size() - kShown;
+  if (more > 0) {
+    notes = notes.first(kShown);
+    notes << Words::tr("%n more", nullptr, static_cast<int>(more));
+  }
+  notes_->setText(notes.isEmpty() ? QString() : QString(u'\u26A0') + u' ' + notes.join(u'\n'));
+  notes_->setVisible(!notes.isEmpty());
 }
 
 void MainWindow::Look() {
   ShowSession();
   ShowTitle();
   overview_.Look();
+  if (timersSeen_ != unsaved_.Touches()) ShowTimers();
+  if (comparing_ && !configurator_.session.OwnsModel()) comparing_->Look();
   live_.Look(shownFile_);
 }
 
@@ -255,12 +314,11 @@ void MainWindow::ShowTitle() {
   if (windowTitle() != title) setWindowTitle(title);
   setWindowModified(unsaved_.Changed());
   if (isWindowModified()) ForgetSuccess();
+  ShowHistory();
 }
 
 std::optional<ModelConfiguration> MainWindow::ReadFile(const std::string& path) const {
-  return ReadConfiguration(
-      parts_.platform.files, path, configurator_.profile,
-      [this](std::string_view text) { return configurator_.context.Translate(text); });
+  return ReadConfiguration(parts_.platform.files, path, configurator_.profile, Translate());
 }
 
 std::optional<Comparison> MainWindow::FileDifferences() const {
@@ -276,7 +334,8 @@ bool MainWindow::MayLose(const std::string& path, const std::vector<std::string>
                           .arg(ToQt(path), ToQt(ForeignKeysText(lost)))),
        .title = configurator_.profile.TargetName,
        .icon = BoxIcon::Question,
-       .buttons = BoxButtons::YesNo});
+       .buttons = BoxButtons::YesNo,
+       .prefersNo = true});
   return answer == BoxAnswer::Yes;
 }
 
@@ -286,7 +345,8 @@ bool MainWindow::MayReplace(const std::string& path, const std::string& why) {
                           .arg(ToQt(path), Words::tr(why.c_str()))),
        .title = configurator_.profile.TargetName,
        .icon = BoxIcon::Question,
-       .buttons = BoxButtons::YesNo});
+       .buttons = BoxButtons::YesNo,
+       .prefersNo = true});
   return answer == BoxAnswer::Yes;
 }
 
@@ -366,7 +426,7 @@ void MainWindow::closeEvent(QCloseEvent* event) {
     if (phase == SessionPhase::Updating)
       return AskToBreakOff(
           Words::tr("The firmware of the logger is being replaced. Leaving breaks that off."));
-    if (configurator_.session.WritesVoiceList())
+    if (configurator_.session.VoiceList() == ListWork::Writing)
       return AskToBreakOff(
           Words::tr("The voice-call list is being written. Leaving breaks that off, "
                     "and the logger is left without a whole list."));

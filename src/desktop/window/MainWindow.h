@@ -4,6 +4,8 @@
 #include <QPointer>
 #include <QString>
 #include <functional>
+#include <memory>
+#include <ostream>
 #include <string>
 
 #include "desktop/forms/Icons.h"
@@ -12,12 +14,18 @@
 #include "desktop/window/LivePanels.h"
 #include "desktop/window/Overview.h"
 #include "desktop/window/PageArea.h"
+#include "desktop/window/ScheduleView.h"
 #include "desktop/window/SessionBar.h"
 #include "desktop/window/TraceView.h"
 #include "desktop/window/TreePane.h"
 #include "platform/Platform.h"
+#include "platform/PortFacts.h"
+#include "platform/TappedPort.h"
+#include "recording/Recorder.h"
+#include "shell/ChannelPiece.h"
 #include "shell/Comparison.h"
 #include "shell/ConfigurationFile.h"
+#include "shell/EditHistory.h"
 #include "shell/Navigation.h"
 #include "shell/RecentFiles.h"
 #include "shell/SafetyCopies.h"
@@ -26,12 +34,15 @@
 #include "shell/UnsavedMark.h"
 
 class QAction;
+class QLabel;
 class QMenu;
 class QMessageBox;
 class QToolBar;
 
 namespace ostrel {
 
+class CompareWindow;
+struct CompareSources;
 struct WriteQuestion;
 struct WriteResult;
 
@@ -42,6 +53,8 @@ struct WindowParts {
   const Platform& platform;
   Guard guard;
   std::string dataFolder;  ///< the user's own
+  TappedPort& port;        ///< that of the platform
+  PortInspector& inspector;
 };
 
 /// The window: tool bar, tree, the page in front, and the state of the link. It draws and asks; all
@@ -95,13 +108,52 @@ class MainWindow final : public QMainWindow {
   void AskLanguage();
   void FillRecent(QMenu& menu);
   void FillCopies(QMenu& menu);
-  void Compare();
   void ShowSchedule();
+  Schedule PresentSchedule() const;
   void ShowTrace(bool on);
+  /// Begins a recording of the line in a file that the operator names, or ends it.
+  void Record(bool on);
+  void ShowDoctor();
+  /// Saves a commissioning report of what stands on the pages.
+  void SaveReport();
+  /// What was edited since it was opened goes or comes back, a page at a time.
+  void Undo();
+  void Redo();
+  void GoBackTo(const EditHistory::Step& step);
+  /// Takes in what the page in front, or the one before it, has committed.
+  void NoteEdits();
+  void StartHistory();
+  void ShowHistory();
   /// Saves octets to a file that the operator chooses. `kind` is in words.
   void SaveBeside(const QString& kind, const QString& ending, const std::string& octets);
   /// Says in a box what went wrong.
   void Tell(const QString& words);
+
+  // Comparing.
+  void Compare();
+  CompareSources ComparedSources();
+  /// Asks for a reading that leaves the pages alone; false when none can begin.
+  bool AskForReadingBeside();
+  void ReadBesidePages();
+  void TakeOver(const DeviceConf& from, const std::vector<FieldId>& fields);
+  /// Puts a configuration onto all pages, as an edit of the operator.
+  void ShowOnPages(const DeviceConf& present);
+  std::function<std::string(std::string_view)> Translate() const;
+
+  // Copying channels and their alarms.
+  /// The channel in front.
+  struct ChannelPlace {
+    PageId page;
+    int channel;
+    int configs;  ///< alarm configurations that it has
+    int config;   ///< the one shown
+  };
+  std::optional<ChannelPlace> ChannelInFront() const;
+  QString NameOfChannel(PageId page, int channel) const;
+  void FillChannels(QMenu& menu);
+  void CopyChannel(const ChannelPlace& place, std::optional<int> config);
+  void PasteInto(const std::vector<int>& channels, int config);
+  void ApplyToSeveral(const ChannelPlace& place);
 
   // What follows the configurator.
   void BuildTree();
@@ -110,6 +162,7 @@ class MainWindow final : public QMainWindow {
   void ShowTitle();
   void ShowLink();
   void ShowFault();
+  void ShowNotes();
   void Rest(bool rests);
   /// Keeps the operator on the page while a logger gets new firmware.
   void RestForUpdate(bool isUpdating);
@@ -117,6 +170,9 @@ class MainWindow final : public QMainWindow {
   /// Shows the table of a group in the place of a page, or below that of the group; or the page
   /// alone.
   void ShowGroup(const std::string& key);
+  /// Shows what the timers do, as long as that stands in the place of a page.
+  void ShowTimers();
+  void GoToTimer(const SectionMeta& section, int timer);
   void ShowTransfer();
   void ShowSession();
   /// What an event of the configurator does, once the window follows it.
@@ -142,6 +198,8 @@ class MainWindow final : public QMainWindow {
   bool MayChange(const Comparison& changes);
   void ShowWritten(const WriteResult& result);
   void TransferEnded(const TransferEnd& end);
+  /// Whether a voice-call list may be written that is empty, or holds what is no number.
+  bool MayWriteList(const ConfAutVoz& list);
   /// Whether a file may change the model although a session stands.
   bool MayChangeModel(const std::string& model);
 
@@ -176,25 +234,38 @@ class MainWindow final : public QMainWindow {
   std::string shownNode_;  ///< key of the node in front
   std::string shownFile_;  ///< file whose configuration is worked on; empty for none
   PageArea* pages_;
+  QLabel* notes_;  ///< what is told of the controls of the page in front
   GroupTable* group_;
+  ScheduleView* timers_;
   SessionBar* session_;
   FaultNote* fault_;  ///< on the pages that have no place of their own for it
   TraceLog traceLog_;
   TraceView* trace_;
+  std::unique_ptr<std::ostream> recording_;
+  std::unique_ptr<Recorder> recorder_;
+  EditHistory edits_;
   FindingsPanel* findings_;
   LivePanels live_;
   Overview overview_;
   QToolBar* bar_ = nullptr;
   QAction *open_ = nullptr, *save_ = nullptr, *saveAs_ = nullptr, *language_ = nullptr,
           *recentFiles_ = nullptr, *safetyCopies_ = nullptr, *compare_ = nullptr,
-          *schedule_ = nullptr, *liveTools_ = nullptr, *traceSwitch_ = nullptr,
+          *channels_ = nullptr, *schedule_ = nullptr, *undo_ = nullptr, *redo_ = nullptr,
+          *report_ = nullptr, *doctor_ = nullptr, *liveTools_ = nullptr, *traceSwitch_ = nullptr,
           *findingsSwitch_ = nullptr;
   bool following_ = false;
-  QString success_;                   ///< what the status bar says of the last writing
-  int writeStep_ = 0;                 ///< of a writing with its guards; 0 while there is none
-  bool isLeaving_ = false;            ///< the operator has agreed to it
-  QPointer<QMessageBox> leaveBox_;    ///< the question that stands while a transfer runs
-  QPointer<QWidget> focus_, refuge_;  ///< where the focus was, and went, when the pages rested
+  QString success_;                    ///< what the status bar says of the last writing
+  bool hasMoved_ = false;              ///< a transfer of this session has succeeded
+  int writeStep_ = 0;                  ///< of a writing with its guards; 0 while there is none
+  bool isLeaving_ = false;             ///< the operator has agreed to it
+  std::optional<ChannelPiece> piece_;  ///< what was copied last
+  QString pieceName_;                  ///< "alarm 1 of digital input 3"
+  unsigned timersSeen_ = 0;            ///< the touch after which the timers were shown
+  bool readsBeside_ = false;           ///< the reading asked for is to leave the pages alone
+  bool isBeside_ = false;              ///< such a reading runs
+  QPointer<CompareWindow> comparing_;  ///< while it stands
+  QPointer<QMessageBox> leaveBox_;     ///< the question that stands while a transfer runs
+  QPointer<QWidget> focus_, refuge_;   ///< where the focus was, and went, when the pages rested
   bool traceShown_ = false;
   bool isUpdating_ = false;  ///< a logger gets new firmware
   bool isMissing_ = false;   ///< the node in front has no page in this build

@@ -1,9 +1,11 @@
 #include <QAction>
 #include <QMessageBox>
+#include <QProgressBar>
 #include <QStackedWidget>
 #include <QStatusBar>
 
 #include "desktop/forms/Words.h"
+#include "desktop/window/CompareWindow.h"
 #include "desktop/window/FaultText.h"
 #include "desktop/window/MainWindow.h"
 #include "shell/Configurator.h"
@@ -25,6 +27,8 @@ bool MainWindow::IsLineInUse() const { return configurator_.comms.LinkBusy; }
 void MainWindow::AskFor(SessionPhase transfer) { configurator_.session.AskFor(transfer); }
 
 void MainWindow::ShowSession() {
+  const SessionState& state = configurator_.session.State();
+  hasMoved_ = hasMoved_ && state.phase != SessionPhase::Opening && !state.failed;
   ShowLink();
   ShowTransfer();
   ShowFault();
@@ -42,24 +46,32 @@ void MainWindow::ShowLink() {
   LinkState state = LinkStateOf(configurator_);
   state.step = IsTransfer(state.phase) ? writeStep_ : 0;
   session_->Link().ShowState(state, NameOfLogger());
-  const bool mayAsk = state.phase == SessionPhase::Open && !session.OwnsModel();
+  const bool isListBusy = state.list != ListWork::None;
+  const bool mayAsk = state.phase == SessionPhase::Open && !session.OwnsModel() && !isListBusy;
   const auto why = WhyWritingRests(state.life);
-  session_->Allow({.read = mayAsk && state.life.health != LinkHealth::Lost,
-                   .write = mayAsk && !why,
-                   .cancel = IsTransfer(state.phase) || state.phase == SessionPhase::Opening,
-                   .whyNot = why ? SentenceOf(*why) : QString()});
+  session_->Allow(
+      {.read = mayAsk && state.life.health != LinkHealth::Lost,
+       .write = mayAsk && !why,
+       .cancel = IsTransfer(state.phase) || isListBusy || state.phase == SessionPhase::Opening,
+       .whyNot = why ? SentenceOf(*why) : QString()});
   RestForUpdate(state.phase == SessionPhase::Updating);
   Rest(session.OwnsModel());
+  pages_->Cover(
+      state.phase == SessionPhase::Reading
+          ? Words::tr("The configuration is being read. The page shows it when it is whole.")
+          : QString());
 }
 
 /// A transfer owns the model: nothing may be edited, opened, saved or compared under it, and a
 /// dialog that is opened in it would hold it up. The focus is where it was when it has ended,
 /// unless the operator has taken it elsewhere.
 void MainWindow::Rest(bool rests) {
-  for (QAction* action :
-       {open_, save_, saveAs_, recentFiles_, safetyCopies_, compare_, schedule_, language_})
+  for (QAction* action : {open_, save_, saveAs_, recentFiles_, safetyCopies_, compare_, channels_,
+                          schedule_, report_, doctor_, language_})
     action->setEnabled(!rests && !isUpdating_);
+  ShowHistory();
   trace_->SetMaySave(!rests && !isUpdating_);
+  if (comparing_) comparing_->Rest(rests || isUpdating_);
   live_.SetMaySave(!rests && !isUpdating_);
   if (pages_->isEnabled() != rests) return;
   QWidget* const present = focusWidget();
@@ -91,6 +103,9 @@ void MainWindow::ShowTransfer() {
   auto* meter = place->findChild<TransferMeter*>("TransferMeter");
   if (running) meter->Show(*running);
   place->setCurrentIndex(running ? place->indexOf(meter) : 0);
+  // A full bar would tell of the last transfer that came to its end, whatever has happened since.
+  if (&front->GetForm() == &configurator_.general.GetForm())
+    place->widget(0)->findChild<QProgressBar*>()->setVisible(hasMoved_);
 }
 
 QString MainWindow::FaultNow() {

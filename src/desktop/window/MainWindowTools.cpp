@@ -12,10 +12,8 @@
 #include "desktop/forms/Icons.h"
 #include "desktop/forms/Words.h"
 #include "desktop/program/Language.h"
-#include "desktop/window/CompareDialog.h"
 #include "desktop/window/FaultText.h"
 #include "desktop/window/MainWindow.h"
-#include "desktop/window/ScheduleDialog.h"
 #include "platform/Clock.h"
 #include "platform/Dialogs.h"
 #include "platform/Files.h"
@@ -45,8 +43,15 @@ void MainWindow::MakeToolBar() {
   safetyCopies_ = AddAction(Sign::Copies, {}, {});
   AddMenu(safetyCopies_, [this](QMenu& menu) { FillCopies(menu); });
   bar_->addSeparator();
+  undo_ = AddAction(Sign::Undo, QKeySequence::Undo, [this] { Undo(); });
+  redo_ = AddAction(Sign::Redo, QKeySequence::Redo, [this] { Redo(); });
+  bar_->addSeparator();
   compare_ = AddAction(Sign::Compare, {}, [this] { Compare(); });
+  channels_ = AddAction(Sign::Channels, {}, {});
+  AddMenu(channels_, [this](QMenu& menu) { FillChannels(menu); });
   schedule_ = AddAction(Sign::Schedule, {}, [this] { ShowSchedule(); });
+  report_ = AddAction(Sign::Report, {}, [this] { SaveReport(); });
+  doctor_ = AddAction(Sign::Doctor, {}, [this] { ShowDoctor(); });
   liveTools_ = AddAction(Sign::Live, {}, {});
   auto* liveMenu = new QMenu(this);
   live_.AddTo(*liveMenu);
@@ -69,6 +74,7 @@ void MainWindow::MakeToolBar() {
     if (findings_->isHidden()) findingsSwitch_->setChecked(false);
   });
   bar_->addSeparator();
+  trace_->OnRecord = [this](bool on) { parts_.guard([&] { Record(on); }); };
   trace_->OnSave = [this] {
     parts_.guard([this] { SaveBeside(Words::tr("Trace"), "txt", trace_->Text()); });
   };
@@ -114,8 +120,13 @@ void MainWindow::Retranslate() {
   name(recentFiles_, Words::tr("Recent"), Words::tr("Files opened or saved lately"));
   name(safetyCopies_, Words::tr("Safety copies"),
        Words::tr("Configurations read from loggers or sent to them"));
-  name(compare_, Words::tr("Compare"), Words::tr("Compare the configuration with a file"));
+  name(compare_, Words::tr("Compare"), Words::tr("Compare pages, logger, files and safety copies"));
+  name(channels_, Words::tr("Channel"), Words::tr("Copy and paste channels and alarms"));
   name(schedule_, Words::tr("Schedule"), Words::tr("Show when the timers fire"));
+  name(undo_, Words::tr("Undo"), Words::tr("Undo what was edited on a page"));
+  name(redo_, Words::tr("Redo"), Words::tr("Do again what was undone"));
+  name(report_, Words::tr("Report"), Words::tr("Save a commissioning report"));
+  name(doctor_, Words::tr("Link doctor"), Words::tr("Find out why nothing answers at the port"));
   name(liveTools_, Words::tr("Live"), Words::tr("Plot live values, and accept the installation"));
   live_.Retranslate();
   name(traceSwitch_, Words::tr("Trace"), Words::tr("Show what goes over the line"));
@@ -150,7 +161,7 @@ void MainWindow::TellMissing(const std::string& path) {
 }
 
 void MainWindow::TakeFile() {
-  if (const auto& lacking = configurator_.Lacking()) {
+  if (const auto& lacking = configurator_.WhereFrom().lacking) {
     // Saving would make a cut file look whole: it goes to a file that the operator names.
     shownFile_.clear();
     Tell(SentenceOf(*lacking));
@@ -162,6 +173,7 @@ void MainWindow::TakeFile() {
 void MainWindow::Opened() {
   ForgetSuccess();
   TakeFile();
+  StartHistory();
   // The file may be of a model that has not the channel in front.
   if (!tree_->Has(shownNode_)) GoTo("General");
 }
@@ -250,39 +262,16 @@ void MainWindow::FillCopies(QMenu& menu) {
   });
 }
 
-void MainWindow::Compare() {
-  const std::string filter =
-      FromQt(Words::tr("Configuration files") + "|*.ocf|" + Words::tr("All files") + "|*.*");
-  const auto path = parts_.platform.dialogs.ChooseFile({.filter = filter});
-  if (!path) return;
-  const auto file = ReadFile(*path);
-  if (!file) {
-    Tell(Words::tr("The file holds no configuration."));
-    return;
-  }
-  const QString note =
-      file->profile.TargetName == configurator_.profile.TargetName
-          ? QString()
-          : Words::tr("The file is of another model: %1").arg(ToQt(file->profile.TargetName));
-  const ModelConfiguration present{configurator_.profile, unsaved_.WithFront()};
-  CompareDialog dialog(
-      {.title = Words::tr("Comparison with %1").arg(QFileInfo(ToQt(*path)).fileName()),
-       .note = note,
-       .before = Words::tr("Present"),
-       .after = Words::tr("In the file")},
-      ostrel::Compare(present, *file).differences, this);
-  dialog.exec();
-}
-
-void MainWindow::ShowSchedule() {
-  const TargetProfile& profile = configurator_.profile;
+Schedule MainWindow::PresentSchedule() const {
   // What no logger has told counts as a firmware that can do everything.
   const std::int32_t features =
       configurator_.Connected ? configurator_.info.Features : kEveryFeature;
-  ScheduleDialog dialog(
-      MakeSchedule(unsaved_.WithFront(), {profile, features}, parts_.platform.clock.LocalNow()),
-      profile, [this](std::string_view text) { return configurator_.context.Translate(text); },
-      this);
+  return MakeSchedule(unsaved_.WithFront(), {configurator_.profile, features},
+                      parts_.platform.clock.LocalNow());
+}
+
+void MainWindow::ShowSchedule() {
+  ScheduleDialog dialog(PresentSchedule(), configurator_.profile, Translate(), this);
   dialog.exec();
 }
 

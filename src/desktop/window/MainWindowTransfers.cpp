@@ -1,5 +1,8 @@
 #include <QStatusBar>
+#include <utility>
 
+#include "base/Numbers.h"
+#include "base/Printable.h"
 #include "base/Scope.h"
 #include "desktop/forms/Words.h"
 #include "desktop/window/CompareDialog.h"
@@ -7,6 +10,7 @@
 #include "desktop/window/MainWindow.h"
 #include "desktop/window/WriteDialog.h"
 #include "link/UploadPlan.h"
+#include "model/ConfAutVoz.h"
 #include "platform/Dialogs.h"
 #include "shell/Configurator.h"
 #include "shell/GuardedWrite.h"
@@ -22,6 +26,7 @@ constexpr int kMessageTime = 10'000;  // ms
 
 /// A download replaces what stands on the pages.
 void MainWindow::Read() {
+  if (std::exchange(readsBeside_, false)) return ReadBesidePages();
   if (MayLeave() && configurator_.Connected) configurator_.session.Download();
 }
 
@@ -72,11 +77,10 @@ bool MainWindow::KeepFormer(const DeviceConf& held) {
 
 bool MainWindow::MayChange(const Comparison& changes) {
   CompareDialog dialog({.title = Words::tr("What will change"),
-                        .note = {},
                         .before = Words::tr("In the logger"),
                         .after = Words::tr("To be written"),
                         .accept = Words::tr("&Write")},
-                       changes.differences, this);
+                       changes.differences, configurator_.profile, Translate(), this);
   return dialog.exec() == QDialog::Accepted && configurator_.Connected;
 }
 
@@ -89,17 +93,20 @@ void MainWindow::ShowWritten(const WriteResult& result) {
   }
   if (!result.verified || result.verified->isSame) return;
   CompareDialog dialog({.title = Words::tr("The logger holds another configuration than was sent"),
-                        .note = {},
                         .before = Words::tr("Sent"),
                         .after = Words::tr("In the logger")},
-                       result.verified->differences, this);
+                       result.verified->differences, configurator_.profile, Translate(), this);
   dialog.exec();
 }
 
 void MainWindow::TransferEnded(const TransferEnd& end) {
-  if (!end.done || (writeStep_ > 0 && end.kind == SessionPhase::Reading)) return;
+  hasMoved_ = end.done;
+  if (!end.done || isBeside_ || (writeStep_ > 0 && end.kind == SessionPhase::Reading)) return;
   unsaved_.Keep(end.held);
-  if (end.kind == SessionPhase::Reading) shownFile_.clear();
+  if (end.kind == SessionPhase::Reading) {
+    shownFile_.clear();
+    StartHistory();
+  }
   SafetyCopies::Held held{end.held, configurator_.profile, configurator_.info.SerialNumber};
   if (end.kind == SessionPhase::Reading) held.lines = configurator_.comms.DownloadedLines();
   const FileResult kept = copies_.Keep(held).result;
@@ -109,14 +116,37 @@ void MainWindow::TransferEnded(const TransferEnd& end) {
   ShowTitle();
 }
 
+bool MainWindow::MayWriteList(const ConfAutVoz& list) {
+  const std::vector<std::string> numbers = NumbersOf(list);
+  std::vector<std::string> bad;
+  for (const std::string& number : numbers)
+    if (!IsIntText(number)) bad.push_back(number);
+  QString doubt;
+  if (numbers.empty())
+    doubt = Words::tr("The list is empty: the logger loses all numbers that it holds. Write it?");
+  else if (!bad.empty())
+    doubt = Words::tr(
+                "%n of the numbers are no telephone numbers, the first of them \"%1\". A "
+                "logger may refuse them. Write the list?",
+                nullptr, static_cast<int>(bad.size()))
+                .arg(ToQt(Printable(bad.front())));
+  return doubt.isEmpty() ||
+         parts_.platform.dialogs.ShowMessage({.text = FromQt(doubt),
+                                              .title = configurator_.profile.TargetName,
+                                              .icon = BoxIcon::Question,
+                                              .buttons = BoxButtons::YesNo,
+                                              .prefersNo = true}) == BoxAnswer::Yes;
+}
+
 bool MainWindow::MayChangeModel(const std::string& model) {
   const BoxAnswer answer = parts_.platform.dialogs.ShowMessage(
-      {.text = FromQt(Words::tr("The file is for the model %1, and a session with a %2 stands. "
-                                "Change the model?")
+      {.text = FromQt(Words::tr("The file is for the model %1, and the session that stands is with "
+                                "the model %2. Change the model?")
                           .arg(ToQt(model), ToQt(configurator_.profile.TargetName))),
        .title = configurator_.profile.TargetName,
        .icon = BoxIcon::Question,
-       .buttons = BoxButtons::YesNo});
+       .buttons = BoxButtons::YesNo,
+       .prefersNo = true});
   return answer == BoxAnswer::Yes;
 }
 

@@ -9,7 +9,12 @@
 namespace ostrel {
 namespace {
 
-/// The alarm configuration that a form shows.
+/// The rules that look at the text of a file.
+const std::vector<std::string> kRulesOnFiles{"section-missing", "key-missing", "value-cut",
+                                             "value-misread"};
+
+}  // namespace
+
 int ShownConfig(const Form& form) {
   for (int config = 1; config < 4; ++config) {
     const std::string option = "Config" + std::to_string(config);
@@ -17,12 +22,6 @@ int ShownConfig(const Form& form) {
   }
   return 0;
 }
-
-/// The rules that look at the text of a file.
-const std::vector<std::string> kRulesOnFiles{"section-missing", "key-missing", "value-cut",
-                                             "value-misread"};
-
-}  // namespace
 
 void Overview::Look() {
   if (parts_.configurator.session.OwnsModel()) return;

@@ -11,6 +11,9 @@
 
 namespace ostrel {
 
+/// The alarm configuration that a form shows.
+int ShownConfig(const Form& form);
+
 /// Keeps tree, page in front, table of a group and panel of findings up to what the configuration
 /// on the pages holds. It looks when it is asked, and only where something may have changed.
 class Overview {

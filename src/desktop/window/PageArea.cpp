@@ -27,6 +27,9 @@ PageArea::Sheet& PageArea::SheetOf(Form& form) {
   view->OnControlChanged = [this] {
     if (OnControlChanged) OnControlChanged();
   };
+  view->OnNotesChanged = [this, view] {
+    if (OnNotesChanged && view == front_) OnNotesChanged();
+  };
   addWidget(scroll);
   return sheets_.emplace(&form, Sheet{scroll, view}).first->second;
 }
@@ -35,6 +38,7 @@ void PageArea::ShowForm(Form& form) {
   const Sheet& sheet = SheetOf(form);
   front_ = sheet.view;
   setCurrentWidget(sheet.scroll);
+  LayCovers();
   if (OnChanged) OnChanged();
 }
 
@@ -43,6 +47,37 @@ void PageArea::ShowEmpty(const QString& words) {
   empty_->setText(words);
   setCurrentWidget(empty_);
   if (OnChanged) OnChanged();
+}
+
+void PageArea::Cover(const QString& words) {
+  if (words == coverWords_) return;
+  coverWords_ = words;
+  LayCovers();
+}
+
+void PageArea::LayCovers() {
+  for (const auto& cover : covers_) delete cover.data();
+  covers_.clear();
+  if (coverWords_.isEmpty() || !front_) return;
+  QList<QWidget*> parts;
+  for (QWidget* part : front_->findChildren<QWidget*>())
+    if (part->property(kCoveredInReading).toBool()) parts << part;
+  if (parts.isEmpty()) parts << currentWidget();
+  for (QWidget* part : parts) {
+    auto* cover = new QLabel(coverWords_, part);
+    cover->setObjectName("Cover");
+    cover->setAlignment(Qt::AlignCenter);
+    cover->setWordWrap(true);
+    cover->setAutoFillBackground(true);
+    cover->setGeometry(part->rect());
+    cover->show();
+    covers_ << cover;
+  }
+}
+
+void PageArea::resizeEvent(QResizeEvent* event) {
+  QStackedWidget::resizeEvent(event);
+  LayCovers();
 }
 
 void PageArea::Redraw() {

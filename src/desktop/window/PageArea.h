@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QList>
+#include <QPointer>
 #include <QStackedWidget>
 #include <QString>
 #include <functional>
@@ -22,6 +24,9 @@ class PageArea final : public QStackedWidget {
   void ShowEmpty(const QString& words);
   /// Draws all anew, in the language in use.
   void Redraw();
+  /// Covers what a reading empties until it has all: the whole page, or the parts of it that it
+  /// names so. No words take the cover away.
+  void Cover(const QString& words);
   /// The view of the form in front; null when the page is empty.
   FormView* Front() const { return front_; }
 
@@ -29,6 +34,11 @@ class PageArea final : public QStackedWidget {
   std::function<void()> OnChanged;
   /// Runs after a control of any form has changed. Set by the window.
   std::function<void()> OnControlChanged;
+  /// Runs after something else is told of a control of the form in front. Set by the window.
+  std::function<void()> OnNotesChanged;
+
+ protected:
+  void resizeEvent(QResizeEvent* event) override;
 
  private:
   struct Sheet {
@@ -36,11 +46,14 @@ class PageArea final : public QStackedWidget {
     FormView* view;
   };
   Sheet& SheetOf(Form& form);
+  void LayCovers();
 
   std::function<LayoutContext()> context_;
   QLabel* empty_;
   std::map<Form*, Sheet> sheets_;
   FormView* front_ = nullptr;
+  QString coverWords_;
+  QList<QPointer<QLabel>> covers_;
 };
 
 }  // namespace ostrel

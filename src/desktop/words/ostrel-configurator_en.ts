@@ -11,5 +11,9 @@
         <source>%n field(s) differ.</source>
         <translation><numerusform>%n field differs.</numerusform><numerusform>%n fields differ.</numerusform></translation>
     </message>
+    <message numerus="yes">
+        <source>%n of the numbers are no telephone numbers, the first of them &quot;%1&quot;. A logger may refuse them. Write the list?</source>
+        <translation><numerusform>One of the numbers is no telephone number: &quot;%1&quot;. A logger may refuse it. Write the list?</numerusform><numerusform>%n of the numbers are no telephone numbers, the first of them &quot;%1&quot;. A logger may refuse them. Write the list?</numerusform></translation>
+    </message>
 </context>
 </TS>

@@ -263,7 +263,7 @@ constexpr std::array<Rule, 46> kRules{{
     {"period-too-long", Severity::Error, "a long timer whose period does not fit its statement",
      LongPeriods},
     {"macro-broken", Severity::Error, "a line of the macros that is none", BrokenMacros},
-    {"macro-memory-full", Severity::Error, "more macros than a logger has room for",
+    {"macro-memory-full", Severity::Error, "macros and equations with more characters in all than the 1024 of a logger's memory",
      MacrosBeyondMemory},
     {"equation-above-f15", Severity::Error, "an equation of a flag that does not exist",
      EquationsWithoutFlag},
@@ -379,12 +379,16 @@ std::string Examined::ValueText(const ConstField& field) const {
   return FieldText(field.value, Model().IsS100);
 }
 
-std::string FindingText(const Finding& finding) {
-  std::string text;
-  if (!finding.section.empty())
-    text = "[" + Printable(finding.section) + "]" + (finding.key.empty() ? "" : " ") +
-           Printable(finding.key) + ": ";
-  return text + SentenceText(finding);
+std::string FindingText(const Finding& finding) { return Filled(FindingPhrase(finding)); }
+
+Phrase FindingPhrase(const Finding& finding) {
+  Phrase sentence = finding.sentence;
+  for (std::string& argument : sentence.arguments) argument = Printable(argument);
+  if (finding.section.empty()) return sentence;
+  return {"%1: %2",
+          {"[" + Printable(finding.section) + "]" + (finding.key.empty() ? "" : " ") +
+           Printable(finding.key)},
+          {std::move(sentence)}};
 }
 
 std::string SentenceText(const Finding& finding) { return Printable(Filled(finding.sentence)); }

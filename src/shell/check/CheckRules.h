@@ -68,6 +68,8 @@ class Examined {
 std::string SentenceText(const Finding& finding);
 /// A finding in words: "[DIGITAL 0] NOMBRE: a comma ends the text ...".
 std::string FindingText(const Finding& finding);
+/// The same as a phrase, for those who speak other languages.
+Phrase FindingPhrase(const Finding& finding);
 
 struct Rule {
   std::string_view id;
