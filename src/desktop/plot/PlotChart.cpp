@@ -71,6 +71,11 @@ QColor PlotChart::Colour(std::size_t place) const {
   return QColor((isDark ? kCurvesOnDark : kCurvesOnLight)[place % kCurvesOnLight.size()]);
 }
 
+QPen PlotChart::PenOf(std::size_t place, bool isState) const {
+  return {Colour(place), isState ? 2.0 : 1.0,
+          kCurveStrokes[place / kCurvesOnLight.size() % kCurveStrokes.size()]};
+}
+
 QColor PlotChart::ColourOf(LiveId id) const {
   const auto curve = std::ranges::find(curves_, id, &Curve::id);
   return curve == curves_.end() ? QColor() : curve->graph->pen().color();
@@ -149,8 +154,7 @@ void PaintAxis(QCPAxis& axis, const QPalette& palette) {
 void PlotChart::AddCurve(LiveId id, QCPAxis& values, int lane) {
   const std::size_t place = curves_.size();
   QCPGraph* graph = addGraph(values.axisRect()->axis(QCPAxis::atBottom), &values);
-  graph->setPen(QPen(Colour(place), lane < 0 ? 1 : 2,
-                     kCurveStrokes[place / kCurvesOnLight.size() % kCurveStrokes.size()]));
+  graph->setPen(PenOf(place, lane >= 0));
   graph->setAdaptiveSampling(false);  // the history thins
   graph->setLineStyle(lane < 0 ? QCPGraph::lsLine : QCPGraph::lsStepLeft);
   curves_.push_back({id, graph, lane});
@@ -215,6 +219,7 @@ void PlotChart::AddStates(const std::vector<LiveId>& ids, int row) {
 /// Done ahead of each drawing, so that no more is thinned than is drawn.
 void PlotChart::Refill(int leastColumns) {
   const TimeSpan view = View();
+  std::size_t place = 0;
   for (const auto& [id, graph, lane] : curves_) {
     const int width = std::max(graph->keyAxis()->axisRect()->width(), leastColumns);
     const std::vector<CurvePoint> points = history_.Curve(id, view, width);
@@ -222,8 +227,11 @@ void PlotChart::Refill(int leastColumns) {
     drawn.reserve(static_cast<qsizetype>(points.size()));
     for (const auto& [at, value] : points)
       drawn.push_back({KeyOf(at), lane < 0 ? value : lane + value * kLaneFill});
-    // Smooth lines cost too much where they are so dense that nobody could tell.
-    graph->setAntialiased(lane < 0 && drawn.size() < width);
+    // Where lines are so dense that nobody could tell, smooth, wide or dashed ones cost too much.
+    const bool isSparse = drawn.size() < width / 2;
+    graph->setAntialiased(lane < 0 && isSparse);
+    graph->setPen(isSparse ? PenOf(place, lane >= 0) : QPen(Colour(place), 1));
+    ++place;
     graph->data()->set(drawn, true);
   }
   if (fits_) FitAxes();

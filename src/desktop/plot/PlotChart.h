@@ -81,6 +81,7 @@ class PlotChart final : public QCustomPlot {
   void FitAxes();
   void Point(std::optional<Moment> at);
   QColor Colour(std::size_t place) const;
+  QPen PenOf(std::size_t place, bool isState) const;
   std::vector<QCPAxis*> ValueAxes() const;
   void UseOrientation(Qt::KeyboardModifiers keys);
 
