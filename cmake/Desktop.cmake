@@ -1,5 +1,5 @@
-# The window: what it links, its program, its words and what they bring to an installation.
-find_package(Qt6 REQUIRED COMPONENTS Widgets PrintSupport DBus LinguistTools)
+# The window: what it links, its program and what it brings to an installation.
+find_package(Qt6 REQUIRED COMPONENTS Widgets PrintSupport DBus)
 find_package(QCustomPlotQt6 REQUIRED)
 target_link_libraries(ostrel_desktop PUBLIC Qt6::Widgets Qt6::PrintSupport
                                             QCustomPlotQt6::QCustomPlotQt6 PRIVATE Qt6::DBus)
@@ -9,12 +9,6 @@ target_link_libraries(ostrel-configurator PRIVATE ostrel_desktop)
 target_precompile_headers(ostrel-configurator REUSE_FROM ostrel_std_headers)
 target_compile_definitions(ostrel-configurator PRIVATE OSTREL_VERSION="${PROJECT_VERSION_MAJOR}.${PROJECT_VERSION_MINOR}")
 add_dependencies(ostrel-configurator ostrel_lang_copy)
-
-# The window's own words: English in the code, Spanish here.
-qt_add_translations(ostrel_desktop
-                    TS_FILES ${CMAKE_SOURCE_DIR}/src/desktop/words/ostrel-configurator_es.ts
-                             ${CMAKE_SOURCE_DIR}/src/desktop/words/ostrel-configurator_en.ts
-                    RESOURCE_PREFIX /i18n)
 
 install(TARGETS ostrel-configurator RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
 install(FILES ${CMAKE_SOURCE_DIR}/data/desktop/ostrel-configurator.desktop

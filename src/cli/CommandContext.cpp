@@ -8,6 +8,7 @@
 #include "host/LangSeed.h"
 #include "host/SimulatedLoggers.h"
 #include "link/WireText.h"
+#include "platform/Clock.h"
 
 namespace ostrel::cli {
 namespace {
@@ -46,10 +47,34 @@ CommandContext::CommandContext(Environment& world, GlobalOptions shared)
               return world.readDescriptor ? world.readDescriptor(0, false, octets)
                                           : FileResult{"there is none"};
             }),
-      platform(world.platform.With(dialogs).With(files)),
+      tapped(world.platform.port),
+      platform(world.platform.With(dialogs).With(files).With(tapped)),
       lang_(platform.files, SeedLang(platform.files, world.shippedLang, LangIn(world.dataFolder))) {
   lang_.Init();
   lang_.SetSelectedLang(options.lang);
+}
+
+ExitCode CommandContext::StartRecording() {
+  const std::string& path = options.record;
+  if (path.empty()) return ExitCode::Done;
+  std::string why;
+  recording_ = environment.openLineRecording(path, why);
+  if (!recording_)
+    return console.Fail(ExitCode::BadFile, "cannot write the recording to " + path + ": " + why);
+  recorder_ = std::make_unique<Recorder>(
+      platform.loop, [this](std::string_view text) { *recording_ << text << std::flush; },
+      DateTimeText(platform.clock.LocalNow()));
+  recorder_->Write(RecordedKind::Command, options.words);
+  tapped.Join(*recorder_);
+  return ExitCode::Done;
+}
+
+bool CommandContext::EndRecording(ExitCode code) {
+  if (!recorder_) return true;
+  recorder_->Write(RecordedKind::End, std::to_string(static_cast<int>(code)));
+  tapped.Leave(*recorder_);
+  recorder_.reset();
+  return !recording_->flush().fail();
 }
 
 std::unique_ptr<Configurator> CommandContext::MakeOnline(std::string_view model) {

@@ -12,6 +12,8 @@
 #include "cli/Result.h"
 #include "cli/StandardFiles.h"
 #include "lang/Lang.h"
+#include "platform/TappedPort.h"
+#include "recording/Recorder.h"
 #include "shell/ConfigurationFile.h"
 #include "shell/Configurator.h"
 #include "shell/FieldWords.h"
@@ -35,10 +37,17 @@ class CommandContext {
   Console console;
   ConsoleDialogs dialogs;
   StandardFiles files;
+  TappedPort tapped;        ///< that of the environment
   const Platform platform;  ///< that of the environment; the dialogs are those of the command line
   bool traceLost = false;   ///< the trace could not be written whole
   /// What was to be done is done: output that cannot be written does not change that.
   bool isDone = false;
+
+  /// Begins the recording that the options ask for. Anything but Done after saying why it cannot be
+  /// written.
+  ExitCode StartRecording();
+  /// Ends it with what the command came to; false when it could not be written whole.
+  bool EndRecording(ExitCode code);
 
   /// A configurator with the ports of the environment, on a model by its display name.
   std::unique_ptr<Configurator> MakeOnline(std::string_view model);
@@ -76,6 +85,8 @@ class CommandContext {
   std::string ModelOfFile(const std::string& path);
 
   Lang lang_;
+  std::unique_ptr<std::ostream> recording_;
+  std::unique_ptr<Recorder> recorder_;
 };
 
 }  // namespace ostrel::cli

@@ -11,6 +11,7 @@
 #include "host/SimulatedLoggers.h"
 #include "platform/Files.h"
 #include "platform/Platform.h"
+#include "platform/PortFacts.h"
 
 namespace ostrel::cli {
 
@@ -21,6 +22,7 @@ struct Environment {
 
   Platform platform;  ///< ports with the simulated loggers at their numbers; dialogs ask nobody
   SimulatedLoggers& simulated;
+  PortInspector& inspector;  ///< of the machine's own ports
   std::ostream& out;
   std::ostream& err;
   bool errIsTerminal = false;
@@ -38,8 +40,8 @@ struct Environment {
   /// Opens a text file that grows while the command runs; null when it may not be written, which
   /// `why` tells.
   OpenLogFile openLog;
-  /// The same for a recording of live values.
-  OpenLogFile openRecording{};
+  /// The same for a recording of live values, and for one of the line.
+  OpenLogFile openRecording{}, openLineRecording{};
   /// Opens a text file to which is added while the command runs.
   OpenLogFile openGrowing;
   /// Gives the lines of standard input as they come, and then its end, for as long as the result
@@ -47,6 +49,10 @@ struct Environment {
   std::function<std::shared_ptr<void>(std::function<void(std::string line)> onLine,
                                       std::function<void()> onEnd)>
       watchInput;
+  /// A text of this program in a language such as "es"; empty where there is English alone.
+  std::function<std::string(std::string_view language, std::string_view text)> translate{};
+  /// A document in HTML as the octets of a PDF file; empty when it cannot be made.
+  std::function<std::string(const std::string& html)> makePdf{};
   /// What an interrupt does; set by a command for as long as it has a port open.
   std::function<void()> onInterrupt;
   /// Whether a signal has come that ends the program, served or not; empty where none can come.

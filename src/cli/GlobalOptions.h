@@ -15,6 +15,8 @@ struct GlobalOptions {
   std::string codeFile;     ///< file whose first line is the access code
   int codeDescriptor = -1;  ///< open descriptor whose first line is the access code
   std::string trace;        ///< file that gets what passes on the line
+  std::string record;       ///< file that gets every octet both ways
+  std::string words;        ///< the command line, without what says where and who
   std::string simState;     ///< file in which a simulated logger is kept
   std::int16_t lang = 1;
   std::optional<std::int32_t> features;

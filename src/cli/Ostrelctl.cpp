@@ -45,6 +45,8 @@ void AddGlobals(CLI::App& app, GlobalOptions& options) {
   codeFd->check(CLI::Range(0, 65535))->excludes(code)->excludes(codeFile);
   codeFile->excludes(code);
   app.add_option("--trace", options.trace, "File that gets what passes on the line");
+  app.add_option("--record", options.record,
+                 "File that gets every octet both ways, for ostrel-sim --replay");
   app.add_option("--sim-state", options.simState, "File in which a simulated logger is kept");
   app.add_option("--lang", options.lang,
                  "Column of the language table for the core's texts, else that of the locale")
@@ -65,9 +67,10 @@ void AddGlobals(CLI::App& app, GlobalOptions& options) {
 std::vector<Command> AddCommands(CLI::App& app) {
   std::vector<Command> commands;
   for (const auto add :
-       {AddPorts,      AddInfo,     AddClock,    AddLive,     AddOutput,   AddTotal,   AddVoice,
-        AddProbe,      AddTerminal, AddFirmware, AddDownload, AddUpload,   AddBackups, AddRestore,
-        AddStatements, AddDiff,     AddShow,     AddCheck,    AddSchedule, AddCalc,    AddTest})
+       {AddPorts,  AddDoctor,   AddInfo,    AddClock,      AddLive,     AddOutput,
+        AddTotal,  AddVoice,    AddProbe,   AddTerminal,   AddFirmware, AddDownload,
+        AddUpload, AddBackups,  AddRestore, AddStatements, AddDiff,     AddShow,
+        AddCheck,  AddSchedule, AddReport,  AddCalc,       AddTest})
     commands.push_back(add(app));
   for (const Command& command : commands) command.parser->fallthrough();
   app.require_subcommand(1);
@@ -117,12 +120,31 @@ ExitCode TakeCode(const Environment& environment, GlobalOptions& options) {
       .Fail(ExitCode::BadFile, "no access code from " + from + ": " + read.error);
 }
 
+/// The words of a command line that decide what is done: without those that say where the logger
+/// is, who asks, and what is written beside it.
+std::string WordsToKeep(std::span<const std::string> args) {
+  constexpr std::string_view kLeftOut[] = {"--port",      "--code",  "--code-file", "--code-fd",
+                                           "--sim-state", "--trace", "--record"};
+  std::string words;
+  for (std::size_t i = 0; i < args.size(); ++i) {
+    const std::string_view name = std::string_view(args[i]).substr(0, args[i].find('='));
+    if (std::ranges::find(kLeftOut, name) != std::end(kLeftOut)) {
+      if (name.size() == args[i].size()) ++i;
+    } else {
+      words += (words.empty() ? "" : " ") + args[i];
+    }
+  }
+  return words;
+}
+
 ExitCode RunChosen(const std::vector<Command>& commands, Environment& environment,
                    const GlobalOptions& options) {
   for (const Command& command : commands) {
     if (!command.parser->parsed()) continue;
     CommandContext context(environment, options);
+    if (const ExitCode begun = context.StartRecording(); begun != ExitCode::Done) return begun;
     const ExitCode result = command.run(context);
+    const bool isRecorded = context.EndRecording(result);
     const FileResult kept = environment.simulated.SaveState(environment.platform.files);
     environment.out.flush();
     if (!kept.Ok())
@@ -131,6 +153,8 @@ ExitCode RunChosen(const std::vector<Command>& commands, Environment& environmen
     if (!environment.out && !context.isDone) return OutputLost(context);
     if (context.traceLost)
       return context.console.Fail(ExitCode::BadFile, "cannot write " + options.trace);
+    if (!isRecorded)
+      return context.console.Fail(ExitCode::BadFile, "cannot write " + options.record);
     return result;
   }
   return ExitCode::Usage;
@@ -156,6 +180,7 @@ ExitCode RunOstrelctl(std::span<const std::string> args, Environment& environmen
                             std::ranges::find(args, "--json") != args.end());
   }
   if (const ExitCode given = TakeCode(environment, options); given != ExitCode::Done) return given;
+  options.words = WordsToKeep(args);
   return RunChosen(commands, environment, options);
 }
 

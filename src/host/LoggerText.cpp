@@ -1,18 +1,10 @@
 #include "host/LoggerText.h"
 
-#include <array>
 #include <charconv>
 
 #include "link/WireText.h"
 
 namespace ostrel {
-
-std::string FeaturesText(std::int32_t features) {
-  std::array<char, 8> text{};
-  const auto end = std::to_chars(text.data(), text.data() + text.size(),
-                                 static_cast<std::uint32_t>(features), 16);
-  return "0x" + std::string(text.data(), end.ptr);
-}
 
 std::optional<std::int32_t> ReadFeatures(std::string_view text) {
   if (text.starts_with("0x") || text.starts_with("0X")) text.remove_prefix(2);

@@ -5,12 +5,11 @@
 #include <string>
 #include <string_view>
 
+#include "model/DeviceInfo.h"
 #include "platform/DateTime.h"
 
 namespace ostrel {
 
-/// A feature mask as "0x10401".
-std::string FeaturesText(std::int32_t features);
 /// Reads a mask of up to eight hexadecimal digits, with or without "0x".
 std::optional<std::int32_t> ReadFeatures(std::string_view text);
 /// What is wrong with a text that is to be a plain whole number; empty for one that is.

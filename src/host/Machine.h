@@ -5,6 +5,7 @@
 
 #include "host/SimulatedLoggers.h"
 #include "platform/Platform.h"
+#include "platform/qt/DeviceInspector.h"
 #include "platform/qt/PortMap.h"
 #include "platform/qt/QtClock.h"
 #include "platform/qt/QtEventLoop.h"
@@ -38,6 +39,11 @@ class Machine {
  private:
   QtSettings settings_;
   PortMap map_;
+
+ public:
+  DeviceInspector inspector{map_};
+
+ private:
   QtSerialPort serialPort_;
   std::unique_ptr<SimulatedLoggers> simulated_;
   PortSwitch ports_;

@@ -10,6 +10,7 @@
 #include <string_view>
 #include <system_error>
 
+#include "recording/Recording.h"
 #include "tools/LiveRecording.h"
 
 namespace ostrel {
@@ -78,6 +79,9 @@ constexpr GrowingKind kRecording{
     [](std::string_view line) { return line.starts_with(kRecordingHead); }, "a recording",
     kAnyFile};
 
+constexpr GrowingKind kLineRecording{
+    [](std::string_view line) { return line == kLineRecordingHead; }, "a recording", kOwnFile};
+
 /// Whether a file is empty or begins as one of its kind does.
 bool HoldsNothingElse(int descriptor, const GrowingKind& kind) {
   std::array<char, 256> start{};
@@ -129,6 +133,10 @@ std::unique_ptr<std::ostream> OpenLog(const std::string& path, std::string& why)
 
 std::unique_ptr<std::ostream> OpenRecording(const std::string& path, std::string& why) {
   return Open(path, kRecording, why);
+}
+
+std::unique_ptr<std::ostream> OpenLineRecording(const std::string& path, std::string& why) {
+  return Open(path, kLineRecording, why);
 }
 
 }  // namespace ostrel

@@ -20,4 +20,7 @@ std::unique_ptr<std::ostream> OpenRecording(const std::string& path, std::string
 /// tells.
 std::unique_ptr<std::ostream> OpenLog(const std::string& path, std::string& why);
 
+/// The same for a recording of the line, which is its owner's alone.
+std::unique_ptr<std::ostream> OpenLineRecording(const std::string& path, std::string& why);
+
 }  // namespace ostrel

@@ -29,7 +29,7 @@ Comms::Comms(const Platform& platform, const LinkRecords& records, LinkHooks hoo
       upload_(line_, progress_, records.info, hooks_.composed),
       voice_(line_, progress_, records.info) {
   platform_.port.SetOnComm([this] {
-    if (platform_.port.CommEvent() != kCommEventCarrier) return;
+    if (platform_.port.CommEvent() != kCommEventCarrier || lent_) return;
     carrierGoneAt_.reset();
     if (platform_.port.CDHolding()) return;
     carrierGoneAt_ = platform_.loop.Now();
@@ -75,6 +75,13 @@ void Comms::CloseComs(bool modem) {
   const AtEnd closed([this] { line_.Close(); });
   if (modem && line_.GoesOn()) HangUp(line_);
   if (line_.GoesOn()) line_.AwaitSent();
+}
+
+bool Comms::LendPort(const std::function<void()>& work) {
+  if (LinkBusy || PortOpen()) return false;
+  const Lent busy(LinkBusy, true), lent(lent_, true);
+  work();
+  return true;
 }
 
 std::string Comms::GetField(int n) const { return std::string(FieldOf(RxLine, n)); }

@@ -70,6 +70,9 @@ class Comms {
   /// Closes the port at once, without any dialogue: a running wait ends, and with it the dialogue,
   /// which fails.
   void Abort() { line_.Close(); }
+  /// Leaves the closed port to somebody else for some work: no dialogue begins meanwhile, and what
+  /// the carrier does is none of ours. False when a dialogue runs or the port is open.
+  bool LendPort(const std::function<void()>& work);
   std::string GetChar(int timeout) { return line_.GetChar(timeout); }
   std::string TakeInput() { return line_.TakeInput(); }
   void Delay(int ms) { line_.Delay(ms); }
@@ -158,6 +161,7 @@ class Comms {
   VoiceDialogue voice_;
   LinkFault fault_;
   LinkFault infoFault_{LinkFault::Kind::Silence};
+  bool lent_ = false;
   bool opened_ = false;  ///< the open port is ours to close
   std::optional<TimePoint> carrierGoneAt_;
 

@@ -14,4 +14,11 @@ std::string VersionText(float hundredths) {
   return {text.data(), end.ptr};
 }
 
+std::string FeaturesText(std::int32_t features) {
+  std::array<char, 8> text{};
+  const auto end = std::to_chars(text.data(), text.data() + text.size(),
+                                 static_cast<std::uint32_t>(features), 16);
+  return "0x" + std::string(text.data(), end.ptr);
+}
+
 }  // namespace ostrel

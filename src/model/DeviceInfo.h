@@ -24,4 +24,7 @@ struct DeviceInfo {
 /// A firmware version in hundredths as "1.23"; half a hundredth counts as a whole one.
 std::string VersionText(float hundredths);
 
+/// A feature mask as "0x10401".
+std::string FeaturesText(std::int32_t features);
+
 }  // namespace ostrel

@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -23,6 +24,15 @@ struct PortEntry {
   int number = 0;           ///< 1 to 256, shown as "COM7"
   std::string device;       ///< what stands behind the number, such as "/dev/ttyUSB0"
   std::string description;  ///< words of the system about the device; may be empty
+};
+
+/// The lines that the other end of a cable drives.
+struct ControlLines {
+  bool clearToSend = false;   ///< CTS: the other end takes octets
+  bool dataSetReady = false;  ///< DSR
+  bool carrier = false;       ///< DCD
+
+  bool operator==(const ControlLines&) const = default;
 };
 
 inline constexpr int kFirstPort = 1;
@@ -67,6 +77,8 @@ class SerialPort {
 
   /// Carrier detect as last seen.
   virtual bool CDHolding() const = 0;
+  /// The control lines of the open port; nothing where the device has none.
+  virtual std::optional<ControlLines> Lines() const = 0;
   /// Code of the last event; valid inside the `OnComm` handler.
   virtual int CommEvent() const = 0;
   virtual void SetOnComm(std::function<void()> handler) = 0;

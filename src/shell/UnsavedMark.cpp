@@ -1,7 +1,7 @@
 #include "shell/UnsavedMark.h"
 
-#include "blocks/Configuration.h"
 #include "shell/Configurator.h"
+#include "shell/EditHistory.h"
 #include "shell/Navigation.h"
 
 namespace ostrel {
@@ -21,15 +21,8 @@ bool UnsavedMark::Changed() {
   if (configurator_.ComBusy || !touched_) return changed_;
   touched_ = false;
   const DeviceConf present = WithFront();
-  changed_ = present != kept_ && Texts(present) != Texts(kept_);
+  changed_ = !ReadsAlike(present, kept_, configurator_.profile);
   return changed_;
-}
-
-std::vector<std::string> UnsavedMark::Texts(const DeviceConf& conf) const {
-  std::vector<std::string> texts;
-  for (const ConstField& field : FieldsOf(conf, configurator_.profile))
-    texts.push_back(FieldText(field.value, configurator_.profile.IsS100));
-  return texts;
 }
 
 }  // namespace ostrel

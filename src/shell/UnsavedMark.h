@@ -1,8 +1,5 @@
 #pragma once
 
-#include <string>
-#include <vector>
-
 #include "model/DeviceConf.h"
 
 namespace ostrel {
@@ -35,9 +32,6 @@ class UnsavedMark {
   DeviceConf WithFront() const;
 
  private:
-  /// What a file of the selected model would hold.
-  std::vector<std::string> Texts(const DeviceConf& conf) const;
-
   Configurator& configurator_;
   Navigation& navigation_;
   DeviceConf kept_;

@@ -28,6 +28,8 @@ enum class FaultKind {
   RefuseCommand,
   SilentAfterNumber,
   WrongSum,
+  Noise,
+  Echo,
   RefuseErase,
   ReadyLate,
   NoAliveMark,

@@ -108,6 +108,10 @@ void Logger::Answer(const std::string& request) {
     exchange_.note = "silent by fault";
   else if (fixture_.Asleep())
     exchange_.note = "asleep";
+  else if (plan_.Count(FaultKind::Noise))
+    AnswerNoise();
+  else if (plan_.Count(FaultKind::Echo))
+    AnswerEcho(request);
   else if (!admitted_ && !request.starts_with("#11"))
     exchange_.note = "access code missing";
   else if (HasNoWordFor(request))
@@ -128,6 +132,20 @@ bool Logger::Dispatch(const std::string& request) {
   const auto answer = AnswerLive(request, Self(), conf_, live_, outputs_, Seconds());
   if (answer) Reply(*answer);
   return answer.has_value();
+}
+
+/// What a line of another speed looks like: octets of any value, none of them the end of a line.
+void Logger::AnswerNoise() {
+  constexpr int kOctets = 24;
+  std::string noise;
+  for (int i = 0; i < kOctets; ++i) noise += static_cast<char>(0x80 + plan_.Draw(0x1F));
+  exchange_.note = "noise by fault";
+  line_.Send(noise);
+}
+
+void Logger::AnswerEcho(const std::string& request) {
+  exchange_.note = "echo by fault";
+  line_.Send(ComposeFrame(request));
 }
 
 void Logger::Reply(std::string_view message, Duration tear) {

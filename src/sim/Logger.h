@@ -98,6 +98,8 @@ class Logger final : public LineDevice {
   void AwaitAnswer();
   void Answer(const std::string& request);
   bool Dispatch(const std::string& request);
+  void AnswerNoise();
+  void AnswerEcho(const std::string& request);
   void Reply(std::string_view message, Duration tear = {});
   void ReplyRecord(std::string_view head, int number, std::string_view record);
   void ForgetLine();

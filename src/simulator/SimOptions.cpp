@@ -27,6 +27,9 @@ void AddOptions(CLI::App& app, SimOptions& options, Texts& texts) {
   app.add_flag("--pace", options.isPaced, "960 octets a second, as on a cable");
   app.add_flag("--empty", options.isEmpty, "Start without a configuration");
   app.add_option("--state", options.stateFile, "File in which the logger is kept");
+  app.add_option("--replay", options.replay,
+                 "Recording of ostrelctl --record whose logger is played; no other option of a "
+                 "logger counts then");
   app.add_flag("--modem", options.logger.modem, "Behind a modem instead of a cable");
   app.add_option("--code", options.logger.accessCode, "Access code of a data call");
   app.add_option("--fault", texts.faults, "What goes wrong; may be given again")
@@ -69,6 +72,27 @@ std::string Shown(const std::string& octets) {
   return Printable(FromCodePage(WithoutSecrets(octets)));
 }
 
+/// A time in seconds, ahead of what happened then.
+std::string Stamp(TimePoint at) {
+  const auto milliseconds = std::chrono::duration_cast<std::chrono::milliseconds>(at).count();
+  return std::to_string(milliseconds / 1000) + "." +
+         std::to_string(milliseconds % 1000 + 1000).substr(1) + "  ";
+}
+
+std::string_view MatchWords(ReplayMatch match) {
+  switch (match) {
+    case ReplayMatch::InOrder:
+      return "";
+    case ReplayMatch::Elsewhere:
+      return "  (from another place)";
+    case ReplayMatch::Alike:
+      return "  (to a request of its kind)";
+    case ReplayMatch::Unknown:
+      return "  (not recorded)";
+  }
+  return "";
+}
+
 }  // namespace
 
 bool ParseSimOptions(std::span<const std::string> args, SimOptions& options, std::ostream& out,
@@ -95,14 +119,18 @@ bool ParseSimOptions(std::span<const std::string> args, SimOptions& options, std
 }
 
 std::string ExchangeLine(const sim::Exchange& exchange) {
-  const auto milliseconds = std::chrono::duration_cast<std::chrono::milliseconds>(exchange.at);
-  const std::string rest = std::to_string(milliseconds.count() % 1000 + 1000).substr(1);
-  std::string line =
-      std::to_string(milliseconds.count() / 1000) + "." + rest + "  " + Shown(exchange.request);
+  std::string line = Stamp(exchange.at) + Shown(exchange.request);
   if (!exchange.reply.empty()) line += " -> " + Shown(exchange.reply);
   if (exchange.frames > 1) line += " and " + std::to_string(exchange.frames - 1) + " more";
   if (!exchange.note.empty()) line += "  (" + Printable(FromCodePage(exchange.note)) + ")";
   return line;
+}
+
+std::string ReplayLine(TimePoint at, const ReplayedRequest& request) {
+  std::string text = request.request;
+  while (!text.empty() && (text.back() == '\r' || text.back() == '\n')) text.pop_back();
+  return Stamp(at) + Printable(FromCodePage(text)) + " -> " + std::to_string(request.answers) +
+         (request.answers == 1 ? " line" : " lines") + std::string(MatchWords(request.match));
 }
 
 }  // namespace ostrel

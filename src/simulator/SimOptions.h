@@ -5,6 +5,7 @@
 #include <string>
 
 #include "host/ExitCode.h"
+#include "recording/Replay.h"
 #include "sim/Logger.h"
 
 namespace ostrel {
@@ -15,6 +16,7 @@ struct SimOptions {
   bool isPaced = false;
   bool isEmpty = false;   ///< starts without a configuration
   std::string stateFile;  ///< empty for none
+  std::string replay;     ///< recording whose logger is played; empty for none
   std::string link;       ///< path that is to lead to the pseudo-terminal; empty for none
 };
 
@@ -23,8 +25,11 @@ struct SimOptions {
 bool ParseSimOptions(std::span<const std::string> args, SimOptions& options, std::ostream& out,
                      std::ostream& err, ExitCode& code);
 
-/// One line about an exchange: seconds, request, and what came of it. Access codes and passwords are
-/// not told.
+/// One line about an exchange: seconds, request, and what came of it. Access codes and passwords
+/// are not told.
 std::string ExchangeLine(const sim::Exchange& exchange);
+
+/// The same about a request to a replay.
+std::string ReplayLine(TimePoint at, const ReplayedRequest& request);
 
 }  // namespace ostrel

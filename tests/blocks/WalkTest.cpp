@@ -165,21 +165,6 @@ TEST_P(FieldWalk, EmptyingResetsEveryField) {
   }
 }
 
-/// The record behind the last of an array is what a logger's line may reach, and nothing else.
-TEST_P(FieldWalk, SpareRecordsAreLeftAlone) {
-  conf.Digital[9].NOMBRE = conf.Caudal[9].NOMBRE = conf.Modulo[128].D.NOMBRE = "spare";
-  conf.CTimer[16].PERIOD = 5;
-  conf.MTimer[16].MES = 5;
-  const DeviceConf filled = conf;
-  for (const Block& block : Blocks()) {
-    block.clear(conf, profile, translate);
-    const std::string file = FileText(block.page);
-    EXPECT_EQ(file.find("spare"), std::string::npos);
-    Restore(block.page, file + "\r\n[DIGITAL 9]\r\nNOMBRE=file");
-  }
-  EXPECT_EQ(conf, filled);
-}
-
 /// How many records a file holds of each kind, whatever the model has.
 TEST_P(FieldWalk, FilesHoldTheirFixedCounts) {
   std::map<std::string, std::set<int>> records;
@@ -201,6 +186,24 @@ TEST_P(FieldWalk, FilesHoldTheirFixedCounts) {
   EXPECT_EQ(records["MODBUS"].size(), profile.IsVR200 || profile.IsS100 ? 33U : 1U);
   for (const auto* section : {"MINPUT", "MINPUT.D", "MINPUT.Q", "MINPUT.C", "MINPUT.A"})
     EXPECT_EQ(records[section].size(), profile.IsS100 ? 128U : 0U) << section;
+}
+
+using SpareRecords = BlockFixture;
+
+/// The record behind the last of an array is what a logger's line may reach, and nothing else.
+TEST_F(SpareRecords, AreLeftAlone) {
+  Use("Ostrel S100");
+  conf.Digital[9].NOMBRE = conf.Caudal[9].NOMBRE = conf.Modulo[128].D.NOMBRE = "spare";
+  conf.CTimer[16].PERIOD = 5;
+  conf.MTimer[16].MES = 5;
+  const DeviceConf filled = conf;
+  for (const Block& block : Blocks()) {
+    block.clear(conf, profile, translate);
+    const std::string file = FileText(block.page);
+    EXPECT_EQ(file.find("spare"), std::string::npos);
+    Restore(block.page, file + "\r\n[DIGITAL 9]\r\nNOMBRE=file");
+  }
+  EXPECT_EQ(conf, filled);
 }
 
 TEST(Orders, EveryBlockHasItsPlaces) {

@@ -27,11 +27,14 @@ struct ConsoleWorld : World {
       return stream;
     };
     Logger().OnExchange([this](const sim::Exchange& exchange) {
-      if (exchange.request.starts_with("#01")) asked += exchange.request + " ";
+      if (!exchange.request.starts_with("#01")) return;
+      asked += exchange.request + " ";
+      askedAt.push_back(exchange.at);
     });
   }
   std::stringbuf log;
   std::string asked;
+  std::vector<TimePoint> askedAt;
 };
 
 TEST(TerminalCommand, SendsEachLineBehindTheAnswerToTheLastAndEndsOnceQuiet) {
@@ -39,7 +42,8 @@ TEST(TerminalCommand, SendsEachLineBehindTheAnswerToTheLastAndEndsOnceQuiet) {
   const TimePoint start = world.loop.Now();
   EXPECT_EQ(world.Run("terminal --port sim:VR200 --log /log"), 0) << world.err;
   EXPECT_LT(world.loop.Now() - start, std::chrono::seconds(5));
-  EXPECT_EQ(world.asked, "#01VER #01TIME #01nothing ");
+  ASSERT_EQ(world.asked, "#01VER #01TIME #01nothing ");
+  EXPECT_GE(world.askedAt[1] - world.askedAt[0], std::chrono::milliseconds(200));
   EXPECT_EQ(world.out, "Ostrel VR200 v4.12\n" + world.out.substr(19, 9) + "? nothing\n");
   EXPECT_EQ(world.log.str(), world.out);
   EXPECT_THAT(world.err, HasSubstr("not sent, it is no command: bad\\x01line\n"));

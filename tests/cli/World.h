@@ -12,6 +12,7 @@
 #include <string_view>
 #include <vector>
 
+#include "FakeInspector.h"
 #include "VirtualWorld.h"
 #include "cli/Ostrelctl.h"
 #include "host/SimulatedLoggers.h"
@@ -40,6 +41,7 @@ struct World : VirtualWorld {
   SimulatedLoggers simulated;
   std::ostringstream outStream, errStream;
   SilentDialogs nobody;
+  FakeInspector inspector;
   Environment environment{.platform = {.loop = loop,
                                        .port = simulated.Port(),
                                        .settings = settings,
@@ -48,6 +50,7 @@ struct World : VirtualWorld {
                                        .processes = processes,
                                        .clock = clock},
                           .simulated = simulated,
+                          .inspector = inspector,
                           .out = outStream,
                           .err = errStream,
                           .errIsTerminal = false,

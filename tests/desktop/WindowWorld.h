@@ -66,7 +66,7 @@ struct WindowWorld {
                  .clock = clock},
         ConfiguratorOptions{
             .programFolder = "/nowhere", .langFile = Path("Lang.txt"), .ticking = true},
-        FromQt(folder.path()));
+        FromQt(folder.path()), inspector);
     dialogsOfWindow.StandBefore(made->Window());
     return made;
   }
@@ -79,6 +79,7 @@ struct WindowWorld {
   VirtualProcesses processes;
   VirtualClock clock;
   QtDialogs dialogsOfWindow;
+  BlindInspector inspector;
   sim::Logger* logger = nullptr;
   LineEnd* line = nullptr;  ///< the logger's end
 };

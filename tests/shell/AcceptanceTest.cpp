@@ -29,8 +29,8 @@ TEST(Acceptance, ListsWhatIsConfiguredInTheOrderOfTheTree) {
   conf.Digital[1].NOMBRE = "Door";
   conf.Digital[7].NOMBRE = "of another model";
   conf.Analog[1].INTERFAZ = 1;
-  conf.Analog[2].ALARM[1].alarm.TEXTO = "of an alarm that is not enabled";
-  conf.Analog[3].ALARM[1].alarm.HABIL = kTrue;
+  conf.Analog[2].ALARM[1].common.TEXTO = "of an alarm that is not enabled";
+  conf.Analog[3].ALARM[1].common.HABIL = kTrue;
   conf.Math[1].NOMBRE = "sum";  // no input
   conf.Modulo[5].MODO = kModeCounter;
   conf.Modulo[5].C.NOMBRE = "Gas";

@@ -117,7 +117,7 @@ TEST(FirmPage, WarnsOfFilesThatLookWrong) {
         {good.substr(0, good.size() - 13), loader, "image.hex: falta el registro final"},
         {good, "", "CopyFlash.hex: falta el registro final"},
         {loader, good, "intercambiados"},
-        {std::string(17'000'000, '\n') + good, loader, "image.hex: ocupa mas de 16 MB"}}) {
+        {std::string(17'000'000, ' ') + "\n" + good, loader, "image.hex: ocupa mas de 16 MB"}}) {
     SCOPED_TRACE(c.warning);
     FirmBench bench;
     bench.Connect();

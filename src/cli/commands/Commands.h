@@ -16,6 +16,7 @@ struct Command {
 
 // Each adds one command to a parser, which must outlive it.
 Command AddPorts(CLI::App& app);
+Command AddDoctor(CLI::App& app);
 Command AddInfo(CLI::App& app);
 Command AddClock(CLI::App& app);
 Command AddLive(CLI::App& app);
@@ -34,6 +35,7 @@ Command AddDiff(CLI::App& app);
 Command AddShow(CLI::App& app);
 Command AddCheck(CLI::App& app);
 Command AddSchedule(CLI::App& app);
+Command AddReport(CLI::App& app);
 Command AddCalc(CLI::App& app);
 Command AddTest(CLI::App& app);
 

@@ -1,5 +1,4 @@
 #include <algorithm>
-#include <map>
 #include <unordered_map>
 
 #include "base/Channels.h"
@@ -7,8 +6,7 @@
 #include "cli/commands/Commands.h"
 #include "cli/commands/OnlineCommand.h"
 #include "host/LoggerText.h"
-#include "pages/ActionCatalogue.h"
-#include "shell/FieldWords.h"
+#include "shell/SettingLines.h"
 #include "shell/check/CheckRules.h"
 
 namespace ostrel::cli {
@@ -112,87 +110,12 @@ Json ConfigurationJson(const ModelConfiguration& configuration, const std::strin
           {"sections", std::move(sections)}};
 }
 
-/// A line of the readable form.
-struct Line {
-  FieldId id;
-  std::string key, words;
-  std::string value;
-};
-
-/// The actions of a model in words, by their numbers.
-using ActionWords = std::map<std::int16_t, std::string>;
-
-ActionWords WordsOfActions(const TargetProfile& model, const Translation& translate) {
-  ActionWords words;
-  for (const ActionItem& item : OfferedActions(model, translate)) words[item.number] = item.text;
-  return words;
-}
-
-/// The value of a place in a list of actions; empty for an empty place.
-std::string ActionText(std::int16_t number, const ActionWords& words) {
-  if (number <= 0) return {};
-  const auto found = words.find(number);
-  return found == words.end() ? std::to_string(number) + " - unknown to this model" : found->second;
-}
-
-/// The lines of a section: the places of a list of actions are joined into one line.
-std::vector<Line> LinesOf(const Section& section, bool isS100, const ActionWords& actions,
-                          Passwords passwords) {
-  std::vector<Line> lines;
-  for (const ConstField* field : section.fields) {
-    FieldId id = field->id;
-    const bool isListed = field->meta.sense == FieldSense::Action && id.slot.place >= 0;
-    if (isListed) id.slot.place = -1;
-    const std::string value =
-        isListed ? ActionText(**std::get_if<const std::int16_t*>(&field->value), actions)
-                 : ReadableValue(field->value, field->meta, isS100, passwords);
-    const auto same = isListed ? std::ranges::find(lines, id, &Line::id) : lines.end();
-    if (same == lines.end())
-      lines.push_back({id, KeyName(id, field->meta.placeForm), KeyWords(id, field->meta), value});
-    else if (!value.empty())
-      same->value += (same->value.empty() ? "" : "; ") + value;
-  }
-  return lines;
-}
-
-/// Whether a field belongs to another record or alarm than the one before it.
-bool IsOfAnother(const FieldId& id, const FieldId& before) {
-  return id.section != before.section || id.channel != before.channel ||
-         id.slot.config != before.slot.config;
-}
-
-/// The fields to show: all, or those that say something beyond an empty configuration. Of an alarm
-/// or a timer that is off nothing is said.
-std::vector<ConstField> Shown(const ModelConfiguration& configuration, const DeviceConf& empty,
-                              bool all) {
-  const auto& [profile, conf] = configuration;
-  const auto fields = FieldsOf(conf, profile);
-  if (all) return fields;
-  const auto emptyFields = FieldsOf(empty, profile);
-  std::vector<ConstField> shown;
-  bool isOff = false;
-  for (std::size_t i = 0; i < fields.size(); ++i) {
-    const ConstField& field = fields[i];
-    if (i == 0 || IsOfAnother(field.id, fields[i - 1].id)) isOff = false;
-    if (field.meta.sense == FieldSense::Enabled)
-      isOff = !bool(*std::get<const Bool16*>(field.value));
-    if (!isOff &&
-        FieldText(field.value, profile.IsS100) != FieldText(emptyFields[i].value, profile.IsS100))
-      shown.push_back(field);
-  }
-  return shown;
-}
-
 void PrintReadable(std::ostream& out, const ModelConfiguration& configuration,
-                   const DeviceConf& empty, bool all, const FirmwareView& firmware,
-                   const Translation& translate, Passwords passwords) {
-  const TargetProfile& profile = configuration.profile;
-  const ActionWords actions = WordsOfActions(profile, translate);
-  const std::vector<ConstField> fields = Shown(configuration, empty, all);
-  out << profile.TargetName << '\n';
-  for (const Section& section : BySection(fields)) {
-    out << '\n' << section.name << " (" << SectionWords(section.fields.front()->id) << ")\n";
-    for (const Line& line : LinesOf(section, profile.IsS100, actions, passwords))
+                   const SettingChoice& choice, const FirmwareView& firmware) {
+  out << configuration.profile.TargetName << '\n';
+  for (const SettingSection& section : SettingsOf(configuration, choice)) {
+    out << '\n' << section.name << " (" << SectionWords(section.id) << ")\n";
+    for (const SettingLine& line : section.lines)
       out << "  " << line.key << " (" << line.words << "): " << line.value
           << (firmware.features && std::ranges::count(firmware.notTaken, line.id) > 0
                   ? "  (not taken by this firmware)\n"
@@ -203,13 +126,14 @@ void PrintReadable(std::ostream& out, const ModelConfiguration& configuration,
 ExitCode Report(CommandContext& context, const ShowOptions& options,
                 const ModelConfiguration& configuration, const FirmwareView& firmware) {
   const Passwords passwords = context.ShownPasswords();
-  context.Show({[&] { return ConfigurationJson(configuration, options.file, firmware, passwords); },
-                [&](std::ostream& out) {
-                  const DeviceConf empty =
-                      EmptyConfiguration(configuration.profile, context.Translator());
-                  PrintReadable(out, configuration, empty, options.all, firmware,
-                                context.Translator(), passwords);
-                }});
+  context.Show(
+      {[&] { return ConfigurationJson(configuration, options.file, firmware, passwords); },
+       [&](std::ostream& out) {
+         PrintReadable(
+             out, configuration,
+             {.all = options.all, .passwords = passwords, .translate = context.Translator()},
+             firmware);
+       }});
   if (!firmware.features && !firmware.names.empty())
     context.console.Note(std::to_string(firmware.names.size()) +
                          " settings are not taken by every firmware, and which it is is not known: "

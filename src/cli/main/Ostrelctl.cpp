@@ -2,18 +2,23 @@
 
 #include <unistd.h>
 
-#include <QCoreApplication>
+#include <QGuiApplication>
 #include <QLocale>
+#include <algorithm>
 #include <exception>
 #include <iostream>
+#include <memory>
+#include <string_view>
 #include <vector>
 
 #include "cli/InputLines.h"
 #include "cli/Terminal.h"
 #include "host/Folders.h"
 #include "host/Machine.h"
+#include "host/PdfText.h"
 #include "host/SignalPipe.h"
 #include "host/TraceFile.h"
+#include "host/Translator.h"
 #include "host/UsualStation.h"
 #include "platform/SilentDialogs.h"
 #include "platform/qt/QtProcesses.h"
@@ -33,6 +38,7 @@ int Run(const std::vector<std::string>& args) {
   Environment environment{
       .platform = machine.With(nobody, processes),
       .simulated = machine.AddSimulatedLoggers(),
+      .inspector = machine.inspector,
       .out = std::cout,
       .err = std::cerr,
       .errIsTerminal = isatty(STDERR_FILENO) == 1,
@@ -47,11 +53,14 @@ int Run(const std::vector<std::string>& args) {
       .numberOfDevice = [&](const std::string& path) { return machine.NumberOfDevice(path); },
       .openLog = OpenTrace,
       .openRecording = OpenRecording,
+      .openLineRecording = OpenLineRecording,
       .openGrowing = OpenLog,
       .watchInput =
           [&](InputLines::OnLine onLine, InputLines::OnEnd onEnd) {
             return std::make_shared<InputLines>(machine.loop, std::move(onLine), std::move(onEnd));
           },
+      .translate = MakeTranslator(),
+      .makePdf = PdfOf,
       .onInterrupt = {},
       .interrupted = SignalPipe::HasCome};
   if (HasOperator()) environment.ask = AskOnTerminal;
@@ -63,10 +72,19 @@ int Run(const std::vector<std::string>& args) {
   return static_cast<int>(RunOstrelctl(args, environment));
 }
 
+/// Setting pages takes an application that can draw texts, which no other command has to start.
+std::unique_ptr<QCoreApplication> MakeApplication(int& argc, char** argv) {
+  const bool setsPages = std::any_of(
+      argv, argv + argc, [](const char* word) { return std::string_view(word).ends_with(".pdf"); });
+  if (!setsPages) return std::make_unique<QCoreApplication>(argc, argv);
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  return std::make_unique<QGuiApplication>(argc, argv);
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
-  const QCoreApplication application(argc, argv);
+  const auto application = MakeApplication(argc, argv);
   try {
     return Run({argv + 1, argv + argc});
   } catch (const std::exception& error) {

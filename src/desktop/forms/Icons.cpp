@@ -49,6 +49,36 @@ void DrawSaveAs(QPainter& p) {
   p.drawPolygon(QPolygonF({{14, 18}, {20, 12}, {22, 14}, {16, 20}, {13.4, 20.6}}));
 }
 
+/// An arrow that turns back, or forth again.
+void DrawTurn(QPainter& p, bool forth) {
+  p.save();
+  if (forth) {
+    p.translate(kGrid, 0);
+    p.scale(-1, 1);
+  }
+  QPainterPath turn;
+  turn.moveTo(4.5, 9);
+  turn.lineTo(14, 9);
+  turn.arcTo(QRectF(8.5, 9, 11, 10), 90, -180);
+  turn.lineTo(9, 19);
+  p.drawPath(turn);
+  p.drawPolyline(QPolygonF({{8.5, 5}, {4.5, 9}, {8.5, 13}}));
+  p.restore();
+}
+
+/// A sheet with lines and a signature.
+void DrawReport(QPainter& p) {
+  p.drawPolygon(QPolygonF({{5, 3}, {15, 3}, {19, 7}, {19, 21}, {5, 21}}));
+  for (const qreal y : {8.0, 11.5}) p.drawLine(QPointF(8, y), QPointF(16, y));
+  p.drawPolyline(QPolygonF({{8, 17.5}, {10, 15}, {11.5, 17.5}, {13.5, 15.5}, {16, 17}}));
+}
+
+/// The beat of a pulse.
+void DrawDoctor(QPainter& p) {
+  p.drawPolyline(
+      QPolygonF({{2.5, 13}, {7, 13}, {9, 8}, {12, 18}, {14.5, 5}, {17, 13}, {21.5, 13}}));
+}
+
 void DrawRecent(QPainter& p) {
   p.drawEllipse(QPointF(12, 12), 8.5, 8.5);
   p.drawPolyline(QPolygonF({{12, 7}, {12, 12.2}, {15.5, 14.5}}));
@@ -130,6 +160,14 @@ void Draw(QPainter& painter, Sign sign) {
       return DrawRecent(painter);
     case Sign::Copies:
       return DrawCopies(painter);
+    case Sign::Undo:
+      return DrawTurn(painter, false);
+    case Sign::Redo:
+      return DrawTurn(painter, true);
+    case Sign::Report:
+      return DrawReport(painter);
+    case Sign::Doctor:
+      return DrawDoctor(painter);
     case Sign::Compare:
       return DrawCompare(painter);
     case Sign::Channels:

@@ -11,15 +11,18 @@
 namespace ostrel {
 
 Desktop::Desktop(const Platform& platform, const ConfiguratorOptions& options,
-                 const std::string& dataFolder)
-    : platform_(platform),
+                 const std::string& dataFolder, PortInspector& inspector)
+    : port_(platform.port),
+      platform_(platform.With(port_)),
       configurator_(platform_, options),
       navigation_(configurator_),
       window_({.configurator = configurator_,
                .navigation = navigation_,
                .platform = platform_,
                .guard = [this](const std::function<void()>& run) { Guarded(run); },
-               .dataFolder = dataFolder}) {
+               .dataFolder = dataFolder,
+               .port = port_,
+               .inspector = inspector}) {
   configurator_.context.clipboardText = [] { return FromQt(QGuiApplication::clipboard()->text()); };
 }
 

@@ -14,9 +14,9 @@ namespace ostrel {
 /// One whole program with its window. It needs an application object.
 class Desktop {
  public:
-  /// `dataFolder` is the user's own.
+  /// `dataFolder` is the user's own; `inspector` tells of the ports of `platform`.
   Desktop(const Platform& platform, const ConfiguratorOptions& options,
-          const std::string& dataFolder);
+          const std::string& dataFolder, PortInspector& inspector);
 
   /// Starts in the order that the product gives: settings, questions, model, pages, the file. Then
   /// shows the choice of the model, or the general page when there is a file. `file` is empty for
@@ -32,6 +32,7 @@ class Desktop {
  private:
   void Guarded(const std::function<void()>& run);
 
+  TappedPort port_;
   Platform platform_;
   Configurator configurator_;
   Navigation navigation_;

@@ -2,12 +2,16 @@
 
 #include <QCoreApplication>
 #include <QCursor>
+#include <QPainter>
 #include <QPixmap>
+#include <QTextDocument>
 #include <algorithm>
 #include <optional>
 
 #include "desktop/forms/Words.h"
 #include "desktop/program/Desktop.h"
+#include "desktop/program/Language.h"
+#include "desktop/window/DoctorDialog.h"
 #include "desktop/window/ScheduleView.h"
 #include "host/SimulatedLoggers.h"
 #include "host/TraceFile.h"
@@ -19,6 +23,7 @@
 #include "platform/virtual/VirtualProcesses.h"
 #include "platform/virtual/VirtualSettings.h"
 #include "shell/NavigationTree.h"
+#include "shell/report/Commissioning.h"
 
 namespace ostrel {
 namespace {
@@ -26,6 +31,8 @@ namespace {
 constexpr const char* kConfiguration = "/picture.ocf";
 constexpr const char* kTable = "/Lang.txt";
 constexpr std::string_view kSchedule = "Schedule";
+constexpr std::string_view kDoctor = "Doctor";
+constexpr std::string_view kReport = "Report";
 
 /// A dialog, drawn by itself as it comes up, if the key names one.
 QPixmap DialogPicture(Desktop& desktop, VirtualDialogs& dialogs, const std::string& key) {
@@ -60,6 +67,57 @@ QPixmap SchedulePicture(Desktop& desktop, const Clock& clock, const CommandLine&
   dialog.show();
   QCoreApplication::processEvents();
   return dialog.grab();
+}
+
+/// A device that never answers, for a picture of the link doctor.
+struct DeadDevice final : LineDevice {
+  void Receive(std::string_view) override {}
+  void SetTerminalReady(bool) override {}
+};
+
+/// The machine's view of that device.
+struct PicturedInspector final : PortInspector {
+  PortFacts Inspect(int) override {
+    return {.device = "/dev/ttyUSB0", .exists = true, .isPermitted = true, .group = "dialout"};
+  }
+};
+
+/// The link doctor before a silent line, if the key names it.
+QPixmap DoctorPicture(EventLoop& loop, const Platform& platform, const CommandLine& line) {
+  if (line.page != kDoctor) return {};
+  constexpr int kNumber = 33;
+  DeadDevice device;
+  LinePort port(loop);
+  port.AddDevice(kNumber, "/dev/ttyUSB0", "", device);
+  port.SetLines(kNumber, {.clearToSend = true, .dataSetReady = true});
+  PicturedInspector inspector;
+  DoctorDialog dialog("COM33 - /dev/ttyUSB0", nullptr);
+  DoctorQuestion question{.port = kNumber};
+  question.onSymptom = [&dialog](const Symptom& symptom) { dialog.Add(symptom); };
+  dialog.Finish(LinkDoctor(platform.With(port), inspector, std::move(question)).Run());
+  dialog.show();
+  QCoreApplication::processEvents();
+  return dialog.grab();
+}
+
+/// The start of the commissioning report, if the key names it.
+QPixmap ReportPicture(Desktop& desktop, const Platform& platform, const CommandLine& line) {
+  if (line.page != kReport) return {};
+  Configurator& core = desktop.Core();
+  const Report report = CommissioningReport(
+      {.configuration = {core.profile, core.conf}, .madeAt = platform.clock.LocalNow()},
+      {.code = FromQt(LanguageCode(core.lang)),
+       .say = [](std::string_view text) { return FromQt(Words::tr(std::string(text).c_str())); },
+       .translate = [&core](std::string_view text) { return core.context.Translate(text); }},
+      platform.files);
+  QTextDocument text;
+  text.setHtml(ToQt(ReportHtml(report)));
+  text.setTextWidth(line.size.width());
+  QPixmap picture(line.size);
+  picture.fill(Qt::white);
+  QPainter painter(&picture);
+  text.drawContents(&painter, QRectF(picture.rect()));
+  return picture;
 }
 
 /// Whether a key leads to a page for a model: by a node of its tree, or to one of the pages that no
@@ -118,20 +176,22 @@ std::string TakeScreenshot(const CommandLine& line, const std::string& langFile)
   LinePort noPort(loop);
   std::optional<SimulatedLoggers> simulated;
   if (line.demo) simulated.emplace(loop, clock);
-  Desktop desktop({.loop = loop,
-                   .port = simulated ? simulated->Port() : noPort,
-                   .settings = settings,
-                   .dialogs = dialogs,
-                   .files = files,
-                   .processes = processes,
-                   .clock = clock},
+  BlindInspector inspector;
+  const Platform platform{.loop = loop,
+                          .port = simulated ? simulated->Port() : noPort,
+                          .settings = settings,
+                          .dialogs = dialogs,
+                          .files = files,
+                          .processes = processes,
+                          .clock = clock};
+  Desktop desktop(platform,
                   {.programFolder = {},
                    .langFile = kTable,
                    .openLog = OpenLog,
                    .openRecording = OpenRecording,
                    .factory = line.factory,
                    .ticking = true},
-                  {});
+                  {}, inspector);
   desktop.Start(line.file.empty() ? "" : kConfiguration);
   const Configurator& core = desktop.Core();
   if (!line.file.empty() &&
@@ -140,6 +200,8 @@ std::string TakeScreenshot(const CommandLine& line, const std::string& langFile)
     return line.file + " is no configuration file";
   QPixmap picture = DialogPicture(desktop, dialogs, line.page);
   if (picture.isNull()) picture = SchedulePicture(desktop, clock, line);
+  if (picture.isNull()) picture = DoctorPicture(loop, platform, line);
+  if (picture.isNull()) picture = ReportPicture(desktop, platform, line);
   if (picture.isNull()) {
     if (!line.page.empty() && !LeadsToPage(core.profile, line.page))
       return "there is no page " + line.page + " for the " + core.profile.TargetName;

@@ -121,6 +121,7 @@ MainWindow::MainWindow(const WindowParts& parts)
     shownFile_.clear();  // it is of the former model
     ForgetSuccess();
     unsaved_.Touch();
+    StartHistory();
   };
   configurator_.OnForeignKeys = [this](const std::string& path,
                                        const std::vector<std::string>& lost) {
@@ -147,7 +148,10 @@ MainWindow::MainWindow(const WindowParts& parts)
   Retranslate();
 }
 
-MainWindow::~MainWindow() { LetGo(); }
+MainWindow::~MainWindow() {
+  Record(false);
+  LetGo();
+}
 
 std::function<void()> MainWindow::Following(void (MainWindow::*react)()) {
   return [this, react] {
@@ -194,6 +198,7 @@ void MainWindow::Follow() {
   tree_->Tree().setFocus();
   unsaved_.Keep(unsaved_.WithFront());
   TakeFile();
+  StartHistory();
   Look();
   overview_.ShowNode(shownNode_);
 }
@@ -222,6 +227,7 @@ void MainWindow::PaintTree() {
 void MainWindow::GoTo(const std::string& key) {
   const NodeResult result = navigation_.NodeClick(key);
   if (result == NodeResult::Rests) return;
+  NoteEdits();  // of the page that was left
   shownNode_ = key;
   tree_->Select(key);
   ShowGroup(key);
@@ -310,6 +316,7 @@ void MainWindow::ShowTitle() {
   if (windowTitle() != title) setWindowTitle(title);
   setWindowModified(unsaved_.Changed());
   if (isWindowModified()) ForgetSuccess();
+  ShowHistory();
 }
 
 std::optional<ModelConfiguration> MainWindow::ReadFile(const std::string& path) const {

@@ -4,6 +4,8 @@
 #include <QPointer>
 #include <QString>
 #include <functional>
+#include <memory>
+#include <ostream>
 #include <string>
 
 #include "desktop/forms/Icons.h"
@@ -17,9 +19,13 @@
 #include "desktop/window/TraceView.h"
 #include "desktop/window/TreePane.h"
 #include "platform/Platform.h"
+#include "platform/PortFacts.h"
+#include "platform/TappedPort.h"
+#include "recording/Recorder.h"
 #include "shell/ChannelPiece.h"
 #include "shell/Comparison.h"
 #include "shell/ConfigurationFile.h"
+#include "shell/EditHistory.h"
 #include "shell/Navigation.h"
 #include "shell/RecentFiles.h"
 #include "shell/SafetyCopies.h"
@@ -47,6 +53,8 @@ struct WindowParts {
   const Platform& platform;
   Guard guard;
   std::string dataFolder;  ///< the user's own
+  TappedPort& port;        ///< that of the platform
+  PortInspector& inspector;
 };
 
 /// The window: tool bar, tree, the page in front, and the state of the link. It draws and asks; all
@@ -103,6 +111,19 @@ class MainWindow final : public QMainWindow {
   void ShowSchedule();
   Schedule PresentSchedule() const;
   void ShowTrace(bool on);
+  /// Begins a recording of the line in a file that the operator names, or ends it.
+  void Record(bool on);
+  void ShowDoctor();
+  /// Saves a commissioning report of what stands on the pages.
+  void SaveReport();
+  /// What was edited since it was opened goes or comes back, a page at a time.
+  void Undo();
+  void Redo();
+  void GoBackTo(const EditHistory::Step& step);
+  /// Takes in what the page in front, or the one before it, has committed.
+  void NoteEdits();
+  void StartHistory();
+  void ShowHistory();
   /// Saves octets to a file that the operator chooses. `kind` is in words.
   void SaveBeside(const QString& kind, const QString& ending, const std::string& octets);
   /// Says in a box what went wrong.
@@ -220,14 +241,17 @@ class MainWindow final : public QMainWindow {
   FaultNote* fault_;  ///< on the pages that have no place of their own for it
   TraceLog traceLog_;
   TraceView* trace_;
+  std::unique_ptr<std::ostream> recording_;
+  std::unique_ptr<Recorder> recorder_;
+  EditHistory edits_;
   FindingsPanel* findings_;
   LivePanels live_;
   Overview overview_;
   QToolBar* bar_ = nullptr;
   QAction *open_ = nullptr, *save_ = nullptr, *saveAs_ = nullptr, *language_ = nullptr,
           *recentFiles_ = nullptr, *safetyCopies_ = nullptr, *compare_ = nullptr,
-          *channels_ = nullptr, *schedule_ = nullptr, *liveTools_ = nullptr,
-          *traceSwitch_ = nullptr,
+          *channels_ = nullptr, *schedule_ = nullptr, *undo_ = nullptr, *redo_ = nullptr,
+          *report_ = nullptr, *doctor_ = nullptr, *liveTools_ = nullptr, *traceSwitch_ = nullptr,
           *findingsSwitch_ = nullptr;
   bool following_ = false;
   QString success_;                    ///< what the status bar says of the last writing

@@ -68,8 +68,9 @@ void MainWindow::ShowLink() {
 /// unless the operator has taken it elsewhere.
 void MainWindow::Rest(bool rests) {
   for (QAction* action : {open_, save_, saveAs_, recentFiles_, safetyCopies_, compare_, channels_,
-                          schedule_, language_})
+                          schedule_, report_, doctor_, language_})
     action->setEnabled(!rests && !isUpdating_);
+  ShowHistory();
   trace_->SetMaySave(!rests && !isUpdating_);
   if (comparing_) comparing_->Rest(rests || isUpdating_);
   live_.SetMaySave(!rests && !isUpdating_);

@@ -43,10 +43,15 @@ void MainWindow::MakeToolBar() {
   safetyCopies_ = AddAction(Sign::Copies, {}, {});
   AddMenu(safetyCopies_, [this](QMenu& menu) { FillCopies(menu); });
   bar_->addSeparator();
+  undo_ = AddAction(Sign::Undo, QKeySequence::Undo, [this] { Undo(); });
+  redo_ = AddAction(Sign::Redo, QKeySequence::Redo, [this] { Redo(); });
+  bar_->addSeparator();
   compare_ = AddAction(Sign::Compare, {}, [this] { Compare(); });
   channels_ = AddAction(Sign::Channels, {}, {});
   AddMenu(channels_, [this](QMenu& menu) { FillChannels(menu); });
   schedule_ = AddAction(Sign::Schedule, {}, [this] { ShowSchedule(); });
+  report_ = AddAction(Sign::Report, {}, [this] { SaveReport(); });
+  doctor_ = AddAction(Sign::Doctor, {}, [this] { ShowDoctor(); });
   liveTools_ = AddAction(Sign::Live, {}, {});
   auto* liveMenu = new QMenu(this);
   live_.AddTo(*liveMenu);
@@ -69,6 +74,7 @@ void MainWindow::MakeToolBar() {
     if (findings_->isHidden()) findingsSwitch_->setChecked(false);
   });
   bar_->addSeparator();
+  trace_->OnRecord = [this](bool on) { parts_.guard([&] { Record(on); }); };
   trace_->OnSave = [this] {
     parts_.guard([this] { SaveBeside(Words::tr("Trace"), "txt", trace_->Text()); });
   };
@@ -117,6 +123,10 @@ void MainWindow::Retranslate() {
   name(compare_, Words::tr("Compare"), Words::tr("Compare pages, logger, files and safety copies"));
   name(channels_, Words::tr("Channel"), Words::tr("Copy and paste channels and alarms"));
   name(schedule_, Words::tr("Schedule"), Words::tr("Show when the timers fire"));
+  name(undo_, Words::tr("Undo"), Words::tr("Undo what was edited on a page"));
+  name(redo_, Words::tr("Redo"), Words::tr("Do again what was undone"));
+  name(report_, Words::tr("Report"), Words::tr("Save a commissioning report"));
+  name(doctor_, Words::tr("Link doctor"), Words::tr("Find out why nothing answers at the port"));
   name(liveTools_, Words::tr("Live"), Words::tr("Plot live values, and accept the installation"));
   live_.Retranslate();
   name(traceSwitch_, Words::tr("Trace"), Words::tr("Show what goes over the line"));
@@ -163,6 +173,7 @@ void MainWindow::TakeFile() {
 void MainWindow::Opened() {
   ForgetSuccess();
   TakeFile();
+  StartHistory();
   // The file may be of a model that has not the channel in front.
   if (!tree_->Has(shownNode_)) GoTo("General");
 }

@@ -103,7 +103,10 @@ void MainWindow::TransferEnded(const TransferEnd& end) {
   hasMoved_ = end.done;
   if (!end.done || isBeside_ || (writeStep_ > 0 && end.kind == SessionPhase::Reading)) return;
   unsaved_.Keep(end.held);
-  if (end.kind == SessionPhase::Reading) shownFile_.clear();
+  if (end.kind == SessionPhase::Reading) {
+    shownFile_.clear();
+    StartHistory();
+  }
   SafetyCopies::Held held{end.held, configurator_.profile, configurator_.info.SerialNumber};
   if (end.kind == SessionPhase::Reading) held.lines = configurator_.comms.DownloadedLines();
   const FileResult kept = copies_.Keep(held).result;

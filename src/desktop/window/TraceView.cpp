@@ -17,6 +17,7 @@ TraceView::TraceView(TraceLog& log, QWidget* parent)
       log_(log),
       search_(new QLineEdit(this)),
       pause_(new QPushButton(this)),
+      record_(new QPushButton(this)),
       save_(new QPushButton(this)),
       clear_(new QPushButton(this)),
       text_(new QPlainTextEdit(this)) {
@@ -35,9 +36,11 @@ TraceView::TraceView(TraceLog& log, QWidget* parent)
   search_->setClearButtonEnabled(true);
   pause_->setObjectName("Pause");
   pause_->setCheckable(true);
+  record_->setObjectName("Record");
+  record_->setCheckable(true);
   save_->setObjectName("Save");
   row->addWidget(search_, 1);
-  for (QPushButton* button : {pause_, save_, clear_}) row->addWidget(button);
+  for (QPushButton* button : {pause_, record_, save_, clear_}) row->addWidget(button);
   column->addLayout(row);
   text_->setReadOnly(true);
   text_->setMaximumBlockCount(static_cast<int>(TraceLog::kMost));
@@ -47,6 +50,9 @@ TraceView::TraceView(TraceLog& log, QWidget* parent)
   setWidget(content);
   connect(search_, &QLineEdit::returnPressed, this, [this] { FindNext(); });
   connect(pause_, &QPushButton::toggled, this, [this] { Follow(); });
+  connect(record_, &QPushButton::clicked, this, [this](bool on) {
+    if (OnRecord) OnRecord(on);
+  });
   connect(save_, &QPushButton::clicked, this, [this] {
     if (OnSave) OnSave();
   });
@@ -68,11 +74,18 @@ void TraceView::Retranslate() {
   search_->setPlaceholderText(Words::tr("Search, Enter finds the next"));
   search_->setAccessibleName(Words::tr("Search in the trace"));
   pause_->setText(Words::tr("Pause"));
+  record_->setText(Words::tr("Record..."));
+  record_->setToolTip(Words::tr("Keep every octet of the line in a file"));
   save_->setText(Words::tr("Save..."));
   clear_->setText(Words::tr("Clear"));
 }
 
-void TraceView::SetMaySave(bool may) { save_->setEnabled(may); }
+void TraceView::SetMaySave(bool may) {
+  save_->setEnabled(may);
+  record_->setEnabled(may || record_->isChecked());
+}
+
+void TraceView::SetRecording(bool on) { record_->setChecked(on); }
 
 bool TraceView::Shows(TraceKind kind) const {
   return kinds_[static_cast<std::size_t>(kind)]->isChecked();

@@ -27,6 +27,10 @@ class TraceView final : public QDockWidget {
   /// Whether what it offers may ask a question now.
   void SetMaySave(bool may);
 
+  /// Begins or ends a recording of the line. Set by the window.
+  std::function<void(bool on)> OnRecord;
+  /// Shows whether a recording runs.
+  void SetRecording(bool on);
   /// Saves what is shown. Set by the window.
   std::function<void()> OnSave;
 
@@ -41,7 +45,7 @@ class TraceView final : public QDockWidget {
   TraceLog& log_;
   std::array<QCheckBox*, kKinds> kinds_{};
   QLineEdit* search_;
-  QPushButton *pause_, *save_, *clear_;
+  QPushButton *pause_, *record_, *save_, *clear_;
   QPlainTextEdit* text_;
 };
 

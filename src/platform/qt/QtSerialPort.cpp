@@ -282,6 +282,14 @@ void QtSerialPort::DiscardOutput() {
   if (device_ && !lost_) device_->clear(QSerialPort::Output);
 }
 
+std::optional<ControlLines> QtSerialPort::Lines() const {
+  int lines = 0;
+  if (!device_ || lost_ || ::ioctl(device_->handle(), TIOCMGET, &lines) != 0) return {};
+  return ControlLines{.clearToSend = (lines & TIOCM_CTS) != 0,
+                      .dataSetReady = (lines & TIOCM_DSR) != 0,
+                      .carrier = (lines & TIOCM_CD) != 0};
+}
+
 PortFault QtSerialPort::Probe(int number) {
   if (open_ && number == commPort_) return PortFault::None;
   const std::string path = map_.DeviceOf(number);

@@ -55,6 +55,7 @@ class QtSerialPort final : public SerialPort {
   std::size_t InBufferCount() const override { return received_.Count(); }
   std::uint64_t LostOctets() const override { return received_.Lost(); }
   bool CDHolding() const override { return carrier_; }
+  std::optional<ControlLines> Lines() const override;
   int CommEvent() const override { return commEvent_; }
   void SetOnComm(std::function<void()> handler) override { onComm_ = std::move(handler); }
   PortFault Probe(int number) override;

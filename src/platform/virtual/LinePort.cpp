@@ -63,6 +63,7 @@ class LinePort::Wire final : public LineEnd {
   std::unique_ptr<LineDevice> owned;
   LineDevice* far = nullptr;
   PortFault fault = PortFault::None;
+  std::optional<ControlLines> lines;
   bool carrier = false;
   bool vanished = false;
 
@@ -106,6 +107,12 @@ void LinePort::Restore(int number) {
 void LinePort::SetOpenFault(int number, PortFault fault) {
   if (const auto wire = Find(number)) wire->fault = fault;
 }
+
+void LinePort::SetLines(int number, ControlLines lines) {
+  if (const auto wire = Find(number)) wire->lines = lines;
+}
+
+std::optional<ControlLines> LinePort::Lines() const { return open_ ? open_->lines : std::nullopt; }
 
 void LinePort::HoldOutput(int number, bool hold) {
   if (const auto wire = Find(number)) wire->toDevice.Hold(hold);

@@ -42,6 +42,8 @@ class LinePort final : public SerialPort {
   void SetOpenFault(int number, PortFault fault);
   /// The device keeps the line towards it stopped, like a low CTS, or lets it go.
   void HoldOutput(int number, bool hold);
+  /// The control lines of this number from now on. It has none at first, as a pseudo-terminal.
+  void SetLines(int number, ControlLines lines);
   /// Whether octets take their line time; off at first.
   void SetPaced(bool paced);
 
@@ -67,6 +69,7 @@ class LinePort final : public SerialPort {
   std::size_t InBufferCount() const override;
   std::uint64_t LostOctets() const override { return received_.Lost(); }
   bool CDHolding() const override { return carrier_; }
+  std::optional<ControlLines> Lines() const override;
   int CommEvent() const override { return commEvent_; }
   void SetOnComm(std::function<void()> handler) override { onComm_ = std::move(handler); }
   PortFault Probe(int number) override;

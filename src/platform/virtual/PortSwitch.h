@@ -35,6 +35,9 @@ class PortSwitch final : public SerialPort {
   std::size_t InBufferCount() const override { return open_ ? open_->InBufferCount() : 0; }
   std::uint64_t LostOctets() const override { return open_ ? open_->LostOctets() : 0; }
   bool CDHolding() const override { return open_ && open_->CDHolding(); }
+  std::optional<ControlLines> Lines() const override {
+    return open_ ? open_->Lines() : std::nullopt;
+  }
   int CommEvent() const override { return open_ ? open_->CommEvent() : 0; }
   void SetOnComm(std::function<void()> handler) override { onComm_ = std::move(handler); }
   PortFault Probe(int number) override;

@@ -1,47 +1,11 @@
-#include <functional>
 #include <set>
 
 #include "base/Channels.h"
-#include "blocks/TelephoneWire.h"
 #include "model/Features.h"
+#include "shell/Recipients.h"
 #include "shell/check/CheckRules.h"
 
 namespace ostrel {
-namespace {
-
-/// The token of a channel in the masks of telephones; empty for what no mask can name.
-std::string TokenOf(const AlarmPlace& place, bool isS100) {
-  if (place.section->maskPrefix.empty()) return {};
-  std::string token = std::string(place.section->maskPrefix) + std::to_string(place.channel);
-  return ChannelToToken(TokenToChannel(token), isS100) == token ? token : std::string();
-}
-
-/// Whether a telephone gets the alarms of a channel, as the firmware in question keeps its mask.
-bool Admits(const ConfPhone& phone, const std::string& token, const Examined& file) {
-  const bool isShort = file.Features() && !Has(*file.Features(), Feature::ExtendedMasks);
-  if (phone.MASKMODE == 0 && !isShort) return true;
-  bool isNamed = false;
-  bool isEmpty = true;
-  for (int place = 0; place < kMaskPlaces; ++place) {
-    const std::string named = ChannelToToken(phone.ListaMask[place], file.Model().IsS100);
-    if (named.empty() || (isShort && !IsShortMaskToken(named))) continue;
-    isEmpty = false;
-    isNamed = isNamed || named == token;
-  }
-  if (isShort) return isEmpty || isNamed;
-  return phone.MASKMODE == 1 ? isNamed : !isNamed;
-}
-
-bool AnyAdmits(const Examined& file, const std::string& token) {
-  for (int slot = 0; slot < kPhones; ++slot)
-    if (const ConfPhone& phone = file.Conf().Phone[slot];
-        !phone.TLF.empty() && Admits(phone, token, file))
-      return true;
-  return false;
-}
-
-}  // namespace
-
 void VisitEnabledAlarms(const Examined& file, const AlarmVisitor& visit) {
   const Receiver receiver{file.Model(), file.Features().value_or(kEveryFeature)};
   VisitAlarms(file.Conf(), receiver, [&](const AlarmPlace& place, const AlarmBlock& alarm) {
@@ -62,8 +26,9 @@ std::vector<Finding> AlarmsForNobody(const Examined& file) {
   std::vector<Finding> found;
   VisitEnabledAlarms(file, [&](const AlarmPlace& place, const AlarmBlock& alarm) {
     if (!alarm.SMS && !alarm.VOZ) return;
-    const std::string token = TokenOf(place, file.Model().IsS100);
-    if (token.empty() || AnyAdmits(file, token)) return;
+    const bool isS100 = file.Model().IsS100;
+    const std::string token = MaskTokenOf(place, isS100);
+    if (token.empty() || !RecipientsOf(file.Conf(), place, isS100, file.Features()).empty()) return;
     found.push_back(AtAlarm(place, "HABIL",
                             {"the alarm notifies, but no telephone's mask admits %1: add a "
                              "telephone or widen a mask",
@@ -76,7 +41,7 @@ std::vector<Finding> MasksWithoutAlarm(const Examined& file) {
   const bool isS100 = file.Model().IsS100;
   std::set<std::string> alarmed;
   VisitEnabledAlarms(file, [&](const AlarmPlace& place, const AlarmBlock&) {
-    alarmed.insert(TokenOf(place, isS100));
+    alarmed.insert(MaskTokenOf(place, isS100));
   });
   std::vector<Finding> found;
   for (const ConstField& field : file.Fields()) {

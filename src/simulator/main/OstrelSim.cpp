@@ -10,6 +10,7 @@
 #include "platform/qt/PseudoTerminal.h"
 #include "platform/qt/QtClock.h"
 #include "platform/qt/QtFiles.h"
+#include "recording/Replay.h"
 #include "simulator/SimOptions.h"
 
 namespace {
@@ -71,23 +72,40 @@ class StateFile {
   std::string path_;
 };
 
-int Serve(QtEventLoop& loop, sim::Logger& logger, StateFile& state, const std::string& path,
-          const SimOptions& options) {
+/// Tells where the device is, and runs until a signal.
+int Serve(QtEventLoop& loop, const std::string& path, const SimOptions& options) {
   bool isOver = false;
   const SignalPipe watch(loop, [&] { isOver = true; });
   const Link link(options.link, path);
   if (!link.Error().empty())
     return Fail(ExitCode::BadFile, "cannot make the link " + options.link + ": " + link.Error());
-  logger.OnExchange([&](const sim::Exchange& exchange) {
-    state.KeepAfter(exchange);
-    std::cout << ExchangeLine(exchange) << std::endl;
-  });
   std::cout << path << std::endl;
   loop.RunUntil([&] { return isOver; }, kNever);
-  return state.Keep();
+  return 0;
 }
 
-int Run(SimOptions options) {
+int RunReplay(const SimOptions& options) {
+  QtFiles files;
+  std::string text, error;
+  if (const FileResult read = files.ReadInto(options.replay, text); !read.Ok())
+    return Fail(ExitCode::BadFile, "cannot read " + options.replay + ": " + read.error);
+  auto recording = ReadRecording(text, error);
+  if (!recording) return Fail(ExitCode::BadFile, options.replay + ": " + error);
+  QtEventLoop loop;
+  const PseudoTerminal terminal(
+      loop,
+      [&](LineEnd& end) {
+        auto replay = std::make_unique<Replay>(loop, end, std::move(*recording));
+        replay->OnRequest([&loop](const ReplayedRequest& request) {
+          std::cout << ReplayLine(loop.Now(), request) << std::endl;
+        });
+        return replay;
+      },
+      options.isPaced);
+  return Serve(loop, terminal.SlavePath(), options);
+}
+
+int RunLogger(SimOptions options) {
   QtEventLoop loop;
   options.logger.clockStart = QtClock().LocalNow();
   sim::Logger* logger = nullptr;
@@ -105,7 +123,12 @@ int Run(SimOptions options) {
     return Fail(ExitCode::BadFile, options.stateFile + ": " + taken.error);
   // Found out now and not when a long session is to be kept.
   if (const int kept = state.Keep(); kept != 0) return kept;
-  return Serve(loop, *logger, state, terminal.SlavePath(), options);
+  logger->OnExchange([&](const sim::Exchange& exchange) {
+    state.KeepAfter(exchange);
+    std::cout << ExchangeLine(exchange) << std::endl;
+  });
+  const int served = Serve(loop, terminal.SlavePath(), options);
+  return served != 0 ? served : state.Keep();
 }
 
 }  // namespace
@@ -117,7 +140,7 @@ int main(int argc, char** argv) {
   const std::vector<std::string> args(argv + 1, argv + argc);
   if (!ParseSimOptions(args, options, std::cout, std::cerr, code)) return static_cast<int>(code);
   try {
-    return Run(std::move(options));
+    return options.replay.empty() ? RunLogger(std::move(options)) : RunReplay(options);
   } catch (const std::exception& error) {
     return Fail(ExitCode::NoSession, error.what());
   }

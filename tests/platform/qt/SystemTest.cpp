@@ -1,14 +1,18 @@
+#include <fcntl.h>
 #include <gmock/gmock.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <QTemporaryDir>
+#include <csignal>
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <string>
 #include <vector>
 
+#include "platform/qt/DeviceInspector.h"
 #include "platform/qt/PortMap.h"
 #include "platform/qt/QtFiles.h"
 #include "platform/qt/QtProcesses.h"
@@ -195,6 +199,32 @@ TEST_F(SystemTest, ExplorerShowsDocumentsThatExist) {
   EXPECT_FALSE(processes.Start(Path("no-such-program") + " x"));
   EXPECT_FALSE(processes.Start(""));
   EXPECT_THAT(opened, ElementsAre(Path("my html/Gene_ES.htm")));
+}
+
+TEST_F(SystemTest, TellsWhoElseHasADeviceOpen) {
+  const int master = ::posix_openpt(O_RDWR | O_NOCTTY);
+  ASSERT_TRUE(master >= 0 && ::grantpt(master) == 0 && ::unlockpt(master) == 0);
+  PortMap map({{7, ::ptsname(master)}, {8, Path("none")}});
+  DeviceInspector inspector(map);
+  EXPECT_FALSE(inspector.Inspect(8).exists);
+  EXPECT_EQ(inspector.Inspect(161).device, "");
+  const PortFacts free = inspector.Inspect(7);
+  EXPECT_TRUE(free.exists && free.isPermitted && free.holders.empty());
+  const int own = ::open(::ptsname(master), O_RDWR | O_NOCTTY);
+  EXPECT_TRUE(inspector.Inspect(7).holders.empty()) << "this program is no other";
+  const pid_t child = ::fork();
+  if (child == 0) {
+    ::pause();
+    ::_exit(0);
+  }
+  const PortFacts held = inspector.Inspect(7);
+  ::kill(child, SIGKILL);
+  ::waitpid(child, nullptr, 0);
+  ::close(own);
+  ::close(master);
+  ASSERT_EQ(held.holders.size(), 1U);
+  EXPECT_EQ(held.holders.front().process, child);
+  EXPECT_EQ(held.holders.front().name, "test_platform_q");
 }
 
 }  // namespace

@@ -1,0 +1,60 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "model/DeviceInfo.h"
+#include "model/LiveRound.h"
+#include "platform/DateTime.h"
+#include "shell/ConfigurationFile.h"
+#include "shell/Phrase.h"
+#include "shell/acceptance/Acceptance.h"
+#include "shell/report/Report.h"
+
+namespace ostrel {
+
+class Configurator;
+class Files;
+struct Platform;
+
+/// One thing that was done to the logger.
+struct RecordedWork {
+  std::string when;
+  std::string what;
+  std::string verified;  ///< how, and what came of it
+  std::string hash;      ///< of the configuration
+  std::string number;    ///< in the ledger
+};
+
+/// What a commissioning report is made from. What is not known is left out of it, or said to be so.
+struct Commissioned {
+  ModelConfiguration configuration;
+  DateTime madeAt;
+  std::string file{};                  ///< that holds the configuration; empty for none
+  std::string hash{};                  ///< of its content; empty for none
+  std::optional<DeviceInfo> logger{};  ///< as it tells of itself
+  std::optional<DateTime> clock{};     ///< of the logger
+  std::optional<LiveRound> live{};
+  std::vector<AcceptancePoint> acceptance{};
+  std::vector<RecordedWork> history{};
+};
+
+/// The language of a report.
+struct ReportLanguage {
+  std::string code = "en";
+  Translation say;        ///< gives an English text of this program in it
+  Translation translate;  ///< gives the Spanish names of actions in it
+};
+
+/// The report that is handed over when a logger has been set up: what it is, what it measures, whom
+/// it tells, when it acts, what it showed at the end, and what was written into it. Passwords are
+/// not in it.
+Report CommissioningReport(const Commissioned& work, const ReportLanguage& language, Files& files);
+
+/// Adds what the connected logger tells of itself and last measured, and what was accepted of it
+/// with the configuration of the file, else what was accepted of it last.
+void AddLogger(Commissioned& work, const Configurator& logger, const Platform& platform,
+               const std::string& dataFolder);
+
+}  // namespace ostrel

@@ -1,0 +1,122 @@
+#include <gmock/gmock.h>
+
+#include "FakeInspector.h"
+#include "VirtualWorld.h"
+#include "shell/doctor/LinkDoctor.h"
+#include "sim/Logger.h"
+
+namespace ostrel {
+namespace {
+
+using testing::HasSubstr;
+
+/// A logger with faults at COM7.
+struct Ward {
+  explicit Ward(std::initializer_list<const char*> faults, bool modem = false) {
+    sim::LoggerOptions options = sim::MakeDefaultOptions(sim::Model::VR200);
+    options.modem = modem;
+    options.accessCode = "4711";
+    for (const char* text : faults) {
+      std::string error;
+      options.faults.push_back(sim::ParseFault(text, error).value());
+    }
+    world.port.SetPaced(true);
+    end = &world.port.AddDevice(7, "/dev/ttyS6", "", [&](LineEnd& line) {
+      return std::make_unique<sim::Logger>(world.loop, line, options);
+    });
+    inspector.facts[7] = {.device = "/dev/ttyS6", .exists = true, .isPermitted = true, .group = ""};
+  }
+  Diagnosis Look(const std::string& phone = {}, const std::string& code = "4711") {
+    DoctorQuestion question{.port = 7, .phone = phone};
+    question.askCode = [code](std::string& given) { given = code; };
+    LinkDoctor doctor(world.platform, inspector, std::move(question));
+    Diagnosis diagnosis = doctor.Run();
+    EXPECT_FALSE(world.port.PortOpen());
+    return diagnosis;
+  }
+  /// All that was found, one line each.
+  static std::string Text(const Diagnosis& diagnosis) {
+    std::string text;
+    for (const Symptom& symptom : diagnosis.symptoms)
+      text += Filled(symptom.what) + ": " + Filled(symptom.found) + "\n";
+    return text;
+  }
+
+  VirtualWorld world;
+  FakeInspector inspector;
+  LineEnd* end = nullptr;
+};
+
+TEST(LinkDoctor, TellsFromTheAnswersWhatToTry) {
+  for (const auto& [faults, found, advice] :
+       std::vector<std::tuple<std::initializer_list<const char*>, std::string, DoctorWord>>{
+           {{}, "damage: none: 24 lines came, all good", DoctorWord::AllWell},
+           {{"silent"}, "attempt 3: no octet came in 1 s", DoctorWord::CheckSupply},
+           {{"silent@1!once"}, "attempt 2: a logger greets: Ostrel VR200", DoctorWord::AllWell},
+           {{"noise"}, "attempt 1: noise: 24 octets, of which 24", DoctorWord::CheckSpeed},
+           {{"echo"}, "attempt 1: the question itself came back", DoctorWord::TakePlugOff},
+           {{"bad-checksum@1"}, "attempt 1: a frame came with a wrong", DoctorWord::CheckEarthing},
+           {{"bad-checksum@3"}, "damage: 8 of 24 lines came damaged", DoctorWord::CheckEarthing},
+           {{"vanish@1"}, "device: the device has gone meanwhile", DoctorWord::PlugIn}}) {
+    Ward ward(faults);
+    const Diagnosis diagnosis = ward.Look();
+    EXPECT_THAT(Ward::Text(diagnosis), HasSubstr(found)) << (faults.size() ? *faults.begin() : "");
+    EXPECT_EQ(diagnosis.advice, Spoken(advice)) << Ward::Text(diagnosis);
+    EXPECT_EQ(diagnosis.isWell, advice == DoctorWord::AllWell);
+  }
+}
+
+TEST(LinkDoctor, FindsTheModemAndCallsByIt) {
+  EXPECT_EQ(Ward({}, true).Look().advice, Spoken(DoctorWord::GivePhone));
+  Ward ward({}, true);
+  const Diagnosis called = ward.Look("600123456");
+  EXPECT_TRUE(called.isWell) << Ward::Text(called);
+  const Diagnosis refused = ward.Look("600123456", "wrong");
+  EXPECT_THAT(Ward::Text(refused), HasSubstr("did not accept the access code"));
+  EXPECT_EQ(refused.advice, Spoken(DoctorWord::LookAtNumber));
+}
+
+TEST(LinkDoctor, LooksAtTheMachineBeforeItOpensAnything) {
+  for (const auto& [facts, fault, found, advice] :
+       std::vector<std::tuple<PortFacts, PortFault, std::string, Phrase>>{
+           {{.device = "/dev/x"}, {}, "behind COM7 (/dev/x)", Spoken(DoctorWord::PlugIn)},
+           {{.device = "/dev/x", .exists = true, .group = "dialout"},
+            {},
+            "members of the group dialout alone",
+            Spoken(DoctorWord::JoinGroup, {"dialout"})},
+           {{.device = "/dev/x", .exists = true},
+            {},
+            "not be opened by this user",
+            Spoken(DoctorWord::AskAdministrator)},
+           {{.device = "/dev/x", .exists = true, .isPermitted = true, .holders = {{12, "minicom"}}},
+            {},
+            "in use by minicom (12)",
+            Spoken(DoctorWord::CloseProgram)},
+           {{.device = "/dev/x", .exists = true, .isPermitted = true},
+            PortFault::Busy,
+            "opening: in use by",
+            Spoken(DoctorWord::CloseProgram)}}) {
+    Ward ward({});
+    ward.inspector.facts[7] = facts;
+    ward.world.port.SetOpenFault(7, fault);
+    const Diagnosis diagnosis = ward.Look();
+    EXPECT_THAT(Ward::Text(diagnosis), HasSubstr(found));
+    EXPECT_EQ(diagnosis.advice, advice);
+  }
+}
+
+TEST(LinkDoctor, ALineThatIsHeldWantsItsControlLines) {
+  for (const bool takesOctets : {false, true}) {
+    Ward ward({"silent"});
+    ward.world.port.SetLines(7, {.clearToSend = takesOctets, .dataSetReady = true});
+    ward.world.port.HoldOutput(7, !takesOctets);
+    const Diagnosis diagnosis = ward.Look();
+    const std::string text = Ward::Text(diagnosis);
+    EXPECT_THAT(text, HasSubstr(takesOctets ? "CTS on, DSR on, DCD off" : "take octets: CTS off"));
+    EXPECT_EQ(diagnosis.advice,
+              Spoken(takesOctets ? DoctorWord::CheckSupply : DoctorWord::CheckLines));
+  }
+}
+
+}  // namespace
+}  // namespace ostrel

@@ -1,0 +1,121 @@
+#include <gmock/gmock.h>
+
+#include "VirtualWorld.h"
+#include "blocks/expansion/ExpansionInputs.h"
+#include "shell/FieldWords.h"
+#include "shell/report/Commissioning.h"
+
+namespace ostrel {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::Not;
+
+/// A configured VR200.
+struct Handover {
+  Handover() {
+    SelectTarget(work.configuration.profile, "Ostrel VR200");
+    work.configuration.conf = EmptyConfiguration(work.configuration.profile, InEnglish);
+    work.madeAt = {2026, 3, 2, 9, 5, 7};
+  }
+  DeviceConf& Conf() { return work.configuration.conf; }
+  Report Make() { return CommissioningReport(work, {"en", InEnglish, InEnglish}, world.files); }
+  /// The rows of the table with a caption, or of the first one of a section.
+  std::vector<std::vector<std::string>> Rows(const std::string& title,
+                                             const std::string& caption = {}) {
+    for (const ReportSection& section : Make().sections)
+      for (const ReportPart& part : section.parts)
+        if (section.title == title && (caption.empty() || part.caption.starts_with(caption)))
+          return part.rows;
+    return {};
+  }
+
+  VirtualWorld world;
+  Commissioned work{};
+};
+
+TEST(Report, TellsWhoIsToldWhat) {
+  Handover handover;
+  handover.Conf().Phone[0].TLF = "600000001";
+  ConfPhone& second = handover.Conf().Phone[2];
+  second = {.TLF = "600000002", .Prio = 3, .PRV = 1, .MASKMODE = 2, .ListaMask = {}};
+  for (std::int16_t& place : second.ListaMask) place = kNoChannel;
+  second.ListaMask[0] = 21;  // DI0
+  for (const int channel : {0, 1}) {
+    AlarmBlock& alarm = handover.Conf().Digital[channel].ALARM[2].common;
+    alarm.HABIL = alarm.SMS = kTrue;
+    alarm.TEXTO = "door";
+    alarm.valid = kAlways;
+  }
+  handover.Conf().Digital[1].ALARM[2].common.SMS = {};
+  handover.Conf().Digital[1].ALARM[2].common.GPRS = kTrue;
+  EXPECT_THAT(handover.Rows("Who is told what", "Telephones"),
+              ElementsAre(ElementsAre("600000001", "none", "0", "all channels"),
+                          ElementsAre("600000002", "3", "1", "all but these: DI0")));
+  EXPECT_THAT(handover.Rows("Who is told what", "Alarms"),
+              ElementsAre(ElementsAre("digital input 0", "2", "door", "SMS", "600000001"),
+                          ElementsAre("digital input 1", "2", "door", "GPRS", "")));
+}
+
+TEST(Report, ShowsTimersAsAWeek) {
+  Handover handover;
+  handover.Conf().WTimer[3] = {
+      .HABIL = kTrue, .INICIO = {8 * 3600}, .SEMANA = 0b1000001, .ACT = {}};
+  handover.Conf().CTimer[0] = {
+      .HABIL = kTrue, .PERIOD = 60, .valid = {{}, {3600}, {7200}, 0b0000010}, .EQ = 2, .ACT = {}};
+  EXPECT_THAT(
+      handover.Rows("Timers in a week"),
+      ElementsAre(ElementsAre("cyclic timer 0", "every 60 s, from 1:00:00 to 2:00:00, on Tu, if F1",
+                              "", "1:00:00 - 2:00:00", "", "", "", "", "", ""),
+                  ElementsAre("weekly timer 3", "on Mo Su at 8:00:00", "8:00:00", "", "", "", "",
+                              "", "8:00:00", "")));
+}
+
+TEST(Report, IsOneFileWithoutSecretsAndWithoutForeignMarkup) {
+  Handover handover;
+  handover.Conf().General.DNAME = "<script>\"Dep\xC3\xB3sito\" & co";
+  handover.Conf().Gprs.APN_PASS = "geheim77";
+  handover.Conf().Digital[0].NOMBRE = "pump";
+  handover.Conf().Modulo[0].MODO = kModeCounter;
+  const std::string html = ReportHtml(handover.Make());
+  EXPECT_THAT(html, HasSubstr("&lt;script&gt;&quot;Dep\xC3\xB3sito&quot; &amp; co"));
+  EXPECT_THAT(html, HasSubstr("Digital input 0: &quot;pump&quot;"));
+  for (const char* foreign : {"geheim77", "http", "src=", "href", "url(", "@import", "<script>"})
+    EXPECT_THAT(html, Not(HasSubstr(foreign)));
+}
+
+TEST(Report, SaysWhatIsKnownAndNothingElse) {
+  Handover handover;
+  const auto titles = [&] {
+    std::vector<std::string> all;
+    for (const ReportSection& section : handover.Make().sections) all.push_back(section.title);
+    return all;
+  };
+  EXPECT_THAT(titles(), Not(testing::Contains("Live values at sign-off")));
+  EXPECT_THAT(titles(), Not(testing::Contains("Acceptance")));
+  EXPECT_THAT(ReportHtml(handover.Make()), HasSubstr("No logger was connected"));
+  handover.work.logger = DeviceInfo{.FirmwareVersion = 412, .SerialNumber = "VR-7"};
+  RealTimeData live;
+  live.AnalogName[1] = "level";
+  live.AnalogUnit[1] = "m";
+  handover.work.live =
+      TakeRound(live, handover.work.configuration.profile, *handover.work.logger, WallTime{});
+  for (LiveValue& value : handover.work.live->values)
+    if (value.id == LiveId{LiveKind::Analog, 1}) value.number = 2.5;
+  handover.work.acceptance = {{.node = "E_Digital_0",
+                               .kind = "digital input",
+                               .name = "pump",
+                               .verdict = Verdict::Passed,
+                               .note = "tried"}};
+  handover.work.history = {{"2026-03-02", "writing", "read back: the same", "ab12", "41"}};
+  EXPECT_THAT(handover.Rows("Site and logger"), testing::Contains(ElementsAre("firmware", "4.12")));
+  std::vector<std::string> found;
+  for (const ReportSection& section : handover.Make().sections)
+    for (const ReportPart& part : section.parts)
+      for (const auto& row : part.rows) found.insert(found.end(), row.begin(), row.end());
+  EXPECT_THAT(found, testing::IsSupersetOf({"level", "2.5", "m", "pass", "tried", "ab12", "41"}));
+}
+
+}  // namespace
+}  // namespace ostrel
