@@ -106,6 +106,8 @@ void Logger::Answer(const std::string& request) {
   exchange_ = {loop_.Now(), request, {}, 0, {}};
   if (plan_.Count(FaultKind::Silent))
     exchange_.note = "silent by fault";
+  else if (fixture_.Asleep())
+    exchange_.note = "asleep";
   else if (plan_.Count(FaultKind::Noise))
     AnswerNoise();
   else if (plan_.Count(FaultKind::Echo))
