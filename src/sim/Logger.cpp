@@ -112,8 +112,6 @@ void Logger::Answer(const std::string& request) {
     AnswerNoise();
   else if (plan_.Count(FaultKind::Echo))
     AnswerEcho(request);
-  else if (fixture_.Asleep())
-    exchange_.note = "asleep";
   else if (!admitted_ && !request.starts_with("#11"))
     exchange_.note = "access code missing";
   else if (HasNoWordFor(request))
