@@ -2381,5 +2381,977 @@
         <source>nothing of the image was sent: if the logger still answers, its firmware is as it was</source>
         <translation>no se ha enviado nada de la imagen: si el equipo todavía responde, su firmware es el de antes</translation>
     </message>
+    <message>
+        <source>Undo</source>
+        <translation>Deshacer</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Rehacer</translation>
+    </message>
+    <message>
+        <source>Undo what was edited on a page</source>
+        <translation>Deshacer lo editado en una página</translation>
+    </message>
+    <message>
+        <source>Do again what was undone</source>
+        <translation>Rehacer lo deshecho</translation>
+    </message>
+    <message>
+        <source>Report</source>
+        <translation>Informe</translation>
+    </message>
+    <message>
+        <source>Save a commissioning report</source>
+        <translation>Guardar un informe de puesta en marcha</translation>
+    </message>
+    <message>
+        <source>Link doctor</source>
+        <translation>Diagnóstico</translation>
+    </message>
+    <message>
+        <source>Find out why nothing answers at the port</source>
+        <translation>Averiguar por qué nada responde en el puerto</translation>
+    </message>
+    <message>
+        <source>Record...</source>
+        <translation>Grabar...</translation>
+    </message>
+    <message>
+        <source>Keep every octet of the line in a file</source>
+        <translation>Guardar cada octeto de la línea en un archivo</translation>
+    </message>
+    <message>
+        <source>The recording could not be written whole.</source>
+        <translation>La grabación no se ha podido escribir entera.</translation>
+    </message>
+    <message>
+        <source>Recording</source>
+        <translation>Grabación</translation>
+    </message>
+    <message>
+        <source>Document</source>
+        <translation>Documento</translation>
+    </message>
+    <message>
+        <source>Web page</source>
+        <translation>Página web</translation>
+    </message>
+    <message>
+        <source>it holds something else than a recording</source>
+        <translation>contiene algo distinto de una grabación</translation>
+    </message>
+    <message>
+        <source>no program reads the pipe</source>
+        <translation>ningún programa lee la tubería</translation>
+    </message>
+    <message>
+        <source>A session stands. The link doctor looks at a port that no session uses: end the session first.</source>
+        <translation>Hay una sesión abierta. El diagnóstico examina un puerto que ninguna sesión usa: termine antes la sesión.</translation>
+    </message>
+    <message>
+        <source>Report written to %1.</source>
+        <translation>Informe escrito en %1.</translation>
+    </message>
+    <message>
+        <source>in order</source>
+        <translation>en orden</translation>
+    </message>
+    <message>
+        <source>not in order</source>
+        <translation>mal</translation>
+    </message>
+    <message>
+        <source>to note</source>
+        <translation>a tener en cuenta</translation>
+    </message>
+    <message>
+        <source>Link doctor: %1</source>
+        <translation>Diagnóstico de línea: %1</translation>
+    </message>
+    <message>
+        <source>What was found</source>
+        <translation>Lo encontrado</translation>
+    </message>
+    <message>
+        <source>Looked at</source>
+        <translation>Examinado</translation>
+    </message>
+    <message>
+        <source>State</source>
+        <translation>Estado</translation>
+    </message>
+    <message>
+        <source>Found</source>
+        <translation>Encontrado</translation>
+    </message>
+    <message>
+        <source>Looking...</source>
+        <translation>Examinando...</translation>
+    </message>
+    <message>
+        <source>What to try next: %1</source>
+        <translation>Qué probar ahora: %1</translation>
+    </message>
+    <message>
+        <source>device</source>
+        <translation>dispositivo</translation>
+    </message>
+    <message>
+        <source>permission</source>
+        <translation>permiso</translation>
+    </message>
+    <message>
+        <source>other programs</source>
+        <translation>otros programas</translation>
+    </message>
+    <message>
+        <source>opening</source>
+        <translation>apertura</translation>
+    </message>
+    <message>
+        <source>control lines</source>
+        <translation>líneas de control</translation>
+    </message>
+    <message>
+        <source>listening</source>
+        <translation>escucha</translation>
+    </message>
+    <message>
+        <source>attempt %1</source>
+        <translation>intento %1</translation>
+    </message>
+    <message>
+        <source>modem</source>
+        <translation>módem</translation>
+    </message>
+    <message>
+        <source>data call</source>
+        <translation>llamada de datos</translation>
+    </message>
+    <message>
+        <source>damage</source>
+        <translation>daños</translation>
+    </message>
+    <message>
+        <source>%1 is there</source>
+        <translation>%1 está presente</translation>
+    </message>
+    <message>
+        <source>there is no device behind %1</source>
+        <translation>no hay ningún dispositivo en %1</translation>
+    </message>
+    <message>
+        <source>a simulated logger of this program</source>
+        <translation>un equipo simulado de este programa</translation>
+    </message>
+    <message>
+        <source>it may be read and written</source>
+        <translation>se puede leer y escribir</translation>
+    </message>
+    <message>
+        <source>it may not be opened by this user</source>
+        <translation>este usuario no lo puede abrir</translation>
+    </message>
+    <message>
+        <source>it may be opened by members of the group %1 alone</source>
+        <translation>solo lo pueden abrir los miembros del grupo %1</translation>
+    </message>
+    <message>
+        <source>nobody else is known to have it open</source>
+        <translation>no consta que nadie más lo tenga abierto</translation>
+    </message>
+    <message>
+        <source>in use by %1</source>
+        <translation>en uso por %1</translation>
+    </message>
+    <message>
+        <source>opened at 9600 bit/s</source>
+        <translation>abierto a 9600 bit/s</translation>
+    </message>
+    <message>
+        <source>it cannot be opened as a serial port</source>
+        <translation>no se puede abrir como puerto serie</translation>
+    </message>
+    <message>
+        <source>the device has none</source>
+        <translation>el dispositivo no tiene</translation>
+    </message>
+    <message>
+        <source>the other end is ready: %1</source>
+        <translation>el otro extremo está listo: %1</translation>
+    </message>
+    <message>
+        <source>the other end does not take octets: %1</source>
+        <translation>el otro extremo no acepta octetos: %1</translation>
+    </message>
+    <message>
+        <source>nothing comes unasked</source>
+        <translation>no llega nada sin preguntar</translation>
+    </message>
+    <message>
+        <source>readable text comes unasked, octets: %1</source>
+        <translation>llega texto legible sin preguntar, octetos: %1</translation>
+    </message>
+    <message>
+        <source>frames of a logger come unasked: %1</source>
+        <translation>llegan tramas de un equipo sin preguntar: %1</translation>
+    </message>
+    <message>
+        <source>noise: %1 octets, of which %2 belong to no text</source>
+        <translation>ruido: %1 octetos, de los que %2 no son de ningún texto</translation>
+    </message>
+    <message>
+        <source>no octet came in %1 s</source>
+        <translation>no ha llegado ningún octeto en %1 s</translation>
+    </message>
+    <message>
+        <source>the question did not leave: flow control holds the line</source>
+        <translation>la pregunta no ha salido: el control de flujo retiene la línea</translation>
+    </message>
+    <message>
+        <source>the question itself came back</source>
+        <translation>ha vuelto la propia pregunta</translation>
+    </message>
+    <message>
+        <source>a frame came with a wrong checksum</source>
+        <translation>ha llegado una trama con mal código de control</translation>
+    </message>
+    <message>
+        <source>something else was answered: &quot;%1&quot;</source>
+        <translation>ha respondido otra cosa: &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>text came, and no frame: &quot;%1&quot;</source>
+        <translation>ha llegado texto y ninguna trama: &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>a logger greets: %1</source>
+        <translation>un equipo saluda: %1</translation>
+    </message>
+    <message>
+        <source>no modem answers</source>
+        <translation>ningún módem responde</translation>
+    </message>
+    <message>
+        <source>a modem answers</source>
+        <translation>responde un módem</translation>
+    </message>
+    <message>
+        <source>the logger behind the modem greets</source>
+        <translation>el equipo tras el módem saluda</translation>
+    </message>
+    <message>
+        <source>none: %1 lines came, all good</source>
+        <translation>ninguno: han llegado %1 líneas, todas buenas</translation>
+    </message>
+    <message>
+        <source>%1 of %2 lines came damaged</source>
+        <translation>%1 de %2 líneas han llegado dañadas</translation>
+    </message>
+    <message>
+        <source>the logger greets, and does not tell who it is</source>
+        <translation>el equipo saluda y no dice quién es</translation>
+    </message>
+    <message>
+        <source>the device has gone meanwhile</source>
+        <translation>el dispositivo ha desaparecido entretanto</translation>
+    </message>
+    <message>
+        <source>check that the adapter is plugged in, and choose its port</source>
+        <translation>compruebe que el adaptador está enchufado y elija su puerto</translation>
+    </message>
+    <message>
+        <source>join the group with &quot;sudo usermod -aG %1 $USER&quot;, then log out and in again</source>
+        <translation>entre en el grupo con &quot;sudo usermod -aG %1 $USER&quot; y vuelva a iniciar la sesión</translation>
+    </message>
+    <message>
+        <source>ask who looks after this machine for the permission</source>
+        <translation>pida el permiso a quien administra este ordenador</translation>
+    </message>
+    <message>
+        <source>check speed and cable: a device of another speed than 9600 bit/s looks like this</source>
+        <translation>compruebe velocidad y cable: así se ve un dispositivo de otra velocidad que 9600 bit/s</translation>
+    </message>
+    <message>
+        <source>take the loopback plug off, or undo the bridge between the two data lines</source>
+        <translation>quite el conector de bucle o el puente entre las dos líneas de datos</translation>
+    </message>
+    <message>
+        <source>a modem is at this port: give the number of the logger to dial</source>
+        <translation>en este puerto hay un módem: indique el número del equipo</translation>
+    </message>
+    <message>
+        <source>check cable and supply, and that the logger is awake</source>
+        <translation>compruebe cable y alimentación, y que el equipo está despierto</translation>
+    </message>
+    <message>
+        <source>check cable, earthing and connectors</source>
+        <translation>compruebe cable, toma de tierra y conectores</translation>
+    </message>
+    <message>
+        <source>nothing: the line is well</source>
+        <translation>nada: la línea está bien</translation>
+    </message>
+    <message>
+        <source>nothing: the modem and the logger behind it are well</source>
+        <translation>nada: el módem y el equipo tras él están bien</translation>
+    </message>
+    <message>
+        <source>check number, reception and access code</source>
+        <translation>compruebe número, cobertura y código de acceso</translation>
+    </message>
+    <message>
+        <source>Commissioning report</source>
+        <translation>Informe de puesta en marcha</translation>
+    </message>
+    <message>
+        <source>Made by the configuration tool of the logger.</source>
+        <translation>Hecho por la herramienta de configuración del equipo.</translation>
+    </message>
+    <message>
+        <source>Site and logger</source>
+        <translation>Lugar y equipo</translation>
+    </message>
+    <message>
+        <source>site</source>
+        <translation>lugar</translation>
+    </message>
+    <message>
+        <source>model</source>
+        <translation>modelo</translation>
+    </message>
+    <message>
+        <source>serial number</source>
+        <translation>número de serie</translation>
+    </message>
+    <message>
+        <source>firmware</source>
+        <translation>versión</translation>
+    </message>
+    <message>
+        <source>features</source>
+        <translation>prestaciones</translation>
+    </message>
+    <message>
+        <source>battery</source>
+        <translation>batería</translation>
+    </message>
+    <message>
+        <source>signal</source>
+        <translation>señal</translation>
+    </message>
+    <message>
+        <source>log in use</source>
+        <translation>registro en uso</translation>
+    </message>
+    <message>
+        <source>No logger was connected when this report was made: it tells of the file alone.</source>
+        <translation>Al hacer este informe no había ningún equipo conectado: solo habla del archivo.</translation>
+    </message>
+    <message>
+        <source>clock of the logger</source>
+        <translation>reloj del equipo</translation>
+    </message>
+    <message>
+        <source>time of this report</source>
+        <translation>hora de este informe</translation>
+    </message>
+    <message>
+        <source>file</source>
+        <translation>archivo</translation>
+    </message>
+    <message>
+        <source>hash of the configuration</source>
+        <translation>huella de la configuración</translation>
+    </message>
+    <message>
+        <source>Channels</source>
+        <translation>Canales</translation>
+    </message>
+    <message>
+        <source>Other settings</source>
+        <translation>Otros ajustes</translation>
+    </message>
+    <message>
+        <source>Live values at sign-off</source>
+        <translation>Valores en vivo a la entrega</translation>
+    </message>
+    <message>
+        <source>channel</source>
+        <translation>canal</translation>
+    </message>
+    <message>
+        <source>value</source>
+        <translation>valor</translation>
+    </message>
+    <message>
+        <source>Measured channels without a name are left out.</source>
+        <translation>Se omiten los canales medidos sin nombre.</translation>
+    </message>
+    <message>
+        <source>Not sent to this logger</source>
+        <translation>No se envía a este equipo</translation>
+    </message>
+    <message>
+        <source>%1, another one</source>
+        <translation>%1, otra distinta</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>ninguna</translation>
+    </message>
+    <message>
+        <source>empty</source>
+        <translation>vacío</translation>
+    </message>
+    <message>
+        <source>&amp;Compare</source>
+        <translation>&amp;Comparar</translation>
+    </message>
+    <message>
+        <source>&amp;with</source>
+        <translation>c&amp;on</translation>
+    </message>
+    <message>
+        <source>Choose</source>
+        <translation>Elegir</translation>
+    </message>
+    <message>
+        <source>&amp;Take the selected over into the pages</source>
+        <translation>&amp;Pasar lo seleccionado a las páginas</translation>
+    </message>
+    <message>
+        <source>Take &amp;all over into the pages</source>
+        <translation>Pasar &amp;todo a las páginas</translation>
+    </message>
+    <message>
+        <source>the pages</source>
+        <translation>las páginas</translation>
+    </message>
+    <message>
+        <source>the logger</source>
+        <translation>el equipo</translation>
+    </message>
+    <message>
+        <source>safety copy %1</source>
+        <translation>copia de seguridad %1</translation>
+    </message>
+    <message>
+        <source>another file...</source>
+        <translation>otro archivo...</translation>
+    </message>
+    <message>
+        <source>The logger is being read.</source>
+        <translation>Se está leyendo el equipo.</translation>
+    </message>
+    <message>
+        <source>No session stands in which it could be read.</source>
+        <translation>No hay ninguna sesión en la que se pueda leer.</translation>
+    </message>
+    <message>
+        <source>The logger could not be read.</source>
+        <translation>No se ha podido leer el equipo.</translation>
+    </message>
+    <message>
+        <source>Choose what is to be compared.</source>
+        <translation>Elija qué se va a comparar.</translation>
+    </message>
+    <message>
+        <source>What is taken over comes from: %1.</source>
+        <translation>Lo que se pasa viene de: %1.</translation>
+    </message>
+    <message>
+        <source>The models are not the same, so nothing can be taken over.</source>
+        <translation>Los modelos no son el mismo, así que no se puede pasar nada.</translation>
+    </message>
+    <message>
+        <source>Compare pages, logger, files and safety copies</source>
+        <translation>Comparar páginas, equipo, archivos y copias de seguridad</translation>
+    </message>
+    <message>
+        <source>no day</source>
+        <translation>ningún día</translation>
+    </message>
+    <message>
+        <source>free</source>
+        <translation>libre</translation>
+    </message>
+    <message>
+        <source>Apply to several channels</source>
+        <translation>Aplicar a varios canales</translation>
+    </message>
+    <message>
+        <source>all but the name</source>
+        <translation>todo menos el nombre</translation>
+    </message>
+    <message>
+        <source>alarm %1 alone</source>
+        <translation>solo la alarma %1</translation>
+    </message>
+    <message>
+        <source>&amp;Copy:</source>
+        <translation>&amp;Copiar:</translation>
+    </message>
+    <message>
+        <source>&amp;What:</source>
+        <translation>&amp;Qué:</translation>
+    </message>
+    <message>
+        <source>&amp;Into:</source>
+        <translation>&amp;En:</translation>
+    </message>
+    <message>
+        <source>&amp;All</source>
+        <translation>&amp;Todos</translation>
+    </message>
+    <message>
+        <source>&amp;None of them</source>
+        <translation>&amp;Ninguno</translation>
+    </message>
+    <message>
+        <source>A&amp;pply</source>
+        <translation>A&amp;plicar</translation>
+    </message>
+    <message>
+        <source>Copy %1</source>
+        <translation>Copiar %1</translation>
+    </message>
+    <message>
+        <source>Copy alarm %1 of %2</source>
+        <translation>Copiar la alarma %1 de %2</translation>
+    </message>
+    <message>
+        <source>Paste %1 as alarm %3 of %2</source>
+        <translation>Pegar %1 como alarma %3 de %2</translation>
+    </message>
+    <message>
+        <source>Paste %1 into %2</source>
+        <translation>Pegar %1 en %2</translation>
+    </message>
+    <message>
+        <source>Apply to several channels...</source>
+        <translation>Aplicar a varios canales...</translation>
+    </message>
+    <message>
+        <source>Paste %1 into the channels selected</source>
+        <translation>Pegar %1 en los canales seleccionados</translation>
+    </message>
+    <message>
+        <source>No channel is in front</source>
+        <translation>No hay ningún canal delante</translation>
+    </message>
+    <message>
+        <source>alarm %1 of %2</source>
+        <translation>alarma %1 de %2</translation>
+    </message>
+    <message>
+        <source>Copy and paste channels and alarms</source>
+        <translation>Copiar y pegar canales y alarmas</translation>
+    </message>
+    <message>
+        <source>Copy the list</source>
+        <translation>Copiar la lista</translation>
+    </message>
+    <message>
+        <source>Paste the list</source>
+        <translation>Pegar la lista</translation>
+    </message>
+    <message>
+        <source>EN</source>
+        <translation>ES</translation>
+    </message>
+    <message>
+        <source>The configuration is being read. The page shows it when it is whole.</source>
+        <translation>Se está leyendo la configuración. La página la mostrará cuando esté completa.</translation>
+    </message>
+    <message>
+        <source>The file is for the model %1, and the session that stands is with the model %2. Change the model?</source>
+        <translation>El archivo es del modelo %1 y la sesión abierta es con el modelo %2. ¿Cambiar el modelo?</translation>
+    </message>
+    <message>
+        <source>Reading the voice-call list</source>
+        <translation>Leyendo la lista de voz</translation>
+    </message>
+    <message>
+        <source>Writing the voice-call list</source>
+        <translation>Escribiendo la lista de voz</translation>
+    </message>
+    <message>
+        <source>The list is empty: the logger loses all numbers that it holds. Write it?</source>
+        <translation>La lista está vacía: el equipo perderá todos los números que tiene. ¿Escribirla?</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n of the numbers are no telephone numbers, the first of them &quot;%1&quot;. A logger may refuse them. Write the list?</source>
+        <translation><numerusform>Uno de los números no es un teléfono: &quot;%1&quot;. El equipo puede rechazarlo. ¿Escribir la lista?</numerusform><numerusform>%n de los números no son teléfonos; el primero es &quot;%1&quot;. El equipo puede rechazarlos. ¿Escribir la lista?</numerusform></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more</source>
+        <translation><numerusform>%n más</numerusform><numerusform>%n más</numerusform></translation>
+    </message>
+    <message>
+        <source>Plot</source>
+        <translation>Gráfica</translation>
+    </message>
+    <message>
+        <source>Filter the values</source>
+        <translation>Filtrar los valores</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Valor</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>Ahora</translation>
+    </message>
+    <message>
+        <source>Values to plot</source>
+        <translation>Valores que dibujar</translation>
+    </message>
+    <message>
+        <source>Nothing has been read yet. Values come while a session with a logger is open.</source>
+        <translation>Todavía no se ha leído nada. Los valores llegan mientras hay una sesión abierta con un equipo.</translation>
+    </message>
+    <message>
+        <source>Plot of live values</source>
+        <translation>Gráfica de valores en tiempo real</translation>
+    </message>
+    <message>
+        <source>Drag or arrow keys: move. Wheel, + and -: zoom. With Shift: the values instead of time. Home: all. End: follow. 0 or double click: fit the values.</source>
+        <translation>Arrastrar o flechas: mover. Rueda, + y -: ampliar y reducir. Con Mayús: los valores en lugar del tiempo. Inicio: todo. Fin: seguir. 0 o doble clic: ajustar los valores.</translation>
+    </message>
+    <message>
+        <source>&amp;Follow now</source>
+        <translation>&amp;Seguir ahora</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>Todo</translation>
+    </message>
+    <message>
+        <source>Zoom in</source>
+        <translation>Ampliar</translation>
+    </message>
+    <message>
+        <source>Zoom out</source>
+        <translation>Reducir</translation>
+    </message>
+    <message>
+        <source>Fit values</source>
+        <translation>Ajustar valores</translation>
+    </message>
+    <message>
+        <source>Picture...</source>
+        <translation>Imagen...</translation>
+    </message>
+    <message>
+        <source>Values...</source>
+        <translation>Valores...</translation>
+    </message>
+    <message>
+        <source>Values</source>
+        <translation>Valores</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Imagen</translation>
+    </message>
+    <message>
+        <source>Live</source>
+        <translation>En vivo</translation>
+    </message>
+    <message>
+        <source>Plot live values, and accept the installation</source>
+        <translation>Dibujar valores en tiempo real y dar por buena la instalación</translation>
+    </message>
+    <message>
+        <source>Acceptance</source>
+        <translation>Aceptación</translation>
+    </message>
+    <message>
+        <source>point</source>
+        <translation>punto</translation>
+    </message>
+    <message>
+        <source>verdict</source>
+        <translation>veredicto</translation>
+    </message>
+    <message>
+        <source>note</source>
+        <translation>nota</translation>
+    </message>
+    <message>
+        <source>when</source>
+        <translation>cuándo</translation>
+    </message>
+    <message>
+        <source>pass</source>
+        <translation>aceptado</translation>
+    </message>
+    <message>
+        <source>fail</source>
+        <translation>no aceptado</translation>
+    </message>
+    <message>
+        <source>Inputs to try</source>
+        <translation>Entradas que probar</translation>
+    </message>
+    <message>
+        <source>Verdict</source>
+        <translation>Resultado</translation>
+    </message>
+    <message>
+        <source>Note</source>
+        <translation>Nota</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Hora</translation>
+    </message>
+    <message>
+        <source>&amp;Pass</source>
+        <translation>&amp;Correcto</translation>
+    </message>
+    <message>
+        <source>F&amp;ail</source>
+        <translation>&amp;Fallo</translation>
+    </message>
+    <message>
+        <source>Take &amp;back</source>
+        <translation>&amp;Retirar</translation>
+    </message>
+    <message>
+        <source>&amp;Note:</source>
+        <translation>&amp;Nota:</translation>
+    </message>
+    <message>
+        <source>Export...</source>
+        <translation>Exportar...</translation>
+    </message>
+    <message>
+        <source>%1 passed, %2 failed, %3 open</source>
+        <translation>%1 correctas, %2 con fallo, %3 pendientes</translation>
+    </message>
+    <message>
+        <source>No input is configured.</source>
+        <translation>No hay ninguna entrada configurada.</translation>
+    </message>
+    <message>
+        <source>Open a session to begin: results are kept by serial number.</source>
+        <translation>Abra una sesión para empezar: los resultados se guardan por número de serie.</translation>
+    </message>
+    <message>
+        <source>Logger %1: %2</source>
+        <translation>Equipo %1: %2</translation>
+    </message>
+    <message>
+        <source>Logger %1, %2: %3</source>
+        <translation>Equipo %1, %2: %3</translation>
+    </message>
+    <message>
+        <source>The last change could not be kept: %1</source>
+        <translation>No se ha podido guardar el último cambio: %1</translation>
+    </message>
+    <message>
+        <source>What was noted before cannot be read: %1</source>
+        <translation>No se puede leer lo que se anotó antes: %1</translation>
+    </message>
+    <message>
+        <source>it is damaged, or made by a newer program</source>
+        <translation>está dañado o es de un programa más nuevo</translation>
+    </message>
+    <message>
+        <source>open</source>
+        <translation>pendiente</translation>
+    </message>
+    <message>
+        <source>Check of the configuration</source>
+        <translation>Comprobación de la configuración</translation>
+    </message>
+    <message>
+        <source>kind</source>
+        <translation>clase</translation>
+    </message>
+    <message>
+        <source>place</source>
+        <translation>lugar</translation>
+    </message>
+    <message>
+        <source>finding</source>
+        <translation>hallazgo</translation>
+    </message>
+    <message>
+        <source>error</source>
+        <translation>error</translation>
+    </message>
+    <message>
+        <source>warning</source>
+        <translation>aviso</translation>
+    </message>
+    <message>
+        <source>The check of the configuration found nothing.</source>
+        <translation>La comprobación de la configuración no ha encontrado nada.</translation>
+    </message>
+    <message>
+        <source>What was written</source>
+        <translation>Lo escrito</translation>
+    </message>
+    <message>
+        <source>what</source>
+        <translation>qué</translation>
+    </message>
+    <message>
+        <source>verified</source>
+        <translation>verificado</translation>
+    </message>
+    <message>
+        <source>hash</source>
+        <translation>huella</translation>
+    </message>
+    <message>
+        <source>ledger number</source>
+        <translation>número de registro</translation>
+    </message>
+    <message>
+        <source>Signatures</source>
+        <translation>Firmas</translation>
+    </message>
+    <message>
+        <source>For the contractor: place, date, name</source>
+        <translation>Por el instalador: lugar, fecha, nombre</translation>
+    </message>
+    <message>
+        <source>For the customer: place, date, name</source>
+        <translation>Por el cliente: lugar, fecha, nombre</translation>
+    </message>
+    <message>
+        <source>Telephones</source>
+        <translation>Teléfonos</translation>
+    </message>
+    <message>
+        <source>priority</source>
+        <translation>prioridad</translation>
+    </message>
+    <message>
+        <source>privilege</source>
+        <translation>privilegio</translation>
+    </message>
+    <message>
+        <source>gets the alarms of</source>
+        <translation>recibe las alarmas de</translation>
+    </message>
+    <message>
+        <source>all channels</source>
+        <translation>todos los canales</translation>
+    </message>
+    <message>
+        <source>these alone:</source>
+        <translation>solo estos:</translation>
+    </message>
+    <message>
+        <source>all but these:</source>
+        <translation>todos salvo:</translation>
+    </message>
+    <message>
+        <source>No telephone is told anything.</source>
+        <translation>No se avisa a ningún teléfono.</translation>
+    </message>
+    <message>
+        <source>SMS</source>
+        <translation>SMS</translation>
+    </message>
+    <message>
+        <source>SMS and voice</source>
+        <translation>SMS y voz</translation>
+    </message>
+    <message>
+        <source>nobody</source>
+        <translation>nadie</translation>
+    </message>
+    <message>
+        <source>Alarms</source>
+        <translation>Alarmas</translation>
+    </message>
+    <message>
+        <source>alarm</source>
+        <translation>alarma</translation>
+    </message>
+    <message>
+        <source>told by</source>
+        <translation>avisa por</translation>
+    </message>
+    <message>
+        <source>told to</source>
+        <translation>avisa a</translation>
+    </message>
+    <message>
+        <source>No alarm is enabled.</source>
+        <translation>No hay ninguna alarma habilitada.</translation>
+    </message>
+    <message>
+        <source>Who is told what</source>
+        <translation>A quién se avisa de qué</translation>
+    </message>
+    <message>
+        <source>timer</source>
+        <translation>temporizador</translation>
+    </message>
+    <message>
+        <source>runs</source>
+        <translation>ejecuta</translation>
+    </message>
+    <message>
+        <source>if</source>
+        <translation>si</translation>
+    </message>
+    <message>
+        <source>Timers in a week</source>
+        <translation>Temporizadores en una semana</translation>
+    </message>
+    <message>
+        <source>unknown to this model</source>
+        <translation>desconocida en este modelo</translation>
+    </message>
+    <message>
+        <source>configuration</source>
+        <translation>configuración</translation>
+    </message>
+    <message>
+        <source>time</source>
+        <translation>hora</translation>
+    </message>
+    <message>
+        <source>%1 records</source>
+        <translation>%1 registros</translation>
+    </message>
+    <message>
+        <source>not read</source>
+        <translation>sin leer</translation>
+    </message>
+    <message>
+        <source>Active</source>
+        <translation>Activa</translation>
+    </message>
+    <message>
+        <source>Inactive</source>
+        <translation>Inactiva</translation>
+    </message>
+    <message>
+        <source>Band</source>
+        <translation>Banda</translation>
+    </message>
+    <message>
+        <source>good</source>
+        <translation>correcto</translation>
+    </message>
+    <message>
+        <source>FAILED</source>
+        <translation>FALLO</translation>
+    </message>
+    <message>
+        <source>Measured values</source>
+        <translation>Valores medidos</translation>
+    </message>
 </context>
 </TS>
