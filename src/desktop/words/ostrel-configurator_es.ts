@@ -2386,9 +2386,5 @@
         <comment>the state of the link</comment>
         <translation>Sesión abierta</translation>
     </message>
-    <message>
-        <source>not read</source>
-        <translation>sin leer</translation>
-    </message>
 </context>
 </TS>
