@@ -36,7 +36,7 @@ constexpr const char* kTable = "/Lang.txt";
 constexpr std::string_view kSchedule = "Schedule";
 constexpr std::string_view kDoctor = "Doctor";
 constexpr std::string_view kReport = "Report";
-constexpr std::string_view kHistory = "History";
+constexpr std::string_view kHistoryPage = "History";
 
 /// A dialog, drawn by itself as it comes up, if the key names one.
 QPixmap DialogPicture(Desktop& desktop, VirtualDialogs& dialogs, const std::string& key) {
@@ -107,7 +107,7 @@ QPixmap DoctorPicture(EventLoop& loop, const Platform& platform, const CommandLi
 /// The history of a session with the simulated logger of the model, if the key names it.
 QPixmap HistoryPicture(Desktop& desktop, VirtualLedger& ledger, SimulatedLoggers* loggers,
                        const CommandLine& line) {
-  if (line.page != kHistory || !loggers) return {};
+  if (line.page != kHistoryPage || !loggers) return {};
   Configurator& core = desktop.Core();
   if (core.session.Open(loggers->NumberOf(core.profile.TargetName), {})) {
     core.session.Download();

@@ -125,7 +125,6 @@ class MainWindow final : public QMainWindow {
   /// Takes in what the page in front, or the one before it, has committed.
   void NoteEdits();
   void StartHistory();
-  void ShowHistory();
   /// Saves octets to a file that the operator chooses. `kind` is in words.
   void SaveBeside(const QString& kind, const QString& ending, const std::string& octets);
   /// Says in a box what went wrong.
