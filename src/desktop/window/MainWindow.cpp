@@ -320,7 +320,7 @@ void MainWindow::ShowTitle() {
   if (windowTitle() != title) setWindowTitle(title);
   setWindowModified(unsaved_.Changed());
   if (isWindowModified()) ForgetSuccess();
-  ShowHistory();
+  ShowUndo();
 }
 
 std::optional<ModelConfiguration> MainWindow::ReadFile(const std::string& path) const {

@@ -124,6 +124,8 @@ class MainWindow final : public QMainWindow {
   void GoBackTo(const EditHistory::Step& step);
   /// Takes in what the page in front, or the one before it, has committed.
   void NoteEdits();
+  /// Shows what undoing and redoing would do.
+  void ShowUndo();
   void StartHistory();
   /// Saves octets to a file that the operator chooses. `kind` is in words.
   void SaveBeside(const QString& kind, const QString& ending, const std::string& octets);
@@ -206,6 +208,8 @@ class MainWindow final : public QMainWindow {
 
   // The ledger.
   /// Opens the configuration of an entry, from a file of its own in the user's data folder.
+  /// The configuration of an entry, as a file of the program's own; told where it cannot be made.
+  std::optional<std::string> FileOf(const LedgerEntry& entry);
   void OpenEntry(const LedgerEntry& entry);
   void CompareEntry(const LedgerEntry& entry);
   void SaveEntry(const LedgerEntry& entry);

@@ -25,16 +25,16 @@ constexpr std::string_view kPdfEnd = ".pdf";
 
 void MainWindow::StartHistory() {
   edits_.Start(configurator_.conf);
-  ShowHistory();
+  ShowUndo();
 }
 
 void MainWindow::NoteEdits() {
   if (!following_ || configurator_.session.OwnsModel()) return;
   edits_.Note(configurator_.conf, configurator_.profile, shownNode_);
-  ShowHistory();
+  ShowUndo();
 }
 
-void MainWindow::ShowHistory() {
+void MainWindow::ShowUndo() {
   const bool rests = configurator_.session.OwnsModel();
   // What stands on the page in front, and is not committed yet, can be undone, too.
   const auto isFrontEdited = [this] {

@@ -5,7 +5,7 @@
 #include <utility>
 
 #include "desktop/forms/Words.h"
-#include "desktop/window/CompareDialog.h"
+#include "desktop/window/CompareWindow.h"
 #include "desktop/window/FaultText.h"
 #include "desktop/window/HistoryDialog.h"
 #include "desktop/window/MainWindow.h"
@@ -33,32 +33,38 @@ void MainWindow::ShowHistory() {
     return [this, act](const LedgerEntry& entry) { parts_.guard([&] { (this->*act)(entry); }); };
   };
   dialog.OnOpen = guarded(&MainWindow::OpenEntry);
-  dialog.OnCompare = guarded(&MainWindow::CompareEntry);
+  // Another window stands beside none that asks.
+  std::optional<LedgerEntry> compared;
+  dialog.OnCompare = [&](const LedgerEntry& entry) {
+    compared = entry;
+    dialog.accept();
+  };
   dialog.OnSave = guarded(&MainWindow::SaveEntry);
   dialog.exec();
+  if (compared) parts_.guard([&] { CompareEntry(*compared); });
 }
 
-void MainWindow::OpenEntry(const LedgerEntry& entry) {
+std::optional<std::string> MainWindow::FileOf(const LedgerEntry& entry) {
   Files& files = parts_.platform.files;
   const std::string folder = parts_.dataFolder + "/history";
-  const std::string path = folder + "/entry-" + std::to_string(entry.id) + ".ocf";
+  std::string path = folder + "/entry-" + std::to_string(entry.id) + ".ocf";
   FileResult made = files.MakeFolder(folder);
   if (made.Ok() && !files.Exists(path))
     made = ExportEntry(*parts_.platform.ledger, entry, files, path);
-  if (made.Ok()) return OpenPath(path);
+  if (made.Ok()) return path;
   Tell(Words::tr("%1 could not be written: %2").arg(ToQt(path), ToQt(made.error)));
+  return {};
+}
+
+void MainWindow::OpenEntry(const LedgerEntry& entry) {
+  if (const auto path = FileOf(entry)) OpenPath(*path);
 }
 
 void MainWindow::CompareEntry(const LedgerEntry& entry) {
-  const auto past = ContentOfHistory(configurator_, entry.content);
-  if (!past) return Tell(Words::tr("The file holds no configuration."));
-  const ModelConfiguration present{configurator_.profile, unsaved_.WithFront()};
-  CompareDialog dialog({.title = Words::tr("Comparison with entry %1").arg(entry.id),
-                        .note = {},
-                        .before = Words::tr("Present"),
-                        .after = Words::tr("In the entry")},
-                       ostrel::Compare(present, *past).differences, this);
-  dialog.exec();
+  const auto path = FileOf(entry);
+  if (!path) return;
+  Compare();
+  comparing_->ShowFile(*path);
 }
 
 void MainWindow::SaveEntry(const LedgerEntry& entry) {

@@ -70,7 +70,7 @@ void MainWindow::Rest(bool rests) {
   for (QAction* action : {open_, save_, saveAs_, recentFiles_, safetyCopies_, compare_, channels_,
                           schedule_, history_, report_, doctor_, language_})
     action->setEnabled(!rests && !isUpdating_);
-  ShowHistory();
+  ShowUndo();
   trace_->SetMaySave(!rests && !isUpdating_);
   if (comparing_) comparing_->Rest(rests || isUpdating_);
   live_.SetMaySave(!rests && !isUpdating_);

@@ -3324,7 +3324,6 @@
         <translation>no se ha enviado nada de la imagen: si el equipo todavía responde, su firmware es el de antes</translation>
     </message>
     <message>
-<<<<<<< HEAD
         <source>Band</source>
         <translation>Banda</translation>
     </message>
@@ -3339,11 +3338,11 @@
     <message>
         <source>Measured values</source>
         <translation>Valores medidos</translation>
-=======
+    </message>
+    <message>
         <source>Open</source>
         <comment>the state of the link</comment>
         <translation>Sesión abierta</translation>
->>>>>>> w-led
     </message>
 </context>
 </TS>
