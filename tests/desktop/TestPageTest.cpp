@@ -31,7 +31,7 @@ class TestPageView : public testing::Test {
                             .station = {"Ana", "Puesto 1", world.Path("factory")},
                             .factory = true,
                             .ticking = true},
-        FromQt(world.folder.path()));
+        FromQt(world.folder.path()), world.inspector);
     desktop->Start("");
     desktop->Window().resize(1280, 720);
     desktop->Window().show();
