@@ -142,7 +142,6 @@ NodeResult Navigation::NodeClick(std::string_view key) {
 NodeResult Navigation::Open(std::string_view key) {
   const auto target = FindNodeTarget(key, configurator_.profile, configurator_.Universal);
   if (!target) return NodeResult::Nothing;
-  if (!FormOf(target->form)) return NodeResult::NotBuilt;
   if (Page* page = PageOf(target->form); page && target->index) page->ChangeIndex(*target->index);
   Show(target->form);
   return NodeResult::Shown;
@@ -169,13 +168,13 @@ Form* Navigation::Front() const { return open_.empty() ? nullptr : FormOf(open_.
 
 Page* Navigation::FrontPage() const { return open_.empty() ? nullptr : PageOf(open_.back()); }
 
-/// The page; null for a tool, or when this build has none.
+/// The page; null for a tool.
 Page* Navigation::PageOf(FormId id) const {
   const PageId* page = std::get_if<PageId>(&id);
   return page ? configurator_.PageOf(*page) : nullptr;
 }
 
-/// What else the tree opens; null for a page, or when this build has none.
+/// What else the tree opens; null for a page.
 FrontForm* Navigation::ToolOf(FormId id) const {
   const ToolId* tool = std::get_if<ToolId>(&id);
   return tool ? configurator_.ToolOf(*tool) : nullptr;

@@ -20,10 +20,9 @@ class Page;
 
 /// What a click on a node came to.
 enum class NodeResult {
-  Shown,     ///< a page is in front
-  Nothing,   ///< the node opens nothing
-  Rests,     ///< nothing may be opened while a logger gets new firmware
-  NotBuilt,  ///< the node's page does not exist in this build
+  Shown,    ///< a page is in front
+  Nothing,  ///< the node opens nothing
+  Rests,    ///< nothing may be opened while a logger gets new firmware
 };
 
 /// Where a node leads.

@@ -20,6 +20,7 @@
 #include "desktop/forms/ReadoutViews.h"
 #include "desktop/forms/Words.h"
 #include "desktop/layouts/LayoutParts.h"
+#include "desktop/program/Language.h"
 #include "platform/virtual/VirtualLoop.h"
 
 namespace ostrel {
@@ -62,6 +63,7 @@ class Binder : public testing::Test {
 };
 
 TEST_F(Binder, ReadoutsTellTheirValueToThoseWhoCannotSeeThem) {
+  UseLanguage("en");
   const auto told = [](QWidget* widget) {
     QAccessibleInterface* face = QAccessible::queryAccessibleInterface(widget);
     return face ? face->text(QAccessible::Value) : QString();

@@ -23,6 +23,8 @@ class WindowLivePanels : public OpenWindow {
     UseLanguage("en");
     AddLogger(sim::Model::BP);
     Connect();
+    Window().resize(1280, 720);
+    Window().show();
   }
   /// Lets time pass on the wall clock, too.
   void Run(seconds time) {

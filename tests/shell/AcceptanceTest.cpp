@@ -29,8 +29,8 @@ TEST(Acceptance, ListsWhatIsConfiguredInTheOrderOfTheTree) {
   conf.Digital[1].NOMBRE = "Door";
   conf.Digital[7].NOMBRE = "of another model";
   conf.Analog[1].INTERFAZ = 1;
-  conf.Analog[2].ALARM[1].common.TEXTO = "of an alarm that is not enabled";
-  conf.Analog[3].ALARM[1].common.HABIL = kTrue;
+  conf.Analog[0].ALARM[1].common.TEXTO = "of an alarm that is not enabled";
+  conf.Caudal[1].ALARM[1].common.HABIL = kTrue;
   conf.Math[1].NOMBRE = "sum";  // no input
   conf.Modulo[5].MODO = kModeCounter;
   conf.Modulo[5].C.NOMBRE = "Gas";
@@ -41,9 +41,9 @@ TEST(Acceptance, ListsWhatIsConfiguredInTheOrderOfTheTree) {
   for (const AcceptancePoint& point : ConfiguredInputs({profile, conf}, Same))
     shown.push_back(point.node + " " + point.kind + " " + std::to_string(point.number) + " " +
                     point.name);
-  const std::vector<std::string> expected{
-      "E_Analog_1 analog input 1 ", "E_Analog_3 analog input 3 ",
-      "E_Digital_1 digital input 1 Door", "Modulo_5 counter expansion input 5 Gas"};
+  const std::vector<std::string> expected{"E_Analog_1 analog input 1 ", "Caudal_1 flow meter 1 ",
+                                          "E_Digital_1 digital input 1 Door",
+                                          "Modulo_5 counter expansion input 5 Gas"};
   EXPECT_EQ(shown, expected);
 }
 

@@ -147,8 +147,8 @@ TEST_F(NavigationFixture, ShowsOnePageAndCommitsTheOneThatLeaves) {
   EXPECT_FALSE(core.general.PageActive);
   EXPECT_THAT(Visible(), ElementsAre());
   core.TargetDeviceChange("Tavro BP");
-  EXPECT_EQ(navigation.NodeClick("TEST"), NodeResult::NotBuilt);
-  EXPECT_EQ(navigation.Front(), nullptr);
+  EXPECT_EQ(navigation.NodeClick("TEST"), NodeResult::Shown);
+  EXPECT_THAT(Visible(), ElementsAre("Test"));
 }
 
 TEST_F(NavigationFixture, ActivatesWhatItShows) {

@@ -228,14 +228,11 @@ void MainWindow::PaintTree() {
 }
 
 void MainWindow::GoTo(const std::string& key) {
-  const NodeResult result = navigation_.NodeClick(key);
-  if (result == NodeResult::Rests) return;
+  if (navigation_.NodeClick(key) == NodeResult::Rests) return;
   NoteEdits();  // of the page that was left
   shownNode_ = key;
   tree_->Select(key);
   ShowGroup(key);
-  isMissing_ = result == NodeResult::NotBuilt;
-  ShowMissing();
 }
 
 void MainWindow::ShowGroup(const std::string& key) {
@@ -276,16 +273,12 @@ void MainWindow::GoToField(PageId page, const FieldId& field) {
   overview_.ShowNode(node);
 }
 
-void MainWindow::ShowMissing() {
-  if (isMissing_) pages_->ShowEmpty(Words::tr("This page does not exist in this version yet."));
-}
-
 void MainWindow::ShowFront() {
   unsaved_.Touch();
   if (Form* front = navigation_.Front())
     pages_->ShowForm(*front);
   else
-    pages_->ShowEmpty({});
+    pages_->ShowEmpty();
   ShowSession();
   ShowNotes();
 }

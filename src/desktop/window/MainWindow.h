@@ -169,7 +169,6 @@ class MainWindow final : public QMainWindow {
   void Rest(bool rests);
   /// Keeps the operator on the page while a logger gets new firmware.
   void RestForUpdate(bool isUpdating);
-  void ShowMissing();
   /// Shows the table of a group in the place of a page, or below that of the group; or the page
   /// alone.
   void ShowGroup(const std::string& key);
@@ -293,7 +292,6 @@ class MainWindow final : public QMainWindow {
   QPointer<QWidget> focus_, refuge_;   ///< where the focus was, and went, when the pages rested
   bool traceShown_ = false;
   bool isUpdating_ = false;  ///< a logger gets new firmware
-  bool isMissing_ = false;   ///< the node in front has no page in this build
 };
 
 }  // namespace ostrel

@@ -234,7 +234,6 @@ void MainWindow::AskLanguage() {
   BuildTree();  // it is translated when it is built
   Retranslate();
   pages_->Redraw();
-  ShowMissing();
   Look();
 }
 

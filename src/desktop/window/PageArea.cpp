@@ -6,10 +6,8 @@
 namespace ostrel {
 
 PageArea::PageArea(std::function<LayoutContext()> context, QWidget* parent)
-    : QStackedWidget(parent), context_(std::move(context)), empty_(new QLabel(this)) {
+    : QStackedWidget(parent), context_(std::move(context)), empty_(new QWidget(this)) {
   empty_->setObjectName("EmptyPage");
-  empty_->setAlignment(Qt::AlignCenter);
-  empty_->setWordWrap(true);
   addWidget(empty_);
 }
 
@@ -42,9 +40,8 @@ void PageArea::ShowForm(Form& form) {
   if (OnChanged) OnChanged();
 }
 
-void PageArea::ShowEmpty(const QString& words) {
+void PageArea::ShowEmpty() {
   front_ = nullptr;
-  empty_->setText(words);
   setCurrentWidget(empty_);
   if (OnChanged) OnChanged();
 }

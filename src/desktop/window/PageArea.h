@@ -20,8 +20,8 @@ class PageArea final : public QStackedWidget {
 
   /// Shows a form.
   void ShowForm(Form& form);
-  /// Shows an empty page with a few words.
-  void ShowEmpty(const QString& words);
+  /// Shows an empty page.
+  void ShowEmpty();
   /// Draws all anew, in the language in use.
   void Redraw();
   /// Covers what a reading empties until it has all: the whole page, or the parts of it that it
@@ -49,7 +49,7 @@ class PageArea final : public QStackedWidget {
   void LayCovers();
 
   std::function<LayoutContext()> context_;
-  QLabel* empty_;
+  QWidget* empty_;
   std::map<Form*, Sheet> sheets_;
   FormView* front_ = nullptr;
   QString coverWords_;

@@ -520,10 +520,6 @@
         <translation>%1, sin respuesta desde hace %2 s</translation>
     </message>
     <message>
-        <source>This page does not exist in this version yet.</source>
-        <translation>Esta página aún no existe en esta versión.</translation>
-    </message>
-    <message>
         <source>No safety copy could be kept: %1</source>
         <translation>No se ha podido guardar la copia de seguridad: %1</translation>
     </message>
