@@ -101,7 +101,9 @@ HistoryDialog::HistoryDialog(Ledger& books, QWidget* parent)
     if (OnOpen) OnOpen(entry);
   }));
   row->addWidget(AddButton(Words::tr("Co&mpare"), "Compare", [this] {
-    if (OnCompare) OnCompare(*Chosen());
+    const LedgerEntry entry = *Chosen();
+    accept();  // another window stands beside none that asks
+    if (OnCompare) OnCompare(entry);
   }));
   row->addWidget(AddButton(Words::tr("&Save to a file"), "Save", [this] {
     if (OnSave) OnSave(*Chosen());

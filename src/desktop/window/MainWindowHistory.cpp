@@ -33,15 +33,9 @@ void MainWindow::ShowHistory() {
     return [this, act](const LedgerEntry& entry) { parts_.guard([&] { (this->*act)(entry); }); };
   };
   dialog.OnOpen = guarded(&MainWindow::OpenEntry);
-  // Another window stands beside none that asks.
-  std::optional<LedgerEntry> compared;
-  dialog.OnCompare = [&](const LedgerEntry& entry) {
-    compared = entry;
-    dialog.accept();
-  };
+  dialog.OnCompare = guarded(&MainWindow::CompareEntry);
   dialog.OnSave = guarded(&MainWindow::SaveEntry);
   dialog.exec();
-  if (compared) parts_.guard([&] { CompareEntry(*compared); });
 }
 
 std::optional<std::string> MainWindow::FileOf(const LedgerEntry& entry) {
