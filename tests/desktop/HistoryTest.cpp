@@ -54,7 +54,7 @@ TEST_F(WindowHistory, FindsOpensAndComparesWhatWas) {
   const auto* compared = Window().findChild<CompareWindow*>()->findChild<QTreeWidget*>();
   EXPECT_EQ(compared->topLevelItemCount(), 1) << "the name alone differs";
   modals.Expect([&](QWidget* modal) {
-    modal->findChild<QTableWidget*>()->selectRow(0);
+    modal->findChild<QTableWidget*>()->selectRow(1);  // behind the file that was compared
     modals.Expect(Chooses("sin guardar"));
     modal->findChild<QPushButton*>("Open")->click();
   });
