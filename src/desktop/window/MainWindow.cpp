@@ -310,8 +310,9 @@ void MainWindow::ShowTitle() {
   QString title = ToQt(configurator_.MainCaption()) + "[*]";
   if (!shownFile_.empty())
     title = ToQt(shownFile_).section(u'/', -1) + "[*] - " + ToQt(configurator_.MainCaption());
+  // Either tells the display, and wakes it, even where nothing has changed.
   if (windowTitle() != title) setWindowTitle(title);
-  setWindowModified(unsaved_.Changed());
+  if (isWindowModified() != unsaved_.Changed()) setWindowModified(unsaved_.Changed());
   if (isWindowModified()) ForgetSuccess();
   ShowUndo();
 }
