@@ -1,6 +1,6 @@
 #include <gmock/gmock.h>
 
-#include "VirtualWorld.h"
+#include "World.h"
 #include "blocks/expansion/ExpansionInputs.h"
 #include "shell/FieldWords.h"
 #include "shell/report/Commissioning.h"
@@ -115,6 +115,39 @@ TEST(Report, SaysWhatIsKnownAndNothingElse) {
     for (const ReportPart& part : section.parts)
       for (const auto& row : part.rows) found.insert(found.end(), row.begin(), row.end());
   EXPECT_THAT(found, testing::IsSupersetOf({"level", "2.5", "m", "pass", "tried", "ab12", "41"}));
+}
+
+TEST(Report, TellsWhatTheLedgerKnowsOfTheLogger) {
+  World world;
+  Configurator core{world.platform, world.Options(false)};
+  core.StartForCommand("Ostrel VR200", 1);
+  core.info.SerialNumber = "VR-7";
+  const auto enter = [&](LedgerKind kind, LedgerState state, std::int64_t about = 0,
+                         const std::string& serial = "VR-7") {
+    world.ledger.Add({.about = about,
+                      .kind = kind,
+                      .state = state,
+                      .began = "2026-03-02 09:00:00",
+                      .serial = serial,
+                      .content = "0123456789abcdef"});
+  };
+  enter(LedgerKind::Writing, LedgerState::Failed);
+  enter(LedgerKind::Writing, LedgerState::Done);
+  enter(LedgerKind::Reading, LedgerState::Done, 2);
+  enter(LedgerKind::Verification, LedgerState::Done, 2);
+  enter(LedgerKind::Total, LedgerState::Done);
+  enter(LedgerKind::Writing, LedgerState::Done, 0, "VR-8");
+  enter(LedgerKind::Writing, LedgerState::Done);
+  enter(LedgerKind::Verification, LedgerState::Failed, 7);
+  Handover handover;
+  AddLogger(handover.work, core, world.platform, "/data");
+  EXPECT_THAT(handover.Rows("What was written"),
+              ElementsAre(ElementsAre("2026-03-02 09:00:00", "writing", "read back: the same",
+                                      "0123456789ab", "2"),
+                          ElementsAre("2026-03-02 09:00:00", "total", "", "0123456789ab", "5"),
+                          ElementsAre("2026-03-02 09:00:00", "writing", "read back: different",
+                                      "0123456789ab", "7")));
+  EXPECT_EQ(handover.work.hash.size(), 64U);
 }
 
 }  // namespace

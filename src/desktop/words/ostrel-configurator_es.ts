@@ -3056,6 +3056,18 @@
         <translation>lectura</translation>
     </message>
     <message>
+        <source>read back: the same</source>
+        <translation>leído de vuelta: idéntico</translation>
+    </message>
+    <message>
+        <source>read back: different</source>
+        <translation>leído de vuelta: distinto</translation>
+    </message>
+    <message>
+        <source>not read back</source>
+        <translation>no leído de vuelta</translation>
+    </message>
+    <message>
         <source>writing</source>
         <translation>escritura</translation>
     </message>

@@ -145,7 +145,8 @@ ReportSection Writer::History() const {
   ReportPart part{.form = ReportForm::Table,
                   .head = Head({"when", "what", "verified", "hash", "ledger number"})};
   for (const RecordedWork& done : work_.history)
-    part.rows.push_back({done.when, done.what, done.verified, done.hash, done.number});
+    part.rows.push_back({done.when, Say(done.what), done.verified.empty() ? "" : Say(done.verified),
+                         done.hash, done.number});
   section.parts.push_back(std::move(part));
   return section;
 }
