@@ -12,11 +12,11 @@ using testing::HasSubstr;
 
 /// A logger with faults at COM7.
 struct Ward {
-  explicit Ward(std::initializer_list<const char*> faults, bool modem = false) {
+  explicit Ward(const std::vector<std::string>& faults, bool modem = false) {
     sim::LoggerOptions options = sim::MakeDefaultOptions(sim::Model::VR200);
     options.modem = modem;
     options.accessCode = "4711";
-    for (const char* text : faults) {
+    for (const std::string& text : faults) {
       std::string error;
       options.faults.push_back(sim::ParseFault(text, error).value());
     }
@@ -49,7 +49,7 @@ struct Ward {
 
 TEST(LinkDoctor, TellsFromTheAnswersWhatToTry) {
   for (const auto& [faults, found, advice] :
-       std::vector<std::tuple<std::initializer_list<const char*>, std::string, DoctorWord>>{
+       std::vector<std::tuple<std::vector<std::string>, std::string, DoctorWord>>{
            {{}, "damage: none: 24 lines came, all good", DoctorWord::AllWell},
            {{"silent"}, "attempt 3: no octet came in 1 s", DoctorWord::CheckSupply},
            {{"silent@1!once"}, "attempt 2: a logger greets: Ostrel VR200", DoctorWord::AllWell},
@@ -60,7 +60,7 @@ TEST(LinkDoctor, TellsFromTheAnswersWhatToTry) {
            {{"vanish@1"}, "device: the device has gone meanwhile", DoctorWord::PlugIn}}) {
     Ward ward(faults);
     const Diagnosis diagnosis = ward.Look();
-    EXPECT_THAT(Ward::Text(diagnosis), HasSubstr(found)) << (faults.size() ? *faults.begin() : "");
+    EXPECT_THAT(Ward::Text(diagnosis), HasSubstr(found)) << testing::PrintToString(faults);
     EXPECT_EQ(diagnosis.advice, Spoken(advice)) << Ward::Text(diagnosis);
     EXPECT_EQ(diagnosis.isWell, advice == DoctorWord::AllWell);
   }
@@ -88,9 +88,9 @@ TEST(LinkDoctor, LooksAtTheMachineBeforeItOpensAnything) {
             {},
             "not be opened by this user",
             Spoken(DoctorWord::AskAdministrator)},
-           {{.device = "/dev/x", .exists = true, .isPermitted = true, .holders = {{12, "minicom"}}},
+           {{.device = "/dev/x", .exists = true, .isPermitted = true, .holders = {{12, "logview"}}},
             {},
-            "in use by minicom (12)",
+            "in use by logview (12)",
             Spoken(DoctorWord::CloseProgram)},
            {{.device = "/dev/x", .exists = true, .isPermitted = true},
             PortFault::Busy,
