@@ -87,19 +87,6 @@ TEST_F(WindowTools, KeepsItsOwnWordsOutOfTheTable) {
     EXPECT_EQ(table.find(own), std::string::npos) << own;
 }
 
-TEST_F(WindowTools, SaysThatAPageDoesNotExistYet) {
-  UseLanguage("en");
-  Window().GoTo("TEST");
-  EXPECT_EQ(Window().Pages().Front(), nullptr);
-  auto* empty = Window().Pages().findChild<QLabel*>("EmptyPage");
-  EXPECT_EQ(empty->text(), "This page does not exist in this version yet.");
-  ChooseLanguage(1, "Idioma");
-  ChooseLanguage(0, "Language");
-  EXPECT_TRUE(empty->text().contains("Esta")) << "it speaks the language chosen";
-  Window().GoTo("CTimer");
-  EXPECT_EQ(empty->text(), "");
-}
-
 TEST_F(WindowTools, NamesTheDeviceThatFailedWhateverIsChosenSince) {
   UseLanguage("en");
   AddLogger(sim::Model::BP);
