@@ -210,16 +210,15 @@ std::vector<Finding> ModbusNotKept(const Examined& file) {
 
 std::vector<Finding> SharedExpansionInputs(const Examined& file) {
   std::vector<Finding> found;
-  std::map<std::pair<int, int>, int> users;
   EachInput(file, [&](int number, const ConfModulo& input) {
     if (input.MODO == kModeOff) return;
-    const auto [first, isNew] = users.emplace(std::pair(input.DIR, input.ENTRADA), number);
-    if (!isNew)
-      found.push_back(AtField(ExpansionInputs::kFrame, number, "ENTRADA",
-                              {"module address %1, input %2 is that of expansion input %3, too: "
-                               "give each its own",
-                               {std::to_string(input.DIR), std::to_string(input.ENTRADA),
-                                std::to_string(first->second)}}));
+    const int first = ExpansionInputs::OtherUser(file.Conf(), {input.DIR, input.ENTRADA}, number);
+    if (first >= 0 && first < number)
+      found.push_back(AtField(
+          ExpansionInputs::kFrame, number, "ENTRADA",
+          {"module address %1, input %2 is that of expansion input %3, too: "
+           "give each its own",
+           {std::to_string(input.DIR), std::to_string(input.ENTRADA), std::to_string(first)}}));
   });
   return found;
 }
