@@ -2,7 +2,7 @@
 
 namespace ostrel {
 
-Machine::Machine() : map_(PortMap::FromSettings(settings_)), serialPort_(loop, map_) {
+Machine::Machine() : devices_(MachineDevices(loop, settings_)), serialPort_(loop, *devices_) {
   ports_.AddRange(kFirstPort, kFirstSimulatedPort - 1, serialPort_);
 }
 

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "platform/Files.h"
+#include "platform/FilesContract.h"
 #include "platform/virtual/VirtualFiles.h"
 
 namespace ostrel {
@@ -87,6 +88,13 @@ TEST(VirtualFilesTest, FailsTheChangeAskedForAndTellsWhy) {
   files.links["/loop"] = "/loop";
   EXPECT_FALSE(files.Exists("/loop"));
 }
+
+/// A folder of the file system in memory.
+struct VirtualRoom {
+  std::string Path(const std::string& name) const { return "/room/" + name; }
+  VirtualFiles files;
+};
+INSTANTIATE_TYPED_TEST_SUITE_P(Virtual, FilesContract, VirtualRoom);
 
 }  // namespace
 }  // namespace ostrel

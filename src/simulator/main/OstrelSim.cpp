@@ -7,9 +7,9 @@
 
 #include "host/SignalPipe.h"
 #include "host/SimulatedLoggers.h"
-#include "platform/qt/PseudoTerminal.h"
+#include "host/System.h"
+#include "platform/posix/PseudoTerminal.h"
 #include "platform/qt/QtClock.h"
-#include "platform/qt/QtFiles.h"
 #include "simulator/SimOptions.h"
 
 namespace {
@@ -66,7 +66,7 @@ class StateFile {
   }
 
  private:
-  QtFiles files_;
+  SystemFiles files_;
   sim::Logger& logger_;
   std::string path_;
 };

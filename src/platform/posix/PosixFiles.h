@@ -9,7 +9,7 @@
 namespace ostrel {
 
 /// The file system of the machine.
-class QtFiles final : public Files {
+class PosixFiles final : public Files {
  public:
   FileResult ReadInto(const std::string& path, std::string& octets) override;
   bool Exists(const std::string& path) override;

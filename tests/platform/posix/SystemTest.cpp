@@ -9,8 +9,9 @@
 #include <string>
 #include <vector>
 
-#include "platform/qt/PortMap.h"
-#include "platform/qt/QtFiles.h"
+#include "platform/FilesContract.h"
+#include "platform/posix/PortMap.h"
+#include "platform/posix/PosixFiles.h"
 #include "platform/qt/QtProcesses.h"
 #include "platform/qt/QtSettings.h"
 
@@ -33,7 +34,7 @@ class SystemTest : public testing::Test {
   }
 
   QTemporaryDir folder;
-  QtFiles files;
+  PosixFiles files;
 };
 
 TEST_F(SystemTest, SavesThroughALinkWhatIsItsOwnersAlone) {
@@ -196,6 +197,16 @@ TEST_F(SystemTest, ExplorerShowsDocumentsThatExist) {
   EXPECT_FALSE(processes.Start(""));
   EXPECT_THAT(opened, ElementsAre(Path("my html/Gene_ES.htm")));
 }
+
+/// A folder of its own on the disk.
+struct DiskRoom {
+  std::string Path(const std::string& name) const {
+    return folder.path().toStdString() + "/" + name;
+  }
+  QTemporaryDir folder;
+  PosixFiles files;
+};
+INSTANTIATE_TYPED_TEST_SUITE_P(Posix, FilesContract, DiskRoom);
 
 }  // namespace
 }  // namespace ostrel

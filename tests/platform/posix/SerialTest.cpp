@@ -9,9 +9,10 @@
 #include <string>
 #include <vector>
 
-#include "platform/qt/PortMap.h"
-#include "platform/qt/PseudoTerminal.h"
-#include "platform/qt/QtSerialPort.h"
+#include "platform/DevicePort.h"
+#include "platform/posix/PortMap.h"
+#include "platform/posix/PosixSerialDevices.h"
+#include "platform/posix/PseudoTerminal.h"
 #include "platform/virtual/VirtualLoop.h"
 
 namespace ostrel {
@@ -47,7 +48,7 @@ class SerialTest : public testing::Test {
           return made;
         },
         paced);
-    map = PortMap({{200, terminal->SlavePath()}});
+    devices.Map() = PortMap({{200, terminal->SlavePath()}});
     port.SetCommPort(200);
     port.SetSettings("9600,N,8,1");
     port.SetInBufferSize(8192);
@@ -63,10 +64,10 @@ class SerialTest : public testing::Test {
   }
 
   QtEventLoop loop;
-  PortMap map;
   std::unique_ptr<PseudoTerminal> terminal;
   AnsweringDevice* device = nullptr;
-  QtSerialPort port{loop, map};
+  PosixSerialDevices devices{loop, PortMap()};
+  DevicePort port{loop, devices};
 };
 
 TEST_F(SerialTest, RoundTripsOfAllOctetsThroughRepeatedOpenings) {
@@ -237,7 +238,7 @@ TEST_F(SerialTest, PacedTerminalKeepsLineSpeedBothWays) {
 
 TEST_F(SerialTest, ProbeAndOpenTellFaults) {
   Start(false);
-  QtSerialPort other(loop, map);
+  DevicePort other(loop, devices);
   other.SetCommPort(200);
   EXPECT_EQ(port.Probe(200), PortFault::None);
   ASSERT_EQ(port.SetPortOpen(true), PortFault::None);
