@@ -22,8 +22,7 @@ constexpr std::size_t kEntriesShown = 2000;
 QString WordIn(std::string_view word) { return Words::tr(std::string(word).c_str()); }
 
 QString ResultOf(Ledger& books, const LedgerEntry& entry) {
-  const bool isCutOff = entry.state == LedgerState::UnderWay && !books.IsRunning(entry);
-  return isCutOff ? Words::tr("cut off") : WordIn(WordOf(entry.state));
+  return books.IsCutOff(entry) ? Words::tr("cut off") : WordIn(WordOf(entry.state));
 }
 
 QString MatterOf(const LedgerEntry& entry) {

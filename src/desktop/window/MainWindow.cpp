@@ -301,7 +301,10 @@ void MainWindow::Look() {
   ShowTitle();
   overview_.Look();
   if (timersSeen_ != unsaved_.Touches()) ShowTimers();
-  if (comparing_ && !configurator_.session.OwnsModel()) comparing_->Look();
+  if (comparing_ && comparingSeen_ != unsaved_.Touches() && !configurator_.session.OwnsModel()) {
+    comparingSeen_ = unsaved_.Touches();
+    comparing_->Look();
+  }
   live_.Look(shownFile_);
   OfferWayOut();
 }
@@ -314,7 +317,7 @@ void MainWindow::ShowTitle() {
   if (windowTitle() != title) setWindowTitle(title);
   if (isWindowModified() != unsaved_.Changed()) setWindowModified(unsaved_.Changed());
   if (isWindowModified()) ForgetSuccess();
-  ShowUndo();
+  if (undoSeen_ != unsaved_.Touches()) ShowUndo();
 }
 
 std::optional<ModelConfiguration> MainWindow::ReadFile(const std::string& path) const {
