@@ -1,71 +1,13 @@
 #include "host/TraceFile.h"
 
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
-
-#include <array>
-#include <cerrno>
-#include <streambuf>
 #include <string_view>
-#include <system_error>
 
+#include "platform/GrowingFile.h"
 #include "recording/Recording.h"
 #include "tools/LiveRecording.h"
 
 namespace ostrel {
 namespace {
-
-constexpr mode_t kOwnFile = 0600;
-constexpr mode_t kAnyFile = 0666;  // less what the user's mask takes
-/// Non-blocking: a pipe that nobody reads holds nothing up.
-constexpr int kFlags = O_CREAT | O_NONBLOCK | O_NOCTTY | O_CLOEXEC;
-
-/// Writes to an open file at once, and closes it at its end.
-class DescriptorBuffer final : public std::streambuf {
- public:
-  explicit DescriptorBuffer(int descriptor) : descriptor_(descriptor) {}
-  ~DescriptorBuffer() override { ::close(descriptor_); }
-  DescriptorBuffer(const DescriptorBuffer&) = delete;
-  DescriptorBuffer& operator=(const DescriptorBuffer&) = delete;
-
- protected:
-  int_type overflow(int_type c) override {
-    if (traits_type::eq_int_type(c, traits_type::eof())) return traits_type::not_eof(c);
-    const char octet = traits_type::to_char_type(c);
-    return xsputn(&octet, 1) == 1 ? c : traits_type::eof();
-  }
-  std::streamsize xsputn(const char* octets, std::streamsize count) override {
-    std::streamsize done = 0;
-    while (done < count) {
-      const ssize_t written =
-          ::write(descriptor_, octets + done, static_cast<std::size_t>(count - done));
-      if (written < 0 && errno != EINTR) break;
-      if (written > 0) done += written;
-    }
-    return done;
-  }
-
- private:
-  int descriptor_;
-};
-
-class DescriptorStream final : public std::ostream {
- public:
-  explicit DescriptorStream(int descriptor) : std::ostream(nullptr), buffer_(descriptor) {
-    rdbuf(&buffer_);
-  }
-
- private:
-  DescriptorBuffer buffer_;
-};
-
-/// A kind of file that grows while a program runs.
-struct GrowingKind {
-  bool (*isFirstLine)(std::string_view line);  ///< how a former one begins
-  const char* name;
-  mode_t mode;  ///< of a new one
-};
 
 /// Each line of a trace says early which way it went.
 constexpr GrowingKind kTrace{
@@ -74,69 +16,29 @@ constexpr GrowingKind kTrace{
         if (line.find(word) != std::string_view::npos) return true;
       return false;
     },
-    "a trace", kOwnFile};
+    "a trace", true};
 constexpr GrowingKind kRecording{
-    [](std::string_view line) { return line.starts_with(kRecordingHead); }, "a recording",
-    kAnyFile};
+    [](std::string_view line) { return line.starts_with(kRecordingHead); }, "a recording", false};
 
 constexpr GrowingKind kLineRecording{
-    [](std::string_view line) { return line == kLineRecordingHead; }, "a recording", kOwnFile};
-
-/// Whether a file is empty or begins as one of its kind does.
-bool HoldsNothingElse(int descriptor, const GrowingKind& kind) {
-  std::array<char, 256> start{};
-  const ssize_t got = ::pread(descriptor, start.data(), start.size(), 0);
-  const std::string_view text(start.data(), got > 0 ? static_cast<std::size_t>(got) : 0);
-  return text.empty() || kind.isFirstLine(text.substr(0, text.find('\n')));
-}
-
-std::string WordsOf(int error) {
-  if (error == ENXIO) return "no program reads the pipe";
-  return std::generic_category().message(error);
-}
-
-std::unique_ptr<std::ostream> Open(const std::string& path, const GrowingKind& kind,
-                                   std::string& why) {
-  struct stat state {};
-  const bool isPipe = ::stat(path.c_str(), &state) == 0 && !S_ISREG(state.st_mode);
-  const int descriptor = ::open(path.c_str(), (isPipe ? O_WRONLY : O_RDWR) | kFlags, kind.mode);
-  if (descriptor < 0) {
-    why = WordsOf(errno);
-    return nullptr;
-  }
-  auto stream = std::make_unique<DescriptorStream>(descriptor);
-  if (isPipe) return stream;
-  if (!HoldsNothingElse(descriptor, kind)) {
-    why = std::string("it holds something else than ") + kind.name;
-    return nullptr;
-  }
-  const bool isProtected = kind.mode != kOwnFile || ::fchmod(descriptor, kOwnFile) == 0;
-  if (!isProtected || ::ftruncate(descriptor, 0) != 0) {
-    why = WordsOf(errno);
-    return nullptr;
-  }
-  return stream;
-}
+    [](std::string_view line) { return line == kLineRecordingHead; }, "a recording", true};
 
 }  // namespace
 
 std::unique_ptr<std::ostream> OpenTrace(const std::string& path, std::string& why) {
-  return Open(path, kTrace, why);
+  return OpenGrowing(path, kTrace, why);
 }
 
 std::unique_ptr<std::ostream> OpenLog(const std::string& path, std::string& why) {
-  const int descriptor = ::open(path.c_str(), O_WRONLY | O_APPEND | kFlags, kOwnFile);
-  if (descriptor >= 0) return std::make_unique<DescriptorStream>(descriptor);
-  why = WordsOf(errno);
-  return nullptr;
+  return OpenToAppend(path, why);
 }
 
 std::unique_ptr<std::ostream> OpenRecording(const std::string& path, std::string& why) {
-  return Open(path, kRecording, why);
+  return OpenGrowing(path, kRecording, why);
 }
 
 std::unique_ptr<std::ostream> OpenLineRecording(const std::string& path, std::string& why) {
-  return Open(path, kLineRecording, why);
+  return OpenGrowing(path, kLineRecording, why);
 }
 
 }  // namespace ostrel

@@ -39,7 +39,10 @@ PortFault DevicePort::Open() {
                                          .lost = [this] { Lose(); },
                                          .lineMoved = [this] { SeeLines(); }},
                                         device_);
-  if (fault != PortFault::None) return fault;
+  if (fault != PortFault::None) {
+    Close();  // the device may have gone in between
+    return fault;
+  }
   open_ = true;
   lost_ = false;
   readAt_ = loop_.Now();

@@ -1,14 +1,15 @@
-#include "cli/Terminal.h"
-
 #include <termios.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <iostream>
 #include <system_error>
 
-namespace ostrel::cli {
+#include "platform/Console.h"
+
+namespace ostrel {
 namespace {
 
 /// Keeps the terminal from showing what is typed.
@@ -52,10 +53,18 @@ FileResult ReadDescriptor(int descriptor, bool lineOnly, std::string& octets) {
     octets.append(block.data(), static_cast<std::size_t>(got));
   }
   octets.clear();
-  return {"it is larger than 16 MB"};
+  return TooLarge(kMostFileOctets);
 }
 
-bool HasOperator() { return isatty(STDIN_FILENO) == 1 && isatty(STDERR_FILENO) == 1; }
+void PrepareConsole() {}
+
+std::vector<std::string> ArgumentsOf(int argc, char** argv) {
+  return {argv + std::min(argc, 1), argv + argc};
+}
+
+bool OutIsTerminal() { return isatty(STDOUT_FILENO) == 1; }
+bool ErrIsTerminal() { return isatty(STDERR_FILENO) == 1; }
+bool HasOperator() { return isatty(STDIN_FILENO) == 1 && ErrIsTerminal(); }
 
 std::optional<std::string> AskOnTerminal(std::string_view prompt, bool echo) {
   std::cerr << prompt << std::flush;
@@ -67,4 +76,4 @@ std::optional<std::string> AskOnTerminal(std::string_view prompt, bool echo) {
   return line;
 }
 
-}  // namespace ostrel::cli
+}  // namespace ostrel
