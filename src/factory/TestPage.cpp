@@ -37,7 +37,7 @@ TestPage::TestPage(TestPageContext context, const TestPlan& plan)
     Picture1.emplace(form_, "Picture1");
   }
   ProgressBar1.SetMaximum(kStrongestSignal);
-  Command1.OnClick = [this] { RunTest(); };
+  Command1.OnClick = [this] { Start(); };
   CommandStop.OnClick = [this] { Stop(); };
   Command2.OnClick = [this] { context_.IniCom_Click(); };
   Timer1.OnTimer = [this] { Tick(); };
@@ -55,17 +55,24 @@ void TestPage::Form_Activate() {
 }
 
 void TestPage::Tick() {
-  Command1.face.SetEnabled(context_.Connected && !Running());
+  Command1.face.SetEnabled(MayRun());
   if (!context_.Connected) return;
   DigitVin.face.SetCaption(DecText(context_.bench.info.BatteryVoltage));
   if (&plan_ != &kTestKA2) DigitSerial.face.SetCaption(context_.bench.info.SerialNumber);
 }
 
 void TestPage::ShowRunning(bool runs) {
-  Command1.face.SetEnabled(context_.Connected && !runs);
+  Command1.face.SetEnabled(!runs && MayRun());
   CommandStop.face.SetEnabled(runs);
   for (Face* face : {&TextOperator.face, &TextStation.face}) face->SetEnabled(!runs);
   if (Check1) Check1->face.SetEnabled(!runs);
+}
+
+void TestPage::Start() {
+  Comms& comms = context_.bench.comms;
+  comms.Reading().WhenFree([this, &comms] {
+    if (MayRun() && !comms.LinkBusy) RunTest();
+  });
 }
 
 void TestPage::RunTest() {
@@ -132,9 +139,6 @@ bool TestPage::AskAgain(const std::string& text) {
          BoxAnswer::Yes;
 }
 
-void TestPage::CloseSession() {
-  context_.lendSession(false);
-  if (context_.Connected) context_.IniCom_Click();
-}
+void TestPage::CloseSession() { context_.closeLent(); }
 
 }  // namespace ostrel

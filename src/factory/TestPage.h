@@ -18,7 +18,9 @@ struct TestPageContext {
   const bool& Connected;
   Station usual;                            ///< where none is stored
   std::function<void()> IniCom_Click;       ///< opens or closes the session at its next tick
+  std::function<bool()> mayLend{};          ///< whether nothing else uses the session
   std::function<void(bool)> lendSession{};  ///< nothing else may use it while it is lent
+  std::function<void()> closeLent{};        ///< closes it at its next tick, while it is lent
 };
 
 /// The page of one test. Its texts stand as they are in every language. The run happens within the
@@ -47,6 +49,9 @@ class TestPage final : public FrontForm, private TestPanel {
   void CloseSession() override;
 
   void Tick();
+  /// Begins behind a reading that is under way: all of the line's time is the run's.
+  void Start();
+  bool MayRun() const { return context_.Connected && !Running() && context_.mayLend(); }
   void RunTest();
   void ShowFirstFailed();
   void ShowRunning(bool runs);

@@ -50,7 +50,9 @@ void MainWindow::MakeToolBar() {
   channels_ = AddAction(Sign::Channels, {}, {});
   AddMenu(channels_, [this](QMenu& menu) { FillChannels(menu); });
   schedule_ = AddAction(Sign::Schedule, {}, [this] { ShowSchedule(); });
-  report_ = AddAction(Sign::Report, {}, [this] { SaveReport(); });
+  report_ = AddAction(Sign::Report, {}, [this] {
+    configurator_.comms.Reading().WhenFree([this] { SaveReport(); });
+  });
   doctor_ = AddAction(Sign::Doctor, {}, [this] { ShowDoctor(); });
   liveTools_ = AddAction(Sign::Live, {}, {});
   auto* liveMenu = new QMenu(this);
