@@ -3352,5 +3352,17 @@
         <comment>the state of the link</comment>
         <translation>Sesión abierta</translation>
     </message>
+    <message>
+        <source>More</source>
+        <translation>Más</translation>
+    </message>
+    <message>
+        <source>Tools that are wanted now and then</source>
+        <translation>Herramientas de uso menos frecuente</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Idioma</translation>
+    </message>
 </context>
 </TS>
