@@ -27,6 +27,7 @@ const TestRecord& TestRun::Run() {
              .startedAt = bench_.platform.clock.LocalNow(),
              .operatorName = choice_.station.operatorName,
              .station = choice_.station.name};
+  bench_.book.Begins(record_);
   HoldLine();
   plan_.steps(*this);
   End();
@@ -171,6 +172,7 @@ void TestRun::End() {
   hold_.reset();
   record_.verdict = Verdict();
   Keep();
+  bench_.book.Ends(record_);
   panel_.CloseSession();
   if (GoesOn() && !plan_.lastRequest.empty()) panel_.Request(std::string(plan_.lastRequest));
   panel_.ShowStep(record_.verdict == TestVerdict::Passed ? "Control de calidad superado con exito"

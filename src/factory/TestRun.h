@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "factory/Station.h"
+#include "factory/TestBook.h"
 #include "factory/TestPanel.h"
 #include "factory/TestPlan.h"
 #include "factory/TestRecord.h"
@@ -22,6 +23,7 @@ struct TestBench {
   Comms& comms;
   const DeviceInfo& info;
   const TargetProfile& profile;
+  TestBook& book;
 };
 
 /// What is chosen for one run.

@@ -60,6 +60,13 @@ TEST_F(FactoryTest, WhatIsNotPassedEndsWithOne) {
   EXPECT_EQ(world.Run("test bq --skip-keys --quiet --port sim:BQ"), 1);
   EXPECT_THAT(world.err, HasSubstr("Error, PIN bloqueado"));
   EXPECT_THAT(world.out, HasSubstr("not 0, 2..8   FAILED"));
+  EXPECT_EQ(world.Run("history --serial 2603020001"), 0);
+  EXPECT_THAT(world.out, HasSubstr("test run      failed    Tavro BQ 2603020001  bq, root, bench: "
+                                   "Error, PIN bloqueado\n"));
+  EXPECT_EQ(world.Run("history show 2"), 0);
+  EXPECT_THAT(world.out, HasSubstr("detail        bq, root, bench\n"
+                                   "              new number 2603020001\n"
+                                   "              VBat = "));
 }
 
 TEST_F(FactoryTest, WhatBreaksOffEndsWithFourAndIsRecorded) {

@@ -143,6 +143,65 @@ TEST(Records, ABoardWhoseRecordIsNotKeptHasNotPassed) {
   }
 }
 
+TEST(Records, RunsStandInTheLedger) {
+  struct Case {
+    void (*spoil)(TestStation& station);
+    LedgerState state;
+    const char* serial;
+    const char* detail;
+    const char* fault;
+  };
+  for (const auto& [spoil, state, serial, detail, fault] : std::initializer_list<Case>{
+           {[](TestStation&) {}, LedgerState::Done, "1203050001",
+            "bq, Ana, Puesto 1\nnew number 1203050001\nVBat = 7.21 (>= 5)\nGSM = 1 (not 0, 2..8)",
+            ""},
+           {[](TestStation& station) {
+              station.program->info.BatteryVoltage = 4.69F;
+              station.Fixture().gsm = {{Duration{}, 2}};
+              station.page->GetForm().Get<TextBox>("TextStation").Type("");
+            },
+            LedgerState::Failed, "1203050001",
+            "bq, Ana\nnew number 1203050001\nVBat = 4.69 (>= 5) FAILED\n"
+            "GSM = 2 (not 0, 2..8) FAILED",
+            "Tension de bateria demasiado baja; Error, PIN bloqueado"},
+           {[](TestStation& station) {
+              station.onStep = [&station](const std::string& text) {
+                if (text == "Comprobando GSM...") station.Press("CommandStop");
+              };
+            },
+            LedgerState::Failed, "0", "bq, Ana, Puesto 1\nVBat = 7.21 (>= 5)", "stopped"},
+           {[](TestStation& station) {
+              station.world.files.FailOperation(VirtualFiles::Change::Append, 1);
+              station.world.dialogs.Answer(BoxAnswer::No);
+            },
+            LedgerState::Failed, "1203050001",
+            "bq, Ana, Puesto 1\nnew number 1203050001\nVBat = 7.21 (>= 5)\n"
+            "GSM = 1 (not 0, 2..8)",
+            "its record was not kept"},
+           {[](TestStation& station) { station.world.logger->InFixture().Sleep(); },
+            LedgerState::Failed, "0", "bq, Ana, Puesto 1", "nothing was checked"}}) {
+    TestStation station(Board(sim::Model::BQ));
+    station.page->GetForm().Get<CheckBox>("Check1").SetChecked(true);
+    std::string first;
+    station.onSent = [&](const std::string& message) {
+      if (!first.empty()) return;
+      first = message;
+      EXPECT_EQ(station.world.ledger.entries.back().state, LedgerState::UnderWay);
+    };
+    station.sent.clear();
+    spoil(station);
+    station.Run();
+    EXPECT_EQ(first, "#41DISPOF");
+    const LedgerEntry& entry = station.world.ledger.entries.back();
+    EXPECT_EQ(entry.kind, LedgerKind::TestRun);
+    EXPECT_EQ(entry.state, state);
+    EXPECT_EQ(entry.serial, serial);
+    EXPECT_EQ(entry.detail, detail);
+    EXPECT_EQ(entry.fault, fault);
+    EXPECT_EQ(entry.session, station.world.ledger.entries.front().id);
+  }
+}
+
 /// How long a good board takes, without the operator; `--gtest_output=xml` tells it.
 TEST(TestTimes, AWholeRunStaysShort) {
   for (const auto& [model, most] : {std::pair{sim::Model::BP, std::chrono::seconds(36)},
