@@ -8,9 +8,9 @@
 #include "base/Printable.h"
 #include "host/SignalPipe.h"
 #include "host/SimulatedLoggers.h"
-#include "platform/qt/PseudoTerminal.h"
+#include "host/System.h"
+#include "platform/posix/PseudoTerminal.h"
 #include "platform/qt/QtClock.h"
-#include "platform/qt/QtFiles.h"
 #include "recording/Replay.h"
 #include "sim/FixtureText.h"
 #include "simulator/SimOptions.h"
@@ -69,7 +69,7 @@ class StateFile {
   }
 
  private:
-  QtFiles files_;
+  SystemFiles files_;
   sim::Logger& logger_;
   std::string path_;
 };
@@ -87,7 +87,7 @@ int Serve(QtEventLoop& loop, const std::string& path, const SimOptions& options)
 }
 
 int RunReplay(const SimOptions& options) {
-  QtFiles files;
+  SystemFiles files;
   std::string text, error;
   if (const FileResult read = files.ReadInto(options.replay, text); !read.Ok())
     return Fail(ExitCode::BadFile, "cannot read " + options.replay + ": " + read.error);

@@ -7,19 +7,19 @@
 #include <string>
 #include <vector>
 
-#include "platform/qt/QtFiles.h"
+#include "platform/posix/PosixFiles.h"
 
 namespace ostrel {
 namespace {
 
 /// Several programs that raise one counter get a number each. Each reads, dawdles and writes: only
 /// the lock keeps them apart.
-TEST(QtFilesLock, ProgramsTakeTurns) {
+TEST(FileLock, ProgramsTakeTurns) {
   constexpr int kPrograms = 4, kTurns = 25;
   const QTemporaryDir folder;
   const std::string counter = folder.filePath("counter").toStdString();
   const std::string taken = folder.filePath("taken").toStdString();
-  QtFiles files;
+  PosixFiles files;
   ASSERT_TRUE(files.Create(counter).Ok());
   ASSERT_TRUE(files.Write(counter, "0").Ok());
   std::vector<pid_t> programs;
@@ -58,8 +58,8 @@ TEST(QtFilesLock, ProgramsTakeTurns) {
   EXPECT_EQ(files.Read(counter), std::to_string(kPrograms * kTurns));
 }
 
-TEST(QtFilesLock, WhatCannotBeLockedIsNotDone) {
-  QtFiles files;
+TEST(FileLock, WhatCannotBeLockedIsNotDone) {
+  PosixFiles files;
   bool ran = false;
   EXPECT_FALSE(files.WhileLocked("/nowhere/lock", [&] { ran = true; }).Ok());
   EXPECT_FALSE(ran);
