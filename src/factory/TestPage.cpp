@@ -35,6 +35,7 @@ TestPage::TestPage(TestPageContext context, const TestPlan& plan)
   if (&plan == &kTest) {
     Label2.emplace(form_, "Label2", "Posicion jumper para prueba:");
     Picture1.emplace(form_, "Picture1");
+    Picture1->face.SetVisible(false);
   }
   ProgressBar1.SetMaximum(kStrongestSignal);
   Command1.OnClick = [this] { Start(); };
@@ -50,8 +51,20 @@ void TestPage::Form_Activate() {
     TextOperator.SetText(station.operatorName);
     TextStation.SetText(station.name);
   }
+  if (Picture1) {
+    // The station's own picture of its fixture: any other would tell the operator what is not so.
+    const std::string path = context_.usual.folder + "/jumper.png";
+    const bool hasPicture = context_.bench.platform.files.Exists(path);
+    Picture1->SetFile(hasPicture ? path : "");
+    Picture1->face.SetVisible(hasPicture);
+  }
   Tick();
   Timer1.SetEnabled(true);
+}
+
+void TestPage::Form_Deactivate() {
+  Timer1.SetEnabled(false);
+  StoreStation(context_.bench.platform.settings, {TextOperator.Text(), TextStation.Text(), ""});
 }
 
 void TestPage::Tick() {
@@ -85,7 +98,7 @@ void TestPage::RunTest() {
   Values.Clear();
   LabelTest.face.SetColour(BackColour::Window);
   TestPanel& panel = *this;
-  run_.emplace(context_.bench, plan_, choice, panel);
+  run_.emplace(context_.bench, plan_, choice, panel, frame_);
   ShowRunning(true);
   context_.lendSession(true);
   const AtEnd ended([this] {
@@ -116,8 +129,8 @@ void TestPage::ShowStep(std::string_view text) { LabelTest.face.SetCaption(text)
 
 /// The columns of a row stand between tabs; its value tells whether it has passed.
 void TestPage::ShowMeasured(const Measurement& measured) {
-  Values.Add(measured.name + "\t" + measured.Text() + "\t" + measured.band.Text(),
-             measured.passed ? 1 : 0);
+  const std::string read = measured.value ? measured.Text() : "sin lectura";
+  Values.Add(measured.name + "\t" + read + "\t" + measured.band.Text(), measured.passed ? 1 : 0);
   Values.SetPosition(static_cast<int>(Values.Rows().size()) - 1);
 }
 

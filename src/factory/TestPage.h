@@ -32,7 +32,7 @@ class TestPage final : public FrontForm, private TestPanel {
   Form& GetForm() override { return form_; }
   void LoadText() override {}
   void Form_Activate() override;
-  void Form_Deactivate() override { Timer1.SetEnabled(false); }
+  void Form_Deactivate() override;
 
   bool Running() const { return run_.has_value(); }
   /// Ends the run.
@@ -73,6 +73,7 @@ class TestPage final : public FrontForm, private TestPanel {
   std::optional<Label> Label2;  ///< where the jumper of the fixture stands, with its picture
   std::optional<Picture> Picture1;
   std::optional<CheckBox> Check1;  ///< the keys are not tested
+  TestFrame frame_;                ///< the last reading of a board
   std::optional<TestRun> run_;
 };
 

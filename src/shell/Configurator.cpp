@@ -159,9 +159,12 @@ void Configurator::ConnectPages() {
   context.whenFree = [this](std::function<void()> action) {
     comms.Reading().WhenFree(std::move(action));
   };
-  // A test run has the session; the terminal shows what arrives by itself, which a round would
-  // take; an update must not find the line taken.
-  livePoll.Rests = [this] { return session.IsLent() || terminal.IsInFront() || firm.IsInFront(); };
+  // A test run has the session, up to its end; the terminal shows what arrives by itself, which a
+  // round would take; an update must not find the line taken.
+  livePoll.Rests = [this] {
+    return session.IsLent() || general.Session().IniRequest || terminal.IsInFront() ||
+           firm.IsInFront();
+  };
   context.showActEdit = [this](std::string_view subject) { actEdit.ShowModal(subject); };
   context.showTotal = setsTotal(setTotal, nullptr);
   context.showExpansionTotal = setsTotal(expSetTotal, [this] {

@@ -181,5 +181,47 @@ TEST(BQBoard, AClosedPortEndsTheWaitForAKey) {
   EXPECT_FALSE(station.program->Connected) << "and is not opened anew";
 }
 
+// ---- The line
+
+/// Live values are read for a plot, say. The click falls into a round, and the operator takes his
+/// time at each request.
+TEST(TestPages, ARunHasTheLineToItself) {
+  TestStation station(Board(sim::Model::KA2, "-1"));
+  station.world.port.SetPaced(true);
+  const auto going = station.program->livePoll.KeepGoing();
+  bool isClicked = false;
+  station.onSent = [&](const std::string& message) {
+    if (message != "#22" || std::exchange(isClicked, true)) return;
+    station.sent.clear();
+    station.world.loop.After(std::chrono::milliseconds(1), "a click",
+                             [&] { station.Press("Command1"); });
+  };
+  station.world.dialogs.whileShown = [&](const MessageBox&) {
+    EXPECT_FALSE(station.program->comms.LinkBusy);
+    station.world.loop.RunFor(std::chrono::seconds(3));
+  };
+  station.world.loop.RunFor(std::chrono::seconds(60));
+  EXPECT_EQ(station.Status(), kPassedText);
+  EXPECT_FALSE(station.program->Connected);
+  EXPECT_THAT(station.sent, testing::Each(testing::Not(testing::AnyOf("#20", "#22", "#23"))));
+}
+
+TEST(TestPages, WhatWasNotReadIsNotRecorded) {
+  TestStation station(Board(sim::Model::KA2));
+  station.Run();
+  EXPECT_TRUE(station.program->session.Open(SimWorld::kPort, ""));
+  station.world.loop.RunFor(std::chrono::seconds(2));
+  station.onSent = [&](const std::string& message) {
+    if (message == kKA2Rest) station.world.logger->InFixture().Sleep();
+  };
+  station.Run();
+  const auto record = station.LastRecord("ka2");
+  EXPECT_EQ(record.at("Carga sube"), "");
+  EXPECT_EQ(record.at("Carga sube band"), "> 4.18");
+  EXPECT_THAT(station.Boxes(), testing::Contains("Error en circuito de carga, la tension no baja"))
+      << "judged by the last reading of the run before";
+  EXPECT_EQ(station.Status(), kFailedText);
+}
+
 }  // namespace
 }  // namespace ostrel

@@ -110,7 +110,7 @@ int RunReplay(const SimOptions& options) {
 /// Exit code of having read the file of the fixture; says what is wrong with it.
 int TakeFixture(SimOptions& options) {
   if (options.fixture.empty()) return 0;
-  QtFiles files;
+  SystemFiles files;
   std::string text;
   if (const FileResult read = files.ReadInto(options.fixture, text); !read.Ok())
     return Fail(ExitCode::BadFile, "cannot read " + options.fixture + ": " + read.error);
