@@ -122,7 +122,7 @@ TEST_F(EndToEnd, ABadBoardStandsInTheFixture) {
   Simulator simulator({"--model", "BQ", "--fixture", Path("board")});
   EXPECT_EQ(Run("ostrelctl", "--yes test bq --skip-keys --port " + simulator.path), 1)
       << Read("err");
-  EXPECT_THAT(Read("out"), HasSubstr("4.2         >= 5          FAILED"));
+  EXPECT_THAT(Read("out"), HasSubstr("4.2          >= 5           FAILED"));
   EXPECT_EQ(Run("ostrel-sim", "--model KA2 --fixture " + Path("board")), 5);
   EXPECT_THAT(Read("err"), HasSubstr("board: line 1: \"keys\" is for BQ, not for KA2"));
 }
