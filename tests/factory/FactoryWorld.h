@@ -106,4 +106,12 @@ inline std::map<std::string, std::string> TestStation::LastRecord(const std::str
   return record;
 }
 
+/// What a good board is sent: a fault at one place changes nothing of it.
+inline Texts OrdersOfAGoodBoard(const sim::LoggerOptions& board) {
+  TestStation station(board);
+  station.Run();
+  EXPECT_EQ(station.Status(), kPassedText);
+  return station.Orders();
+}
+
 }  // namespace ostrel
