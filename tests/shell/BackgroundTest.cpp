@@ -12,7 +12,8 @@ using std::chrono::seconds;
 /// A program with a session, in which live rounds go on without a pause, as with a plot.
 class UnderRounds : public testing::Test {
  protected:
-  UnderRounds() {
+  explicit UnderRounds(sim::Model model = sim::Model::VR200)
+      : world(sim::MakeDefaultOptions(model)) {
     world.Stored("Idioma") = "1";
     world.Stored("ComPort") = "7";
     world.Stored("Target") = world.TargetName();
@@ -21,18 +22,18 @@ class UnderRounds : public testing::Test {
     program.Start("");
     navigation.NodeClick("General");
     Session().IniCom.Click();
-    world.loop.RunFor(seconds(15));
+    world.loop.RunFor(milliseconds(15'300));
     going = program.livePoll.KeepGoing();
     world.loop.RunFor(seconds(2));
     world.logger->OnExchange([this](const sim::Exchange& e) { requests.push_back(e.request); });
   }
   SessionFrame& Session() { return program.general.Session(); }
-  /// Does something within the next round, behind its first answer.
-  void WithinARound(const std::function<void()>& act) {
+  /// Does something within the next round, behind the answer to a request.
+  void WithinARound(const std::function<void()>& act, std::string_view request = "#22") {
     bool done = false;
     world.logger->OnExchange([&](const sim::Exchange& e) {
       requests.push_back(e.request);
-      if (done || e.request != "#22") return;
+      if (done || e.request != request) return;
       done = true;
       requests.clear();
       world.loop.After(milliseconds(1), "an operator", [&] {
@@ -57,18 +58,27 @@ class UnderRounds : public testing::Test {
     return found == requests.end() ? -1 : found - requests.begin();
   }
 
-  SimWorld world{sim::MakeDefaultOptions(sim::Model::VR200)};
+  SimWorld world;
   Configurator program{world.platform, world.Options(true)};
   Navigation navigation{program};
   std::shared_ptr<const void> going;
   std::vector<std::string> requests;
 };
 
-TEST_F(UnderRounds, WhatTheSessionIsAskedForComesBehindTheRound) {
-  WithinARound([this] { Session().Leer.Click(); });
+/// A round of this model takes more than half a second, so that each covers a whole one: all ticks
+/// of the session fall into them.
+class UnderEndlessRounds : public UnderRounds {
+ protected:
+  UnderEndlessRounds() : UnderRounds(sim::Model::BP) {}
+};
+
+TEST_F(UnderEndlessRounds, WhatTheSessionIsAskedForComesBehindTheRound) {
+  requests.clear();
+  world.loop.RunFor(seconds(30));
+  EXPECT_GT(std::ranges::count(requests, "#44"), 20) << "the information keeps refreshing";
+  WithinARound([this] { Session().Leer.Click(); }, "#20");
   world.loop.RunFor(seconds(60));
   EXPECT_EQ(Session().ComStat.face.Caption(), "Configuracion descargada con exito");
-  EXPECT_GT(std::ranges::count(requests, "#44"), 20) << "the information keeps refreshing";
   WithinARound([this] { Session().IniCom.Click(); });
   EXPECT_FALSE(program.Connected);
 }
