@@ -5,6 +5,7 @@
 #include "base/Numbers.h"
 #include "base/Scope.h"
 #include "platform/Dialogs.h"
+#include "platform/Files.h"
 
 namespace ostrel {
 

@@ -1,6 +1,7 @@
 #include "sim/FixtureText.h"
 
 #include <algorithm>
+#include <charconv>
 #include <cmath>
 #include <set>
 #include <span>
