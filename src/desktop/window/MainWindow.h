@@ -293,6 +293,8 @@ class MainWindow final : public QMainWindow {
   std::optional<ChannelPiece> piece_;  ///< what was copied last
   QString pieceName_;                  ///< "alarm 1 of digital input 3"
   unsigned timersSeen_ = 0;            ///< the touch after which the timers were shown
+  unsigned undoSeen_ = 0;              ///< the touch after which undoing was shown
+  unsigned comparingSeen_ = 0;         ///< the touch after which the pages were compared
   bool readsBeside_ = false;           ///< the reading asked for is to leave the pages alone
   bool isBeside_ = false;              ///< such a reading runs
   QPointer<CompareWindow> comparing_;  ///< while it stands

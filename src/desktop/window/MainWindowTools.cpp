@@ -80,7 +80,8 @@ void MainWindow::MakeRarerTools() {
   menu->setToolTipsVisible(true);
   SetMenu(more_, menu);
   schedule_ = AddAction(*menu, Sign::Schedule, {}, [this] { ShowSchedule(); });
-  report_ = AddAction(*menu, Sign::Report, {}, [this] { SaveReport(); });
+  report_ = AddAction(*menu, Sign::Report, {},
+                      [this] { configurator_.comms.Reading().WhenFree([this] { SaveReport(); }); });
   history_ = AddAction(*menu, Sign::History, QKeySequence("Ctrl+H"), [this] { ShowHistory(); });
   safetyCopies_ = AddAction(*menu, Sign::Copies, {}, {});
   AddMenu(safetyCopies_, [this](QMenu& copies) { FillCopies(copies); });
