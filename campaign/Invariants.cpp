@@ -29,8 +29,10 @@ constexpr std::array<std::pair<std::string_view, Claim>, 8> kOutcomes{{
     {"the logger's flash is erased and holds no firmware: leave it powered and connected, and "
      "start the update again with the same files",
      Claim::NoFirmware},
-    {"nothing of the image was sent: if the logger still answers, its firmware is as it was",
-     Claim::FirmwareAsBefore},
+    {"whether the logger has erased its firmware is not known: if it tells of itself in a new "
+     "session, "
+     "it has not; else start the update again with the same files",
+     Claim::FirmwareDoubtful},
 }};
 
 constexpr int kInformation = 3;  ///< messages that asking for the information counts as

@@ -19,7 +19,7 @@ enum class Claim {
   TakenOver,
   ListDoubtful,
   NoFirmware,
-  FirmwareAsBefore
+  FirmwareDoubtful
 };
 
 /// What a fault's outcome claims; nothing for words that are not known here.

@@ -51,36 +51,36 @@ class Session {
   bool Open();
   void Edit();
   void TypeOddText();
+  bool IsAsHeld(const DeviceConf& read) const;
   bool Read();
   void Write(bool guarded);
   WriteRoad Road(bool guarded);
   bool KeepCopy(const DeviceConf& held);
   void JudgeWriting(const WriteResult& result);
+  void Short(Step step, const std::function<LinkResult()>& dialogue,
+             const std::function<bool()>& isSo);
   void Live();
   void Clock();
   void Total();
   void Output();
   void VoiceWrite();
   void VoiceRead();
+  bool IsVoiceList(const ConfAutVoz& list) const;
   void Firmware();
   void Save();
   void Load();
 
   /// Checks what the words for a fault claim.
   void CheckWords(const SessionFault& fault);
-  /// The words for a shorter dialogue that failed.
-  void CheckWords(const LinkResult& result);
   void Expect(bool holds, const std::string& what);
   void Tell(const std::string& what) const;
   Receiver Logger() const {
     return {program_->profile, static_cast<std::int32_t>(Self().features)};
   }
   sim::Identity Self() const { return world_.logger->Self(); }
-  /// Whether both ends have known what the other one said: no forged line, no doubt of the
-  /// features.
+  /// Whether both ends could know what the other one said.
   bool IsClear() const;
 
-  std::uint64_t seed_;
   Tally& tally_;
   bool tells_;
   sim::Random random_;

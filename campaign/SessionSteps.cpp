@@ -55,15 +55,22 @@ void Session::TypeOddText() {
       **text = random_.Pick(kOddTexts);
 }
 
+/// Whether a configuration is what the logger held when the step began, or that cannot be known.
+bool Session::IsAsHeld(const DeviceConf& read) const {
+  const bool isKnown = program_->info.Features == Logger().features;
+  return !IsClear() || !isKnown || hasOddText_ || After(before_, Self(), read, Logger()) == before_;
+}
+
 bool Session::Read() {
+  // Emptying leaves some fields alone, so that only a reading into nothing is all the logger's.
+  const bool isIntoNothing = random_.Chance(0.6);
+  if (isIntoNothing) program_->conf = DeviceConf{};
   const DeviceConf shown = program_->conf;
   return Timed(Step::Read, [&] {
     const bool isDone = program_->session.Download();
     if (isDone) {
-      const bool isKnown = program_->info.Features == Logger().features;
-      if (IsClear() && isKnown && !hasOddText_)
-        Expect(After(before_, Self(), program_->conf, Logger()) == before_,
-               "what was read is not what the logger holds");
+      Expect(!isIntoNothing || IsAsHeld(program_->conf),
+             "what was read is not what the logger holds");
       return true;
     }
     Expect(program_->conf == shown, "a reading that failed has changed the pages");
@@ -89,8 +96,9 @@ bool Session::KeepCopy(const DeviceConf& held) {
   copies_.push_back({kept.path, ContentOf(world_.files, held, program_->profile)});
   const std::string beside = SafetyCopies::LinesBeside(kept.path);
   copies_.push_back({beside, world_.files.contents[beside]});
-  if (IsClear())
-    Expect(lines == LinesOf(before_, Self()), "a safety copy does not hold the logger's own lines");
+  Expect(!IsClear() || lines == LinesOf(before_, Self()),
+         "a safety copy does not hold the logger's own lines");
+  Expect(IsAsHeld(held), "a safety copy is not what the logger held");
   return true;
 }
 
@@ -109,7 +117,8 @@ void Session::Write(bool guarded) {
     want(result.sent);  // what the firmware can do may have become known meanwhile
     Expect(program_->conf == toSend, "the pages show another configuration than was to be written");
     JudgeWriting(result);
-    return result.IsAsSent() || writing_->wanted.empty();  // what no logger can take is refused
+    // What no logger can take is refused, or comes back as another text.
+    return result.IsAsSent() || writing_->wanted.empty() || hasOddText_;
   });
   if (!isKilled_) writing_.reset();
 }
@@ -121,7 +130,6 @@ void Session::JudgeWriting(const WriteResult& result) {
   if (!isOld && !isNew) ++tally_.mixes;
   Expect(isOld || isNew || !IsClear(), "the logger holds neither the former nor the new");
   if (isKilled_ || !IsClear()) return;
-  taken_.reset();
   switch (result.end) {
     case WriteEnd::NotRead:
       Expect(isOld, "it was written though it was not read ahead");
@@ -138,6 +146,7 @@ void Session::JudgeWriting(const WriteResult& result) {
     case WriteEnd::Written:
       break;
   }
+  taken_.reset();
   if (isNew) taken_ = held;
   const bool isSame = !result.verified || result.verified->isSame;
   Expect(isNew || !isSame, result.verified ? "written and verified, it says" : "written, it says");
@@ -145,87 +154,89 @@ void Session::JudgeWriting(const WriteResult& result) {
          "it says that the logger holds another one, which is not so");
 }
 
-void Session::Live() {
-  Timed(Step::Live, [&] {
-    const LinkResult names = program_->comms.ReadIOParameter();
-    const LinkResult values = program_->comms.ReadRealTime();
-    program_->comms.ReadTotalCount();
-    if (!values) CheckWords(values);
-    return names && values;
+/// A dialogue of a few messages, or with the voice-call list: where it says that it was done, so it
+/// must be.
+void Session::Short(Step step, const std::function<LinkResult()>& dialogue,
+                    const std::function<bool()>& isSo) {
+  Timed(step, [&] {
+    const LinkResult result = dialogue();
+    SessionFault fault = program_->session.FaultDuring(SessionPhase::Open);
+    fault.link = result.Fault();
+    fault.writingVoiceList = step == Step::VoiceWrite;
+    if (!result) CheckWords(fault);
+    Expect(!result || !IsClear() || isSo(), "what was done, it says, is not so");
+    return bool(result);
   });
 }
 
+void Session::Live() {
+  Short(
+      Step::Live,
+      [this] {
+        program_->comms.ReadIOParameter();
+        program_->comms.ReadTotalCount();
+        return program_->comms.ReadRealTime();
+      },
+      [] { return true; });
+}
+
 void Session::Clock() {
-  Timed(Step::Clock, [&] {
-    const DateTime asked = world_.clock.LocalNow();
-    const LinkResult result = program_->comms.WriteDeviceRTC();
-    if (!result) CheckWords(result);
-    const auto off =
-        std::abs(ToSeconds(world_.logger->Clock()) - ToSeconds(world_.clock.LocalNow()));
-    const auto took = ToSeconds(world_.clock.LocalNow()) - ToSeconds(asked);
-    Expect(!result || !IsClear() || off <= took + 1, "the clock is set, it says");
-    return bool(result);
-  });
+  const auto now = [this] { return ToSeconds(world_.clock.LocalNow()); };
+  const std::int64_t asked = now();
+  Short(
+      Step::Clock, [this] { return program_->comms.WriteDeviceRTC(); },
+      [&] { return std::abs(ToSeconds(world_.logger->Clock()) - now()) <= now() - asked + 1; });
 }
 
 void Session::Total() {
   const int index = random_.Between(0, Self().Traits().flows - 1);
   const int value = random_.Between(0, 1'000'000'000);
-  Timed(Step::Total, [&] {
-    const LinkResult result = program_->comms.SetTotalCNT(static_cast<std::int16_t>(index), value);
-    if (!result) CheckWords(result);
-    const int counted = world_.logger->Total(index) - value;
-    Expect(!result || !IsClear() || (counted >= 0 && counted < 1000), "the total is set, it says");
-    return bool(result);
-  });
+  Short(
+      Step::Total,
+      [&] { return program_->comms.SetTotalCNT(static_cast<std::int16_t>(index), value); },
+      [&] {
+        const int counted = world_.logger->Total(index) - value;
+        return counted >= 0 && counted < 1000;
+      });
 }
 
 void Session::Output() {
   if (Self().Traits().outputs == 0) return;
   const int index = random_.Between(0, Self().Traits().outputs - 1);
   const bool on = random_.Chance(0.5);
-  Timed(Step::Output, [&] {
-    const LinkResult result = program_->comms.SetSingleOutput(static_cast<std::int16_t>(index), on);
-    if (!result) CheckWords(result);
-    const bool isOn = (world_.logger->Outputs() >> index & 1U) != 0;
-    Expect(isOn == on || !faults_.kinds.empty(), "an output is not as it was set");
-    return bool(result);
-  });
+  const auto isSo = [&] {
+    // An output is switched without a look at the answer.
+    return ((world_.logger->Outputs() >> index & 1U) != 0) == on || !faults_.kinds.empty();
+  };
+  Short(
+      Step::Output,
+      [&] { return program_->comms.SetSingleOutput(static_cast<std::int16_t>(index), on); }, isSo);
 }
 
 void Session::VoiceWrite() {
   if (!sim::kVoiceBlock.stands(Self())) return;
-  ConfAutVoz list;
   std::vector<std::string> numbers;
   for (int count = DrawPlace(random_, 1, 60); count > 1; --count)
     numbers.push_back("6" + std::to_string(random_.Between(10'000'000, 99'999'999)));
+  ConfAutVoz list;
   SetNumbers(list, numbers);
   list.MACRO = static_cast<std::int16_t>(random_.Between(-1, 39));
-  Timed(Step::VoiceWrite, [&] {
-    const LinkResult result = program_->session.WriteVoiceList(list);
-    const sim::VoiceList& voice = world_.logger->Conf().voice;
-    if (result)
-      Expect((voice.numbers == numbers && voice.macro == list.MACRO) || !IsClear(),
-             "the voice-call list is written, it says");
-    else if (program_->session.State().failed)
-      CheckWords(*program_->session.State().failed);
-    return bool(result);
-  });
+  Short(
+      Step::VoiceWrite, [&] { return program_->session.WriteVoiceList(list); },
+      [&] { return IsVoiceList(list); });
 }
 
 void Session::VoiceRead() {
   if (!sim::kVoiceBlock.stands(Self())) return;
-  Timed(Step::VoiceRead, [&] {
-    ConfAutVoz list;
-    const LinkResult result = program_->session.ReadVoiceList(list);
-    const sim::VoiceList& voice = world_.logger->Conf().voice;
-    if (result)
-      Expect((NumbersOf(list) == voice.numbers && list.MACRO == voice.macro) || !IsClear(),
-             "the voice-call list that was read is not the logger's");
-    else if (program_->session.State().failed)
-      CheckWords(*program_->session.State().failed);
-    return bool(result);
-  });
+  ConfAutVoz list;
+  Short(
+      Step::VoiceRead, [&] { return program_->session.ReadVoiceList(list); },
+      [&] { return IsVoiceList(list); });
+}
+
+bool Session::IsVoiceList(const ConfAutVoz& list) const {
+  const sim::VoiceList& voice = world_.logger->Conf().voice;
+  return voice.numbers == NumbersOf(list) && voice.macro == list.MACRO;
 }
 
 void Session::Firmware() {
