@@ -3348,8 +3348,8 @@
         <translation>la flash del equipo está borrada y no contiene firmware: déjelo alimentado y conectado, y vuelva a iniciar la actualización con los mismos ficheros</translation>
     </message>
     <message>
-        <source>nothing of the image was sent: if the logger still answers, its firmware is as it was</source>
-        <translation>no se ha enviado nada de la imagen: si el equipo todavía responde, su firmware es el de antes</translation>
+        <source>whether the logger has erased its firmware is not known: if it tells of itself in a new session, it has not; else start the update again with the same files</source>
+        <translation>no se sabe si el equipo ha borrado su firmware: si en una nueva sesión da sus datos, no lo ha borrado; si no, vuelva a iniciar la actualización con los mismos ficheros</translation>
     </message>
     <message>
         <source>Band</source>
