@@ -141,6 +141,10 @@ class Ledger {
   virtual std::optional<std::string> Content(const std::string& hash) = 0;
   /// Whether the program that made an entry still runs: what it has under way goes on.
   virtual bool IsRunning(const LedgerEntry& entry) const = 0;
+  /// Whether the program that made an entry was ended in the midst of the work.
+  bool IsCutOff(const LedgerEntry& entry) const {
+    return entry.state == LedgerState::UnderWay && !IsRunning(entry);
+  }
 };
 
 }  // namespace ostrel

@@ -17,10 +17,6 @@ std::string NoDate(const std::string& text) {
   return ReadDateTime(text) ? std::string() : text + " is no date such as 2026-03-02";
 }
 
-bool IsCutOff(const Ledger& books, const LedgerEntry& entry) {
-  return entry.state == LedgerState::UnderWay && !books.IsRunning(entry);
-}
-
 ExitCode List(CommandContext& context, Ledger& books, const HistoryOptions& options) {
   const auto since = ReadDateTime(options.since);
   std::vector<LedgerEntry> entries =
@@ -31,12 +27,12 @@ ExitCode List(CommandContext& context, Ledger& books, const HistoryOptions& opti
   return context.Show({[&] {
                          Json all = Json::array();
                          for (const LedgerEntry& entry : entries)
-                           all.push_back(EntryJson(entry, IsCutOff(books, entry)));
+                           all.push_back(EntryJson(entry, books.IsCutOff(entry)));
                          return all;
                        },
                        [&](std::ostream& out) {
                          for (const LedgerEntry& entry : entries)
-                           PrintEntryLine(out, entry, IsCutOff(books, entry));
+                           PrintEntryLine(out, entry, books.IsCutOff(entry));
                        }});
 }
 
@@ -44,18 +40,18 @@ ExitCode ShowEntry(CommandContext& context, Ledger& books, const LedgerEntry& en
   std::vector<LedgerEntry> about = books.Find({.after = entry.id, .serial = entry.serial});
   std::erase_if(about, [&](const LedgerEntry& one) { return one.about != entry.id; });
   std::ranges::reverse(about);
-  const bool isCutOff = IsCutOff(books, entry);
+  const bool isCutOff = books.IsCutOff(entry);
   return context.Show({[&] {
                          Json json = EntryJson(entry, isCutOff);
                          json["readBack"] = Json::array();
                          for (const LedgerEntry& one : about)
-                           json["readBack"].push_back(EntryJson(one, IsCutOff(books, one)));
+                           json["readBack"].push_back(EntryJson(one, books.IsCutOff(one)));
                          return json;
                        },
                        [&](std::ostream& out) {
                          PrintEntry(out, entry, isCutOff);
                          for (const LedgerEntry& one : about)
-                           PrintEntryLine(out, one, IsCutOff(books, one));
+                           PrintEntryLine(out, one, books.IsCutOff(one));
                        }});
 }
 

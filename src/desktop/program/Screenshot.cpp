@@ -15,9 +15,9 @@
 #include "desktop/window/HistoryDialog.h"
 #include "desktop/window/ScheduleView.h"
 #include "host/SimulatedLoggers.h"
+#include "host/System.h"
 #include "host/TraceFile.h"
 #include "platform/qt/QtEventLoop.h"
-#include "platform/qt/QtFiles.h"
 #include "platform/virtual/VirtualClock.h"
 #include "platform/virtual/VirtualDialogs.h"
 #include "platform/virtual/VirtualFiles.h"
@@ -187,7 +187,7 @@ std::string TakeScreenshot(const CommandLine& line, const std::string& langFile)
   settings.Set(kMaker, kProduct, "ComPort", "1");
   settings.Set(kMaker, kProduct, "Target",
                line.target.empty() ? TargetNamesOffered().front() : line.target);
-  QtFiles disk;
+  SystemFiles disk;
   VirtualFiles files;
   files.contents[kTable] = disk.Read(langFile).value_or("");
   if (!line.file.empty()) {

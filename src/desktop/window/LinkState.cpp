@@ -34,17 +34,24 @@ RequestWait WaitOf(const Configurator& configurator) {
   return configurator.Connected ? RequestWait::GeneralPage : RequestWait::Session;
 }
 
+/// The age of an answer that nobody waits for: words that change each second would be laid out and
+/// drawn each second, for as long as the session rests.
+Duration InSteps(Duration age) {
+  constexpr Duration kStep = std::chrono::seconds(5), kLongStep = std::chrono::minutes(1);
+  return age - age % (age < kLongStep ? kStep : kLongStep);
+}
+
 /// How a session stands in which no dialogue runs.
 QString OpenWords(const LinkLife& life) {
-  const QString age = ToQt(DurationText(life.sinceAnswer));
   switch (life.health) {
     case LinkHealth::NoSession:
     case LinkHealth::Alive:
       break;
     case LinkHealth::Resting:
-      return Words::tr("Open, last answer %1 ago").arg(age);
+      return Words::tr("Open, last answer %1 ago")
+          .arg(ToQt(DurationText(InSteps(life.sinceAnswer))));
     case LinkHealth::Silent:
-      return Words::tr("Silent, last answer %1 ago").arg(age);
+      return Words::tr("Silent, last answer %1 ago").arg(ToQt(DurationText(life.sinceAnswer)));
     case LinkHealth::Lost:
       return Words::tr("Line lost");
   }

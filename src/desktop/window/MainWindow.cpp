@@ -252,6 +252,7 @@ void MainWindow::ShowGroup(const std::string& key) {
 void MainWindow::ShowTimers() {
   if (timers_->isHidden() || configurator_.session.OwnsModel()) return;
   timersSeen_ = unsaved_.Touches();
+  timers_->StandAsPage(tree_->TextOf(kTimersNode));
   timers_->ShowSchedule(PresentSchedule(), configurator_.profile, Translate());
 }
 
@@ -301,7 +302,10 @@ void MainWindow::Look() {
   ShowTitle();
   overview_.Look();
   if (timersSeen_ != unsaved_.Touches()) ShowTimers();
-  if (comparing_ && !configurator_.session.OwnsModel()) comparing_->Look();
+  if (comparing_ && comparingSeen_ != unsaved_.Touches() && !configurator_.session.OwnsModel()) {
+    comparingSeen_ = unsaved_.Touches();
+    comparing_->Look();
+  }
   live_.Look(shownFile_);
   OfferWayOut();
 }
@@ -314,7 +318,7 @@ void MainWindow::ShowTitle() {
   if (windowTitle() != title) setWindowTitle(title);
   if (isWindowModified() != unsaved_.Changed()) setWindowModified(unsaved_.Changed());
   if (isWindowModified()) ForgetSuccess();
-  ShowUndo();
+  if (undoSeen_ != unsaved_.Touches()) ShowUndo();
 }
 
 std::optional<ModelConfiguration> MainWindow::ReadFile(const std::string& path) const {

@@ -35,6 +35,7 @@ void MainWindow::NoteEdits() {
 }
 
 void MainWindow::ShowUndo() {
+  undoSeen_ = unsaved_.Touches();
   const bool rests = configurator_.session.OwnsModel();
   // What stands on the page in front, and is not committed yet, can be undone, too.
   const auto isFrontEdited = [this] {

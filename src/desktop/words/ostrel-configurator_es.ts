@@ -3096,6 +3096,26 @@
         <translation>totalizador</translation>
     </message>
     <message>
+        <source>new number</source>
+        <translation>número nuevo</translation>
+    </message>
+    <message>
+        <source>nothing was checked</source>
+        <translation>no se comprobó nada</translation>
+    </message>
+    <message>
+        <source>its record was not kept</source>
+        <translation>su registro no se guardó</translation>
+    </message>
+    <message>
+        <source>stopped</source>
+        <translation>se paró</translation>
+    </message>
+    <message>
+        <source>broken off</source>
+        <translation>se cortó la línea</translation>
+    </message>
+    <message>
         <source>test run</source>
         <translation>prueba de fábrica</translation>
     </message>
@@ -3351,6 +3371,18 @@
         <source>Open</source>
         <comment>the state of the link</comment>
         <translation>Sesión abierta</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>Más</translation>
+    </message>
+    <message>
+        <source>Tools that are wanted now and then</source>
+        <translation>Herramientas de uso menos frecuente</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Idioma</translation>
     </message>
 </context>
 </TS>

@@ -28,9 +28,7 @@ bool Tells(const LedgerEntry& entry, LedgerKind kind) {
 }
 
 /// Whether a program was ended in the midst of what an entry tells of.
-bool IsCutOff(const Ledger& books, const LedgerEntry& entry) {
-  return entry.state == LedgerState::UnderWay && !books.IsRunning(entry);
-}
+bool IsCutOff(const Ledger& books, const LedgerEntry& entry) { return books.IsCutOff(entry); }
 
 Holding HoldingOf(const LedgerEntry& entry) {
   if (entry.state == LedgerState::Done) return Holding::New;

@@ -12,9 +12,9 @@
 #include <string>
 #include <vector>
 
-#include "platform/qt/DeviceInspector.h"
-#include "platform/qt/PortMap.h"
-#include "platform/qt/QtFiles.h"
+#include "platform/FilesContract.h"
+#include "platform/posix/PosixFiles.h"
+#include "platform/posix/PosixSerialDevices.h"
 #include "platform/qt/QtProcesses.h"
 #include "platform/qt/QtSettings.h"
 
@@ -37,7 +37,7 @@ class SystemTest : public testing::Test {
   }
 
   QTemporaryDir folder;
-  QtFiles files;
+  PosixFiles files;
 };
 
 TEST_F(SystemTest, SavesThroughALinkWhatIsItsOwnersAlone) {
@@ -204,8 +204,8 @@ TEST_F(SystemTest, ExplorerShowsDocumentsThatExist) {
 TEST_F(SystemTest, TellsWhoElseHasADeviceOpen) {
   const int master = ::posix_openpt(O_RDWR | O_NOCTTY);
   ASSERT_TRUE(master >= 0 && ::grantpt(master) == 0 && ::unlockpt(master) == 0);
-  PortMap map({{7, ::ptsname(master)}, {8, Path("none")}});
-  DeviceInspector inspector(map);
+  QtEventLoop loop;
+  PosixSerialDevices inspector(loop, PortMap({{7, ::ptsname(master)}, {8, Path("none")}}));
   EXPECT_FALSE(inspector.Inspect(8).exists);
   EXPECT_EQ(inspector.Inspect(161).device, "");
   const PortFacts free = inspector.Inspect(7);
@@ -224,8 +224,17 @@ TEST_F(SystemTest, TellsWhoElseHasADeviceOpen) {
   ::close(master);
   ASSERT_EQ(held.holders.size(), 1U);
   EXPECT_EQ(held.holders.front().process, child);
-  EXPECT_EQ(held.holders.front().name, "test_platform_q");
+  EXPECT_EQ(held.holders.front().name, "test_platform_p");
 }
+/// A folder of its own on the disk.
+struct DiskRoom {
+  std::string Path(const std::string& name) const {
+    return folder.path().toStdString() + "/" + name;
+  }
+  QTemporaryDir folder;
+  PosixFiles files;
+};
+INSTANTIATE_TYPED_TEST_SUITE_P(Posix, FilesContract, DiskRoom);
 
 }  // namespace
 }  // namespace ostrel

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstddef>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -8,8 +10,8 @@
 
 namespace ostrel {
 
-/// The file system of the machine.
-class QtFiles final : public Files {
+/// The file system of the machine. Paths may have either separator, and any length.
+class WindowsFiles final : public Files {
  public:
   FileResult ReadUpTo(const std::string& path, std::size_t most, std::string& octets) override;
   bool Exists(const std::string& path) override;
@@ -24,14 +26,13 @@ class QtFiles final : public Files {
   FileResult Protect(const std::string& path) override;
   FileResult Write(const std::string& path, std::string_view octets) override;
   FileResult Sync(const std::string& path) override;
-  /// Brings the change of the folder to the disk, too.
+  /// Is on the disk when this returns.
   FileResult Rename(const std::string& from, const std::string& to) override;
   FileResult MoveToNew(const std::string& from, const std::string& to) override;
   FileResult Remove(const std::string& path) override;
   FileResult MakeFolder(const std::string& path) override;
   FileResult Append(const std::string& path, std::string_view octets) override;
-  /// By a lock of the system on the whole file, which network file systems hand on to their server
-  /// and which goes with the process that holds it.
+  /// By a lock of the system on the whole file, which goes with the process that holds it.
   FileResult WhileLocked(const std::string& path, const std::function<void()>& work) override;
 };
 

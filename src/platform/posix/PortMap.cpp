@@ -1,4 +1,4 @@
-#include "platform/qt/PortMap.h"
+#include "platform/posix/PortMap.h"
 
 #include <array>
 #include <charconv>

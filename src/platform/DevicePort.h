@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QSerialPort>
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
@@ -12,26 +11,25 @@
 #include <utility>
 #include <vector>
 
+#include "platform/DrainWatch.h"
+#include "platform/EventLoop.h"
 #include "platform/ReceiveBuffer.h"
-#include "platform/SerialPort.h"
-#include "platform/qt/CarrierWatch.h"
-#include "platform/qt/DrainWatch.h"
-#include "platform/qt/NodeWatch.h"
-#include "platform/qt/PortMap.h"
-#include "platform/qt/QtEventLoop.h"
+#include "platform/SerialDevice.h"
 
 namespace ostrel {
 
-/// The serial ports of the machine, pseudo-terminals among them. What a device does not have, such
-/// as the modem lines of a pseudo-terminal, is passed over. Loop and map must outlive the port.
+/// The port control over the serial devices of the machine. What a device does not have, such as
+/// the modem lines of a pseudo-terminal, is passed over. Loop and devices must outlive the port.
 ///
 /// While somebody reads, a full receive buffer leaves the rest to the driver, which holds the
 /// device up by flow control. When nobody has read for half a second, the device may talk on, and
 /// the oldest octets go.
-class QtSerialPort final : public SerialPort {
+class DevicePort final : public SerialPort {
  public:
-  QtSerialPort(QtEventLoop& loop, const PortMap& map);
-  ~QtSerialPort() override;
+  DevicePort(EventLoop& loop, SerialDevices& devices) : loop_(loop), devices_(devices) {}
+  ~DevicePort() override { Close(); }
+  DevicePort(const DevicePort&) = delete;
+  DevicePort& operator=(const DevicePort&) = delete;
 
   void SetCommPort(int number) override { commPort_ = number; }
   void SetSettings(std::string_view settings) override { settings_ = settings; }
@@ -55,33 +53,31 @@ class QtSerialPort final : public SerialPort {
   std::size_t InBufferCount() const override { return received_.Count(); }
   std::uint64_t LostOctets() const override { return received_.Lost(); }
   bool CDHolding() const override { return carrier_; }
-  std::optional<ControlLines> Lines() const override;
+  std::optional<ControlLines> Lines() const override {
+    return device_ && !lost_ ? device_->Lines() : std::nullopt;
+  }
   int CommEvent() const override { return commEvent_; }
   void SetOnComm(std::function<void()> handler) override { onComm_ = std::move(handler); }
   PortFault Probe(int number) override;
-  std::vector<PortEntry> Entries() override;
+  std::vector<PortEntry> Entries() override { return devices_.Entries(); }
 
  private:
   PortFault Open();
-  PortFault OpenDevice(const std::string& path);
   void Close();
-  void ApplySettings(QSerialPort& device) const;
-  void ApplyModemLine(int line, bool on) const;
   void TakeIn();
-  void WatchDevice(const std::string& path);
-  void SeeCarrier(std::optional<bool> carrier);
+  void SeeLines();
   std::size_t OctetsUnderWay() const;
   void Lose();
 
-  QtEventLoop& loop_;
-  const PortMap& map_;
+  EventLoop& loop_;
+  SerialDevices& devices_;
   int commPort_ = 1;
   std::string settings_ = "9600,N,8,1";
   std::size_t inputLen_ = 0;
   PortHandshaking handshaking_ = PortHandshaking::None;
   bool rts_ = true;
   bool dtr_ = true;
-  std::unique_ptr<QSerialPort> device_;
+  std::unique_ptr<SerialDevice> device_;
   bool open_ = false;
   bool lost_ = false;
   ReceiveBuffer received_;
@@ -90,8 +86,6 @@ class QtSerialPort final : public SerialPort {
   bool carrier_ = false;
   int commEvent_ = 0;
   std::function<void()> onComm_;
-  std::unique_ptr<CarrierWatch> carrierWatch_;
-  std::unique_ptr<NodeWatch> nodeWatch_;
   DrainWatch drain_{loop_, [this] { return OutBufferCount(); }};
   TimerId loseTimer_ = 0;
   TimerId takeTimer_ = 0;  ///< for octets left to the driver

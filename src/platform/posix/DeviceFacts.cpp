@@ -1,4 +1,4 @@
-#include "platform/qt/DeviceInspector.h"
+#include "platform/posix/DeviceFacts.h"
 
 #include <grp.h>
 #include <sys/stat.h>
@@ -8,6 +8,7 @@
 #include <filesystem>
 #include <fstream>
 #include <optional>
+#include <vector>
 
 namespace ostrel {
 namespace {
@@ -55,8 +56,8 @@ std::vector<PortFacts::Holder> HoldersOf(const struct stat& device) {
 
 }  // namespace
 
-PortFacts DeviceInspector::Inspect(int number) {
-  PortFacts facts{.device = map_.DeviceOf(number), .group = {}};
+PortFacts FactsOfDevice(const std::string& path) {
+  PortFacts facts{.device = path, .group = {}};
   struct stat node {};
   if (facts.device.empty() || ::stat(facts.device.c_str(), &node) != 0) return facts;
   facts.exists = true;

@@ -1,4 +1,4 @@
-#include "platform/qt/CarrierWatch.h"
+#include "platform/posix/CarrierWatch.h"
 
 #include <pthread.h>
 #include <sys/eventfd.h>

@@ -1,4 +1,4 @@
-#include "platform/qt/QtFiles.h"
+#include "platform/posix/PosixFiles.h"
 
 #include <fcntl.h>
 #include <signal.h>
@@ -26,8 +26,6 @@ constexpr mode_t kPermissions = 0777;
 constexpr mode_t kWritable = 0222;
 constexpr mode_t kOwnFile = 0600;
 constexpr mode_t kOwnFolder = 0700;
-constexpr std::chrono::milliseconds kLongestLock{5000};
-constexpr std::chrono::milliseconds kLockPause{10};
 constexpr mode_t kAnyNewFile = 0666;  // less what the process's mask takes away
 
 /// An open file, closed at the end of its scope.
@@ -94,18 +92,12 @@ FileResult SyncFolderOf(const std::string& path) {
   return Outcome(!handle || SyncHandle(handle.Number()) || errno == EINVAL);
 }
 
-/// Gets the lock of a file, if others give it back soon. A process that dies gives it back, too.
+/// Gets the lock of a file. A process that dies gives it back, too.
 bool LockWhole(int handle) {
   struct flock whole {};
   whole.l_type = F_WRLCK;
   whole.l_whence = SEEK_SET;
-  const auto giveUp = std::chrono::steady_clock::now() + kLongestLock;
-  while (::fcntl(handle, F_OFD_SETLK, &whole) != 0) {
-    const bool isHeld = errno == EAGAIN || errno == EACCES || errno == EINTR;
-    if (!isHeld || std::chrono::steady_clock::now() >= giveUp) return false;
-    std::this_thread::sleep_for(kLockPause);
-  }
-  return true;
+  return ::fcntl(handle, F_OFD_SETLK, &whole) == 0;
 }
 
 /// Whether a temporary file of this ending was left by a process that is gone, or by a former one
@@ -119,7 +111,7 @@ bool IsLeftOver(std::string_view ending) {
 
 }  // namespace
 
-FileResult QtFiles::ReadUpTo(const std::string& path, std::size_t most, std::string& octets) {
+FileResult PosixFiles::ReadUpTo(const std::string& path, std::size_t most, std::string& octets) {
   octets.clear();
   // Non-blocking, so that a pipe by this name cannot hold the program up.
   const Handle file(path, O_RDONLY | O_NONBLOCK);
@@ -137,12 +129,12 @@ FileResult QtFiles::ReadUpTo(const std::string& path, std::size_t most, std::str
   return TooLarge(most);
 }
 
-bool QtFiles::Exists(const std::string& path) {
+bool PosixFiles::Exists(const std::string& path) {
   std::error_code error;
   return fs::exists(path, error);
 }
 
-std::vector<std::string> QtFiles::List(const std::string& folder) {
+std::vector<std::string> PosixFiles::List(const std::string& folder) {
   std::vector<std::string> names;
   std::error_code error;
   fs::directory_iterator entry(folder, error);
@@ -154,13 +146,13 @@ std::vector<std::string> QtFiles::List(const std::string& folder) {
   return names;
 }
 
-std::string QtFiles::Absolute(const std::string& path) {
+std::string PosixFiles::Absolute(const std::string& path) {
   std::error_code error;
   const fs::path absolute = fs::absolute(path, error);
   return error ? path : absolute.lexically_normal().string();
 }
 
-std::string QtFiles::Resolve(const std::string& path) {
+std::string PosixFiles::Resolve(const std::string& path) {
   fs::path target = path;
   for (int i = 0; i < kMostLinks; ++i) {
     std::error_code error;
@@ -171,7 +163,7 @@ std::string QtFiles::Resolve(const std::string& path) {
   return target.string();
 }
 
-FileResult QtFiles::MayReplace(const std::string& path) {
+FileResult PosixFiles::MayReplace(const std::string& path) {
   struct stat state {};
   if (::stat(path.c_str(), &state) != 0) {
     if (errno == ELOOP) return {"it is a link that leads in a circle"};
@@ -184,7 +176,7 @@ FileResult QtFiles::MayReplace(const std::string& path) {
   return isReadOnly ? FileResult{"it is read-only"} : FileResult{};
 }
 
-std::string QtFiles::TemporaryBeside(const std::string& path) {
+std::string PosixFiles::TemporaryBeside(const std::string& path) {
   const fs::path folder = fs::path(path).parent_path();
   const std::string start = fs::path(path).filename().string() + std::string(kUnfinished);
   std::error_code error;
@@ -197,12 +189,12 @@ std::string QtFiles::TemporaryBeside(const std::string& path) {
   return path + std::string(kUnfinished) + std::to_string(::getpid());
 }
 
-FileResult QtFiles::Create(const std::string& path) {
+FileResult PosixFiles::Create(const std::string& path) {
   const Handle file(path, O_WRONLY | O_CREAT | O_EXCL);
   return Outcome(bool(file));
 }
 
-FileResult QtFiles::CopyMode(const std::string& from, const std::string& to) {
+FileResult PosixFiles::CopyMode(const std::string& from, const std::string& to) {
   struct stat state {};
   const Handle file(to, O_WRONLY);
   if (!file || ::stat(from.c_str(), &state) != 0) return Outcome(false);
@@ -211,23 +203,23 @@ FileResult QtFiles::CopyMode(const std::string& from, const std::string& to) {
   return Outcome(::fchmod(file.Number(), state.st_mode & kPermissions) == 0);
 }
 
-FileResult QtFiles::Protect(const std::string& path) {
+FileResult PosixFiles::Protect(const std::string& path) {
   std::error_code error;
   const mode_t mode = fs::is_directory(path, error) ? kOwnFolder : kOwnFile;
   return Outcome(::chmod(path.c_str(), mode) == 0);
 }
 
-FileResult QtFiles::Write(const std::string& path, std::string_view octets) {
+FileResult PosixFiles::Write(const std::string& path, std::string_view octets) {
   Handle file(path, O_WRONLY | O_TRUNC);
   return Outcome(file && WriteAll(file.Number(), octets) && file.Close());
 }
 
-FileResult QtFiles::Sync(const std::string& path) {
+FileResult PosixFiles::Sync(const std::string& path) {
   const Handle file(path, O_WRONLY);
   return Outcome(file && SyncHandle(file.Number()));
 }
 
-FileResult QtFiles::Rename(const std::string& from, const std::string& to) {
+FileResult PosixFiles::Rename(const std::string& from, const std::string& to) {
   // A device or a pipe by this name is somebody else's.
   if (std::error_code error; fs::exists(to, error) && !fs::is_regular_file(to, error))
     return {"what stands there is no file to replace"};
@@ -235,7 +227,7 @@ FileResult QtFiles::Rename(const std::string& from, const std::string& to) {
   return SyncFolderOf(to);
 }
 
-FileResult QtFiles::MoveToNew(const std::string& from, const std::string& to) {
+FileResult PosixFiles::MoveToNew(const std::string& from, const std::string& to) {
   // A second name and then the first one taken away, where the system has no such move.
   const bool moved =
       ::renameat2(AT_FDCWD, from.c_str(), AT_FDCWD, to.c_str(), RENAME_NOREPLACE) == 0 ||
@@ -245,9 +237,11 @@ FileResult QtFiles::MoveToNew(const std::string& from, const std::string& to) {
   return {Outcome(false).error, stands};
 }
 
-FileResult QtFiles::Remove(const std::string& path) { return Outcome(::unlink(path.c_str()) == 0); }
+FileResult PosixFiles::Remove(const std::string& path) {
+  return Outcome(::unlink(path.c_str()) == 0);
+}
 
-FileResult QtFiles::MakeFolder(const std::string& path) {
+FileResult PosixFiles::MakeFolder(const std::string& path) {
   std::error_code error;
   fs::create_directories(path, error);
   std::error_code ignored;
@@ -255,7 +249,7 @@ FileResult QtFiles::MakeFolder(const std::string& path) {
   return {error ? error.message() : "is no folder"};
 }
 
-FileResult QtFiles::Append(const std::string& path, std::string_view octets) {
+FileResult PosixFiles::Append(const std::string& path, std::string_view octets) {
   Handle file(path, O_WRONLY | O_APPEND | O_CREAT);
   struct stat before {};
   if (!file || ::fstat(file.Number(), &before) != 0) return Outcome(false);
@@ -265,11 +259,11 @@ FileResult QtFiles::Append(const std::string& path, std::string_view octets) {
   return failed;
 }
 
-FileResult QtFiles::WhileLocked(const std::string& path, const std::function<void()>& work) {
+FileResult PosixFiles::WhileLocked(const std::string& path, const std::function<void()>& work) {
   const Handle file(path, O_RDWR | O_CREAT);
   if (!file) return Outcome(false);
   if (!LockWhole(file.Number()))
-    return errno == EAGAIN || errno == EACCES ? FileResult{"another program holds it"}
+    return errno == EAGAIN || errno == EACCES ? FileResult{std::string(kHeldElsewhere)}
                                               : Outcome(false);
   work();
   return {};

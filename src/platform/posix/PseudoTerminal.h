@@ -8,7 +8,7 @@
 
 #include "platform/Line.h"
 #include "platform/LineQueue.h"
-#include "platform/qt/NodeWatch.h"
+#include "platform/posix/NodeWatch.h"
 #include "platform/qt/QtEventLoop.h"
 
 namespace ostrel {

@@ -1,4 +1,4 @@
-#include "platform/qt/DrainWatch.h"
+#include "platform/DrainWatch.h"
 
 #include <algorithm>
 

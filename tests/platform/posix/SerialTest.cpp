@@ -9,9 +9,12 @@
 #include <string>
 #include <vector>
 
-#include "platform/qt/PortMap.h"
-#include "platform/qt/PseudoTerminal.h"
-#include "platform/qt/QtSerialPort.h"
+#include "platform/DevicePort.h"
+#include "platform/QtEnvironment.h"
+#include "platform/posix/CarrierWatch.h"
+#include "platform/posix/PortMap.h"
+#include "platform/posix/PosixSerialDevices.h"
+#include "platform/posix/PseudoTerminal.h"
 #include "platform/virtual/VirtualLoop.h"
 
 namespace ostrel {
@@ -19,6 +22,9 @@ namespace {
 
 using std::chrono::milliseconds;
 using std::chrono::seconds;
+
+const testing::Environment* const kEnvironment =
+    testing::AddGlobalTestEnvironment(new QtEnvironment);
 
 /// Notes what it gets, and at a carriage return sends all of it back behind an equals sign.
 class AnsweringDevice final : public LineDevice {
@@ -47,7 +53,7 @@ class SerialTest : public testing::Test {
           return made;
         },
         paced);
-    map = PortMap({{200, terminal->SlavePath()}});
+    devices.Map() = PortMap({{200, terminal->SlavePath()}});
     port.SetCommPort(200);
     port.SetSettings("9600,N,8,1");
     port.SetInBufferSize(8192);
@@ -63,10 +69,10 @@ class SerialTest : public testing::Test {
   }
 
   QtEventLoop loop;
-  PortMap map;
   std::unique_ptr<PseudoTerminal> terminal;
   AnsweringDevice* device = nullptr;
-  QtSerialPort port{loop, map};
+  PosixSerialDevices devices{loop, PortMap()};
+  DevicePort port{loop, devices};
 };
 
 TEST_F(SerialTest, RoundTripsOfAllOctetsThroughRepeatedOpenings) {
@@ -237,7 +243,7 @@ TEST_F(SerialTest, PacedTerminalKeepsLineSpeedBothWays) {
 
 TEST_F(SerialTest, ProbeAndOpenTellFaults) {
   Start(false);
-  QtSerialPort other(loop, map);
+  DevicePort other(loop, devices);
   other.SetCommPort(200);
   EXPECT_EQ(port.Probe(200), PortFault::None);
   ASSERT_EQ(port.SetPortOpen(true), PortFault::None);
@@ -247,7 +253,7 @@ TEST_F(SerialTest, ProbeAndOpenTellFaults) {
   EXPECT_FALSE(other.PortOpen());
   EXPECT_EQ(other.Probe(96), PortFault::NoSuchPort);
   EXPECT_EQ(other.Probe(256), PortFault::NoSuchPort);
-  map = PortMap({{201, "/dev/null"}});
+  devices.Map() = PortMap({{201, "/dev/null"}});
   EXPECT_EQ(other.Probe(201), PortFault::Failed) << "no terminal";
 }
 

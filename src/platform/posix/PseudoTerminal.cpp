@@ -1,4 +1,4 @@
-#include "platform/qt/PseudoTerminal.h"
+#include "platform/posix/PseudoTerminal.h"
 
 #include <fcntl.h>
 #include <poll.h>

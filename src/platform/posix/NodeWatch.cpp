@@ -1,4 +1,4 @@
-#include "platform/qt/NodeWatch.h"
+#include "platform/posix/NodeWatch.h"
 
 #include <sys/inotify.h>
 #include <unistd.h>
