@@ -21,7 +21,7 @@ struct Death {
 struct WorkPlan {
   std::uint64_t items = 0;
   unsigned processes = 1;
-  std::chrono::seconds longest{60};  ///< real time of one item
+  std::chrono::seconds longest{60};  ///< computing time of one item
 };
 
 /// Works on each item in one of several processes, so that one which crashes, hangs or throws ends
