@@ -133,9 +133,10 @@ Phrase Outcome(const SessionFault& fault) {
         return {
             "the logger's flash is erased and holds no firmware: leave it powered and "
             "connected, and start the update again with the same files"};
+      // The answer that it erases may have been lost as well as the request.
       return {
-          "nothing of the image was sent: if the logger still answers, its firmware is as it "
-          "was"};
+          "whether the logger has erased its firmware is not known: if it tells of itself in a new "
+          "session, it has not; else start the update again with the same files"};
     case SessionPhase::Opening:
       if (!fault.brokenOff) return {};
       [[fallthrough]];

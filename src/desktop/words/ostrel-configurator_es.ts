@@ -3096,6 +3096,26 @@
         <translation>totalizador</translation>
     </message>
     <message>
+        <source>new number</source>
+        <translation>número nuevo</translation>
+    </message>
+    <message>
+        <source>nothing was checked</source>
+        <translation>no se comprobó nada</translation>
+    </message>
+    <message>
+        <source>its record was not kept</source>
+        <translation>su registro no se guardó</translation>
+    </message>
+    <message>
+        <source>stopped</source>
+        <translation>se paró</translation>
+    </message>
+    <message>
+        <source>broken off</source>
+        <translation>se cortó la línea</translation>
+    </message>
+    <message>
         <source>test run</source>
         <translation>prueba de fábrica</translation>
     </message>
@@ -3328,8 +3348,8 @@
         <translation>la flash del equipo está borrada y no contiene firmware: déjelo alimentado y conectado, y vuelva a iniciar la actualización con los mismos ficheros</translation>
     </message>
     <message>
-        <source>nothing of the image was sent: if the logger still answers, its firmware is as it was</source>
-        <translation>no se ha enviado nada de la imagen: si el equipo todavía responde, su firmware es el de antes</translation>
+        <source>whether the logger has erased its firmware is not known: if it tells of itself in a new session, it has not; else start the update again with the same files</source>
+        <translation>no se sabe si el equipo ha borrado su firmware: si en una nueva sesión da sus datos, no lo ha borrado; si no, vuelva a iniciar la actualización con los mismos ficheros</translation>
     </message>
     <message>
         <source>Band</source>
@@ -3351,6 +3371,18 @@
         <source>Open</source>
         <comment>the state of the link</comment>
         <translation>Sesión abierta</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>Más</translation>
+    </message>
+    <message>
+        <source>Tools that are wanted now and then</source>
+        <translation>Herramientas de uso menos frecuente</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Idioma</translation>
     </message>
 </context>
 </TS>

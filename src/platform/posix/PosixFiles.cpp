@@ -26,8 +26,6 @@ constexpr mode_t kPermissions = 0777;
 constexpr mode_t kWritable = 0222;
 constexpr mode_t kOwnFile = 0600;
 constexpr mode_t kOwnFolder = 0700;
-constexpr std::chrono::milliseconds kLongestLock{5000};
-constexpr std::chrono::milliseconds kLockPause{10};
 constexpr mode_t kAnyNewFile = 0666;  // less what the process's mask takes away
 
 /// An open file, closed at the end of its scope.
@@ -94,18 +92,12 @@ FileResult SyncFolderOf(const std::string& path) {
   return Outcome(!handle || SyncHandle(handle.Number()) || errno == EINVAL);
 }
 
-/// Gets the lock of a file, if others give it back soon. A process that dies gives it back, too.
+/// Gets the lock of a file. A process that dies gives it back, too.
 bool LockWhole(int handle) {
   struct flock whole {};
   whole.l_type = F_WRLCK;
   whole.l_whence = SEEK_SET;
-  const auto giveUp = std::chrono::steady_clock::now() + kLongestLock;
-  while (::fcntl(handle, F_OFD_SETLK, &whole) != 0) {
-    const bool isHeld = errno == EAGAIN || errno == EACCES || errno == EINTR;
-    if (!isHeld || std::chrono::steady_clock::now() >= giveUp) return false;
-    std::this_thread::sleep_for(kLockPause);
-  }
-  return true;
+  return ::fcntl(handle, F_OFD_SETLK, &whole) == 0;
 }
 
 /// Whether a temporary file of this ending was left by a process that is gone, or by a former one
@@ -271,7 +263,7 @@ FileResult PosixFiles::WhileLocked(const std::string& path, const std::function<
   const Handle file(path, O_RDWR | O_CREAT);
   if (!file) return Outcome(false);
   if (!LockWhole(file.Number()))
-    return errno == EAGAIN || errno == EACCES ? FileResult{"another program holds it"}
+    return errno == EAGAIN || errno == EACCES ? FileResult{std::string(kHeldElsewhere)}
                                               : Outcome(false);
   work();
   return {};

@@ -14,8 +14,6 @@
 namespace ostrel {
 namespace {
 
-constexpr ULONGLONG kLongestLockMs = 5000;
-constexpr DWORD kLockPauseMs = 10;
 constexpr std::string_view kUnfinished = "~ostrel-";  // between a file's name and a process
 /// Who may do what: the owner, the system and its administrators all, nobody else anything.
 constexpr const wchar_t* kOwnFile = L"D:P(A;;FA;;;OW)(A;;FA;;;SY)(A;;FA;;;BA)";
@@ -63,17 +61,11 @@ bool ReadAll(HANDLE file, std::size_t most, std::string& octets) {
   return true;
 }
 
-/// Gets the lock of a file, if others give it back soon.
+/// Gets the lock of a file. A process that dies gives it back, too.
 bool LockWhole(HANDLE file) {
-  const ULONGLONG begin = ::GetTickCount64();
   OVERLAPPED whole{};
-  while (!::LockFileEx(file, LOCKFILE_EXCLUSIVE_LOCK | LOCKFILE_FAIL_IMMEDIATELY, 0, MAXDWORD,
-                       MAXDWORD, &whole)) {
-    const bool isHeld = ::GetLastError() == ERROR_LOCK_VIOLATION;
-    if (!isHeld || ::GetTickCount64() - begin >= kLongestLockMs) return false;
-    ::Sleep(kLockPauseMs);
-  }
-  return true;
+  return ::LockFileEx(file, LOCKFILE_EXCLUSIVE_LOCK | LOCKFILE_FAIL_IMMEDIATELY, 0, MAXDWORD,
+                      MAXDWORD, &whole) != 0;
 }
 
 /// Visits the names in a folder that fit a pattern, with their attributes.
@@ -285,7 +277,7 @@ FileResult WindowsFiles::WhileLocked(const std::string& path, const std::functio
   const Handle file = OpenFile(path, GENERIC_READ | GENERIC_WRITE, OPEN_ALWAYS);
   if (!file) return Outcome(false);
   if (!LockWhole(file.Get()))
-    return ::GetLastError() == ERROR_LOCK_VIOLATION ? FileResult{"another program holds it"}
+    return ::GetLastError() == ERROR_LOCK_VIOLATION ? FileResult{std::string(kHeldElsewhere)}
                                                     : Outcome(false);
   work();
   return {};

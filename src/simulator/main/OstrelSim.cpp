@@ -4,12 +4,14 @@
 #include <memory>
 #include <vector>
 
+#include "base/Printable.h"
 #include "host/SimulatedLoggers.h"
 #include "host/System.h"
 #include "platform/Console.h"
 #include "platform/qt/QtClock.h"
 #include "platform/qt/ServedLine.h"
 #include "recording/Replay.h"
+#include "sim/FixtureText.h"
 #include "simulator/SimOptions.h"
 
 namespace {
@@ -78,7 +80,19 @@ int RunReplay(const SimOptions& options) {
   return Serve(loop, *line, options);
 }
 
+/// Exit code of having read the file of the fixture; says what is wrong with it.
+int TakeFixture(SimOptions& options) {
+  if (options.fixture.empty()) return 0;
+  SystemFiles files;
+  std::string text;
+  if (const FileResult read = files.ReadInto(options.fixture, text); !read.Ok())
+    return Fail(ExitCode::BadFile, "cannot read " + options.fixture + ": " + read.error);
+  const std::string wrong = sim::ReadFixture(text, options.logger.model, options.logger.fixture);
+  return wrong.empty() ? 0 : Fail(ExitCode::BadFile, options.fixture + ": " + Printable(wrong));
+}
+
 int RunLogger(SimOptions options) {
+  if (const int taken = TakeFixture(options); taken != 0) return taken;
   QtEventLoop loop;
   options.logger.clockStart = QtClock().LocalNow();
   sim::Logger* logger = nullptr;
