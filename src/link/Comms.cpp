@@ -77,6 +77,7 @@ LinkResult Comms::StartComs(std::int16_t port, const std::string& phone) {
   LinkBusy = false;
   // The values that are held may be those of another logger.
   records_.live.reads = {};
+  records_.live.ClockRead = {};
   return result;
 }
 
@@ -143,8 +144,11 @@ bool Comms::ReadInfo() {
 }
 
 LinkResult Comms::ReadDeviceRTC() {
-  return line_.Converse(line_.TimeFor(kLinkAttempts),
-                        [this] { return ReadClock(line_, records_.live.DeviceClock); });
+  const LinkResult result = line_.Converse(
+      line_.TimeFor(kLinkAttempts), [this] { return ReadClock(line_, records_.live.DeviceClock); });
+  if (result.Fault().kind != LinkFault::Kind::Busy)
+    records_.live.ClockRead.Note(result, platform_.clock.LocalTime());
+  return result;
 }
 
 LinkResult Comms::WriteDeviceRTC() {

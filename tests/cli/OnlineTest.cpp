@@ -57,8 +57,11 @@ TEST(Online, ShowsLiveValues) {
   EXPECT_THAT(world.out, HasSubstr("MODBUS channel 31 "));
   EXPECT_EQ(world.Run("live --port sim:BQ --json"), 0);
   const QJsonObject live = world.Json().object();
-  EXPECT_EQ(live["digital"].toArray().size(), 4);
+  EXPECT_EQ(live["digital"].toArray().size(), 6) << "with the directions of its flows";
   EXPECT_EQ(live["analog"].toArray().size(), 1);
+  const double total = live["registers"][7]["value"].toDouble();
+  EXPECT_NE(total, 0);
+  EXPECT_NE(total, static_cast<float>(total)) << "all of its digits";
   EXPECT_EQ(live["flows"].toArray().size(), 2);
   EXPECT_EQ(live["modbus"].toArray().size(), 0);
 }

@@ -92,6 +92,7 @@ TEST_F(SessionTest, ClockCountsOnFromARealDate) {
     live.DeviceClock = former;
     comms.ReadDeviceRTC();
     EXPECT_EQ(live.DeviceClock, c.clock) << c.answers.front();
+    EXPECT_EQ(live.ClockRead.missed, c.clock == former ? 1 : 0) << c.answers.front();
     EXPECT_EQ(logger.lines.size(), c.requests) << c.answers.front();
   }
 }

@@ -2944,6 +2944,14 @@
         <translation>avisa a</translation>
     </message>
     <message>
+        <source>Accepted with a configuration that was in no file.</source>
+        <translation>Aceptado con una configuración que no estaba en ningún archivo.</translation>
+    </message>
+    <message>
+        <source>Accepted with another configuration: %1</source>
+        <translation>Aceptado con otra configuración: %1</translation>
+    </message>
+    <message>
         <source>No alarm is enabled.</source>
         <translation>No hay ninguna alarma habilitada.</translation>
     </message>
@@ -3280,8 +3288,8 @@
         <translation>por encima del máximo</translation>
     </message>
     <message>
-        <source>Alarm limits</source>
-        <translation>Límites de alarma</translation>
+        <source>Alarm limits of %1</source>
+        <translation>Límites de alarma de %1</translation>
     </message>
     <message>
         <source>%1 to %2, hysteresis %3</source>
