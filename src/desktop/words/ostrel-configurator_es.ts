@@ -592,8 +592,12 @@
         <translation>Se está escribiendo la lista de llamadas de voz. Al salir se interrumpe, y el equipo queda sin una lista completa.</translation>
     </message>
     <message>
-        <source>A transfer is under way. Leaving breaks it off, and changes that are neither saved nor sent are lost.</source>
-        <translation>Hay una transferencia en curso. Al salir se interrumpe, y los cambios que no se han guardado ni enviado se pierden.</translation>
+        <source>A transfer is under way. Leaving breaks it off.</source>
+        <translation>Hay una transferencia en curso. Al salir se interrumpe.</translation>
+    </message>
+    <message>
+        <source>Changes that are neither saved nor sent are lost.</source>
+        <translation>Los cambios que no se han guardado ni enviado se pierden.</translation>
     </message>
     <message>
         <source>No files yet</source>
@@ -3316,8 +3320,8 @@
         <translation>La flash del equipo está borrada. Si sale ahora, el equipo se queda sin firmware.</translation>
     </message>
     <message>
-        <source>The firmware of the logger is being replaced. Leaving breaks that off.</source>
-        <translation>Se está sustituyendo el firmware del equipo. Si sale, la actualización se interrumpe.</translation>
+        <source>The flash of the logger may be erased. Leaving now may leave it without firmware.</source>
+        <translation>Puede que la flash del equipo esté borrada. Si sale ahora, puede que el equipo se quede sin firmware.</translation>
     </message>
     <message>
         <source>the logger gave no sign of life by octet %1 of the image</source>
@@ -3326,6 +3330,10 @@
     <message>
         <source>the logger&apos;s flash is erased and holds no firmware: leave it powered and connected, and start the update again with the same files</source>
         <translation>la flash del equipo está borrada y no contiene firmware: déjelo alimentado y conectado, y vuelva a iniciar la actualización con los mismos ficheros</translation>
+    </message>
+    <message>
+        <source>the logger&apos;s flash may be erased: leave it powered and connected, and start the update again with the same files</source>
+        <translation>puede que la flash del equipo esté borrada: déjelo alimentado y conectado, y vuelva a iniciar la actualización con los mismos ficheros</translation>
     </message>
     <message>
         <source>nothing of the image was sent: if the logger still answers, its firmware is as it was</source>
