@@ -1,4 +1,5 @@
 # Compiler settings that hold for the whole tree.
+include(CMakeDependentOption)
 set(CMAKE_CXX_STANDARD 20)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
 set(CMAKE_CXX_EXTENSIONS OFF)
@@ -9,7 +10,8 @@ endif()
 set(CMAKE_RUNTIME_OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/bin)
 
 option(OSTREL_SANITIZE "Build with the address and undefined-behaviour sanitizers" OFF)
-option(OSTREL_DESKTOP "Build the window" ON)
+option(OSTREL_PROGRAMS "Build the programs; without them the core and its tests" ON)
+cmake_dependent_option(OSTREL_DESKTOP "Build the window" ON OSTREL_PROGRAMS OFF)
 option(OSTREL_BENCH "Build the benchmarks" ON)
 option(OSTREL_WERROR "Treat warnings as errors" ON)
 

@@ -1,4 +1,23 @@
 # The programs of the command line, and what stands beside them when they run.
+find_package(Qt6 REQUIRED COMPONENTS Core Gui LinguistTools Sql)
+find_package(CLI11 REQUIRED)
+find_package(nlohmann_json REQUIRED)
+target_link_libraries(ostrel_platform_qt PUBLIC Qt6::Core PRIVATE Qt6::Sql)
+if(WIN32)
+  target_link_libraries(ostrel_platform_windows PRIVATE setupapi)
+else()
+  find_package(Qt6 REQUIRED COMPONENTS SerialPort)
+  target_link_libraries(ostrel_platform_posix PUBLIC Qt6::SerialPort)
+endif()
+target_link_libraries(ostrel_host PUBLIC Qt6::Gui)
+target_link_libraries(ostrel_cli PUBLIC CLI11::CLI11 nlohmann_json::nlohmann_json)
+target_link_libraries(ostrel_simulator PUBLIC CLI11::CLI11)
+# The words of the window and of documents: English in the code, Spanish here.
+qt_add_translations(ostrel_host
+                    TS_FILES ${CMAKE_SOURCE_DIR}/src/desktop/words/ostrel-configurator_es.ts
+                             ${CMAKE_SOURCE_DIR}/src/desktop/words/ostrel-configurator_en.ts
+                    RESOURCE_PREFIX /i18n)
+
 add_executable(ostrelctl src/cli/main/Ostrelctl.cpp)
 target_link_libraries(ostrelctl PRIVATE ostrel_cli)
 target_precompile_headers(ostrelctl REUSE_FROM ostrel_std_headers)

@@ -1,7 +1,10 @@
 #!/bin/sh
-# Installs the Debian packages that building, testing and running need, where any is missing.
+# Installs the Debian packages that building, testing and running need, where any is missing; with
+# the word "windows" also those for building for Windows.
 # Works on Debian 12 and 13, as root or through sudo, and asks nothing.
 set -eu
+
+wanted=${1-}
 
 # One a line; of several names on a line the first that the system knows is taken.
 packages() {
@@ -22,6 +25,15 @@ libgtest-dev
 libgmock-dev
 libbenchmark-dev
 dpkg-dev
+END
+  [ "$wanted" != windows ] || cat <<'END'
+g++-mingw-w64-x86-64-posix
+wine
+wine64
+nsis
+tcl
+zip
+googletest
 END
 }
 

@@ -1,5 +1,6 @@
 #include "cli/LedgerText.h"
 
+#include <algorithm>
 #include <iomanip>
 #include <type_traits>
 
@@ -21,10 +22,11 @@ std::string FeaturesOf(const LedgerEntry& entry) {
              : FeaturesText(static_cast<std::int32_t>(entry.features));
 }
 
-/// What an entry is about, beside its kind.
+/// What an entry is about, beside its kind; of a detail of many lines the first.
 std::string Matter(const LedgerEntry& entry) {
   std::string matter;
-  for (const std::string& part : {entry.detail, entry.file, entry.fault})
+  for (const std::string& part :
+       {entry.detail.substr(0, entry.detail.find('\n')), entry.file, entry.fault})
     if (!part.empty()) matter += (matter.empty() ? "" : ": ") + part;
   return matter;
 }
@@ -58,9 +60,13 @@ void PrintEntryLine(std::ostream& out, const LedgerEntry& entry, bool isCutOff) 
 }
 
 void PrintEntry(std::ostream& out, const LedgerEntry& entry, bool isCutOff) {
-  const auto print = [&out](const char* name, const std::string& text) {
-    if (!text.empty())
-      out << std::left << std::setw(kFieldWidth) << name << Printable(text) << '\n';
+  const auto print = [&out](std::string_view name, std::string_view text) {
+    while (!text.empty()) {
+      const std::string_view line = text.substr(0, text.find('\n'));
+      out << std::left << std::setw(kFieldWidth) << name << Printable(line) << '\n';
+      text.remove_prefix(std::min(line.size() + 1, text.size()));
+      name = {};
+    }
   };
   VisitLedgerEntry(entry, [&](const char* name, const auto& value) {
     using Value = std::remove_cvref_t<decltype(value)>;

@@ -249,6 +249,12 @@ void Picture::SetImage(int image) {
   face.Changed();
 }
 
+void Picture::SetFile(std::string path) {
+  if (path == file_) return;
+  file_ = std::move(path);
+  face.Changed();
+}
+
 TabStrip::TabStrip(Form& form, std::string_view name) : face(name, "") { form.Register(this); }
 
 void TabStrip::SetTab(int tab) {

@@ -248,11 +248,15 @@ class Picture {
   Picture(Form& form, std::string_view name);
   int Image() const { return image_; }
   void SetImage(int image);
+  /// Path of a file that is shown instead of a picture of the program's own; empty for none.
+  const std::string& File() const { return file_; }
+  void SetFile(std::string path);
 
   Face face;
 
  private:
   int image_ = 0;
+  std::string file_;
 };
 
 /// Tabs of which one is in front. The logic alone chooses it.

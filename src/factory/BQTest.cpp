@@ -69,7 +69,6 @@ const TestPlan kTestBQ{
     .form = "TestBQ",
     .word = "bq",
     .modelName = "Tavro BQ",
-    .isFor = &TargetProfile::IsBQ,
     .scale = kVoltsPerStep,
     .atRest = kAtRest,
     .steps = TestBQBoard,
@@ -78,10 +77,5 @@ const TestPlan kTestBQ{
         "50mV",
     .values = BQValues,
 };
-
-std::span<const TestPlan* const> TestPlans() {
-  static constexpr std::array<const TestPlan*, 3> kPlans{&kTest, &kTestKA2, &kTestBQ};
-  return kPlans;
-}
 
 }  // namespace ostrel

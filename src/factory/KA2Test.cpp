@@ -90,7 +90,6 @@ const TestPlan kTestKA2{
     .form = "TestKA2",
     .word = "ka2",
     .modelName = "Ostrel KA2",
-    .isFor = &TargetProfile::IsKA2,
     .scale = 1,
     .atRest = kSwitchedOff,
     .steps = TestKA2Board,

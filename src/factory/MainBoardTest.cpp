@@ -112,7 +112,6 @@ const TestPlan kTest{
     .form = "Test",
     .word = "main",
     .modelName = "Tavro BP",
-    .isFor = &TargetProfile::IsBP,
     .scale = kVoltsPerStep,
     .atRest = kOutputsOff,
     .steps = TestMainBoard,

@@ -5,6 +5,7 @@
 
 #include "factory/TestRecord.h"
 #include "platform/Files.h"
+#include "platform/Platform.h"
 
 namespace ostrel {
 
@@ -15,7 +16,7 @@ std::string RecordPath(const std::string& folder, const std::string& test);
 /// returns. A new table begins with a row of headings: those of the run, then two for each of
 /// `values`, the names of all that the test can measure. Stations that share the folder wait for
 /// each other.
-FileResult KeepRecord(Files& files, const std::string& folder, const TestRecord& record,
+FileResult KeepRecord(const Platform& platform, const std::string& folder, const TestRecord& record,
                       const std::vector<std::string>& values);
 
 }  // namespace ostrel

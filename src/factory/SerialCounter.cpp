@@ -1,6 +1,7 @@
 #include "factory/SerialCounter.h"
 
 #include "base/Values.h"
+#include "factory/FolderLock.h"
 #include "link/WireText.h"
 #include "store/IniTool.h"
 
@@ -12,33 +13,32 @@ constexpr std::size_t kCounterDigits = 4;
 constexpr std::string_view kSection = "NS";
 constexpr std::string_view kKey = "NS";
 
+std::string ContentOf(int counter) { return "[NS]\r\nNS=" + std::to_string(counter) + "\r\n"; }
+
 }  // namespace
 
 FileResult SerialCounter::Raise(int& value) {
-  if (FileResult made = files_.MakeFolder(folder_); !made.Ok()) return made;
+  if (FileResult made = platform_.files.MakeFolder(folder_); !made.Ok()) return made;
   FileResult raised;
   const FileResult locked =
-      files_.WhileLocked(folder_ + "/TestOstrel.lock", [&] { raised = RaiseLocked(value); });
+      WhileFolderLocked(platform_, folder_, [&] { raised = RaiseLocked(value); });
   return locked.Ok() ? raised : locked;
 }
 
 FileResult SerialCounter::RaiseLocked(int& value) {
+  Files& files = platform_.files;
   const std::string path = folder_ + "/TestOstrel.ini";
+  // Made as any file is, so that the other stations may write it.
+  if (!files.Exists(path))
+    if (FileResult made = files.Append(path, ContentOf(0)); !made.Ok()) return made;
   std::string octets;
-  int last = 0;
-  if (files_.Exists(path)) {
-    if (FileResult read = files_.ReadInto(path, octets); !read.Ok()) return read;
-    // A file that was cut must not start the numbers over.
-    const std::string text = IniTool(files_).ProfileRead(kSection, kKey, path);
-    const auto stored = IsIntText(text) ? RoundToEven<int>(NumVal(text)) : std::nullopt;
-    if (!octets.empty() && (!stored || *stored < 0)) return {"it holds no counter"};
-    last = stored.value_or(0);
-  } else if (FileResult made = files_.Create(path); !made.Ok()) {
-    return made;  // made as any file is, so that the other stations may write it
-  }
-  const int next = (last % kCounters + 1) % kCounters;
-  const std::string content = "[NS]\r\nNS=" + std::to_string(next) + "\r\n";
-  if (FileResult kept = SaveWhole(files_, path, content); !kept.Ok()) return kept;
+  if (FileResult read = files.ReadInto(path, octets); !read.Ok()) return read;
+  // A file that was cut must not start the numbers over.
+  const std::string text = IniTool(files).ProfileRead(kSection, kKey, path);
+  const auto last = IsIntText(text) ? RoundToEven<int>(NumVal(text)) : std::nullopt;
+  if (!last || *last < 0) return {"it holds no counter"};
+  const int next = (*last % kCounters + 1) % kCounters;
+  if (FileResult kept = SaveWhole(files, path, ContentOf(next)); !kept.Ok()) return kept;
   value = next;
   return {};
 }

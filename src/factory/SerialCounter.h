@@ -4,6 +4,7 @@
 
 #include "platform/DateTime.h"
 #include "platform/Files.h"
+#include "platform/Platform.h"
 
 namespace ostrel {
 
@@ -12,7 +13,8 @@ namespace ostrel {
 /// folder share it. It is raised under a lock, so that none of them gives a number twice.
 class SerialCounter {
  public:
-  SerialCounter(Files& files, std::string folder) : files_(files), folder_(std::move(folder)) {}
+  SerialCounter(const Platform& platform, std::string folder)
+      : platform_(platform), folder_(std::move(folder)) {}
 
   /// Raises the counter, which starts over behind 9999, and brings its new value. After a failure
   /// no number may be given: another station may give it.
@@ -21,7 +23,7 @@ class SerialCounter {
  private:
   FileResult RaiseLocked(int& value);
 
-  Files& files_;
+  const Platform& platform_;
   std::string folder_;
 };
 

@@ -5,6 +5,7 @@
 #include "base/Numbers.h"
 #include "base/Scope.h"
 #include "platform/Dialogs.h"
+#include "platform/Files.h"
 
 namespace ostrel {
 
@@ -35,9 +36,10 @@ TestPage::TestPage(TestPageContext context, const TestPlan& plan)
   if (&plan == &kTest) {
     Label2.emplace(form_, "Label2", "Posicion jumper para prueba:");
     Picture1.emplace(form_, "Picture1");
+    Picture1->face.SetVisible(false);
   }
   ProgressBar1.SetMaximum(kStrongestSignal);
-  Command1.OnClick = [this] { RunTest(); };
+  Command1.OnClick = [this] { Start(); };
   CommandStop.OnClick = [this] { Stop(); };
   Command2.OnClick = [this] { context_.IniCom_Click(); };
   Timer1.OnTimer = [this] { Tick(); };
@@ -50,22 +52,41 @@ void TestPage::Form_Activate() {
     TextOperator.SetText(station.operatorName);
     TextStation.SetText(station.name);
   }
+  if (Picture1) {
+    // The station's own picture of its fixture: any other would tell the operator what is not so.
+    const std::string path = context_.usual.folder + "/jumper.png";
+    const bool hasPicture = context_.bench.platform.files.Exists(path);
+    Picture1->SetFile(hasPicture ? path : "");
+    Picture1->face.SetVisible(hasPicture);
+  }
   Tick();
   Timer1.SetEnabled(true);
 }
 
+void TestPage::Form_Deactivate() {
+  Timer1.SetEnabled(false);
+  StoreStation(context_.bench.platform.settings, {TextOperator.Text(), TextStation.Text(), ""});
+}
+
 void TestPage::Tick() {
-  Command1.face.SetEnabled(context_.Connected && !Running());
+  Command1.face.SetEnabled(MayRun());
   if (!context_.Connected) return;
   DigitVin.face.SetCaption(DecText(context_.bench.info.BatteryVoltage));
   if (&plan_ != &kTestKA2) DigitSerial.face.SetCaption(context_.bench.info.SerialNumber);
 }
 
 void TestPage::ShowRunning(bool runs) {
-  Command1.face.SetEnabled(context_.Connected && !runs);
+  Command1.face.SetEnabled(!runs && MayRun());
   CommandStop.face.SetEnabled(runs);
   for (Face* face : {&TextOperator.face, &TextStation.face}) face->SetEnabled(!runs);
   if (Check1) Check1->face.SetEnabled(!runs);
+}
+
+void TestPage::Start() {
+  Comms& comms = context_.bench.comms;
+  comms.Reading().WhenFree([this, &comms] {
+    if (MayRun() && !comms.LinkBusy) RunTest();
+  });
 }
 
 void TestPage::RunTest() {
@@ -78,7 +99,7 @@ void TestPage::RunTest() {
   Values.Clear();
   LabelTest.face.SetColour(BackColour::Window);
   TestPanel& panel = *this;
-  run_.emplace(context_.bench, plan_, choice, panel);
+  run_.emplace(context_.bench, plan_, choice, panel, frame_);
   ShowRunning(true);
   context_.lendSession(true);
   const AtEnd ended([this] {
@@ -109,8 +130,8 @@ void TestPage::ShowStep(std::string_view text) { LabelTest.face.SetCaption(text)
 
 /// The columns of a row stand between tabs; its value tells whether it has passed.
 void TestPage::ShowMeasured(const Measurement& measured) {
-  Values.Add(measured.name + "\t" + measured.Text() + "\t" + measured.band.Text(),
-             measured.passed ? 1 : 0);
+  const std::string read = measured.value ? measured.Text() : "sin lectura";
+  Values.Add(measured.name + "\t" + read + "\t" + measured.band.Text(), measured.passed ? 1 : 0);
   Values.SetPosition(static_cast<int>(Values.Rows().size()) - 1);
 }
 
@@ -132,9 +153,6 @@ bool TestPage::AskAgain(const std::string& text) {
          BoxAnswer::Yes;
 }
 
-void TestPage::CloseSession() {
-  context_.lendSession(false);
-  if (context_.Connected) context_.IniCom_Click();
-}
+void TestPage::CloseSession() { context_.closeLent(); }
 
 }  // namespace ostrel

@@ -18,7 +18,9 @@ struct TestPageContext {
   const bool& Connected;
   Station usual;                            ///< where none is stored
   std::function<void()> IniCom_Click;       ///< opens or closes the session at its next tick
+  std::function<bool()> mayLend{};          ///< whether nothing else uses the session
   std::function<void(bool)> lendSession{};  ///< nothing else may use it while it is lent
+  std::function<void()> closeLent{};        ///< closes it at its next tick, while it is lent
 };
 
 /// The page of one test. Its texts stand as they are in every language. The run happens within the
@@ -30,7 +32,7 @@ class TestPage final : public FrontForm, private TestPanel {
   Form& GetForm() override { return form_; }
   void LoadText() override {}
   void Form_Activate() override;
-  void Form_Deactivate() override { Timer1.SetEnabled(false); }
+  void Form_Deactivate() override;
 
   bool Running() const { return run_.has_value(); }
   /// Ends the run.
@@ -47,6 +49,9 @@ class TestPage final : public FrontForm, private TestPanel {
   void CloseSession() override;
 
   void Tick();
+  /// Begins behind a reading that is under way: all of the line's time is the run's.
+  void Start();
+  bool MayRun() const { return context_.Connected && !Running() && context_.mayLend(); }
   void RunTest();
   void ShowFirstFailed();
   void ShowRunning(bool runs);
@@ -68,6 +73,7 @@ class TestPage final : public FrontForm, private TestPanel {
   std::optional<Label> Label2;  ///< where the jumper of the fixture stands, with its picture
   std::optional<Picture> Picture1;
   std::optional<CheckBox> Check1;  ///< the keys are not tested
+  TestFrame frame_;                ///< the last reading of a board
   std::optional<TestRun> run_;
 };
 

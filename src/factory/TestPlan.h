@@ -5,8 +5,6 @@
 #include <string_view>
 #include <vector>
 
-#include "model/TargetProfile.h"
-
 namespace ostrel {
 
 class TestRun;
@@ -16,7 +14,6 @@ struct TestPlan {
   std::string_view form;       ///< name of its page
   std::string_view word;       ///< as a command line and the records name it
   std::string_view modelName;  ///< display name of the model that it is for
-  bool TargetProfile::*isFor;
   double scale;             ///< makes volts or degrees of what a board reads at its analog inputs
   std::string_view atRest;  ///< order that switches the fixture's outputs off
   /// Everything ahead of the record and the end of the session.

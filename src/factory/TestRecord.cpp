@@ -8,8 +8,6 @@
 namespace ostrel {
 
 bool Band::Holds(float value) const {
-  const auto word = static_cast<std::uint32_t>(static_cast<std::int32_t>(value));
-  const auto bits = static_cast<std::uint32_t>(static_cast<std::int32_t>(low));
   switch (kind) {
     case Kind::Within:
       return value >= low && value <= high;
@@ -23,10 +21,14 @@ bool Band::Holds(float value) const {
       return value > low;
     case Kind::Equal:
       return value == low;
-    case Kind::HasBits:
-      return (word & bits) == bits;
-    case Kind::GsmCode:
-      return GsmFailure(static_cast<std::int16_t>(value)).empty();
+    case Kind::HasBits: {
+      const auto word = RoundToEven<std::int32_t>(value), bits = RoundToEven<std::int32_t>(low);
+      return word && bits && (*word & *bits) == *bits;
+    }
+    case Kind::GsmCode: {
+      const auto state = RoundToEven<std::int16_t>(value);
+      return state && GsmFailure(*state).empty();
+    }
   }
   return false;
 }
@@ -54,10 +56,12 @@ std::string Band::Text() const {
 }
 
 std::string Measurement::Text() const {
+  if (!value) return {};
   constexpr int kDigits = 7;
   char digits[32];
   const auto end =
-      std::to_chars(digits, digits + sizeof digits, value, std::chars_format::general, kDigits).ptr;
+      std::to_chars(digits, digits + sizeof digits, *value, std::chars_format::general, kDigits)
+          .ptr;
   return {digits, end};
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -31,14 +32,14 @@ struct Band {
   std::string Text() const;
 };
 
-/// One value that a test has read of a board.
+/// One value that a test has judged of a board.
 struct Measurement {
   std::string name;
-  float value = 0;
+  std::optional<float> value;  ///< nothing where the reading did not come, and an older one counted
   Band band;
   bool passed = false;
 
-  /// The value in up to 7 digits, as many as a single-precision number has.
+  /// The value in up to 7 digits, as many as a single-precision number has; empty for none.
   std::string Text() const;
 };
 
@@ -61,8 +62,9 @@ struct TestRecord {
   std::string operatorName{};  ///< who tested
   std::string station{};       ///< where
   std::string serial{};        ///< as the board tells it at the end
-  std::string givenSerial{};   ///< written into the board by this run; empty when it kept its own
-  bool checked = false;  ///< false when the board did not confirm the first order: nothing ran
+  std::string givenSerial{};   ///< the board has confirmed it in this run; empty for none
+  bool checked = false;  ///< false when the board did not confirm the first order: what hangs on it
+                         ///< was left out
   TestVerdict verdict = TestVerdict::Failed;
   std::vector<Measurement> values{};
   std::vector<std::string> failures{};  ///< as the operator was told

@@ -1,5 +1,7 @@
 #include "factory/TestRun.h"
 
+#include <utility>
+
 #include "base/Numbers.h"
 #include "factory/GsmStates.h"
 #include "factory/RecordFile.h"
@@ -17,8 +19,13 @@ constexpr int kGsmPauseMs = 3000;
 }  // namespace
 
 TestRun::TestRun(const TestBench& bench, const TestPlan& plan, const TestChoice& choice,
-                 TestPanel& panel)
-    : bench_(bench), plan_(plan), choice_(choice), panel_(panel), line_(bench.comms.TheLine()) {}
+                 TestPanel& panel, TestFrame& frame)
+    : bench_(bench),
+      plan_(plan),
+      choice_(choice),
+      panel_(panel),
+      line_(bench.comms.TheLine()),
+      frame_(frame) {}
 
 const TestRecord& TestRun::Run() {
   began_ = bench_.platform.loop.Now();
@@ -27,6 +34,7 @@ const TestRecord& TestRun::Run() {
              .startedAt = bench_.platform.clock.LocalNow(),
              .operatorName = choice_.station.operatorName,
              .station = choice_.station.name};
+  bench_.book.Begins(record_);
   HoldLine();
   plan_.steps(*this);
   End();
@@ -34,8 +42,7 @@ const TestRecord& TestRun::Run() {
 }
 
 void TestRun::Stop() {
-  stopped_ = true;
-  line_.BreakOff();
+  if (!std::exchange(stopped_, true)) line_.BreakOff();
 }
 
 void TestRun::HoldLine() {
@@ -71,20 +78,20 @@ void TestRun::Delay(int ms) {
 
 void TestRun::ReadTestFrame() {
   if (!GoesOn()) return;
-  ostrel::ReadTestFrame(line_, plan_.scale, frame_);
+  isRead_ = ostrel::ReadTestFrame(line_, plan_.scale, frame_);
   NoteLine();
 }
 
 void TestRun::NumberBoard(bool isBlank) {
   if (!isBlank || !mayNumber_ || !GoesOn()) return;
-  Order("#F6" + newSerial_);
-  record_.givenSerial = newSerial_;
+  if (Order("#F6" + newSerial_)) record_.givenSerial = newSerial_;
 }
 
 void TestRun::ShowSerial() {
   if (!GoesOn()) return;
   hold_.reset();
   bench_.comms.ReadInfo();
+  NoteLine();
   HoldLine();
   panel_.ShowSerial(bench_.info.SerialNumber);
 }
@@ -115,7 +122,8 @@ void TestRun::Fail(std::string text) {
 
 void TestRun::Note(std::string_view name, float value, const Band& band, bool passed) {
   if (!GoesOn()) return;
-  record_.values.push_back({std::string(name), value, band, passed});
+  record_.values.push_back(
+      {std::string(name), isRead_ ? std::optional(value) : std::nullopt, band, passed});
   panel_.ShowMeasured(record_.values.back());
 }
 
@@ -130,14 +138,14 @@ void TestRun::Check(std::string_view name, float value, const Band& band, std::s
 void TestRun::TakeSerial() {
   if (!GoesOn()) return;
   int counter = 0;
-  const FileResult raised =
-      SerialCounter(bench_.platform.files, choice_.station.folder).Raise(counter);
+  const FileResult raised = SerialCounter(bench_.platform, choice_.station.folder).Raise(counter);
   mayNumber_ = raised.Ok();
   if (!mayNumber_) return Fail("Error en el contador de numeros de serie: " + raised.error);
   newSerial_ = SerialOf(bench_.platform.clock.LocalNow(), counter);
 }
 
 void TestRun::CheckBattery() {
+  isRead_ = bench_.comms.InfoFault().Ok();
   Check(kBatteryValue, bench_.info.BatteryVoltage,
         {.kind = Band::Kind::AtLeast, .low = kLeastBatteryVolts},
         "Tension de bateria demasiado baja", Telling::Plain);
@@ -171,6 +179,7 @@ void TestRun::End() {
   hold_.reset();
   record_.verdict = Verdict();
   Keep();
+  bench_.book.Ends(record_);
   panel_.CloseSession();
   if (GoesOn() && !plan_.lastRequest.empty()) panel_.Request(std::string(plan_.lastRequest));
   panel_.ShowStep(record_.verdict == TestVerdict::Passed ? "Control de calidad superado con exito"
@@ -183,7 +192,7 @@ void TestRun::Keep() {
   record_.duration = bench_.platform.loop.Now() - began_;
   for (bool again = true; again && !kept_;) {
     const FileResult kept =
-        KeepRecord(bench_.platform.files, choice_.station.folder, record_, plan_.values());
+        KeepRecord(bench_.platform, choice_.station.folder, record_, plan_.values());
     kept_ = kept.Ok();
     again = !kept_ && panel_.AskAgain("No se puede guardar el registro de la prueba en " +
                                       RecordPath(choice_.station.folder, record_.test) + ": " +

@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "factory/Station.h"
+#include "factory/TestBook.h"
 #include "factory/TestPanel.h"
 #include "factory/TestPlan.h"
 #include "factory/TestRecord.h"
@@ -22,6 +23,7 @@ struct TestBench {
   Comms& comms;
   const DeviceInfo& info;
   const TargetProfile& profile;
+  TestBook& book;
 };
 
 /// What is chosen for one run.
@@ -45,13 +47,17 @@ enum class Telling { Plain, WithReading };
 /// So the steps of a test stand in a straight list.
 class TestRun {
  public:
-  TestRun(const TestBench& bench, const TestPlan& plan, const TestChoice& choice, TestPanel& panel);
+  /// `frame` is the last reading of a board, also of runs before this one: where a board does not
+  /// answer, it is judged by that.
+  TestRun(const TestBench& bench, const TestPlan& plan, const TestChoice& choice, TestPanel& panel,
+          TestFrame& frame);
   TestRun(const TestRun&) = delete;
   TestRun& operator=(const TestRun&) = delete;
 
   /// Runs the test to its end. The result stands in the table of records, unless `Kept` says no.
   const TestRecord& Run();
-  /// Ends the run at the next moment, from within a wait of it.
+  /// Ends the run at the next moment, from within a wait of it. Later calls do nothing, so that the
+  /// order that switches the fixture off gets its time.
   void Stop();
   /// Whether the record is on the disk.
   bool Kept() const { return kept_; }
@@ -103,7 +109,8 @@ class TestRun {
   TestPanel& panel_;
   Line& line_;
   std::optional<Line::Dialogue> hold_;
-  TestFrame frame_;
+  TestFrame& frame_;
+  bool isRead_ = false;  ///< what is judged now has come from the board
   TestRecord record_;
   TimePoint began_{};
   std::string newSerial_;

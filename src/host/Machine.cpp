@@ -6,8 +6,8 @@ namespace ostrel {
 
 Machine::Machine()
     : ledger_(UserDataFolder() + "/ledger.db"),
-      map_(PortMap::FromSettings(settings_)),
-      serialPort_(loop, map_) {
+      devices_(MachineDevices(loop, settings_)),
+      serialPort_(loop, *devices_) {
   ports_.AddRange(kFirstPort, kFirstSimulatedPort - 1, serialPort_);
 }
 

@@ -4,13 +4,11 @@
 #include <string>
 
 #include "host/SimulatedLoggers.h"
+#include "host/System.h"
+#include "platform/DevicePort.h"
 #include "platform/Platform.h"
-#include "platform/qt/DeviceInspector.h"
-#include "platform/qt/PortMap.h"
 #include "platform/qt/QtClock.h"
 #include "platform/qt/QtEventLoop.h"
-#include "platform/qt/QtFiles.h"
-#include "platform/qt/QtSerialPort.h"
 #include "platform/qt/QtSettings.h"
 #include "platform/qt/SqlLedger.h"
 #include "platform/virtual/PortSwitch.h"
@@ -29,24 +27,21 @@ class Machine {
   SimulatedLoggers& AddSimulatedLoggers();
   /// Number of the port of a device path, an own one if it has none yet; 0 when there is none to
   /// give.
-  int NumberOfDevice(const std::string& path) { return map_.NumberFor(path); }
+  int NumberOfDevice(const std::string& path) { return devices_->NumberFor(path); }
+  /// Tells of the machine's own ports.
+  PortInspector& Inspector() { return *devices_; }
   /// All of it for a configurator, with what a face brings itself.
   Platform With(Dialogs& dialogs, Processes& processes);
 
   QtEventLoop loop;
-  QtFiles files;
+  SystemFiles files;
   QtClock clock;
 
  private:
   QtSettings settings_;
   SqlLedger ledger_;
-  PortMap map_;
-
- public:
-  DeviceInspector inspector{map_};
-
- private:
-  QtSerialPort serialPort_;
+  std::unique_ptr<SerialDevices> devices_;
+  DevicePort serialPort_;
   std::unique_ptr<SimulatedLoggers> simulated_;
   PortSwitch ports_;
 };

@@ -29,6 +29,7 @@ Comms::Comms(const Platform& platform, const LinkRecords& records, LinkHooks hoo
       records_(records),
       hooks_(std::move(hooks)),
       line_(platform.loop, platform.port),
+      background_(platform.loop, line_),
       download_(line_, progress_,
                 {hooks_.clearPages, hooks_.beginStream, hooks_.loadPages, records.ComBusy}),
       upload_(line_, progress_, records.info, hooks_.composed),

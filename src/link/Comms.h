@@ -8,6 +8,7 @@
 #include <utility>
 #include <vector>
 
+#include "link/Background.h"
 #include "link/Download.h"
 #include "link/FirmwareDialogue.h"
 #include "link/Line.h"
@@ -149,6 +150,8 @@ class Comms {
   [[nodiscard]] ProgressFeed::Subscription OnProgress(ProgressFeed::Listener listener) {
     return progress_.Listen(std::move(listener));
   }
+  /// Reading that gives way to what the operator asks for.
+  Background& Reading() { return background_; }
   /// The line, for a dialogue that is not one of these.
   Line& TheLine() { return line_; }
 
@@ -163,6 +166,7 @@ class Comms {
   LinkRecords records_;
   LinkHooks hooks_;
   Line line_;
+  Background background_;
   ProgressFeed progress_;
   Download download_;
   Upload upload_;

@@ -221,13 +221,13 @@ void Line::Note(std::string_view what, std::string_view text) const {
 }
 
 Line::Dialogue::Dialogue(Line& line) : line_(line), wasBusy_(std::exchange(line.LinkBusy, true)) {
-  line.heldOut_ = line.unsendable_ = line.brokenOff_ = false;
+  line.heldOut_ = line.unsendable_ = line.brokenOff_ = line.givesWay_ = false;
   line.ExpectAnswer(true);
 }
 
 Line::Dialogue::~Dialogue() {
   line_.LinkBusy = wasBusy_;
-  line_.heldOut_ = line_.unsendable_ = line_.brokenOff_ = false;
+  line_.heldOut_ = line_.unsendable_ = line_.brokenOff_ = line_.givesWay_ = false;
 }
 
 Line::Limit::Limit(Line& line, Duration span) : line_(line), former_(line.limit_) {

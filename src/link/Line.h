@@ -41,6 +41,9 @@ class Line {
   /// Makes the dialogue under way break off, as silence would: what waits in it ends, and the port
   /// stays open.
   void BreakOff() { brokenOff_ = LinkBusy; }
+  /// Asks the dialogue under way to end behind the message under way, which is not sent again.
+  void GiveWay() { givesWay_ = LinkBusy; }
+  bool GivesWay() const { return givesWay_; }
   /// A fault of the dialogue under way. What ended the line counts more than what it led to.
   LinkFault FaultNow(LinkFault::Kind kind, int number = 0, std::string text = {}) const;
   /// The fault of having waited for a frame in vain.
@@ -164,6 +167,7 @@ class Line {
   bool unsendable_ = false;  ///< a message of the dialogue could not be sent, which ends it
   bool heldOut_ = false;     ///< flow control has held the line for so long that the dialogue ends
   bool brokenOff_ = false;   ///< the dialogue is to end
+  bool givesWay_ = false;    ///< the dialogue is to end behind its message
   bool torn_ = false;        ///< the last message may have left in part, without its end
 };
 

@@ -35,7 +35,7 @@ void Line::TxSer(std::string& message, int timeout) {
   NoteQuestion();
   for (int attempt = 0; attempt < kLinkAttempts && GoesOn(); ++attempt) {
     send();
-    if (!AwaitSent() || RxSer(timeout)) return;
+    if (!AwaitSent() || RxSer(timeout) || givesWay_) return;
   }
 }
 

@@ -37,8 +37,11 @@ LinkFault FetchLive(Line& line, const std::vector<LiveRequest>& requests, const 
   LinkFault ofMasks;
   for (const LiveRequest& request : requests) {
     LinkFault fault = Fetch(line, request);
+    // What was cut short says nothing about the logger.
+    if (line.GivesWay() && !fault.Ok()) break;
     if (request.read) request.read->Note(fault.Ok(), clock.LocalTime());
     if (request.message == kMasksRequest) ofMasks = std::move(fault);
+    if (line.GivesWay()) break;
   }
   const LinkFault end = EndOf(line);
   return end.Ok() ? ofMasks : end;

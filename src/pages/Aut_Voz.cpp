@@ -73,8 +73,8 @@ VoiceListControls::VoiceListControls(Form& form, PageContext& context)
   PasteBut.OnClick = [this] { Paste(); };
   ImportBut.OnClick = [this] { Import(); };
   ExportBut.OnClick = [this] { Export(); };
-  ReadBut.OnClick = [this] { Read(); };
-  WriteBut.OnClick = [this] { Write(); };
+  ReadBut.OnClick = [this] { context_.WhenFree([this] { Read(); }); };
+  WriteBut.OnClick = [this] { context_.WhenFree([this] { Write(); }); };
   Tick();
 }
 

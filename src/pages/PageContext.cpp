@@ -15,6 +15,13 @@ std::string PageContext::ConfReadKey(std::string_view section, std::string_view 
   return std::string(iniTool.ProfileRead(section, key, ConfFilePath));
 }
 
+void PageContext::WhenFree(std::function<void()> action) const {
+  if (whenFree)
+    whenFree(std::move(action));
+  else
+    action();
+}
+
 void PageContext::EditActions(ActionList& actions, std::string_view subject) const {
   CopyActions(actions, ActionBuffer);
   showActEdit(subject);

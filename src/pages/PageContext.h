@@ -41,6 +41,9 @@ struct PageContext {
   std::function<void(std::string_view subject)> showActEdit{};
   /// Lets the tree show anew which expansion inputs are in use. Null without a tree.
   std::function<void()> repaintTree{};
+  /// Runs what wants the line to the logger, behind a reading that nobody waits for. Null without
+  /// such readings.
+  std::function<void(std::function<void()> action)> whenFree{};
   // The tools that a page opens, each modal.
   /// Lets the operator set the total of a pulse counter.
   std::function<void(std::int16_t meter)> showTotal{};
@@ -64,6 +67,8 @@ struct PageContext {
   std::string Translate(std::string_view text) const;
   /// Reads a key of the file at `ConfFilePath`; empty when it is absent.
   std::string ConfReadKey(std::string_view section, std::string_view key) const;
+  /// Runs what wants the line to the logger, at once or behind a reading that nobody waits for.
+  void WhenFree(std::function<void()> action) const;
   /// Lets the operator edit an action list. `subject` says whose it is.
   void EditActions(ActionList& actions, std::string_view subject = {}) const;
   /// Opens the help page of a word.

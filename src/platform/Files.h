@@ -74,9 +74,13 @@ class Files {
   virtual FileResult Append(const std::string& path, std::string_view octets) = 0;
   /// Runs `work` while every other program that asks for the same lock waits, on this machine or on
   /// another one that shares the folder. The file at `path` stands for the lock; it is made where
-  /// there is none and stays. A failure to get the lock within a few seconds runs nothing.
+  /// there is none and stays. Where another one has the lock, nothing is run, and the error is
+  /// `kHeldElsewhere`.
   virtual FileResult WhileLocked(const std::string& path, const std::function<void()>& work) = 0;
 };
+
+/// The error of a lock that another program has.
+inline constexpr std::string_view kHeldElsewhere = "another program holds it";
 
 /// Opens a text file to which is added while it is open. Null when it cannot be, which `why` tells.
 using OpenLogFile =

@@ -146,19 +146,31 @@ Configurator::Configurator(const Platform& platform, ConfiguratorOptions options
 Configurator::~Configurator() = default;
 
 void Configurator::ConnectPages() {
-  const auto setsTotal = [](SetTotal& dialog) {
-    return [&dialog](std::int16_t index) {
-      dialog.SetIndex(index);
-      dialog.ShowModal();
+  // A dialog that asks the logger cannot stand within a reading, which would wait for its end.
+  const auto setsTotal = [this](SetTotal& dialog, std::function<void()> behind) {
+    return [this, &dialog, behind = std::move(behind)](std::int16_t index) {
+      context.WhenFree([&dialog, behind, index] {
+        dialog.SetIndex(index);
+        dialog.ShowModal();
+        if (behind) behind();
+      });
     };
   };
+  context.whenFree = [this](std::function<void()> action) {
+    comms.Reading().WhenFree(std::move(action));
+  };
+  // A test run has the session, up to its end; the terminal shows what arrives by itself, which a
+  // round would take; an update must not find the line taken.
+  livePoll.Rests = [this] {
+    return session.IsLent() || general.Session().IniRequest || terminal.IsInFront() ||
+           firm.IsInFront();
+  };
   context.showActEdit = [this](std::string_view subject) { actEdit.ShowModal(subject); };
-  context.showTotal = setsTotal(setTotal);
-  context.showExpansionTotal = [this, set = setsTotal(expSetTotal)](std::int16_t index) {
-    set(index);
+  context.showTotal = setsTotal(setTotal, nullptr);
+  context.showExpansionTotal = setsTotal(expSetTotal, [this] {
     // The total of an expansion counter comes with the live values alone.
     if (Connected) comms.ReadRealTime();
-  };
+  });
   context.showPulseCalculator = [this](TextBox& field) { ayuda.ShowModal(field); };
   context.showMaskCalculator = [this] { ayudaHex.ShowModal(); };
   context.readProbeIdentity = [this]() -> std::optional<ProbeIdentity> {
@@ -175,7 +187,9 @@ TestPageContext Configurator::TestParts() {
           .Connected = Connected,
           .usual = options_.station,
           .IniCom_Click = [this] { general.Session().IniCom.Click(); },
-          .lendSession = [this](bool lent) { session.Lend(lent); }};
+          .mayLend = [this] { return session.MayLend(); },
+          .lendSession = [this](bool lent) { session.Lend(lent); },
+          .closeLent = [this] { session.CloseLent(); }};
 }
 
 TestPage* Configurator::RunningTest() {

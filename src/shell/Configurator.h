@@ -28,6 +28,7 @@
 #include "shell/StoredSettings.h"
 #include "shell/TargetSelect.h"
 #include "shell/ledger/LedgerKeeper.h"
+#include "shell/ledger/TestRunBook.h"
 #include "store/IniTool.h"
 #include "tools/Ayuda.h"
 #include "tools/AyudaHex.h"
@@ -136,7 +137,7 @@ class Configurator {
   /// Every form of the program: the pages' and the dialogs'.
   std::vector<Form*> Forms();
   /// What a test run has of the program.
-  TestBench Bench() { return {platform_, comms, info, profile}; }
+  TestBench Bench() { return {platform_, comms, info, profile, testRuns}; }
   /// Whether the tree has a node for the factory test.
   bool HasFactoryNode() const { return options_.factory; }
   /// The page whose test runs; null when none does.
@@ -161,6 +162,7 @@ class Configurator {
   IniTool iniTool;
   PageContext context;
   LedgerKeeper ledger;
+  TestRunBook testRuns{ledger};
 
  private:
   /// Runs an action on the pages of a fixed order.

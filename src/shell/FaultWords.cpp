@@ -124,8 +124,8 @@ Phrase FlashWords(FlashState flash) {
       break;
     case FlashState::InDoubt:
       return {
-          "the logger's flash may be erased: leave it powered and connected, and start the update "
-          "again with the same files"};
+          "the logger's flash may be erased: leave it powered and connected; if it tells of itself "
+          "in a new session, it is not; else start the update again with the same files"};
     case FlashState::Erased:
       return {
           "the logger's flash is erased and holds no firmware: leave it powered and connected, and "

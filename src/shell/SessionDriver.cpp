@@ -59,14 +59,25 @@ SessionDriver::SessionDriver(PageContext& context, Comms& comms, General& genera
 }
 
 void SessionDriver::Tick() {
-  if (ticking_ || lent_) return;
+  if (ticking_ || (lent_ && !mayClose_)) return;
   const Lent ticking(ticking_, true);
   if (session_.IniRequest && !Connected_) comms_.LinkBusy = false;
-  if (!comms_.LinkBusy && session_.IniRequest) OpenOrClose();
-  if (!Serves()) return;
+  if (comms_.LinkBusy) return TickBehind();
+  if (session_.IniRequest) OpenOrClose();
+  if (lent_ || !Serves()) return;
   Serve(session_.WriteRequest, ServeWrite, &SessionDriver::Upload);
   Serve(session_.ReadRequest, ServeRead, &SessionDriver::Download);
-  if (Connected_ && general_.PageActive) comms_.ReadInfo();
+  if (!Connected_ || !general_.PageActive) return;
+  comms_.Reading().Run(Background::Cut::Never, [this] { comms_.ReadInfo(); });
+}
+
+/// Live rounds may follow so closely that each tick falls into one.
+void SessionDriver::TickBehind() {
+  if (!isLate_)
+    isLate_ = comms_.Reading().Behind([this] {
+      isLate_ = false;
+      Tick();
+    });
 }
 
 void SessionDriver::AskFor(SessionPhase kind) {
@@ -78,6 +89,7 @@ void SessionDriver::AskFor(SessionPhase kind) {
 
 void SessionDriver::Lend(bool lent) {
   lent_ = lent;
+  mayClose_ = false;
   session_.EnableTransfers(Connected_ && !lent);
   SetState(state_);
 }

@@ -78,6 +78,17 @@ class SessionDriver {
   void Lend(bool lent);
   /// Whether a test run has the session.
   bool IsLent() const { return lent_; }
+  /// Closes the session that is lent with the next tick: the run has had its last word with the
+  /// logger.
+  void CloseLent() {
+    mayClose_ = true;
+    if (Connected_) session_.IniRequest = true;
+  }
+  /// Whether it stands, and nobody has it: a test run may begin.
+  bool MayLend() const {
+    return state_.phase == SessionPhase::Open && !lent_ && !HasRequest() &&
+           listWork_ == ListWork::None;
+  }
 
   const SessionState& State() const { return state_; }
   /// Number of the port that a session was last asked on; 0 before.
@@ -133,6 +144,7 @@ class SessionDriver {
   class Working;
 
   void OpenOrClose();
+  void TickBehind();
   void Serve(bool& request, const std::function<void()>& byFace, bool (SessionDriver::*transfer)());
   void ReadAfterConnect(OpenTo wanted);
   void CompareClocks();
@@ -160,6 +172,8 @@ class SessionDriver {
   std::int16_t port_ = 0;
   bool ticking_ = false;
   bool lent_ = false;
+  bool mayClose_ = false;     ///< the session that is lent may be closed
+  bool isLate_ = false;       ///< a tick waits for the end of a reading
   bool fromAnyPage_ = false;  ///< the request that waits needs no general page
   bool unverified_ = false;   ///< the logger has taken over what was not read back since
   bool brokenOff_ = false;

@@ -49,6 +49,9 @@ struct FixtureScript {
 
   /// States of the modem, each from a moment after the board was put in.
   std::vector<std::pair<Duration, int>> gsm{{Duration{}, 0}, {std::chrono::seconds{4}, 1}};
+
+  /// Hundredths of a volt that the board tells of its battery; without, those of its options.
+  std::optional<int> battery{};
 };
 
 /// A fixture with a board in it, as far as orders and time have brought it.
@@ -58,6 +61,7 @@ class Fixture {
 
   /// The fixture may be changed while a board is in it.
   FixtureScript& Script() { return script_; }
+  const FixtureScript& Script() const { return script_; }
 
   /// A board is put in and wakes up.
   void PutIn(TimePoint now);

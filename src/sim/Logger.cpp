@@ -216,7 +216,8 @@ void Logger::ReplyRecord(std::string_view head, int number, std::string_view rec
 
 bool Logger::AnswerInformation(std::string_view rest) {
   if (!rest.empty()) return false;
-  const int battery = options_.battery + static_cast<int>(options_.seed % 30);
+  const int battery =
+      fixture_.Script().battery.value_or(options_.battery + static_cast<int>(options_.seed % 30));
   std::string volts = std::to_string(battery / 100) + ".";
   AppendPadded(volts, battery % 100, 2);
   const std::int64_t used = 1200 + Seconds() / 60;

@@ -6,6 +6,7 @@
 #include "base/CodePage.h"
 #include "base/Printable.h"
 #include "host/LoggerText.h"
+#include "sim/FixtureText.h"
 
 namespace ostrel {
 namespace {
@@ -27,6 +28,8 @@ void AddOptions(CLI::App& app, SimOptions& options, Texts& texts) {
   app.add_flag("--pace", options.isPaced, "960 octets a second, as on a cable");
   app.add_flag("--empty", options.isEmpty, "Start without a configuration");
   app.add_option("--state", options.stateFile, "File in which the logger is kept");
+  app.add_option("--fixture", options.fixture,
+                 "File that tells how a BP, KA2 or BQ and its fixture do in a factory test");
   app.add_option("--replay", options.replay,
                  "Recording of ostrelctl --record whose logger is played; no other option of a "
                  "logger counts then");
@@ -40,7 +43,7 @@ void AddOptions(CLI::App& app, SimOptions& options, Texts& texts) {
       })
       ->capture_default_str();
   app.add_option("--link", options.link, "Symbolic link to make to the pseudo-terminal");
-  app.footer("Faults:\n" + sim::FaultHelp());
+  app.footer("Faults:\n" + sim::FaultHelp() + "\nLines of a fixture:\n" + sim::FixtureHelp());
 }
 
 /// What is wrong with the texts; empty when all could be taken over.

@@ -16,6 +16,7 @@ struct SimOptions {
   bool isPaced = false;
   bool isEmpty = false;   ///< starts without a configuration
   std::string stateFile;  ///< empty for none
+  std::string fixture;    ///< file of the fixture that it is tested in; empty for a good board
   std::string replay;     ///< recording whose logger is played; empty for none
   std::string link;       ///< path that is to lead to the pseudo-terminal; empty for none
 };

@@ -45,7 +45,7 @@ Firm::Firm(ToolContext& context)
       })) {
   FirmBut.OnClick = [this] { Choose(FirmPath); };
   LoaderBut.OnClick = [this] { Choose(LoaderPath); };
-  StarBut.OnClick = [this] { Start(); };
+  StarBut.OnClick = [this] { context_.comms.Reading().WhenFree([this] { Start(); }); };
   Help.OnClick = [this] { context_.ShowHelp("Firmware"); };
   Timer1.OnTimer = [this] { LoadText(); };
 }
@@ -57,9 +57,15 @@ void Firm::Form_Load() {
   SetInfo("Preparado");
 }
 
-void Firm::Form_Activate() { Timer1.SetEnabled(true); }
+void Firm::Form_Activate() {
+  isActive_ = true;
+  Timer1.SetEnabled(true);
+}
 
-void Firm::Form_Deactivate() { Timer1.SetEnabled(false); }
+void Firm::Form_Deactivate() {
+  isActive_ = false;
+  Timer1.SetEnabled(false);
+}
 
 void Firm::SetInfo(std::string_view key) {
   LabelInfo.face.SetCaption(key, context_.Translate(key));

@@ -20,6 +20,7 @@ class Firm final : public FrontForm {
   void Form_Load() override;
   void Form_Activate() override;
   void Form_Deactivate() override;
+  bool IsInFront() const { return isActive_; }
 
  private:
   void Choose(TextBox& path);
@@ -45,6 +46,7 @@ class Firm final : public FrontForm {
   Button Help;
   Timer Timer1;
   std::size_t imageOctets_ = 0;  ///< as stored
+  bool isActive_ = false;
   ProgressFeed::Subscription progress_;
 };
 

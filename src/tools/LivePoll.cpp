@@ -1,5 +1,7 @@
 #include "tools/LivePoll.h"
 
+#include <optional>
+
 namespace ostrel {
 
 LivePoll::LivePoll(ToolContext& context) : context_(context) {}
@@ -20,11 +22,16 @@ void LivePoll::Tick() {
 }
 
 void LivePoll::Read() {
-  if (!context_.Connected || context_.comms.LinkBusy) return;
-  context_.comms.ReadRealTime();
-  const LiveRound round = Present();
-  context_.comms.ReadDeviceRTC();
-  rounds_.Tell(round);
+  if (!context_.Connected || (Rests && Rests())) return;
+  Background& reading = context_.comms.Reading();
+  std::optional<LiveRound> round;
+  reading.Run(Background::Cut::BetweenMessages, [&] {
+    context_.comms.ReadRealTime();
+    if (reading.IsCut()) return;
+    round = Present();
+    context_.comms.ReadDeviceRTC();
+  });
+  if (round) rounds_.Tell(*round);
 }
 
 LiveRound LivePoll::Present() const {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 
 #include "base/Feed.h"
@@ -16,7 +17,8 @@ inline constexpr Duration kLivePeriod = std::chrono::milliseconds(500);
 ///
 /// A monitor reads while it has the front. Beside that, rounds go on for whoever keeps them going,
 /// whichever page is in front. A tick that finds a round under way does nothing, so that together
-/// they read no more often than the line bears.
+/// they read no more often than the line bears: whoever shows live values follows the rounds, not
+/// its own ticks.
 class LivePoll {
  public:
   explicit LivePoll(ToolContext& context);
@@ -32,8 +34,11 @@ class LivePoll {
   /// Keeps the rounds going as long as the result lives.
   [[nodiscard]] std::shared_ptr<const void> KeepGoing();
 
-  /// One round: the live values and the logger's clock. Tells it, whatever came; nothing is told or
-  /// sent while no session stands or another dialogue has the line.
+  /// Whether the line is somebody's own now, and no round may begin. Null where it never is.
+  std::function<bool()> Rests;
+
+  /// One round: the live values and the logger's clock. Tells it, whatever came, when it was not
+  /// cut; nothing is told or sent while no session stands or another dialogue has the line.
   void Read();
   /// The round as the records hold it now.
   LiveRound Present() const;

@@ -17,7 +17,7 @@ SetTotal::SetTotal(ToolContext& context, const CounterKind& kind)
       LabelEstado(form_, "LabelEstado"),
       OKButton(form_, "OKButton", "Actualizar"),
       CancelButton(form_, "CancelButton", "Salir") {
-  OKButton.OnClick = [this] { Update(); };
+  OKButton.OnClick = [this] { context_.comms.Reading().WhenFree([this] { Update(); }); };
   CancelButton.OnClick = [this] { form_.Close(); };
   for (Face* face : {&LabelActual.face, &LabelPreValue.face}) face->SetVisible(kind.hasTotals);
 }
@@ -38,7 +38,8 @@ void SetTotal::SetState(std::string_view text) {
 
 void SetTotal::ShowModal() {
   Form_Load();
-  ostrel::ShowModal(context_.dialogs, form_, [this] { Refresh(); });
+  ostrel::ShowModal(context_.dialogs, form_,
+                    [this] { context_.comms.Reading().WhenFree([this] { Refresh(); }); });
 }
 
 void SetTotal::Form_Load() {

@@ -50,7 +50,13 @@ void T_Real_Katodex::LoadText() {
 
 void T_Real_Katodex::Form_Activate() {
   LoadText();
+  rounds_ = poll_.OnRound([this](const LiveRound&) { TakeRound(); });
   Timer1.SetEnabled(true);
+}
+
+void T_Real_Katodex::Form_Deactivate() {
+  Timer1.SetEnabled(false);
+  rounds_.reset();
 }
 
 void T_Real_Katodex::OutputChange(std::int16_t index) {
@@ -61,12 +67,15 @@ void T_Real_Katodex::OutputChange(std::int16_t index) {
 void T_Real_Katodex::Poll() {
   LoadText();
   if (context_.comms.LinkBusy) return;
-  if (context_.Connected) {
-    poll_.Read();
-    if (pending_) context_.comms.SetOutput(*std::exchange(pending_, {}));
-    ShowNames();
-  }
+  if (context_.Connected) return poll_.Read();
   if (hasNames_) Show();
+}
+
+/// Also of rounds that go on for others, into which all ticks may fall.
+void T_Real_Katodex::TakeRound() {
+  if (pending_) context_.comms.SetOutput(*std::exchange(pending_, {}));
+  ShowNames();
+  Show();
 }
 
 void T_Real_Katodex::ShowNames() {

@@ -19,13 +19,14 @@ class T_Real_Katodex final : public FrontForm {
   Form& GetForm() override { return form_; }
   void LoadText() override;
   void Form_Activate() override;
-  void Form_Deactivate() override { Timer1.SetEnabled(false); }
+  void Form_Deactivate() override;
   /// Switches an output over with the next round. All outputs are written at once, so of two in
   /// one round the second alone takes effect.
   void OutputChange(std::int16_t index);
 
  private:
   void Poll();
+  void TakeRound();
   void ShowNames();
   void Show();
 
@@ -45,8 +46,9 @@ class T_Real_Katodex final : public FrontForm {
   Labels Label4;
   MathPart math_;
   Timer Timer1;
-  bool hasNames_ = false;                ///< those of the first round stay for the whole run
-  std::optional<std::int16_t> pending_;  ///< the outputs to be written
+  LivePoll::RoundFeed::Subscription rounds_;  ///< while it has the front
+  bool hasNames_ = false;                     ///< those of the first round stay for the whole run
+  std::optional<std::int16_t> pending_;       ///< the outputs to be written
 };
 
 }  // namespace ostrel

@@ -4,6 +4,7 @@
 #include <array>
 
 #include "base/Numbers.h"
+#include "base/Scope.h"
 
 namespace ostrel {
 namespace {
@@ -71,10 +72,14 @@ void T_Real_Tavro::Form_Activate() {
   LoadText();
   Shape();
   Show();
+  rounds_ = poll_.OnRound([this](const LiveRound&) { TakeRound(); });
   Timer1.SetEnabled(true);
 }
 
-void T_Real_Tavro::Form_Deactivate() { Timer1.SetEnabled(false); }
+void T_Real_Tavro::Form_Deactivate() {
+  Timer1.SetEnabled(false);
+  rounds_.reset();
+}
 
 int T_Real_Tavro::Outputs() const {
   return std::min<int>(context_.profile.OutputCount, kOutputLamps);
@@ -145,11 +150,17 @@ void T_Real_Tavro::Poll() {
   recorder_.Follow();
   // A tick waits for the end of another dialogue, as the reading does.
   if (context_.comms.LinkBusy) return;
-  if (context_.Connected) {
-    SwitchTicked();
-    poll_.Read();
-  }
+  if (!context_.Connected) return Show();
+  const Lent polling(polls_, true);
+  SwitchTicked();
+  poll_.Read();
+}
+
+/// Also of rounds that go on for others: what was ticked during one goes out behind it, since the
+/// ticks may all fall into them.
+void T_Real_Tavro::TakeRound() {
   Show();
+  if (!polls_) SwitchTicked();
 }
 
 void T_Real_Tavro::SwitchTicked() {

@@ -32,6 +32,7 @@ class T_Real_Tavro final : public FrontForm {
   void ShapeTabs();
 
   void Poll();
+  void TakeRound();
   void SwitchTicked();
   void Show();
   void ShowNames();
@@ -68,6 +69,8 @@ class T_Real_Tavro final : public FrontForm {
   std::deque<LimitBar> moduleBars_;
   MathPart math_;
   Timer Timer1;
+  LivePoll::RoundFeed::Subscription rounds_;  ///< while it has the front
+  bool polls_ = false;                        ///< the round under way is its own
 };
 
 }  // namespace ostrel

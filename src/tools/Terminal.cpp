@@ -91,7 +91,9 @@ void Terminal::Send(std::string_view head, TextBox& box, TypedHistory& history) 
 
 /// No reply is awaited: what the logger says is shown as it comes.
 void Terminal::Post(std::string message) {
-  if (!context_.comms.LinkBusy) context_.comms.TxSer(message, 0);
+  context_.comms.Reading().WhenFree([this, message = std::move(message)]() mutable {
+    if (!context_.comms.LinkBusy) context_.comms.TxSer(message, 0);
+  });
 }
 
 /// The path becomes that of the configuration file, which the two have in common.

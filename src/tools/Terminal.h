@@ -22,6 +22,7 @@ class Terminal final : public FrontForm {
   void LoadText() override;
   void Form_Activate() override;
   void Form_Deactivate() override;
+  bool IsInFront() const { return isActive_; }
 
  private:
   void Take();

@@ -117,6 +117,16 @@ TEST_F(EndToEnd, ConfigurationGoesRoundOverAPseudoTerminal) {
   EXPECT_THAT(Read("state"), HasSubstr("Depósito de la prueba")) << "kept whatever ends it";
 }
 
+TEST_F(EndToEnd, ABadBoardStandsInTheFixture) {
+  std::ofstream(Path("board")) << "keys 1\nbattery 4.2\n";
+  Simulator simulator({"--model", "BQ", "--fixture", Path("board")});
+  EXPECT_EQ(Run("ostrelctl", "--yes test bq --skip-keys --port " + simulator.path), 1)
+      << Read("err");
+  EXPECT_THAT(Read("out"), HasSubstr("4.2          >= 5           FAILED"));
+  EXPECT_EQ(Run("ostrel-sim", "--model KA2 --fixture " + Path("board")), 5);
+  EXPECT_THAT(Read("err"), HasSubstr("board: line 1: \"keys\" is for BQ, not for KA2"));
+}
+
 TEST_F(EndToEnd, AKilledUploadIsToldAndFinished) {
   Simulator simulator({"--model", "BP"});
   const std::string port = " --target BP --port " + simulator.path;

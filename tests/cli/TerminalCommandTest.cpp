@@ -77,7 +77,7 @@ TEST(TerminalCommand, WaitsOnACallForAnAnswerThatIsLongInComing) {
   EXPECT_EQ(world.Run(call), 0) << world.err;
   EXPECT_EQ(world.out, "Ostrel VR200 v4.12\nOUT=0\n");
   for (int i = 0; i < 2; ++i) {
-    EXPECT_EQ(world.Run(call + "--traces on"), 0) << world.err;
+    EXPECT_EQ(world.Run(call + "--traces on --seconds 20"), 0) << world.err;
     EXPECT_THAT(world.out, HasSubstr("OUT=0\n"));
   }
 }

@@ -59,7 +59,14 @@ TEST_F(FactoryTest, WhatIsNotPassedEndsWithOne) {
   world.Logger(sim::Model::BQ).InFixture().Script().gsm = {{Duration{}, 2}};
   EXPECT_EQ(world.Run("test bq --skip-keys --quiet --port sim:BQ"), 1);
   EXPECT_THAT(world.err, HasSubstr("Error, PIN bloqueado"));
-  EXPECT_THAT(world.out, HasSubstr("not 0, 2..8   FAILED"));
+  EXPECT_THAT(world.out, HasSubstr("not 0, 2..8    FAILED"));
+  EXPECT_EQ(world.Run("history --serial 2603020001"), 0);
+  EXPECT_THAT(world.out, HasSubstr("test run      failed    Tavro BQ 2603020001  bq, root, bench: "
+                                   "Error, PIN bloqueado\n"));
+  EXPECT_EQ(world.Run("history show 2"), 0);
+  EXPECT_THAT(world.out, HasSubstr("detail        bq, root, bench\n"
+                                   "              new number 2603020001\n"
+                                   "              VBat = "));
 }
 
 TEST_F(FactoryTest, WhatBreaksOffEndsWithFourAndIsRecorded) {
@@ -80,7 +87,7 @@ TEST_F(FactoryTest, ABoardThatDoesNotConfirmIsNoSuccess) {
   World refusing(WithFaults({"refuse-command@1!once"}));
   EXPECT_EQ(refusing.Run("test main --port sim:BP --yes"), 4);
   EXPECT_THAT(refusing.err, HasSubstr("Control de calidad superado con exito"));
-  EXPECT_THAT(refusing.err, HasSubstr("nothing of it was checked"));
+  EXPECT_THAT(refusing.err, HasSubstr("the checks behind it did not run"));
 }
 
 TEST_F(FactoryTest, WhatMakesNoSenseIsRefusedAheadOfASession) {

@@ -1,4 +1,5 @@
 #include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTableWidget>
 #include <QTreeWidget>
@@ -63,6 +64,27 @@ TEST_F(WindowHistory, FindsOpensAndComparesWhatWas) {
   EXPECT_EQ(Core().conf.General.DNAME, read);
   EXPECT_EQ(Core().ConfFilePath, Path("history/entry-2.ocf"));
   EXPECT_EQ(ledger.entries.back().serial, logger->Options().serial);
+}
+
+TEST_F(WindowHistory, TellsATestRunInItsOwnLanguage) {
+  ledger.Add({.kind = LedgerKind::TestRun,
+              .state = LedgerState::Failed,
+              .fault = "stopped: Error, PIN bloqueado",
+              .detail = "bq, Ana\nnew number 1203050001\nVBat = 4.69 (>= 5) FAILED"});
+  ModalScript modals;
+  modals.Expect([&](QWidget* modal) {
+    auto* table = modal->findChild<QTableWidget*>();
+    auto* measured = modal->findChild<QPlainTextEdit*>("Details");
+    EXPECT_EQ(table->item(0, 2)->text(), "prueba de fábrica");
+    EXPECT_EQ(table->item(0, 6)->text(), "bq, Ana, se paró: Error, PIN bloqueado");
+    EXPECT_FALSE(measured->isVisible());
+    table->selectRow(0);
+    EXPECT_TRUE(measured->isVisible());
+    EXPECT_EQ(measured->toPlainText(), "número nuevo 1203050001\nVBat = 4.69 (>= 5) FALLO");
+    Press(modal, Qt::Key_Escape);
+  });
+  Tool("Historial")->trigger();
+  EXPECT_EQ(modals.Left(), 0U);
 }
 
 TEST_F(WindowHistory, TellsOfWhatWasInterruptedAndOffersAWayOut) {

@@ -4,6 +4,7 @@
 
 #include <QAction>
 #include <QLabel>
+#include <QMenu>
 #include <QToolBar>
 #include <stdexcept>
 
@@ -23,9 +24,11 @@ class OpenWindow : public testing::Test, protected WindowWorld<VirtualLoop> {
   }
   Configurator& Core() { return desktop->Core(); }
   MainWindow& Window() { return desktop->Window(); }
-  /// The tool of a text; the tools are made in Spanish.
+  /// The tool of a text, in the bar or behind its last tool; the tools are made in Spanish.
   QAction* Tool(const QString& text) {
-    for (QAction* action : Window().findChild<QToolBar*>("Tools")->actions())
+    QList<QAction*> tools = Window().findChild<QToolBar*>("Tools")->actions();
+    tools << tools.back()->menu()->actions();
+    for (QAction* action : tools)
       if (action->text() == text) return action;
     throw std::invalid_argument("no tool " + FromQt(text));
   }

@@ -6,6 +6,7 @@
 #include <QFileDialog>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QMenu>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QRadioButton>
@@ -81,7 +82,14 @@ class Road : public testing::Test, protected WindowWorld<VirtualLoop> {
 };
 
 void Road::StartOnAnEmptyStore() {
-  modals.Expect([](QWidget* modal) {
+  UseLanguage("es");  // as an earlier window may have left it
+  modals.Expect([this](QWidget* modal) {
+    const QList<QAction*> tools = desktop->Window().findChild<QToolBar*>("Tools")->actions();
+    EXPECT_EQ(QStringList({tools[0]->text(), tools[1]->text(), tools[2]->text(),
+                           tools.back()->menu()->actions().back()->text()}),
+              QStringList({Words::tr("Open"), Words::tr("Save"), Words::tr("Save as"),
+                           Words::tr("Language")}))
+        << "one language while the question for it stands";
     Press(modal->findChild<QComboBox*>("ComboLang"), Qt::Key_Down);
     Accept(modal, "CommandOk");
   });

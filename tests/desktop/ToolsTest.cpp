@@ -6,6 +6,7 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTableWidget>
+#include <QTimer>
 #include <QTreeWidget>
 #include <QTreeWidgetItemIterator>
 
@@ -39,6 +40,30 @@ TEST_F(WindowTools, MarksWhatIsNotSavedWithoutCommittingIt) {
   EXPECT_EQ(Core().conf.Digital[0].NOMBRE, "");
   name.Type("");
   EXPECT_FALSE(isMarked());
+}
+
+TEST_F(WindowTools, AllHaveRoomInAWindowOfTheUsualSizeAndTheKeyboardReachesThem) {
+  Window().resize(1280, 720);
+  Window().show();
+  for (const auto* languageTool : {"Idioma", "Language"}) {
+    QCoreApplication::processEvents();
+    for (const QToolBar* bar : Window().findChildren<QToolBar*>())
+      for (QAction* tool : bar->actions()) {
+        const QWidget* widget = bar->widgetForAction(tool);
+        EXPECT_TRUE(widget->isVisible()) << FromQt(tool->text());
+        const bool isTool = !tool->text().isEmpty();
+        EXPECT_EQ(widget->focusPolicy() == Qt::TabFocus, isTool) << FromQt(tool->text());
+      }
+    ChooseLanguage(1, languageTool);
+  }
+  QAction* more = Tool("More");
+  const QWidget* opened = nullptr;
+  QTimer::singleShot(0, &Window(), [&opened] {
+    opened = QApplication::activePopupWidget();
+    if (opened) QApplication::activePopupWidget()->close();
+  });
+  more->trigger();  // as its keys do
+  EXPECT_EQ(opened, more->menu());
 }
 
 TEST_F(WindowTools, OpensATreeNodeFromTheFilter) {

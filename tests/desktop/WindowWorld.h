@@ -9,7 +9,7 @@
 #include "desktop/forms/QtDialogs.h"
 #include "desktop/forms/Words.h"
 #include "desktop/program/Desktop.h"
-#include "platform/qt/QtFiles.h"
+#include "host/System.h"
 #include "platform/virtual/LinePort.h"
 #include "platform/virtual/VirtualClock.h"
 #include "platform/virtual/VirtualDialogs.h"
@@ -77,7 +77,7 @@ struct WindowWorld {
   Loop loop;
   LinePort port{loop};
   VirtualSettings settings;
-  QtFiles files;
+  SystemFiles files;
   VirtualProcesses processes;
   VirtualClock clock;
   VirtualLedger ledger;

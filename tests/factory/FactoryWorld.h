@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include "base/Csv.h"
 #include "shell/SimWorld.h"
 
 namespace ostrel {
@@ -94,33 +95,23 @@ class TestStation {
   Duration took{};
 };
 
-/// Fields of a row without quotes in it.
-inline Texts FieldsIn(std::string_view row) {
-  Texts fields{""};
-  bool isQuoted = false;
-  for (const char c : row) {
-    if (c == '"')
-      isQuoted = !isQuoted;
-    else if (c == ',' && !isQuoted)
-      fields.emplace_back();
-    else
-      fields.back() += c;
-  }
-  return fields;
-}
-
 inline std::map<std::string, std::string> TestStation::LastRecord(const std::string& test) {
-  const std::string table = Records(test);
-  const std::size_t end = table.rfind("\r\n");
-  if (end == std::string::npos) return {};
-  const std::size_t start = table.rfind("\r\n", end - 1) + 2;
-  const Texts names = FieldsIn(table.substr(0, table.find("\r\n")));
-  const Texts fields = FieldsIn(table.substr(start, end - start));
+  const auto rows = ReadCsv(Records(test));
+  if (!rows || rows->size() < 2) return {};
+  const Texts &names = rows->front(), &fields = rows->back();
   EXPECT_EQ(names.size(), fields.size());
   std::map<std::string, std::string> record;
   for (std::size_t i = 0; i < std::min(names.size(), fields.size()); ++i)
     record[names[i]] = fields[i];
   return record;
+}
+
+/// What a good board is sent: a fault at one place changes nothing of it.
+inline Texts OrdersOfAGoodBoard(const sim::LoggerOptions& board) {
+  TestStation station(board);
+  station.Run();
+  EXPECT_EQ(station.Status(), kPassedText);
+  return station.Orders();
 }
 
 }  // namespace ostrel

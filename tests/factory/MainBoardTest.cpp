@@ -72,6 +72,7 @@ constexpr const char* kFailures[8][5] = {
      "Error en A3, se esperaba 2.5, lectura="}};
 
 TEST(MainBoard, EachFailureIsToldInItsPlaceAndTheRunGoesOn) {
+  const Texts orders = OrdersOfAGoodBoard(Board(sim::Model::BP));
   for (std::size_t stage = 0; stage < 8; ++stage) {
     for (std::size_t value = 0; value < 5; ++value) {
       SCOPED_TRACE(std::to_string(stage) + "." + std::to_string(value));
@@ -92,7 +93,7 @@ TEST(MainBoard, EachFailureIsToldInItsPlaceAndTheRunGoesOn) {
       EXPECT_THAT(station.Boxes(), ElementsAre(failure, kMainLast));
       EXPECT_EQ(readings, stage + 1) << "told within its stage";
       EXPECT_EQ(station.Status(), kFailedText);
-      EXPECT_EQ(station.Orders().size(), 20u) << "all that a good board is sent";
+      EXPECT_EQ(station.Orders(), orders);
       EXPECT_EQ(station.LastRecord("main")["failures"], failure);
     }
   }
@@ -161,6 +162,7 @@ TEST(MainBoard, TheModemIsAwaitedForElevenRounds) {
       {{{0, -1}}, 1, ""},
       {{{0, 0}, {32, 1}}, 11, ""},
   };
+  const Texts orders = OrdersOfAGoodBoard(Board(sim::Model::BP, "BP-1"));
   for (const Case& one : cases) {
     SCOPED_TRACE(one.states.back().second);
     TestStation station(Board(sim::Model::BP, "BP-1"));
@@ -179,6 +181,7 @@ TEST(MainBoard, TheModemIsAwaitedForElevenRounds) {
     Texts boxes = station.Boxes();
     boxes.pop_back();
     EXPECT_EQ(boxes, *one.failure ? Texts{one.failure} : Texts{});
+    EXPECT_EQ(station.Orders(), orders);
     EXPECT_EQ(station.Status(), *one.failure ? kFailedText : kPassedText);
   }
 }

@@ -64,24 +64,34 @@ TEST(KA2Board, EachFailureIsToldInItsPlace) {
       {[](auto& fixture) { fixture.mainsLasts.reset(); },
        {kBattery, kMainsOff, "Error en deteccion fallo de red"}},
   };
+  const Texts orders = OrdersOfAGoodBoard(Board(sim::Model::KA2));
   for (const Case& one : cases) {
     TestStation station(Board(sim::Model::KA2));
     one.spoil(station.Fixture());
     station.Run();
     EXPECT_EQ(station.Boxes(), one.boxes);
+    EXPECT_EQ(station.Orders(), orders);
     EXPECT_EQ(station.Status(), one.boxes.size() == 2 ? kPassedText : kFailedText);
   }
 }
 
+/// Both voltages have 21 rounds of their own, the second counted anew.
 TEST(KA2Board, ChargeInTheVeryLastRoundIsTooLate) {
-  for (const auto& [rounds, passes] : {std::pair{19, true}, {20, false}}) {
+  for (const auto& [falling, rising, failures] :
+       {std::tuple{19, 19, 0}, {20, 0, 1}, {0, 20, 1}, {20, 20, 2}}) {
     TestStation station(Board(sim::Model::KA2));
     auto& charger = station.Fixture().charger;
-    charger.assign(static_cast<std::size_t>(rounds), 3.0F);
-    charger.insert(charger.end(), {0.05F, 4.2F});
+    charger.assign(static_cast<std::size_t>(falling), 3.0F);
+    charger.push_back(0.05F);
+    charger.insert(charger.end(), static_cast<std::size_t>(rising), 3.0F);
+    charger.push_back(4.2F);
     station.Run();
-    EXPECT_EQ(station.Status() == kPassedText, passes) << rounds;
-    EXPECT_EQ(station.LastRecord("ka2")["Carga baja"], "0.05") << "reached all the same";
+    EXPECT_EQ(station.Boxes().size(), static_cast<std::size_t>(2 + failures))
+        << falling << " " << rising;
+    EXPECT_EQ(station.Status() == kPassedText, failures == 0);
+    auto record = station.LastRecord("ka2");
+    EXPECT_EQ(record["Carga baja"], "0.05") << "reached all the same";
+    EXPECT_EQ(record["Carga sube"], "4.2");
   }
 }
 
@@ -179,6 +189,48 @@ TEST(BQBoard, AClosedPortEndsTheWaitForAKey) {
   EXPECT_EQ(station.Status(), kFailedText);
   EXPECT_EQ(station.LastRecord("bq")["verdict"], "broken off");
   EXPECT_FALSE(station.program->Connected) << "and is not opened anew";
+}
+
+// ---- The line
+
+/// Live values are read for a plot, say. The click falls into a round, and the operator takes his
+/// time at each request.
+TEST(TestPages, ARunHasTheLineToItself) {
+  TestStation station(Board(sim::Model::KA2, "-1"));
+  station.world.port.SetPaced(true);
+  const auto going = station.program->livePoll.KeepGoing();
+  bool isClicked = false;
+  station.onSent = [&](const std::string& message) {
+    if (message != "#22" || std::exchange(isClicked, true)) return;
+    station.sent.clear();
+    station.world.loop.After(std::chrono::milliseconds(1), "a click",
+                             [&] { station.Press("Command1"); });
+  };
+  station.world.dialogs.whileShown = [&](const MessageBox&) {
+    EXPECT_FALSE(station.program->comms.LinkBusy);
+    station.world.loop.RunFor(std::chrono::seconds(3));
+  };
+  station.world.loop.RunFor(std::chrono::seconds(60));
+  EXPECT_EQ(station.Status(), kPassedText);
+  EXPECT_FALSE(station.program->Connected);
+  EXPECT_THAT(station.sent, testing::Each(testing::Not(testing::AnyOf("#20", "#22", "#23"))));
+}
+
+TEST(TestPages, WhatWasNotReadIsNotRecorded) {
+  TestStation station(Board(sim::Model::KA2));
+  station.Run();
+  EXPECT_TRUE(station.program->session.Open(SimWorld::kPort, ""));
+  station.world.loop.RunFor(std::chrono::seconds(2));
+  station.onSent = [&](const std::string& message) {
+    if (message == kKA2Rest) station.world.logger->InFixture().Sleep();
+  };
+  station.Run();
+  const auto record = station.LastRecord("ka2");
+  EXPECT_EQ(record.at("Carga sube"), "");
+  EXPECT_EQ(record.at("Carga sube band"), "> 4.18");
+  EXPECT_THAT(station.Boxes(), testing::Contains("Error en circuito de carga, la tension no baja"))
+      << "judged by the last reading of the run before";
+  EXPECT_EQ(station.Status(), kFailedText);
 }
 
 }  // namespace

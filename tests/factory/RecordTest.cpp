@@ -9,6 +9,9 @@ namespace {
 
 using testing::ElementsAre;
 
+/// For the lock of a folder, for which others are waited for.
+constexpr std::size_t kTries = 102;
+
 TEST(Bands, EndsBelongToThemAsEachSays) {
   using Kind = Band::Kind;
   struct Case {
@@ -24,7 +27,8 @@ TEST(Bands, EndsBelongToThemAsEachSays) {
         Case{{Kind::Below, 0, 0.1F}, 0.09F, 0.1F, "< 0.1"},
         Case{{Kind::Above, 4.18F}, 4.19F, 4.18F, "> 4.18"},
         Case{{Kind::Equal, 170}, 170, 426, "= 170"}, Case{{Kind::HasBits, 256}, 426, 255, "& 256"},
-        Case{{Kind::GsmCode}, 9, 8, "not 0, 2..8"}}) {
+        Case{{Kind::GsmCode}, 9, 8, "not 0, 2..8"}, Case{{Kind::HasBits, 256}, 426, 1e38F, "& 256"},
+        Case{{Kind::GsmCode}, 9, 1e38F, "not 0, 2..8"}}) {
     EXPECT_TRUE(band.Holds(in)) << text << " " << in;
     EXPECT_FALSE(band.Holds(out)) << text << " " << out;
     EXPECT_EQ(band.Text(), text);
@@ -38,11 +42,16 @@ TEST(SerialNumber, IsTheDateAndTheCounter) {
 }
 
 TEST(SerialCounter, IsRaisedUnderItsLockAndKeptWhole) {
-  VirtualFiles files;
-  SerialCounter counter(files, "/share");
+  VirtualWorld world;
+  VirtualFiles& files = world.files;
+  SerialCounter counter(world.platform, "/share");
   int value = -1;
   EXPECT_TRUE(counter.Raise(value).Ok());
   EXPECT_EQ(value, 1);
+  files.FailOperation(VirtualFiles::Change::Lock, 1);
+  files.FailOperation(VirtualFiles::Change::Lock, 2);
+  EXPECT_TRUE(counter.Raise(value).Ok()) << "another station gives it back soon";
+  EXPECT_EQ(value, 2);
   files.contents["/share/TestOstrel.ini"] = "[NS]\r\nNS=9999\r\n";
   files.modes["/share/TestOstrel.ini"] = 0664;
   files.log.clear();
@@ -57,27 +66,29 @@ TEST(SerialCounter, IsRaisedUnderItsLockAndKeptWhole) {
 TEST(SerialCounter, AFailureGivesNoNumber) {
   using Change = VirtualFiles::Change;
   for (const Change change : {Change::Lock, Change::Write, Change::Sync, Change::Rename}) {
-    VirtualFiles files;
+    VirtualWorld world;
+    VirtualFiles& files = world.files;
     files.contents["/share/TestOstrel.ini"] = "[NS]\r\nNS=41\r\n";
-    files.FailOperation(change, 1);
+    for (std::size_t n = 1; n <= kTries; ++n) files.FailOperation(change, n);
     int value = -1;
-    EXPECT_FALSE(SerialCounter(files, "/share").Raise(value).Ok());
+    EXPECT_FALSE(SerialCounter(world.platform, "/share").Raise(value).Ok());
     EXPECT_EQ(value, -1);
     EXPECT_EQ(files.contents["/share/TestOstrel.ini"], "[NS]\r\nNS=41\r\n");
   }
   for (const char* cut :
-       {"[NS]\r\n", "[NS]\r\nNS=\r\n", "[NS]\r\nNS=4x\r\n", "[NS]\r\nNS=-2\r\n"}) {
-    VirtualFiles files;
-    files.contents["/share/TestOstrel.ini"] = cut;
+       {"", "[NS]\r\n", "[NS]\r\nNS=\r\n", "[NS]\r\nNS=4x\r\n", "[NS]\r\nNS=-2\r\n"}) {
+    VirtualWorld world;
+    world.files.contents["/share/TestOstrel.ini"] = cut;
     int value = -1;
-    EXPECT_FALSE(SerialCounter(files, "/share").Raise(value).Ok()) << cut;
+    EXPECT_FALSE(SerialCounter(world.platform, "/share").Raise(value).Ok()) << cut;
     EXPECT_EQ(value, -1);
   }
 }
 
 TEST(SerialCounter, WithoutItABlankBoardStaysBlankAndFails) {
   TestStation station(Board(sim::Model::BP));
-  station.world.files.FailOperation(VirtualFiles::Change::Lock, 1);
+  for (std::size_t n = 1; n <= kTries; ++n)
+    station.world.files.FailOperation(VirtualFiles::Change::Lock, n);
   station.Run();
   EXPECT_EQ(station.Boxes().front(),
             "Error en el contador de numeros de serie: another program holds it");
@@ -92,7 +103,7 @@ TEST(Records, ARowABoardInOneTable) {
   station.page->GetForm().Get<TextBox>("TextOperator").Type("Luz, \"jefa\"");
   station.Run();
   EXPECT_TRUE(station.program->session.Open(SimWorld::kPort, ""));
-  station.world.files.contents["/data/factory/test-bq.csv"] += "torn row";
+  station.world.files.contents["/data/factory/test-bq.csv"] += "torn,\"row";
   station.world.loop.RunFor(std::chrono::seconds(2));
   station.Run();
   const std::string table = station.Records("bq");
@@ -107,7 +118,7 @@ TEST(Records, ARowABoardInOneTable) {
       table.find(",bq,Tavro BQ,\"Luz, \"\"jefa\"\"\",Puesto 1,1203050001,1203050001,passed,yes,"),
       std::string::npos)
       << table;
-  EXPECT_NE(table.find("torn row\r\n2012-"), std::string::npos);
+  EXPECT_NE(table.find("torn,\"row\"\r\n2012-"), std::string::npos) << "its quote is closed";
   EXPECT_NE(table.find(",1203050001,,passed,yes,"), std::string::npos) << "kept its number";
 }
 
@@ -132,7 +143,8 @@ TEST(Records, ABoardWhoseRecordIsNotKeptHasNotPassed) {
   for (const bool again : {true, false}) {
     TestStation station(Board(sim::Model::BQ));
     station.page->GetForm().Get<CheckBox>("Check1").SetChecked(true);
-    station.world.files.FailOperation(Change::Append, 1);
+    station.world.files.FailOperation(Change::Append, 2);  // behind the counter
+
     station.world.dialogs.Answer(again ? BoxAnswer::Yes : BoxAnswer::No);
     station.Run();
     EXPECT_EQ(station.Boxes().front(),
@@ -140,6 +152,65 @@ TEST(Records, ABoardWhoseRecordIsNotKeptHasNotPassed) {
               "left. Se intenta otra vez?");
     EXPECT_EQ(station.Status(), again ? kPassedText : kFailedText);
     EXPECT_EQ(station.LastRecord("bq").empty(), !again);
+  }
+}
+
+TEST(Records, RunsStandInTheLedger) {
+  struct Case {
+    void (*spoil)(TestStation& station);
+    LedgerState state;
+    const char* serial;
+    const char* detail;
+    const char* fault;
+  };
+  for (const auto& [spoil, state, serial, detail, fault] : std::initializer_list<Case>{
+           {[](TestStation&) {}, LedgerState::Done, "1203050001",
+            "bq, Ana, Puesto 1\nnew number 1203050001\nVBat = 7.21 (>= 5)\nGSM = 1 (not 0, 2..8)",
+            ""},
+           {[](TestStation& station) {
+              station.program->info.BatteryVoltage = 4.69F;
+              station.Fixture().gsm = {{Duration{}, 2}};
+              station.page->GetForm().Get<TextBox>("TextStation").Type("");
+            },
+            LedgerState::Failed, "1203050001",
+            "bq, Ana\nnew number 1203050001\nVBat = 4.69 (>= 5) FAILED\n"
+            "GSM = 2 (not 0, 2..8) FAILED",
+            "Tension de bateria demasiado baja; Error, PIN bloqueado"},
+           {[](TestStation& station) {
+              station.onStep = [&station](const std::string& text) {
+                if (text == "Comprobando GSM...") station.Press("CommandStop");
+              };
+            },
+            LedgerState::Failed, "0", "bq, Ana, Puesto 1\nVBat = 7.21 (>= 5)", "stopped"},
+           {[](TestStation& station) {
+              station.world.files.FailOperation(VirtualFiles::Change::Append, 2);
+              station.world.dialogs.Answer(BoxAnswer::No);
+            },
+            LedgerState::Failed, "1203050001",
+            "bq, Ana, Puesto 1\nnew number 1203050001\nVBat = 7.21 (>= 5)\n"
+            "GSM = 1 (not 0, 2..8)",
+            "its record was not kept"},
+           {[](TestStation& station) { station.world.logger->InFixture().Sleep(); },
+            LedgerState::Failed, "0", "bq, Ana, Puesto 1", "nothing was checked"}}) {
+    TestStation station(Board(sim::Model::BQ));
+    station.page->GetForm().Get<CheckBox>("Check1").SetChecked(true);
+    std::string first;
+    station.onSent = [&](const std::string& message) {
+      if (!first.empty()) return;
+      first = message;
+      EXPECT_EQ(station.world.ledger.entries.back().state, LedgerState::UnderWay);
+    };
+    station.sent.clear();
+    spoil(station);
+    station.Run();
+    EXPECT_EQ(first, "#41DISPOF");
+    const LedgerEntry& entry = station.world.ledger.entries.back();
+    EXPECT_EQ(entry.kind, LedgerKind::TestRun);
+    EXPECT_EQ(entry.state, state);
+    EXPECT_EQ(entry.serial, serial);
+    EXPECT_EQ(entry.detail, detail);
+    EXPECT_EQ(entry.fault, fault);
+    EXPECT_EQ(entry.session, station.world.ledger.entries.front().id);
   }
 }
 

@@ -199,6 +199,30 @@ TEST_F(LineTest, AMessageWithAControlCharacterIsNeverSent) {
       << "the next dialogue is free";
 }
 
+TEST_F(LineTest, WhoeverIsAskedToGiveWayEndsBehindItsMessage) {
+  Background& reading = comms.Reading();
+  int done = 0, behind = 0;
+  EXPECT_FALSE(reading.Behind([&] { ++behind; })) << "nothing runs";
+  loop.After(milliseconds(300), "an operator", [&] {
+    EXPECT_TRUE(reading.Behind([&] {
+      EXPECT_EQ(done, 0) << "in their order";
+      ++behind;
+    }));
+    reading.WhenFree([&] {
+      EXPECT_FALSE(comms.LinkBusy);
+      ++done;
+    });
+  });
+  const Duration took =
+      Took([&] { reading.Run(Background::Cut::BetweenMessages, [&] { comms.ReadRealTime(); }); });
+  EXPECT_EQ(took, milliseconds(1100)) << "asked once, of one value";
+  EXPECT_EQ(done, 0);
+  loop.RunFor(milliseconds(1));
+  EXPECT_EQ(done + behind, 2);
+  EXPECT_TRUE(reading.IsCut());
+  for (const LiveRead& read : live.reads) EXPECT_EQ(read.missed, 0);
+}
+
 TEST_F(LineTest, TraceTellsOfOctetsThatNobodyTook) {
   for (int second = 0; second < 3; ++second) {
     logger.end->Send(std::string(10'000, 'x'));

@@ -4,6 +4,7 @@
 #include <string>
 
 #include "platform/Files.h"
+#include "platform/FilesContract.h"
 #include "platform/virtual/VirtualFiles.h"
 
 namespace ostrel {
@@ -70,6 +71,15 @@ TEST(SaveNewTest, NeverTakesTheNameOfWhatStands) {
   EXPECT_EQ(files.contents, (std::map<std::string, std::string>{{"/copy", kOld}}));
   EXPECT_EQ(files.modes["/copy"], 0600);
 }
+
+/// A folder of the file system in memory.
+struct VirtualRoom {
+  std::string Path(const std::string& name) const {
+    return name.empty() ? "/room" : "/room/" + name;
+  }
+  VirtualFiles files;
+};
+INSTANTIATE_TYPED_TEST_SUITE_P(Virtual, FilesContract, VirtualRoom);
 
 }  // namespace
 }  // namespace ostrel

@@ -14,6 +14,11 @@ struct TestOptions {
   bool skipsKeys = false;
 };
 
+/// What was read; an old reading that was judged for want of a new one is none.
+std::string Reading(const Measurement& measured) {
+  return measured.value ? measured.Text() : "not read";
+}
+
 /// A test run on a terminal: what it does and finds are words about the work, what it asks for is
 /// asked of the operator.
 class TerminalPanel final : public TestPanel {
@@ -22,11 +27,13 @@ class TerminalPanel final : public TestPanel {
 
   void ShowStep(std::string_view text) override { Console().Note(text); }
   void ShowMeasured(const Measurement& measured) override {
-    Console().Note("  " + measured.name + " = " + measured.Text() + " (" + measured.band.Text() +
+    Console().Note("  " + measured.name + " = " + Reading(measured) + " (" + measured.band.Text() +
                    ")");
   }
   void ShowSignal(int rssi) override { Console().Note("  Gsm: " + std::to_string(rssi)); }
-  void ShowSerial(const std::string& serial) override { Console().Note("  Serial: " + serial); }
+  void ShowSerial(const std::string& serial) override {
+    Console().Note("  Serial: " + Printable(serial));
+  }
   void TellFailure(const std::string& text) override { Console().Say(text); }
   void Request(const std::string& text) override { online_.context.dialogs.AwaitDone(text); }
   bool AskAgain(const std::string& text) override {
@@ -44,7 +51,7 @@ Json JsonOf(const TestRecord& record) {
   Json values = Json::array();
   for (const Measurement& measured : record.values)
     values.push_back({{"name", measured.name},
-                      {"value", JsonNumber(measured.value)},
+                      {"value", measured.value ? JsonNumber(*measured.value) : Json()},
                       {"band", measured.band.Text()},
                       {"passed", measured.passed}});
   const std::chrono::duration<double> seconds = record.duration;
@@ -65,11 +72,11 @@ Json JsonOf(const TestRecord& record) {
 void WriteRecord(std::ostream& out, const TestRecord& record) {
   constexpr int kNameWidth = 14, kValueWidth = 12, kBandWidth = 14;
   for (const Measurement& measured : record.values)
-    out << std::left << std::setw(kNameWidth) << measured.name << std::setw(kValueWidth)
-        << measured.Text() << std::setw(kBandWidth) << measured.band.Text()
+    out << std::left << std::setw(kNameWidth) << measured.name << ' ' << std::setw(kValueWidth)
+        << Reading(measured) << ' ' << std::setw(kBandWidth) << measured.band.Text() << ' '
         << (measured.passed ? "ok" : "FAILED") << '\n';
-  out << record.model << ", serial number " << record.serial << ": " << VerdictWord(record.verdict)
-      << '\n';
+  out << record.model << ", serial number " << Printable(record.serial) << ": "
+      << VerdictWord(record.verdict) << '\n';
 }
 
 /// What a run came to, with a line that says why where it did not come to its end.
@@ -80,18 +87,20 @@ ExitCode CodeOf(CommandContext& context, const TestRun& run, const TestRecord& r
     return context.console.Fail(ExitCode::DialogueFailed, "the test was stopped");
   if (record.verdict == TestVerdict::BrokenOff)
     return context.console.Fail(ExitCode::DialogueFailed, "the line has gone");
+  if (record.verdict == TestVerdict::Failed) return ExitCode::Differences;
   if (!record.checked)
     return context.console.Fail(
         ExitCode::DialogueFailed,
-        "the board did not confirm the first order, so nothing of it was checked");
-  return record.verdict == TestVerdict::Passed ? ExitCode::Done : ExitCode::Differences;
+        "the board did not confirm the first order, so the checks behind it did not run");
+  return ExitCode::Done;
 }
 
 /// The first interrupt stops the run and lets it switch the fixture off; the next one closes the
 /// port.
 ExitCode RunTest(Online& online, const TestPlan& plan, const TestChoice& choice) {
   TerminalPanel panel(online);
-  TestRun run(online.configurator.Bench(), plan, choice, panel);
+  TestFrame frame;
+  TestRun run(online.configurator.Bench(), plan, choice, panel, frame);
   std::function<void()>& onInterrupt = online.context.environment.onInterrupt;
   const Lent<std::function<void()>> stops(
       onInterrupt, [&run, stopped = false, closePort = onInterrupt]() mutable {
@@ -121,6 +130,9 @@ ExitCode RunTestCommand(CommandContext& context, const TestOptions& options) {
     return context.console.Fail(ExitCode::Usage, "the test " + options.word + " is for the model " +
                                                      std::string(plan.modelName) + ", not " +
                                                      named);
+  if (options.skipsKeys && &plan != &kTestBQ)
+    return context.console.Fail(ExitCode::Usage,
+                                "--skip-keys: the test " + options.word + " has no keys");
   TestChoice choice{
       .station = StoredStation(context.platform.settings, context.environment.station),
       .skipsKeys = options.skipsKeys};

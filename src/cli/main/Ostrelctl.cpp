@@ -39,7 +39,7 @@ int Run(const std::vector<std::string>& args) {
   Environment environment{
       .platform = machine.With(nobody, processes),
       .simulated = machine.AddSimulatedLoggers(),
-      .inspector = machine.inspector,
+      .inspector = machine.Inspector(),
       .out = std::cout,
       .err = std::cerr,
       .errIsTerminal = isatty(STDERR_FILENO) == 1,

@@ -1,8 +1,11 @@
 #include "desktop/forms/AccessKeys.h"
 
 #include <QAbstractButton>
+#include <QAction>
 #include <QLabel>
 #include <QStackedWidget>
+#include <QToolBar>
+#include <QToolButton>
 #include <QWidget>
 
 namespace ostrel {
@@ -80,6 +83,12 @@ void AssignAccessKeys(QWidget& root) {
       AssignOn(root, tabs->widget(i), taken);
     }
   }
+}
+
+void LetTabReachTools(QToolBar& bar) {
+  for (QAction* action : bar.actions())
+    if (auto* button = qobject_cast<QToolButton*>(bar.widgetForAction(action)))
+      button->setFocusPolicy(Qt::TabFocus);
 }
 
 }  // namespace ostrel

@@ -143,6 +143,12 @@ void DrawLanguage(QPainter& p) {
   p.drawLine(QPointF(3.5, 12), QPointF(20.5, 12));
 }
 
+/// Three dots in a row.
+void DrawMore(QPainter& p) {
+  p.setBrush(p.pen().color());
+  for (const qreal x : {5.0, 12.0, 19.0}) p.drawEllipse(QPointF(x, 12), 1.2, 1.2);
+}
+
 void DrawFindings(QPainter& p) {
   p.drawPolygon(QPolygonF({{12, 3.5}, {21.5, 20}, {2.5, 20}}));
   p.drawLine(QPointF(12, 9.5), QPointF(12, 14));
@@ -189,6 +195,8 @@ void Draw(QPainter& painter, Sign sign) {
       return DrawTrace(painter);
     case Sign::Findings:
       return DrawFindings(painter);
+    case Sign::More:
+      return DrawMore(painter);
     case Sign::Language:
       return DrawLanguage(painter);
   }

@@ -32,6 +32,7 @@ enum class Sign {
   History,
   Trace,
   Findings,
+  More,
   Language
 };
 

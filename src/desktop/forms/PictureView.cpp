@@ -1,8 +1,10 @@
 #include "desktop/forms/PictureView.h"
 
+#include <QLabel>
 #include <QPaintEvent>
 #include <QPainter>
 #include <QPainterPath>
+#include <QPixmap>
 #include <array>
 #include <span>
 
@@ -68,10 +70,32 @@ class WarningView final : public QWidget {
   }
 };
 
+/// Shows a picture that stands in a file, as large as a page has room for.
+class FileView final : public QLabel {
+ public:
+  using QLabel::QLabel;
+  void ShowFile(const QString& path) {
+    if (path == path_) return;
+    path_ = path;
+    constexpr QSize kRoom{240, 120};
+    const QPixmap picture(path);
+    setPixmap(picture.isNull()
+                  ? picture
+                  : picture.scaled(kRoom, Qt::KeepAspectRatio, Qt::SmoothTransformation));
+  }
+
+ private:
+  QString path_;
+};
+
 }  // namespace
 
 Bound MakePictureView(Picture& picture, QWidget* parent) {
   if (picture.face.Name() == "Warning") return {new WarningView(parent), {}};
+  if (picture.face.Name() == "Picture1") {
+    auto* view = new FileView(parent);
+    return {view, [view, &picture] { view->ShowFile(ToQt(picture.File())); }};
+  }
   auto* view = new JumperView(picture, parent);
   return {view, [view] { view->update(); }};
 }

@@ -6,7 +6,8 @@
 
 namespace ostrel {
 
-/// Makes the view of a picture control: the jumpers of a logger's board, or the sign of a warning.
+/// Makes the view of a picture control: the jumpers of a logger's board, the picture of
+/// a file, or the sign of a warning.
 Bound MakePictureView(Picture& picture, QWidget* parent);
 
 }  // namespace ostrel

@@ -49,7 +49,7 @@ int RunWindow(const CommandLine& line) {
                    .station = StationOf(line),
                    .factory = line.factory,
                    .ticking = true},
-                  UserDataFolder(), machine.inspector);
+                  UserDataFolder(), machine.Inspector());
   dialogs.StandBefore(desktop.Window());
   machine.loop.SetFaultHandler([&](std::exception_ptr fault) { desktop.ShowFault(fault); });
   desktop.Window().show();  // ahead of the first questions, which want a window behind them

@@ -29,6 +29,7 @@ Desktop::Desktop(const Platform& platform, const ConfiguratorOptions& options,
 void Desktop::Start(const std::string& file) {
   // The first questions come ahead of the choice of a language.
   UseLanguage(QLocale::system().language() == QLocale::Spanish ? "es" : "en");
+  window_.Retranslate();
   const bool isMissing = !file.empty() && !platform_.files.Exists(file);
   configurator_.Start(file.empty() || isMissing ? std::string() : '"' + file + '"');
   UseLanguage(LanguageCode(configurator_.lang));

@@ -120,7 +120,7 @@ QCheckBox[noted="true"], QRadioButton[noted="true"] {
 QLabel#NoteBubble { background: palette(base); color: palette(text);
             border: 1px solid #d97706; border-radius: 4px; padding: 4px 8px; }
 QTreeWidget#Tree { border: 1px solid palette(mid); border-radius: 4px; }
-QTreeWidget#Tree::item { padding: 2px 0; }
+QTreeWidget::item { padding: 2px 0; }
 QHeaderView::section { padding: 2px 6px; }
 QListWidget::item { padding: 1px 0; }
 QToolButton[popupMode="2"] { padding-right: 14px; }

@@ -38,6 +38,7 @@ ApplyDialog::ApplyDialog(const ApplyQuestion& question, QWidget* parent)
   source_->setCurrentIndex(source_->findData(question.channel));
 
   auto* form = new QFormLayout;
+  form->setLabelAlignment(Qt::AlignLeft | Qt::AlignVCenter);
   form->addRow(Words::tr("&Copy:"), source_);
   form->addRow(Words::tr("&What:"), what_);
   auto* into = new QLabel(Words::tr("&Into:"), this);
@@ -56,6 +57,7 @@ ApplyDialog::ApplyDialog(const ApplyQuestion& question, QWidget* parent)
   buttons_->addButton(Words::tr("&Cancel"), QDialogButtonBox::RejectRole);
   column->addWidget(buttons_);
   all->setObjectName("All");
+  no->setObjectName("None");
   connect(all, &QPushButton::clicked, this, [this] { CheckAll(true); });
   connect(no, &QPushButton::clicked, this, [this] { CheckAll(false); });
   connect(targets_, &QListWidget::itemChanged, this, [this] { Follow(); });
@@ -72,7 +74,13 @@ void ApplyDialog::CheckAll(bool checked) {
 }
 
 void ApplyDialog::Follow() {
+  for (int row = 0; row < targets_->count(); ++row)
+    targets_->item(row)->setHidden(ChannelOf(row) == Source());
   buttons_->findChild<QPushButton*>("Apply")->setEnabled(!Targets().empty());
+}
+
+int ApplyDialog::ChannelOf(int row) const {
+  return targets_->item(row)->data(Qt::UserRole).toInt();
 }
 
 int ApplyDialog::Source() const { return source_->currentData().toInt(); }
@@ -86,8 +94,7 @@ std::vector<int> ApplyDialog::Targets() const {
   std::vector<int> targets;
   for (int row = 0; row < targets_->count(); ++row) {
     const QListWidgetItem* item = targets_->item(row);
-    const int channel = item->data(Qt::UserRole).toInt();
-    if (item->checkState() == Qt::Checked && channel != Source()) targets.push_back(channel);
+    if (item->checkState() == Qt::Checked && !item->isHidden()) targets.push_back(ChannelOf(row));
   }
   return targets;
 }

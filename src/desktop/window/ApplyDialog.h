@@ -35,6 +35,8 @@ class ApplyDialog final : public QDialog {
  private:
   void CheckAll(bool checked);
   void Follow();
+  /// The channel of a row.
+  int ChannelOf(int row) const;
 
   QComboBox *source_, *what_;
   QListWidget* targets_;

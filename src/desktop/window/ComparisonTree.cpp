@@ -1,5 +1,6 @@
 #include "desktop/window/ComparisonTree.h"
 
+#include <QHeaderView>
 #include <algorithm>
 #include <set>
 
@@ -15,6 +16,10 @@ enum ComparisonColumn { kField, kBefore, kAfter, kComparisonColumns };
 /// Where an item notes which difference it is; a group has none.
 constexpr int kIndexRole = Qt::UserRole;
 
+// Widths in pixels.
+constexpr int kNameMargin = 16;
+constexpr int kLeastName = 200;
+
 }  // namespace
 
 ComparisonTree::ComparisonTree(QWidget* parent) : QTreeWidget(parent) {
@@ -25,6 +30,8 @@ ComparisonTree::ComparisonTree(QWidget* parent) : QTreeWidget(parent) {
   setUniformRowHeights(true);
   setAllColumnsShowFocus(true);
   setAlternatingRowColors(true);
+  for (const int column : {kBefore, kAfter})
+    header()->setSectionResizeMode(column, QHeaderView::Stretch);
   connect(this, &QTreeWidget::itemActivated, this, [this](QTreeWidgetItem* item) {
     const QVariant index = item->data(kField, kIndexRole);
     if (!index.isValid() || !OnField) return;
@@ -50,8 +57,7 @@ void ComparisonTree::ShowDifferences(const std::vector<Difference>& differences,
       if (differences_[i].isSent == isSent) AddRow(i, profile);
   expandAll();
   resizeColumnToContents(kField);
-  const int room = viewport()->width() - columnWidth(kField);
-  setColumnWidth(kBefore, std::max(room / 2, 160));
+  setColumnWidth(kField, std::max(columnWidth(kField) + kNameMargin, kLeastName));
 }
 
 void ComparisonTree::AddRow(std::size_t index, const TargetProfile& profile) {

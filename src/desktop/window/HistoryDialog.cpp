@@ -3,6 +3,7 @@
 #include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTableWidget>
 #include <QVBoxLayout>
@@ -10,6 +11,7 @@
 #include <utility>
 
 #include "desktop/forms/Words.h"
+#include "shell/ledger/TestRunBook.h"
 
 namespace ostrel {
 namespace {
@@ -25,10 +27,16 @@ QString ResultOf(Ledger& books, const LedgerEntry& entry) {
   return books.IsCutOff(entry) ? Words::tr("cut off") : WordIn(WordOf(entry.state));
 }
 
+/// What failed. Of a test run the words ahead of a colon may be the ledger's, the rest was told.
+QString FaultText(const LedgerEntry& entry) {
+  if (entry.kind != LedgerKind::TestRun) return ToQt(entry.fault);
+  const std::size_t verdict = std::min(entry.fault.find(':'), entry.fault.size());
+  return WordIn(entry.fault.substr(0, verdict)) + ToQt(entry.fault.substr(verdict));
+}
+
 QString MatterOf(const LedgerEntry& entry) {
-  QStringList parts;
-  for (const std::string& part : {entry.detail, entry.file, entry.fault})
-    if (!part.empty()) parts << ToQt(part);
+  QStringList parts{ToQt(entry.detail).section(u'\n', 0, 0), ToQt(entry.file), FaultText(entry)};
+  parts.removeAll(QString());
   if (entry.steps > 0 && entry.kind == LedgerKind::Writing)
     parts << Words::tr("%1 statements").arg(entry.steps);
   if (entry.steps > 0 && entry.kind == LedgerKind::Reading)
@@ -46,6 +54,16 @@ QStringList TextsOf(Ledger& books, const LedgerEntry& entry) {
   texts[kLine] = ToQt(entry.port + " " + entry.phone).trimmed();
   texts[kMatter] = MatterOf(entry);
   return texts;
+}
+
+/// The lines of a detail below its first, which the table shows: what a test run has measured.
+QString MeasuredIn(const LedgerEntry& entry) {
+  QStringList lines = ToQt(entry.detail).section(u'\n', 1).split(u'\n', Qt::SkipEmptyParts);
+  for (QString& line : lines) {
+    if (line.startsWith(ToQt(kNewNumber))) line.replace(ToQt(kNewNumber), Words::tr("new number"));
+    if (line.endsWith(ToQt(kOutOfBand))) line.replace(ToQt(kOutOfBand), Words::tr("FAILED"));
+  }
+  return lines.join(u'\n');
 }
 
 QTableWidget* MakeHistoryTable(Ledger& books, const std::vector<LedgerEntry>& entries,
@@ -78,7 +96,8 @@ QTableWidget* MakeHistoryTable(Ledger& books, const std::vector<LedgerEntry>& en
 HistoryDialog::HistoryDialog(Ledger& books, QWidget* parent)
     : QDialog(parent),
       entries_(books.Find({.most = kEntriesShown})),
-      table_(MakeHistoryTable(books, entries_, this)) {
+      table_(MakeHistoryTable(books, entries_, this)),
+      details_(new QPlainTextEdit(this)) {
   setWindowTitle(Words::tr("History"));
   auto* column = new QVBoxLayout(this);
   auto* filter = new QLineEdit(this);
@@ -91,7 +110,12 @@ HistoryDialog::HistoryDialog(Ledger& books, QWidget* parent)
   if (!books.Fault().empty())
     column->addWidget(
         new QLabel(Words::tr("The ledger cannot be read: %1").arg(ToQt(books.Fault())), this));
-  column->addWidget(table_, 1);
+  column->addWidget(table_, 3);
+  details_->setReadOnly(true);
+  details_->setTabChangesFocus(true);
+  details_->setObjectName("Details");
+  details_->setAccessibleName(Words::tr("Measured values"));
+  column->addWidget(details_, 2);
   auto* row = new QHBoxLayout;
   column->addLayout(row);
   row->addWidget(AddButton(Words::tr("&Open"), "Open", [this] {
@@ -141,14 +165,22 @@ void HistoryDialog::Filter(const QString& text) {
   ShowChoice();
 }
 
-const LedgerEntry* HistoryDialog::Chosen() const {
+const LedgerEntry* HistoryDialog::Current() const {
   const int row = table_->currentRow();
   if (row < 0 || table_->isRowHidden(row) || table_->selectedItems().isEmpty()) return nullptr;
-  const LedgerEntry& entry = entries_[static_cast<std::size_t>(row)];
-  return entry.content.empty() ? nullptr : &entry;
+  return &entries_[static_cast<std::size_t>(row)];
+}
+
+const LedgerEntry* HistoryDialog::Chosen() const {
+  const LedgerEntry* entry = Current();
+  return entry && !entry->content.empty() ? entry : nullptr;
 }
 
 void HistoryDialog::ShowChoice() {
+  const LedgerEntry* entry = Current();
+  const QString measured = entry ? MeasuredIn(*entry) : QString();
+  details_->setPlainText(measured);
+  details_->setVisible(!measured.isEmpty());
   for (QPushButton* button : buttons_) button->setEnabled(Chosen() != nullptr);
 }
 

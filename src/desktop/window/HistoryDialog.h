@@ -6,6 +6,7 @@
 
 #include "platform/Ledger.h"
 
+class QPlainTextEdit;
 class QPushButton;
 class QTableWidget;
 
@@ -24,12 +25,15 @@ class HistoryDialog final : public QDialog {
  private:
   QPushButton* AddButton(const QString& text, const char* name, std::function<void()> run);
   void Filter(const QString& text);
-  /// The entry of the line that is chosen, if it has a configuration; else null.
+  /// The entry of the line that is chosen; null for none.
+  const LedgerEntry* Current() const;
+  /// The same if it has a configuration; else null.
   const LedgerEntry* Chosen() const;
   void ShowChoice();
 
   std::vector<LedgerEntry> entries_;
   QTableWidget* table_;
+  QPlainTextEdit* details_;            ///< what the chosen entry tells beside its line
   std::vector<QPushButton*> buttons_;  ///< those that want an entry
 };
 

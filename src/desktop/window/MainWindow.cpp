@@ -252,6 +252,7 @@ void MainWindow::ShowGroup(const std::string& key) {
 void MainWindow::ShowTimers() {
   if (timers_->isHidden() || configurator_.session.OwnsModel()) return;
   timersSeen_ = unsaved_.Touches();
+  timers_->StandAsPage(tree_->TextOf(kTimersNode));
   timers_->ShowSchedule(PresentSchedule(), configurator_.profile, Translate());
 }
 

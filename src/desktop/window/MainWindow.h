@@ -67,6 +67,8 @@ class MainWindow final : public QMainWindow {
   explicit MainWindow(const WindowParts& parts);
   ~MainWindow() override;
 
+  /// Puts the window's own words in the language that is in use.
+  void Retranslate();
   /// Called when the configurator has started: shows what is in front, and follows it from here on.
   void Follow();
   /// Goes to a node, as a click on it does.
@@ -91,9 +93,15 @@ class MainWindow final : public QMainWindow {
  private:
   // Making.
   void MakeToolBar();
-  QAction* AddAction(Sign sign, QKeySequence keys, std::function<void()> run);
-  QMenu* AddMenu(QAction* action, std::function<void(QMenu&)> fill);
-  void Retranslate();
+  void MakeRarerTools();
+  /// Adds a tool to the bar, or to a menu of it.
+  QAction* AddAction(QWidget& place, Sign sign, QKeySequence keys, std::function<void()> run);
+  /// Adds a tool that shows and hides a panel.
+  QAction* AddSwitch(QWidget& place, Sign sign, QKeySequence keys, QDockWidget& panel,
+                     std::function<void(bool on)> show);
+  /// Gives a tool a menu that is filled as it opens.
+  void AddMenu(QAction* action, std::function<void(QMenu&)> fill);
+  void SetMenu(QAction* action, QMenu* menu);
 
   // What the tool bar does.
   void Open();
@@ -275,7 +283,7 @@ class MainWindow final : public QMainWindow {
           *recentFiles_ = nullptr, *safetyCopies_ = nullptr, *compare_ = nullptr,
           *channels_ = nullptr, *schedule_ = nullptr, *history_ = nullptr, *undo_ = nullptr,
           *redo_ = nullptr, *report_ = nullptr, *doctor_ = nullptr, *liveTools_ = nullptr,
-          *traceSwitch_ = nullptr, *findingsSwitch_ = nullptr;
+          *traceSwitch_ = nullptr, *findingsSwitch_ = nullptr, *more_ = nullptr;
   QLabel* ledgerFault_ = nullptr;
   std::string offeredTo_;  ///< serial number of the logger that ways out were offered for
   std::optional<LedgerEntry> looksFor_;  ///< the interrupted writing whose logger is being read

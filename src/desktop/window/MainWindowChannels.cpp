@@ -74,8 +74,13 @@ void MainWindow::PasteInto(const std::vector<int>& channels, int config) {
 
 void MainWindow::ApplyToSeveral(const ChannelPlace& place) {
   const DeviceConf present = unsaved_.WithFront();
+  std::vector<ChannelName> channels = ChannelsOf(present, configurator_.profile, place.page);
+  // A file has room for channels that the model has not.
+  std::erase_if(channels, [&](const ChannelName& one) {
+    return !tree_->Has(NodeOf(place.page, one.channel));
+  });
   ApplyQuestion question{.kind = {},
-                         .channels = ChannelsOf(present, configurator_.profile, place.page),
+                         .channels = std::move(channels),
                          .channel = place.channel,
                          .configs = place.configs,
                          .config = place.config};

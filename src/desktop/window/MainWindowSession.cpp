@@ -64,11 +64,11 @@ void MainWindow::ShowLink() {
 }
 
 /// A transfer owns the model: nothing may be edited, opened, saved or compared under it, and a
-/// dialog that is opened in it would hold it up. The focus is where it was when it has ended,
-/// unless the operator has taken it elsewhere.
+/// dialog or a menu that is opened in it would hold it up. The focus is where it was when it has
+/// ended, unless the operator has taken it elsewhere.
 void MainWindow::Rest(bool rests) {
-  for (QAction* action : {open_, save_, saveAs_, recentFiles_, safetyCopies_, compare_, channels_,
-                          schedule_, history_, report_, doctor_, language_})
+  for (QAction* action : {open_, save_, saveAs_, recentFiles_, compare_, channels_, liveTools_,
+                          more_, safetyCopies_, schedule_, history_, report_, doctor_, language_})
     action->setEnabled(!rests && !isUpdating_);
   ShowUndo();
   trace_->SetMaySave(!rests && !isUpdating_);

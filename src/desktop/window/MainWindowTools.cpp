@@ -9,6 +9,7 @@
 #include <QUrl>
 #include <algorithm>
 
+#include "desktop/forms/AccessKeys.h"
 #include "desktop/forms/Icons.h"
 #include "desktop/forms/Words.h"
 #include "desktop/program/Language.h"
@@ -35,46 +36,32 @@ void MainWindow::MakeToolBar() {
   bar_->setContextMenuPolicy(Qt::PreventContextMenu);
   bar_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
   bar_->setIconSize({22, 22});
-  open_ = AddAction(Sign::Open, QKeySequence::Open, [this] { Open(); });
-  save_ = AddAction(Sign::Save, QKeySequence::Save, [this] { Save(); });
-  saveAs_ = AddAction(Sign::SaveAs, QKeySequence("Ctrl+Shift+S"), [this] { SaveAs(); });
-  recentFiles_ = AddAction(Sign::Recent, {}, {});
+  open_ = AddAction(*bar_, Sign::Open, QKeySequence::Open, [this] { Open(); });
+  save_ = AddAction(*bar_, Sign::Save, QKeySequence::Save, [this] { Save(); });
+  saveAs_ = AddAction(*bar_, Sign::SaveAs, QKeySequence("Ctrl+Shift+S"), [this] { SaveAs(); });
+  recentFiles_ = AddAction(*bar_, Sign::Recent, {}, {});
   AddMenu(recentFiles_, [this](QMenu& menu) { FillRecent(menu); });
-  safetyCopies_ = AddAction(Sign::Copies, {}, {});
-  AddMenu(safetyCopies_, [this](QMenu& menu) { FillCopies(menu); });
   bar_->addSeparator();
-  undo_ = AddAction(Sign::Undo, QKeySequence::Undo, [this] { Undo(); });
-  redo_ = AddAction(Sign::Redo, QKeySequence::Redo, [this] { Redo(); });
+  undo_ = AddAction(*bar_, Sign::Undo, QKeySequence::Undo, [this] { Undo(); });
+  redo_ = AddAction(*bar_, Sign::Redo, QKeySequence::Redo, [this] { Redo(); });
   bar_->addSeparator();
-  compare_ = AddAction(Sign::Compare, {}, [this] { Compare(); });
-  channels_ = AddAction(Sign::Channels, {}, {});
+  compare_ = AddAction(*bar_, Sign::Compare, {}, [this] { Compare(); });
+  channels_ = AddAction(*bar_, Sign::Channels, {}, {});
   AddMenu(channels_, [this](QMenu& menu) { FillChannels(menu); });
-  schedule_ = AddAction(Sign::Schedule, {}, [this] { ShowSchedule(); });
-  report_ = AddAction(Sign::Report, {}, [this] { SaveReport(); });
-  doctor_ = AddAction(Sign::Doctor, {}, [this] { ShowDoctor(); });
-  liveTools_ = AddAction(Sign::Live, {}, {});
+  liveTools_ = AddAction(*bar_, Sign::Live, {}, {});
   auto* liveMenu = new QMenu(this);
   live_.AddTo(*liveMenu);
-  liveTools_->setMenu(liveMenu);
-  static_cast<QToolButton*>(bar_->widgetForAction(liveTools_))
-      ->setPopupMode(QToolButton::InstantPopup);
-  history_ = AddAction(Sign::History, QKeySequence("Ctrl+H"), [this] { ShowHistory(); });
-  traceSwitch_ = AddAction(Sign::Trace, QKeySequence("Ctrl+T"), {});
-  traceSwitch_->setCheckable(true);
-  connect(traceSwitch_, &QAction::toggled, this, [this](bool on) { ShowTrace(on); });
-  connect(trace_, &QDockWidget::visibilityChanged, this, [this](bool) {
-    if (trace_->isHidden()) traceSwitch_->setChecked(false);
-  });
-  findingsSwitch_ = AddAction(Sign::Findings, QKeySequence("Ctrl+E"), {});
-  findingsSwitch_->setCheckable(true);
-  connect(findingsSwitch_, &QAction::toggled, this, [this](bool on) {
-    findings_->setVisible(on);
-    if (on) resizeDocks({findings_}, {kFindingsHeight}, Qt::Vertical);
-  });
-  connect(findings_, &QDockWidget::visibilityChanged, this, [this](bool) {
-    if (findings_->isHidden()) findingsSwitch_->setChecked(false);
-  });
+  SetMenu(liveTools_, liveMenu);
+  traceSwitch_ = AddSwitch(*bar_, Sign::Trace, QKeySequence("Ctrl+T"), *trace_,
+                           [this](bool on) { ShowTrace(on); });
+  findingsSwitch_ =
+      AddSwitch(*bar_, Sign::Findings, QKeySequence("Ctrl+E"), *findings_, [this](bool on) {
+        findings_->setVisible(on);
+        if (on) resizeDocks({findings_}, {kFindingsHeight}, Qt::Vertical);
+      });
   bar_->addSeparator();
+  MakeRarerTools();
+  LetTabReachTools(*bar_);
   trace_->OnRecord = [this](bool on) { parts_.guard([&] { Record(on); }); };
   trace_->OnSave = [this] {
     parts_.guard([this] { SaveBeside(Words::tr("Trace"), "txt", trace_->Text()); });
@@ -83,41 +70,77 @@ void MainWindow::MakeToolBar() {
   find->setShortcut(QKeySequence::Find);
   connect(find, &QAction::triggered, this, [this] { tree_->FocusFilter(); });
   addAction(find);
-  language_ = AddAction(Sign::Language, {}, [this] { AskLanguage(); });
 }
 
-QAction* MainWindow::AddAction(Sign sign, QKeySequence keys, std::function<void()> run) {
-  QAction* action = bar_->addAction(MakeIcon(sign, palette()), QString());
+/// One tool holds those that are wanted now and then: the bar is to have room for all the others in
+/// a window of the usual size.
+void MainWindow::MakeRarerTools() {
+  more_ = AddAction(*bar_, Sign::More, QKeySequence(Qt::Key_F10), {});
+  auto* menu = new QMenu(this);
+  menu->setToolTipsVisible(true);
+  SetMenu(more_, menu);
+  schedule_ = AddAction(*menu, Sign::Schedule, {}, [this] { ShowSchedule(); });
+  report_ = AddAction(*menu, Sign::Report, {},
+                      [this] { configurator_.comms.Reading().WhenFree([this] { SaveReport(); }); });
+  history_ = AddAction(*menu, Sign::History, QKeySequence("Ctrl+H"), [this] { ShowHistory(); });
+  safetyCopies_ = AddAction(*menu, Sign::Copies, {}, {});
+  AddMenu(safetyCopies_, [this](QMenu& copies) { FillCopies(copies); });
+  doctor_ = AddAction(*menu, Sign::Doctor, {}, [this] { ShowDoctor(); });
+  menu->addSeparator();
+  language_ = AddAction(*menu, Sign::Language, {}, [this] { AskLanguage(); });
+}
+
+QAction* MainWindow::AddAction(QWidget& place, Sign sign, QKeySequence keys,
+                               std::function<void()> run) {
+  QAction* action = place.addAction(MakeIcon(sign, palette()), QString());
   action->setShortcut(keys);
   if (run)
     connect(action, &QAction::triggered, this, [this, run = std::move(run)] { parts_.guard(run); });
   return action;
 }
 
-QMenu* MainWindow::AddMenu(QAction* action, std::function<void(QMenu&)> fill) {
+QAction* MainWindow::AddSwitch(QWidget& place, Sign sign, QKeySequence keys, QDockWidget& panel,
+                               std::function<void(bool on)> show) {
+  QAction* action = AddAction(place, sign, std::move(keys), {});
+  action->setCheckable(true);
+  connect(action, &QAction::toggled, this, std::move(show));
+  connect(&panel, &QDockWidget::visibilityChanged, this, [action, &panel](bool) {
+    if (panel.isHidden()) action->setChecked(false);
+  });
+  return action;
+}
+
+void MainWindow::AddMenu(QAction* action, std::function<void(QMenu&)> fill) {
   auto* menu = new QMenu(this);
   connect(menu, &QMenu::aboutToShow, this, [this, menu, fill = std::move(fill)] {
     menu->clear();
     parts_.guard([&] { fill(*menu); });
   });
+  SetMenu(action, menu);
+}
+
+void MainWindow::SetMenu(QAction* action, QMenu* menu) {
   action->setMenu(menu);
-  static_cast<QToolButton*>(bar_->widgetForAction(action))->setPopupMode(QToolButton::InstantPopup);
-  return menu;
+  auto* button = qobject_cast<QToolButton*>(bar_->widgetForAction(action));
+  if (!button) return;  // it stands in a menu
+  button->setPopupMode(QToolButton::InstantPopup);
+  connect(action, &QAction::triggered, button, [button] { button->showMenu(); });  // by its keys
 }
 
 void MainWindow::Retranslate() {
-  const auto core = [this](std::string_view text) {
-    return ToQt(configurator_.context.Translate(text));
+  // The texts of the table have no language as long as the question for it stands.
+  const auto core = [this](std::string_view text, const char* own) {
+    return following_ ? ToQt(configurator_.context.Translate(text)) : Words::tr(own);
   };
   const auto name = [](QAction* action, const QString& text, const QString& tip) {
     action->setText(text);
     const QString keys = action->shortcut().toString(QKeySequence::NativeText);
     action->setToolTip(keys.isEmpty() ? tip : tip + " (" + keys + ")");
   };
-  name(open_, core("Abrir"), Words::tr("Open a configuration file"));
-  name(save_, core("Guardar"), Words::tr("Save the configuration to a file"));
+  name(open_, core("Abrir", "Open"), Words::tr("Open a configuration file"));
+  name(save_, core("Guardar", "Save"), Words::tr("Save the configuration to a file"));
   name(saveAs_, Words::tr("Save as"), Words::tr("Save the configuration to another file"));
-  name(language_, core("Idioma"), Words::tr("Choose the language"));
+  name(language_, core("Idioma", "Language"), Words::tr("Choose the language"));
   name(recentFiles_, Words::tr("Recent"), Words::tr("Files opened or saved lately"));
   name(safetyCopies_, Words::tr("Safety copies"),
        Words::tr("Configurations read from loggers or sent to them"));
@@ -134,6 +157,7 @@ void MainWindow::Retranslate() {
   name(traceSwitch_, Words::tr("Trace"), Words::tr("Show what goes over the line"));
   name(findingsSwitch_, Words::tr("Findings"),
        Words::tr("Show what the check finds in the configuration"));
+  name(more_, Words::tr("More"), Words::tr("Tools that are wanted now and then"));
   tree_->Retranslate();
   findings_->Retranslate();
   overview_.Forget();

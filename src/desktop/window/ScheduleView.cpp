@@ -40,8 +40,14 @@ QString StartedBy(const ScheduledMacro& macro) {
 }  // namespace
 
 ScheduleView::ScheduleView(QWidget* parent)
-    : QWidget(parent), summary_(new QLabel(this)), table_(new QTableWidget(0, kColumns, this)) {
+    : QWidget(parent),
+      heading_(new QLabel(this)),
+      summary_(new QLabel(this)),
+      table_(new QTableWidget(0, kColumns, this)) {
   auto* column = new QVBoxLayout(this);
+  heading_->setObjectName("Heading");
+  heading_->hide();
+  column->addWidget(heading_);
   summary_->setObjectName("Summary");
   summary_->setWordWrap(true);
   column->addWidget(summary_);
@@ -58,6 +64,12 @@ ScheduleView::ScheduleView(QWidget* parent)
     const auto& [section, timer] = timers_[static_cast<std::size_t>(row)];
     OnTimer(*section, timer);
   });
+}
+
+void ScheduleView::StandAsPage(const QString& title) {
+  layout()->setContentsMargins(16, 12, 16, 16);
+  heading_->setText(title);
+  heading_->show();
 }
 
 void ScheduleView::AddRow(const QStringList& texts) {

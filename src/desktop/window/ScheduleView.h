@@ -25,13 +25,16 @@ class ScheduleView final : public QWidget {
   /// `translate` names the actions.
   void ShowSchedule(const Schedule& schedule, const TargetProfile& profile, const Names& translate);
 
+  /// Gives the view the margins and the title of a page.
+  void StandAsPage(const QString& title);
+
   /// Runs when the operator opens a timer. Set by the owner.
   std::function<void(const SectionMeta& section, int timer)> OnTimer;
 
  private:
   void AddRow(const QStringList& texts);
 
-  QLabel* summary_;
+  QLabel *heading_, *summary_;
   QTableWidget* table_;
   std::vector<std::pair<const SectionMeta*, int>> timers_;  ///< of the first rows
 };

@@ -2,6 +2,7 @@
 
 #include <QAction>
 
+#include "desktop/forms/AccessKeys.h"
 #include "desktop/forms/Icons.h"
 #include "desktop/forms/Words.h"
 
@@ -25,6 +26,7 @@ SessionBar::SessionBar(QWidget* parent) : QToolBar(parent), link_(new LinkPanel(
   write_ = add(Sign::Write, "WriteTool", &SessionBar::OnWrite);
   cancel_ = add(Sign::Cancel, "CancelTool", &SessionBar::OnCancel);
   read_->setShortcut(QKeySequence(Qt::Key_F5));
+  LetTabReachTools(*this);
   addSeparator();
   link_->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
   addWidget(link_);

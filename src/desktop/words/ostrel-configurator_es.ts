@@ -3100,6 +3100,26 @@
         <translation>totalizador</translation>
     </message>
     <message>
+        <source>new number</source>
+        <translation>número nuevo</translation>
+    </message>
+    <message>
+        <source>nothing was checked</source>
+        <translation>no se comprobó nada</translation>
+    </message>
+    <message>
+        <source>its record was not kept</source>
+        <translation>su registro no se guardó</translation>
+    </message>
+    <message>
+        <source>stopped</source>
+        <translation>se paró</translation>
+    </message>
+    <message>
+        <source>broken off</source>
+        <translation>se cortó la línea</translation>
+    </message>
+    <message>
         <source>test run</source>
         <translation>prueba de fábrica</translation>
     </message>
@@ -3332,8 +3352,8 @@
         <translation>la flash del equipo está borrada y no contiene firmware: déjelo alimentado y conectado, y vuelva a iniciar la actualización con los mismos ficheros</translation>
     </message>
     <message>
-        <source>the logger&apos;s flash may be erased: leave it powered and connected, and start the update again with the same files</source>
-        <translation>puede que la flash del equipo esté borrada: déjelo alimentado y conectado, y vuelva a iniciar la actualización con los mismos ficheros</translation>
+        <source>the logger&apos;s flash may be erased: leave it powered and connected; if it tells of itself in a new session, it is not; else start the update again with the same files</source>
+        <translation>puede que la flash del equipo esté borrada: déjelo alimentado y conectado; si en una nueva sesión da sus datos, no lo está; si no, vuelva a iniciar la actualización con los mismos ficheros</translation>
     </message>
     <message>
         <source>nothing of the image was sent: if the logger still answers, its firmware is as it was</source>
@@ -3359,6 +3379,18 @@
         <source>Open</source>
         <comment>the state of the link</comment>
         <translation>Sesión abierta</translation>
+    </message>
+    <message>
+        <source>More</source>
+        <translation>Más</translation>
+    </message>
+    <message>
+        <source>Tools that are wanted now and then</source>
+        <translation>Herramientas de uso menos frecuente</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Idioma</translation>
     </message>
 </context>
 </TS>

@@ -40,7 +40,7 @@ ProbeChannel::ProbeChannel(Form& form, const PageContext& context)
   fields_.Bind(ID1, &ConfOneWire::ADDRESS2);
   OptionId.OnClick = [this] { ClickId(); };
   OptionNoId.OnClick = [this] { ClickNoId(); };
-  BotonLeerId.OnClick = [this] { ReadIdentity(); };
+  BotonLeerId.OnClick = [this] { context_.WhenFree([this] { ReadIdentity(); }); };
 }
 
 void ProbeChannel::ClickId() { EnableIdentity(true); }

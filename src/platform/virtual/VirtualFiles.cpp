@@ -156,7 +156,7 @@ FileResult VirtualFiles::Append(const std::string& path, std::string_view octets
 }
 
 FileResult VirtualFiles::WhileLocked(const std::string& path, const std::function<void()>& work) {
-  if (Fails(Change::Lock, path)) return {"another program holds it"};
+  if (Fails(Change::Lock, path)) return {std::string(kHeldElsewhere)};
   contents.try_emplace(path);
   work();
   log.push_back("unlock " + path);

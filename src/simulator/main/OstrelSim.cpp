@@ -5,12 +5,14 @@
 #include <memory>
 #include <vector>
 
+#include "base/Printable.h"
 #include "host/SignalPipe.h"
 #include "host/SimulatedLoggers.h"
-#include "platform/qt/PseudoTerminal.h"
+#include "host/System.h"
+#include "platform/posix/PseudoTerminal.h"
 #include "platform/qt/QtClock.h"
-#include "platform/qt/QtFiles.h"
 #include "recording/Replay.h"
+#include "sim/FixtureText.h"
 #include "simulator/SimOptions.h"
 
 namespace {
@@ -67,7 +69,7 @@ class StateFile {
   }
 
  private:
-  QtFiles files_;
+  SystemFiles files_;
   sim::Logger& logger_;
   std::string path_;
 };
@@ -85,7 +87,7 @@ int Serve(QtEventLoop& loop, const std::string& path, const SimOptions& options)
 }
 
 int RunReplay(const SimOptions& options) {
-  QtFiles files;
+  SystemFiles files;
   std::string text, error;
   if (const FileResult read = files.ReadInto(options.replay, text); !read.Ok())
     return Fail(ExitCode::BadFile, "cannot read " + options.replay + ": " + read.error);
@@ -105,7 +107,19 @@ int RunReplay(const SimOptions& options) {
   return Serve(loop, terminal.SlavePath(), options);
 }
 
+/// Exit code of having read the file of the fixture; says what is wrong with it.
+int TakeFixture(SimOptions& options) {
+  if (options.fixture.empty()) return 0;
+  SystemFiles files;
+  std::string text;
+  if (const FileResult read = files.ReadInto(options.fixture, text); !read.Ok())
+    return Fail(ExitCode::BadFile, "cannot read " + options.fixture + ": " + read.error);
+  const std::string wrong = sim::ReadFixture(text, options.logger.model, options.logger.fixture);
+  return wrong.empty() ? 0 : Fail(ExitCode::BadFile, options.fixture + ": " + Printable(wrong));
+}
+
 int RunLogger(SimOptions options) {
+  if (const int taken = TakeFixture(options); taken != 0) return taken;
   QtEventLoop loop;
   options.logger.clockStart = QtClock().LocalNow();
   sim::Logger* logger = nullptr;

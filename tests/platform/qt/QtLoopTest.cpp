@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "platform/QtEnvironment.h"
 #include "platform/qt/QtEventLoop.h"
 
 namespace ostrel {
@@ -15,19 +16,6 @@ namespace {
 using std::chrono::milliseconds;
 using std::chrono::seconds;
 using testing::ElementsAre;
-
-/// The application object that Qt needs, for all tests of this program.
-class QtEnvironment final : public testing::Environment {
- public:
-  void SetUp() override { application_ = std::make_unique<QCoreApplication>(count_, words_); }
-  void TearDown() override { application_.reset(); }
-
- private:
-  int count_ = 1;
-  char name_[5] = "test";
-  char* words_[2] = {name_, nullptr};
-  std::unique_ptr<QCoreApplication> application_;
-};
 
 const testing::Environment* const kEnvironment =
     testing::AddGlobalTestEnvironment(new QtEnvironment);

@@ -1,0 +1,188 @@
+#include "platform/windows/WindowsSerialDevice.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace ostrel {
+namespace {
+
+constexpr DWORD kLines = EV_RLSD | EV_CTS;
+
+DCB ModeOf(const DeviceOpening& how) {
+  DCB mode{};
+  mode.DCBlength = sizeof mode;
+  mode.BaudRate = static_cast<DWORD>(how.settings.speed);
+  mode.fBinary = TRUE;
+  mode.Parity = NOPARITY;
+  if (how.settings.parity == 'E') mode.Parity = EVENPARITY;
+  if (how.settings.parity == 'O') mode.Parity = ODDPARITY;
+  mode.fParity = mode.Parity != NOPARITY;
+  mode.ByteSize = static_cast<BYTE>(how.settings.dataBits);
+  mode.StopBits = how.settings.stopBits == 2 ? TWOSTOPBITS : ONESTOPBIT;
+  mode.fDtrControl = how.dtr ? DTR_CONTROL_ENABLE : DTR_CONTROL_DISABLE;
+  mode.fRtsControl = how.rts ? RTS_CONTROL_ENABLE : RTS_CONTROL_DISABLE;
+  if (how.handshaking == PortHandshaking::RtsCts) {
+    mode.fOutxCtsFlow = TRUE;
+    mode.fRtsControl = RTS_CONTROL_HANDSHAKE;
+  }
+  if (how.handshaking == PortHandshaking::XOnXOff) {
+    constexpr int kRoom = 512;
+    mode.fOutX = mode.fInX = TRUE;
+    mode.XonChar = 0x11;
+    mode.XoffChar = 0x13;
+    mode.XonLim = mode.XoffLim = kRoom;
+  }
+  return mode;
+}
+
+}  // namespace
+
+WindowsSerialDevice::WindowsSerialDevice(QtEventLoop& loop, Handle device, DeviceEvents events)
+    : loop_(loop), device_(std::move(device)), events_(std::move(events)) {
+  Prepare(reading_, &WindowsSerialDevice::TakeRead);
+  Prepare(writing_, &WindowsSerialDevice::TakeWritten);
+  Prepare(watching_, &WindowsSerialDevice::TakeLines);
+}
+
+/// What is under way uses memory of this object: it is ended and waited for.
+WindowsSerialDevice::~WindowsSerialDevice() {
+  ::CancelIo(device_.Get());
+  for (Call* call : {&reading_, &writing_, &watching_}) {
+    call->notifier.reset();
+    DWORD count = 0;
+    if (call->isUnderWay) ::GetOverlappedResult(device_.Get(), &call->state, &count, TRUE);
+  }
+  ::PurgeComm(device_.Get(), PURGE_TXABORT | PURGE_TXCLEAR);
+}
+
+void WindowsSerialDevice::Prepare(Call& call, void (WindowsSerialDevice::*ended)()) {
+  call.event = Handle(::CreateEventW(nullptr, TRUE, FALSE, nullptr));
+  call.state.hEvent = call.event.Get();
+  call.notifier = std::make_unique<QWinEventNotifier>(call.event.Get());
+  call.notifier->setEnabled(false);
+  QObject::connect(call.notifier.get(), &QWinEventNotifier::activated, call.notifier.get(),
+                   [this, ended] { loop_.Guard([this, ended] { (this->*ended)(); }); });
+}
+
+PortFault WindowsSerialDevice::Start(const DeviceOpening& how) {
+  DCB mode = ModeOf(how);
+  if (!::SetCommState(device_.Get(), &mode)) {
+    // A device without the lines of flow control goes on without it.
+    mode.fOutxCtsFlow = FALSE;
+    mode.fRtsControl = RTS_CONTROL_ENABLE;
+    if (!::SetCommState(device_.Get(), &mode)) return PortFault::Failed;
+  }
+  // A reading ends as soon as there is an octet, and waits for the first one without end.
+  COMMTIMEOUTS times{};
+  times.ReadIntervalTimeout = MAXDWORD;
+  times.ReadTotalTimeoutMultiplier = MAXDWORD;
+  times.ReadTotalTimeoutConstant = MAXDWORD - 1;
+  if (!::SetCommTimeouts(device_.Get(), &times)) return PortFault::Failed;
+  ::SetupComm(device_.Get(), 4096, 4096);
+  ::PurgeComm(device_.Get(), PURGE_RXCLEAR | PURGE_TXCLEAR);
+  ReadOn();
+  if (::SetCommMask(device_.Get(), kLines)) AwaitLines();
+  return isLost_ ? PortFault::Failed : PortFault::None;
+}
+
+bool WindowsSerialDevice::IsBegun(Call& call, bool ended) {
+  // Also a call that has ended at once sets its event.
+  call.isUnderWay = ended || ::GetLastError() == ERROR_IO_PENDING;
+  call.notifier->setEnabled(call.isUnderWay);
+  return call.isUnderWay;
+}
+
+std::optional<std::size_t> WindowsSerialDevice::End(Call& call) {
+  call.notifier->setEnabled(false);
+  call.isUnderWay = false;
+  DWORD count = 0;
+  if (!::GetOverlappedResult(device_.Get(), &call.state, &count, FALSE)) return {};
+  return count;
+}
+
+void WindowsSerialDevice::ReadOn() {
+  if (isLost_ || reading_.isUnderWay || HasMore()) return;
+  arrived_ = read_ = 0;
+  const auto size = static_cast<DWORD>(block_.size());
+  if (!IsBegun(reading_, ::ReadFile(device_.Get(), block_.data(), size, nullptr, &reading_.state)))
+    Lose();
+}
+
+void WindowsSerialDevice::TakeRead() {
+  const std::optional<std::size_t> count = End(reading_);
+  if (!count) return Lose();
+  arrived_ = *count;
+  if (arrived_ > 0) events_.arrived();
+  ReadOn();
+}
+
+std::string WindowsSerialDevice::Read(std::size_t most) {
+  const std::size_t count = std::min(most, arrived_ - read_);
+  std::string octets(block_.data() + read_, count);
+  read_ += count;
+  ReadOn();
+  return octets;
+}
+
+void WindowsSerialDevice::Write(std::string_view octets) {
+  waiting_ += octets;
+  WriteOn();
+}
+
+void WindowsSerialDevice::WriteOn() {
+  if (isLost_ || writing_.isUnderWay || waiting_.empty()) return;
+  underWay_ = std::exchange(waiting_, {});
+  const auto size = static_cast<DWORD>(underWay_.size());
+  if (!IsBegun(writing_,
+               ::WriteFile(device_.Get(), underWay_.data(), size, nullptr, &writing_.state)))
+    Lose();
+}
+
+void WindowsSerialDevice::TakeWritten() {
+  const std::optional<std::size_t> count = End(writing_);
+  const bool isDiscarded = !count && ::GetLastError() == ERROR_OPERATION_ABORTED;
+  if (!count && !isDiscarded) return Lose();
+  if (count && *count < underWay_.size()) waiting_.insert(0, underWay_, *count);
+  underWay_.clear();
+  WriteOn();
+}
+
+std::size_t WindowsSerialDevice::Queued() const {
+  COMSTAT state{};
+  DWORD errors = 0;
+  const bool knows = ::ClearCommError(device_.Get(), &errors, &state) != 0;
+  // What is being written counts until the driver has taken all of it.
+  return std::max(knows ? std::size_t{state.cbOutQue} : 0, underWay_.size()) + waiting_.size();
+}
+
+void WindowsSerialDevice::DiscardOutput() {
+  waiting_.clear();
+  ::PurgeComm(device_.Get(), PURGE_TXABORT | PURGE_TXCLEAR);
+}
+
+std::optional<ControlLines> WindowsSerialDevice::Lines() const {
+  DWORD lines = 0;
+  if (!::GetCommModemStatus(device_.Get(), &lines)) return {};
+  return ControlLines{.clearToSend = (lines & MS_CTS_ON) != 0,
+                      .dataSetReady = (lines & MS_DSR_ON) != 0,
+                      .carrier = (lines & MS_RLSD_ON) != 0};
+}
+
+void WindowsSerialDevice::AwaitLines() {
+  if (isLost_ || watching_.isUnderWay) return;
+  // A device that cannot wait for its lines is used without.
+  IsBegun(watching_, ::WaitCommEvent(device_.Get(), &moved_, &watching_.state));
+}
+
+void WindowsSerialDevice::TakeLines() {
+  if (!End(watching_)) return;  // gone, or unable: the reading tells which
+  events_.lineMoved();
+  AwaitLines();
+}
+
+void WindowsSerialDevice::Lose() {
+  if (std::exchange(isLost_, true)) return;
+  events_.lost();
+}
+
+}  // namespace ostrel
