@@ -61,11 +61,13 @@ void Comms::ScanPorts() {
 
 bool Comms::LineLost() const {
   if (!line_.PortOpen() || platform_.port.LineLost()) return true;
-  return carrierGoneAt_ && line_.AnsweredAt() <= *carrierGoneAt_;
+  if (!carrierGoneAt_ || line_.AnsweredAt() > *carrierGoneAt_) return false;
+  return isCall_ || line_.HeardAt() <= *carrierGoneAt_ + kCarrierTail;
 }
 
 LinkResult Comms::StartComs(std::int16_t port, const std::string& phone) {
   carrierGoneAt_.reset();
+  isCall_ = !phone.empty();
   const LinkDeed deed{
       .kind = LedgerKind::Session, .detail = {}, .port = PortName(port), .phone = phone};
   if (hooks_.deedBegins) hooks_.deedBegins(deed);

@@ -232,8 +232,8 @@ TEST(Online, ShowsProgressWithTheTimeThatRemainsOnATerminalAlone) {
 TEST(Online, TracesTheLineWithItsPrefixes) {
   World world;
   std::ostringstream trace;
-  world.environment.openLog = [&](const std::string& path,
-                                  std::string&) -> std::unique_ptr<std::ostream> {
+  world.environment.openTrace = [&](const std::string& path,
+                                    std::string&) -> std::unique_ptr<std::ostream> {
     if (path != "/trace.txt") return nullptr;
     return std::make_unique<std::ostream>(trace.rdbuf());
   };
@@ -241,7 +241,7 @@ TEST(Online, TracesTheLineWithItsPrefixes) {
   EXPECT_THAT(trace.str(), HasSubstr(" TxSer: #40\n"));
   EXPECT_THAT(trace.str(), HasSubstr(" RxSer: #BF"));
   EXPECT_EQ(world.Run("info --port sim:VR200 --trace /forbidden"), 5);
-  world.environment.openLog = [](const std::string&, std::string&) {
+  world.environment.openTrace = [](const std::string&, std::string&) {
     return std::make_unique<std::ostream>(nullptr);  // takes nothing
   };
   world.Expect("info --port sim:VR200 --trace /full", 5, "cannot write /full");
