@@ -11,7 +11,8 @@
 namespace ostrel {
 namespace {
 
-constexpr int kNameWidth = 70;  // pixels that a name has at the least
+constexpr int kBetweenMeasures = 14;  // pixels from one column of values to the next
+constexpr int kNameWidth = 70;        // pixels that a name has at the least
 constexpr int kAnalogRows = 4;
 constexpr int kPulseRows = 9;
 constexpr int kMathRows = 4;
@@ -60,7 +61,9 @@ int AddMeasure(FormView& view, QGridLayout& grid, int row, int column, std::stri
                int index) {
   const std::string name = Part("Label_", family, "_Name", index);
   const std::string digit = Part("Digit_", family, "", index);
-  grid.addWidget(RowNumber(view, digit, index), row, column++);
+  QLabel* number = RowNumber(view, digit, index);
+  if (column > 0) number->setIndent(kBetweenMeasures);
+  grid.addWidget(number, row, column++);
   grid.addWidget(Elastic(view, name), row, column);
   grid.setColumnStretch(column++, 3);
   NameAfter(view, digit, name, QString("%1 %2").arg(ToQt(family)).arg(index));
