@@ -12,7 +12,8 @@
 namespace ostrel {
 namespace {
 
-constexpr int kNameWidth = 70;  // pixels that a name has at the least
+constexpr int kBetweenMeasures = 14;  // pixels from one column of values to the next
+constexpr int kNameWidth = 70;        // pixels that a name has at the least
 
 /// A text that takes what room there is.
 QWidget* Elastic(FormView& view, const std::string& text) {
@@ -53,7 +54,9 @@ int AddMeasure(FormView& view, QGridLayout& grid, int row, int column, std::stri
                int index) {
   const std::string name = ControlName("Label_", family, "_Name", index);
   const std::string digit = ControlName("Digit_", family, "", index);
-  grid.addWidget(RowNumber(view, digit, index), row, column++);
+  QLabel* number = RowNumber(view, digit, index);
+  if (column > 0) number->setIndent(kBetweenMeasures);
+  grid.addWidget(number, row, column++);
   grid.addWidget(ElasticLabel(view, name), row, column);
   grid.setColumnStretch(column++, 3);
   NameAfter(view, digit, name, QString("%1 %2").arg(ToQt(family)).arg(index));

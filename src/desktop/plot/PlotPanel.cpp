@@ -20,6 +20,7 @@ namespace ostrel {
 namespace {
 
 enum PlotColumn { kPlotName, kPlotValue };
+constexpr int kPlotMargin = 8;
 constexpr int kPlotListWidth = 250;
 constexpr int kSwatch = 12;  // px
 constexpr std::size_t kChosenAtFirst = 3;
@@ -53,6 +54,7 @@ PlotPanel::PlotPanel(const LiveHistory& history, QWidget* parent)
     : QDockWidget(parent), history_(history), chart_(new PlotChart(history, this)) {
   setObjectName("Plot");
   auto* splitter = new QSplitter(this);
+  splitter->setContentsMargins(kPlotMargin, 0, kPlotMargin, kPlotMargin);
   auto* side = new QWidget(splitter);
   MakeList(side);
   auto* sheet = new QWidget(splitter);

@@ -3128,6 +3128,14 @@
         <translation>se cortó la línea</translation>
     </message>
     <message>
+        <source>Measured</source>
+        <translation>Medido</translation>
+    </message>
+    <message>
+        <source>not 0, 2..8</source>
+        <translation>ni 0 ni 2..8</translation>
+    </message>
+    <message>
         <source>test run</source>
         <translation>prueba de fábrica</translation>
     </message>
