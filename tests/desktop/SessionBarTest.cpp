@@ -5,6 +5,7 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QStatusBar>
+#include <QTableWidget>
 #include <QTimer>
 #include <QTreeWidget>
 
@@ -227,6 +228,7 @@ TEST_F(OnEveryPage, AReadingCoversWhatItEmptiesAndItsBarTellsOfSuccessAlone) {
     Window().GoTo("General");
     return On(*desktop, "PBar")->isVisibleTo(&Window());
   };
+  const auto* table = Window().findChild<QTableWidget*>("GroupTable");
   const auto covers = [&] { return Window().Pages().findChildren<QLabel*>("Cover").size(); };
   EXPECT_FALSE(bar());
   SessionTool("ReadTool")->trigger();
@@ -237,9 +239,14 @@ TEST_F(OnEveryPage, AReadingCoversWhatItEmptiesAndItsBarTellsOfSuccessAlone) {
         << "the page has a bar of its own";
     Window().GoTo("E_Digital_3");
     EXPECT_EQ(covers(), 1) << "the whole page";
+    Window().GoTo("E_Digital");
+    EXPECT_EQ(covers(), 1) << "what stands in the place of a table";
+    EXPECT_FALSE(table->isVisibleTo(&Window()));
   });
   loop.RunFor(seconds(60));
   EXPECT_EQ(covers(), 0);
+  EXPECT_TRUE(table->isVisibleTo(&Window()));
+  EXPECT_EQ(table->rowCount(), 8);
   EXPECT_TRUE(bar());
   SessionTool("ReadTool")->trigger();
   loop.After(seconds(4), "cancel", [&] { SessionTool("CancelTool")->trigger(); });

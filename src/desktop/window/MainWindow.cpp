@@ -240,11 +240,11 @@ void MainWindow::ShowGroup(const std::string& key) {
   const bool hasPage = FindNodeTarget(key, configurator_.profile, false).has_value();
   // Some groups have a page of their own, which stands above the table.
   const bool isTimers = key == kTimersNode;
-  const bool isPage = hasPage || !(isGroup || isTimers);
+  const bool isPage = isReading_ || hasPage || !(isGroup || isTimers);
   pages_->setVisible(isPage);
   if (!isPage) notes_->hide();
-  group_->setVisible(isGroup);
-  timers_->setVisible(isTimers);
+  group_->setVisible(isGroup && !isReading_);
+  timers_->setVisible(isTimers && !isReading_);
   ShowTimers();
   overview_.ShowNode(key);
 }

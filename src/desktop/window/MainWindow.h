@@ -299,6 +299,7 @@ class MainWindow final : public QMainWindow {
   unsigned comparingSeen_ = 0;         ///< the touch after which the pages were compared
   bool readsBeside_ = false;           ///< the reading asked for is to leave the pages alone
   bool isBeside_ = false;              ///< such a reading runs
+  bool isReading_ = false;             ///< any reading runs
   QPointer<CompareWindow> comparing_;  ///< while it stands
   QPointer<QMessageBox> leaveBox_;     ///< the question that stands while a transfer runs
   QPointer<QWidget> focus_, refuge_;   ///< where the focus was, and went, when the pages rested
