@@ -204,16 +204,31 @@ TEST_F(WindowLivePanels, AcceptsPointByPointAndKeepsIt) {
   EXPECT_NE(table.find(serial + ",,digital input,0,Door,fail,no pulse,"), std::string::npos)
       << table;
 
-  Core().conf.Analog[0].NOMBRE = "Pressure";
+  Core().conf.Digital[1].NOMBRE = "Pump";
   Run(seconds(2));
   ASSERT_EQ(list->topLevelItemCount(), 3) << "it follows the configuration";
+  EXPECT_EQ(list->topLevelItem(1)->text(3), "no pulse");
+  list->setCurrentItem(list->topLevelItem(0));
+  Find<QPushButton>("AcceptanceOpen")->click();
+  EXPECT_EQ(list->topLevelItem(0)->text(2), "open");
+  Find<QPushButton>("AcceptanceFail")->click();
+  EXPECT_EQ(list->currentItem(), list->topLevelItem(0)) << "to note what it was";
+  Find<QPushButton>("AcceptancePass")->click();
+  EXPECT_EQ(list->currentItem(), list->topLevelItem(2)) << "over what is judged";
+  Press(list, Qt::Key_Return);
+  EXPECT_EQ(desktop->Navigator().Front()->Name(), "E_Digital");
+  Core().conf.Analog[0].NOMBRE = "Pressure";
+  Run(seconds(2));
+  ASSERT_EQ(list->topLevelItemCount(), 4);
   EXPECT_EQ(list->topLevelItem(2)->text(3), "no pulse");
-  EXPECT_EQ(list->currentItem(), list->topLevelItem(2)) << "the input, not the row";
+  EXPECT_EQ(list->currentItem(), list->topLevelItem(3)) << "the input, not the row";
   Core().session.Close(false);
   Core().conf.Digital[2].NOMBRE = "Gate";
   Run(seconds(2));
   EXPECT_FALSE(Find<QPushButton>("AcceptancePass")->isEnabled())
       << "of which logger this is, nobody knows";
+  EXPECT_FALSE(note->isEnabled());
+  EXPECT_EQ(list->topLevelItem(0)->text(1), "") << "nothing is measured any more";
 }
 
 TEST_F(WindowLivePanels, AcceptanceWaitsForTheEndOfADownload) {
