@@ -182,6 +182,8 @@ TEST_F(OnEveryPage, LeavingAVoiceListThatIsBeingWrittenIsAsked) {
     EXPECT_EQ(LinkWords(), "Escribiendo la lista de voz");
     EXPECT_FALSE(Window().close()) << "it asks";
     ASSERT_NE(Box(), nullptr);
+    EXPECT_TRUE(Box()->text().endsWith("Los cambios que no se han guardado ni enviado se pierden."))
+        << FromQt(Box()->text());
     Box()->reject();
   });
   Core().PageOf(PageId::Aut_Voz)->GetForm().Get<Button>("WriteBut").Click();

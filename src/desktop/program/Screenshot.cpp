@@ -1,5 +1,6 @@
 #include "desktop/program/Screenshot.h"
 
+#include <QAction>
 #include <QCoreApplication>
 #include <QCursor>
 #include <QPainter>
@@ -14,14 +15,14 @@
 #include "desktop/window/DoctorDialog.h"
 #include "desktop/window/HistoryDialog.h"
 #include "desktop/window/ScheduleView.h"
+#include "host/GrowingFiles.h"
 #include "host/SimulatedLoggers.h"
 #include "host/System.h"
-#include "host/TraceFile.h"
-#include "platform/qt/QtEventLoop.h"
 #include "platform/virtual/VirtualClock.h"
 #include "platform/virtual/VirtualDialogs.h"
 #include "platform/virtual/VirtualFiles.h"
 #include "platform/virtual/VirtualLedger.h"
+#include "platform/virtual/VirtualLoop.h"
 #include "platform/virtual/VirtualProcesses.h"
 #include "platform/virtual/VirtualSettings.h"
 #include "shell/GuardedWrite.h"
@@ -37,6 +38,11 @@ constexpr std::string_view kSchedule = "Schedule";
 constexpr std::string_view kDoctor = "Doctor";
 constexpr std::string_view kReport = "Report";
 constexpr std::string_view kHistoryPage = "History";
+// Pages on which work is to be seen, and a page that no node leads to.
+constexpr std::string_view kTestPassed = "TestPassed";
+constexpr std::string_view kTestFailed = "TestFailed";
+constexpr std::string_view kPlot = "Plot";
+constexpr std::string_view kCathodic = "T_Real_Katodex";
 
 /// A dialog, drawn by itself as it comes up, if the key names one.
 QPixmap DialogPicture(Desktop& desktop, VirtualDialogs& dialogs, const std::string& key) {
@@ -145,35 +151,81 @@ QPixmap ReportPicture(Desktop& desktop, const Platform& platform, const CommandL
   return picture;
 }
 
+/// Whether a picture is of a board at the end of its factory test.
+bool IsTestPicture(const std::string& key) { return key == kTestPassed || key == kTestFailed; }
+
+/// The node whose page a picture is of.
+std::string NodeOfPicture(const std::string& key) {
+  if (IsTestPicture(key)) return "TEST";
+  return key == kPlot ? "T_Real" : key;
+}
+
 /// Whether a key leads to a page for a model: by a node of its tree, or to one of the pages that no
 /// model's tree has.
 bool LeadsToPage(const TargetProfile& model, const std::string& key) {
   const auto nodes =
       BuildNavigationTree(model, [](std::string_view text) { return std::string(text); });
-  if (std::ranges::find(nodes, key, &TreeNode::key) != nodes.end()) return true;
-  const auto target = FindNodeTarget(key, model, true);
-  return target && (key == "TEST" || target->form == FormId(PageId::E_Aux) ||
+  const std::string node = NodeOfPicture(key);
+  if (node == kCathodic || std::ranges::find(nodes, node, &TreeNode::key) != nodes.end())
+    return true;
+  const auto target = FindNodeTarget(node, model, true);
+  return target && (node == "TEST" || target->form == FormId(PageId::E_Aux) ||
                     target->form == FormId(PageId::Katodex));
 }
 
-/// Opens a session with the simulated logger of the model, and lets some rounds of live values pass
-/// on the page in front.
-void ReadLive(Configurator& core, const SimulatedLoggers& simulated, EventLoop& loop) {
-  constexpr Duration kRounds = std::chrono::milliseconds(1200);
-  if (core.session.Open(simulated.NumberOf(core.profile.TargetName), ""))
-    loop.RunUntil([] { return false; }, loop.Now() + kRounds);
+/// A logger for a picture; where its factory test is shown it is a new board, a bad one for a test
+/// that fails.
+sim::LoggerOptions PicturedLogger(sim::Model model, const std::string& key) {
+  sim::LoggerOptions options = sim::MakeDefaultOptions(model);
+  if (IsTestPicture(key)) options.serial = model == sim::Model::KA2 ? "-1" : "0";
+  if (key != kTestFailed) return options;
+  sim::FixtureScript& fixture = options.fixture;
+  fixture.driven[5].analogs[1] = 2900;
+  fixture.inputsOn = 84;
+  fixture.gsm = {{Duration{}, 6}};
+  return options;
 }
 
-QPixmap PagePicture(Desktop& desktop, const CommandLine& line,
-                    const std::function<void()>& readLive) {
+/// The time that passes on the page in front, with a session, until the picture is taken.
+Duration TimeOfPicture(const std::string& key) {
+  if (key == kPlot) return std::chrono::minutes(12);
+  if (IsTestPicture(key)) return std::chrono::seconds(2);
+  if (key == "T_Real" || key == kCathodic) return std::chrono::milliseconds(1200);
+  return {};
+}
+
+/// Lets the work be done that a picture shows, with the simulated logger of the model.
+void WorkForPicture(Desktop& desktop, const SimulatedLoggers& loggers, VirtualLoop& loop,
+                    const std::string& key) {
+  Configurator& core = desktop.Core();
+  const Duration time = TimeOfPicture(key);
+  if (time == Duration{} || !core.session.Open(loggers.NumberOf(core.profile.TargetName), ""))
+    return;
+  if (IsTestPicture(key)) {
+    loop.RunFor(time);  // the page learns of the session
+    core.ToolOf(std::get<ToolId>(FindNodeTarget("TEST", core.profile, true)->form))
+        ->GetForm()
+        .Get<Button>("Command1")
+        .Click();
+  }
+  if (key == kPlot)
+    for (QAction* action : desktop.Window().actions())
+      if (action->shortcut() == QKeySequence("Ctrl+L")) action->trigger();
+  loop.RunFor(time);
+}
+
+QPixmap PagePicture(Desktop& desktop, const CommandLine& line, const std::function<void()>& work) {
   MainWindow& window = desktop.Window();
-  if (!line.page.empty()) window.GoTo(line.page);
+  if (line.page == kCathodic)
+    desktop.Navigator().ShowForm(ToolId::T_Real_Katodex);
+  else if (!line.page.empty())
+    window.GoTo(NodeOfPicture(line.page));
   window.resize(line.size);
   window.show();
   window.setFocus();
   QCursor::setPos(window.mapToGlobal(window.rect().center()));
   window.Look();
-  if (line.page == "T_Real") readLive();
+  work();
   for (int round = 0; round < 3; ++round) QCoreApplication::processEvents();
   return window.grab();
 }
@@ -181,7 +233,7 @@ QPixmap PagePicture(Desktop& desktop, const CommandLine& line,
 }  // namespace
 
 std::string TakeScreenshot(const CommandLine& line, const std::string& langFile) {
-  QtEventLoop loop;
+  VirtualLoop loop;
   VirtualSettings settings;
   settings.Set(kMaker, kProduct, "Idioma", std::to_string(line.language));
   settings.Set(kMaker, kProduct, "ComPort", "1");
@@ -195,13 +247,15 @@ std::string TakeScreenshot(const CommandLine& line, const std::string& langFile)
     if (!content) return "cannot read " + line.file;
     files.contents[kConfiguration] = *content;
   }
-  VirtualClock clock;
+  VirtualClock clock({2011, 3, 14, 9, 26, 53}, loop);
   VirtualLedger ledger;
   VirtualDialogs dialogs;
   VirtualProcesses processes;
   LinePort noPort(loop);
   std::optional<SimulatedLoggers> simulated;
-  if (line.demo) simulated.emplace(loop, clock);
+  if (line.demo)
+    simulated.emplace(loop, clock,
+                      [&](sim::Model model) { return PicturedLogger(model, line.page); });
   BlindInspector inspector;
   const Platform platform{.loop = loop,
                           .port = simulated ? simulated->Port() : noPort,
@@ -216,7 +270,8 @@ std::string TakeScreenshot(const CommandLine& line, const std::string& langFile)
                    .langFile = kTable,
                    .openLog = OpenLog,
                    .openRecording = OpenRecording,
-                   .factory = line.factory,
+                   .station = {"Ana", "Puesto 1", "/factory"},
+                   .factory = line.factory || IsTestPicture(line.page),
                    .ticking = true},
                   {}, inspector);
   desktop.Start(line.file.empty() ? "" : kConfiguration);
@@ -235,7 +290,7 @@ std::string TakeScreenshot(const CommandLine& line, const std::string& langFile)
     if (!line.page.empty() && !LeadsToPage(core.profile, line.page))
       return "there is no page " + line.page + " for the " + core.profile.TargetName;
     picture = PagePicture(desktop, line, [&] {
-      if (simulated) ReadLive(desktop.Core(), *simulated, loop);
+      if (simulated) WorkForPicture(desktop, *simulated, loop, line.page);
     });
   }
   return picture.save(ToQt(line.screenshot), "PNG") ? "" : "cannot write " + line.screenshot;

@@ -248,8 +248,10 @@ class MainWindow final : public QMainWindow {
   bool MayReplace(const std::string& path, const std::string& why);
   /// True when the present configuration may go: nothing is unsaved, or the operator says so.
   bool MayLeave();
-  /// Asks whether to leave in the midst of a transfer, which goes on meanwhile.
-  void AskToBreakOff(const QString& whatIsLost);
+  /// What leaving now would break off or leave undone, as a sentence; empty for nothing.
+  QString WhatLeavingBreaks();
+  /// Asks whether to leave in the midst of something, which goes on meanwhile.
+  void AskToBreakOff(QString whatIsLost);
   void Leave();
 
   WindowParts parts_;

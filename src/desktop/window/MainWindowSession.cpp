@@ -93,7 +93,8 @@ void MainWindow::RestForUpdate(bool isUpdating) {
   if (isUpdating == isUpdating_) return;
   isUpdating_ = isUpdating;
   tree_->setEnabled(!isUpdating);
-  if (leaveBox_ && !isUpdating && !configurator_.session.IsFlashErased()) leaveBox_->close();
+  if (leaveBox_ && !isUpdating && configurator_.session.Flash() == FlashState::Kept)
+    leaveBox_->close();
 }
 
 void MainWindow::ShowTransfer() {
