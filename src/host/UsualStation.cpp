@@ -1,5 +1,6 @@
 #include "host/UsualStation.h"
 
+#include <QString>
 #include <QSysInfo>
 
 #include "host/Folders.h"

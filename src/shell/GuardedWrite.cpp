@@ -57,6 +57,8 @@ WriteEnd Send(Configurator& configurator, const WriteRoad& road, WriteResult& re
 std::optional<DeviceConf> ReadBeside(Configurator& configurator,
                                      const std::function<bool()>& read) {
   const PagesKept kept(configurator);
+  // Emptying leaves some fields alone: what stands on the pages must not pass for what was read.
+  configurator.conf = DeviceConf{};
   if (!read()) return {};
   return configurator.conf;
 }

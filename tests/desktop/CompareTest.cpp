@@ -41,36 +41,57 @@ class Comparing : public OpenWindow {
 TEST_F(Comparing, TellsInWordsLeadsToTheFieldAndTakesOver) {
   DeviceConf& conf = Core().conf;
   conf.Digital[2].NOMBRE = "gate";
-  conf.Digital[2].ALARM[1].common.valid.SEMANA = 3;
+  for (const int config : {0, 1}) conf.Digital[2].ALARM[config].common.valid.SEMANA = 3;
+  conf.Digital[2].ALARM[1].common.ACTHI[0] = 8;
   conf.Digital[3].NOMBRE = "pump";
   conf.Gprs.APN_PASS = "one";
   Core().ConfFilePath = Path("a.ocf");
   ASSERT_TRUE(Core().SaveConf().Ok());
-  conf.Digital[2].ALARM[1].common.valid.SEMANA = 1;
+  for (const int config : {0, 1}) conf.Digital[2].ALARM[config].common.valid.SEMANA = 1;
+  conf.Digital[2].ALARM[1].common.ACTHI[0] = 0;
   conf.Digital[3].NOMBRE = "";
   conf.Gprs.APN_PASS = "two";
   Core().ShowConfiguration(conf);
   Window().GoTo("E_Digital_2");
   Core().PageOf(PageId::E_Digital)->GetForm().Get<TextBox>("Nombre").Type("door");
 
+  ASSERT_TRUE(SafetyCopies(files, clock, FromQt(folder.path()))
+                  .Keep({conf, Core().profile, "123"})
+                  .result.Ok());
   Tool("Comparar")->trigger();
+  EXPECT_GE(
+      Compared()->findChild<QComboBox*>("Side1")->findText("safety copy", Qt::MatchStartsWith), 0);
   dialogs.ChoosePath(Path("a.ocf"));
-  Choose("Side1", "another file...");
+  dialogs.ChoosePath({});  // leaves what was chosen
+  for (int choice = 0; choice < 2; ++choice) Choose("Side1", "another file...");
   EXPECT_EQ(Rows().join(u'\n'),
-            "Digital input 2||\nName|door|gate\nAlarm 1, valid days|Mo|Mo Tu\nDigital input 3||\n"
-            "Name|empty|pump\nGPRS and FTP||\nAPN password|****|****, another one");
-  EXPECT_TRUE(Summary().startsWith("4 fields differ. What is taken over comes from: a.ocf."));
+            "Digital input 2||\nName|door|gate\nAlarm 0, valid days|Mo|Mo Tu\n"
+            "Alarm 1, valid days|Mo|Mo Tu\nAlarm 1, actions, high 0|none|8 - Ejecutar macro 7\n"
+            "Digital input 3||\nName|empty|pump\n"
+            "GPRS and FTP||\nAPN password|****|****, another one");
+  EXPECT_TRUE(Summary().startsWith("6 fields differ. What is taken over comes from: a.ocf."));
+  auto* takeSelected = Compared()->findChild<QPushButton*>("TakeSelected");
+  EXPECT_FALSE(takeSelected->isEnabled());
 
   Window().GoTo("General");
+  Tree()->itemActivated(Tree()->topLevelItem(1), 0);
+  EXPECT_EQ(desktop->Navigator().Front()->Name(), "General") << "a heading is no field";
   Tree()->itemActivated(Tree()->topLevelItem(1)->child(0), 0);
   EXPECT_EQ(Window().Pages().Front()->GetForm().Title().back(), '3') << "it leads to its field";
 
+  Tree()->topLevelItem(0)->child(2)->setSelected(true);
+  EXPECT_TRUE(takeSelected->isEnabled());
+  Core().PageOf(PageId::E_Digital)->GetForm().Get<TextBox>("TextoAlarma").Type("open");
+  Press("TakeSelected");
+  EXPECT_EQ(Core().conf.Digital[2].ALARM[1].common.valid.SEMANA, 3);
+  EXPECT_EQ(Core().conf.Digital[2].ALARM[0].common.valid.SEMANA, 1) << "of another alarm";
+  EXPECT_EQ(Core().conf.Digital[3].ALARM[0].common.TEXTO, "open") << "what stands on the page";
   Tree()->topLevelItem(0)->setSelected(true);  // the whole channel
   Press("TakeSelected");
   EXPECT_EQ(Core().conf.Digital[2].NOMBRE, "gate");
-  EXPECT_EQ(Core().conf.Digital[2].ALARM[1].common.valid.SEMANA, 3);
+  EXPECT_EQ(Core().conf.Digital[2].ALARM[1].common.ACTHI[0], 8);
   EXPECT_EQ(Core().conf.Digital[3].NOMBRE, "");
-  EXPECT_EQ(Rows().size(), 4);
+  EXPECT_EQ(Rows().size(), 5);
   Press("TakeAll");
   EXPECT_EQ(Name(), "pump") << "the page in front shows it";
   EXPECT_EQ(Core().conf.Gprs.APN_PASS, "one");
@@ -85,24 +106,33 @@ TEST_F(Comparing, ReadsTheLoggerBesideThePages) {
   Tool("Comparar")->trigger();
   Choose("Side1", "the logger");
   EXPECT_EQ(Summary(), "The logger is being read.");
+  EXPECT_FALSE(Compared()->isEnabled()) << "it rests meanwhile";
   loop.RunFor(seconds(10));
   EXPECT_GT(Rows().size(), 20);
   EXPECT_EQ(Name(), "door");
   EXPECT_TRUE(Window().isWindowModified()) << "what stood on the pages is as unsaved as before";
+  EXPECT_TRUE(Tool("Deshacer")->isEnabled()) << "and can be undone as before";
   EXPECT_FALSE(Core().WhereFrom().isKnown);
   Press("TakeAll");
   EXPECT_EQ(Core().conf.General.DNAME, logger->Conf().name);
   EXPECT_EQ(Summary(), "Both hold the same.");
+  loop.After(std::chrono::milliseconds(100), "unplug", [this] { line->Vanish(); });
+  Choose("Side1", "the logger");
+  loop.RunFor(seconds(10));
+  EXPECT_EQ(Summary(), "The logger could not be read.");
 }
 
 TEST_F(Comparing, ACutFileAndAnotherModelAreTold) {
-  Core().ConfFilePath = Path("whole.ocf");
-  ASSERT_TRUE(Core().SaveConf().Ok());
+  dialogs.ChoosePath(Path("whole.ocf"));
+  Tool("Guardar")->trigger();
   const std::string whole = files.Read(Path("whole.ocf")).value();
   files.Create(Path("cut.ocf"));
   files.Write(Path("cut.ocf"), whole.substr(0, whole.size() / 2));
   Tool("Comparar")->trigger();
+  EXPECT_EQ(Summary(), "Both hold the same.") << "with the file that is worked on";
   auto* window = static_cast<CompareWindow*>(Compared());
+  window->ShowFile(Path("Lang.txt"));
+  EXPECT_EQ(Summary(), "The file holds no configuration.");
   window->ShowFile(Path("cut.ocf"));
   EXPECT_TRUE(Summary().contains("not whole")) << FromQt(Summary());
   Core().TargetDeviceChange("Ostrel KA1");
@@ -123,13 +153,18 @@ class Copying : public Comparing {
     Core().conf.Digital[5].NOMBRE = "pump";
     Core().ShowConfiguration(Core().conf);
   }
-  /// Chooses from the menu of the channel what starts with some words.
-  void Run(const QString& words) {
+  /// What starts with some words in the menu of the channel; null for nothing.
+  QAction* Offered(const QString& words) {
     QMenu* menu = Tool("Canal")->menu();
     menu->aboutToShow();
     for (QAction* action : menu->actions())
-      if (action->text().startsWith(words)) return action->trigger();
-    ADD_FAILURE() << "nothing begins with " << FromQt(words);
+      if (action->text().startsWith(words)) return action;
+    return nullptr;
+  }
+  void Run(const QString& words) {
+    QAction* action = Offered(words);
+    ASSERT_NE(action, nullptr) << "nothing begins with " << FromQt(words);
+    action->trigger();
   }
   const AlarmBlock& Alarm(int channel, int config) {
     return Core().conf.Digital[channel].ALARM[config].common;
@@ -139,13 +174,16 @@ class Copying : public Comparing {
 TEST_F(Copying, AnAlarmGoesIntoAnotherAndAChannelKeepsItsName) {
   Window().GoTo("E_Digital_2");
   Window().Pages().Front()->GetForm().Get<OptionButton>("Config1").SetSelected(true);
+  Window().Pages().Front()->GetForm().Get<TextBox>("TextoAlarma").Type("ajar");
   Run("Copy alarm 1 of digital input 2");
+  Window().GoTo("E_Analog_1");
+  EXPECT_EQ(Offered("Paste"), nullptr) << "of another kind";
   Window().GoTo("E_Digital_5");
   Window().Pages().Front()->GetForm().Get<OptionButton>("Config3").SetSelected(true);
   Run("Paste alarm 1 of digital input 2 as alarm 3 of digital input 5");
   EXPECT_EQ(Alarm(5, 3), Alarm(2, 1));
   EXPECT_NE(Alarm(5, 1), Alarm(2, 1));
-  EXPECT_EQ(On<QLineEdit>(*desktop, "TextoAlarma")->text(), "open");
+  EXPECT_EQ(On<QLineEdit>(*desktop, "TextoAlarma")->text(), "ajar");
   Window().GoTo("E_Digital_2");
   Run("Copy digital input 2");
   Window().GoTo("E_Digital_5");
@@ -161,7 +199,11 @@ TEST_F(Copying, IsAppliedToAllOthers) {
   modals.Expect([](QWidget* modal) {
     auto* what = modal->findChild<QComboBox*>("What");
     what->setCurrentIndex(what->findText("alarm 1 alone"));
-    EXPECT_FALSE(modal->findChild<QPushButton*>("Apply")->isEnabled());
+    const auto* apply = modal->findChild<QPushButton*>("Apply");
+    modal->findChild<QPushButton*>("All")->click();
+    EXPECT_TRUE(apply->isEnabled());
+    modal->findChild<QPushButton*>("None")->click();
+    EXPECT_FALSE(apply->isEnabled());
     modal->findChild<QPushButton*>("All")->click();
     auto* targets = modal->findChild<QListWidget*>("Targets");
     EXPECT_EQ(targets->count(), 8) << "no more than the model has";
@@ -180,6 +222,8 @@ TEST_F(Copying, IsPastedIntoTheChannelsSelectedInATable) {
   Window().GoTo("E_Digital_2");
   Run("Copy digital input 2");
   Window().show();
+  Window().GoTo("E_Analog");
+  EXPECT_EQ(Offered("Paste"), nullptr) << "of another kind";
   Window().GoTo("E_Digital");
   auto* table = Window().findChild<QTableWidget*>("GroupTable");
   for (const int row : {0, 6})

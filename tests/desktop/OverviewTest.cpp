@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <QAction>
 #include <QClipboard>
 #include <QLabel>
 #include <QLineEdit>
@@ -109,6 +110,15 @@ TEST_F(OverviewBP, FindingsStandAtTheirFieldsAndAPanelLeadsThere) {
   EXPECT_EQ(Bubble(), NoteOf("Persist"));
   EXPECT_EQ(Marks("E_Analog_2"), kMarkError | kMarkChanged | kMarkAlarm);
   EXPECT_EQ(Marks("E_Analog"), Marks("E_Analog_2")) << "its group shows them when it is closed";
+  EXPECT_EQ(Marks("E_Analog_1"), 0);
+  auto* strip = desktop->Window().findChild<QLabel*>("Notes");
+  EXPECT_TRUE(strip->text().contains("Start of scale") && strip->text().endsWith("2 more"));
+  GoTo("E_Analog");
+  EXPECT_FALSE(strip->isVisible()) << "a table is no page";
+  GoTo("E_Analog_1");
+  EXPECT_EQ(NoteOf("Nombre"), "") << "it is about a neighbour";
+  GoTo("E_Analog_2");
+  EXPECT_TRUE(strip->isVisible());
   Click(On(*desktop, "Config0"));
   Pass();
   EXPECT_EQ(NoteOf("Persist"), "") << "it is about another configuration";
@@ -129,6 +139,7 @@ TEST_F(OverviewBP, FindingsStandAtTheirFieldsAndAPanelLeadsThere) {
   Pass();
   EXPECT_TRUE(desktop->Window().Pages().Front()->findChildren<QWidget*>("NoteMark").isEmpty())
       << "marks go with what they told";
+  EXPECT_FALSE(strip->isVisible());
   EXPECT_TRUE(Findings()->findItems("100000", Qt::MatchContains, 3).empty());
 }
 
@@ -160,6 +171,14 @@ TEST_F(OverviewS100, TheTreeHasNamesAndFindsThem) {
   EXPECT_FALSE(Node("E_Digital_1")->isHidden());
   EXPECT_TRUE(Node("E_Digital_0")->isHidden());
   EXPECT_TRUE(Node("Modulo_5")->isHidden());
+  EXPECT_TRUE(Node("E_Digital")->isExpanded());
+  desktop->Window().Tree().findChild<QLineEdit*>("Filter")->clear();
+  EXPECT_FALSE(Node("E_Digital")->isExpanded()) << "as it was";
+  dialogs.ChoosePath(Path("a.ocf"));
+  for (QAction* tool : desktop->Window().findChildren<QAction*>())
+    if (tool->shortcut() == QKeySequence::Save) tool->trigger();
+  Pass();
+  EXPECT_EQ(Marks("Modulo_5") & kMarkChanged, 0) << "it is saved";
 }
 
 TEST_F(OverviewS100, AGroupIsATableOfItsChannelsThatOpensThem) {
@@ -202,8 +221,18 @@ TEST_F(OverviewBP, TimersAreTablesThatOpenThem) {
   EXPECT_EQ(timers->item(0, 0)->text() + ": " + timers->item(0, 1)->text(),
             "long timer 6: every 9 days");
   GoTo("General");
+  EXPECT_FALSE(timers->isVisible());
   timers->cellActivated(0, 0);
   EXPECT_EQ(On<QLineEdit>(*desktop, "Period(2)")->text().trimmed(), "9");
+  GoTo("Timer");
+  DeviceConf conf = desktop->Core().conf;
+  conf.LTimer[6].HABIL = kFalse;
+  conf.LTimer[9] = {kTrue, 7, {}};
+  desktop->Core().ShowConfiguration(conf);
+  Pass();
+  EXPECT_EQ(timers->item(0, 1)->text(), "every 7 days") << "the table follows";
+  timers->cellActivated(0, 0);
+  EXPECT_EQ(On<QLineEdit>(*desktop, "Period(1)")->text().trimmed(), "7");
 }
 
 TEST_F(OverviewBP, AListOfActionsIsCopiedToAnother) {
@@ -218,6 +247,7 @@ TEST_F(OverviewBP, AListOfActionsIsCopiedToAnother) {
       Form& form = AsForm(modal);
       const std::unique_ptr<FormView> view(MakeView(form, desktop->Window().Context()));
       view->findChild<QPushButton*>(name)->click();
+      EXPECT_LE(form.Get<ListBox>("DeviceList").Rows().size(), std::size_t{kActionPlaces});
       form.Get<Button>("OKButton").Click();
     });
     Click(On(*desktop, list));
@@ -228,6 +258,9 @@ TEST_F(OverviewBP, AListOfActionsIsCopiedToAnother) {
   QApplication::clipboard()->setText("nothing of the kind");
   press("BotonBajo", "PasteList");
   EXPECT_EQ(input.ALARM[0].common.ACTLO, input.ALARM[0].common.ACTHI);
+  QApplication::clipboard()->setText(QString("9 - more than a list takes\n").repeated(20));
+  press("BotonBajo", "PasteList");
+  EXPECT_EQ(CountActions(input.ALARM[0].common.ACTLO), kActionPlaces);
 }
 
 TEST_F(OverviewBP, ActionsAreCountedFoundMovedAndTakenOut) {

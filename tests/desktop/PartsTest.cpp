@@ -102,6 +102,7 @@ TEST(Help, SuppliedPagesComeFirstThenOurOwn) {
           "WT",       "MT",      "LT",         "Macros",  "GPRS",       "Voice",
           "Firmware", "ExpNone", "ExpDigital", "ExpFlow", "ExpCounter", "ExpAnalog"}) {
       ASSERT_TRUE(ShowHelp(processes, supplied, word)) << word;
+      EXPECT_THAT(opened.back(), testing::HasSubstr(std::string("/") + word + "_"));
       QFile page(ToQt(opened.back()));
       ASSERT_TRUE(page.open(QIODevice::ReadOnly));
       const QString text = QString::fromUtf8(page.readAll());

@@ -5,6 +5,7 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QStatusBar>
+#include <QTableWidget>
 #include <QTimer>
 #include <QTreeWidget>
 
@@ -59,6 +60,8 @@ TEST_F(OnEveryPage, TheLinkIsShownAsItIsAndWritingRestsOnADeadOne) {
   Connect(seconds(15));
   EXPECT_EQ(LinkWords(), "Open");
   EXPECT_TRUE(write->isEnabled());
+  EXPECT_FALSE(SessionTool("CancelTool")->isEnabled()) << "nothing is under way";
+  const QString whatItDoes = write->toolTip();
   const QString who = Window().findChild<QLabel*>("Logger")->text();
   EXPECT_EQ(who, ToQt("Tavro BP, serial number " + logger->Options().serial));
   Window().GoTo("E_Digital_0");
@@ -90,6 +93,7 @@ TEST_F(OnEveryPage, TheLinkIsShownAsItIsAndWritingRestsOnADeadOne) {
   loop.RunFor(seconds(2));
   EXPECT_EQ(LinkWords(), "Line lost");
   EXPECT_FALSE(write->isEnabled() || SessionTool("ReadTool")->isEnabled());
+  EXPECT_NE(write->toolTip(), whatItDoes) << "it tells why";
 }
 
 TEST_F(OnEveryPage, ReadsAndWritesWhereTheOperatorIs) {
@@ -102,6 +106,8 @@ TEST_F(OnEveryPage, ReadsAndWritesWhereTheOperatorIs) {
   bool rested = false;
   loop.After(seconds(4), "look", [&] {
     rested = !Window().Pages().isEnabled() && !Tool("Guardar")->isEnabled();
+    for (const QAction* tool : Window().findChild<QToolBar*>("Tools")->actions())
+      EXPECT_FALSE(tool->menu() && tool->isEnabled()) << FromQt(tool->text());
     EXPECT_EQ(LinkWords(), "Reading");
     auto* bar = Window().findChild<QToolBar*>("Session")->findChild<QProgressBar*>();
     EXPECT_TRUE(bar->isVisibleTo(&Window()));
@@ -157,6 +163,7 @@ TEST_F(OnEveryPage, QuestionsDoNotHoldATransfer) {
   loop.After(seconds(4), "look", [&] {
     EXPECT_EQ(Core().session.State().phase, SessionPhase::Writing);
     ASSERT_NE(Box(), nullptr) << "and goes on meanwhile";
+    EXPECT_EQ(Box()->defaultButton(), Box()->escapeButton()) << "Return loses nothing";
   });
   loop.RunFor(seconds(40));
   EXPECT_EQ(logger->UploadsTaken(), 1u);
@@ -176,6 +183,8 @@ TEST_F(OnEveryPage, LeavingAVoiceListThatIsBeingWrittenIsAsked) {
     EXPECT_EQ(LinkWords(), "Escribiendo la lista de voz");
     EXPECT_FALSE(Window().close()) << "it asks";
     ASSERT_NE(Box(), nullptr);
+    EXPECT_TRUE(Box()->text().endsWith("Los cambios que no se han guardado ni enviado se pierden."))
+        << FromQt(Box()->text());
     Box()->reject();
   });
   Core().PageOf(PageId::Aut_Voz)->GetForm().Get<Button>("WriteBut").Click();
@@ -202,7 +211,10 @@ TEST_F(OnEveryPage, AVoiceListIsAskedAboutAndCancelledWithItsWords) {
   EXPECT_EQ(logger->Conf().voice.numbers, held);
   SetNumbers(Core().conf.AutVoz, std::vector<std::string>(50, "600123456"));
   Core().PageOf(PageId::Aut_Voz)->LoadData();
-  loop.After(seconds(2), "cancel", [&] { SessionTool("CancelTool")->trigger(); });
+  loop.After(seconds(2), "cancel", [&] {
+    EXPECT_FALSE(SessionTool("ReadTool")->isEnabled());
+    SessionTool("CancelTool")->trigger();
+  });
   write.Click();
   EXPECT_EQ(Strip(),
             "Interrupted. The logger's voice-call list may be erased or incomplete: write it "
@@ -216,16 +228,25 @@ TEST_F(OnEveryPage, AReadingCoversWhatItEmptiesAndItsBarTellsOfSuccessAlone) {
     Window().GoTo("General");
     return On(*desktop, "PBar")->isVisibleTo(&Window());
   };
+  const auto* table = Window().findChild<QTableWidget*>("GroupTable");
   const auto covers = [&] { return Window().Pages().findChildren<QLabel*>("Cover").size(); };
   EXPECT_FALSE(bar());
   SessionTool("ReadTool")->trigger();
   loop.After(seconds(4), "look", [&] {
     EXPECT_EQ(covers(), 2) << "name and telephones";
+    EXPECT_FALSE(Window().findChild<QToolBar*>("Session")->findChild<QProgressBar*>()->isVisibleTo(
+        &Window()))
+        << "the page has a bar of its own";
     Window().GoTo("E_Digital_3");
     EXPECT_EQ(covers(), 1) << "the whole page";
+    Window().GoTo("E_Digital");
+    EXPECT_EQ(covers(), 1) << "what stands in the place of a table";
+    EXPECT_FALSE(table->isVisibleTo(&Window()));
   });
   loop.RunFor(seconds(60));
   EXPECT_EQ(covers(), 0);
+  EXPECT_TRUE(table->isVisibleTo(&Window()));
+  EXPECT_EQ(table->rowCount(), 8);
   EXPECT_TRUE(bar());
   SessionTool("ReadTool")->trigger();
   loop.After(seconds(4), "cancel", [&] { SessionTool("CancelTool")->trigger(); });

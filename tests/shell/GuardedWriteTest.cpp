@@ -56,6 +56,7 @@ TEST_F(Writing, KeepsTheFormerAndReadsTheNewBack) {
   ASSERT_TRUE(program.session.Download());
   const DeviceConf read = program.conf;
   program.conf.General.DNAME = "Nuevo";
+  program.conf.Digital[0].ALARM[3].common.GPRS = kTrue;  // which emptying leaves alone
   const DeviceConf wanted = program.conf;
   const WriteResult result = WriteGuarded(program, Road());
   EXPECT_TRUE(result.IsAsSent() && result.verified);

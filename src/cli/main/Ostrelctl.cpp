@@ -11,13 +11,14 @@
 #include <string_view>
 #include <vector>
 
+#include "cli/Descriptors.h"
 #include "cli/InputLines.h"
-#include "cli/Terminal.h"
+#include "cli/Prompt.h"
 #include "host/Folders.h"
+#include "host/GrowingFiles.h"
 #include "host/Machine.h"
 #include "host/PdfText.h"
 #include "host/SignalPipe.h"
-#include "host/TraceFile.h"
 #include "host/Translator.h"
 #include "host/UsualStation.h"
 #include "platform/SilentDialogs.h"
@@ -51,10 +52,10 @@ int Run(const std::vector<std::string>& args) {
       .station = UsualStation(),
       .shippedLang = LangIn(ShippedFolder()),
       .numberOfDevice = [&](const std::string& path) { return machine.NumberOfDevice(path); },
-      .openLog = OpenTrace,
+      .openTrace = OpenTrace,
       .openRecording = OpenRecording,
       .openLineRecording = OpenLineRecording,
-      .openGrowing = OpenLog,
+      .openLog = OpenLog,
       .watchInput =
           [&](InputLines::OnLine onLine, InputLines::OnEnd onEnd) {
             return std::make_shared<InputLines>(machine.loop, std::move(onLine), std::move(onEnd));
@@ -84,6 +85,7 @@ std::unique_ptr<QCoreApplication> MakeApplication(int& argc, char** argv) {
 }  // namespace
 
 int main(int argc, char** argv) {
+  HoldStandardInput();
   const auto application = MakeApplication(argc, argv);
   try {
     return Run({argv + 1, argv + argc});

@@ -57,6 +57,7 @@ ApplyDialog::ApplyDialog(const ApplyQuestion& question, QWidget* parent)
   buttons_->addButton(Words::tr("&Cancel"), QDialogButtonBox::RejectRole);
   column->addWidget(buttons_);
   all->setObjectName("All");
+  no->setObjectName("None");
   connect(all, &QPushButton::clicked, this, [this] { CheckAll(true); });
   connect(no, &QPushButton::clicked, this, [this] { CheckAll(false); });
   connect(targets_, &QListWidget::itemChanged, this, [this] { Follow(); });

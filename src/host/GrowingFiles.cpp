@@ -1,4 +1,4 @@
-#include "host/TraceFile.h"
+#include "host/GrowingFiles.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -29,6 +29,8 @@ class DescriptorBuffer final : public std::streambuf {
   DescriptorBuffer(const DescriptorBuffer&) = delete;
   DescriptorBuffer& operator=(const DescriptorBuffer&) = delete;
 
+  int Descriptor() const { return descriptor_; }
+
  protected:
   int_type overflow(int_type c) override {
     if (traits_type::eq_int_type(c, traits_type::eof())) return traits_type::not_eof(c);
@@ -55,6 +57,7 @@ class DescriptorStream final : public std::ostream {
   explicit DescriptorStream(int descriptor) : std::ostream(nullptr), buffer_(descriptor) {
     rdbuf(&buffer_);
   }
+  int Descriptor() const { return buffer_.Descriptor(); }
 
  private:
   DescriptorBuffer buffer_;
@@ -82,12 +85,19 @@ constexpr GrowingKind kRecording{
 constexpr GrowingKind kLineRecording{
     [](std::string_view line) { return line == kLineRecordingHead; }, "a recording", kOwnFile};
 
-/// Whether a file is empty or begins as one of its kind does.
-bool HoldsNothingElse(int descriptor, const GrowingKind& kind) {
+/// What a console says looks like any text: the head alone tells a log from what is none.
+constexpr std::string_view kLogHead = "Ostrel console log";
+constexpr GrowingKind kLog{[](std::string_view line) { return line == kLogHead; }, "a console log",
+                           kOwnFile};
+
+enum class Held { Nothing, FormerOne, SomethingElse };
+
+Held WhatIsHeld(int descriptor, const GrowingKind& kind) {
   std::array<char, 256> start{};
   const ssize_t got = ::pread(descriptor, start.data(), start.size(), 0);
   const std::string_view text(start.data(), got > 0 ? static_cast<std::size_t>(got) : 0);
-  return text.empty() || kind.isFirstLine(text.substr(0, text.find('\n')));
+  if (text.empty()) return Held::Nothing;
+  return kind.isFirstLine(text.substr(0, text.find('\n'))) ? Held::FormerOne : Held::SomethingElse;
 }
 
 std::string WordsOf(int error) {
@@ -95,8 +105,12 @@ std::string WordsOf(int error) {
   return std::generic_category().message(error);
 }
 
+using MakeReady = bool (*)(DescriptorStream& stream, const GrowingKind& kind, Held held);
+
+/// Opens a file that holds nothing else than its kind does, and makes it ready, which fails with
+/// `errno`. A pipe takes what comes as it is.
 std::unique_ptr<std::ostream> Open(const std::string& path, const GrowingKind& kind,
-                                   std::string& why) {
+                                   MakeReady makeReady, std::string& why) {
   struct stat state {};
   const bool isPipe = ::stat(path.c_str(), &state) == 0 && !S_ISREG(state.st_mode);
   const int descriptor = ::open(path.c_str(), (isPipe ? O_WRONLY : O_RDWR) | kFlags, kind.mode);
@@ -106,37 +120,43 @@ std::unique_ptr<std::ostream> Open(const std::string& path, const GrowingKind& k
   }
   auto stream = std::make_unique<DescriptorStream>(descriptor);
   if (isPipe) return stream;
-  if (!HoldsNothingElse(descriptor, kind)) {
+  const Held held = WhatIsHeld(descriptor, kind);
+  if (held == Held::SomethingElse) {
     why = std::string("it holds something else than ") + kind.name;
     return nullptr;
   }
-  const bool isProtected = kind.mode != kOwnFile || ::fchmod(descriptor, kOwnFile) == 0;
-  if (!isProtected || ::ftruncate(descriptor, 0) != 0) {
-    why = WordsOf(errno);
-    return nullptr;
-  }
-  return stream;
+  if (makeReady(*stream, kind, held)) return stream;
+  why = WordsOf(errno);
+  return nullptr;
+}
+
+bool MakeEmpty(DescriptorStream& stream, const GrowingKind& kind, Held) {
+  const int file = stream.Descriptor();
+  return (kind.mode != kOwnFile || ::fchmod(file, kOwnFile) == 0) && ::ftruncate(file, 0) == 0;
+}
+
+bool GoToEnd(DescriptorStream& stream, const GrowingKind&, Held held) {
+  if (::fcntl(stream.Descriptor(), F_SETFL, O_APPEND | O_NONBLOCK) != 0) return false;
+  if (held == Held::Nothing) stream << kLogHead << std::endl;
+  return stream.good();
 }
 
 }  // namespace
 
 std::unique_ptr<std::ostream> OpenTrace(const std::string& path, std::string& why) {
-  return Open(path, kTrace, why);
+  return Open(path, kTrace, MakeEmpty, why);
 }
 
 std::unique_ptr<std::ostream> OpenLog(const std::string& path, std::string& why) {
-  const int descriptor = ::open(path.c_str(), O_WRONLY | O_APPEND | kFlags, kOwnFile);
-  if (descriptor >= 0) return std::make_unique<DescriptorStream>(descriptor);
-  why = WordsOf(errno);
-  return nullptr;
+  return Open(path, kLog, GoToEnd, why);
 }
 
 std::unique_ptr<std::ostream> OpenRecording(const std::string& path, std::string& why) {
-  return Open(path, kRecording, why);
+  return Open(path, kRecording, MakeEmpty, why);
 }
 
 std::unique_ptr<std::ostream> OpenLineRecording(const std::string& path, std::string& why) {
-  return Open(path, kLineRecording, why);
+  return Open(path, kLineRecording, MakeEmpty, why);
 }
 
 }  // namespace ostrel

@@ -1,12 +1,9 @@
-#include "cli/Terminal.h"
+#include "cli/Prompt.h"
 
 #include <termios.h>
 #include <unistd.h>
 
-#include <array>
-#include <cerrno>
 #include <iostream>
-#include <system_error>
 
 namespace ostrel::cli {
 namespace {
@@ -41,19 +38,6 @@ std::optional<std::string> ReadLine() {
 }
 
 }  // namespace
-
-FileResult ReadDescriptor(int descriptor, bool lineOnly, std::string& octets) {
-  octets.clear();
-  std::array<char, 65'536> block{};
-  while (octets.size() <= kMostFileOctets) {
-    const ssize_t got = read(descriptor, block.data(), lineOnly ? 1 : block.size());
-    if (got < 0) return {std::generic_category().message(errno)};
-    if (got == 0 || (lineOnly && block.front() == '\n')) return {};
-    octets.append(block.data(), static_cast<std::size_t>(got));
-  }
-  octets.clear();
-  return {"it is larger than 16 MB"};
-}
 
 bool HasOperator() { return isatty(STDIN_FILENO) == 1 && isatty(STDERR_FILENO) == 1; }
 

@@ -1,0 +1,101 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "Faults.h"
+#include "Invariants.h"
+#include "Tally.h"
+#include "World.h"
+#include "shell/GuardedWrite.h"
+
+namespace ostrel::campaign {
+
+/// One whole session of a program with a logger, all of it drawn from a seed: the logger, what is
+/// done, and what goes wrong. What must hold is looked at behind each step.
+class Session {
+ public:
+  Session(std::uint64_t seed, Tally& tally, bool tells);
+  /// Runs it. What did not hold, in words; empty when all is well.
+  std::vector<std::string> Run();
+
+ private:
+  /// What a writing was to bring about.
+  struct Writing {
+    sim::Configuration before;
+    std::vector<sim::Configuration> wanted;  ///< any of them is the new one
+    std::int64_t lastEntry = 0;              ///< of the ledger, when it began
+    bool IsNew(const sim::Configuration& held) const;
+  };
+  struct KeptFile {
+    std::string path, octets;
+  };
+
+  static sim::LoggerOptions DrawLogger(sim::Random& random, const sim::Faults& faults);
+  void StartProgram();
+  void DoNext();
+  /// Runs a step that gives whether it was done; looks at its time and at what it leaves behind.
+  bool Timed(Step step, const std::function<bool()>& work);
+  void Follow(const sim::Exchange& exchange);
+  void Do(Deed deed);
+  void Meddle();
+  void Kill();
+  void Restart();
+  void LookAfterRestart();
+  void End();
+
+  bool Open();
+  void Edit();
+  void TypeOddText();
+  bool IsAsHeld(const DeviceConf& read) const;
+  bool Read();
+  void Write(bool guarded);
+  WriteRoad Road(bool guarded);
+  bool KeepCopy(const DeviceConf& held);
+  void JudgeWriting(const WriteResult& result);
+  void Short(Step step, const std::function<LinkResult()>& dialogue,
+             const std::function<bool()>& isSo);
+  void Live();
+  void Clock();
+  void Total();
+  void Output();
+  void VoiceWrite();
+  void VoiceRead();
+  bool IsVoiceList(const ConfAutVoz& list) const;
+  void Firmware();
+  void Save();
+  void Load();
+
+  /// Checks what the words for a fault claim.
+  void CheckWords(const SessionFault& fault);
+  void Expect(bool holds, const std::string& what);
+  void Tell(const std::string& what) const;
+  Receiver Logger() const {
+    return {program_->profile, static_cast<std::int32_t>(Self().features)};
+  }
+  sim::Identity Self() const { return world_.logger->Self(); }
+  /// Whether both ends could know what the other one said.
+  bool IsClear() const;
+
+  Tally& tally_;
+  bool tells_;
+  sim::Random random_;
+  Faults faults_;
+  World world_;
+  std::unique_ptr<Configurator> program_;
+  std::vector<std::string> breaches_;
+  int exchanges_ = 0;
+  bool givesWrongCode_ = false;
+  bool isKilled_ = false;
+  bool hasOddText_ = false;
+  sim::Configuration before_;                ///< what the logger held when the step began
+  std::optional<Writing> writing_;           ///< the one under way
+  std::optional<sim::Configuration> taken_;  ///< what the logger took over last, as it said
+  std::vector<KeptFile> copies_;
+};
+
+}  // namespace ostrel::campaign
