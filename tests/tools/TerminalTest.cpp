@@ -120,11 +120,6 @@ TEST_F(TerminalPage, StampsHoldsBackAndLogs) {
   EXPECT_EQ(log->str(), before + " held\r\n") << "the log goes on";
   Switch("PauseCheck", false);
   EXPECT_EQ(Shown(), before + " held\r\n");
-  Switch("PauseCheck", true);
-  Comes("gone");
-  Press("BorrarBut");
-  Switch("PauseCheck", false);
-  EXPECT_EQ(Shown(), "") << "what was held back is cleared, too";
   log->setstate(std::ios::badbit);
   Comes("lost");
   EXPECT_FALSE(form.Get<CheckBox>("LogCheck").Checked());
