@@ -106,8 +106,8 @@ TEST_F(Binder, ReadoutsTellTheirValueToThoseWhoCannotSeeThem) {
 TEST_F(Binder, DigitsNeverLoseTheFirstOfThem) {
   auto* shown = Show<Readout>("digit");
   shown->resize(shown->sizeHint());
-  const auto drawn = [&](const std::string& text) {
-    digit.SetText(text);
+  const auto drawn = [&](const std::string& digits) {
+    digit.SetText(digits);
     return shown->grab().toImage();
   };
   const std::string rest(37, '0');
