@@ -111,7 +111,8 @@ TEST_F(Binder, DigitsNeverLoseTheFirstOfThem) {
     return shown->grab().toImage();
   };
   const std::string rest(37, '0');
-  EXPECT_NE(drawn("12" + rest), drawn("32" + rest));
+  const QImage one = drawn("12" + rest);
+  EXPECT_NE(one, drawn("32" + rest));
   EXPECT_EQ(shown->toolTip(), ToQt("32" + rest));
 }
 

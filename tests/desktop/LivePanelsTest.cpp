@@ -215,13 +215,13 @@ TEST_F(WindowLivePanels, AcceptsPointByPointAndKeepsIt) {
   EXPECT_EQ(list->currentItem(), list->topLevelItem(0)) << "to note what it was";
   Find<QPushButton>("AcceptancePass")->click();
   EXPECT_EQ(list->currentItem(), list->topLevelItem(2)) << "over what is judged";
-  Press(list, Qt::Key_Return);
-  EXPECT_EQ(desktop->Navigator().Front()->Name(), "E_Digital");
   Core().conf.Analog[0].NOMBRE = "Pressure";
   Run(seconds(2));
   ASSERT_EQ(list->topLevelItemCount(), 4);
   EXPECT_EQ(list->topLevelItem(2)->text(3), "no pulse");
   EXPECT_EQ(list->currentItem(), list->topLevelItem(3)) << "the input, not the row";
+  Press(list, Qt::Key_Return);
+  EXPECT_EQ(desktop->Navigator().Front()->Name(), "E_Digital");
   Core().session.Close(false);
   Core().conf.Digital[2].NOMBRE = "Gate";
   Run(seconds(2));
