@@ -17,7 +17,7 @@ namespace {
 using std::chrono::milliseconds;
 using std::chrono::seconds;
 
-constexpr std::array<std::pair<std::string_view, Claim>, 8> kOutcomes{{
+constexpr std::array<std::pair<std::string_view, Claim>, 9> kOutcomes{{
     {"", Claim::Nothing},
     {"the logger's configuration is unchanged", Claim::AsBefore},
     {"the logger's former configuration stays in force", Claim::AsBefore},
@@ -29,10 +29,11 @@ constexpr std::array<std::pair<std::string_view, Claim>, 8> kOutcomes{{
     {"the logger's flash is erased and holds no firmware: leave it powered and connected, and "
      "start the update again with the same files",
      Claim::NoFirmware},
-    {"whether the logger has erased its firmware is not known: if it tells of itself in a new "
-     "session, "
-     "it has not; else start the update again with the same files",
+    {"the logger's flash may be erased: leave it powered and connected; if it tells of itself in a "
+     "new session, it is not; else start the update again with the same files",
      Claim::FirmwareDoubtful},
+    {"nothing of the image was sent: if the logger still answers, its firmware is as it was",
+     Claim::FirmwareKept},
 }};
 
 constexpr int kInformation = 3;  ///< messages that asking for the information counts as

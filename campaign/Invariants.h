@@ -19,7 +19,8 @@ enum class Claim {
   TakenOver,
   ListDoubtful,
   NoFirmware,
-  FirmwareDoubtful
+  FirmwareDoubtful,
+  FirmwareKept
 };
 
 /// What a fault's outcome claims; nothing for words that are not known here.

@@ -252,6 +252,7 @@ void Session::CheckWords(const SessionFault& fault) {
   if (claim == Claim::TakenOver) isTrue = held == taken_;
   if (claim == Claim::AsBefore) isTrue = held == before_;
   if (claim == Claim::NoFirmware) isTrue = !world_.logger->Firmware().IsIdle();
+  if (claim == Claim::FirmwareKept) isTrue = world_.logger->Firmware().IsIdle();
   Expect(isTrue, "not true: " + said);
 }
 

@@ -5,13 +5,6 @@
 namespace ostrel {
 namespace {
 
-std::string Quoted(const std::string& cell) {
-  if (cell.find_first_of(",\"\r\n") == std::string::npos) return cell;
-  std::string quoted = "\"";
-  for (const char c : cell) quoted += c == '"' ? std::string("\"\"") : std::string(1, c);
-  return quoted + '"';
-}
-
 /// Takes a quoted cell from the head of a text; false when it is not closed.
 bool TakeQuoted(std::string_view& text, std::string& cell) {
   for (text.remove_prefix(1); !text.empty(); text.remove_prefix(1)) {
@@ -26,9 +19,16 @@ bool TakeQuoted(std::string_view& text, std::string& cell) {
 
 }  // namespace
 
+std::string CsvCell(const std::string& cell) {
+  if (cell.find_first_of(",\"\r\n") == std::string::npos) return cell;
+  std::string quoted = "\"";
+  for (const char c : cell) quoted += c == '"' ? std::string("\"\"") : std::string(1, c);
+  return quoted + '"';
+}
+
 std::string CsvRow(std::span<const std::string> cells) {
   std::string row;
-  for (std::size_t i = 0; i < cells.size(); ++i) row += (i == 0 ? "" : ",") + Quoted(cells[i]);
+  for (std::size_t i = 0; i < cells.size(); ++i) row += (i == 0 ? "" : ",") + CsvCell(cells[i]);
   return row + "\r\n";
 }
 

@@ -37,13 +37,13 @@ struct Environment {
   std::string shippedLang;  ///< the installed translation table
   /// Number of a device path; 0 when there is none to give.
   std::function<int(const std::string& path)> numberOfDevice;
-  /// Opens a text file that grows while the command runs; null when it may not be written, which
-  /// `why` tells.
-  OpenLogFile openLog;
+  /// Opens a file for the trace of the line, in place of a former one; null when it may not be
+  /// written, which `why` tells.
+  OpenLogFile openTrace;
   /// The same for a recording of live values, and for one of the line.
   OpenLogFile openRecording{}, openLineRecording{};
-  /// Opens a text file to which is added while the command runs.
-  OpenLogFile openGrowing;
+  /// Opens a file to which the words of a console are added.
+  OpenLogFile openLog;
   /// Gives the lines of standard input as they come, and then its end, for as long as the result
   /// lives; empty where there is no input.
   std::function<std::shared_ptr<void>(std::function<void(std::string line)> onLine,

@@ -34,7 +34,7 @@ ExitCode LoggerSession::StartTrace() {
   const std::string& path = context_.options.trace;
   if (path.empty()) return ExitCode::Done;
   std::string why;
-  trace_ = context_.environment.openLog(path, why);
+  trace_ = context_.environment.openTrace(path, why);
   if (!trace_)
     return context_.console.Fail(ExitCode::BadFile,
                                  "cannot write the trace to " + path + ": " + why);
@@ -53,21 +53,25 @@ ExitCode LoggerSession::TakeSimulatedState() {
                                path + " holds no simulated logger: " + taken.error);
 }
 
-ExitCode LoggerSession::Open() {
+ExitCode LoggerSession::Open(OpenTo wanted) {
   if (const ExitCode traced = StartTrace(); traced != ExitCode::Done) return traced;
   if (const ExitCode taken = TakeSimulatedState(); taken != ExitCode::Done) return taken;
-  if (!configurator_.session.Open(port_.number, context_.options.phone))
+  if (!configurator_.session.Open(port_.number, context_.options.phone, wanted))
     return Fault(interrupted_ ? ExitCode::DialogueFailed : ExitCode::NoSession,
                  *configurator_.session.State().failed);
   // What is sent depends on what the firmware can do: without knowing it nothing may start.
-  const bool isKnown = configurator_.session.CompleteInfo();
+  const bool isKnown = wanted == OpenTo::AnyThatGreets || configurator_.session.CompleteInfo();
   if (interrupted_) return Failed({});
   if (isKnown) return ExitCode::Done;
   const LinkFault& told = configurator_.comms.InfoFault();
-  if (!told.IsDamage() && told.kind != LinkFault::Kind::Silence) return Failed(told);
+  if (told.IsDamage())
+    return context_.console.Fail(ExitCode::DialogueFailed,
+                                 "the logger did not tell who it is: lines were lost or arrived "
+                                 "damaged. Check cable and earthing");
+  if (told.kind != LinkFault::Kind::Silence) return Failed(told);
   return context_.console.Fail(ExitCode::DialogueFailed,
-                               "the logger did not tell who it is: lines were lost or arrived "
-                               "damaged. Check cable and earthing");
+                               "the logger greets, and does not tell who it is: it may have no "
+                               "firmware, which \"ostrelctl firmware\" sends");
 }
 
 ExitCode LoggerSession::Run(const std::function<LinkResult()>& dialogue) {

@@ -20,8 +20,8 @@ class LoggerSession {
   LoggerSession(const LoggerSession&) = delete;
   LoggerSession& operator=(const LoggerSession&) = delete;
 
-  /// Opens the session and makes sure that the logger has told who it is.
-  ExitCode Open();
+  /// Opens the session and makes sure that the logger has told who it is, unless any will do.
+  ExitCode Open(OpenTo wanted = OpenTo::Working);
   /// Downloads into an emptied model, so that nothing of a former one shows through.
   ExitCode Download();
   ExitCode Upload();

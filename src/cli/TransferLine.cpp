@@ -1,5 +1,7 @@
 #include "cli/TransferLine.h"
 
+#include <cstdint>
+
 namespace ostrel::cli {
 namespace {
 
@@ -19,8 +21,8 @@ TransferLine::~TransferLine() {
 }
 
 void TransferLine::Draw() {
-  const int done = watch_.Done();
-  const int steps = watch_.Steps();
+  const std::int64_t done = watch_.Done();  // octets, of a firmware: times 100 they are many
+  const std::int64_t steps = watch_.Steps();
   const auto filled = static_cast<std::size_t>(done * kBarWidth / steps);
   std::string line = label_ + " [" + std::string(filled, '#') +
                      std::string(kBarWidth - filled, ' ') + "] " +

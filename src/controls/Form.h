@@ -17,7 +17,7 @@ namespace ostrel {
 using ControlRef =
     std::variant<Label*, Frame*, Button*, CheckBox*, OptionButton*, TextBox*, TextView*, ComboBox*,
                  ListBox*, MultiListBox*, TimePicker*, ProgressBar*, Picture*, TabStrip*, DigitBox*,
-                 LedMedio*, LimitBar*, TabRow*, Timer*>;
+                 ReadoutLine*, LedMedio*, LimitBar*, TabRow*, Timer*>;
 
 Face& FaceOf(const ControlRef& control);
 

@@ -23,6 +23,12 @@ void DigitBox::SetText(std::string_view text) { Put(text_, std::string(text), fa
 
 void DigitBox::SetStale(const Staleness& stale) { Put(stale_, stale, face); }
 
+ReadoutLine::ReadoutLine(Form& form, std::string_view name) : face(name, "") {
+  form.Register(this);
+}
+
+void ReadoutLine::SetStale(const Staleness& stale) { Put(stale_, stale, face); }
+
 LedMedio::LedMedio(Form& form, std::string_view name) : face(name, "") { form.Register(this); }
 
 void LedMedio::SetValue(int value) { Put(value_, value, face); }

@@ -38,6 +38,19 @@ class DigitBox {
   Staleness stale_;
 };
 
+/// A line of text that holds what was read; its caption is the text.
+class ReadoutLine {
+ public:
+  ReadoutLine(Form& form, std::string_view name);
+  const Staleness& Stale() const { return stale_; }
+  void SetStale(const Staleness& stale);
+
+  Face face;
+
+ private:
+  Staleness stale_;
+};
+
 /// A lamp, which is dark or lit.
 class LedMedio {
  public:
@@ -69,7 +82,8 @@ struct AlarmBand {
 enum class BandPlace { Inside, NearMinimum, NearMaximum, Below, Above };
 BandPlace PlaceIn(const AlarmBand& band, double value);
 
-/// A bar that shows a value among the bands of its alarms. It is hidden while there are none.
+/// A bar that shows a value among the bands of its alarms. It is hidden while there are none. Its
+/// caption is the name of the value.
 class LimitBar {
  public:
   LimitBar(Form& form, std::string_view name);

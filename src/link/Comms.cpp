@@ -61,11 +61,13 @@ void Comms::ScanPorts() {
 
 bool Comms::LineLost() const {
   if (!line_.PortOpen() || platform_.port.LineLost()) return true;
-  return carrierGoneAt_ && line_.AnsweredAt() <= *carrierGoneAt_;
+  if (!carrierGoneAt_ || line_.AnsweredAt() > *carrierGoneAt_) return false;
+  return isCall_ || line_.HeardAt() <= *carrierGoneAt_ + kCarrierTail;
 }
 
 LinkResult Comms::StartComs(std::int16_t port, const std::string& phone) {
   carrierGoneAt_.reset();
+  isCall_ = !phone.empty();
   const LinkDeed deed{
       .kind = LedgerKind::Session, .detail = {}, .port = PortName(port), .phone = phone};
   if (hooks_.deedBegins) hooks_.deedBegins(deed);
@@ -77,6 +79,7 @@ LinkResult Comms::StartComs(std::int16_t port, const std::string& phone) {
   LinkBusy = false;
   // The values that are held may be those of another logger.
   records_.live.reads = {};
+  records_.live.ClockRead = {};
   return result;
 }
 
@@ -143,8 +146,11 @@ bool Comms::ReadInfo() {
 }
 
 LinkResult Comms::ReadDeviceRTC() {
-  return line_.Converse(line_.TimeFor(kLinkAttempts),
-                        [this] { return ReadClock(line_, records_.live.DeviceClock); });
+  const LinkResult result = line_.Converse(
+      line_.TimeFor(kLinkAttempts), [this] { return ReadClock(line_, records_.live.DeviceClock); });
+  if (result.Fault().kind != LinkFault::Kind::Busy)
+    records_.live.ClockRead.Note(result, platform_.clock.LocalTime());
+  return result;
 }
 
 LinkResult Comms::WriteDeviceRTC() {

@@ -143,9 +143,10 @@ class Comms {
   Duration SinceAnswer() const { return line_.SinceAnswer(); }
   Duration UnansweredFor() const { return line_.UnansweredFor(); }
   /// True when nothing can come any more as far as the machine knows: the port is closed, its
-  /// device has gone, or the carrier has and nothing was heard since.
+  /// device has gone, or the carrier has and nothing was heard of the logger since. On a cable,
+  /// where no modem speaks in its place, a text tells of it as well as a frame does.
   bool LineLost() const;
-  /// Tells a listener how far downloads and uploads are, as long as the subscription lives.
+  /// Tells a listener how far the long dialogues are, as long as the subscription lives.
   [[nodiscard]] ProgressFeed::Subscription OnProgress(ProgressFeed::Listener listener) {
     return progress_.Listen(std::move(listener));
   }
@@ -174,6 +175,7 @@ class Comms {
   LinkFault infoFault_{LinkFault::Kind::Silence};
   bool lent_ = false;
   bool opened_ = false;  ///< the open port is ours to close
+  bool isCall_ = false;  ///< the session goes through a modem
   bool stands_ = false;  ///< a session whose end has not been told
   std::optional<TimePoint> carrierGoneAt_;
 

@@ -15,7 +15,14 @@ constexpr std::string_view kAliveMark = "...";
 constexpr std::size_t kMostQueued = kLineOctetsPerSecond / 2;
 constexpr std::size_t kLeastQueued = kMostQueued * 4 / 5;
 
+constexpr std::string_view kErasing = "#DWLD_ERASING";
+constexpr std::string_view kReady = "#DWLD_READY";
+
 }  // namespace
+
+bool RefusesErasing(const LinkFault& fault) {
+  return fault.kind == LinkFault::Kind::WrongAnswer && fault.text != kReady;
+}
 
 LinkFault FirmwareDialogue::Run(const FirmwareFiles& files, const OnStage& onStage) {
   put_ = 0;
@@ -27,6 +34,7 @@ LinkFault FirmwareDialogue::Run(const FirmwareFiles& files, const OnStage& onSta
 }
 
 LinkFault FirmwareDialogue::Transfer(const FirmwareFiles& files, const OnStage& onStage) {
+  if (!line_.GoesOn()) return line_.FaultNow(LinkFault::Kind::Silence);
   onStage(FirmwareStage::Asking);
   if (LinkFault fault = Erase(onStage); !fault.Ok()) return fault;
   onStage(FirmwareStage::Image);
@@ -39,11 +47,11 @@ LinkFault FirmwareDialogue::Transfer(const FirmwareFiles& files, const OnStage& 
 }
 
 LinkFault FirmwareDialogue::Erase(const OnStage& onStage) {
-  if (LinkFault fault = line_.AskOnly("#F0", kFlashAnswerMs, "#DWLD_ERASING"); !fault.Ok())
-    return fault;
+  if (LinkFault fault = line_.AskOnly("#F0", kFlashAnswerMs, kErasing); !fault.Ok()) return fault;
   onStage(FirmwareStage::Erasing);
+  line_.ExpectAnswer(false);  // it says nothing while it erases
   if (!line_.RxSer(kFlashEraseMs)) return line_.WaitFault();
-  if (line_.RxLine == "#DWLD_READY") return {};
+  if (line_.RxLine == kReady) return {};
   return line_.FaultNow(LinkFault::Kind::WrongAnswer, 0, line_.RxLine);
 }
 
@@ -68,6 +76,7 @@ LinkFault FirmwareDialogue::SendImage(std::string_view image) {
 }
 
 LinkFault FirmwareDialogue::SendLoader(std::string_view loader) {
+  line_.ExpectAnswer(true);
   if (LinkFault fault = line_.AskOnly("#F1", kLoaderAnswerMs, "#DWLD_RAM_READY"); !fault.Ok())
     return fault;
   for (loader = loader.substr(0, SentOctets(loader.size())); !loader.empty();) {

@@ -28,6 +28,10 @@ enum class FirmwareStage {
   Copying  ///< all is sent; the logger does the rest alone
 };
 
+/// Whether the dialogue failed since the logger will not erase its flash. Its word that it is ready
+/// is none: the word before, that it erases, was lost.
+bool RefusesErasing(const LinkFault& fault);
+
 /// Replaces a logger's firmware.
 ///
 /// The files go out at line speed, and never more of them waits to go than half a second of the

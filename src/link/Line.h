@@ -114,6 +114,8 @@ class Line {
   Duration SinceAnswer() const { return loop_.Now() - answeredAt_; }
   /// When the last good frame came, or the port was opened.
   TimePoint AnsweredAt() const { return answeredAt_; }
+  /// When characters of any kind were last taken.
+  TimePoint HeardAt() const { return heardAt_; }
   /// How long the oldest question is out to which nothing has come since; zero for none.
   Duration UnansweredFor() const;
   /// A question goes out that wants an answer.

@@ -59,8 +59,11 @@ static_assert(kLongestHold >= std::chrono::milliseconds(kModemReplyMs));
 /// else is through with all commands and their repeats in 128 s; one that says nothing at all is
 /// given up after "AT", in 7 s.
 inline constexpr Duration kLongestDialling = std::chrono::seconds(150);
-/// Of a dialogue that moves a whole configuration, which takes minutes.
+/// Of a dialogue that moves a configuration, a list or a firmware, which takes minutes.
 inline constexpr Duration kAnyTime = kNever;
+
+/// What is taken so soon behind the fall of the carrier was on its way before it.
+inline constexpr Duration kCarrierTail = std::chrono::milliseconds(500);
 
 // Octets.
 inline constexpr int kReceiveBuffer = 8192;

@@ -14,7 +14,6 @@ constexpr int kCounters = 9;
 constexpr int kFlows = 9;
 constexpr int kAnalogs = 4;
 constexpr int kAuxInputs = 4;
-constexpr int kMathRaws = 8;
 constexpr int kModbusChannels = 32;
 constexpr int kModules = 96;
 constexpr int kModulesAName = 8;
@@ -60,7 +59,7 @@ Fill MasksInto(RealTimeData& live) {
 
 Fill RawMathInto(RealTimeData& live) {
   return [&live](LineReader& line) {
-    for (int i = 0; i < kMathRaws; ++i) live.MathRaw[i] = DecText(line.Number());
+    for (int i = 0; i < kMathRegisters; ++i) live.MathRaw[i] = DecText(line.Number());
   };
 }
 
@@ -89,7 +88,6 @@ LiveRequest TotalsRequest(TotalCounts& totals) {
 
 std::vector<LiveRequest> NameRequests(RealTimeData& live, const TargetProfile& profile,
                                       const DeviceInfo& info) {
-  const bool hasAux = profile.IsKA1 || profile.IsKA2;
   const bool hasMath = Has(info.Features, Feature::Math);
   std::vector<LiveRequest> requests;
   for (int index = 0; index < kModules; index += kModulesAName)
@@ -100,7 +98,7 @@ std::vector<LiveRequest> NameRequests(RealTimeData& live, const TargetProfile& p
   };
   add("#2C", "#D3", profile.IsVR200,
       NamesInto(live.ModbusName, live.ModbusUnit, {4, 4, kModbusChannels}));
-  add("#35", "#CA", hasAux, NamesInto(live.AuxName, live.AuxUnit, {4, 4, kAuxInputs}));
+  add("#35", "#CA", HasProbes(profile), NamesInto(live.AuxName, live.AuxUnit, {4, 4, kAuxInputs}));
   add("#26", "#D9", true, FieldsInto(live.CounterName, kCounters));
   add("#27", "#D8", true, NamesInto(live.FlowName, live.FlowUnit, {2, 2, kFlows}));
   add("#25", "#DA", true, NamesInto(live.AnalogName, live.AnalogUnit, {6, 6, kAnalogs}));
@@ -110,7 +108,6 @@ std::vector<LiveRequest> NameRequests(RealTimeData& live, const TargetProfile& p
 
 std::vector<LiveRequest> ValueRequests(RealTimeData& live, const TargetProfile& profile,
                                        const DeviceInfo& info) {
-  const bool hasAux = profile.IsKA1 || profile.IsKA2;
   const bool hasMath = Has(info.Features, Feature::Math);
   const auto modules = [&live](int first) {
     return FieldsInto(live.ModuloValue, kModulesAValue, first);
@@ -128,7 +125,8 @@ std::vector<LiveRequest> ValueRequests(RealTimeData& live, const TargetProfile& 
       {"#29", "#D6", hasMath, FieldsInto(live.MathValue, profile.MathCount),
        into(LiveAnswer::Math)},
       {"#28", "#D7", hasMath, RawMathInto(live), into(LiveAnswer::MathRaw)},
-      {"#36", "#C9", hasAux, FieldsInto(live.AuxValue, kAuxInputs), into(LiveAnswer::Aux)},
+      {"#36", "#C9", HasProbes(profile), FieldsInto(live.AuxValue, kAuxInputs),
+       into(LiveAnswer::Aux)},
   });
 }
 

@@ -6,13 +6,12 @@
 #include <utility>
 
 #include "base/Numbers.h"
+#include "model/DeviceConf.h"
 #include "model/Features.h"
 
 namespace ostrel {
 namespace {
 
-constexpr int kFlags = 16;
-constexpr int kMathRegisters = 8;
 constexpr int kProbes = 4;
 
 struct KindTag {
@@ -45,6 +44,14 @@ class RoundBuilder {
       LiveValue& value = Add({kind, i}, read);
       if (read.hasCome) value.on = (mask >> i & 1U) != 0;
     }
+  }
+  /// Inputs that no configuration names have the name that is printed beside them.
+  void DigitalInputs(const TargetProfile& profile) {
+    States(LiveKind::Digital, DigitalInputsShown(profile),
+           static_cast<std::uint16_t>(live_.DigitalMask));
+    for (LiveValue& value : round_.values)
+      if (value.id.index >= profile.DigitalCount)
+        value.name = DigitalInputLabel(profile, value.id.index);
   }
   template <class Numbers, std::size_t N = 1>
   void Measures(LiveKind kind, int count, LiveAnswer answer, const Numbers& numbers,
@@ -103,10 +110,9 @@ LiveRound TakeRound(const RealTimeData& live, const TargetProfile& profile, cons
   for (int i = 0; i < kMathRegisters; ++i) registers[i] = NumVal(live.MathRaw[i]);
 
   RoundBuilder round(live, now);
-  round.States(LiveKind::Digital, profile.DigitalCount,
-               static_cast<std::uint16_t>(live.DigitalMask));
+  round.DigitalInputs(profile);
   round.States(LiveKind::Output, profile.OutputCount, static_cast<std::uint16_t>(live.OutputMask));
-  round.States(LiveKind::Flag, kFlags, static_cast<std::uint32_t>(live.FlagMask));
+  round.States(LiveKind::Flag, kLiveFlags, static_cast<std::uint32_t>(live.FlagMask));
   round.Measures(LiveKind::Analog, profile.AnalogCount, LiveAnswer::Masks, live.AnalogValue,
                  &live.AnalogName, &live.AnalogUnit);
   round.Measures(LiveKind::Counter, profile.CaudalCount, LiveAnswer::Counters, live.CounterValue,
@@ -119,23 +125,32 @@ LiveRound TakeRound(const RealTimeData& live, const TargetProfile& profile, cons
                  registers);
   round.Measures(LiveKind::Modbus, profile.IsVR200 ? profile.ModbusCount : 0, LiveAnswer::Modbus,
                  live.ModbusValue, &live.ModbusName, &live.ModbusUnit);
-  round.Measures(LiveKind::Probe, profile.IsKA1 || profile.IsKA2 ? kProbes : 0, LiveAnswer::Aux,
-                 live.AuxValue, &live.AuxName, &live.AuxUnit);
+  round.Measures(LiveKind::Probe, HasProbes(profile) ? kProbes : 0, LiveAnswer::Aux, live.AuxValue,
+                 &live.AuxName, &live.AuxUnit);
   round.Measures(LiveKind::Module, profile.IsS100 ? profile.ModuloCount : 0, LiveAnswer::Modules0,
                  live.ModuloValue, &live.ModuloName, &live.ModuloUnit);
   return round.Take();
 }
 
+LiveRound WithNames(LiveRound round, const DeviceConf& conf) {
+  for (LiveValue& value : round.values)
+    if (value.id.kind == LiveKind::Digital && value.name.empty())
+      value.name = conf.Digital[value.id.index].NOMBRE;
+  return round;
+}
+
+std::string LiveNumberText(LiveKind kind, double number) {
+  return IsWide(kind) ? DecText(number) : DecText(static_cast<float>(number));
+}
+
 std::string LiveText(const LiveValue& value) {
   if (value.on) return *value.on ? "1" : "0";
   if (!value.number) return {};
-  // What came as a short float has the digits of one.
-  const bool isWide = value.id.kind == LiveKind::Counter || value.id.kind == LiveKind::MathRegister;
-  return isWide ? DecText(*value.number) : DecText(static_cast<float>(*value.number));
+  return LiveNumberText(value.id.kind, *value.number);
 }
 
-std::string LiveName(const LiveValue& value) {
-  return value.name.empty() ? LiveTag(value.id) : value.name;
+std::string LiveName(LiveId id, const std::string& name) {
+  return name.empty() ? LiveTag(id) : name;
 }
 
 }  // namespace ostrel

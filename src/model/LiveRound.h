@@ -14,6 +14,8 @@
 
 namespace ostrel {
 
+struct DeviceConf;
+
 /// What a logger measures, in the order in which faces show it.
 enum class LiveKind {
   Digital,
@@ -32,6 +34,11 @@ enum class LiveKind {
 /// Whether values of a kind are on or off instead of a number.
 constexpr bool IsState(LiveKind kind) { return kind <= LiveKind::Flag; }
 
+/// Whether numbers of a kind have more digits than a short float, as most of them come.
+constexpr bool IsWide(LiveKind kind) {
+  return kind == LiveKind::Counter || kind == LiveKind::MathRegister;
+}
+
 /// Which value of a logger it is; the same through sessions and programs.
 struct LiveId {
   LiveKind kind;
@@ -48,8 +55,8 @@ std::optional<LiveId> LiveIdOf(std::string_view tag);
 /// One value of a logger as a round left it.
 struct LiveValue {
   LiveId id;
-  std::string name;              ///< as the logger holds it; empty where it holds none
-  std::string unit;              ///< likewise
+  std::string name;              ///< as the logger holds it, or is printed on it; may be empty
+  std::string unit;              ///< as the logger holds it; may be empty
   std::optional<double> number;  ///< of what is no state; nothing until it came in this session
   std::optional<bool> on;        ///< of a state; likewise
   LiveRead read;                 ///< what became of its answer
@@ -86,10 +93,17 @@ struct LiveRound {
 LiveRound TakeRound(const RealTimeData& live, const TargetProfile& profile, const DeviceInfo& info,
                     const WallTime& now);
 
-/// "12.5", "1042", "1", without unit; empty for a value that has not come.
+/// A round with names for the digital inputs, of which a logger tells none: those of a
+/// configuration stand for them.
+LiveRound WithNames(LiveRound round, const DeviceConf& conf);
+
+/// A number of a kind in the digits that it came with: "12.5", "1042".
+std::string LiveNumberText(LiveKind kind, double number);
+
+/// The same of a value, and "1" or "0" of a state; empty for a value that has not come.
 std::string LiveText(const LiveValue& value);
 
-/// The name, or the tag where there is none.
-std::string LiveName(const LiveValue& value);
+/// The name of a value, or its tag where that is empty.
+std::string LiveName(LiveId id, const std::string& name);
 
 }  // namespace ostrel

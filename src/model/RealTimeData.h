@@ -9,9 +9,13 @@
 
 namespace ostrel {
 
+inline constexpr int kLiveFlags = 16;     ///< flags of which a logger tells the state
+inline constexpr int kMathRegisters = 8;  ///< registers of which a logger tells the content
+
 /// The last live values of a logger, with the names and units that it holds itself.
 struct RealTimeData {
   DateTime DeviceClock;
+  LiveRead ClockRead;            ///< what became of it in this session
   std::int16_t DigitalMask = 0;  ///< states of the digital inputs, one bit each
   std::int16_t OutputMask = 0;
   std::int32_t FlagMask = 0;

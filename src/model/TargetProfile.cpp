@@ -7,6 +7,9 @@ namespace {
 
 constexpr std::int16_t kKept = -1;
 
+/// The inputs of a Tavro BQ; the last two tell the direction of its flows.
+constexpr std::array<std::string_view, 6> kInputsOfBQ{"IN0", "IN1", "IN2", "IN3", "DR0", "DR1"};
+
 }  // namespace
 
 const std::array<TargetModel, 6>& TargetModels() {
@@ -27,6 +30,18 @@ const std::array<std::string_view, 6>& TargetNamesOffered() {
   static constexpr std::array<std::string_view, 6> names{
       "Ostrel KA1", "Ostrel KA2", "Ostrel VR200", "Ostrel S100", "Tavro BP", "Tavro BQ"};
   return names;
+}
+
+int DigitalInputsShown(const TargetProfile& profile) {
+  return profile.IsBQ ? static_cast<int>(kInputsOfBQ.size()) : profile.DigitalCount;
+}
+
+std::string DigitalInputLabel(const TargetProfile& profile, int index) {
+  constexpr int kMainsInput = 8;
+  if (profile.IsKA2 && index == kMainsInput) return "UPS";
+  if (profile.IsBQ && index < DigitalInputsShown(profile))
+    return std::string(kInputsOfBQ.at(static_cast<std::size_t>(index)));
+  return "I" + std::to_string(index);
 }
 
 const TargetModel* FindTarget(std::string_view anyName) {

@@ -30,6 +30,16 @@ struct TargetProfile {
   bool operator==(const TargetProfile&) const = default;
 };
 
+/// Whether 1-Wire probes stand in the place of the analog inputs among what a model measures.
+inline bool HasProbes(const TargetProfile& profile) { return profile.IsKA1 || profile.IsKA2; }
+
+/// How many digital inputs a model tells the state of. A Tavro BQ has two more than can be
+/// configured: those of the direction of its flows.
+int DigitalInputsShown(const TargetProfile& profile);
+
+/// What is printed beside a digital input: "I3", "IN3", "DR0", "UPS".
+std::string DigitalInputLabel(const TargetProfile& profile, int index);
+
 /// One model of the family.
 struct TargetModel {
   std::string_view name;  ///< "Ostrel VR200"

@@ -12,6 +12,10 @@ namespace ostrel {
 // What a program has of the terminal that it was started from. The set of the system underneath
 // brings these.
 
+/// Gives a program that was started without a standard input an empty one. Else the next file that
+/// it opens would take the place, and its input would never end.
+void HoldStandardInput();
+
 /// Has texts in UTF-8 shown as such, and the octets of standard output passed on as they are.
 void PrepareConsole();
 

@@ -220,6 +220,7 @@ LinkHooks Configurator::MakeHooks() {
       .infoChanged =
           [this](std::string_view key) {
             general.ShowInfo(key);
+            session.NoteInfo();
             ledger.InfoChanged(key);
           },
       .showPWForm = [this] { AskCode(); },

@@ -118,6 +118,22 @@ FaultWords LinkWords(const SessionFault& fault, const std::string& port) {
   return {{"the logger did not answer, or not as expected"}};
 }
 
+Phrase FlashWords(FlashState flash) {
+  switch (flash) {
+    case FlashState::Kept:
+      break;
+    case FlashState::InDoubt:
+      return {
+          "the logger's flash may be erased: leave it powered and connected; if it tells of itself "
+          "in a new session, it is not; else start the update again with the same files"};
+    case FlashState::Erased:
+      return {
+          "the logger's flash is erased and holds no firmware: leave it powered and connected, and "
+          "start the update again with the same files"};
+  }
+  return {"nothing of the image was sent: if the logger still answers, its firmware is as it was"};
+}
+
 Phrase Outcome(const SessionFault& fault) {
   if (fault.writingVoiceList)
     return {"the logger's voice-call list may be erased or incomplete: write it again"};
@@ -129,14 +145,7 @@ Phrase Outcome(const SessionFault& fault) {
         return {"whether the logger has taken the configuration over is not known: read it back"};
       return {"the logger's former configuration stays in force"};
     case SessionPhase::Updating:
-      if (fault.flashErased)
-        return {
-            "the logger's flash is erased and holds no firmware: leave it powered and "
-            "connected, and start the update again with the same files"};
-      // The answer that it erases may have been lost as well as the request.
-      return {
-          "whether the logger has erased its firmware is not known: if it tells of itself in a new "
-          "session, it has not; else start the update again with the same files"};
+      return FlashWords(fault.flash);
     case SessionPhase::Opening:
       if (!fault.brokenOff) return {};
       [[fallthrough]];

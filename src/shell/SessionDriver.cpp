@@ -124,7 +124,7 @@ void SessionDriver::OpenOrClose() {
   }
 }
 
-bool SessionDriver::Open(std::int16_t port, const std::string& phone) {
+bool SessionDriver::Open(std::int16_t port, const std::string& phone, OpenTo wanted) {
   port_ = port;
   code_ = CodeAnswer::NotAsked;
   Working opening(*this, SessionPhase::Opening);
@@ -143,8 +143,7 @@ bool SessionDriver::Open(std::int16_t port, const std::string& phone) {
     if (Connected_) {
       greeting_ = comms_.RxLine;
       if (const auto doubt = ModelDoubt(); doubt && OnModelDoubt) OnModelDoubt(*doubt);
-      ReadAfterConnect();
-      if (comms_.InfoFault().Ok()) isFlashErased_ = false;  // what tells of itself has a firmware
+      ReadAfterConnect(wanted);
     }
   }
   opening.Ended(Connected_);
@@ -176,8 +175,11 @@ void SessionDriver::Close(bool modem) {
   closing.Ended(true);
 }
 
-void SessionDriver::ReadAfterConnect() {
+void SessionDriver::ReadAfterConnect(OpenTo wanted) {
   comms_.ReadInfo();
+  const LinkFault& told = comms_.InfoFault();
+  const bool isMute = told.kind == LinkFault::Kind::Silence && !told.IsDamage();
+  if (isMute && wanted == OpenTo::AnyThatGreets) return;
   comms_.ReadTotalCount();
   comms_.ReadIOParameter();
   // A clock that did not come, or came damaged, is no reason to set one.
@@ -292,11 +294,17 @@ LinkResult SessionDriver::SendFirmware(const FirmwareFiles& files,
   });
   watch_.BeginWriting(
       static_cast<int>(SentOctets(files.image.size()) + SentOctets(files.loader.size())));
+  const FlashState before = flash_;
+  bool hasBegun = false;
   const LinkResult result = comms_.SendFirmware(files, [&](FirmwareStage stage) {
-    if (stage == FirmwareStage::Erasing) isFlashErased_ = true;
-    if (stage == FirmwareStage::Copying) isFlashErased_ = false;
+    // The order may be heard though its answer is lost.
+    if (stage == FirmwareStage::Asking) flash_ = std::max(flash_, FlashState::InDoubt);
+    hasBegun = stage != FirmwareStage::Asking;
+    if (hasBegun) flash_ = FlashState::Erased;
     onStage(stage);
   });
+  if (!hasBegun && RefusesErasing(result.Fault())) flash_ = before;
+  if (result) flash_ = FlashState::Kept;
   working.Ended(result);
   return result;
 }
@@ -354,7 +362,7 @@ SessionFault SessionDriver::FaultDuring(SessionPhase phase) const {
           .allSent = phase == SessionPhase::Writing && watch_.ReachedEnd(),
           .unverified =
               unverified_ && phase != SessionPhase::Writing && phase != SessionPhase::Updating,
-          .flashErased = phase == SessionPhase::Updating && isFlashErased_,
+          .flash = phase == SessionPhase::Updating ? flash_ : FlashState::Kept,
           .code = phase == SessionPhase::Opening ? code_ : CodeAnswer::NotAsked};
 }
 

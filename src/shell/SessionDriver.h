@@ -24,6 +24,12 @@ struct TransferEnd {
   DeviceConf held{};  ///< what the logger holds, when done: what was read, or what was sent
 };
 
+/// What a session is opened to.
+enum class OpenTo {
+  Working,       ///< a logger that is asked all about itself
+  AnyThatGreets  ///< also one without firmware, which is asked no further when it tells nothing
+};
+
 /// The main loop: serves the requests of the session controls, once a second, and keeps the device
 /// information fresh. The steps can also be run directly, by a command that does not wait for
 /// ticks.
@@ -38,7 +44,7 @@ class SessionDriver {
   void Tick();
   /// Opens a session on a port, through a modem when there is a phone number. True when it stands.
   /// `Comms::Abort` breaks it off at any point.
-  bool Open(std::int16_t port, const std::string& phone);
+  bool Open(std::int16_t port, const std::string& phone, OpenTo wanted = OpenTo::Working);
   /// Ends what is under way by closing the port at once; the session is closed by that.
   void BreakOff();
   /// Asks for the information again where a damaged line has cut it short: what a firmware can do
@@ -61,8 +67,8 @@ class SessionDriver {
   /// Replaces the logger's firmware, and tells each stage as it begins. A success leaves the
   /// session to be closed, since the logger has left the dialogue.
   LinkResult SendFirmware(const FirmwareFiles& files, const FirmwareDialogue::OnStage& onStage);
-  /// Whether an update has erased a logger's flash and not come to its end since.
-  bool IsFlashErased() const { return isFlashErased_; }
+  /// What an update has left of a logger's firmware, as long as none has come to its end since.
+  FlashState Flash() const { return flash_; }
   /// Asks for a transfer from wherever the operator is: a click on its button, which the next tick
   /// serves even when the general page is not in front.
   void AskFor(SessionPhase kind);
@@ -112,6 +118,8 @@ class SessionDriver {
   // What the link tells.
   /// An attempt of an upload has taken its state from the model.
   void KeepSent() { sent_ = context_.conf; }
+  /// The logger tells of itself, which only one with a firmware does.
+  void NoteInfo() { flash_ = FlashState::Kept; }
   /// The operator was asked for an access code.
   void CodeAsked(bool given);
 
@@ -138,7 +146,7 @@ class SessionDriver {
   void OpenOrClose();
   void TickBehind();
   void Serve(bool& request, const std::function<void()>& byFace, bool (SessionDriver::*transfer)());
-  void ReadAfterConnect();
+  void ReadAfterConnect(OpenTo wanted);
   void CompareClocks();
   void ShowState();
   /// Runs a transfer with the page disabled, between its two status texts.
@@ -172,7 +180,7 @@ class SessionDriver {
   CodeAnswer code_ = CodeAnswer::NotAsked;
   bool lastReadFailed_ = false;
   ListWork listWork_ = ListWork::None;
-  bool isFlashErased_ = false;
+  FlashState flash_ = FlashState::Kept;
   std::string greeting_;              ///< of the logger that answers
   std::vector<std::string> fitting_;  ///< models that have all that it told of; empty: not known
   DeviceConf sent_;                   ///< what the last attempt of an upload sends

@@ -22,6 +22,13 @@ constexpr bool IsLongDialogue(SessionPhase phase) {
   return IsTransfer(phase) || phase == SessionPhase::Updating;
 }
 
+/// What is known of the flash of a logger whose update did not come to its end.
+enum class FlashState {
+  Kept,     ///< it holds a firmware
+  InDoubt,  ///< the order to erase it went out, and whether it was heard is not known
+  Erased
+};
+
 /// How the question for an access code was answered while a session was opened.
 enum class CodeAnswer { NotAsked, NotGiven, Given };
 
@@ -33,8 +40,8 @@ struct SessionFault {
   bool brokenOff = false;   ///< by the operator
   bool allSent = false;     ///< an upload had nothing left to send but its end
   bool unverified = false;  ///< an earlier upload of the session was taken over, not yet read back
-  bool writingVoiceList = false;  ///< which begins with erasing the one that the logger holds
-  bool flashErased = false;       ///< an update had got so far that the logger erased its firmware
+  bool writingVoiceList = false;        ///< which begins with erasing the one that the logger holds
+  FlashState flash = FlashState::Kept;  ///< behind an update
   CodeAnswer code = CodeAnswer::NotAsked;
 };
 

@@ -8,7 +8,7 @@ void TransferWatch::BeginReading(const std::string& targetType) {
   Begin(targetType, counts_.Expected(targetType));
 }
 
-void TransferWatch::BeginWriting(int statements) { Begin({}, statements); }
+void TransferWatch::BeginWriting(int steps) { Begin({}, steps); }
 
 void TransferWatch::Begin(std::string readFrom, int steps) {
   readFrom_ = std::move(readFrom);

@@ -11,8 +11,8 @@
 
 namespace ostrel {
 
-/// Follows a download or an upload: how many records or statements it will have, how many are done,
-/// and what time is left. Every face shows its progress by this one.
+/// Follows a long dialogue: how many records, statements, octets or places of a list it will have,
+/// how many are done, and what time is left. Every face shows its progress by this one.
 class TransferWatch {
  public:
   TransferWatch(const EventLoop& loop, Settings& settings) : loop_(loop), counts_(settings) {}
@@ -20,7 +20,7 @@ class TransferWatch {
   /// A download from a logger of a model comes next; it is expected to be as long as the last one.
   void BeginReading(const std::string& targetType);
   /// An upload of so many statements, or octets, comes next.
-  void BeginWriting(int statements);
+  void BeginWriting(int steps);
   /// A dialogue on a list of so many places comes next.
   void BeginList(int places) { Begin({}, places); }
   /// Takes how far the transfer is. A number that falls is a new attempt. A download that has

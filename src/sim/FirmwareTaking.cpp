@@ -37,7 +37,11 @@ bool FirmwareTaking::TakesOctets() const {
 FirmwareTaking::Signs FirmwareTaking::Take(std::string_view octets, FaultPlan& plan) {
   Signs signs;
   for (const char octet : octets) {
-    if (!TakesOctets() || octet == '#') break;
+    if (inFrame_ || octet == '#') {
+      inFrame_ = octet != '\r';
+      continue;
+    }
+    if (!TakesOctets()) continue;
     if (state_ == State::Image) {
       TakeImageOctet(octet, plan, signs);
     } else {

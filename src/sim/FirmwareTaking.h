@@ -29,7 +29,7 @@ class FirmwareTaking {
 
   void BeginImage();
   void BeginLoader();
-  /// Takes what belongs to a file, up to the next frame.
+  /// Takes what belongs to a file; frames do not.
   Signs Take(std::string_view octets, FaultPlan& plan);
   void BeginCopying() { state_ = State::Copying; }
   void End() { state_ = State::Idle; }
@@ -51,6 +51,7 @@ class FirmwareTaking {
   State state_ = State::Idle;
   std::string image_, loader_;
   std::string record_;     ///< the one under way
+  bool inFrame_ = false;   ///< up to its carriage return
   bool hasEnded_ = false;  ///< the end record of the file under way has come
   bool isDeaf_ = false;
   bool isMuteBlock_ = false;  ///< a fault keeps the marks of this block back

@@ -75,8 +75,11 @@ class Answers {
     for (const FlowMeter& meter : conf_.flows) AddNames(meter);
     return text_;
   }
+  /// The last register is a total, which has more digits than a measured value.
   std::string MathRaws() {
-    for (int i = 0; i < kMathRaws; ++i) Add(i < kMaths ? live_.Math(conf_, i, now_) * 2 : 0.0F);
+    constexpr std::int64_t kTotal = 123'456'789;
+    for (int i = 0; i < kMathRaws - 1; ++i) Add(i < kMaths ? live_.Math(conf_, i, now_) * 2 : 0.0F);
+    Add(std::to_string(kTotal + now_) + ".25");
     return text_;
   }
   std::string Maths() {

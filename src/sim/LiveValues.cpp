@@ -135,7 +135,9 @@ float LiveValues::Analog(const Configuration& conf, int index, std::int64_t now)
 
 unsigned LiveValues::DigitalMask(std::int64_t now) const {
   constexpr unsigned kPumps = 0x55;  // run half of the time; the others are contacts of alarms
-  const int count = self_.Traits().digitals;
+  // A BQ tells the direction of its flows behind its inputs.
+  const ModelTraits& model = self_.Traits();
+  const int count = model.digitals + (self_.model == Model::BQ ? model.flows : 0);
   return (Bits(Kind::Digital, 0, count, 0.5, now) & kPumps) |
          (Bits(Kind::Digital, 0, count, 0.15, now) & ~kPumps);
 }

@@ -179,6 +179,7 @@ void Logger::ForgetLine() {
 void Logger::ChangeCall(bool up) {
   ForgetLine();
   admitted_ = !up || options_.accessCode.empty();
+  ScheduleTrace();
   line_.SetCarrier(up);
 }
 
@@ -193,7 +194,10 @@ void Logger::LoseCarrier() {
 
 bool Logger::AnswerAccessCode(std::string_view rest) {
   const bool right = rest == options_.accessCode;
-  if (modem_) admitted_ = right || options_.accessCode.empty();
+  if (modem_) {
+    admitted_ = right || options_.accessCode.empty();
+    ScheduleTrace();
+  }
   Reply(right ? "#PassWord=1" : "#PassWord=0");
   return true;
 }

@@ -137,6 +137,7 @@ class Logger final : public LineDevice {
   void CopyFirmware();
 
   // Console
+  bool HasListener() const;
   void Say(const std::string& line);
   void TraceRequest(std::string_view request);
   void ScheduleTrace();

@@ -78,7 +78,14 @@ bool Logger::AnswerTraces(std::string_view rest) {
   return true;
 }
 
+/// Behind a modem only who has called, and been admitted, hears it: on a line without a call its
+/// words would stand among those of the modem.
+bool Logger::HasListener() const {
+  return isHeard_ && (!modem_ || (modem_->PassesData() && admitted_));
+}
+
 void Logger::Say(const std::string& line) {
+  if (!HasListener()) return;
   sender_.Text(WithoutFrameHeads(line) + std::string(kLineEnd));
 }
 
@@ -90,7 +97,7 @@ void Logger::TraceRequest(std::string_view request) {
 
 void Logger::ScheduleTrace() {
   loop_.Cancel(std::exchange(trace_, 0));
-  if (!traces_ || !isHeard_) return;
+  if (!traces_ || !HasListener()) return;
   trace_ = loop_.After(kTraceInterval, "simulated trace", [this] {
     trace_ = 0;
     if (taking_.IsIdle()) Say(TimeOfDayText() + " " + InputsText());

@@ -38,6 +38,8 @@ class Modem {
   Modem& operator=(const Modem&) = delete;
 
   void Receive(std::string_view octets);
+  /// Whether octets pass between the two ends: a call stands, and no escape has been heard.
+  bool PassesData() const { return call_ && !commandMode_; }
   /// Ends a call without a word, as a falling DTR does.
   void HangUp();
   /// The far end is gone: ends the call and says so.

@@ -7,6 +7,8 @@
 namespace ostrel {
 namespace {
 
+constexpr std::string_view kNoSession = "Debe iniciar la comunicacion primero";
+
 std::string_view StageKey(FirmwareStage stage) {
   switch (stage) {
     case FirmwareStage::Asking:
@@ -81,7 +83,7 @@ void Firm::Choose(TextBox& path) {
 }
 
 void Firm::Start() {
-  if (!context_.Connected) return Tell("Debe iniciar la comunicacion primero");
+  if (!context_.Connected) return Tell(kNoSession);
   const FirmwarePaths paths{FirmPath.Text(), LoaderPath.Text()};
   if (!AreNamed(paths)) return Tell("Debe seleccionar la ruta de los dos archivos");
   FirmwareFiles files;
@@ -94,7 +96,10 @@ void Firm::Start() {
                                   .icon = BoxIcon::Exclamation});
     return;
   }
-  if (MayGoOn(paths, files)) SendFirmware(files);
+  if (!MayGoOn(paths, files)) return;
+  // The session may have ended behind the question.
+  if (!context_.Connected) return Tell(kNoSession);
+  SendFirmware(files);
 }
 
 bool Firm::MayGoOn(const FirmwarePaths& paths, const FirmwareFiles& files) {

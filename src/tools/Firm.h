@@ -5,7 +5,7 @@
 
 #include "controls/FrontForm.h"
 #include "link/Progress.h"
-#include "tools/FirmwareDoubts.h"
+#include "tools/FirmwareChoice.h"
 #include "tools/ToolContext.h"
 
 namespace ostrel {

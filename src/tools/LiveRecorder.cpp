@@ -5,6 +5,9 @@ namespace {
 
 constexpr std::string_view kBegin = "Grabar...";
 constexpr std::string_view kEnd = "Parar";
+constexpr std::string_view kBrokenOff = "La grabacion se ha interrumpido";
+constexpr std::string_view kOtherLogger = "Grabacion terminada: el equipo es otro";
+constexpr std::string_view kDoubtful = "No se graba: el equipo no da su numero de serie";
 
 }  // namespace
 
@@ -22,27 +25,31 @@ void LiveRecorder::Begin(const std::string& path) {
     return static_cast<void>(context_.dialogs.ShowMessage({.text = path + ": " + why,
                                                            .title = context_.profile.TargetName,
                                                            .icon = BoxIcon::Exclamation}));
-  hasFailed_ = false;
+  ended_ = {};
+  isDoubtful_ = false;
+  logger_ = {};
   recording_.emplace(std::move(out));
   rounds_ = poll_.OnRound([this](const LiveRound& round) { Take(round); });
   going_ = poll_.KeepGoing();
 }
 
-void LiveRecorder::End() {
+void LiveRecorder::End(std::string_view why) {
+  ended_ = why;
   going_.reset();
   rounds_.reset();
   recording_.reset();
 }
 
 void LiveRecorder::Take(const LiveRound& round) {
-  if (recording_->Add(round)) return;
-  hasFailed_ = true;
-  End();
+  const LoggerChange change = logger_.Follow(IdentityOf(context_.profile, context_.info));
+  isDoubtful_ = change == LoggerChange::Doubtful;
+  if (change == LoggerChange::Other) return End(kOtherLogger);
+  if (!isDoubtful_ && !recording_->Add(WithNames(round, context_.conf))) End(kBrokenOff);
 }
 
 std::string LiveRecorder::StateText() const {
-  if (hasFailed_) return context_.Translate("La grabacion se ha interrumpido");
-  if (!IsOn()) return {};
+  if (!IsOn()) return ended_.empty() ? std::string() : context_.Translate(ended_);
+  if (isDoubtful_) return context_.Translate(kDoubtful);
   return context_.Translate("Filas grabadas:") + " " + std::to_string(recording_->Rows());
 }
 
@@ -60,6 +67,8 @@ RecorderPart::RecorderPart(Form& form, ToolContext& context, LiveRecorder& recor
 void RecorderPart::Follow() {
   const std::string_view key = recorder_.IsOn() ? kEnd : kBegin;
   BotonGrabar.face.SetCaption(key, context_.Translate(key));
+  // Without a session there would be a file with nothing in it.
+  BotonGrabar.face.SetEnabled(recorder_.IsOn() || context_.Connected);
   LabelGrabar.face.SetCaption(recorder_.StateText());
 }
 

@@ -3,8 +3,10 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
 
 #include "controls/Form.h"
+#include "model/LoggerIdentity.h"
 #include "tools/LivePoll.h"
 #include "tools/LiveRecording.h"
 #include "tools/ToolContext.h"
@@ -12,7 +14,9 @@
 namespace ostrel {
 
 /// Records the rounds of the session into a file that the operator chooses. It keeps the rounds
-/// going, whichever page is in front, until the operator ends it or the file takes no more.
+/// going, whichever page is in front, until the operator ends it, the file takes no more, or they
+/// come from another logger. Rounds of a later session whose logger has not told its serial number
+/// are left out.
 class LiveRecorder {
  public:
   LiveRecorder(ToolContext& context, LivePoll& poll) : context_(context), poll_(poll) {}
@@ -20,12 +24,13 @@ class LiveRecorder {
   bool IsOn() const { return recording_.has_value(); }
   /// Begins, after asking for the file, or ends.
   void Toggle();
-  /// "Grabando: 12", or what went wrong; empty while there is nothing to tell.
+  /// "Filas grabadas: 12", or why it goes on no more; empty while there is nothing to tell.
   std::string StateText() const;
 
  private:
   void Begin(const std::string& path);
-  void End();
+  /// Ends it; `why` is told, where it is not the operator who ends it.
+  void End(std::string_view why = {});
   void Take(const LiveRound& round);
 
   ToolContext& context_;
@@ -33,7 +38,9 @@ class LiveRecorder {
   std::optional<LiveRecording> recording_;
   LivePoll::RoundFeed::Subscription rounds_;
   std::shared_ptr<const void> going_;
-  bool hasFailed_ = false;
+  LoggerFollower logger_;
+  bool isDoubtful_ = false;   ///< the logger has not told which one it is
+  std::string_view ended_{};  ///< why it has ended by itself
 };
 
 /// The button that begins and ends the recording, and how far it is.

@@ -2,6 +2,8 @@
 
 #include <cstdlib>
 
+#include "base/Csv.h"
+
 namespace ostrel {
 namespace {
 
@@ -20,20 +22,12 @@ std::string IsoText(std::chrono::milliseconds time) {
   return text + "." + std::to_string(kMillisecondsASecond + rest).substr(1);
 }
 
-/// A field as it may stand between commas.
-std::string Quoted(const std::string& text) {
-  if (text.find_first_of(",\"\r\n") == std::string::npos) return text;
-  std::string quoted = "\"";
-  for (const char c : text) quoted.append(c == '"' ? 2 : 1, c);
-  return quoted + '"';
-}
-
 /// "AI0 Level [m]".
 std::string HeadOf(const LiveValue& value) {
   std::string head = LiveTag(value.id);
   if (!value.name.empty()) head += ' ' + value.name;
   if (!value.unit.empty()) head += " [" + value.unit + ']';
-  return Quoted(head);
+  return CsvCell(head);
 }
 
 }  // namespace
@@ -47,16 +41,17 @@ std::string LocalText(const WallTime& time) {
 }
 
 void LiveRecording::WriteHead(const LiveRound& round) {
-  *out_ << "utc,local";
+  *out_ << kRecordingHead;
   for (const LiveValue& value : round.values) {
+    if (!columns_.empty()) *out_ << ',';
+    *out_ << HeadOf(value);
     columns_.push_back(value.id);
-    *out_ << ',' << HeadOf(value);
   }
   *out_ << '\n';
 }
 
 bool LiveRecording::Add(const LiveRound& round) {
-  if (columns_.empty()) WriteHead(round);
+  if (rows_ == 0) WriteHead(round);
   *out_ << UtcText(round.at) << ',' << LocalText(round.at);
   for (const LiveId id : columns_) {
     *out_ << ',';

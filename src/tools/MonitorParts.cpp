@@ -10,15 +10,6 @@
 namespace ostrel {
 namespace {
 
-std::string Numbered(std::string_view stem, int index) {
-  return std::string(stem) + "(" + std::to_string(index) + ")";
-}
-
-std::string RowName(std::string_view stem, std::string_view family, std::string_view end,
-                    int index) {
-  return Numbered(std::string(stem).append(family).append(end), index);
-}
-
 /// "9:05:07".
 std::string TimeOfDayText(const DateTime& time) {
   return TimeText({(time.hour * 60 + time.minute) * 60 + time.second});
@@ -30,11 +21,20 @@ std::string TimeOfRead(const LiveRead& read) {
 
 }  // namespace
 
+std::string ControlName(std::string_view stem, int index) {
+  return std::string(stem) + "(" + std::to_string(index) + ")";
+}
+
+std::string ControlName(std::string_view stem, std::string_view family, std::string_view end,
+                        int index) {
+  return ControlName(std::string(stem).append(family).append(end), index);
+}
+
 MeasureRow::MeasureRow(Form& form, std::string_view family, int index, const RowShape& shape)
-    : name(form, RowName("Label_", family, "_Name", index)),
-      digit(form, RowName("Digit_", family, "", index)) {
-  if (shape.hasUnit) unit.emplace(form, RowName("Label_", family, "_Unit", index));
-  if (shape.hasBar) bar.emplace(form, RowName("Bar_", family, "", index));
+    : name(form, ControlName("Label_", family, "_Name", index)),
+      digit(form, ControlName("Digit_", family, "", index)) {
+  if (shape.hasUnit) unit.emplace(form, ControlName("Label_", family, "_Unit", index));
+  if (shape.hasBar) bar.emplace(form, ControlName("Bar_", family, "", index));
 }
 
 void MeasureRow::SetVisible(bool visible) {
@@ -57,8 +57,8 @@ void AddRows(MeasureRows& rows, Form& form, std::string_view family, int count,
 void AddLamps(Lamps& lamps, Labels& labels, Form& form, std::string_view lamp,
               std::string_view label, std::string_view letter, int count) {
   for (int i = 0; i < count; ++i) {
-    lamps.emplace_back(form, Numbered(lamp, i));
-    labels.emplace_back(form, Numbered(label, i));
+    lamps.emplace_back(form, ControlName(lamp, i));
+    labels.emplace_back(form, ControlName(label, i));
     labels.back().face.SetCaption(std::string(letter) + std::to_string(i));
   }
 }
@@ -67,8 +67,8 @@ MathPart::MathPart(Form& form)
     : FrameCMat(form, "FrameCMat", "Canales matematicos"),
       FrameRMat(form, "FrameRMat", "Registros matematicos") {
   AddRows(rows, form, "MAT", kMathRows);
-  AddRows(registers, form, "RMAT", kRegisterRows, {.hasUnit = false, .hasBar = false});
-  for (int i = 0; i < kRegisterRows; ++i)
+  AddRows(registers, form, "RMAT", kMathRegisters, {.hasUnit = false, .hasBar = false});
+  for (int i = 0; i < kMathRegisters; ++i)
     registers[static_cast<std::size_t>(i)].SetNames("R" + std::to_string(i));
 }
 
@@ -77,8 +77,7 @@ void MathPart::SetVisible(const TargetProfile& profile) {
     rows[static_cast<std::size_t>(i)].SetVisible(i < profile.MathCount);
 }
 
-Staleness LiveShow::AgeOf(LiveAnswer answer) const {
-  const LiveRead& read = context_.live.ReadOf(answer);
+Staleness LiveShow::AgeOf(const LiveRead& read) const {
   if (context_.Connected && !read.IsStale()) return {};
   return {.isStale = true, .since = read.hasCome ? TimeOfRead(read) : ""};
 }
@@ -87,7 +86,9 @@ void LiveShow::Measure(MeasureRow& row, LiveId id, LiveAnswer answer, std::strin
                        double number) const {
   row.digit.SetText(text);
   row.digit.SetStale(AgeOf(answer));
-  if (row.bar && row.IsVisible()) Bar(*row.bar, id, answer, number);
+  if (!row.bar || !row.IsVisible()) return;
+  row.bar->face.SetCaption(LiveName(id, row.name.face.Caption()));
+  Bar(*row.bar, id, answer, number);
 }
 
 void LiveShow::Bar(LimitBar& bar, LiveId id, LiveAnswer answer, double number) const {
@@ -111,16 +112,17 @@ void LiveShow::ShowMath(MathPart& math) const {
   for (int i = 0; i < std::min<int>(kMathRows, context_.profile.MathCount); ++i)
     Measure(math.rows[static_cast<std::size_t>(i)], {LiveKind::Math, i}, LiveAnswer::Math,
             NumText(live.MathValue[i]), live.MathValue[i]);
-  for (int i = 0; i < kRegisterRows; ++i)
+  for (int i = 0; i < kMathRegisters; ++i)
     Measure(math.registers[static_cast<std::size_t>(i)], {LiveKind::MathRegister, i},
             LiveAnswer::MathRaw, live.MathRaw[i], 0);
 }
 
-std::string LiveShow::ClockText() const {
+void LiveShow::ShowClock(ReadoutLine& line) const {
   const DateTime& now = context_.live.DeviceClock;
   const std::string date = DateTimeText(now);  // "2026-03-02 ..."
-  return "RTC: " + date.substr(8, 2) + "/" + date.substr(5, 2) + "/" + date.substr(0, 4) + " " +
-         TimeOfDayText(now);
+  line.face.SetCaption("RTC: " + date.substr(8, 2) + "/" + date.substr(5, 2) + "/" +
+                       date.substr(0, 4) + " " + TimeOfDayText(now));
+  line.SetStale(AgeOf(context_.live.ClockRead));
 }
 
 std::string LiveShow::AgeText() const {

@@ -18,6 +18,19 @@ struct RowShape {
   bool hasBar = true;
 };
 
+// How many rows the pages have; a model shows as many of them as it has channels.
+inline constexpr int kAnalogRows = 4;
+inline constexpr int kPulseRows = 9;
+inline constexpr int kMathRows = 4;
+inline constexpr int kModbusRows = 32;
+inline constexpr int kModuleLines = 96;
+
+/// "Led_D(3)": a control of a family.
+std::string ControlName(std::string_view stem, int index);
+/// "Label_AN_Name(0)": a control of a row, whose family is "AN".
+std::string ControlName(std::string_view stem, std::string_view family, std::string_view end,
+                        int index);
+
 /// One measured value on a monitor: name, digits, unit, and a bar with the limits of its alarms.
 class MeasureRow {
  public:
@@ -45,10 +58,6 @@ void AddRows(MeasureRows& rows, Form& form, std::string_view family, int count,
 void AddLamps(Lamps& lamps, Labels& labels, Form& form, std::string_view lamp,
               std::string_view label, std::string_view letter, int count);
 
-inline constexpr int kFlagLamps = 16;
-inline constexpr int kMathRows = 4;
-inline constexpr int kRegisterRows = 8;
-
 /// The math channels and registers of a monitor.
 struct MathPart {
   explicit MathPart(Form& form);
@@ -66,7 +75,7 @@ class LiveShow {
  public:
   explicit LiveShow(const ToolContext& context) : context_(context) {}
 
-  Staleness AgeOf(LiveAnswer answer) const;
+  Staleness AgeOf(LiveAnswer answer) const { return AgeOf(context_.live.ReadOf(answer)); }
   /// A value by its text; `number` is where the bar has it.
   void Measure(MeasureRow& row, LiveId id, LiveAnswer answer, std::string_view text,
                double number) const;
@@ -75,11 +84,13 @@ class LiveShow {
   /// On firmware that computes channels; on older one they stay as they are.
   void ShowMath(MathPart& math) const;
   /// "RTC: 02/03/2026 9:05:07".
-  std::string ClockText() const;
+  void ShowClock(ReadoutLine& line) const;
   /// "Ultima lectura: 9:05:07", of the answer that has to come in every round.
   std::string AgeText() const;
 
  private:
+  Staleness AgeOf(const LiveRead& read) const;
+
   const ToolContext& context_;
 };
 

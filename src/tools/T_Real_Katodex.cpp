@@ -8,16 +8,15 @@
 namespace ostrel {
 namespace {
 
-constexpr int kInputs = 4;
 constexpr int kInputLamps = 8;
 
 struct FixedChannel {
   std::string_view name, unit;
 };
-constexpr std::array<FixedChannel, kInputs> kAuxChannels{{{"Canal 0 (15VCC):", "V"},
-                                                          {"Canal 1 (150mVCC):", "mV"},
-                                                          {"Canal 2 (100VCA):", "V"},
-                                                          {"Canal 3 (100VCC):", "V"}}};
+constexpr std::array<FixedChannel, kAnalogRows> kAuxChannels{{{"Canal 0 (15VCC):", "V"},
+                                                              {"Canal 1 (150mVCC):", "mV"},
+                                                              {"Canal 2 (100VCA):", "V"},
+                                                              {"Canal 3 (100VCC):", "V"}}};
 
 }  // namespace
 
@@ -32,10 +31,10 @@ T_Real_Katodex::T_Real_Katodex(ToolContext& context, LivePoll& poll, LiveRecorde
       Frame4(form_, "Frame4", "Flags"),
       math_(form_),
       Timer1(form_, "Timer1", context.platform.loop, kLivePeriod) {
-  AddRows(analogs_, form_, "AN", kInputs);
-  AddRows(aux_, form_, "AUX", kInputs, {.hasUnit = true, .hasBar = false});
+  AddRows(analogs_, form_, "AN", kAnalogRows);
+  AddRows(aux_, form_, "AUX", kAnalogRows, {.hasUnit = true, .hasBar = false});
   AddLamps(Led_D, Label1, form_, "Led_D", "Label1", "I", kInputLamps);
-  AddLamps(Led_F, Label4, form_, "Led_F", "Label4", "F", kFlagLamps);
+  AddLamps(Led_F, Label4, form_, "Led_F", "Label4", "F", kLiveFlags);
   Timer1.OnTimer = [this] { Poll(); };
 }
 
@@ -80,14 +79,14 @@ void T_Real_Katodex::TakeRound() {
 
 void T_Real_Katodex::ShowNames() {
   if (std::exchange(hasNames_, true)) return;
-  for (int i = 0; i < kInputs; ++i)
+  for (int i = 0; i < kAnalogRows; ++i)
     analogs_[static_cast<std::size_t>(i)].SetNames(context_.live.AnalogName[i],
                                                    context_.live.AnalogUnit[i]);
 }
 
 void T_Real_Katodex::Show() {
   const RealTimeData& live = context_.live;
-  for (int i = 0; i < kInputs; ++i) {
+  for (int i = 0; i < kAnalogRows; ++i) {
     const auto row = static_cast<std::size_t>(i);
     show_.Measure(analogs_[row], {LiveKind::Analog, i}, LiveAnswer::Masks,
                   NumText(live.AnalogValue[i]), live.AnalogValue[i]);
@@ -96,7 +95,7 @@ void T_Real_Katodex::Show() {
   show_.ShowLamps(Led_D, static_cast<std::uint16_t>(live.DigitalMask));
   show_.ShowLamps(Led_F, static_cast<std::uint32_t>(live.FlagMask));
   show_.ShowMath(math_);
-  RTCText.face.SetCaption(show_.ClockText());
+  show_.ShowClock(RTCText);
   LabelLectura.face.SetCaption(show_.AgeText());
 }
 

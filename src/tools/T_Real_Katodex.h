@@ -34,7 +34,8 @@ class T_Real_Katodex final : public FrontForm {
   LivePoll& poll_;
   LiveShow show_{context_};
   Form form_{"T_Real_Katodex", "Tiempo real"};
-  Label RTCText, LabelLectura;
+  ReadoutLine RTCText;
+  Label LabelLectura;
   RecorderPart recorder_;
   Frame Frame1;
   MeasureRows analogs_, aux_;

@@ -1,7 +1,6 @@
 #include "tools/T_Real_Tavro.h"
 
 #include <algorithm>
-#include <array>
 
 #include "base/Numbers.h"
 #include "base/Scope.h"
@@ -9,18 +8,10 @@
 namespace ostrel {
 namespace {
 
-constexpr int kAnalogRows = 4;
-constexpr int kPulseRows = 9;
 constexpr int kDigitalLamps = 9;
 constexpr int kOutputLamps = 6;
-constexpr int kModbusRows = 32;
-constexpr int kModules = 96;
-constexpr int kMainsInput = 8;
 constexpr std::string_view kAnalogTitle = "Entradas analogicas";
 constexpr std::string_view kProbeTitle = "Sondas";
-
-/// The inputs of a Tavro BQ, of which two measure the flow's direction.
-constexpr std::array<std::string_view, 6> kNamesOfBQ{"IN0", "IN1", "IN2", "IN3", "DR0", "DR1"};
 
 template <class Controls>
 auto& At(Controls& controls, int index) {
@@ -49,14 +40,14 @@ T_Real_Tavro::T_Real_Tavro(ToolContext& context, LivePoll& poll, LiveRecorder& r
   AddLamps(Led_D, Label1, form_, "Led_D", "Label1", "I", kDigitalLamps);
   AddLamps(Led_O, Label2, form_, "Led_O", "Label2", "O", kOutputLamps);
   for (int i = 0; i < kOutputLamps; ++i)
-    CheckCambiarEstado.emplace_back(form_, "CheckCambiarEstado(" + std::to_string(i) + ")", "");
+    CheckCambiarEstado.emplace_back(form_, ControlName("CheckCambiarEstado", i), "");
   AddRows(counters_, form_, "CNT", kPulseRows, {.hasUnit = false, .hasBar = false});
   AddRows(flows_, form_, "FL", kPulseRows);
-  AddLamps(Led_F, Label4, form_, "Led_F", "Label4", "F", kFlagLamps);
+  AddLamps(Led_F, Label4, form_, "Led_F", "Label4", "F", kLiveFlags);
   AddRows(modbus_, form_, "MB", kModbusRows);
-  for (int i = 0; i < kModules; ++i) {
-    LabelModulo.emplace_back(form_, "LabelModulo(" + std::to_string(i) + ")");
-    moduleBars_.emplace_back(form_, "Bar_EX(" + std::to_string(i) + ")");
+  for (int i = 0; i < kModuleLines; ++i) {
+    LabelModulo.emplace_back(form_, ControlName("LabelModulo", i));
+    moduleBars_.emplace_back(form_, ControlName("Bar_EX", i));
   }
   Timer1.OnTimer = [this] { Poll(); };
   Shape();
@@ -95,23 +86,22 @@ void T_Real_Tavro::Shape() {
 
 void T_Real_Tavro::ShapeInputs() {
   const TargetProfile& model = context_.profile;
-  const int analogs = HasProbes() ? model.OneWireCount : model.AnalogCount;
+  const int analogs = HasProbes(model) ? model.OneWireCount : model.AnalogCount;
   for (int i = 0; i < kAnalogRows; ++i) At(analogs_, i).SetVisible(i < analogs);
   for (int i = 0; i < kPulseRows; ++i) {
     At(counters_, i).SetVisible(i < model.CaudalCount);
     At(flows_, i).SetVisible(i < model.CaudalCount);
   }
-  const int digitals = model.IsBQ ? static_cast<int>(kNamesOfBQ.size()) : model.DigitalCount;
   for (int i = 0; i < kDigitalLamps; ++i) {
-    At(Led_D, i).face.SetVisible(i < digitals);
-    At(Label1, i).face.SetVisible(i < digitals);
+    At(Led_D, i).face.SetVisible(i < DigitalInputsShown(model));
+    At(Label1, i).face.SetVisible(i < DigitalInputsShown(model));
   }
   for (int i = 0; i < kOutputLamps; ++i)
     for (Face* face : {&At(Led_O, i).face, &At(Label2, i).face, &At(CheckCambiarEstado, i).face})
       face->SetVisible(i < Outputs());
   for (int i = 0; i < kModbusRows; ++i)
     At(modbus_, i).SetVisible(model.IsVR200 && i < model.ModbusCount);
-  for (int i = 0; i < kModules; ++i) {
+  for (int i = 0; i < kModuleLines; ++i) {
     At(LabelModulo, i).face.SetVisible(model.IsS100);
     if (!model.IsS100) At(moduleBars_, i).Set({}, {});
   }
@@ -120,16 +110,13 @@ void T_Real_Tavro::ShapeInputs() {
 
 void T_Real_Tavro::ShapeLabels() {
   const TargetProfile& model = context_.profile;
-  for (int i = 0; i < kDigitalLamps; ++i) At(Label1, i).face.SetCaption("I" + std::to_string(i));
-  if (model.IsBQ)
-    for (int i = 0; i < static_cast<int>(kNamesOfBQ.size()); ++i)
-      At(Label1, i).face.SetCaption(At(kNamesOfBQ, i));
-  if (model.IsKA2) At(Label1, kMainsInput).face.SetCaption("UPS");
-  const std::string_view title = HasProbes() ? kProbeTitle : kAnalogTitle;
+  for (int i = 0; i < kDigitalLamps; ++i)
+    At(Label1, i).face.SetCaption(DigitalInputLabel(model, i));
+  const std::string_view title = HasProbes(model) ? kProbeTitle : kAnalogTitle;
   Frame1.face.SetCaption(title, context_.Translate(title));
   const bool hasBus = model.IsVR200 || model.IsS100;
   Line1.face.SetVisible(hasBus);
-  Label3.face.SetVisible(hasBus || HasProbes());
+  Label3.face.SetVisible(hasBus || HasProbes(model));
 }
 
 void T_Real_Tavro::ShapeTabs() {
@@ -179,7 +166,7 @@ void T_Real_Tavro::Show() {
   ShowValues();
   ShowBus();
   ShowLampsAndMath();
-  RTCText.face.SetCaption(show_.ClockText());
+  show_.ShowClock(RTCText);
   LabelLectura.face.SetCaption(show_.AgeText());
 }
 
@@ -189,7 +176,7 @@ void T_Real_Tavro::ShowNames() {
     At(counters_, i).SetNames(live.CounterName[i]);
     At(flows_, i).SetNames(live.FlowName[i], live.FlowUnit[i]);
   }
-  const bool probes = HasProbes();
+  const bool probes = HasProbes(context_.profile);
   for (int i = 0; i < kAnalogRows; ++i)
     At(analogs_, i)
         .SetNames((probes ? live.AuxName : live.AnalogName)[i],
@@ -209,7 +196,7 @@ void T_Real_Tavro::ShowValues() {
     show_.Measure(At(flows_, i), {LiveKind::Flow, i}, LiveAnswer::Flows, NumText(live.FlowValue[i]),
                   live.FlowValue[i]);
   }
-  const bool probes = HasProbes();
+  const bool probes = HasProbes(context_.profile);
   for (int i = 0; i < kAnalogRows; ++i) {
     const float value = (probes ? live.AuxValue : live.AnalogValue)[i];
     show_.Measure(At(analogs_, i), {probes ? LiveKind::Probe : LiveKind::Analog, i},
@@ -225,12 +212,14 @@ void T_Real_Tavro::ShowBus() {
       show_.Measure(At(modbus_, i), {LiveKind::Modbus, i}, LiveAnswer::Modbus,
                     NumText(live.ModbusValue[i]), live.ModbusValue[i]);
   if (!model.IsS100) return;
-  for (int i = 0; i < kModules; ++i) {
-    Face& face = At(LabelModulo, i).face;
-    face.SetCaption(live.ModuloName[i] + ":" + NumText(live.ModuloValue[i]) + " " +
-                    live.ModuloUnit[i]);
-    face.SetEnabled(!show_.AgeOf(AnswerOfModule(i)).isStale);
-    show_.Bar(At(moduleBars_, i), {LiveKind::Module, i}, AnswerOfModule(i), live.ModuloValue[i]);
+  for (int i = 0; i < kModuleLines; ++i) {
+    const LiveId id{LiveKind::Module, i};
+    ReadoutLine& line = At(LabelModulo, i);
+    line.face.SetCaption(live.ModuloName[i] + ":" + NumText(live.ModuloValue[i]) + " " +
+                         live.ModuloUnit[i]);
+    line.SetStale(show_.AgeOf(AnswerOfModule(i)));
+    At(moduleBars_, i).face.SetCaption(LiveName(id, live.ModuloName[i]));
+    show_.Bar(At(moduleBars_, i), id, AnswerOfModule(i), live.ModuloValue[i]);
   }
 }
 

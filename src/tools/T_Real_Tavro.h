@@ -39,14 +39,14 @@ class T_Real_Tavro final : public FrontForm {
   void ShowValues();
   void ShowLampsAndMath();
   void ShowBus();
-  bool HasProbes() const { return context_.profile.IsKA1 || context_.profile.IsKA2; }
   int Outputs() const;
 
   ToolContext& context_;
   LivePoll& poll_;
   LiveShow show_{context_};
   Form form_{"T_Real_Tavro", "Tiempo real"};
-  Label RTCText, LabelLectura;
+  ReadoutLine RTCText;
+  Label LabelLectura;
   RecorderPart recorder_;
   TabRow SSTab1;
   Frame Frame1;
@@ -65,7 +65,7 @@ class T_Real_Tavro final : public FrontForm {
   Labels Label4;
   Frame Frame5;
   MeasureRows modbus_;
-  Labels LabelModulo;
+  std::deque<ReadoutLine> LabelModulo;
   std::deque<LimitBar> moduleBars_;
   MathPart math_;
   Timer Timer1;

@@ -40,7 +40,7 @@ Terminal::Terminal(ToolContext& context)
   LogCheck.face.SetVisible(static_cast<bool>(context.OpenLog));
   LogCheck.OnClick = [this] { SwitchLog(); };
   SaveBut.OnClick = [this] { Save(); };
-  BorrarBut.OnClick = [this] { Clear(); };
+  BorrarBut.OnClick = [this] { TextWin.Clear(); };  // what is held back was not seen yet
   Timer1.OnTimer = [this] { Take(); };
 }
 
@@ -102,13 +102,9 @@ void Terminal::Save() {
       {.mode = FileQuestion::Mode::Save,
        .filter = context_.Translate("Rich text file (*.rtf)|*.rtf|Todos los ficheros (*.*)|*.*"),
        .overwritePrompt = true});
-  if (path && SaveWhole(context_.platform.files, *path, RichTextOf(TextWin.Text())).Ok())
+  if (path &&
+      SaveWhole(context_.platform.files, *path, RichTextOf(TextWin.Text() + heldBack_)).Ok())
     context_.ConfFilePath = *path;
-}
-
-void Terminal::Clear() {
-  heldBack_.clear();
-  TextWin.Clear();
 }
 
 void Terminal::SwitchLog() {

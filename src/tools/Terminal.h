@@ -30,7 +30,6 @@ class Terminal final : public FrontForm {
   void Send(std::string_view head, TextBox& box, TypedHistory& history);
   void Post(std::string message);
   void Save();
-  void Clear();
   void SwitchLog();
   void EndLog();
   void ShowLines();

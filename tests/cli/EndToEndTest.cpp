@@ -198,7 +198,8 @@ TEST_F(EndToEnd, TheConsoleAndAnUpdateGoOverAPseudoTerminal) {
   EXPECT_EQ(Run("ostrelctl", "terminal --log " + Path("log") + port, Path("typed")), 0)
       << Read("err");
   EXPECT_EQ(Read("out"), "Tavro BP v3.56\nOUT=0\n");
-  EXPECT_EQ(Read("log"), Read("out"));
+  EXPECT_EQ(Read("log"), "Ostrel console log\n" + Read("out"));
+  EXPECT_EQ(Run("ostrelctl", "terminal" + port, "&-"), 0) << "no input ends at once";
   std::ofstream(Path("image.hex"), std::ios::binary) << HexFile(20);
   std::ofstream(Path("CopyFlash.hex"), std::ios::binary) << HexFile(2);
   EXPECT_EQ(

@@ -57,8 +57,11 @@ TEST(Online, ShowsLiveValues) {
   EXPECT_THAT(world.out, HasSubstr("MODBUS channel 31 "));
   EXPECT_EQ(world.Run("live --port sim:BQ --json"), 0);
   const QJsonObject live = world.Json().object();
-  EXPECT_EQ(live["digital"].toArray().size(), 4);
+  EXPECT_EQ(live["digital"].toArray().size(), 6) << "with the directions of its flows";
   EXPECT_EQ(live["analog"].toArray().size(), 1);
+  const double total = live["registers"][7]["value"].toDouble();
+  EXPECT_NE(total, 0);
+  EXPECT_NE(total, static_cast<float>(total)) << "all of its digits";
   EXPECT_EQ(live["flows"].toArray().size(), 2);
   EXPECT_EQ(live["modbus"].toArray().size(), 0);
 }
@@ -229,8 +232,8 @@ TEST(Online, ShowsProgressWithTheTimeThatRemainsOnATerminalAlone) {
 TEST(Online, TracesTheLineWithItsPrefixes) {
   World world;
   std::ostringstream trace;
-  world.environment.openLog = [&](const std::string& path,
-                                  std::string&) -> std::unique_ptr<std::ostream> {
+  world.environment.openTrace = [&](const std::string& path,
+                                    std::string&) -> std::unique_ptr<std::ostream> {
     if (path != "/trace.txt") return nullptr;
     return std::make_unique<std::ostream>(trace.rdbuf());
   };
@@ -238,7 +241,7 @@ TEST(Online, TracesTheLineWithItsPrefixes) {
   EXPECT_THAT(trace.str(), HasSubstr(" TxSer: #40\n"));
   EXPECT_THAT(trace.str(), HasSubstr(" RxSer: #BF"));
   EXPECT_EQ(world.Run("info --port sim:VR200 --trace /forbidden"), 5);
-  world.environment.openLog = [](const std::string&, std::string&) {
+  world.environment.openTrace = [](const std::string&, std::string&) {
     return std::make_unique<std::ostream>(nullptr);  // takes nothing
   };
   world.Expect("info --port sim:VR200 --trace /full", 5, "cannot write /full");

@@ -133,7 +133,7 @@ TEST(Voice, ExitsWith4WhereItFails) {
 /// Neither results nor messages nor the trace tell a password, unless they are asked for.
 TEST(Passwords, AreToldOnlyWhenAskedFor) {
   World world;
-  world.environment.openLog = [&](const std::string& path, std::string&) {
+  world.environment.openTrace = [&](const std::string& path, std::string&) {
     struct Log : std::ostringstream {
       Log(std::string& into) : kept(into) {}
       ~Log() override { kept = str(); }

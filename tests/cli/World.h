@@ -62,8 +62,8 @@ struct World : VirtualWorld {
                           .dataFolder = "/home/user/data",
                           .shippedLang = "/share/Lang.txt",
                           .numberOfDevice = [](const std::string&) { return 0; },
+                          .openTrace = {},
                           .openLog = {},
-                          .openGrowing = {},
                           .watchInput = {},
                           .onInterrupt = {},
                           .interrupted = {}};

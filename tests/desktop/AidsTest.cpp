@@ -143,7 +143,7 @@ TEST(AidWords, HaveSpanish) {
   work.logger = DeviceInfo{};
   work.live = LiveRound{};
   for (const Verdict verdict : {Verdict::Open, Verdict::Passed, Verdict::Failed})
-    work.acceptance.push_back({.node = {}, .kind = "digital input", .verdict = verdict});
+    work.acceptance.points.push_back({.node = {}, .kind = "digital input", .verdict = verdict});
   work.history = {{}};
   VirtualFiles none;
   const auto asItIs = [](std::string_view text) { return std::string(text); };

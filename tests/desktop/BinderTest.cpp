@@ -54,6 +54,7 @@ class Binder : public testing::Test {
   TimePicker time{form, "time"};
   ProgressBar bar{form, "bar"};
   DigitBox digit{form, "digit"};
+  ReadoutLine line{form, "line"};
   LedMedio lamp{form, "lamp"};
   LimitBar limits{form, "limits"};
   TabRow tabs{form, "tabs"};
@@ -86,8 +87,33 @@ TEST_F(Binder, ReadoutsTellTheirValueToThoseWhoCannotSeeThem) {
   EXPECT_EQ(told(shownDigit), "12.5, last read at 9:05:07");
   EXPECT_EQ(told(shownLamp), "on, not read");
   EXPECT_NE(shownDigit->grab().toImage(), fresh) << "it is seen, too";
+  limits.face.SetCaption("Level");
+  EXPECT_EQ(shownLimits->accessibleName(), "Alarm limits of Level");
   limits.Set({}, {});
   EXPECT_FALSE(shownLimits->isVisibleTo(&view));
+
+  auto* shownLine = Show<QLabel>("line");
+  line.face.SetCaption("Well: 3 m");
+  const QPalette::ColorRole freshRole = shownLine->foregroundRole();
+  line.SetStale({.isStale = true, .since = "9:05:07"});
+  EXPECT_EQ(shownLine->text(), "Well: 3 m (9:05:07)");
+  EXPECT_EQ(shownLine->toolTip(), "Well: 3 m, last read at 9:05:07");
+  EXPECT_EQ(shownLine->accessibleName(), shownLine->toolTip());
+  EXPECT_NE(shownLine->foregroundRole(), freshRole);
+}
+
+/// A number that has not the room must not look like a smaller one.
+TEST_F(Binder, DigitsNeverLoseTheFirstOfThem) {
+  auto* shown = Show<Readout>("digit");
+  shown->resize(shown->sizeHint());
+  const auto drawn = [&](const std::string& digits) {
+    digit.SetText(digits);
+    return shown->grab().toImage();
+  };
+  const std::string rest(37, '0');
+  const QImage one = drawn("12" + rest);
+  EXPECT_NE(one, drawn("32" + rest));
+  EXPECT_EQ(shown->toolTip(), ToQt("32" + rest));
 }
 
 TEST_F(Binder, TabsAreChosenByTheOperatorAmongThoseThatThereAre) {

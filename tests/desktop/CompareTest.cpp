@@ -111,6 +111,7 @@ TEST_F(Comparing, ReadsTheLoggerBesideThePages) {
   EXPECT_GT(Rows().size(), 20);
   EXPECT_EQ(Name(), "door");
   EXPECT_TRUE(Window().isWindowModified()) << "what stood on the pages is as unsaved as before";
+  EXPECT_TRUE(Tool("Deshacer")->isEnabled()) << "and can be undone as before";
   EXPECT_FALSE(Core().WhereFrom().isKnown);
   Press("TakeAll");
   EXPECT_EQ(Core().conf.General.DNAME, logger->Conf().name);

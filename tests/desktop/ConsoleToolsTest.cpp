@@ -82,10 +82,12 @@ TEST_F(ConsoleTools, TheArrowKeysBringBackWhatWasSent) {
 
 /// The operator stays on the page, and does not leave a logger without firmware unasked.
 TEST_F(ConsoleTools, AnUpdateKeepsTheWindowAsLongAsFlashIsErased) {
-  AddLogger(sim::Model::BP, {{.kind = sim::FaultKind::NoAliveMark, .first = 2, .last = 2}});
+  AddLogger(sim::Model::BP, {{.kind = sim::FaultKind::RefuseLoader}});
   port.SetPaced(true);
   Window().show();
   Connect(seconds(15));
+  Window().GoTo("E_Digital_3");
+  Core().PageOf(PageId::E_Digital)->GetForm().Get<TextBox>("Nombre").Type("gate");
   Window().GoTo("Firmware");
   for (const auto& [box, name, octets] : {std::tuple{"FirmPath", "image.hex", HexFile(400)},
                                           {"LoaderPath", "CopyFlash.hex", HexFile(3)}}) {
@@ -93,10 +95,12 @@ TEST_F(ConsoleTools, AnUpdateKeepsTheWindowAsLongAsFlashIsErased) {
     files.Write(Path(name), octets);
     Type(On(*desktop, box), ToQt(Path(name)));
   }
-  const auto closes = [this] {
+  QString asked;
+  const auto closes = [&] {
     Window().close();
     auto* box = Window().findChild<QMessageBox*>();
     if (!box || !box->isVisible()) return true;
+    asked = box->text();
     box->reject();
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     return false;
@@ -113,13 +117,16 @@ TEST_F(ConsoleTools, AnUpdateKeepsTheWindowAsLongAsFlashIsErased) {
     ASSERT_TRUE(meter && meter->isVisibleTo(&Window()));
     EXPECT_TRUE(meter->findChild<QLabel*>("TimeLeft")->text().endsWith(" left"));
     EXPECT_FALSE(closes());
+    EXPECT_EQ(asked,
+              "The flash of the logger is erased. Leaving now leaves it without firmware. Changes "
+              "that are neither saved nor sent are lost.");
   });
   static_cast<QAbstractButton*>(On(*desktop, "StarBut"))->click();
   EXPECT_EQ(looks, 1);
   ASSERT_EQ(dialogs.boxes.size(), 1U);
   EXPECT_EQ(dialogs.boxes[0].text, "¡Error!");
   auto* strip = Window().findChild<FaultNote*>("FaultStrip");
-  EXPECT_TRUE(strip->Text().contains("no sign of life by octet 16386")) << FromQt(strip->Text());
+  EXPECT_TRUE(strip->Text().contains("answered something else")) << FromQt(strip->Text());
   EXPECT_TRUE(strip->Text().contains("start the update again"));
   EXPECT_TRUE(Window().Tree().Tree().isEnabled());
   EXPECT_FALSE(closes()) << "its flash is still erased";

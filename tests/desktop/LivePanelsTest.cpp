@@ -3,6 +3,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTreeWidget>
+#include <set>
 
 #include "OpenWindow.h"
 #include "desktop/acceptance/AcceptancePanel.h"
@@ -52,6 +53,10 @@ class WindowLivePanels : public OpenWindow {
       if (Row("PlotList", row)->text(0).section(u' ', -1) == tag) return Row("PlotList", row);
     throw std::invalid_argument("no value " + FromQt(tag));
   }
+  void ChooseNothing() {
+    for (const LiveId id : std::vector(Chart().Chosen()))
+      PlotRow(ToQt(LiveTag(id)))->setCheckState(0, Qt::Unchecked);
+  }
   /// What stands in a file that a button saves.
   std::string Saved(const char* button, const std::string& name) {
     dialogs.ChoosePath(Path(name));
@@ -66,8 +71,7 @@ TEST_F(WindowLivePanels, PlotsWhatIsChosenOnAnyPage) {
   Run(minutes(2));
   PlotChart& chart = Chart();
   EXPECT_EQ(chart.Chosen().size(), 3u) << "a chart without curves tells nothing";
-  for (const LiveId id : std::vector(chart.Chosen()))
-    PlotRow(ToQt(LiveTag(id)))->setCheckState(0, Qt::Unchecked);
+  ChooseNothing();
   PlotRow("DI0")->setCheckState(0, Qt::Checked);
   PlotRow("AI0")->setCheckState(0, Qt::Checked);
   chart.replot();
@@ -140,14 +144,37 @@ TEST_F(WindowLivePanels, SavesPictureAndValuesInView) {
   Run(seconds(30));
   const std::string picture = Saved("PlotPicture", "plot.png");
   EXPECT_TRUE(QImage::fromData(QByteArray::fromStdString(picture)).width() > 2000);
+  ChooseNothing();
+  EXPECT_FALSE(Find<QPushButton>("PlotValues")->isEnabled()) << "nothing is chosen";
+  for (const char* tag : {"CT1", "AI1", "CT0", "DI2"}) PlotRow(tag)->setCheckState(0, Qt::Checked);
   const std::string values = Saved("PlotValues", "values.csv");
-  EXPECT_TRUE(values.starts_with("utc,local,"));
+  EXPECT_TRUE(values.starts_with("utc,local,DI2")) << values;
+  EXPECT_EQ(values.find(",,"), values.npos) << "chosen in whatever order, all are there";
   const auto rows = std::ranges::count(values, '\n') - 1;
   EXPECT_GT(rows, 20);
   for (int i = 0; i < 5; ++i) Press(&Chart(), Qt::Key_Plus);
   while (Chart().View().Length() > seconds(10)) Press(&Chart(), Qt::Key_Plus);
   const std::string fewer = Saved("PlotValues", "fewer.csv");
   EXPECT_LT(std::ranges::count(fewer, '\n') - 1, rows / 2) << "what is in view";
+}
+
+TEST_F(WindowLivePanels, KeepsItsHistoryUntilAnotherLoggerComes) {
+  Window().GoTo("E_Digital_0");
+  Switch("Ctrl+L");
+  Run(seconds(30));
+  const auto length = [&] {
+    Press(&Chart(), Qt::Key_Home);
+    return Chart().View().Length();
+  };
+  const std::string number = std::exchange(Core().info.SerialNumber, "");
+  for (const std::string& told : {std::string(), number}) {
+    Core().info.SerialNumber = told;
+    Run(seconds(3));
+    EXPECT_GT(length(), seconds(28)) << "a number that has not come yet is no other";
+  }
+  Core().info.SerialNumber = number + "0";
+  Run(seconds(3));
+  EXPECT_LT(length(), seconds(5));
 }
 
 TEST_F(WindowLivePanels, AcceptsPointByPointAndKeepsIt) {
@@ -181,11 +208,45 @@ TEST_F(WindowLivePanels, AcceptsPointByPointAndKeepsIt) {
   Run(seconds(2));
   ASSERT_EQ(list->topLevelItemCount(), 3) << "it follows the configuration";
   EXPECT_EQ(list->topLevelItem(1)->text(3), "no pulse");
+  list->setCurrentItem(list->topLevelItem(0));
+  Find<QPushButton>("AcceptanceOpen")->click();
+  EXPECT_EQ(list->topLevelItem(0)->text(2), "open");
+  Find<QPushButton>("AcceptanceFail")->click();
+  EXPECT_EQ(list->currentItem(), list->topLevelItem(0)) << "to note what it was";
+  Find<QPushButton>("AcceptancePass")->click();
+  EXPECT_EQ(list->currentItem(), list->topLevelItem(2)) << "over what is judged";
+  Core().conf.Analog[0].NOMBRE = "Pressure";
+  Run(seconds(2));
+  ASSERT_EQ(list->topLevelItemCount(), 4);
+  EXPECT_EQ(list->topLevelItem(2)->text(3), "no pulse");
+  EXPECT_EQ(list->currentItem(), list->topLevelItem(3)) << "the input, not the row";
+  Press(list, Qt::Key_Return);
+  EXPECT_EQ(desktop->Navigator().Front()->Name(), "E_Digital");
   Core().session.Close(false);
   Core().conf.Digital[2].NOMBRE = "Gate";
   Run(seconds(2));
   EXPECT_FALSE(Find<QPushButton>("AcceptancePass")->isEnabled())
       << "of which logger this is, nobody knows";
+  EXPECT_FALSE(note->isEnabled());
+  EXPECT_EQ(list->topLevelItem(0)->text(1), "") << "nothing is measured any more";
+}
+
+TEST_F(WindowLivePanels, AcceptanceWaitsForTheEndOfADownload) {
+  Core().conf.Digital[0].NOMBRE = "Door";
+  Switch("Ctrl+K");
+  Run(seconds(3));
+  std::set<int> shown;
+  const TimerId watch = loop.Every(seconds(1), "watch", [&] {
+    if (Core().session.OwnsModel())
+      shown.insert(Find<QTreeWidget>("AcceptanceList")->topLevelItemCount());
+  });
+  Core().session.AskFor(SessionPhase::Reading);
+  Run(seconds(3));
+  loop.Cancel(watch);
+  const auto words = [](std::string_view text) { return std::string(text); };
+  EXPECT_EQ(shown, std::set{1}) << "what is half read is no configuration";
+  EXPECT_EQ(Find<QTreeWidget>("AcceptanceList")->topLevelItemCount(),
+            static_cast<int>(ConfiguredInputs({Core().profile, Core().conf}, words).size()));
 }
 
 }  // namespace

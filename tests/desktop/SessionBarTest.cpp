@@ -5,6 +5,7 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QStatusBar>
+#include <QTableWidget>
 #include <QTimer>
 #include <QTreeWidget>
 
@@ -162,7 +163,6 @@ TEST_F(OnEveryPage, QuestionsDoNotHoldATransfer) {
   loop.After(seconds(4), "look", [&] {
     EXPECT_EQ(Core().session.State().phase, SessionPhase::Writing);
     ASSERT_NE(Box(), nullptr) << "and goes on meanwhile";
-    EXPECT_EQ(Box()->defaultButton(), Box()->escapeButton()) << "Return loses nothing";
   });
   loop.RunFor(seconds(40));
   EXPECT_EQ(logger->UploadsTaken(), 1u);
@@ -182,6 +182,8 @@ TEST_F(OnEveryPage, LeavingAVoiceListThatIsBeingWrittenIsAsked) {
     EXPECT_EQ(LinkWords(), "Escribiendo la lista de voz");
     EXPECT_FALSE(Window().close()) << "it asks";
     ASSERT_NE(Box(), nullptr);
+    EXPECT_TRUE(Box()->text().endsWith("Los cambios que no se han guardado ni enviado se pierden."))
+        << FromQt(Box()->text());
     Box()->reject();
   });
   Core().PageOf(PageId::Aut_Voz)->GetForm().Get<Button>("WriteBut").Click();
@@ -225,6 +227,7 @@ TEST_F(OnEveryPage, AReadingCoversWhatItEmptiesAndItsBarTellsOfSuccessAlone) {
     Window().GoTo("General");
     return On(*desktop, "PBar")->isVisibleTo(&Window());
   };
+  const auto* table = Window().findChild<QTableWidget*>("GroupTable");
   const auto covers = [&] { return Window().Pages().findChildren<QLabel*>("Cover").size(); };
   EXPECT_FALSE(bar());
   SessionTool("ReadTool")->trigger();
@@ -235,9 +238,14 @@ TEST_F(OnEveryPage, AReadingCoversWhatItEmptiesAndItsBarTellsOfSuccessAlone) {
         << "the page has a bar of its own";
     Window().GoTo("E_Digital_3");
     EXPECT_EQ(covers(), 1) << "the whole page";
+    Window().GoTo("E_Digital");
+    EXPECT_EQ(covers(), 1) << "what stands in the place of a table";
+    EXPECT_FALSE(table->isVisibleTo(&Window()));
   });
   loop.RunFor(seconds(60));
   EXPECT_EQ(covers(), 0);
+  EXPECT_TRUE(table->isVisibleTo(&Window()));
+  EXPECT_EQ(table->rowCount(), 8);
   EXPECT_TRUE(bar());
   SessionTool("ReadTool")->trigger();
   loop.After(seconds(4), "cancel", [&] { SessionTool("CancelTool")->trigger(); });

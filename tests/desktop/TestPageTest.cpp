@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <QImage>
 #include <QLabel>
 #include <QProgressBar>
 #include <QPushButton>
@@ -79,6 +80,9 @@ TEST_F(TestPageView, ARunEndsOnItsColourWithItsValues) {
     EXPECT_EQ(values->rowCount(), 42);
     EXPECT_EQ(values->item(32, 0)->text(), "VO2=24 A0");
     EXPECT_EQ(values->item(32, 3)->text().contains("FAILED"), !isGood);
+    const QPoint corner = values->visualItemRect(values->item(32, 0)).topLeft() + QPoint(2, 2);
+    const QImage seen = values->viewport()->grab().toImage();
+    EXPECT_EQ(seen.valid(corner) && seen.pixelColor(corner) == QColor("#c92a2a"), !isGood);
     EXPECT_EQ(values->currentRow(), isGood ? 41 : 32) << "what failed first is in view";
     EXPECT_GE(On<QLabel>(*desktop, "LabelTest")->font().pointSize(), 30) << "read from afar";
   }

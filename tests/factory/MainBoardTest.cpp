@@ -99,13 +99,33 @@ TEST(MainBoard, EachFailureIsToldInItsPlaceAndTheRunGoesOn) {
   }
 }
 
+/// Both ends of a band belong to it, in single precision: the next number beyond is a failure.
+TEST(MainBoard, TheEndsOfABandBelongToIt) {
+  for (const auto& [analog, steps, passes] : {std::tuple{0U, 1797.75293F, true},
+                                              {0U, 1797.75281F, false},
+                                              {0U, 1961.18506F, true},
+                                              {0U, 1961.18518F, false},
+                                              {1U, 286.006134F, true},
+                                              {1U, 286.006165F, false}}) {
+    TestStation station(Board(sim::Model::BP));
+    station.Fixture().driven[0].analogs.at(analog) = steps;
+    station.Run();
+    EXPECT_EQ(station.Status(), passes ? kPassedText : kFailedText) << steps;
+  }
+}
+
 TEST(MainBoard, ABoardShowsAllItsFaultsInOrder) {
   sim::LoggerOptions options = Board(sim::Model::BP);
   options.battery = 469;
   options.fixture.driven[1] = {-1, {2000, 0, 0, 0}};
   options.fixture.gsm = {{Duration{}, 6}};
   TestStation station(options);
+  std::vector<std::size_t> orders;
+  station.world.dialogs.whileShown = [&](const MessageBox&) {
+    orders.push_back(station.Orders().size());
+  };
   station.Run();
+  EXPECT_EQ(orders.front(), 1u) << "the battery is judged ahead of the second order";
   EXPECT_THAT(station.Boxes(), ElementsAre("Tension de bateria demasiado baja",
                                            "Error en S1, se esperaba 10, lectura=-1",
                                            "Error en A0, se esperaba < 0.7, lectura= 4.895",
@@ -205,6 +225,7 @@ TEST(MainBoard, WhileATestRunsNothingElseUsesTheSession) {
     station.program->session.AskFor(SessionPhase::Reading);
     EXPECT_FALSE(frame.ReadRequest);
     EXPECT_FALSE(FaceOf(station.page->GetForm()["Command1"]).Enabled());
+    EXPECT_FALSE(FaceOf(station.page->GetForm()["TextOperator"]).Enabled()) << "it stands recorded";
     frame.IniCom.Click();
   };
   station.Run();

@@ -18,7 +18,12 @@ constexpr const char* kMainsOff = "Desconecte la tension de red";
 
 TEST(KA2Board, AGoodBoardPassesAndGetsItsNumber) {
   TestStation station(Board(sim::Model::KA2, "-1"));
+  const TimePoint start = station.world.loop.Now();
+  std::vector<Duration> orders;
+  station.onSent = [&](const std::string&) { orders.push_back(station.world.loop.Now() - start); };
+  EXPECT_EQ(station.Caption("DigitSerial"), "") << "shown at the end alone";
   station.Run();
+  EXPECT_GE(orders.front(), std::chrono::seconds(2)) << "the board wakes up first";
   EXPECT_THAT(station.Boxes(), ElementsAre(kBattery, kMainsOff));
   EXPECT_THAT(station.steps, ElementsAre("Iniciando...", "Comprobando E/S...", "Comprobando GSM...",
                                          "Escribiendo numero de serie", kPassedText));

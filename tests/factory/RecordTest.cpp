@@ -107,6 +107,11 @@ TEST(Records, ARowABoardInOneTable) {
   station.world.loop.RunFor(std::chrono::seconds(2));
   station.Run();
   const std::string table = station.Records("bq");
+  station.page->GetForm().Get<TextBox>("TextStation").Type("Puesto 2");
+  station.page->Form_Deactivate();
+  station.page->GetForm().Get<TextBox>("TextStation").SetText("");
+  station.page->Form_Activate();
+  EXPECT_EQ(station.page->GetForm().Get<TextBox>("TextStation").Text(), "Puesto 2");
   EXPECT_EQ(table.substr(0, table.find("\r\n")),
             "time,test,model,operator,station,serial,given serial,verdict,checked,seconds,failures,"
             "VBat,VBat band,IN0 tecla 0,IN0 tecla 0 band,IN0 tecla 1,IN0 tecla 1 band,"
@@ -198,6 +203,7 @@ TEST(Records, RunsStandInTheLedger) {
     station.onSent = [&](const std::string& message) {
       if (!first.empty()) return;
       first = message;
+      EXPECT_EQ(station.world.ledger.entries.back().kind, LedgerKind::TestRun);
       EXPECT_EQ(station.world.ledger.entries.back().state, LedgerState::UnderWay);
     };
     station.sent.clear();

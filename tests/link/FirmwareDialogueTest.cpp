@@ -119,13 +119,14 @@ TEST_F(FirmwareTest, AWrongAnswerOrNoneEndsIt) {
     Kind kind;
     Stage stage;
     Duration atMost;
+    bool seemsSilent = false;  ///< for more than some seconds, while an answer is due
   };
   for (const Case& c :
-       {Case{"#F0", "", Kind::Silence, Stage::Asking, seconds(31)},
+       {Case{"#F0", "", Kind::Silence, Stage::Asking, seconds(31), true},
         {"#F0", Frames("#DWLD_READY"), Kind::WrongAnswer, Stage::Asking, seconds(1)},
         {"#F0", Frames("#DWLD_ERASING"), Kind::Silence, Stage::Erasing, seconds(51)},
         {"#F0", Frames("#DWLD_ERASING", "#DWLD"), Kind::WrongAnswer, Stage::Erasing, seconds(1)},
-        {"#F1", "", Kind::Silence, Stage::Loader, seconds(72)},
+        {"#F1", "", Kind::Silence, Stage::Loader, seconds(72), true},
         {"#F1", Frames("#DWLD_RAM_READY1"), Kind::WrongAnswer, Stage::Loader, seconds(12)}}) {
     SCOPED_TRACE(c.message + c.answers);
     Taker fresh;
@@ -134,7 +135,12 @@ TEST_F(FirmwareTest, AWrongAnswerOrNoneEndsIt) {
     taker.script[c.message] = c.answers;
     taker.raw.clear();
     files = {"ab", "cd"};
+    Duration silent{};
+    const TimerId watch =
+        loop.Every(seconds(1), "watch", [&] { silent = std::max(silent, comms.SilentFor()); });
     EXPECT_LE(Took([&] { EXPECT_EQ(Send(), c.kind); }), c.atMost);
+    loop.Cancel(watch);
+    EXPECT_EQ(silent > seconds(5), c.seemsSilent) << "none is due while it erases";
     EXPECT_EQ(stages.back(), c.stage);
     EXPECT_EQ(taker.raw.find('a') != std::string::npos, c.stage == Stage::Loader);
     EXPECT_EQ(taker.raw.find('c'), std::string::npos);

@@ -92,6 +92,7 @@ TEST_F(SessionTest, ClockCountsOnFromARealDate) {
     live.DeviceClock = former;
     comms.ReadDeviceRTC();
     EXPECT_EQ(live.DeviceClock, c.clock) << c.answers.front();
+    EXPECT_EQ(live.ClockRead.missed, c.clock == former ? 1 : 0) << c.answers.front();
     EXPECT_EQ(logger.lines.size(), c.requests) << c.answers.front();
   }
 }
@@ -274,6 +275,29 @@ TEST_F(SessionTest, WhatHasComeAndIsNotTakenIsNoSilence) {
     EXPECT_EQ(comms.UnansweredFor(), Duration::zero());
   });
   comms.ReadTotalCount();
+}
+
+/// A cable may lack the wire of the carrier; behind a modem words may be the modem's own.
+TEST_F(SessionTest, WhatComesWithoutCarrierTellsOfTheLoggerOnACableAlone) {
+  const auto isLostBehind = [this](Duration wait, const std::string& octets) {
+    logger.end->SetCarrier(true);
+    loop.RunFor(seconds(1));
+    logger.end->SetCarrier(false);
+    loop.RunFor(wait);
+    EXPECT_TRUE(comms.LineLost());
+    logger.end->Send(octets);
+    loop.RunFor(milliseconds(10));
+    comms.TakeInput();
+    return comms.LineLost();
+  };
+  EXPECT_FALSE(isLostBehind(seconds(1), "08:30 DI=3"));
+  EXPECT_TRUE(isLostBehind(milliseconds(10), "DI=3")) << "it was on its way";
+  comms.CloseComs(false);
+  for (const char* command : {"AT", "ATE0", "AT+IFC=2,2"}) logger.Always(command, "\r\nOK\r\n");
+  logger.Always("ATD600", "\r\nCONNECT 9600\r\n");
+  logger.Always("#40", Frames("#BF"));
+  ASSERT_TRUE(comms.StartComs(kPort, "600"));
+  EXPECT_TRUE(isLostBehind(seconds(1), "\r\nNO CARRIER\r\n"));
 }
 
 TEST_F(SessionTest, TotalsAreCutToWholeNumbers) {

@@ -115,11 +115,12 @@ TEST(LiveHistory, GivesRoundsBackAsTheyCame) {
                        [&](const LiveRound& round) { rounds.push_back(round); });
   ASSERT_EQ(rounds.size(), 3u);
   EXPECT_EQ(rounds[1].at, second.at);
-  EXPECT_EQ(LiveText(rounds[1].values[0]), "2147483647");
-  EXPECT_FALSE(rounds[1].values[1].IsFresh() || rounds[1].values[1].HasValue());
-  EXPECT_EQ(rounds[1].values[2].on, true);
-  EXPECT_EQ(LiveText(rounds[0].values[1]), "1.5");
-  EXPECT_FALSE(rounds[0].values[0].HasValue()) << "that round had no counter";
+  const auto value = [&](std::size_t round, LiveId id) { return *rounds.at(round).Find(id); };
+  EXPECT_EQ(LiveText(value(1, kCount)), "2147483647");
+  EXPECT_FALSE(value(1, kLevel).IsFresh() || value(1, kLevel).HasValue());
+  EXPECT_EQ(value(1, kDoor).on, true);
+  EXPECT_EQ(LiveText(value(0, kLevel)), "1.5");
+  EXPECT_FALSE(value(0, kCount).HasValue()) << "that round had no counter";
   EXPECT_EQ(rounds[2].at, (WallTime{seconds(7202), minutes(120)})) << "time never runs back";
   EXPECT_EQ(history.Find(kLevel)->name, "Level") << "as it was told last";
   EXPECT_EQ(history.Series().size(), 3u);

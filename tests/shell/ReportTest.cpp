@@ -3,6 +3,7 @@
 #include "World.h"
 #include "blocks/expansion/ExpansionInputs.h"
 #include "shell/FieldWords.h"
+#include "shell/acceptance/AcceptanceFile.h"
 #include "shell/report/Commissioning.h"
 
 namespace ostrel {
@@ -11,6 +12,13 @@ namespace {
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::Not;
+
+const AcceptancePoint kPumpTried{.node = "E_Digital_0",
+                                 .kind = "digital input",
+                                 .name = "pump",
+                                 .verdict = Verdict::Passed,
+                                 .note = "tried",
+                                 .time = DateTime{2026, 3, 2, 9, 5, 7}};
 
 /// A configured VR200.
 struct Handover {
@@ -103,11 +111,7 @@ TEST(Report, SaysWhatIsKnownAndNothingElse) {
       TakeRound(live, handover.work.configuration.profile, *handover.work.logger, WallTime{});
   for (LiveValue& value : handover.work.live->values)
     if (value.id == LiveId{LiveKind::Analog, 1}) value.number = 2.5;
-  handover.work.acceptance = {{.node = "E_Digital_0",
-                               .kind = "digital input",
-                               .name = "pump",
-                               .verdict = Verdict::Passed,
-                               .note = "tried"}};
+  handover.work.acceptance.points = {kPumpTried};
   handover.work.history = {{"2026-03-02", "writing", "read back: the same", "ab12", "41"}};
   EXPECT_THAT(handover.Rows("Site and logger"), testing::Contains(ElementsAre("firmware", "4.12")));
   std::vector<std::string> found;
@@ -115,6 +119,29 @@ TEST(Report, SaysWhatIsKnownAndNothingElse) {
     for (const ReportPart& part : section.parts)
       for (const auto& row : part.rows) found.insert(found.end(), row.begin(), row.end());
   EXPECT_THAT(found, testing::IsSupersetOf({"level", "2.5", "m", "pass", "tried", "ab12", "41"}));
+}
+
+TEST(Report, TellsWithWhichConfigurationALoggerWasAccepted) {
+  World world;
+  Configurator core{world.platform, world.Options(false)};
+  core.StartForCommand("Ostrel VR200", 1);
+  core.info.SerialNumber = "VR-7";
+  AcceptanceFiles kept(world.files, "/data");
+  const auto section = [&](const std::string& file) {
+    Handover handover;
+    handover.work.file = file;
+    AddLogger(handover.work, core, world.platform, "/data");
+    const std::string html = ReportHtml(handover.Make());
+    return html.substr(std::min(html.find("Acceptance</h2>"), html.size()));
+  };
+  EXPECT_EQ(section("/a/site.ocf"), "");
+  ASSERT_TRUE(kept.Keep({"VR-7", "old.ocf", "Ostrel VR200", {kPumpTried}}).Ok());
+  EXPECT_THAT(section("/a/site.ocf"), HasSubstr("with another configuration: old.ocf"));
+  EXPECT_THAT(section("/b/old.ocf"), testing::AllOf(HasSubstr("tried"), Not(HasSubstr("another"))));
+  world.files.contents[kept.PathOf("VR-7", "site.ocf")] = "acceptance,1,VR";
+  EXPECT_THAT(section("/a/site.ocf"),
+              testing::AllOf(HasSubstr("cannot be read: it is damaged"), Not(HasSubstr("tried"))))
+      << "no older one stands in for it";
 }
 
 TEST(Report, TellsWhatTheLedgerKnowsOfTheLogger) {

@@ -26,13 +26,6 @@ std::size_t Marks(const std::string& octets) {
   return marks;
 }
 
-/// What came of the image, all of it in one piece; nothing when it was not ready for one.
-std::string SendImage(SimBench& bench, const std::string& image, Duration erasing = 5s) {
-  const auto answers = Messages(bench.Say(ComposeFrame("#F0"), erasing));
-  if (answers != std::vector<std::string>{"#DWLD_ERASING", "#DWLD_READY"}) return {};
-  return bench.Say(image);
-}
-
 TEST(SimFirmware, IsTakenStepByStepAndThenInForce) {
   SimBench bench(Model::BP);
   EXPECT_EQ(bench.Ask("#F1"), "") << "no image was begun";
@@ -40,6 +33,7 @@ TEST(SimFirmware, IsTakenStepByStepAndThenInForce) {
   EXPECT_EQ(bench.Ask("#5D"), "") << "its firmware is gone";
   EXPECT_EQ(bench.Ask("#40").substr(0, 3), "");
   EXPECT_THAT(Messages(bench.Say("", 200ms)), testing::Contains("#DWLD_READY"));
+  for (const char octet : ComposeFrame("#5D")) bench.Say(std::string(1, octet));  // is no image
   const std::string image = Image(400);
   const std::string said = bench.Say(image.substr(0, image.size() - 1));
   EXPECT_EQ(Marks(said), image.size() / 1000 + 1);
@@ -51,27 +45,6 @@ TEST(SimFirmware, IsTakenStepByStepAndThenInForce) {
   EXPECT_EQ(bench.Ask("#40"), "") << "it is copying";
   bench.loop.RunFor(8s);
   EXPECT_THAT(bench.Ask("#40"), HasSubstr("#BF"));
-}
-
-TEST(SimFirmware, FaultsStrike) {
-  const std::string image = Image(600);  // three blocks and a piece
-  const std::size_t all = Marks(SendImage(*std::make_unique<SimBench>(Model::BP), image));
-  struct Case {
-    const char* fault;
-    std::size_t marks;
-    const char* answerToLoader;
-  };
-  for (const Case& c : {Case{"refuse-erase", 0, ""},
-                        {"ready-late:2000", 0, "#DWLD_RAM_READY"},
-                        {"no-alive-mark@2", all - 8, "#DWLD_RAM_READY"},
-                        {"silent-after-octet@5000", 4, ""},
-                        {"refuse-loader", all, "#DWLD_ERROR"}}) {
-    SCOPED_TRACE(c.fault);
-    SimBench bench(Model::BP, c.fault);
-    EXPECT_EQ(Marks(SendImage(bench, image)), c.marks);
-    bench.loop.RunFor(3s);
-    EXPECT_EQ(bench.Ask("#F1"), c.answerToLoader);
-  }
 }
 
 TEST(SimConsole, AnswersCommandsAndTellsWhatItDoes) {

@@ -247,6 +247,14 @@ TEST(SimLogger, ValuesMoveAsThoseOfAWaterworksDo) {
   EXPECT_GT(live.Modbus(conf, 0, 24 * kHour), live.Modbus(conf, 0, 0)) << "energy grows";
   EXPECT_EQ(live.Modbus(conf, 20, 0), 0) << "it is not set up";
 
+  const LiveValues flows({Model::BQ, 0}, 1, 0);
+  unsigned wereOn = 0, wereOff = 0;
+  for (int now = 0; now < kHour; now += kMinute) {
+    wereOn |= flows.DigitalMask(now);
+    wereOff |= ~flows.DigitalMask(now);
+  }
+  EXPECT_EQ(wereOn & wereOff, 0b111111U) << "inputs and the directions of two flows";
+
   SimBench probes(Model::KA1);
   probes.logger.SetConf(DemoConfiguration(Model::KA1));
   EXPECT_EQ(Field(probes.Ask("#35"), 4), "Temperatura agua");

@@ -119,5 +119,20 @@ TEST(SimModem, ALostCarrierEndsTheCall) {
   EXPECT_EQ(bench.Say("AT\r", 50ms), "AT\r\r\nOK\r\n");
 }
 
+/// Words of the logger among those of the modem would spoil the next dialling.
+TEST(SimModem, TracesFlowInACallThatIsAdmittedAlone) {
+  ModemBench bench;
+  bench.Call();
+  bench.Ask("#114711");
+  EXPECT_NE(bench.Say(ComposeFrame("#041"), 3s), "");
+  bench.Escape();
+  EXPECT_EQ(bench.Say("", 3s), "") << "the modem listens";
+  EXPECT_EQ(bench.Command("ATH", 3s), "\r\nOK\r\n");
+  bench.Call();
+  EXPECT_EQ(bench.Say(ComposeFrame("#5D"), 3s), "") << "no code has been given";
+  bench.Ask("#114711");
+  EXPECT_NE(bench.Say("", 3s).find(" DI="), std::string::npos);
+}
+
 }  // namespace
 }  // namespace ostrel::sim

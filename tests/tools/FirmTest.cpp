@@ -16,20 +16,21 @@ using testing::HasSubstr;
 using testing::IsEmpty;
 
 struct FirmBench {
-  explicit FirmBench(const char* fault = nullptr) : world(Options(fault)) {
+  explicit FirmBench(const std::string& fault = {}) : world(Options(fault)) {
     program.StartForCommand(world.TargetName(), 1);
     world.files.contents = {
         {"/image.hex", HexFile(600)}, {"/CopyFlash.hex", HexFile(20)}, {"/Lang.txt", ""}};
     form.Get<TextBox>("FirmPath").SetText("/image.hex");
     form.Get<TextBox>("LoaderPath").SetText("/CopyFlash.hex");
     world.logger->OnExchange([this](const sim::Exchange& exchange) {
+      answered += exchange.frames;
       if (exchange.request.starts_with("#F")) asked += exchange.request + " ";
     });
   }
-  static sim::LoggerOptions Options(const char* fault) {
+  static sim::LoggerOptions Options(const std::string& fault) {
     sim::LoggerOptions options = sim::MakeDefaultOptions(sim::Model::BP);
     std::string error;
-    if (fault) options.faults.push_back(sim::ParseFault(fault, error).value());
+    if (!fault.empty()) options.faults.push_back(sim::ParseFault(fault, error).value());
     return options;
   }
   void Connect() { ASSERT_TRUE(program.session.Open(SimWorld::kPort, "")); }
@@ -42,7 +43,8 @@ struct FirmBench {
   SimWorld world;
   Configurator program{world.platform, world.Options(false)};
   Form& form = program.firm.GetForm();
-  std::string asked;  ///< of the logger
+  std::string asked;         ///< of the logger
+  std::size_t answered = 0;  ///< frames
 };
 
 TEST(FirmPage, SendsBothFilesAndEndsTheSession) {
@@ -72,7 +74,7 @@ TEST(FirmPage, SendsBothFilesAndEndsTheSession) {
   EXPECT_TRUE(bench.form.Get<Button>("StarBut").face.Enabled());
   bench.program.session.Tick();
   EXPECT_FALSE(bench.program.Connected);
-  EXPECT_FALSE(bench.program.session.IsFlashErased());
+  EXPECT_EQ(bench.program.session.Flash(), FlashState::Kept);
 }
 
 TEST(FirmPage, RefusesToStartWithoutSessionAndFiles) {
@@ -135,41 +137,86 @@ TEST(FirmPage, WarnsOfFilesThatLookWrong) {
   EXPECT_EQ(FirstHexFault(good + "rubbish"), HexFault{}) << "behind the end nothing counts";
 }
 
+/// The fault that damages the first answer behind the opening of a session.
+std::string DamagedFirstAnswer() {
+  FirmBench bench;
+  bench.Connect();
+  return "bad-checksum@" + std::to_string(bench.answered + 1) + "!once";
+}
+
 TEST(FirmPage, EachFaultOfTheLoggerEndsItWithWordsOfWhatToDo) {
   struct Case {
-    const char* fault;
+    std::string fault;
     const char* what;
-    bool erased;
+    FlashState flash;
     std::size_t taken;  ///< octets of the image
   };
+  constexpr const char* kOutcomes[] = {"as it was", "may be erased", "is erased and holds no"};
   for (const Case& c :
-       {Case{"refuse-erase", "answered something else: \"#DWLD_ERROR\"", false, 0},
-        {"ready-late:45000", "", true, 27'012},
-        {"ready-late:60000", "fell silent", true, 0},
-        {"no-alive-mark@2", "no sign of life by octet 16386", true, 16'386},
-        {"silent-after-octet@9000", "no sign of life by octet 16386", true, 9000},
-        {"refuse-loader", "answered something else: \"#DWLD_ERROR\"", true, 27'011}}) {
+       {Case{"refuse-erase", "answered something else: \"#DWLD_ERROR\"", FlashState::Kept, 0},
+        // The answer that it erases is lost: the next that comes is that it has.
+        {DamagedFirstAnswer(), "answered something else: \"#DWLD_READY\"", FlashState::InDoubt, 0},
+        {"ready-late:45000", "", FlashState::Kept, 27'011},
+        {"ready-late:60000", "fell silent", FlashState::Erased, 0},
+        {"no-alive-mark@2", "no sign of life by octet 16386", FlashState::Erased, 16'386},
+        {"silent-after-octet@9000", "no sign of life by octet 16386", FlashState::Erased, 9000},
+        {"refuse-loader", "answered something else: \"#DWLD_ERROR\"", FlashState::Erased,
+         27'011}}) {
     SCOPED_TRACE(c.fault);
     FirmBench bench(c.fault);
     bench.Connect();
     bench.world.port.SetPaced(true);
     bench.Start();
-    if (*c.what == '\0') {
-      EXPECT_THAT(bench.Info(), HasSubstr("espere"));
-      continue;
-    }
-    EXPECT_EQ(bench.Info(), "¡Error!");
-    EXPECT_EQ(bench.LastBox(), "¡Error!");
     EXPECT_EQ(bench.world.logger->Firmware().Image().size(), c.taken);
+    EXPECT_EQ(bench.program.session.Flash(), c.flash);
     EXPECT_TRUE(bench.program.Connected) << "the session stays as it was";
-    EXPECT_EQ(bench.program.session.IsFlashErased(), c.erased);
     const auto& failed = bench.program.session.State().failed;
-    ASSERT_TRUE(failed);
+    ASSERT_EQ(failed.has_value(), *c.what != '\0');
+    EXPECT_EQ(bench.Info() == "¡Error!", failed.has_value());
+    EXPECT_EQ(bench.LastBox() == "¡Error!", failed.has_value());
+    if (!failed) continue;
     const FaultWords words = WordsOf(*failed, "COM7");
     EXPECT_THAT(Filled(words.what), HasSubstr(c.what));
-    EXPECT_THAT(Filled(words.outcome),
-                HasSubstr(c.erased ? "start the update again" : "as it was"));
+    EXPECT_THAT(Filled(words.outcome), HasSubstr(kOutcomes[static_cast<int>(c.flash)]));
   }
+}
+
+TEST(FirmPage, AFailedUpdateIsStartedAgain) {
+  FirmBench bench("refuse-loader!once");
+  bench.Connect();
+  bench.Start();
+  EXPECT_EQ(bench.LastBox(), "¡Error!");
+  bench.Start();
+  EXPECT_EQ(bench.LastBox(), "NO CORTE LA ALIMENTACION MIENTRAS DURE LA ACTUALIZACION");
+  EXPECT_EQ(bench.world.logger->Firmware().Loader() + "\r\n", HexFile(20));
+  EXPECT_EQ(bench.program.session.Flash(), FlashState::Kept);
+}
+
+/// What was half sent may have been heard; a logger that tells of itself has its firmware.
+TEST(FirmPage, ALineThatIsHeldLeavesADoubtUntilTheLoggerTellsOfItself) {
+  FirmBench bench;
+  bench.Connect();
+  bench.world.port.HoldOutput(SimWorld::kPort, true);
+  bench.Start();
+  EXPECT_EQ(bench.program.session.Flash(), FlashState::InDoubt);
+  bench.world.port.HoldOutput(SimWorld::kPort, false);
+  bench.program.comms.ReadInfo();
+  EXPECT_EQ(bench.program.session.Flash(), FlashState::Kept);
+  bench.world.line->Vanish();
+  bench.Start();
+  EXPECT_EQ(bench.program.session.Flash(), FlashState::Kept) << "nothing was sent";
+}
+
+TEST(FirmPage, ASessionThatEndsBehindTheQuestionIsNotUsed) {
+  FirmBench bench;
+  bench.Connect();
+  bench.world.files.contents["/image.hex"] = "no hex";
+  bench.world.dialogs.whileShown = [&](const MessageBox& box) {
+    if (box.buttons == BoxButtons::YesNo) bench.program.session.Close(false);
+  };
+  bench.Start();
+  EXPECT_EQ(bench.LastBox(), "Debe iniciar la comunicacion primero");
+  EXPECT_EQ(bench.Info(), "Preparado");
 }
 
 TEST(FirmPage, WhoBreaksItOffIsNotToldOfIt) {
@@ -180,7 +227,7 @@ TEST(FirmPage, WhoBreaksItOffIsNotToldOfIt) {
   bench.Start();
   EXPECT_EQ(bench.Info(), "¡Error!");
   EXPECT_THAT(bench.world.dialogs.boxes, IsEmpty());
-  EXPECT_TRUE(bench.program.session.IsFlashErased());
+  EXPECT_EQ(bench.program.session.Flash(), FlashState::Erased);
 }
 
 }  // namespace

@@ -61,8 +61,13 @@ TEST_F(TerminalPage, ShowsWhatComesWhileItIsInFrontOfAnOpenSession) {
   world.loop.RunFor(milliseconds(150));
   EXPECT_EQ(Shown(), "Nivel á\r\n#64;40\rleft in the port");
   EXPECT_EQ(FaceOf(form["LabelLines"]).Caption(), "Lineas recibidas: 1");
+  Switch("PauseCheck", true);
+  Comes("held");
   Press("BorrarBut");
   EXPECT_EQ(Shown(), "");
+  Switch("PauseCheck", false);
+  EXPECT_EQ(Shown(), "held") << "it was not seen yet";
+  Press("BorrarBut");
   program.comms.LinkBusy = true;
   Comes("of a dialogue");
   EXPECT_EQ(Shown(), "");
@@ -127,7 +132,9 @@ TEST_F(TerminalPage, StampsHoldsBackAndLogs) {
 /// The path of the file is the one that configurations are saved under, too.
 TEST_F(TerminalPage, SavesRichText) {
   program.ConfFilePath = "/site.ocf";
-  Comes("{\\}\t\xE1\r\nend\n\r");
+  Comes("{\\}\t\xE1\r\nend\n");
+  Switch("PauseCheck", true);
+  Comes("\r");
   Press("SaveBut");
   EXPECT_EQ(program.ConfFilePath, "/site.ocf") << "cancelled";
   world.dialogs.ChoosePath("/x.rtf");

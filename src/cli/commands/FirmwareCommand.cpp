@@ -1,7 +1,7 @@
 #include "cli/TransferLine.h"
 #include "cli/commands/Commands.h"
 #include "cli/commands/OnlineCommand.h"
-#include "tools/FirmwareDoubts.h"
+#include "tools/FirmwareChoice.h"
 
 namespace ostrel::cli {
 namespace {
@@ -74,7 +74,9 @@ ExitCode RunFirmware(CommandContext& context, const FirmwarePaths& paths) {
   FirmwareFiles files;
   const ExitCode taken = TakeFiles(context, paths, files);
   if (taken != ExitCode::Done) return taken;
-  return RunOnline(context, "", [&](Online& online) { return SendFiles(online, files); });
+  // A logger whose last update failed has no firmware that could tell who it is.
+  return RunOnline(
+      context, "", [&](Online& online) { return SendFiles(online, files); }, OpenTo::AnyThatGreets);
 }
 
 }  // namespace

@@ -58,7 +58,8 @@ Json MeasureJson(const LiveValue& value) {
   if (value.IsFresh() && value.id.kind == LiveKind::Counter)
     number = static_cast<std::int64_t>(*value.number);
   else if (value.IsFresh())
-    number = JsonNumber(static_cast<float>(*value.number));
+    number =
+        IsWide(value.id.kind) ? Json(*value.number) : JsonNumber(static_cast<float>(*value.number));
   return {{"index", value.id.index}, {"name", value.name}, {"value", number}, {"unit", value.unit}};
 }
 

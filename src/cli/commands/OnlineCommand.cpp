@@ -3,20 +3,20 @@
 namespace ostrel::cli {
 
 ExitCode RunOnline(CommandContext& context, const std::string& file,
-                   const std::function<ExitCode(Online&)>& work) {
+                   const std::function<ExitCode(Online&)>& work, OpenTo wanted) {
   PortChoice port;
   const ExitCode chosen = context.ChoosePort(port);
   if (chosen != ExitCode::Done) return chosen;
   const auto model = context.ChooseModel(port, file);
   if (!model) return ExitCode::Usage;
-  return RunOnlineAs(context, port, *model, work);
+  return RunOnlineAs(context, port, *model, work, wanted);
 }
 
 ExitCode RunOnlineAs(CommandContext& context, const PortChoice& port, const std::string& model,
-                     const std::function<ExitCode(Online&)>& work) {
+                     const std::function<ExitCode(Online&)>& work, OpenTo wanted) {
   const auto configurator = context.MakeOnline(model);
   LoggerSession session(context, *configurator, port);
-  const ExitCode opened = session.Open();
+  const ExitCode opened = session.Open(wanted);
   if (opened != ExitCode::Done) return opened;
   Online online{context, *configurator, session};
   return work(online);

@@ -19,11 +19,11 @@ struct Online {
 /// Opens a session as the options say and runs the rest of a command in it. The model of `file`
 /// counts when the options name none.
 ExitCode RunOnline(CommandContext& context, const std::string& file,
-                   const std::function<ExitCode(Online&)>& work);
+                   const std::function<ExitCode(Online&)>& work, OpenTo wanted = OpenTo::Working);
 
 /// The same with a model that the command itself knows.
 ExitCode RunOnlineAs(CommandContext& context, const PortChoice& port, const std::string& model,
-                     const std::function<ExitCode(Online&)>& work);
+                     const std::function<ExitCode(Online&)>& work, OpenTo wanted = OpenTo::Working);
 
 /// Runs a command on a file with the firmware's features: those of the options, else those of the
 /// logger at the port of the options, else none, since they are not known.

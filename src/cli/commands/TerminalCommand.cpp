@@ -14,11 +14,12 @@ namespace {
 using std::chrono::milliseconds;
 
 /// Behind the answers to a command, ahead of the next one; and the longest that a command waits for
-/// a console that never rests.
+/// a console that never rests, once that has begun to answer.
 constexpr Duration kBetweenCommands = milliseconds(200);
 constexpr Duration kLongestBetween = std::chrono::seconds(2);
 /// A console that has said nothing for so long has said all.
 constexpr Duration kQuietAtEnd = std::chrono::seconds(1);
+constexpr double kMostSeconds = 86'400.0 * 366;
 
 struct TerminalOptions {
   std::string traces;  ///< "on", "off", or empty to leave them alone
@@ -54,13 +55,12 @@ class ConsoleRun {
         loop_(context_.platform.loop),
         options_(options),
         log_(log),
-        end_(options.seconds > 0
-                 ? Sum(loop_.Now(), std::chrono::duration_cast<Duration>(
-                                        std::chrono::duration<double>(options.seconds)))
-                 : kNever) {}
+        end_(options.seconds > 0 ? loop_.Now() + std::chrono::duration_cast<Duration>(
+                                                     std::chrono::duration<double>(options.seconds))
+                                 : kNever) {}
 
   ExitCode Run() {
-    if (!options_.traces.empty()) Post(options_.traces == "on" ? "#041" : "#040");
+    if (!options_.traces.empty()) Post(options_.traces == "on" ? "#041" : "#040", false);
     std::shared_ptr<void> watch;
     if (context_.environment.watchInput)
       watch = context_.environment.watchInput([this](std::string line) { lines_.push_back(line); },
@@ -79,17 +79,28 @@ class ConsoleRun {
   }
 
  private:
-  bool IsBroken() const { return online_.session.Interrupted() || comms_.LineLost(); }
+  /// A call ends with its carrier; a cable may bring text without one.
+  bool IsBroken() const {
+    const bool isCall = !context_.options.phone.empty();
+    return online_.session.Interrupted() ||
+           (isCall ? comms_.LineLost() : !comms_.TheLine().GoesOn());
+  }
   bool IsOver() const {
-    const bool isDone = inputEnded_ && lines_.empty() && loop_.Now() - movedAt_ >= kQuietAtEnd;
+    const bool isDone = inputEnded_ && lines_.empty() && loop_.Now() >= QuietFor(kQuietAtEnd);
     return isDone || IsBroken() || loop_.Now() >= end_ || !context_.console.Out() || logFailed_;
   }
   /// When something falls due that nothing else brings about.
   TimePoint NextMoment() const {
-    if (!lines_.empty())
-      return sentAt_ ? std::min(movedAt_ + kBetweenCommands, *sentAt_ + kLongestBetween)
-                     : TimePoint{};
-    return inputEnded_ ? movedAt_ + kQuietAtEnd : kNever;
+    if (lines_.empty()) return inputEnded_ ? QuietFor(kQuietAtEnd) : kNever;
+    if (!begun_) return {};
+    const TimePoint quiet = QuietFor(kBetweenCommands);
+    return isAwaited_ ? quiet : std::min(quiet, *begun_ + kLongestBetween);
+  }
+  /// When the console will have been quiet for so long. Its first words may take as long as any
+  /// answer on this kind of line.
+  TimePoint QuietFor(Duration quiet) const {
+    if (isAwaited_) quiet = std::max<Duration>(quiet, milliseconds(comms_.ReplyTimeout));
+    return movedAt_ + quiet;
   }
 
   ExitCode Outcome() {
@@ -108,12 +119,12 @@ class ConsoleRun {
       return context_.console.Say("not sent, it is no " +
                                   std::string(options_.raw ? "frame" : "command") + ": " +
                                   Excerpt(line));
-    Post(options_.raw ? line : "#01" + line);
+    Post(options_.raw ? line : "#01" + line, true);
   }
-  void Post(std::string message) {
+  void Post(std::string message, bool isAnswered) {
     comms_.TxSer(message, 0);
-    movedAt_ = loop_.Now();
-    sentAt_ = movedAt_;
+    isAwaited_ = isAnswered;
+    begun_ = movedAt_ = loop_.Now();
   }
 
   /// Shows what has come; false for nothing.
@@ -121,6 +132,7 @@ class ConsoleRun {
     const std::string octets = comms_.TakeInput();
     if (octets.empty()) return false;
     movedAt_ = loop_.Now();
+    if (std::exchange(isAwaited_, false)) begun_ = movedAt_;
     const std::string stamp = options_.stamp ? StampOf(context_.platform.clock) : std::string();
     const std::string plain = FromCodePage(ends_.Take(octets));
     const std::string text = stamper_.Take(plain, stamp);
@@ -169,17 +181,25 @@ class ConsoleRun {
   bool inputEnded_ = false;
   bool logFailed_ = false;
   TimePoint movedAt_ = loop_.Now();  ///< when something was sent or came last
-  std::optional<TimePoint> sentAt_;
+  std::optional<TimePoint> begun_;   ///< when the last message went, or its answer began
+  bool isAwaited_ = false;           ///< nothing has come since a message that is answered
   LineEnds ends_;
   LineStamper stamper_;
   std::string rest_;  ///< of a line under way, for programs
 };
 
+/// What a range would not say of "nan" and the like.
+std::string WhyNoSeconds(const std::string& text) {
+  double seconds = 0;
+  if (CLI::detail::lexical_cast(text, seconds) && seconds > 0 && seconds <= kMostSeconds) return {};
+  return text + " is no number of seconds up to a year";
+}
+
 ExitCode RunTerminal(CommandContext& context, const TerminalOptions& options) {
   std::unique_ptr<std::ostream> log;
   if (!options.log.empty()) {
     std::string why;
-    log = context.environment.openGrowing(options.log, why);
+    log = context.environment.openLog(options.log, why);
     if (!log)
       return context.console.Fail(ExitCode::BadFile, "cannot write " + options.log + ": " + why);
   }
@@ -198,7 +218,7 @@ Command AddTerminal(CLI::App& app) {
   parser->add_flag("--stamp", options->stamp, "The time of day before each line");
   parser->add_option("--log", options->log, "File to which all that comes is added");
   parser->add_option("--seconds", options->seconds, "End after so many seconds")
-      ->check(CLI::PositiveNumber);
+      ->check(CLI::Validator(WhyNoSeconds, "SECONDS"));
   parser->add_flag("--raw", options->raw, "Send lines as frames, which begin with \"#\"");
   return {parser, [options](CommandContext& context) { return RunTerminal(context, *options); }};
 }

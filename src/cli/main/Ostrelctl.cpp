@@ -10,10 +10,10 @@
 #include <vector>
 
 #include "host/Folders.h"
+#include "host/GrowingFiles.h"
 #include "host/Machine.h"
 #include "host/PdfText.h"
 #include "host/System.h"
-#include "host/TraceFile.h"
 #include "host/Translator.h"
 #include "host/UsualStation.h"
 #include "platform/Console.h"
@@ -50,10 +50,10 @@ int Run(const std::vector<std::string>& args) {
       .station = UsualStation(),
       .shippedLang = LangIn(ShippedFolder()),
       .numberOfDevice = [&](const std::string& path) { return machine.NumberOfDevice(path); },
-      .openLog = OpenTrace,
+      .openTrace = OpenTrace,
       .openRecording = OpenRecording,
       .openLineRecording = OpenLineRecording,
-      .openGrowing = OpenLog,
+      .openLog = OpenLog,
       .watchInput =
           [&](auto onLine, auto onEnd) {
             return WatchInputLines(machine.loop, {std::move(onLine), std::move(onEnd)});
@@ -83,6 +83,7 @@ std::unique_ptr<QCoreApplication> MakeApplication(int& argc, char** argv) {
 }  // namespace
 
 int main(int argc, char** argv) {
+  HoldStandardInput();
   const auto application = MakeApplication(argc, argv);
   try {
     PrepareConsole();

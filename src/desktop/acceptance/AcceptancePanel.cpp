@@ -125,17 +125,31 @@ void AcceptancePanel::Retranslate() {
 
 int AcceptancePanel::Chosen() const { return list_->indexOfTopLevelItem(list_->currentItem()); }
 
+/// The row of an input after the list has changed: noted under another name it may stand there
+/// twice. The first row where it is there no more.
+int AcceptancePanel::RowOf(const QString& node, const QString& text) const {
+  int found = -1;
+  for (int row = 0; row < list_->topLevelItemCount(); ++row) {
+    const QTreeWidgetItem& item = *list_->topLevelItem(row);
+    if (item.data(kPointInput, Qt::UserRole).toString() != node) continue;
+    if (found < 0 || item.text(kPointInput) == text) found = row;
+  }
+  return std::max(found, 0);
+}
+
 void AcceptancePanel::Look() {
-  const int chosen = std::max(Chosen(), 0);
   const auto count = static_cast<int>(work_.Present().points.size());
   {
+    const QTreeWidgetItem* chosen = list_->currentItem();
+    const QString node = chosen ? chosen->data(kPointInput, Qt::UserRole).toString() : QString();
+    const QString text = chosen ? chosen->text(kPointInput) : QString();
     const QSignalBlocker quiet(list_);
     list_->clear();
     for (int row = 0; row < count; ++row) {
       new QTreeWidgetItem(list_);
       ShowRow(row);
     }
-    list_->setCurrentItem(list_->topLevelItem(std::min(chosen, count - 1)));
+    list_->setCurrentItem(list_->topLevelItem(RowOf(node, text)));
   }
   ShowSummary();
   ShowChosen();
@@ -145,6 +159,7 @@ void AcceptancePanel::ShowRow(int row) {
   const AcceptancePoint& point = work_.Present().points.at(static_cast<std::size_t>(row));
   QTreeWidgetItem& item = *list_->topLevelItem(row);
   item.setText(kPointInput, InputText(point));
+  item.setData(kPointInput, Qt::UserRole, ToQt(point.node));
   item.setText(kPointNow, round_ ? ToQt(InputValue(point, *round_)) : QString());
   item.setText(kPointVerdict, InWords(VerdictWord(point.verdict)));
   item.setForeground(kPointVerdict, ColourOfVerdict(point.verdict, palette()));

@@ -46,6 +46,7 @@ class AcceptancePanel final : public QDockWidget {
   void ShowChosen();
   void GoOn();
   int Chosen() const;
+  int RowOf(const QString& node, const QString& text) const;
 
   AcceptanceWork& work_;
   std::optional<LiveRound> round_;

@@ -394,6 +394,10 @@ Bound BindKind(DigitBox& box, const BindOptions&, QWidget* parent) {
   return BindReadout(box, parent);
 }
 
+Bound BindKind(ReadoutLine& line, const BindOptions&, QWidget* parent) {
+  return BindReadout(line, parent);
+}
+
 Bound BindKind(LedMedio& lamp, const BindOptions&, QWidget* parent) {
   return BindReadout(lamp, parent);
 }

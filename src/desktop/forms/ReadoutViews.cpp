@@ -9,6 +9,7 @@
 #include <array>
 
 #include "base/Numbers.h"
+#include "desktop/forms/ElidedLabel.h"
 #include "desktop/forms/Words.h"
 
 namespace ostrel {
@@ -75,7 +76,7 @@ class DigitView final : public Readout {
   QSize minimumSizeHint() const override { return sizeHint(); }
   QString ValueText() const override { return WithAge(ToQt(box_.Text()).trimmed(), box_.Stale()); }
   void Follow() {
-    setToolTip(box_.Stale().isStale ? StaleWords(box_.Stale()) : QString());
+    setToolTip(ValueText());
     Told();
   }
 
@@ -87,15 +88,30 @@ class DigitView final : public Readout {
     painter.setPen(QPen(palette().color(QPalette::Mid), 1, isStale ? Qt::DashLine : Qt::SolidLine));
     painter.setBrush(palette().color(isStale ? QPalette::Window : QPalette::Base));
     painter.drawRoundedRect(QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5), 3, 3);
-    const QRect inner = rect().adjusted(6, 0, -6, 0);
+    QRect inner = rect().adjusted(6, 0, -6, 0);
     painter.setPen(isStale ? DimColour(*this) : palette().color(QPalette::Text));
-    painter.drawText(inner, Qt::AlignRight | Qt::AlignVCenter, ToQt(box_.Text()).trimmed());
-    if (!isStale) return;
-    painter.setFont(AgeFont());
-    painter.drawText(inner, Qt::AlignLeft | Qt::AlignVCenter, ToQt(box_.Stale().since));
+    if (isStale) {
+      painter.setFont(AgeFont());
+      painter.drawText(inner, Qt::AlignLeft | Qt::AlignVCenter, ToQt(box_.Stale().since));
+      inner.setLeft(inner.left() + AgeWidth() + 4);
+    }
+    DrawDigits(painter, inner);
   }
 
  private:
+  /// Smaller where they have not the room, and shortened visibly at last: without its first digits
+  /// a number would be another one.
+  void DrawDigits(QPainter& painter, const QRect& room) {
+    constexpr double kLeastScale = 0.6;
+    const QString digits = ToQt(box_.Text()).trimmed();
+    QFont fitting = font();
+    const double needed = QFontMetricsF(fitting).horizontalAdvance(digits);
+    if (needed > room.width())
+      fitting.setPointSizeF(fitting.pointSizeF() * std::max(room.width() / needed, kLeastScale));
+    painter.setFont(fitting);
+    painter.drawText(room, Qt::AlignRight | Qt::AlignVCenter,
+                     QFontMetrics(fitting).elidedText(digits, Qt::ElideRight, room.width()));
+  }
   QFont AgeFont() const {
     QFont small = font();
     small.setPointSizeF(font().pointSizeF() * 0.65);
@@ -161,7 +177,6 @@ class LimitView final : public Readout {
  public:
   LimitView(const LimitBar& bar, QWidget* parent) : Readout(parent), bar_(bar) {
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
-    setAccessibleName(Words::tr("Alarm limits"));
   }
   QSize sizeHint() const override { return {110, std::max(18, 6 * Strips() + 6)}; }
   QSize minimumSizeHint() const override { return {64, sizeHint().height()}; }
@@ -177,6 +192,7 @@ class LimitView final : public Readout {
     return lines.join(u'\n');
   }
   void Follow() {
+    setAccessibleName(Words::tr("Alarm limits of %1").arg(ToQt(bar_.face.Caption())));
     setToolTip(ValueText());
     updateGeometry();
     Told();
@@ -285,6 +301,24 @@ void Readout::Told() {
 }
 
 Bound BindReadout(DigitBox& box, QWidget* parent) { return MakeReadout<DigitView>(box, parent); }
+
+/// Behind a text that is stale stands when it came last.
+Bound BindReadout(ReadoutLine& line, QWidget* parent) {
+  auto* widget = new ElidedLabel(parent);
+  widget->setTextFormat(Qt::PlainText);
+  return {
+      widget, [widget, &line] {
+        const Staleness& stale = line.Stale();
+        const QString text = ToQt(line.face.Caption());
+        const bool hasAge = !text.isEmpty() && !stale.since.empty();
+        widget->setEnabled(line.face.Enabled());
+        widget->setVisible(line.face.Visible());
+        widget->setForegroundRole(stale.isStale ? QPalette::PlaceholderText : QPalette::WindowText);
+        widget->SetWords(hasAge ? text + " (" + ToQt(stale.since) + ')' : text);
+        widget->setToolTip(text.isEmpty() ? text : WithAge(text, stale));
+        widget->setAccessibleName(widget->toolTip());
+      }};
+}
 
 Bound BindReadout(LedMedio& lamp, QWidget* parent) { return MakeReadout<LampView>(lamp, parent); }
 

@@ -19,6 +19,7 @@ class Readout : public QWidget {
 };
 
 Bound BindReadout(DigitBox& box, QWidget* parent);
+Bound BindReadout(ReadoutLine& line, QWidget* parent);
 Bound BindReadout(LedMedio& lamp, QWidget* parent);
 Bound BindReadout(LimitBar& bar, QWidget* parent);
 

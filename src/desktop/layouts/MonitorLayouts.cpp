@@ -7,31 +7,25 @@
 #include "desktop/forms/Words.h"
 #include "desktop/layouts/LayoutParts.h"
 #include "desktop/layouts/Layouts.h"
+#include "tools/MonitorParts.h"
 
 namespace ostrel {
 namespace {
 
-constexpr int kNameWidth = 70;  // pixels that a name has at the least
-constexpr int kAnalogRows = 4;
-constexpr int kPulseRows = 9;
-constexpr int kMathRows = 4;
-constexpr int kRegisterRows = 8;
-constexpr int kModbusRows = 32;
-constexpr int kModules = 96;
+constexpr int kBetweenMeasures = 14;  // pixels from one column of values to the next
+constexpr int kNameWidth = 70;        // pixels that a name has at the least
 
-std::string Numbered(std::string_view stem, int index) {
-  return std::string(stem) + "(" + std::to_string(index) + ")";
-}
-
-std::string Part(std::string_view stem, std::string_view family, std::string_view end, int index) {
-  return Numbered(std::string(stem).append(family).append(end), index);
-}
-
-/// A label that takes what room there is; the whole of a long text is told at it.
-QLabel* Elastic(FormView& view, const std::string& label) {
-  auto* shown = view.Show<QLabel>(label);
+/// A text that takes what room there is.
+QWidget* Elastic(FormView& view, const std::string& text) {
+  QWidget* shown = view.Show(text);
   shown->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
   shown->setMinimumWidth(kNameWidth);
+  return shown;
+}
+
+/// A label that does so; the whole of a long one is told at it.
+QWidget* ElasticLabel(FormView& view, const std::string& label) {
+  auto* shown = static_cast<QLabel*>(Elastic(view, label));
   view.Whenever({label}, [shown] { shown->setToolTip(shown->text()); });
   return shown;
 }
@@ -58,16 +52,18 @@ QLabel* RowNumber(FormView& view, const std::string& readout, int index) {
 /// A measured value in the columns of a grid from `column` on; gives the column behind it.
 int AddMeasure(FormView& view, QGridLayout& grid, int row, int column, std::string_view family,
                int index) {
-  const std::string name = Part("Label_", family, "_Name", index);
-  const std::string digit = Part("Digit_", family, "", index);
-  grid.addWidget(RowNumber(view, digit, index), row, column++);
-  grid.addWidget(Elastic(view, name), row, column);
+  const std::string name = ControlName("Label_", family, "_Name", index);
+  const std::string digit = ControlName("Digit_", family, "", index);
+  QLabel* number = RowNumber(view, digit, index);
+  if (column > 0) number->setIndent(kBetweenMeasures);
+  grid.addWidget(number, row, column++);
+  grid.addWidget(ElasticLabel(view, name), row, column);
   grid.setColumnStretch(column++, 3);
   NameAfter(view, digit, name, QString("%1 %2").arg(ToQt(family)).arg(index));
   grid.addWidget(view.Show(digit), row, column++);
-  if (const std::string unit = Part("Label_", family, "_Unit", index); view.Has(unit))
+  if (const std::string unit = ControlName("Label_", family, "_Unit", index); view.Has(unit))
     grid.addWidget(view.Show(unit), row, column++);
-  if (const std::string bar = Part("Bar_", family, "", index); view.Has(bar)) {
+  if (const std::string bar = ControlName("Bar_", family, "", index); view.Has(bar)) {
     grid.addWidget(view.Show(bar), row, column);
     grid.setColumnStretch(column++, 2);
   }
@@ -95,9 +91,9 @@ QWidget* LampGrid(FormView& view, std::string_view lamp, std::string_view label,
   auto* grid = new QGridLayout(box);
   grid->setContentsMargins(0, 0, 0, 0);
   grid->setVerticalSpacing(3);
-  for (int i = 0; view.Has(Numbered(lamp, i)); ++i) {
-    NameAfter(view, Numbered(lamp, i), Numbered(label, i), {});
-    auto* pair = Joined(view, {view.Show(Numbered(lamp, i)), view.Show(Numbered(label, i))});
+  for (int i = 0; view.Has(ControlName(lamp, i)); ++i) {
+    NameAfter(view, ControlName(lamp, i), ControlName(label, i), {});
+    auto* pair = Joined(view, {view.Show(ControlName(lamp, i)), view.Show(ControlName(label, i))});
     pair->layout()->setSpacing(3);
     grid->addWidget(pair, i / columns, i % columns, Qt::AlignLeft);
   }
@@ -111,11 +107,12 @@ void AddOutputs(FormView& view, QVBoxLayout& column) {
   column.addWidget(line);
   column.addWidget(view.Show("Label3"));
   auto* grid = new QGridLayout;
-  for (int i = 0; view.Has(Numbered("Led_O", i)); ++i) {
-    NameAfter(view, Numbered("Led_O", i), Numbered("Label2", i), {});
-    view.ShowNamed(Numbered("CheckCambiarEstado", i), Words::tr("Switch output %1 over").arg(i));
-    auto* output = Joined(view, {view.Show(Numbered("Led_O", i)), view.Show(Numbered("Label2", i)),
-                                 view.Show(Numbered("CheckCambiarEstado", i))});
+  for (int i = 0; view.Has(ControlName("Led_O", i)); ++i) {
+    NameAfter(view, ControlName("Led_O", i), ControlName("Label2", i), {});
+    view.ShowNamed(ControlName("CheckCambiarEstado", i), Words::tr("Switch output %1 over").arg(i));
+    auto* output =
+        Joined(view, {view.Show(ControlName("Led_O", i)), view.Show(ControlName("Label2", i)),
+                      view.Show(ControlName("CheckCambiarEstado", i))});
     output->layout()->setSpacing(3);
     grid->addWidget(output, i / 3, i % 3, Qt::AlignLeft);
   }
@@ -157,17 +154,17 @@ Card PulseCard(FormView& view) {
 /// The expansion inputs, each a line of text with its bar, in columns.
 QWidget* ModuleList(FormView& view) {
   constexpr int kColumns = 4;
-  constexpr int kRows = kModules / kColumns;
+  constexpr int kRows = kModuleLines / kColumns;
   auto* box = new QWidget(&view);
   auto* grid = new QGridLayout(box);
   grid->setContentsMargins(0, 0, 0, 0);
   grid->setVerticalSpacing(2);
-  for (int i = 0; i < kModules; ++i) {
+  for (int i = 0; i < kModuleLines; ++i) {
     const int row = i % kRows;
     const int column = i / kRows * 3;
-    grid->addWidget(RowNumber(view, Numbered("LabelModulo", i), i), row, column);
-    grid->addWidget(Elastic(view, Numbered("LabelModulo", i)), row, column + 1);
-    grid->addWidget(view.Show(Numbered("Bar_EX", i)), row, column + 2);
+    grid->addWidget(RowNumber(view, ControlName("LabelModulo", i), i), row, column);
+    grid->addWidget(Elastic(view, ControlName("LabelModulo", i)), row, column + 1);
+    grid->addWidget(view.Show(ControlName("Bar_EX", i)), row, column + 2);
     grid->setColumnStretch(column + 1, 2);
     grid->setColumnStretch(column + 2, 1);
   }
@@ -186,7 +183,7 @@ QWidget* Scrolled(QWidget* content) {
 QWidget* MathSheet(FormView& view) {
   return Joined(view,
                 {MeasureCard(view, "FrameCMat", "MAT", kMathRows).box,
-                 MeasureCard(view, "FrameRMat", "RMAT", kRegisterRows, 2).box},
+                 MeasureCard(view, "FrameRMat", "RMAT", kMathRegisters, 2).box},
                 Qt::Vertical, true);
 }
 

@@ -2,6 +2,7 @@
 #include <QLabel>
 #include <QProgressBar>
 #include <QStyle>
+#include <QStyledItemDelegate>
 #include <QTableWidget>
 
 #include "desktop/forms/Words.h"
@@ -15,6 +16,27 @@ namespace {
 
 constexpr int kStepHeight = 150;  // of two lines of the step, in pixels
 constexpr int kTableRow = 32;
+constexpr const char* kGoodMark = "\u2714 ";
+constexpr const char* kBadMark = "\u2718 ";
+
+enum ValueColumn { kValueName, kValueRead, kValueBand, kValueResult };
+
+/// Shows the values that failed on red.
+class ValueDelegate final : public QStyledItemDelegate {
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+
+ protected:
+  void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override {
+    QStyledItemDelegate::initStyleOption(option, index);
+    if (!index.siblingAtColumn(kValueResult).data().toString().startsWith(kBadMark)) return;
+    constexpr const char* kRed = "#c92a2a";
+    option->backgroundBrush = QColor(kRed);
+    option->palette.setColor(QPalette::Highlight, QColor(kRed));
+    for (const QPalette::ColorRole text : {QPalette::Text, QPalette::HighlightedText})
+      option->palette.setColor(text, Qt::white);
+  }
+};
 
 /// Shows a widget in the large letters that the style sheet has for a part of this page.
 QWidget* Large(QWidget* widget, const char* part) {
@@ -57,11 +79,12 @@ QWidget* Digits(FormView& view) {
   int column = 0;
   for (const auto& [label, digit] :
        {std::pair{"LabelVin", "DigitVin"}, std::pair{"LabelSerial", "DigitSerial"}}) {
-    card.grid->addWidget(view.Show(label), 0, column++);
+    card.grid->addWidget(Large(view.Show(label), "button"), 0, column++);
     card.grid->addWidget(Large(view.Show(digit), "digits"), 0, column++);
     card.grid->setColumnStretch(column - 1, 1);
   }
-  card.grid->addWidget(view.LabelFor("ProgressBar1", std::string_view("LabelGsm")), 0, column++);
+  card.grid->addWidget(Large(view.LabelFor("ProgressBar1", std::string_view("LabelGsm")), "button"),
+                       0, column++);
   card.grid->addWidget(view.Show("ProgressBar1"), 0, column);
   card.grid->setColumnStretch(column, 1);
   return card.box;
@@ -82,14 +105,17 @@ QWidget* Hints(FormView& view) {
 
 QWidget* ValueTable(FormView& view) {
   view.SetColumns(
-      "Values", {Words::tr("Value"), Words::tr("Reading"), Words::tr("Band"), Words::tr("Result")},
+      "Values", {Words::tr("Value"), Words::tr("Measured"), Words::tr("Band"), Words::tr("Result")},
       [](const ListRow& row) {
-        const bool passed = row.value != 0;
-        return ToQt(row.text).split(u'\t')
-               << (passed ? "\u2714 " + Words::tr("good") : "\u2718 " + Words::tr("FAILED"));
+        QStringList cells = ToQt(row.text).split(u'\t');
+        cells[kValueBand] = Words::tr(cells[kValueBand].toUtf8());  // one of them has a word
+        return cells << (row.value != 0 ? kGoodMark + Words::tr("good")
+                                        : kBadMark + Words::tr("FAILED"));
       });
   auto* table = static_cast<QTableWidget*>(view.ShowNamed("Values", Words::tr("Measured values")));
   Large(table, "table");
+  table->setItemDelegate(new ValueDelegate(table));
+  table->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
   table->verticalHeader()->setDefaultSectionSize(kTableRow);
   table->setMinimumHeight(5 * kTableRow);
   return table;

@@ -12,9 +12,9 @@
 #include "desktop/program/HelpProcesses.h"
 #include "desktop/program/Screenshot.h"
 #include "host/Folders.h"
+#include "host/GrowingFiles.h"
 #include "host/LangSeed.h"
 #include "host/Machine.h"
-#include "host/TraceFile.h"
 #include "host/UsualStation.h"
 #include "platform/qt/QtProcesses.h"
 

@@ -28,9 +28,7 @@ constexpr std::array<const char*, 8> kCurvesOnDark{"#56b4e9", "#f0954a", "#2fd6a
                                                    "#f0e442", "#a9a9ff", "#ff7fa8", "#b4dc78"};
 constexpr std::array kCurveStrokes{Qt::SolidLine, Qt::DashLine, Qt::DotLine, Qt::DashDotLine};
 
-QString SeriesName(const LiveSeries& series) {
-  return ToQt(series.name.empty() ? LiveTag(series.id) : series.name);
-}
+QString SeriesName(const LiveSeries& series) { return ToQt(LiveName(series.id, series.name)); }
 
 }  // namespace
 

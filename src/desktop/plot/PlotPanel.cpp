@@ -12,7 +12,6 @@
 #include <algorithm>
 #include <sstream>
 
-#include "base/Numbers.h"
 #include "base/Scope.h"
 #include "desktop/forms/Words.h"
 #include "tools/LiveRecording.h"
@@ -21,6 +20,7 @@ namespace ostrel {
 namespace {
 
 enum PlotColumn { kPlotName, kPlotValue };
+constexpr int kPlotMargin = 8;
 constexpr int kPlotListWidth = 250;
 constexpr int kSwatch = 12;  // px
 constexpr std::size_t kChosenAtFirst = 3;
@@ -33,9 +33,7 @@ QString TextOfSeries(const LiveSeries& series) {
 QString TextOfValue(const LiveSeries& series, std::optional<double> value) {
   if (!value) return {};
   if (IsState(series.id.kind)) return *value != 0 ? Words::tr("Active") : Words::tr("Inactive");
-  const bool isWide =
-      series.id.kind == LiveKind::Counter || series.id.kind == LiveKind::MathRegister;
-  const QString number = ToQt(isWide ? DecText(*value) : DecText(static_cast<float>(*value)));
+  const QString number = ToQt(LiveNumberText(series.id.kind, *value));
   return series.unit.empty() ? number : number + u' ' + ToQt(series.unit);
 }
 
@@ -56,6 +54,7 @@ PlotPanel::PlotPanel(const LiveHistory& history, QWidget* parent)
     : QDockWidget(parent), history_(history), chart_(new PlotChart(history, this)) {
   setObjectName("Plot");
   auto* splitter = new QSplitter(this);
+  splitter->setContentsMargins(kPlotMargin, 0, kPlotMargin, kPlotMargin);
   auto* side = new QWidget(splitter);
   MakeList(side);
   auto* sheet = new QWidget(splitter);
@@ -165,8 +164,9 @@ void PlotPanel::Look() {
 
 void PlotPanel::SetMaySave(bool may) {
   maySave_ = may;
-  for (QPushButton* button : {picture_, values_})
-    button->setEnabled(may && history_.Span().has_value());
+  const bool hasRounds = history_.Span().has_value();
+  picture_->setEnabled(may && hasRounds);
+  values_->setEnabled(may && hasRounds && !chosen_.empty());
 }
 
 void PlotPanel::SyncRow(QTreeWidgetItem& row, const LiveSeries& series) {
@@ -218,6 +218,7 @@ void PlotPanel::Toggle(LiveId id, bool on) {
 
 void PlotPanel::Chosen() {
   chart_->Choose(chosen_);
+  SetMaySave(maySave_);
   const Lent syncing(isSyncing_, true);
   for (int i = 0; i < list_->topLevelItemCount(); ++i) {
     QTreeWidgetItem& row = *list_->topLevelItem(i);

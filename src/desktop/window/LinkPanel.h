@@ -3,7 +3,7 @@
 #include <QLabel>
 #include <QWidget>
 
-#include "desktop/window/ElidedLabel.h"
+#include "desktop/forms/ElidedLabel.h"
 #include "desktop/window/LinkState.h"
 #include "desktop/window/TransferMeter.h"
 

@@ -15,16 +15,6 @@ constexpr std::string_view kPlotPart = "Window";
 constexpr std::string_view kPlotKey = "Plot";
 constexpr int kPanelHeight = 330;
 
-std::string NameOfFile(const std::string& path) { return path.substr(path.rfind('/') + 1); }
-
-/// A logger tells no names of its digital inputs: those of the configuration stand for them.
-LiveRound WithNames(LiveRound round, const DeviceConf& conf) {
-  for (LiveValue& value : round.values)
-    if (value.id.kind == LiveKind::Digital && value.name.empty())
-      value.name = conf.Digital[value.id.index].NOMBRE;
-  return round;
-}
-
 }  // namespace
 
 LivePanels::LivePanels(const LivePanelParts& parts)
@@ -99,10 +89,8 @@ void LivePanels::Shown() {
 
 void LivePanels::TakeRound(const LiveRound& round) {
   // Curves of two loggers must not run into each other.
-  const std::string logger =
-      configurator_.profile.TargetName + ' ' + configurator_.info.SerialNumber;
-  if (logger != historyOf_) history_.Clear();
-  historyOf_ = logger;
+  const LoggerIdentity logger = IdentityOf(configurator_.profile, configurator_.info);
+  if (historyOf_.Follow(logger) == LoggerChange::Other) history_.Clear();
   history_.Add(WithNames(round, configurator_.conf));
   if (!plot_->isHidden()) plot_->Look();
   if (!acceptance_->isHidden()) acceptance_->ShowRound(round);
@@ -112,7 +100,8 @@ void LivePanels::Look(const std::string& file) {
   file_ = file;
   if (!acceptanceSwitch_->isChecked()) return;
   if (!configurator_.Connected) acceptance_->ShowRound({});
-  FollowConfiguration();
+  // What is half read is no configuration.
+  if (!configurator_.session.OwnsModel()) FollowConfiguration();
 }
 
 /// Without a session the work stays with the logger that it was begun on, as long as the
@@ -120,7 +109,7 @@ void LivePanels::Look(const std::string& file) {
 void LivePanels::FollowConfiguration() {
   const Acceptance& present = work_.Present();
   Acceptance subject{.serialNumber = configurator_.info.SerialNumber,
-                     .configuration = NameOfFile(file_),
+                     .configuration = ConfigurationName(file_),
                      .model = configurator_.profile.TargetName};
   const bool isSame = workOn_ == configurator_.conf && subject.model == present.model &&
                       subject.configuration == present.configuration;

@@ -9,6 +9,7 @@
 #include "desktop/acceptance/AcceptancePanel.h"
 #include "desktop/forms/Guard.h"
 #include "desktop/plot/PlotPanel.h"
+#include "model/LoggerIdentity.h"
 #include "platform/Platform.h"
 #include "shell/Configurator.h"
 
@@ -60,7 +61,7 @@ class LivePanels {
   LivePanelParts parts_;
   Configurator& configurator_;
   LiveHistory history_;
-  std::string historyOf_;  ///< the logger that it is of
+  LoggerFollower historyOf_;
   AcceptanceWork work_;
   std::string file_;                  ///< of the configuration
   std::optional<DeviceConf> workOn_;  ///< the configuration whose inputs are shown

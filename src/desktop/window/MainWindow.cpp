@@ -240,11 +240,11 @@ void MainWindow::ShowGroup(const std::string& key) {
   const bool hasPage = FindNodeTarget(key, configurator_.profile, false).has_value();
   // Some groups have a page of their own, which stands above the table.
   const bool isTimers = key == kTimersNode;
-  const bool isPage = hasPage || !(isGroup || isTimers);
+  const bool isPage = isReading_ || hasPage || !(isGroup || isTimers);
   pages_->setVisible(isPage);
   if (!isPage) notes_->hide();
-  group_->setVisible(isGroup);
-  timers_->setVisible(isTimers);
+  group_->setVisible(isGroup && !isReading_);
+  timers_->setVisible(isTimers && !isReading_);
   ShowTimers();
   overview_.ShowNode(key);
 }
@@ -373,8 +373,10 @@ bool MainWindow::MayLeave() {
   return !IsTransfer(configurator_.session.State().phase) && Save();
 }
 
-void MainWindow::AskToBreakOff(const QString& whatIsLost) {
+void MainWindow::AskToBreakOff(QString whatIsLost) {
   if (leaveBox_) return leaveBox_->raise();
+  if (unsaved_.Changed())
+    whatIsLost += ' ' + Words::tr("Changes that are neither saved nor sent are lost.");
   auto* box = new QMessageBox(QMessageBox::NoIcon, ToQt(configurator_.profile.TargetName),
                               whatIsLost, QMessageBox::NoButton, this);
   box->setAttribute(Qt::WA_DeleteOnClose);
@@ -417,6 +419,23 @@ void MainWindow::KeepPlace() {
                                saveGeometry().toBase64().toStdString());
 }
 
+QString MainWindow::WhatLeavingBreaks() {
+  const SessionDriver& session = configurator_.session;
+  if (session.Flash() == FlashState::Erased)
+    return Words::tr("The flash of the logger is erased. Leaving now leaves it without firmware.");
+  if (session.Flash() == FlashState::InDoubt)
+    return Words::tr(
+        "The flash of the logger may be erased. Leaving now may leave it without firmware.");
+  if (session.VoiceList() == ListWork::Writing)
+    return Words::tr(
+        "The voice-call list is being written. Leaving breaks that off, "
+        "and the logger is left without a whole list.");
+  const SessionPhase phase = session.State().phase;
+  if (phase == SessionPhase::Writing || (IsTransfer(phase) && unsaved_.Changed()))
+    return Words::tr("A transfer is under way. Leaving breaks it off.");
+  return {};
+}
+
 void MainWindow::closeEvent(QCloseEvent* event) {
   if (isLeaving_) return event->accept();
   event->ignore();
@@ -424,22 +443,7 @@ void MainWindow::closeEvent(QCloseEvent* event) {
     unsaved_.Touch();
     // The first closing ends a test run, which switches its fixture off; the next one leaves.
     if (TestPage* test = configurator_.RunningTest()) return test->Stop();
-    const SessionPhase phase = configurator_.session.State().phase;
-    const bool losesNothing = phase != SessionPhase::Writing && !unsaved_.Changed();
-    if (configurator_.session.IsFlashErased())
-      return AskToBreakOff(
-          Words::tr("The flash of the logger is erased. Leaving now leaves it without firmware."));
-    if (phase == SessionPhase::Updating)
-      return AskToBreakOff(
-          Words::tr("The firmware of the logger is being replaced. Leaving breaks that off."));
-    if (configurator_.session.VoiceList() == ListWork::Writing)
-      return AskToBreakOff(
-          Words::tr("The voice-call list is being written. Leaving breaks that off, "
-                    "and the logger is left without a whole list."));
-    if (IsTransfer(phase) && !losesNothing)
-      return AskToBreakOff(
-          Words::tr("A transfer is under way. Leaving breaks it off, and changes "
-                    "that are neither saved nor sent are lost."));
+    if (const QString breaks = WhatLeavingBreaks(); !breaks.isEmpty()) return AskToBreakOff(breaks);
     if (!MayLeave()) return;
     KeepPlace();
     configurator_.ShutDown();

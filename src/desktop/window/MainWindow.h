@@ -248,8 +248,10 @@ class MainWindow final : public QMainWindow {
   bool MayReplace(const std::string& path, const std::string& why);
   /// True when the present configuration may go: nothing is unsaved, or the operator says so.
   bool MayLeave();
-  /// Asks whether to leave in the midst of a transfer, which goes on meanwhile.
-  void AskToBreakOff(const QString& whatIsLost);
+  /// What leaving now would break off or leave undone, as a sentence; empty for nothing.
+  QString WhatLeavingBreaks();
+  /// Asks whether to leave in the midst of something, which goes on meanwhile.
+  void AskToBreakOff(QString whatIsLost);
   void Leave();
 
   WindowParts parts_;
@@ -297,6 +299,7 @@ class MainWindow final : public QMainWindow {
   unsigned comparingSeen_ = 0;         ///< the touch after which the pages were compared
   bool readsBeside_ = false;           ///< the reading asked for is to leave the pages alone
   bool isBeside_ = false;              ///< such a reading runs
+  bool isReading_ = false;             ///< any reading runs
   QPointer<CompareWindow> comparing_;  ///< while it stands
   QPointer<QMessageBox> leaveBox_;     ///< the question that stands while a transfer runs
   QPointer<QWidget> focus_, refuge_;   ///< where the focus was, and went, when the pages rested

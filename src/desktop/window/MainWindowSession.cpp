@@ -3,6 +3,7 @@
 #include <QProgressBar>
 #include <QStackedWidget>
 #include <QStatusBar>
+#include <utility>
 
 #include "desktop/forms/Words.h"
 #include "desktop/window/CompareWindow.h"
@@ -57,10 +58,12 @@ void MainWindow::ShowLink() {
        .whyNot = why ? SentenceOf(*why) : QString()});
   RestForUpdate(state.phase == SessionPhase::Updating);
   Rest(session.OwnsModel());
+  const bool isReading = state.phase == SessionPhase::Reading;
   pages_->Cover(
-      state.phase == SessionPhase::Reading
-          ? Words::tr("The configuration is being read. The page shows it when it is whole.")
-          : QString());
+      isReading ? Words::tr("The configuration is being read. The page shows it when it is whole.")
+                : QString());
+  // A table would show what the reading has emptied: the cover stands in its place.
+  if (std::exchange(isReading_, isReading) != isReading) ShowGroup(shownNode_);
 }
 
 /// A transfer owns the model: nothing may be edited, opened, saved or compared under it, and a
@@ -90,7 +93,8 @@ void MainWindow::RestForUpdate(bool isUpdating) {
   if (isUpdating == isUpdating_) return;
   isUpdating_ = isUpdating;
   tree_->setEnabled(!isUpdating);
-  if (leaveBox_ && !isUpdating && !configurator_.session.IsFlashErased()) leaveBox_->close();
+  if (leaveBox_ && !isUpdating && configurator_.session.Flash() == FlashState::Kept)
+    leaveBox_->close();
 }
 
 void MainWindow::ShowTransfer() {

@@ -43,6 +43,7 @@ void PageArea::ShowForm(Form& form) {
 void PageArea::ShowEmpty() {
   front_ = nullptr;
   setCurrentWidget(empty_);
+  LayCovers();
   if (OnChanged) OnChanged();
 }
 
@@ -55,9 +56,9 @@ void PageArea::Cover(const QString& words) {
 void PageArea::LayCovers() {
   for (const auto& cover : covers_) delete cover.data();
   covers_.clear();
-  if (coverWords_.isEmpty() || !front_) return;
+  if (coverWords_.isEmpty()) return;
   QList<QWidget*> parts;
-  for (QWidget* part : front_->findChildren<QWidget*>())
+  for (QWidget* part : currentWidget()->findChildren<QWidget*>())
     if (part->property(kCoveredInReading).toBool()) parts << part;
   if (parts.isEmpty()) parts << currentWidget();
   for (QWidget* part : parts) {

@@ -592,8 +592,12 @@
         <translation>Se está escribiendo la lista de llamadas de voz. Al salir se interrumpe, y el equipo queda sin una lista completa.</translation>
     </message>
     <message>
-        <source>A transfer is under way. Leaving breaks it off, and changes that are neither saved nor sent are lost.</source>
-        <translation>Hay una transferencia en curso. Al salir se interrumpe, y los cambios que no se han guardado ni enviado se pierden.</translation>
+        <source>A transfer is under way. Leaving breaks it off.</source>
+        <translation>Hay una transferencia en curso. Al salir se interrumpe.</translation>
+    </message>
+    <message>
+        <source>Changes that are neither saved nor sent are lost.</source>
+        <translation>Los cambios que no se han guardado ni enviado se pierden.</translation>
     </message>
     <message>
         <source>No files yet</source>
@@ -2944,6 +2948,14 @@
         <translation>avisa a</translation>
     </message>
     <message>
+        <source>Accepted with a configuration that was in no file.</source>
+        <translation>Aceptado con una configuración que no estaba en ningún archivo.</translation>
+    </message>
+    <message>
+        <source>Accepted with another configuration: %1</source>
+        <translation>Aceptado con otra configuración: %1</translation>
+    </message>
+    <message>
         <source>No alarm is enabled.</source>
         <translation>No hay ninguna alarma habilitada.</translation>
     </message>
@@ -3116,6 +3128,14 @@
         <translation>se cortó la línea</translation>
     </message>
     <message>
+        <source>Measured</source>
+        <translation>Medido</translation>
+    </message>
+    <message>
+        <source>not 0, 2..8</source>
+        <translation>ni 0 ni 2..8</translation>
+    </message>
+    <message>
         <source>test run</source>
         <translation>prueba de fábrica</translation>
     </message>
@@ -3280,8 +3300,8 @@
         <translation>por encima del máximo</translation>
     </message>
     <message>
-        <source>Alarm limits</source>
-        <translation>Límites de alarma</translation>
+        <source>Alarm limits of %1</source>
+        <translation>Límites de alarma de %1</translation>
     </message>
     <message>
         <source>%1 to %2, hysteresis %3</source>
@@ -3336,8 +3356,8 @@
         <translation>La flash del equipo está borrada. Si sale ahora, el equipo se queda sin firmware.</translation>
     </message>
     <message>
-        <source>The firmware of the logger is being replaced. Leaving breaks that off.</source>
-        <translation>Se está sustituyendo el firmware del equipo. Si sale, la actualización se interrumpe.</translation>
+        <source>The flash of the logger may be erased. Leaving now may leave it without firmware.</source>
+        <translation>Puede que la flash del equipo esté borrada. Si sale ahora, puede que el equipo se quede sin firmware.</translation>
     </message>
     <message>
         <source>the logger gave no sign of life by octet %1 of the image</source>
@@ -3348,8 +3368,12 @@
         <translation>la flash del equipo está borrada y no contiene firmware: déjelo alimentado y conectado, y vuelva a iniciar la actualización con los mismos ficheros</translation>
     </message>
     <message>
-        <source>whether the logger has erased its firmware is not known: if it tells of itself in a new session, it has not; else start the update again with the same files</source>
-        <translation>no se sabe si el equipo ha borrado su firmware: si en una nueva sesión da sus datos, no lo ha borrado; si no, vuelva a iniciar la actualización con los mismos ficheros</translation>
+        <source>the logger&apos;s flash may be erased: leave it powered and connected; if it tells of itself in a new session, it is not; else start the update again with the same files</source>
+        <translation>puede que la flash del equipo esté borrada: déjelo alimentado y conectado; si en una nueva sesión da sus datos, no lo está; si no, vuelva a iniciar la actualización con los mismos ficheros</translation>
+    </message>
+    <message>
+        <source>nothing of the image was sent: if the logger still answers, its firmware is as it was</source>
+        <translation>no se ha enviado nada de la imagen: si el equipo todavía responde, su firmware es el de antes</translation>
     </message>
     <message>
         <source>Band</source>

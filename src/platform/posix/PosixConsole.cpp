@@ -1,3 +1,4 @@
+#include <fcntl.h>
 #include <termios.h>
 #include <unistd.h>
 
@@ -54,6 +55,11 @@ FileResult ReadDescriptor(int descriptor, bool lineOnly, std::string& octets) {
   }
   octets.clear();
   return TooLarge(kMostFileOctets);
+}
+
+void HoldStandardInput() {
+  const bool isClosed = fcntl(STDIN_FILENO, F_GETFD) < 0 && errno == EBADF;
+  if (isClosed) open("/dev/null", O_RDONLY);  // the lowest free descriptor is that of the input
 }
 
 void PrepareConsole() {}

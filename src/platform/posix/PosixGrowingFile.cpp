@@ -25,6 +25,8 @@ class DescriptorBuffer final : public std::streambuf {
   DescriptorBuffer(const DescriptorBuffer&) = delete;
   DescriptorBuffer& operator=(const DescriptorBuffer&) = delete;
 
+  int Descriptor() const { return descriptor_; }
+
  protected:
   int_type overflow(int_type c) override {
     if (traits_type::eq_int_type(c, traits_type::eof())) return traits_type::not_eof(c);
@@ -51,17 +53,26 @@ class DescriptorStream final : public std::ostream {
   explicit DescriptorStream(int descriptor) : std::ostream(nullptr), buffer_(descriptor) {
     rdbuf(&buffer_);
   }
+  int Descriptor() const { return buffer_.Descriptor(); }
 
  private:
   DescriptorBuffer buffer_;
 };
 
-/// Whether a file is empty or begins as one of its kind does.
-bool HoldsNothingElse(int descriptor, const GrowingKind& kind) {
+Held WhatFileHolds(int descriptor, const GrowingKind& kind) {
   std::array<char, 256> start{};
   const ssize_t got = ::pread(descriptor, start.data(), start.size(), 0);
-  const std::string_view text(start.data(), got > 0 ? static_cast<std::size_t>(got) : 0);
-  return text.empty() || kind.isFirstLine(text.substr(0, text.find('\n')));
+  return WhatIsHeld({start.data(), got > 0 ? static_cast<std::size_t>(got) : 0}, kind);
+}
+
+/// These two fail with `errno`.
+bool MakeEmpty(int file, const GrowingKind& kind) {
+  return (!kind.isOwnersAlone || ::fchmod(file, kOwnersMode) == 0) && ::ftruncate(file, 0) == 0;
+}
+bool GoToEnd(DescriptorStream& stream, const GrowingKind& kind, Held held) {
+  if (::fcntl(stream.Descriptor(), F_SETFL, O_APPEND | O_NONBLOCK) != 0) return false;
+  if (held == Held::Nothing) stream << kind.headOfLog << std::endl;
+  return stream.good();
 }
 
 std::string WordsOf(int error) {
@@ -83,21 +94,14 @@ std::unique_ptr<std::ostream> OpenGrowing(const std::string& path, const Growing
   }
   auto stream = std::make_unique<DescriptorStream>(descriptor);
   if (isPipe) return stream;
-  if (!HoldsNothingElse(descriptor, kind)) {
-    why = std::string("it holds something else than ") + kind.name;
+  const Held held = WhatFileHolds(descriptor, kind);
+  if (held == Held::SomethingElse) {
+    why = WordsOfAnother(kind);
     return nullptr;
   }
-  const bool isProtected = !kind.isOwnersAlone || ::fchmod(descriptor, kOwnersMode) == 0;
-  if (!isProtected || ::ftruncate(descriptor, 0) != 0) {
-    why = WordsOf(errno);
-    return nullptr;
-  }
-  return stream;
-}
-
-std::unique_ptr<std::ostream> OpenToAppend(const std::string& path, std::string& why) {
-  const int descriptor = ::open(path.c_str(), O_WRONLY | O_APPEND | kFlags, kOwnersMode);
-  if (descriptor >= 0) return std::make_unique<DescriptorStream>(descriptor);
+  const bool isReady =
+      kind.headOfLog.empty() ? MakeEmpty(descriptor, kind) : GoToEnd(*stream, kind, held);
+  if (isReady) return stream;
   why = WordsOf(errno);
   return nullptr;
 }

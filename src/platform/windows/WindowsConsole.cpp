@@ -59,6 +59,10 @@ std::optional<std::string> ReadConsoleLine() {
 
 }  // namespace
 
+void HoldStandardInput() {
+  if (::_get_osfhandle(::_fileno(stdin)) < 0) std::freopen("NUL", "rb", stdin);
+}
+
 void PrepareConsole() {
   for (std::FILE* stream : {stdin, stdout, stderr}) ::_setmode(::_fileno(stream), _O_BINARY);
   if (!IsConsole(STD_OUTPUT_HANDLE) && !IsConsole(STD_ERROR_HANDLE)) return;

@@ -51,14 +51,13 @@ Handle OpenShared(const std::string& path, DWORD access) {
 
 bool IsOnDisk(const Handle& file) { return ::GetFileType(file.Get()) == FILE_TYPE_DISK; }
 
-/// Whether a file is empty or begins as one of its kind does. Leaves the place at its beginning.
-bool HoldsNothingElse(const Handle& file, const GrowingKind& kind) {
+/// Leaves the place at the beginning of the file.
+Held WhatFileHolds(const Handle& file, const GrowingKind& kind) {
   std::array<char, 256> start{};
   DWORD got = 0;
   ::ReadFile(file.Get(), start.data(), start.size(), &got, nullptr);
   ::SetFilePointerEx(file.Get(), {}, nullptr, FILE_BEGIN);
-  const std::string_view text(start.data(), got);
-  return text.empty() || kind.isFirstLine(text.substr(0, text.find('\n')));
+  return WhatIsHeld({start.data(), got}, kind);
 }
 
 }  // namespace
@@ -73,22 +72,21 @@ std::unique_ptr<std::ostream> OpenGrowing(const std::string& path, const Growing
     return nullptr;
   }
   if (!IsOnDisk(file)) return std::make_unique<HandleStream>(std::move(file));
-  if (!HoldsNothingElse(file, kind)) {
-    why = std::string("it holds something else than ") + kind.name;
+  const Held held = WhatFileHolds(file, kind);
+  if (held == Held::SomethingElse) {
+    why = WordsOfAnother(kind);
     return nullptr;
   }
-  if (kind.isOwnersAlone) why = WindowsFiles().Protect(path).error;
-  if (why.empty() && !::SetEndOfFile(file.Get())) why = SystemWords(::GetLastError());
-  return why.empty() ? std::make_unique<HandleStream>(std::move(file)) : nullptr;
-}
-
-std::unique_ptr<std::ostream> OpenToAppend(const std::string& path, std::string& why) {
-  why.clear();
-  const bool isNew = ::GetFileAttributesW(WidePath(path).c_str()) == INVALID_FILE_ATTRIBUTES;
-  Handle file = OpenShared(path, FILE_APPEND_DATA | SYNCHRONIZE);
-  if (!file) why = SystemWords(::GetLastError());
-  if (file && isNew && IsOnDisk(file)) why = WindowsFiles().Protect(path).error;
-  return why.empty() ? std::make_unique<HandleStream>(std::move(file)) : nullptr;
+  const bool isLog = !kind.headOfLog.empty();
+  const bool isPlaced = isLog ? ::SetFilePointerEx(file.Get(), {}, nullptr, FILE_END) != 0
+                              : ::SetEndOfFile(file.Get()) != 0;
+  if (!isPlaced) why = SystemWords(::GetLastError());
+  const bool mustProtect = kind.isOwnersAlone && (held == Held::Nothing || !isLog);
+  if (why.empty() && mustProtect) why = WindowsFiles().Protect(path).error;
+  if (!why.empty()) return nullptr;
+  auto stream = std::make_unique<HandleStream>(std::move(file));
+  if (isLog && held == Held::Nothing) *stream << kind.headOfLog << std::endl;
+  return stream;
 }
 
 }  // namespace ostrel

@@ -45,6 +45,11 @@ struct Acceptance {
   bool operator==(const Acceptance&) const = default;
 };
 
+/// How an acceptance names the configuration of a file.
+inline std::string ConfigurationName(const std::string& path) {
+  return path.substr(path.rfind('/') + 1);
+}
+
 /// The inputs of a configuration that have an alarm enabled, or hold anything else of their own
 /// than an emptied configuration does, in the order of the tree. The names of emptied inputs hang
 /// on the language.

@@ -30,7 +30,8 @@ void AddMeasured(std::string& detail, const TestRecord& record) {
   if (!record.givenSerial.empty())
     detail.append("\n").append(kNewNumber).append(" ").append(record.givenSerial);
   for (const Measurement& one : record.values) {
-    detail += "\n" + one.name + " = " + one.Text() + " (" + one.band.Text() + ")";
+    detail +=
+        "\n" + one.name + " = " + (one.value ? one.Text() : "?") + " (" + one.band.Text() + ")";
     if (!one.passed) detail.append(" ").append(kOutOfBand);
   }
 }

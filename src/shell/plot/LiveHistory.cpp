@@ -227,8 +227,9 @@ std::optional<double> LiveHistory::ValueAt(LiveId id, Moment at) const {
   return value;
 }
 
-void LiveHistory::ForEachRound(const TimeSpan& span, const std::vector<LiveId>& ids,
+void LiveHistory::ForEachRound(const TimeSpan& span, std::vector<LiveId> ids,
                                const std::function<void(const LiveRound&)>& visit) const {
+  std::ranges::sort(ids);
   for (auto chunk = ChunkAt(span.from); chunk != chunks_.end() && chunk->start <= span.to; ++chunk)
     for (std::size_t i = 0; i < chunk->after.size(); ++i) {
       const Moment at = chunk->At(i);

@@ -68,8 +68,9 @@ class LiveHistory {
   std::vector<CurvePoint> Curve(LiveId id, const TimeSpan& span, int columns) const;
   /// The value of the last round up to a moment; nothing where it did not come, or nobody read.
   std::optional<double> ValueAt(LiveId id, Moment at) const;
-  /// Runs `visit` on the rounds of a stretch, with the given values of each.
-  void ForEachRound(const TimeSpan& span, const std::vector<LiveId>& ids,
+  /// Runs `visit` on the rounds of a stretch, with the given values of each by kind and index, in
+  /// whatever order they are asked for.
+  void ForEachRound(const TimeSpan& span, std::vector<LiveId> ids,
                     const std::function<void(const LiveRound&)>& visit) const;
 
  private:

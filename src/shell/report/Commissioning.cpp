@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 #include "base/Sha256.h"
 #include "platform/Ledger.h"
@@ -62,6 +63,15 @@ std::vector<RecordedWork> WorkDoneTo(const std::string& serial, Ledger& books) {
   return done;
 }
 
+void AddAcceptance(Commissioned& work, const AcceptanceFiles& files, const std::string& serial) {
+  if (serial.empty()) return;
+  AcceptanceFiles::Kept kept = files.Read(serial, ConfigurationName(work.file));
+  work.acceptanceFault = kept.result.error;
+  work.acceptance = std::move(kept.acceptance);
+  if (!work.acceptanceFault.empty() || !work.acceptance.points.empty()) return;
+  if (auto latest = files.Latest(serial)) work.acceptance = std::move(*latest);
+}
+
 }  // namespace
 
 void AddLogger(Commissioned& work, const Configurator& logger, const Platform& platform,
@@ -73,11 +83,7 @@ void AddLogger(Commissioned& work, const Configurator& logger, const Platform& p
       Sha256(ContentOf(platform.files, work.configuration.conf, work.configuration.profile));
   if (platform.ledger && !logger.info.SerialNumber.empty())
     work.history = WorkDoneTo(logger.info.SerialNumber, *platform.ledger);
-  const AcceptanceFiles kept(platform.files, dataFolder);
-  const std::string& serial = logger.info.SerialNumber;
-  work.acceptance = kept.Read(serial, work.file.substr(work.file.rfind('/') + 1)).acceptance.points;
-  if (!work.acceptance.empty()) return;
-  if (const auto latest = kept.Latest(serial)) work.acceptance = latest->points;
+  AddAcceptance(work, AcceptanceFiles(platform.files, dataFolder), logger.info.SerialNumber);
 }
 
 }  // namespace ostrel

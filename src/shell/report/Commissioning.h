@@ -36,7 +36,8 @@ struct Commissioned {
   std::optional<DeviceInfo> logger{};  ///< as it tells of itself
   std::optional<DateTime> clock{};     ///< of the logger
   std::optional<LiveRound> live{};
-  std::vector<AcceptancePoint> acceptance{};
+  Acceptance acceptance{};        ///< the one that counts, which may be of another configuration
+  std::string acceptanceFault{};  ///< why what was noted with this configuration cannot be read
   std::vector<RecordedWork> history{};
 };
 
@@ -53,7 +54,8 @@ struct ReportLanguage {
 Report CommissioningReport(const Commissioned& work, const ReportLanguage& language, Files& files);
 
 /// Adds what the connected logger tells of itself and last measured, and what was accepted of it
-/// with the configuration of the file, else what was accepted of it last.
+/// with the configuration of the file, else with the configuration that was accepted last. What was
+/// noted with the former and cannot be read is not stood in for.
 void AddLogger(Commissioned& work, const Configurator& logger, const Platform& platform,
                const std::string& dataFolder);
 

@@ -113,10 +113,19 @@ ReportSection Writer::LiveValues() const {
 
 ReportSection Writer::Acceptance() const {
   ReportSection section{Say("Acceptance")};
-  if (work_.acceptance.empty()) return section;
+  if (!work_.acceptanceFault.empty())
+    section.parts.push_back({.note = Filled(Say("What was noted before cannot be read: %1"),
+                                            {Say(work_.acceptanceFault)})});
+  const auto& [serial, configuration, model, points] = work_.acceptance;
+  if (points.empty()) return section;
+  if (configuration != ConfigurationName(work_.file))
+    section.parts.push_back(
+        {.note = configuration.empty()
+                     ? Say("Accepted with a configuration that was in no file.")
+                     : Filled(Say("Accepted with another configuration: %1"), {configuration})});
   ReportPart part{.form = ReportForm::Table,
                   .head = Head({"point", "name", "verdict", "value", "note", "when"})};
-  for (const AcceptancePoint& point : work_.acceptance)
+  for (const AcceptancePoint& point : points)
     part.rows.push_back({Say(point.kind) + " " + std::to_string(point.number), point.name,
                          Say(VerdictWord(point.verdict)), point.value, point.note,
                          point.time ? DateTimeText(*point.time) : std::string()});

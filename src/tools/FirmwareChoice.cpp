@@ -1,4 +1,4 @@
-#include "tools/FirmwareDoubts.h"
+#include "tools/FirmwareChoice.h"
 
 #include <utility>
 

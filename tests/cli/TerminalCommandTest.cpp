@@ -1,5 +1,4 @@
 #include "cli/World.h"
-#include "tools/HexFiles.h"
 
 namespace ostrel::cli {
 namespace {
@@ -10,8 +9,8 @@ using testing::Not;
 /// A shell in which lines are typed, and then the input ends.
 struct ConsoleWorld : World {
   explicit ConsoleWorld(std::vector<std::string> typed = {},
-                        const std::vector<std::string>& faults = {})
-      : World(WithFaults(faults)) {
+                        const SimulatedLoggers::MakeOptions& make = sim::MakeDefaultOptions)
+      : World(make) {
     environment.watchInput = [this, typed](const auto& onLine, const auto& onEnd) {
       loop.After(std::chrono::milliseconds(1), "typing", [=] {
         for (const std::string& line : typed) onLine(line);
@@ -19,8 +18,8 @@ struct ConsoleWorld : World {
       });
       return std::make_shared<int>();
     };
-    environment.openGrowing = [this](const std::string& path,
-                                     std::string& why) -> std::unique_ptr<std::ostream> {
+    environment.openLog = [this](const std::string& path,
+                                 std::string& why) -> std::unique_ptr<std::ostream> {
       why = "no room";
       if (path == "/full") return nullptr;
       auto stream = std::make_unique<std::ostream>(&log);
@@ -62,7 +61,39 @@ TEST(TerminalCommand, LeavesTracesAloneUnlessTold) {
   EXPECT_THAT(world.out, testing::StartsWith("{\"text\":\""));
   EXPECT_EQ(world.Run("terminal --port sim:VR200 --traces off --seconds 60"), 0);
   EXPECT_FALSE(world.Logger().Traces());
-  EXPECT_EQ(world.Run("terminal --port sim:VR200 --traces maybe"), 2);
+  for (const char* wrong : {"--traces maybe", "--seconds nan", "--seconds 1e300", "--seconds 0"})
+    EXPECT_EQ(world.Run("terminal --port sim:VR200 " + std::string(wrong)), 2) << wrong;
+}
+
+/// An answer may take on a call as long as any; and traces left on do not spoil the next dialling.
+TEST(TerminalCommand, WaitsOnACallForAnAnswerThatIsLongInComing) {
+  ConsoleWorld world({"VER", "OUT"}, [](sim::Model model) {
+    sim::LoggerOptions options = sim::MakeDefaultOptions(model);
+    options.modem = true;
+    options.replyDelay = std::chrono::seconds(3);
+    return options;
+  });
+  const std::string call = "terminal --port sim:VR200 --phone 600 --code 1234 ";
+  EXPECT_EQ(world.Run(call), 0) << world.err;
+  EXPECT_EQ(world.out, "Ostrel VR200 v4.12\nOUT=0\n");
+  for (int i = 0; i < 2; ++i) {
+    EXPECT_EQ(world.Run(call + "--traces on --seconds 20"), 0) << world.err;
+    EXPECT_THAT(world.out, HasSubstr("OUT=0\n"));
+  }
+}
+
+/// A cable may carry text without a carrier.
+TEST(TerminalCommand, OutlastsTheCarrierOfACable) {
+  const std::string command = "terminal --raw --seconds 5 --port sim:VR200";
+  std::size_t frames = 0;
+  ConsoleWorld sound({"#041", "#5D"});
+  sound.Logger().OnExchange([&](const sim::Exchange& exchange) { frames += exchange.frames; });
+  EXPECT_EQ(sound.Run(command), 0) << sound.err;
+  ConsoleWorld world({"#041", "#5D"},
+                     WithFaults({"carrier-drop@" + std::to_string(frames) + "!once"}));
+  EXPECT_EQ(world.Run(command), 0) << world.err;
+  EXPECT_THAT(world.err, HasSubstr("Se corto la comunicacion"));
+  EXPECT_THAT(world.out, HasSubstr("DI="));
 }
 
 TEST(TerminalCommand, SendsFramesAsTheyAreTyped) {
@@ -70,40 +101,6 @@ TEST(TerminalCommand, SendsFramesAsTheyAreTyped) {
   EXPECT_EQ(world.Run("terminal --raw --port sim:VR200"), 0);
   EXPECT_THAT(world.out, HasSubstr(";A2260302090"));
   EXPECT_THAT(world.err, HasSubstr("not sent, it is no frame: 5D\n"));
-}
-
-TEST(FirmwareCommand, LooksAtTheFilesAndAsksBeforeItErases) {
-  struct Case {
-    const char* words;
-    int code;
-    const char* says;
-  };
-  for (const Case& c :
-       {Case{"/i.hex /loader.hex --yes", 5, "\"CopyFlash\" must stand in the path"},
-        {"/none.hex /CopyFlash.hex --yes", 5, "cannot read /none.hex: no such file"},
-        {"/bad.hex /CopyFlash.hex", 5, "warning: bad.hex: falta el registro final"},
-        {"/i.hex /CopyFlash.hex", 4, "nothing was sent: --yes replaces the firmware"},
-        {"/bad.hex /CopyFlash.hex --yes", 0, "NO CORTE LA ALIMENTACION"},
-        {"/i.hex /CopyFlash.hex --yes --lang 2", 0, "all is sent: the logger writes its flash"}}) {
-    SCOPED_TRACE(c.words);
-    ConsoleWorld world;
-    world.files.contents["/i.hex"] = HexFile(400);
-    world.files.contents["/bad.hex"] = HexFile(400).substr(0, 45 * 400);
-    world.files.contents["/CopyFlash.hex"] = HexFile(10);
-    EXPECT_EQ(world.Run("firmware --port sim:VR200 " + std::string(c.words)), c.code);
-    EXPECT_THAT(world.err, HasSubstr(c.says));
-    EXPECT_EQ(world.Logger().Firmware().Image().empty(), c.code != 0);
-  }
-}
-
-TEST(FirmwareCommand, SaysAfterAFailureWhatToDo) {
-  ConsoleWorld world({}, {"no-alive-mark@2"});
-  world.simulated.Port().SetPaced(true);
-  world.files.contents["/i.hex"] = HexFile(400);
-  world.files.contents["/CopyFlash.hex"] = HexFile(10);
-  EXPECT_EQ(world.Run("firmware /i.hex /CopyFlash.hex --yes --port sim:VR200"), 4);
-  EXPECT_THAT(world.err, HasSubstr("the logger gave no sign of life by octet 16386 of the image: "
-                                   "check cable and earthing; the logger's flash is erased"));
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-#include "desktop/window/ElidedLabel.h"
+#include "desktop/forms/ElidedLabel.h"
 
 #include <QPainter>
 #include <QStyle>

@@ -6,14 +6,14 @@
 #include <fstream>
 #include <iterator>
 
-#include "host/TraceFile.h"
+#include "host/GrowingFiles.h"
 
 namespace ostrel {
 namespace {
 
 namespace fs = std::filesystem;
 
-class TraceFile : public testing::Test {
+class GrowingFiles : public testing::Test {
  protected:
   std::string Path(const std::string& name) const {
     return folder_.path().toStdString() + "/" + name;
@@ -22,18 +22,17 @@ class TraceFile : public testing::Test {
     std::ifstream file(Path(name), std::ios::binary);
     return {std::istreambuf_iterator<char>(file), {}};
   }
-  /// What opening a trace says; it writes a line where it can.
-  std::string Open(const std::string& name) const {
+  /// What opening a trace, or another kind, says; it writes a line where it can.
+  std::string Open(const std::string& name, decltype(OpenTrace)* open = OpenTrace) const {
     std::string why;
-    if (const auto trace = OpenTrace(Path(name), why))
-      *trace << "        0 TxSer: #40" << std::endl;
+    if (const auto file = open(Path(name), why)) *file << "        0 TxSer: #40" << std::endl;
     return why;
   }
 
   QTemporaryDir folder_;
 };
 
-TEST_F(TraceFile, ReplacesATraceAndNothingElse) {
+TEST_F(GrowingFiles, ReplacesATraceAndNothingElse) {
   const std::string configuration = "[General]\r\nVERSION=TAVRO\r\nNOMBRE=x";
   std::ofstream(Path("site.ocf"), std::ios::binary) << configuration;
   std::ofstream(Path("empty")) << "";
@@ -50,7 +49,21 @@ TEST_F(TraceFile, ReplacesATraceAndNothingElse) {
   }
 }
 
-TEST_F(TraceFile, APipeHoldsNothingUp) {
+TEST_F(GrowingFiles, ALogIsAddedToAndNothingElse) {
+  std::ofstream(Path("site.ocf"), std::ios::binary) << "[General]\r\nVERSION=TAVRO";
+  EXPECT_EQ(Open("site.ocf", OpenLog), "it holds something else than a console log");
+  EXPECT_EQ(Read("site.ocf"), "[General]\r\nVERSION=TAVRO");
+  std::string held = "Ostrel console log\n";
+  for (int i = 0; i < 2; ++i) {
+    EXPECT_EQ(Open("log", OpenLog), "");
+    EXPECT_EQ(Read("log"), held += "        0 TxSer: #40\n");
+  }
+  struct stat state {};
+  ASSERT_EQ(::stat(Path("log").c_str(), &state), 0);
+  EXPECT_EQ(state.st_mode & 0777, 0600U);
+}
+
+TEST_F(GrowingFiles, APipeHoldsNothingUp) {
   ASSERT_EQ(::mkfifo(Path("pipe").c_str(), 0600), 0);
   EXPECT_EQ(Open("pipe"), "no program reads the pipe");
   EXPECT_EQ(Open("no/folder"), "No such file or directory");
