@@ -21,15 +21,16 @@ if(WIN32)
                    "1 ICON \"${CMAKE_SOURCE_DIR}/data/windows/ostrel-configurator.ico\"")
   qt_import_plugins(ostrel-configurator
                     INCLUDE Qt6::QSQLiteDriverPlugin Qt6::QOffscreenIntegrationPlugin)
+else()
+  install(FILES ${CMAKE_SOURCE_DIR}/data/desktop/ostrel-configurator.desktop
+          DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
+  install(FILES ${CMAKE_SOURCE_DIR}/data/desktop/ostrel-configurator.xml
+          DESTINATION ${CMAKE_INSTALL_DATADIR}/mime/packages)
+  install(FILES ${CMAKE_SOURCE_DIR}/data/icons/ostrel-configurator.svg
+          DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps)
+  install(FILES ${CMAKE_SOURCE_DIR}/docs/man/ostrel-configurator.1
+          DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
 endif()
-install(FILES ${CMAKE_SOURCE_DIR}/data/desktop/ostrel-configurator.desktop
-        DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
-install(FILES ${CMAKE_SOURCE_DIR}/data/desktop/ostrel-configurator.xml
-        DESTINATION ${CMAKE_INSTALL_DATADIR}/mime/packages)
-install(FILES ${CMAKE_SOURCE_DIR}/data/icons/ostrel-configurator.svg
-        DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps)
-install(FILES ${CMAKE_SOURCE_DIR}/docs/man/ostrel-configurator.1
-        DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
 
 # Help pages of our own, a page word each, in English and Spanish; pages that are supplied apart
 # come ahead of them.
