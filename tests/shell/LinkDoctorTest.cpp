@@ -1,7 +1,7 @@
 #include <gmock/gmock.h>
 
 #include "FakeInspector.h"
-#include "VirtualWorld.h"
+#include "platform/virtual/VirtualWorld.h"
 #include "shell/doctor/LinkDoctor.h"
 #include "sim/Logger.h"
 
