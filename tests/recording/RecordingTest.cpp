@@ -198,8 +198,8 @@ TEST(Replay, ACallStandsAsLongAsItStoodThen) {
 
 TEST(Replay, TheDeviceGoesWhenItWentThen) {
   Played played("! open COM1\n@ 1.000\n> a\\r\n@ 2.000\n< b\\r\n@ 2.500\n! lost\n");
-  EXPECT_TRUE(played.world.port.CDHolding()) << "a cable";
   EXPECT_EQ(played.Ask("a\r"), "b\r");
+  EXPECT_TRUE(played.world.port.CDHolding()) << "a cable";
   EXPECT_FALSE(played.world.port.LineLost());
   played.Ask("");
   EXPECT_TRUE(played.world.port.LineLost());

@@ -197,8 +197,10 @@ TEST_F(Books, ALoggerThatAFileIsNotForIsDoubted) {
   EXPECT_THAT(Doubts(), IsEmpty());
   program->info.SerialNumber = "OTHER";
   program->info.Features ^= 0x40;
-  EXPECT_THAT(Doubts(), ElementsAre(HasSubstr("was last used with the logger"),
-                                    HasSubstr("features 0x20c, and the logger that answers has")));
+  EXPECT_THAT(
+      Doubts(),
+      ElementsAre(HasSubstr("was last used with the logger"),
+                  HasSubstr("features 0x311ddf, and the logger that answers has 0x311d9f")));
   EXPECT_EQ(DoubtsOfWriting(*program).front().text.substr(0, 8), "the file");
 }
 
@@ -219,7 +221,7 @@ TEST_F(Books, ChangesThatAFileHasNeverSeenAreTold) {
   for (int i = 0; i < 2; ++i) {  // having looked does not make it seen
     held.clear();
     EXPECT_EQ(Write().end, WriteEnd::Declined);
-    EXPECT_THAT(held, HasSubstr("1 field(s) differ, the first PTLF in General")) << "the newest";
+    EXPECT_THAT(held, HasSubstr("1 field(s) differ, the first PTLF in GENERAL")) << "the newest";
   }
   EXPECT_EQ(world.logger->Conf().ownNumber, "600777888");
   goesOn = true;
@@ -428,6 +430,23 @@ TEST(History, NamesAnEntryAndWhatItsLoggerHeldBefore) {
   EXPECT_EQ(FormerEntry(books, {.id = 3, .serial = "A", .former = "one"})->id, 1);
   EXPECT_FALSE(FormerEntry(books, {.id = 3, .serial = "A", .former = "none"}));
   EXPECT_FALSE(FormerEntry(books, {.id = 3, .serial = "B", .former = "one"}));
+}
+
+TEST(History, AFileThatIsExportedHasTheHistoryOfItsEntry) {
+  VirtualWorld world;
+  LedgerEntry entry = AskedToClose(Work(LedgerKind::Writing, LedgerState::Failed));
+  entry.content = "hash";
+  entry.fault = "silent";
+  EXPECT_FALSE(ExportEntry(world.ledger, entry, world.files, "/x.ocf").Ok()) << "it is not kept";
+  world.ledger.KeepContent("hash", "octets");
+  ASSERT_TRUE(ExportEntry(world.ledger, entry, world.files, "/x.ocf").Ok());
+  EXPECT_EQ(world.files.contents["/x.ocf"], "octets");
+  EXPECT_EQ(world.files.modes["/x.ocf"], 0600);
+  const LedgerEntry& kept = world.ledger.entries.back();
+  EXPECT_EQ(kept.kind, LedgerKind::Saving);
+  EXPECT_EQ(kept.state, LedgerState::Done);
+  EXPECT_EQ(kept.file + kept.serial + kept.content + kept.fault, "/x.ocfAhash");
+  EXPECT_FALSE(kept.closing);
 }
 
 }  // namespace
