@@ -91,7 +91,7 @@ TEST_F(OnDisk, WhatOneProgramKeepsAnotherFinds) {
 
 /// What is kept outlasts a power cut, while other programs read and write.
 TEST_F(OnDisk, IsDurableAndShared) {
-  SqlLedger ledger(path);
+  SqlLedger ledger = Ledger();
   ledger.Add({});
   const auto set = [](const char* pragma) {
     const QString name = QSqlDatabase::connectionNames().last();
