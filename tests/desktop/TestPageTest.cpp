@@ -114,7 +114,8 @@ TEST_F(TestPageView, TheStopButtonEndsTheRunWithTheFixtureOff) {
   EXPECT_EQ(Verdict(), "failed");
   EXPECT_TRUE(operatorAtWork.boxes.empty());
   EXPECT_FALSE(On(*desktop, "CommandStop")->isEnabled());
-  EXPECT_FALSE(desktop->Core().comms.PortOpen());
+  world.loop.RunFor(std::chrono::seconds(2));
+  EXPECT_FALSE(desktop->Core().comms.PortOpen()) << "the session was to end with the run";
   const std::string kept = *world.files.Read(world.Path("factory") + "/test-main.csv");
   EXPECT_NE(kept.find(",Luz,Puesto 1,"), std::string::npos) << kept;
   EXPECT_NE(kept.find(",stopped,yes,"), std::string::npos) << kept;

@@ -33,7 +33,7 @@ TEST_F(GrowingFiles, ReplacesATraceAndNothingElse) {
   std::ofstream(Path("site.ocf"), std::ios::binary) << configuration;
   std::ofstream(Path("empty")) << "";
   std::ofstream(Path("old")) << "       12 RxSer Checksum error!\n" << std::string(9000, 'x');
-  std::ofstream(Path("notes")) << "40 octets each, 12 loggers\n";
+  std::ofstream(Path("notes")) << "octets each: 40\n";
   for (const char* name : {"site.ocf", "notes"})
     EXPECT_EQ(Open(name), "it holds something else than a trace");
   EXPECT_EQ(Read("site.ocf"), configuration);
