@@ -10,9 +10,8 @@ set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
 set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
-# The programs run from a stick: they bring the compiler's own libraries with them. The compiler puts
-# some inline constants into writable memory in one object and into constant memory in another, which
-# this linker takes for two definitions of one name.
+# The programs run from a stick: they bring the compiler's own libraries with them. Their stack is as
+# large as on Linux: configurations are plain values, of which a call may hold some.
 set(CMAKE_EXE_LINKER_FLAGS_INIT
-    "-static -static-libgcc -static-libstdc++ -Wl,--allow-multiple-definition")
+    "-static -static-libgcc -static-libstdc++ -Wl,--stack,8388608")
 set(CMAKE_CROSSCOMPILING_EMULATOR wine)

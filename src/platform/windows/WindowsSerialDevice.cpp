@@ -40,6 +40,7 @@ DCB ModeOf(const DeviceOpening& how) {
 
 /// What is under way uses memory of this object: it is ended and waited for.
 WindowsSerialDevice::~WindowsSerialDevice() {
+  loop_.Cancel(nextTelling_);
   for (OverlappedCall* call : {&reading_, &writing_, &watching_}) call->Abandon(device_.Get());
   ::PurgeComm(device_.Get(), PURGE_TXABORT | PURGE_TXCLEAR);
 }
@@ -148,8 +149,13 @@ void WindowsSerialDevice::AwaitLines() {
 
 void WindowsSerialDevice::TakeLines() {
   if (!watching_.End(device_.Get())) return;  // gone, or unable: the reading tells which
-  events_.lineMoved();
   AwaitLines();
+  // Not from within the call: whoever is told may close this device.
+  loop_.Cancel(nextTelling_);
+  nextTelling_ = loop_.After(Duration::zero(), "control lines", [this] {
+    const auto tell = events_.lineMoved;
+    tell();
+  });
 }
 
 void WindowsSerialDevice::Lose() {

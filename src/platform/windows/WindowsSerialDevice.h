@@ -59,6 +59,7 @@ class WindowsSerialDevice final : public SerialDevice {
   std::size_t arrived_ = 0, read_ = 0;
   std::string underWay_, waiting_;  ///< octets that are being written, and those behind them
   DWORD moved_ = 0;                 ///< which lines have moved
+  TimerId nextTelling_ = 0;
   bool isLost_ = false;
 };
 
