@@ -1,8 +1,12 @@
 # The window: what it links, its program and what it brings to an installation.
-find_package(Qt6 REQUIRED COMPONENTS Widgets PrintSupport DBus)
-find_package(QCustomPlotQt6 REQUIRED)
+find_package(Qt6 REQUIRED COMPONENTS Widgets PrintSupport)
+if(WIN32)
+  ostrel_chart()
+else()
+  find_package(QCustomPlotQt6 REQUIRED)
+endif()
 target_link_libraries(ostrel_desktop PUBLIC Qt6::Widgets Qt6::PrintSupport
-                                            QCustomPlotQt6::QCustomPlotQt6 PRIVATE Qt6::DBus)
+                                            QCustomPlotQt6::QCustomPlotQt6)
 
 add_executable(ostrel-configurator src/desktop/main/OstrelConfigurator.cpp)
 target_link_libraries(ostrel-configurator PRIVATE ostrel_desktop)
@@ -11,14 +15,22 @@ target_compile_definitions(ostrel-configurator PRIVATE OSTREL_VERSION="${PROJECT
 add_dependencies(ostrel-configurator ostrel_lang_copy)
 
 install(TARGETS ostrel-configurator RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
-install(FILES ${CMAKE_SOURCE_DIR}/data/desktop/ostrel-configurator.desktop
-        DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
-install(FILES ${CMAKE_SOURCE_DIR}/data/desktop/ostrel-configurator.xml
-        DESTINATION ${CMAKE_INSTALL_DATADIR}/mime/packages)
-install(FILES ${CMAKE_SOURCE_DIR}/data/icons/ostrel-configurator.svg
-        DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps)
-install(FILES ${CMAKE_SOURCE_DIR}/docs/man/ostrel-configurator.1
-        DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+if(WIN32)
+  set_target_properties(ostrel-configurator PROPERTIES WIN32_EXECUTABLE ON)  # no console window
+  ostrel_resources(ostrel-configurator "Configuration of telemetry loggers"
+                   "1 ICON \"${CMAKE_SOURCE_DIR}/data/windows/ostrel-configurator.ico\"")
+  qt_import_plugins(ostrel-configurator
+                    INCLUDE Qt6::QSQLiteDriverPlugin Qt6::QOffscreenIntegrationPlugin)
+else()
+  install(FILES ${CMAKE_SOURCE_DIR}/data/desktop/ostrel-configurator.desktop
+          DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
+  install(FILES ${CMAKE_SOURCE_DIR}/data/desktop/ostrel-configurator.xml
+          DESTINATION ${CMAKE_INSTALL_DATADIR}/mime/packages)
+  install(FILES ${CMAKE_SOURCE_DIR}/data/icons/ostrel-configurator.svg
+          DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps)
+  install(FILES ${CMAKE_SOURCE_DIR}/docs/man/ostrel-configurator.1
+          DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+endif()
 
 # Help pages of our own, a page word each, in English and Spanish; pages that are supplied apart
 # come ahead of them.

@@ -4,7 +4,13 @@
 # do not like it.
 option(OSTREL_PRECOMPILE "Parse the headers that most sources include once" OFF)
 if(OSTREL_PRECOMPILE)
-  add_compile_options(-fPIC)  # as Qt asks of those who use it: one set of headers, one set of flags
+  # As Qt asks of those who use it: one set of headers, one set of flags. For Windows code is always
+  # so, and asked for it this compiler puts a constant into different sections in different places.
+  if(WIN32)
+    add_compile_definitions(MINGW_HAS_SECURE_API=1)
+  else()
+    add_compile_options(-fPIC)
+  endif()
 else()
   set(CMAKE_DISABLE_PRECOMPILE_HEADERS ON)
 endif()

@@ -1,13 +1,14 @@
 # The programs of the command line, and what stands beside them when they run.
 find_package(Qt6 REQUIRED COMPONENTS Core Gui LinguistTools Sql)
-find_package(CLI11 REQUIRED)
-find_package(nlohmann_json REQUIRED)
 target_link_libraries(ostrel_platform_qt PUBLIC Qt6::Core PRIVATE Qt6::Sql)
 if(WIN32)
+  include(cmake/Windows.cmake)
   target_link_libraries(ostrel_platform_windows PRIVATE setupapi)
 else()
-  find_package(Qt6 REQUIRED COMPONENTS SerialPort)
-  target_link_libraries(ostrel_platform_posix PUBLIC Qt6::SerialPort)
+  find_package(CLI11 REQUIRED)
+  find_package(nlohmann_json REQUIRED)
+  find_package(Qt6 REQUIRED COMPONENTS DBus SerialPort)
+  target_link_libraries(ostrel_platform_posix PUBLIC Qt6::SerialPort PRIVATE Qt6::DBus)
 endif()
 target_link_libraries(ostrel_host PUBLIC Qt6::Gui)
 target_link_libraries(ostrel_cli PUBLIC CLI11::CLI11 nlohmann_json::nlohmann_json)
@@ -24,6 +25,13 @@ target_precompile_headers(ostrelctl REUSE_FROM ostrel_std_headers)
 add_executable(ostrel-sim src/simulator/main/OstrelSim.cpp)
 target_link_libraries(ostrel-sim PRIVATE ostrel_simulator)
 target_precompile_headers(ostrel-sim REUSE_FROM ostrel_std_headers)
+
+if(WIN32)
+  ostrel_resources(ostrelctl "Command line of the Ostrel Configurator" "")
+  ostrel_resources(ostrel-sim "Simulated logger" "")
+  # What a program brings along of a toolkit that is no library of its own.
+  qt_import_plugins(ostrelctl INCLUDE Qt6::QSQLiteDriverPlugin Qt6::QOffscreenIntegrationPlugin)
+endif()
 
 # The translation table stands where an installed program looks for it: beside the programs.
 set(lang_copy ${CMAKE_BINARY_DIR}/share/ostrel-configurator/Lang.txt)

@@ -1,6 +1,7 @@
 #!/bin/sh
 # Installs the Debian packages that building, testing and running need, where any is missing; with
-# the word "windows" also those for building for Windows.
+# the word "windows" also those for building for Windows, with "windows-core" those of them that the
+# core and its tests need.
 # Works on Debian 12 and 13, as root or through sudo, and asks nothing.
 set -eu
 
@@ -26,14 +27,15 @@ libgmock-dev
 libbenchmark-dev
 dpkg-dev
 END
-  [ "$wanted" != windows ] || cat <<'END'
+  [ "${wanted%-core}" != windows ] || cat <<'END'
 g++-mingw-w64-x86-64-posix
 wine
 wine64
+googletest
+END
+  [ "$wanted" != windows ] || cat <<'END'
 nsis
 tcl
-zip
-googletest
 END
 }
 

@@ -5,7 +5,7 @@
 namespace ostrel {
 
 Machine::Machine()
-    : ledger_(UserDataFolder() + "/ledger.db"),
+    : ledger_(UserDataFolder() + "/ledger.db", ThisProgram()),
       devices_(MachineDevices(loop, settings_)),
       serialPort_(loop, *devices_) {
   ports_.AddRange(kFirstPort, kFirstSimulatedPort - 1, serialPort_);

@@ -6,9 +6,11 @@
 #include "platform/Settings.h"
 #include "platform/qt/QtEventLoop.h"
 #ifdef _WIN32
+#include "platform/windows/ConsoleEvents.h"
 #include "platform/windows/WindowsFiles.h"
 #else
 #include "platform/posix/PosixFiles.h"
+#include "platform/posix/SignalPipe.h"
 #endif
 
 namespace ostrel {
@@ -16,8 +18,10 @@ namespace ostrel {
 // What the system underneath brings, under one name whichever it is.
 #ifdef _WIN32
 using SystemFiles = WindowsFiles;
+using EndSignals = ConsoleEvents;
 #else
 using SystemFiles = PosixFiles;
+using EndSignals = SignalPipe;
 #endif
 
 /// The serial devices of this machine, with what the user's settings say of their numbers.

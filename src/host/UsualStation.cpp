@@ -4,11 +4,12 @@
 #include <QSysInfo>
 
 #include "host/Folders.h"
+#include "platform/RunningProgram.h"
 
 namespace ostrel {
 
 Station UsualStation() {
-  return {.operatorName = qEnvironmentVariable("USER").toStdString(),
+  return {.operatorName = ThisProgram().user,
           .name = QSysInfo::machineHostName().toStdString(),
           .folder = UserDataFolder() + "/factory"};
 }

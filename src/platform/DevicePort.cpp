@@ -39,8 +39,12 @@ PortFault DevicePort::Open() {
                                          .lost = [this] { Lose(); },
                                          .lineMoved = [this] { SeeLines(); }},
                                         device_);
-  if (fault != PortFault::None) return fault;
+  if (fault != PortFault::None) {
+    Close();  // the device may have gone in between
+    return fault;
+  }
   open_ = true;
+  openNumber_ = commPort_;
   lost_ = false;
   readAt_ = loop_.Now();
   carrier_ = Lines().value_or(ControlLines{}).carrier;
@@ -62,11 +66,10 @@ void DevicePort::TakeIn() {
   loop_.Cancel(std::exchange(takeTimer_, 0));
   if (!device_ || lost_) return;
   const bool isRead = loop_.Now() - readAt_ < kReaderPatience;
-  const std::size_t room = received_.Size() - received_.Count();
-  received_.Put(device_->Read(isRead ? std::min(room, kMostAtOnce) : kMostAtOnce));
+  received_.Put(device_->Read(isRead ? std::min(received_.Room(), kMostAtOnce) : kMostAtOnce));
   if (!device_->HasMore()) return;
   // What is left has no event of its own.
-  const bool isFull = received_.Count() >= received_.Size();
+  const bool isFull = received_.Room() == 0;
   takeTimer_ = loop_.After(isRead && isFull ? kReaderPatience : Duration::zero(), "receive buffer",
                            [this] { TakeIn(); });
 }
@@ -124,7 +127,7 @@ void DevicePort::DiscardOutput() {
 }
 
 PortFault DevicePort::Probe(int number) {
-  if (open_ && number == commPort_) return PortFault::None;
+  if (open_ && number == openNumber_) return PortFault::None;
   const std::string path = devices_.DeviceOf(number);
   return path.empty() ? PortFault::NoSuchPort : devices_.Try(path);
 }

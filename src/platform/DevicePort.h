@@ -79,6 +79,7 @@ class DevicePort final : public SerialPort {
   bool dtr_ = true;
   std::unique_ptr<SerialDevice> device_;
   bool open_ = false;
+  int openNumber_ = 0;  ///< of the open port: another may have been set since
   bool lost_ = false;
   ReceiveBuffer received_;
   TimePoint readAt_{};    ///< when somebody last took octets

@@ -5,16 +5,17 @@
 namespace ostrel {
 namespace {
 
-/// Makes a temporary file with a content, and hands it to `finish`, which moves it to its place.
-/// `setMode` sets its permissions while it is still empty.
+/// Makes a temporary file with a content, which is its owner's alone until `finish` moves it to its
+/// place. `setMode` gives it its permissions last: they may be such that nobody writes any more.
 FileResult ByTemporary(Files& files, const std::string& temporary, std::string_view octets,
                        const std::function<FileResult()>& setMode,
                        const std::function<FileResult()>& finish) {
   FileResult result = files.Create(temporary);
   if (!result.Ok()) return result;
-  result = setMode();
+  result = files.Protect(temporary);
   if (result.Ok()) result = files.Write(temporary, octets);
   if (result.Ok()) result = files.Sync(temporary);
+  if (result.Ok() && setMode) result = setMode();
   if (result.Ok()) result = finish();
   if (!result.Ok()) files.Remove(temporary);
   return result;
@@ -41,15 +42,14 @@ FileResult SaveWhole(Files& files, const std::string& path, std::string_view oct
   const bool keepsMode = readers == Readers::AsBefore && files.Exists(target);
   return ByTemporary(
       files, temporary, octets,
-      [&] { return keepsMode ? files.CopyMode(target, temporary) : files.Protect(temporary); },
+      [&] { return keepsMode ? files.CopyMode(target, temporary) : FileResult(); },
       [&] { return files.Rename(temporary, target); });
 }
 
 FileResult SaveNew(Files& files, const std::string& path, std::string_view octets) {
   const std::string temporary = files.TemporaryBeside(path);
-  return ByTemporary(
-      files, temporary, octets, [&] { return files.Protect(temporary); },
-      [&] { return files.MoveToNew(temporary, path); });
+  return ByTemporary(files, temporary, octets, {},
+                     [&] { return files.MoveToNew(temporary, path); });
 }
 
 }  // namespace ostrel

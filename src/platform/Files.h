@@ -52,9 +52,11 @@ class Files {
   /// A name beside a file for its next content, which no other running program uses. What killed
   /// programs have left under such names is removed.
   virtual std::string TemporaryBeside(const std::string& path) = 0;
-  /// Makes a new empty file, with the permissions that any new file gets; fails if it exists.
+  /// Makes a new empty file, its owner's alone where the system has such permissions; fails if it
+  /// exists.
   virtual FileResult Create(const std::string& path) = 0;
-  /// Gives a file the permissions, and as far as possible the owner, of another one.
+  /// Gives a file the permissions, and as far as possible the owner, of another one, and brings
+  /// them to the disk.
   virtual FileResult CopyMode(const std::string& from, const std::string& to) = 0;
   /// Makes a file or a folder accessible to its owner alone.
   virtual FileResult Protect(const std::string& path) = 0;

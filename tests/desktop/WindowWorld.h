@@ -1,7 +1,5 @@
 #pragma once
 
-#include <gtest/gtest.h>
-
 #include <QCoreApplication>
 #include <QTemporaryDir>
 #include <memory>

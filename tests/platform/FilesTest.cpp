@@ -26,7 +26,8 @@ TEST(SaveWholeTest, WritesBesideSyncsAndRenames) {
 
 TEST(SaveWholeTest, AnyFailureLeavesTheOldFileWholeAndNothingElse) {
   for (const bool exists : {false, true}) {
-    for (std::size_t n = 1; n <= 5; ++n) {
+    const std::size_t steps = exists ? 6 : 5;  // the former permissions last
+    for (std::size_t n = 1; n <= steps; ++n) {
       SCOPED_TRACE(testing::Message() << "failure of step " << n << ", exists " << exists);
       VirtualFiles files;
       if (exists) files.contents["/a.ocf"] = kOld;
@@ -40,13 +41,13 @@ TEST(SaveWholeTest, AnyFailureLeavesTheOldFileWholeAndNothingElse) {
 }
 
 TEST(SaveWholeTest, KillAtAnyStepLeavesTheOldOrTheNewFileWhole) {
-  for (std::size_t n = 1; n <= 6; ++n) {
+  for (std::size_t n = 1; n <= 7; ++n) {
     VirtualFiles files;
     files.contents["/a.ocf"] = kOld;
     files.FailFrom(n);
     const bool saved = SaveWhole(files, "/a.ocf", kNew).Ok();
     EXPECT_EQ(files.Read("/a.ocf"), saved ? kNew : kOld) << "killed at step " << n;
-    EXPECT_EQ(saved, n == 6);
+    EXPECT_EQ(saved, n == 7);
     files.Heal();
     EXPECT_TRUE(SaveWhole(files, "/a.ocf", "third").Ok()) << "in spite of what is left about";
     EXPECT_EQ(files.Read("/a.ocf"), "third");

@@ -1,7 +1,5 @@
 #include "cli/Ostrelctl.h"
 
-#include <unistd.h>
-
 #include <QGuiApplication>
 #include <QLocale>
 #include <algorithm>
@@ -11,17 +9,17 @@
 #include <string_view>
 #include <vector>
 
-#include "cli/Descriptors.h"
-#include "cli/InputLines.h"
-#include "cli/Prompt.h"
 #include "host/Folders.h"
 #include "host/GrowingFiles.h"
 #include "host/Machine.h"
 #include "host/PdfText.h"
-#include "host/SignalPipe.h"
+#include "host/System.h"
 #include "host/Translator.h"
 #include "host/UsualStation.h"
+#include "platform/Console.h"
+#include "platform/RunningProgram.h"
 #include "platform/SilentDialogs.h"
+#include "platform/qt/InputLines.h"
 #include "platform/qt/QtProcesses.h"
 
 namespace {
@@ -34,7 +32,7 @@ std::int16_t LangColumn() { return QLocale::system().language() == QLocale::Span
 
 int Run(const std::vector<std::string>& args) {
   Machine machine;
-  QtProcesses processes;
+  QtProcesses processes(ShowDocument);
   SilentDialogs nobody;
   Environment environment{
       .platform = machine.With(nobody, processes),
@@ -42,8 +40,8 @@ int Run(const std::vector<std::string>& args) {
       .inspector = machine.Inspector(),
       .out = std::cout,
       .err = std::cerr,
-      .errIsTerminal = isatty(STDERR_FILENO) == 1,
-      .outIsTerminal = isatty(STDOUT_FILENO) == 1,
+      .errIsTerminal = ErrIsTerminal(),
+      .outIsTerminal = OutIsTerminal(),
       .ask = {},
       .readDescriptor = ReadDescriptor,
       .lang = LangColumn(),
@@ -57,15 +55,15 @@ int Run(const std::vector<std::string>& args) {
       .openLineRecording = OpenLineRecording,
       .openLog = OpenLog,
       .watchInput =
-          [&](InputLines::OnLine onLine, InputLines::OnEnd onEnd) {
-            return std::make_shared<InputLines>(machine.loop, std::move(onLine), std::move(onEnd));
+          [&](auto onLine, auto onEnd) {
+            return WatchInputLines(machine.loop, {std::move(onLine), std::move(onEnd)});
           },
       .translate = MakeTranslator(),
       .makePdf = PdfOf,
       .onInterrupt = {},
-      .interrupted = SignalPipe::HasCome};
+      .interrupted = EndSignals::HasCome};
   if (HasOperator()) environment.ask = AskOnTerminal;
-  SignalPipe watch(machine.loop, [&] {
+  EndSignals watch(machine.loop, [&] {
     if (environment.onInterrupt) return environment.onInterrupt();
     std::cerr << "ostrelctl: interrupted" << std::endl;
     std::_Exit(static_cast<int>(ExitCode::Interrupted));
@@ -88,7 +86,8 @@ int main(int argc, char** argv) {
   HoldStandardInput();
   const auto application = MakeApplication(argc, argv);
   try {
-    return Run({argv + 1, argv + argc});
+    PrepareConsole();
+    return Run(ArgumentsOf(argc, argv));
   } catch (const std::exception& error) {
     std::cerr << "ostrelctl: " << error.what() << std::endl;
     return static_cast<int>(ExitCode::DialogueFailed);

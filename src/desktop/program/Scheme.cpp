@@ -1,19 +1,15 @@
 #include "desktop/program/Scheme.h"
 
 #include <QApplication>
-#include <QDBusConnection>
-#include <QDBusMessage>
-#include <QDBusVariant>
 #include <QPalette>
 #include <QProxyStyle>
 #include <QStyleFactory>
 #include <QStyleOption>
 
+#include "platform/qt/SystemScheme.h"
+
 namespace ostrel {
 namespace {
-
-constexpr int kPortalWait = 300;  // ms
-constexpr unsigned kPreferDark = 1;
 
 struct Colours {
   const char *window, *text, *base, *alternate, *button, *mid, *accent, *accentText, *dim;
@@ -129,18 +125,9 @@ QToolBar { border: none; padding: 3px; spacing: 2px; }
 QStatusBar::item { border: none; }
 )";
 
-/// Whether the desktop asks for dark windows.
+/// Whether the desktop asks for dark windows, or draws its own so.
 bool SystemIsDark() {
-  QDBusMessage ask = QDBusMessage::createMethodCall("org.freedesktop.portal.Desktop",
-                                                    "/org/freedesktop/portal/desktop",
-                                                    "org.freedesktop.portal.Settings", "Read");
-  ask << QString("org.freedesktop.appearance") << QString("color-scheme");
-  const QDBusMessage answer = QDBusConnection::sessionBus().call(ask, QDBus::Block, kPortalWait);
-  if (answer.type() == QDBusMessage::ReplyMessage && !answer.arguments().isEmpty()) {
-    QVariant value = answer.arguments().first();
-    while (value.canConvert<QDBusVariant>()) value = value.value<QDBusVariant>().variant();
-    if (value.toUInt() != 0) return value.toUInt() == kPreferDark;
-  }
+  if (const auto wantsDark = DesktopWantsDark()) return *wantsDark;
   const QPalette palette = QApplication::palette();
   return palette.color(QPalette::Window).lightness() <
          palette.color(QPalette::WindowText).lightness();

@@ -1,5 +1,7 @@
 #include "desktop/window/LinkState.h"
 
+#include <algorithm>
+
 #include "desktop/forms/Words.h"
 #include "shell/Configurator.h"
 #include "shell/RemainingTime.h"
@@ -34,11 +36,15 @@ RequestWait WaitOf(const Configurator& configurator) {
   return configurator.Connected ? RequestWait::GeneralPage : RequestWait::Session;
 }
 
-/// The age of an answer that nobody waits for: words that change each second would be laid out and
-/// drawn each second, for as long as the session rests.
+/// The age of an answer that nobody waits for, in steps of twice the one before up to a minute,
+/// then of a minute: words that change each second would be laid out and drawn each second, for as
+/// long as the session rests.
 Duration InSteps(Duration age) {
-  constexpr Duration kStep = std::chrono::seconds(5), kLongStep = std::chrono::minutes(1);
-  return age - age % (age < kLongStep ? kStep : kLongStep);
+  constexpr Duration kMinute = std::chrono::minutes(1);
+  if (age >= kMinute) return age - age % kMinute;
+  Duration step = std::chrono::seconds(5);
+  while (2 * step <= age) step *= 2;
+  return std::min(step, age);
 }
 
 /// How a session stands in which no dialogue runs.

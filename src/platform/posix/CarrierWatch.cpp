@@ -5,12 +5,15 @@
 #include <unistd.h>
 
 #include <csignal>
+#include <system_error>
 #include <utility>
 
 namespace ostrel {
 namespace {
 
 constexpr Duration kSlowLook = std::chrono::seconds(1);
+/// A change that comes before the thread waits again is none that it waits for.
+constexpr Duration kLateLook = std::chrono::milliseconds(100);
 constexpr auto kStopInterval = std::chrono::milliseconds(1);
 
 /// The signal that ends a wait in the system; it does nothing else.
@@ -38,12 +41,18 @@ CarrierWatch::CarrierWatch(QtEventLoop& loop, CarrierLine line,
   wakened_ = std::make_unique<QSocketNotifier>(wake_, QSocketNotifier::Read);
   QObject::connect(wakened_.get(), &QSocketNotifier::activated, wakened_.get(),
                    [this] { loop_.Guard([this] { TakeWake(); }); });
-  thread_ = std::thread([this] { Wait(); });
+  try {
+    thread_ = std::thread([this] { Wait(); });
+  } catch (const std::system_error&) {  // no thread is to be had
+    ended_ = true;
+    ::eventfd_write(wake_, 1);
+  }
+  lateLook_ = loop_.After(kLateLook, "carrier", [this] { Look(); });
 }
 
 CarrierWatch::~CarrierWatch() {
   Stop();
-  for (const TimerId timer : {nextLook_, slowLook_}) loop_.Cancel(timer);
+  for (const TimerId timer : {nextLook_, lateLook_, slowLook_}) loop_.Cancel(timer);
   wakened_.reset();
   if (wake_ >= 0) ::close(wake_);
 }
@@ -76,8 +85,11 @@ void CarrierWatch::TakeWake() {
   ::eventfd_read(wake_, &changes);
   if (ended_ && slowLook_ == 0) slowLook_ = loop_.Every(kSlowLook, "carrier", [this] { Look(); });
   // Not from within the notifier: whoever is told may end this watch.
-  loop_.Cancel(nextLook_);
-  nextLook_ = loop_.After(Duration::zero(), "carrier", [this] { Look(); });
+  for (const auto& [timer, delay] :
+       {std::pair(&nextLook_, Duration::zero()), {&lateLook_, kLateLook}}) {
+    loop_.Cancel(*timer);
+    *timer = loop_.After(delay, "carrier", [this] { Look(); });
+  }
 }
 
 void CarrierWatch::Look() {

@@ -20,8 +20,9 @@ struct CarrierLine {
   std::function<bool()> await;
 };
 
-/// Tells of changes of a carrier line without polling: a thread waits for them. Where a driver
-/// cannot wait, the line is looked at once a second.
+/// Tells of changes of a carrier line without polling: a thread waits for them. After each one, and
+/// at the start, there is a second look, since a change while nobody waits wakes nobody. Where a
+/// driver cannot wait, the line is looked at once a second.
 class CarrierWatch {
  public:
   /// `onLook` runs on the loop, with what a look has found, whenever the line may have changed.
@@ -43,6 +44,7 @@ class CarrierWatch {
   int wake_ = -1;  ///< an event counter: the thread writes, the loop reads
   std::unique_ptr<QSocketNotifier> wakened_;
   TimerId nextLook_ = 0;
+  TimerId lateLook_ = 0;
   TimerId slowLook_ = 0;
   std::atomic<bool> stops_ = false;
   std::atomic<bool> ended_ = false;

@@ -31,10 +31,11 @@ std::optional<int> ProcessOf(const fs::path& folder) {
 
 /// Whether a process has a device open. One of another user is looked into only by root.
 bool HasOpen(const fs::path& process, const struct stat& device) {
-  std::error_code ignored;
-  for (const auto& entry : fs::directory_iterator(process / "fd", ignored)) {
+  std::error_code error;
+  fs::directory_iterator entry(process / "fd", error);
+  for (const fs::directory_iterator end; !error && entry != end; entry.increment(error)) {
     struct stat open {};
-    if (::stat(entry.path().c_str(), &open) == 0 && S_ISCHR(open.st_mode) &&
+    if (::stat(entry->path().c_str(), &open) == 0 && S_ISCHR(open.st_mode) &&
         open.st_rdev == device.st_rdev)
       return true;
   }
@@ -43,12 +44,13 @@ bool HasOpen(const fs::path& process, const struct stat& device) {
 
 std::vector<PortFacts::Holder> HoldersOf(const struct stat& device) {
   std::vector<PortFacts::Holder> holders;
-  std::error_code ignored;
-  for (const auto& entry : fs::directory_iterator("/proc", ignored)) {
-    const auto process = ProcessOf(entry.path());
-    if (!process || *process == ::getpid() || !HasOpen(entry.path(), device)) continue;
+  std::error_code error;
+  fs::directory_iterator entry("/proc", error);
+  for (const fs::directory_iterator end; !error && entry != end; entry.increment(error)) {
+    const auto process = ProcessOf(entry->path());
+    if (!process || *process == ::getpid() || !HasOpen(entry->path(), device)) continue;
     std::string name;
-    std::getline(std::ifstream(entry.path() / "comm"), name);
+    std::getline(std::ifstream(entry->path() / "comm"), name);
     holders.push_back({*process, name});
   }
   return holders;

@@ -78,8 +78,8 @@ int PortMap::NumberFor(const std::string& path) {
   std::error_code error;
   const auto target = std::filesystem::canonical(path, error);
   if (const int number = error ? 0 : Find(target.string())) return number;
-  // A bare name of what stands here would else be taken for one in the folder of devices.
-  const bool standsHere = !error && path.find('/') == std::string::npos;
+  // A name of what stands here would else be taken for one in the folder of devices.
+  const bool standsHere = !error && path.front() != '/';
   const std::string device = standsHere ? std::filesystem::absolute(path).string() : path;
   for (int number = kFirstFree; number <= kLastFree; ++number) {
     if (userList_.try_emplace(number, device).second) return number;

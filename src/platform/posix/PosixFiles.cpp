@@ -6,6 +6,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
 #include <charconv>
 #include <chrono>
@@ -21,7 +22,9 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr int kMostLinks = 40;
-constexpr std::string_view kUnfinished = "~ostrel-";  // between a file's name and a process
+constexpr std::string_view kUnfinished = "~ostrel-";  // between a file's name and its program's
+/// Octets of a file's name that a temporary one keeps, so that its end finds room.
+constexpr std::size_t kMostKept = 160;
 constexpr mode_t kPermissions = 0777;
 constexpr mode_t kWritable = 0222;
 constexpr mode_t kOwnFile = 0600;
@@ -31,8 +34,9 @@ constexpr mode_t kAnyNewFile = 0666;  // less what the process's mask takes away
 /// An open file, closed at the end of its scope.
 class Handle {
  public:
-  Handle(const std::string& path, int flags)
-      : number_(::open(path.c_str(), flags | O_CLOEXEC, kAnyNewFile)) {}
+  /// A terminal named by mistake does not become the program's own.
+  Handle(const std::string& path, int flags, mode_t modeOfNew = kAnyNewFile)
+      : number_(::open(path.c_str(), flags | O_CLOEXEC | O_NOCTTY, modeOfNew)) {}
   ~Handle() {
     if (number_ >= 0) ::close(number_);
   }
@@ -98,6 +102,18 @@ bool LockWhole(int handle) {
   whole.l_type = F_WRLCK;
   whole.l_whence = SEEK_SET;
   return ::fcntl(handle, F_OFD_SETLK, &whole) == 0;
+}
+
+/// What tells the processes of this machine from those of others that share a folder.
+std::string MachinePart() {
+  std::array<char, 65> host{};
+  if (::gethostname(host.data(), host.size() - 1) != 0) return "-";
+  return std::string(host.data()) + "-";
+}
+
+/// How the temporary files of a file begin that programs of this machine make.
+std::string TemporaryStart(const fs::path& path) {
+  return path.filename().string().substr(0, kMostKept) + std::string(kUnfinished) + MachinePart();
 }
 
 /// Whether a temporary file of this ending was left by a process that is gone, or by a former one
@@ -178,7 +194,7 @@ FileResult PosixFiles::MayReplace(const std::string& path) {
 
 std::string PosixFiles::TemporaryBeside(const std::string& path) {
   const fs::path folder = fs::path(path).parent_path();
-  const std::string start = fs::path(path).filename().string() + std::string(kUnfinished);
+  const std::string start = TemporaryStart(path);
   std::error_code error;
   fs::directory_iterator entry(folder.empty() ? fs::path(".") : folder, error);
   for (const fs::directory_iterator end; !error && entry != end; entry.increment(error)) {
@@ -186,11 +202,11 @@ std::string PosixFiles::TemporaryBeside(const std::string& path) {
     if (name.starts_with(start) && IsLeftOver(std::string_view(name).substr(start.size())))
       Remove(entry->path().string());
   }
-  return path + std::string(kUnfinished) + std::to_string(::getpid());
+  return (folder / (start + std::to_string(::getpid()))).string();
 }
 
 FileResult PosixFiles::Create(const std::string& path) {
-  const Handle file(path, O_WRONLY | O_CREAT | O_EXCL);
+  const Handle file(path, O_WRONLY | O_CREAT | O_EXCL, kOwnFile);
   return Outcome(bool(file));
 }
 
@@ -200,7 +216,8 @@ FileResult PosixFiles::CopyMode(const std::string& from, const std::string& to) 
   if (!file || ::stat(from.c_str(), &state) != 0) return Outcome(false);
   // Only who may do everything can give a file away; for others it stays their own.
   [[maybe_unused]] const int given = ::fchown(file.Number(), state.st_uid, state.st_gid);
-  return Outcome(::fchmod(file.Number(), state.st_mode & kPermissions) == 0);
+  return Outcome(::fchmod(file.Number(), state.st_mode & kPermissions) == 0 &&
+                 SyncHandle(file.Number()));
 }
 
 FileResult PosixFiles::Protect(const std::string& path) {

@@ -1,6 +1,7 @@
 #include "platform/posix/PosixSerialDevices.h"
 
 #include <fcntl.h>
+#include <poll.h>
 #include <sys/file.h>
 #include <sys/ioctl.h>
 #include <termios.h>
@@ -22,6 +23,7 @@ namespace {
 
 /// Octets that wait for a reader, beyond which the driver keeps them.
 constexpr qint64 kMostHeld = 4096;
+constexpr Duration kNextTry = std::chrono::milliseconds(10);
 
 PortFault FaultOfErrno(int code) {
   switch (code) {
@@ -39,6 +41,28 @@ PortFault FaultOfErrno(int code) {
       return PortFault::Failed;
   }
 }
+
+/// A device that is open and locked, before anything else is done to it: what another program uses
+/// is left as it is.
+class LockedNode {
+ public:
+  explicit LockedNode(const std::string& path)
+      : number_(::open(path.c_str(), O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC)) {
+    if (number_ < 0 || ::flock(number_, LOCK_EX | LOCK_NB) != 0) fault_ = FaultOfErrno(errno);
+  }
+  ~LockedNode() {
+    if (number_ >= 0) ::close(number_);
+  }
+  LockedNode(const LockedNode&) = delete;
+  LockedNode& operator=(const LockedNode&) = delete;
+
+  PortFault Fault() const { return fault_; }
+  int Number() const { return number_; }
+
+ private:
+  int number_;
+  PortFault fault_ = PortFault::None;
+};
 
 QSerialPort::Parity ParityOf(char letter) {
   if (letter == 'E') return QSerialPort::EvenParity;
@@ -65,7 +89,7 @@ class PosixSerialDevice final : public SerialDevice {
   PosixSerialDevice(const PosixSerialDevice&) = delete;
   PosixSerialDevice& operator=(const PosixSerialDevice&) = delete;
 
-  PortFault Open(const std::string& path, const DeviceOpening& how, SerialDevices& all);
+  PortFault Open(const std::string& path, const DeviceOpening& how);
 
   std::string Read(std::size_t most) override {
     return port_.read(static_cast<qint64>(most)).toStdString();
@@ -83,6 +107,9 @@ class PosixSerialDevice final : public SerialDevice {
  private:
   bool OpenPort(const DeviceOpening& how);
   void Watch(const std::string& path);
+  void Listen();
+  void SeeError(QSerialPort::SerialPortError error);
+  bool HasGone() const;
   /// Moves a modem line, if the device has such lines.
   void Set(int line, bool on) { ::ioctl(port_.handle(), on ? TIOCMBIS : TIOCMBIC, &line); }
   /// Octets in the driver's queue; none where it counts none.
@@ -90,44 +117,64 @@ class PosixSerialDevice final : public SerialDevice {
 
   QtEventLoop& loop_;
   DeviceEvents events_;
+  std::optional<LockedNode> node_;
   mutable QSerialPort port_;  // the handle of a port is not to be had from a constant one
   std::unique_ptr<CarrierWatch> carrierWatch_;
   std::unique_ptr<NodeWatch> nodeWatch_;
+  TimerId nextTry_ = 0;
 };
 
 PosixSerialDevice::~PosixSerialDevice() {
+  loop_.Cancel(nextTry_);
   carrierWatch_.reset();
   nodeWatch_.reset();
   port_.disconnect();
-  if (!port_.isOpen()) return;
-  port_.flush();
   // A driver would hold the closing up for octets that flow control keeps back.
-  if (HeldByDriver() > 0) ::tcflush(port_.handle(), TCOFLUSH);
+  if (port_.isOpen()) port_.clear(QSerialPort::Output);
 }
 
-PortFault PosixSerialDevice::Open(const std::string& path, const DeviceOpening& how,
-                                  SerialDevices& all) {
+PortFault PosixSerialDevice::Open(const std::string& path, const DeviceOpening& how) {
+  node_.emplace(path);
+  if (node_->Fault() != PortFault::None) return node_->Fault();
   port_.setPortName(QString::fromStdString(path));
   port_.setReadBufferSize(kMostHeld);
-  if (!OpenPort(how)) {
-    const bool isRefused = port_.error() == QSerialPort::PermissionError;
-    const PortFault fault = all.Try(path);
-    if (fault != PortFault::None) return fault;
-    // The device itself can be had, so what refused it is the lock of another program.
-    return isRefused ? PortFault::Busy : PortFault::Failed;
-  }
-  if (::flock(port_.handle(), LOCK_EX | LOCK_NB) != 0) return FaultOfErrno(errno);
+  // The device itself can be had, so what refuses it now is the lock of another program.
+  if (!OpenPort(how))
+    return port_.error() == QSerialPort::PermissionError ? PortFault::Busy : PortFault::Failed;
   SetDtr(how.dtr);
   if (how.handshaking != PortHandshaking::RtsCts) SetRts(how.rts);
-  QObject::connect(&port_, &QSerialPort::readyRead, &port_, [this] { events_.arrived(); });
-  QObject::connect(&port_, &QSerialPort::errorOccurred, &port_,
-                   [this](QSerialPort::SerialPortError error) {
-                     if (error == QSerialPort::ResourceError || error == QSerialPort::ReadError ||
-                         error == QSerialPort::WriteError)
-                       events_.lost();
-                   });
+  Listen();
   Watch(path);
   return PortFault::None;
+}
+
+void PosixSerialDevice::Listen() {
+  QObject::connect(&port_, &QSerialPort::readyRead, &port_,
+                   [this] { loop_.Guard([this] { events_.arrived(); }); });
+  QObject::connect(&port_, &QSerialPort::errorOccurred, &port_,
+                   [this](QSerialPort::SerialPortError error) {
+                     loop_.Guard([this, error] { SeeError(error); });
+                   });
+}
+
+/// A call can fail in passing, as when another program has read what was announced to this one.
+/// Then writing is tried again with what is left, and reading begins anew.
+void PosixSerialDevice::SeeError(QSerialPort::SerialPortError error) {
+  if (error != QSerialPort::ResourceError && error != QSerialPort::ReadError &&
+      error != QSerialPort::WriteError)
+    return;
+  if (HasGone()) return events_.lost();
+  loop_.Cancel(nextTry_);
+  nextTry_ = loop_.After(kNextTry, "serial device", [this] {
+    port_.flush();
+    if (!HasMore()) port_.read(1);  // of nothing: it has the port listen again
+  });
+}
+
+bool PosixSerialDevice::HasGone() const {
+  pollfd state{.fd = port_.handle(), .events = 0, .revents = 0};
+  termios mode{};
+  return ::poll(&state, 1, 0) != 0 || ::tcgetattr(port_.handle(), &mode) != 0;
 }
 
 bool PosixSerialDevice::OpenPort(const DeviceOpening& how) {
@@ -157,9 +204,11 @@ void PosixSerialDevice::Watch(const std::string& path) {
                          return ::ioctl(handle, TIOCMIWAIT, TIOCM_CD | TIOCM_CTS) == 0 ||
                                 errno == EINTR;
                        }};
-  carrierWatch_ = std::make_unique<CarrierWatch>(
-      loop_, std::move(line),
-      [this](std::optional<bool> carrier) { carrier ? events_.lineMoved() : events_.lost(); });
+  carrierWatch_ =
+      std::make_unique<CarrierWatch>(loop_, std::move(line), [this](std::optional<bool> carrier) {
+        const auto tell = carrier ? events_.lineMoved : events_.lost;  // it may end this device
+        tell();
+      });
 }
 
 int PosixSerialDevice::HeldByDriver() const {
@@ -184,24 +233,17 @@ std::optional<ControlLines> PosixSerialDevice::Lines() const {
 PortFault PosixSerialDevices::Try(const std::string& path) {
   // Most numbers have no node at all; this keeps a scan of all of them instant.
   if (::access(path.c_str(), F_OK) != 0) return PortFault::NoSuchPort;
-  const int handle = ::open(path.c_str(), O_RDWR | O_NOCTTY | O_NONBLOCK | O_CLOEXEC);
-  if (handle < 0) return FaultOfErrno(errno);
+  const LockedNode node(path);
+  if (node.Fault() != PortFault::None) return node.Fault();
   termios mode{};
-  PortFault fault = PortFault::None;
-  if (::flock(handle, LOCK_EX | LOCK_NB) != 0) {
-    fault = FaultOfErrno(errno);
-  } else if (::tcgetattr(handle, &mode) != 0) {
-    fault = PortFault::Failed;
-  }
-  ::close(handle);
-  return fault;
+  return ::tcgetattr(node.Number(), &mode) == 0 ? PortFault::None : PortFault::Failed;
 }
 
 PortFault PosixSerialDevices::Open(const std::string& path, const DeviceOpening& how,
                                    DeviceEvents events, std::unique_ptr<SerialDevice>& opened) {
   if (::access(path.c_str(), F_OK) != 0) return PortFault::NoSuchPort;
   auto device = std::make_unique<PosixSerialDevice>(loop_, std::move(events));
-  const PortFault fault = device->Open(path, how, *this);
+  const PortFault fault = device->Open(path, how);
   if (fault == PortFault::None) opened = std::move(device);
   return fault;
 }

@@ -5,21 +5,13 @@
 #include <QString>
 #include <QStringList>
 #include <algorithm>
-#include <utility>
 
 namespace ostrel {
 namespace {
 
 constexpr std::string_view kShowDocument = "Explorer ";
 
-bool OpenByDesktop(const std::string& path) {
-  return QProcess::startDetached("xdg-open", {QString::fromStdString(path)});
-}
-
 }  // namespace
-
-QtProcesses::QtProcesses(Opener opener)
-    : opener_(opener ? std::move(opener) : Opener(OpenByDesktop)) {}
 
 bool QtProcesses::Start(std::string_view commandLine) {
   if (commandLine.starts_with(kShowDocument)) {

@@ -3,6 +3,7 @@
 #include <functional>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "platform/Processes.h"
 
@@ -15,8 +16,7 @@ class QtProcesses final : public Processes {
   /// Shows an existing document; false when nothing could be started.
   using Opener = std::function<bool(const std::string& path)>;
 
-  /// Opens documents by the desktop's own command; a window may hand in a better way.
-  explicit QtProcesses(Opener opener = {});
+  explicit QtProcesses(Opener opener) : opener_(std::move(opener)) {}
 
   /// False also when the document does not exist.
   bool Start(std::string_view commandLine) override;

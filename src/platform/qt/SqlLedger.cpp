@@ -1,7 +1,9 @@
 #include "platform/qt/SqlLedger.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QSqlDatabase>
 #include <QSqlError>
 #include <QSqlQuery>
@@ -9,11 +11,7 @@
 #include <QSysInfo>
 #include <QVariant>
 #include <array>
-#include <filesystem>
-#include <fstream>
-#include <iterator>
-#include <sstream>
-#include <system_error>
+#include <utility>
 
 namespace ostrel {
 namespace {
@@ -33,27 +31,6 @@ constexpr std::array kSteps{
     "CREATE TABLE content (hash TEXT PRIMARY KEY, octets BLOB NOT NULL)",
     "CREATE INDEX entry_serial ON entry (serial); CREATE INDEX entry_file ON entry (file)",
 };
-
-/// When a process began, in ticks since its machine did; empty where there is none, or one that has
-/// ended and waits for its parent to hear of it.
-std::string StartOf(const std::string& process) {
-  std::ifstream file("/proc/" + process + "/stat");
-  const std::string text{std::istreambuf_iterator<char>(file), {}};
-  constexpr int kStart = 19;  // fields behind the state
-  std::istringstream fields(text.substr(std::min(text.rfind(')') + 1, text.size())));
-  std::string state, field;
-  fields >> state;  // it stands behind the name, which may hold blanks
-  for (int i = 0; i < kStart; ++i) fields >> field;
-  return fields && state != "Z" ? field : std::string();
-}
-
-/// A process as no other one is ever named: the start of its machine, its number, its own start.
-std::string NameOf(const std::string& process) {
-  std::ifstream file("/proc/sys/kernel/random/boot_id");
-  std::string boot;
-  std::getline(file, boot);
-  return boot + "/" + process + "/" + StartOf(process);
-}
 
 QString TextOf(const std::string& text) { return QString::fromStdString(text); }
 
@@ -106,7 +83,8 @@ LedgerEntry EntryOf(const QSqlQuery& row) {
 
 }  // namespace
 
-SqlLedger::SqlLedger(std::string path) : path_(std::move(path)) {
+SqlLedger::SqlLedger(std::string path, RunningProgram program)
+    : path_(std::move(path)), program_(std::move(program)) {
   static int count = 0;
   connection_ = QString("ledger %1").arg(++count);
 }
@@ -144,8 +122,7 @@ bool SqlLedger::Open(bool makes) {
 /// Passwords stand in it: it is its owner's alone from its first octet on. The files that SQLite
 /// puts beside it take its permissions.
 bool SqlLedger::MakeFile() {
-  std::error_code error;
-  std::filesystem::create_directories(std::filesystem::path(path_).parent_path(), error);
+  QDir().mkpath(QFileInfo(TextOf(path_)).path());
   QFile file(TextOf(path_));
   if (!file.exists() && !file.open(QIODevice::ReadWrite, kOwnersAlone))
     return Fail(TextOf(path_) + ": " + file.errorString());
@@ -189,9 +166,8 @@ std::int64_t SqlLedger::Add(const LedgerEntry& entry) {
   columns.names << "user"
                 << "machine"
                 << "process";
-  columns.values << qEnvironmentVariable("USER", qEnvironmentVariable("LOGNAME"))
-                 << QSysInfo::machineHostName()
-                 << TextOf(NameOf(std::to_string(QCoreApplication::applicationPid())));
+  columns.values << TextOf(program_.user) << QSysInfo::machineHostName()
+                 << TextOf(program_.nameOf(std::to_string(QCoreApplication::applicationPid())));
   QSqlQuery query(Base());
   QStringList places(columns.names.size(), "?");
   query.prepare(QString("INSERT INTO entry (%1) VALUES (%2)")
@@ -256,7 +232,7 @@ bool SqlLedger::IsRunning(const LedgerEntry& entry) const {
   const auto first = entry.process.find('/');
   const auto last = entry.process.rfind('/');
   if (first == std::string::npos || first == last) return false;
-  return entry.process == NameOf(entry.process.substr(first + 1, last - first - 1));
+  return entry.process == program_.nameOf(entry.process.substr(first + 1, last - first - 1));
 }
 
 }  // namespace ostrel

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "platform/Ledger.h"
+#include "platform/RunningProgram.h"
 
 class QSqlDatabase;
 class QSqlQuery;
@@ -17,7 +18,8 @@ namespace ostrel {
 /// It needs an application object.
 class SqlLedger final : public Ledger {
  public:
-  explicit SqlLedger(std::string path);
+  /// `program` is who writes into it.
+  SqlLedger(std::string path, RunningProgram program);
   ~SqlLedger() override;
   SqlLedger(const SqlLedger&) = delete;
   SqlLedger& operator=(const SqlLedger&) = delete;
@@ -45,6 +47,7 @@ class SqlLedger final : public Ledger {
   QSqlDatabase Base() const;
 
   std::string path_;
+  RunningProgram program_;
   QString connection_;
   State state_ = State::Unopened;
   std::string fault_;

@@ -235,7 +235,7 @@ void LinePort::TellCarrier() {
 }
 
 PortFault LinePort::Probe(int number) {
-  if (open_ && number == commPort_) return PortFault::None;
+  if (open_ && Find(number) == open_) return PortFault::None;
   const PortFault fault = FaultOf(number);
   if (fault == PortFault::None && dtr_) {
     LineDevice& far = *Find(number)->far;

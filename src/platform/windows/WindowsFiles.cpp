@@ -145,7 +145,8 @@ std::vector<std::string> WindowsFiles::List(const std::string& folder) {
 }
 
 std::string WindowsFiles::Absolute(const std::string& path) {
-  const std::wstring whole = WholePath(ToWide(path));
+  std::wstring whole = WholePath(ToWide(path));
+  std::ranges::replace(whole, L'\\', L'/');  // the separator that the core looks for
   return whole.empty() ? path : FromWide(whole);
 }
 

@@ -7,6 +7,7 @@ namespace ostrel {
 namespace {
 
 constexpr DWORD kLines = EV_RLSD | EV_CTS;
+constexpr DWORD kDriverOctets = 4096;  // that the driver is to hold each way
 
 DCB ModeOf(const DeviceOpening& how) {
   DCB mode{};
@@ -37,79 +38,50 @@ DCB ModeOf(const DeviceOpening& how) {
 
 }  // namespace
 
-WindowsSerialDevice::WindowsSerialDevice(QtEventLoop& loop, Handle device, DeviceEvents events)
-    : loop_(loop), device_(std::move(device)), events_(std::move(events)) {
-  Prepare(reading_, &WindowsSerialDevice::TakeRead);
-  Prepare(writing_, &WindowsSerialDevice::TakeWritten);
-  Prepare(watching_, &WindowsSerialDevice::TakeLines);
-}
-
 /// What is under way uses memory of this object: it is ended and waited for.
 WindowsSerialDevice::~WindowsSerialDevice() {
-  ::CancelIo(device_.Get());
-  for (Call* call : {&reading_, &writing_, &watching_}) {
-    call->notifier.reset();
-    DWORD count = 0;
-    if (call->isUnderWay) ::GetOverlappedResult(device_.Get(), &call->state, &count, TRUE);
-  }
+  loop_.Cancel(nextTelling_);
+  for (OverlappedCall* call : {&reading_, &writing_, &watching_}) call->Abandon(device_.Get());
   ::PurgeComm(device_.Get(), PURGE_TXABORT | PURGE_TXCLEAR);
 }
 
-void WindowsSerialDevice::Prepare(Call& call, void (WindowsSerialDevice::*ended)()) {
-  call.event = Handle(::CreateEventW(nullptr, TRUE, FALSE, nullptr));
-  call.state.hEvent = call.event.Get();
-  call.notifier = std::make_unique<QWinEventNotifier>(call.event.Get());
-  call.notifier->setEnabled(false);
-  QObject::connect(call.notifier.get(), &QWinEventNotifier::activated, call.notifier.get(),
-                   [this, ended] { loop_.Guard([this, ended] { (this->*ended)(); }); });
+PortFault WindowsSerialDevice::Start(const DeviceOpening& how) {
+  const bool isPipe = ::GetFileType(device_.Get()) == FILE_TYPE_PIPE;
+  if (!isPipe && !SetMode(how)) return PortFault::Failed;
+  ReadOn();
+  if (!isPipe && ::SetCommMask(device_.Get(), kLines)) AwaitLines();
+  return isLost_ ? PortFault::Failed : PortFault::None;
 }
 
-PortFault WindowsSerialDevice::Start(const DeviceOpening& how) {
+bool WindowsSerialDevice::SetMode(const DeviceOpening& how) {
   DCB mode = ModeOf(how);
   if (!::SetCommState(device_.Get(), &mode)) {
     // A device without the lines of flow control goes on without it.
     mode.fOutxCtsFlow = FALSE;
     mode.fRtsControl = RTS_CONTROL_ENABLE;
-    if (!::SetCommState(device_.Get(), &mode)) return PortFault::Failed;
+    if (!::SetCommState(device_.Get(), &mode)) return false;
   }
   // A reading ends as soon as there is an octet, and waits for the first one without end.
   COMMTIMEOUTS times{};
   times.ReadIntervalTimeout = MAXDWORD;
   times.ReadTotalTimeoutMultiplier = MAXDWORD;
   times.ReadTotalTimeoutConstant = MAXDWORD - 1;
-  if (!::SetCommTimeouts(device_.Get(), &times)) return PortFault::Failed;
-  ::SetupComm(device_.Get(), 4096, 4096);
+  if (!::SetCommTimeouts(device_.Get(), &times)) return false;
+  ::SetupComm(device_.Get(), kDriverOctets, kDriverOctets);
   ::PurgeComm(device_.Get(), PURGE_RXCLEAR | PURGE_TXCLEAR);
-  ReadOn();
-  if (::SetCommMask(device_.Get(), kLines)) AwaitLines();
-  return isLost_ ? PortFault::Failed : PortFault::None;
-}
-
-bool WindowsSerialDevice::IsBegun(Call& call, bool ended) {
-  // Also a call that has ended at once sets its event.
-  call.isUnderWay = ended || ::GetLastError() == ERROR_IO_PENDING;
-  call.notifier->setEnabled(call.isUnderWay);
-  return call.isUnderWay;
-}
-
-std::optional<std::size_t> WindowsSerialDevice::End(Call& call) {
-  call.notifier->setEnabled(false);
-  call.isUnderWay = false;
-  DWORD count = 0;
-  if (!::GetOverlappedResult(device_.Get(), &call.state, &count, FALSE)) return {};
-  return count;
+  return true;
 }
 
 void WindowsSerialDevice::ReadOn() {
-  if (isLost_ || reading_.isUnderWay || HasMore()) return;
+  if (isLost_ || reading_.IsUnderWay() || HasMore()) return;
   arrived_ = read_ = 0;
   const auto size = static_cast<DWORD>(block_.size());
-  if (!IsBegun(reading_, ::ReadFile(device_.Get(), block_.data(), size, nullptr, &reading_.state)))
+  if (!reading_.Begun(::ReadFile(device_.Get(), block_.data(), size, nullptr, reading_.State())))
     Lose();
 }
 
 void WindowsSerialDevice::TakeRead() {
-  const std::optional<std::size_t> count = End(reading_);
+  const std::optional<std::size_t> count = reading_.End(device_.Get());
   if (!count) return Lose();
   arrived_ = *count;
   if (arrived_ > 0) events_.arrived();
@@ -130,16 +102,16 @@ void WindowsSerialDevice::Write(std::string_view octets) {
 }
 
 void WindowsSerialDevice::WriteOn() {
-  if (isLost_ || writing_.isUnderWay || waiting_.empty()) return;
+  if (isLost_ || writing_.IsUnderWay() || waiting_.empty()) return;
   underWay_ = std::exchange(waiting_, {});
   const auto size = static_cast<DWORD>(underWay_.size());
-  if (!IsBegun(writing_,
-               ::WriteFile(device_.Get(), underWay_.data(), size, nullptr, &writing_.state)))
+  if (!writing_.Begun(
+          ::WriteFile(device_.Get(), underWay_.data(), size, nullptr, writing_.State())))
     Lose();
 }
 
 void WindowsSerialDevice::TakeWritten() {
-  const std::optional<std::size_t> count = End(writing_);
+  const std::optional<std::size_t> count = writing_.End(device_.Get());
   const bool isDiscarded = !count && ::GetLastError() == ERROR_OPERATION_ABORTED;
   if (!count && !isDiscarded) return Lose();
   if (count && *count < underWay_.size()) waiting_.insert(0, underWay_, *count);
@@ -157,6 +129,7 @@ std::size_t WindowsSerialDevice::Queued() const {
 
 void WindowsSerialDevice::DiscardOutput() {
   waiting_.clear();
+  if (writing_.IsUnderWay()) ::CancelIoEx(device_.Get(), writing_.State());
   ::PurgeComm(device_.Get(), PURGE_TXABORT | PURGE_TXCLEAR);
 }
 
@@ -169,15 +142,20 @@ std::optional<ControlLines> WindowsSerialDevice::Lines() const {
 }
 
 void WindowsSerialDevice::AwaitLines() {
-  if (isLost_ || watching_.isUnderWay) return;
+  if (isLost_ || watching_.IsUnderWay()) return;
   // A device that cannot wait for its lines is used without.
-  IsBegun(watching_, ::WaitCommEvent(device_.Get(), &moved_, &watching_.state));
+  watching_.Begun(::WaitCommEvent(device_.Get(), &moved_, watching_.State()));
 }
 
 void WindowsSerialDevice::TakeLines() {
-  if (!End(watching_)) return;  // gone, or unable: the reading tells which
-  events_.lineMoved();
+  if (!watching_.End(device_.Get())) return;  // gone, or unable: the reading tells which
   AwaitLines();
+  // Not from within the call: whoever is told may close this device.
+  loop_.Cancel(nextTelling_);
+  nextTelling_ = loop_.After(Duration::zero(), "control lines", [this] {
+    const auto tell = events_.lineMoved;
+    tell();
+  });
 }
 
 void WindowsSerialDevice::Lose() {

@@ -2,16 +2,17 @@
 
 #include <windows.h>
 
-#include <QWinEventNotifier>
 #include <array>
 #include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "platform/SerialDevice.h"
 #include "platform/qt/QtEventLoop.h"
 #include "platform/windows/Handle.h"
+#include "platform/windows/OverlappedCall.h"
 
 namespace ostrel {
 
@@ -20,12 +21,13 @@ namespace ostrel {
 class WindowsSerialDevice final : public SerialDevice {
  public:
   /// `device` was opened for overlapped use.
-  WindowsSerialDevice(QtEventLoop& loop, Handle device, DeviceEvents events);
+  WindowsSerialDevice(QtEventLoop& loop, Handle device, DeviceEvents events)
+      : loop_(loop), device_(std::move(device)), events_(std::move(events)) {}
   ~WindowsSerialDevice() override;
   WindowsSerialDevice(const WindowsSerialDevice&) = delete;
   WindowsSerialDevice& operator=(const WindowsSerialDevice&) = delete;
 
-  /// Sets speed, flow control and lines, and begins to listen.
+  /// Sets speed, flow control and lines, and begins to listen. A pipe has none of them.
   PortFault Start(const DeviceOpening& how);
 
   std::string Read(std::size_t most) override;
@@ -38,19 +40,7 @@ class WindowsSerialDevice final : public SerialDevice {
   std::optional<ControlLines> Lines() const override;
 
  private:
-  /// A call that the system carries out meanwhile, and what wakes the loop at its end.
-  struct Call {
-    OVERLAPPED state{};
-    Handle event;
-    std::unique_ptr<QWinEventNotifier> notifier;
-    bool isUnderWay = false;
-  };
-
-  void Prepare(Call& call, void (WindowsSerialDevice::*ended)());
-  /// Whether a call that was just begun is under way, or has ended already.
-  bool IsBegun(Call& call, bool ended);
-  /// How many octets a call has moved; nothing when the device has gone.
-  std::optional<std::size_t> End(Call& call);
+  bool SetMode(const DeviceOpening& how);
   void ReadOn();
   void TakeRead();
   void WriteOn();
@@ -62,11 +52,14 @@ class WindowsSerialDevice final : public SerialDevice {
   QtEventLoop& loop_;
   Handle device_;
   DeviceEvents events_;
-  Call reading_, writing_, watching_;
+  OverlappedCall reading_{loop_, [this] { TakeRead(); }};
+  OverlappedCall writing_{loop_, [this] { TakeWritten(); }};
+  OverlappedCall watching_{loop_, [this] { TakeLines(); }};
   std::array<char, 4096> block_{};  ///< octets that have arrived
   std::size_t arrived_ = 0, read_ = 0;
   std::string underWay_, waiting_;  ///< octets that are being written, and those behind them
   DWORD moved_ = 0;                 ///< which lines have moved
+  TimerId nextTelling_ = 0;
   bool isLost_ = false;
 };
 

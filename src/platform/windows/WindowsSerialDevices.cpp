@@ -3,6 +3,7 @@
 #include <setupapi.h>
 #include <windows.h>
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <map>
@@ -17,6 +18,9 @@ namespace ostrel {
 namespace {
 
 constexpr std::string_view kDevicePrefix = "\\\\.\\";
+constexpr std::string_view kPipePrefix = "\\\\.\\pipe\\";
+constexpr DWORD kShortestWaitMs = 1;
+constexpr int kLastPipe = kLastPort - 6;  // those behind it are kept for simulated loggers
 /// The class of serial and parallel ports.
 constexpr GUID kPortClass = {
     0x4D36E978, 0xE325, 0x11CE, {0xBF, 0xC1, 0x08, 0x00, 0x2B, 0xE1, 0x03, 0x18}};
@@ -30,6 +34,7 @@ PortFault FaultOf(DWORD code) {
     case ERROR_ACCESS_DENIED:  // a port in use is refused so, and ports have no permissions
     case ERROR_SHARING_VIOLATION:
     case ERROR_BUSY:
+    case ERROR_PIPE_BUSY:
       return PortFault::Busy;
     default:
       return PortFault::Failed;
@@ -54,7 +59,8 @@ std::optional<int> NumberOf(std::string_view name) {
 /// Opens a device for overlapped use. Every number is opened by its device path: the short names
 /// end at COM9.
 Handle OpenDevice(const std::string& name) {
-  const std::wstring path = ToWide(std::string(kDevicePrefix) + name);
+  const std::wstring path =
+      ToWide(name.starts_with(kDevicePrefix) ? name : std::string(kDevicePrefix) + name);
   return Handle(::CreateFileW(path.c_str(), GENERIC_READ | GENERIC_WRITE, 0, nullptr, OPEN_EXISTING,
                               FILE_FLAG_OVERLAPPED, nullptr));
 }
@@ -116,10 +122,21 @@ void AddFriendlyNames(std::map<int, std::string>& ports) {
 }  // namespace
 
 std::string WindowsSerialDevices::DeviceOf(int number) const {
+  if (const auto pipe = pipes_.find(number); pipe != pipes_.end()) return pipe->second;
   return number >= kFirstPort && number <= kLastPort ? "COM" + std::to_string(number) : "";
 }
 
-int WindowsSerialDevices::NumberFor(const std::string& path) { return NumberOf(path).value_or(0); }
+int WindowsSerialDevices::NumberFor(const std::string& path) {
+  if (!path.starts_with(kPipePrefix)) return NumberOf(path).value_or(0);
+  const auto known = std::ranges::find(pipes_, path, &std::pair<const int, std::string>::second);
+  if (known != pipes_.end()) return known->first;
+  const std::map<int, std::string> ports = RegisteredPorts();
+  int number = kLastPipe;
+  while (number >= kFirstPort && (pipes_.contains(number) || ports.contains(number))) --number;
+  if (number < kFirstPort) return 0;
+  pipes_[number] = path;
+  return number;
+}
 
 std::vector<PortEntry> WindowsSerialDevices::Entries() {
   std::map<int, std::string> ports = RegisteredPorts();
@@ -131,11 +148,17 @@ std::vector<PortEntry> WindowsSerialDevices::Entries() {
 
 PortFacts WindowsSerialDevices::Inspect(int number) {
   PortFacts facts{.device = DeviceOf(number)};
-  facts.exists = facts.isPermitted = RegisteredPorts().contains(number);
+  facts.exists = pipes_.contains(number) || RegisteredPorts().contains(number);
+  facts.isPermitted = facts.exists;
   return facts;
 }
 
 PortFault WindowsSerialDevices::Try(const std::string& path) {
+  // To open a pipe would begin a session at its other end.
+  if (path.starts_with(kPipePrefix)) {
+    if (::WaitNamedPipeW(ToWide(path).c_str(), kShortestWaitMs)) return PortFault::None;
+    return ::GetLastError() == ERROR_SEM_TIMEOUT ? PortFault::Busy : FaultOf(::GetLastError());
+  }
   return OpenDevice(path) ? PortFault::None : FaultOf(::GetLastError());
 }
 

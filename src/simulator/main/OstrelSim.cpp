@@ -1,16 +1,15 @@
 #include <QCoreApplication>
 #include <exception>
-#include <filesystem>
 #include <iostream>
 #include <memory>
 #include <vector>
 
 #include "base/Printable.h"
-#include "host/SignalPipe.h"
 #include "host/SimulatedLoggers.h"
 #include "host/System.h"
-#include "platform/posix/PseudoTerminal.h"
+#include "platform/Console.h"
 #include "platform/qt/QtClock.h"
+#include "platform/qt/ServedLine.h"
 #include "recording/Replay.h"
 #include "sim/FixtureText.h"
 #include "simulator/SimOptions.h"
@@ -23,32 +22,6 @@ int Fail(ExitCode code, const std::string& sentence) {
   std::cerr << "ostrel-sim: " << sentence << std::endl;
   return static_cast<int>(code);
 }
-
-/// A symbolic link that goes when the program ends. An older link in its place is replaced, any
-/// other file is not.
-class Link {
- public:
-  Link(const std::string& path, const std::string& target) : path_(path) {
-    if (path.empty()) return;
-    std::error_code ignored;
-    if (std::filesystem::is_symlink(path, ignored)) std::filesystem::remove(path, ignored);
-    std::filesystem::create_symlink(target, path, error_);
-    if (error_) path_.clear();
-  }
-  ~Link() {
-    std::error_code ignored;
-    if (!path_.empty()) std::filesystem::remove(path_, ignored);
-  }
-  Link(const Link&) = delete;
-  Link& operator=(const Link&) = delete;
-
-  /// Why the link could not be made; empty when it stands.
-  std::string Error() const { return error_ ? error_.message() : std::string(); }
-
- private:
-  std::error_code error_;
-  std::string path_;
-};
 
 /// Keeps a logger in a file, where there is one: from the start on, at each exchange that changes
 /// it, and at the end. So it is kept whatever ends the program.
@@ -75,13 +48,13 @@ class StateFile {
 };
 
 /// Tells where the device is, and runs until a signal.
-int Serve(QtEventLoop& loop, const std::string& path, const SimOptions& options) {
+int Serve(QtEventLoop& loop, ServedLine& line, const SimOptions& options) {
   bool isOver = false;
-  const SignalPipe watch(loop, [&] { isOver = true; });
-  const Link link(options.link, path);
-  if (!link.Error().empty())
-    return Fail(ExitCode::BadFile, "cannot make the link " + options.link + ": " + link.Error());
-  std::cout << path << std::endl;
+  const EndSignals watch(loop, [&] { isOver = true; });
+  const std::string wrong = options.link.empty() ? std::string() : line.FindAs(options.link);
+  if (!wrong.empty())
+    return Fail(ExitCode::BadFile, "cannot make the link " + options.link + ": " + wrong);
+  std::cout << line.Path() << std::endl;
   loop.RunUntil([&] { return isOver; }, kNever);
   return 0;
 }
@@ -94,7 +67,7 @@ int RunReplay(const SimOptions& options) {
   auto recording = ReadRecording(text, error);
   if (!recording) return Fail(ExitCode::BadFile, options.replay + ": " + error);
   QtEventLoop loop;
-  const PseudoTerminal terminal(
+  const auto line = ServeDevice(
       loop,
       [&](LineEnd& end) {
         auto replay = std::make_unique<Replay>(loop, end, std::move(*recording));
@@ -104,7 +77,7 @@ int RunReplay(const SimOptions& options) {
         return replay;
       },
       options.isPaced);
-  return Serve(loop, terminal.SlavePath(), options);
+  return Serve(loop, *line, options);
 }
 
 /// Exit code of having read the file of the fixture; says what is wrong with it.
@@ -123,7 +96,7 @@ int RunLogger(SimOptions options) {
   QtEventLoop loop;
   options.logger.clockStart = QtClock().LocalNow();
   sim::Logger* logger = nullptr;
-  const PseudoTerminal terminal(
+  const auto line = ServeDevice(
       loop,
       [&](LineEnd& end) {
         auto made = std::make_unique<sim::Logger>(loop, end, options.logger);
@@ -141,7 +114,7 @@ int RunLogger(SimOptions options) {
     state.KeepAfter(exchange);
     std::cout << ExchangeLine(exchange) << std::endl;
   });
-  const int served = Serve(loop, terminal.SlavePath(), options);
+  const int served = Serve(loop, *line, options);
   return served != 0 ? served : state.Keep();
 }
 
@@ -151,7 +124,8 @@ int main(int argc, char** argv) {
   const QCoreApplication application(argc, argv);
   SimOptions options;
   ExitCode code = ExitCode::Done;
-  const std::vector<std::string> args(argv + 1, argv + argc);
+  PrepareConsole();
+  const std::vector<std::string> args = ArgumentsOf(argc, argv);
   if (!ParseSimOptions(args, options, std::cout, std::cerr, code)) return static_cast<int>(code);
   try {
     return options.replay.empty() ? RunLogger(std::move(options)) : RunReplay(options);

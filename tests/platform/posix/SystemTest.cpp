@@ -1,14 +1,21 @@
 #include <fcntl.h>
 #include <gmock/gmock.h>
+#include <poll.h>
+#include <sys/file.h>
+#include <sys/fsuid.h>
+#include <sys/ioctl.h>
 #include <sys/stat.h>
 #include <sys/wait.h>
+#include <termios.h>
 #include <unistd.h>
 
 #include <QTemporaryDir>
+#include <array>
 #include <csignal>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <memory>
 #include <string>
 #include <vector>
 
@@ -72,12 +79,26 @@ TEST_F(SystemTest, SavingKeepsThePermissionsOfWhatItReplaces) {
   ASSERT_TRUE(files.Protect(folder.path().toStdString()).Ok());
   EXPECT_EQ(ModeOf(""), 0700U);
   ASSERT_TRUE(SaveNew(files, Path("copy"), "x").Ok());
-  EXPECT_EQ(ModeOf("copy"), 0600U);
-  EXPECT_TRUE(SaveNew(files, Path("copy"), "y").stands);
-  EXPECT_EQ(files.Read(Path("copy")), "x");
+  ASSERT_TRUE(files.Create(Path("new")).Ok());
+  for (const char* name : {"copy", "new"}) EXPECT_EQ(ModeOf(name), 0600U) << name;
 }
 
+/// Permissions hold for who may do everything as for anybody else, while one of these lives.
+class AsAnybody {
+ public:
+  explicit AsAnybody(const std::string& folder) {
+    if (::geteuid() != 0) return;
+    EXPECT_EQ(::chown(folder.c_str(), kNobody, kNobody), 0);
+    ::setfsuid(kNobody);
+  }
+  ~AsAnybody() { ::setfsuid(::geteuid()); }
+
+ private:
+  static constexpr uid_t kNobody = 65'534;
+};
+
 TEST_F(SystemTest, WhatIsProtectedIsReplacedOnPurposeOnly) {
+  const AsAnybody user(Path(""));
   ASSERT_TRUE(SaveWhole(files, Path("a"), "old").Ok());
   ::chmod(Path("a").c_str(), 0444);
   fs::create_symlink(Path("loop"), Path("loop"));
@@ -96,16 +117,19 @@ TEST_F(SystemTest, WhatKilledProgramsHaveLeftGoesAtTheNextSave) {
   const pid_t gone = ::fork();
   if (gone == 0) ::_exit(0);
   ::waitpid(gone, nullptr, 0);
-  const std::string left = Path("a~ostrel-" + std::to_string(gone));
-  const std::string own = Path("a~ostrel-" + std::to_string(::getpid()));
+  const std::string own = files.TemporaryBeside(Path("a"));
+  const std::string stem = own.substr(0, own.size() - std::to_string(::getpid()).size());
+  const std::string left = stem + std::to_string(gone);
   fs::create_symlink(Path("nowhere"), own);
-  const std::vector<std::string> others{Path("a~ostrel-" + std::to_string(::getppid())),
-                                        Path("a~ostrel-9x"), Path("a.new0")};
+  const std::vector<std::string> others{stem + std::to_string(::getppid()), stem + "9x",
+                                        Path("a~ostrel-elsewhere-" + std::to_string(gone)),
+                                        Path("a.new0")};
   for (const std::string& path : others) files.Create(path);
   files.Create(left);
   EXPECT_EQ(SaveWhole(files, Path("a"), "x").error, "");
   EXPECT_FALSE(files.Exists(left) || fs::is_symlink(own));
   for (const std::string& path : others) EXPECT_TRUE(files.Exists(path)) << path;
+  EXPECT_EQ(SaveWhole(files, Path(std::string(250, 'n')), "x").error, "");
 }
 
 TEST_F(SystemTest, ReadsNoFileThatNobodyMeant) {
@@ -124,10 +148,6 @@ TEST_F(SystemTest, FilesTellWhatFailed) {
   EXPECT_TRUE(files.Create(Path("a")).Ok());
   EXPECT_EQ(files.Create(Path("a")).error, "File exists");
   EXPECT_FALSE(files.MakeFolder(Path("a/b")).Ok());
-  EXPECT_FALSE(files.Write(Path("none"), "x").Ok());
-  EXPECT_FALSE(files.Sync(Path("none")).Ok());
-  EXPECT_FALSE(files.Rename(Path("none"), Path("a")).Ok());
-  EXPECT_FALSE(files.Remove(Path("none")).Ok());
   EXPECT_FALSE(SaveWhole(files, Path("no/folder.ocf"), "x").Ok());
   ASSERT_EQ(::mkfifo(Path("pipe").c_str(), 0600), 0);
   EXPECT_FALSE(SaveWhole(files, Path("pipe"), "x").Ok());
@@ -177,9 +197,13 @@ TEST_F(SystemTest, PortMapNumbersDevices) {
   fs::create_symlink("/dev/zero", "m");
   EXPECT_EQ(map.NumberFor("m"), 165);
   EXPECT_EQ(fs::path(map.DeviceOf(165)).filename(), "m");
-  EXPECT_TRUE(fs::path(map.DeviceOf(165)).is_absolute()) << "else the one in /dev is meant";
+  fs::create_directory("d");
+  fs::create_symlink("/dev/full", "d/m");
+  EXPECT_EQ(map.NumberFor("d/m"), 166);
+  for (const int number : {165, 166})
+    EXPECT_TRUE(fs::path(map.DeviceOf(number)).is_absolute()) << "else the one in /dev is meant";
   fs::current_path(former);
-  for (int number = 166; number <= 250; ++number) {
+  for (int number = 167; number <= 250; ++number) {
     EXPECT_EQ(map.NumberFor("/dev/x" + std::to_string(number)), number);
   }
   EXPECT_EQ(map.NumberFor("/dev/one too many"), 0);
@@ -199,6 +223,30 @@ TEST_F(SystemTest, ExplorerShowsDocumentsThatExist) {
   EXPECT_FALSE(processes.Start(Path("no-such-program") + " x"));
   EXPECT_FALSE(processes.Start(""));
   EXPECT_THAT(opened, ElementsAre(Path("my html/Gene_ES.htm")));
+}
+
+TEST_F(SystemTest, ARefusedOpeningLeavesTheHolderOfADeviceAlone) {
+  const int master = ::posix_openpt(O_RDWR | O_NOCTTY);
+  ASSERT_TRUE(master >= 0 && ::grantpt(master) == 0 && ::unlockpt(master) == 0);
+  const std::string path = ::ptsname(master);
+  const int holder = ::open(path.c_str(), O_RDWR | O_NOCTTY);
+  ASSERT_EQ(::flock(holder, LOCK_EX | LOCK_NB), 0);
+  termios mode{};
+  ::tcgetattr(holder, &mode);
+  ::cfsetspeed(&mode, B115200);
+  mode.c_lflag |= EXTPROC;  // the other end hears of each change of the mode
+  ::tcsetattr(holder, TCSANOW, &mode);
+  QtEventLoop loop;
+  PosixSerialDevices devices(loop, PortMap());
+  std::unique_ptr<SerialDevice> opened;
+  ASSERT_EQ(::ioctl(master, TIOCPKT, std::array{1}.data()), 0);
+  EXPECT_EQ(devices.Open(path, {}, {}, opened), PortFault::Busy);
+  EXPECT_FALSE(opened);
+  pollfd told{.fd = master, .events = POLLIN | POLLPRI, .revents = 0};
+  EXPECT_EQ(::poll(&told, 1, 0), 0);
+  ::tcgetattr(holder, &mode);
+  EXPECT_EQ(::cfgetospeed(&mode), speed_t{B115200});
+  for (const int end : {holder, master}) ::close(end);
 }
 
 TEST_F(SystemTest, TellsWhoElseHasADeviceOpen) {

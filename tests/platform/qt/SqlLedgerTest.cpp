@@ -1,5 +1,4 @@
 #include <gtest/gtest.h>
-#include <sys/stat.h>
 
 #include <QSqlDatabase>
 #include <QSqlQuery>
@@ -27,6 +26,13 @@ class OnDisk : public testing::Test {
     QSqlDatabase::removeDatabase("beside");
   }
 
+  /// The ledger as a program opens it.
+  SqlLedger Ledger() const {
+    return SqlLedger(path, {.user = "nadia", .nameOf = [](const std::string& number) {
+                              return "boot/" + number + "/77";
+                            }});
+  }
+
   QTemporaryDir folder;
   std::string path = folder.path().toStdString() + "/deep/ledger.db";
 };
@@ -48,7 +54,7 @@ LedgerEntry Distinct() {
 
 TEST_F(OnDisk, WhatOneProgramKeepsAnotherFinds) {
   LedgerEntry entry = Distinct();
-  SqlLedger one(path), other(path);
+  SqlLedger one = Ledger(), other = Ledger();
   EXPECT_TRUE(other.Find({}).empty());
   EXPECT_FALSE(std::ifstream(path).is_open()) << "looking makes no file";
   entry.id = one.Add(entry);
@@ -61,38 +67,61 @@ TEST_F(OnDisk, WhatOneProgramKeepsAnotherFinds) {
   EXPECT_EQ(found[0].id, 2) << "the newest first";
   EXPECT_TRUE(one.IsRunning(found[1]));
   LedgerEntry kept = found[1];
+  EXPECT_EQ(kept.user, "nadia");
   kept.user = entry.user;
   kept.machine = entry.machine;
   kept.process = entry.process;
   EXPECT_EQ(kept, entry);
   EXPECT_FALSE(one.IsRunning(entry)) << "that is no process";
+  LedgerEntry former = found[1];
+  former.process += "1";
+  EXPECT_FALSE(one.IsRunning(former)) << "one of the same number that has ended";
   EXPECT_EQ(one.Find({.serial = "Q2"}).size(), 1U);
   EXPECT_EQ(one.Find({.file = entry.file}).size(), 1U);
+  EXPECT_EQ(one.Find({.file = "none"}).size(), 0U);
   EXPECT_EQ(one.Find({.since = "2026-03-03"}).size(), 1U);
   EXPECT_EQ(one.Find({.after = 1, .most = 1}).front().id, 2);
+  EXPECT_EQ(one.Find({.after = 1}).size(), 1U);
   const std::string octets("a\0b\xFF", 4);
   EXPECT_TRUE(one.KeepContent("h", octets) && other.KeepContent("h", octets));
   EXPECT_EQ(other.Content("h"), octets);
   EXPECT_FALSE(other.Content("g"));
-  struct stat state {};
-  ASSERT_EQ(::stat(path.c_str(), &state), 0);
-  EXPECT_EQ(state.st_mode & 0777, 0600U);
+}
+
+/// What is kept outlasts a power cut, while other programs read and write.
+TEST_F(OnDisk, IsDurableAndShared) {
+  SqlLedger ledger = Ledger();
+  ledger.Add({});
+  const auto set = [](const char* pragma) {
+    const QString name = QSqlDatabase::connectionNames().last();
+    QSqlQuery query(QString("PRAGMA %1").arg(pragma), QSqlDatabase::database(name, false));
+    return query.next() ? query.value(0).toString().toStdString() : "";
+  };
+  EXPECT_EQ(set("synchronous"), "2") << "full";
+  EXPECT_EQ(set("journal_mode"), "wal");
+  EXPECT_EQ(set("busy_timeout"), "2000");
+  Run({"ALTER TABLE entry RENAME TO away"});
+  EXPECT_EQ(ledger.Add({}), 0);
+  EXPECT_NE(ledger.Fault(), "");
+  Run({"ALTER TABLE away RENAME TO entry"});
+  EXPECT_EQ(ledger.Add({}), 2);
+  EXPECT_EQ(ledger.Fault(), "") << "all is well again";
 }
 
 TEST_F(OnDisk, AnOlderSchemaGrowsAndALaterOneIsLeftAlone) {
-  SqlLedger(path).Add({.serial = "Q1"});
+  Ledger().Add({.serial = "Q1"});
   Run({"DROP INDEX entry_serial", "DROP INDEX entry_file", "PRAGMA user_version=1"});
-  EXPECT_EQ(SqlLedger(path).Find({.serial = "Q1"}).size(), 1U);
+  EXPECT_EQ(Ledger().Find({.serial = "Q1"}).size(), 1U);
   Run({"DROP INDEX entry_serial", "PRAGMA user_version=77"});
-  SqlLedger later(path);
+  SqlLedger later = Ledger();
   EXPECT_EQ(later.Add({}), 0);
   EXPECT_EQ(later.Fault(), "the ledger was made by a later version of this program");
 }
 
 TEST_F(OnDisk, AFileThatIsNoLedgerIsToldAndLeftAlone) {
-  SqlLedger(path).Add({});
+  Ledger().Add({});
   std::ofstream(path, std::ios::trunc) << std::string(4096, 'x');
-  SqlLedger ledger(path);
+  SqlLedger ledger = Ledger();
   EXPECT_EQ(ledger.Add({}), 0);
   EXPECT_FALSE(ledger.KeepContent("h", "octets"));
   EXPECT_TRUE(ledger.Find({}).empty());

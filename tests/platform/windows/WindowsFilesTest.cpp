@@ -52,6 +52,12 @@ TEST(WindowsFilesTest, WhatKilledProgramsHaveLeftGoesAtTheNextSave) {
   EXPECT_TRUE(room.files.Exists(other));
 }
 
+TEST(WindowsFilesTest, AWholePathHasSlashes) {
+  WindowsFiles files;
+  EXPECT_EQ(files.Absolute("C:\\a\\b\\..\\x.ocf"), "C:/a/x.ocf");
+  EXPECT_EQ(files.Absolute("none.ocf").find('\\'), std::string::npos);
+}
+
 TEST(WindowsFilesTest, DevicesAreNoFiles) {
   WindowsFiles files;
   std::string octets;

@@ -1,4 +1,4 @@
-#include "host/SignalPipe.h"
+#include "platform/posix/SignalPipe.h"
 
 #include <fcntl.h>
 #include <unistd.h>

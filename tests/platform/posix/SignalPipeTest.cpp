@@ -1,16 +1,13 @@
 #include <gtest/gtest.h>
 
-#include <QCoreApplication>
 #include <csignal>
 
-#include "host/SignalPipe.h"
+#include "platform/posix/SignalPipe.h"
 
 namespace ostrel {
 namespace {
 
 TEST(SignalPipe, BringsEachSignalThatEndsAProgramUnlessItIsIgnored) {
-  int argc = 0;
-  const QCoreApplication application(argc, nullptr);
   QtEventLoop loop;
   for (const int signal : {SIGINT, SIGTERM, SIGHUP, SIGQUIT, SIGPIPE}) {
     int came = 0;
