@@ -1,5 +1,6 @@
 #include "host/GrowingFiles.h"
 
+#include <algorithm>
 #include <string_view>
 
 #include "platform/GrowingFile.h"
@@ -9,10 +10,18 @@
 namespace ostrel {
 namespace {
 
+/// Whether a line begins with the milliseconds of its time.
+bool HasTime(std::string_view line) {
+  line.remove_prefix(std::min(line.find_first_not_of(' '), line.size()));
+  const std::size_t end = line.find_first_not_of("0123456789");
+  return end != 0 && end != std::string_view::npos && line[end] == ' ';
+}
+
 /// Each line of a trace says early which way it went.
 constexpr GrowingKind kTrace{
     .isFirstLine =
         [](std::string_view line) {
+          if (!HasTime(line)) return false;
           for (const std::string_view word : {"TxSer", "RxSer", "TxGsm", "RxGsm", "octets"})
             if (line.find(word) != std::string_view::npos) return true;
           return false;

@@ -65,6 +65,7 @@ std::optional<DeviceConf> ReadBeside(Configurator& configurator,
 
 WriteResult WriteGuarded(Configurator& configurator, const WriteRoad& road) {
   const auto guarded = configurator.ledger.WithGuards();
+  configurator.session.ForgetWritten();
   WriteResult result{.sent = configurator.conf};
   result.end = Send(configurator, road, result);
   // A logger holds just this now.

@@ -248,7 +248,7 @@ bool SessionDriver::Transfer(SessionPhase kind, std::string_view status, std::st
     const bool reads = kind == SessionPhase::Reading;
     end.done = reads ? ReadOrPutBack() : comms_.WriteConf();
     end.held = reads ? context_.conf : std::move(sent_);
-    if (end.done) unverified_ = !reads;
+    if (end.done || !reads) unverified_ = end.done && !reads;
     working.Ended(end.done);
   }
   if (OnTransferEnded) OnTransferEnded(end);

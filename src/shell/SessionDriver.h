@@ -101,6 +101,8 @@ class SessionDriver {
   bool RequestWaits() const;
   /// What the last dialogue failed of, in the words of a session in a phase.
   SessionFault FaultDuring(SessionPhase phase) const;
+  /// Another writing begins: what is said of its faults does not speak of a former one.
+  void ForgetWritten() { unverified_ = false; }
   /// How the line of the session does.
   LinkLife Life() const { return LifeOf(comms_, Connected_, state_.phase); }
   /// What speaks against the model chosen: what the logger that answers has told of its own.

@@ -42,7 +42,10 @@ TEST(FirmwareCommand, IsStartedAgainAfterAFailure) {
                                    "powered and connected, and start the update again"));
   world.Expect("info --port sim:VR200", 4, "it may have no firmware");
   const TimePoint start = world.loop.Now();
-  EXPECT_EQ(world.Run(update), 0) << world.err;
+  EXPECT_EQ(world.Run(update + " --json"), 0) << world.err;
+  EXPECT_EQ(world.Json().object()["image"].toInt(), 18'012) << "octets that went out";
+  EXPECT_EQ(world.Json().object()["loader"].toInt(), 462);
+  EXPECT_EQ(world.err.find("erasing"), world.err.rfind("erasing")) << "each stage once";
   EXPECT_LT(world.loop.Now() - start, std::chrono::seconds(20)) << "it is asked for nothing more";
   EXPECT_EQ(world.Logger().Firmware().Loader() + "\r\n", HexFile(10));
 }

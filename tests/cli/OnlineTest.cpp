@@ -85,23 +85,43 @@ TEST(Online, RecordsLiveValues) {
   EXPECT_THAT(world.out, HasSubstr("flow meter 1 "));
   EXPECT_EQ(world.Run(watch + "-"), 0);
   EXPECT_EQ(std::ranges::count(world.out, '\n'), 4) << "the table alone";
+  world.environment.openRecording = [](const std::string& path, std::string& why) {
+    why = "it is a folder";
+    return path == "/" ? nullptr : std::make_unique<std::ostream>(nullptr);  // takes nothing
+  };
+  world.Expect(watch + "/full", 5, "cannot write the values to /full to the end");
   EXPECT_EQ(world.Run(watch + "/"), 5);
   EXPECT_THAT(world.err, HasSubstr("cannot write the values to /: it is a folder"));
   EXPECT_EQ(world.Run("live --port sim:BQ --count 3"), 2);
 }
 
 TEST(Online, AWatchGoesOnOverARoundThatFailed) {
-  World world([](sim::Model model) {
+  const auto fallsSilent = [](sim::Model model) {
     sim::LoggerOptions options = sim::MakeDefaultOptions(model);
     std::string error;
-    for (int request = 14; request < 20; ++request)
+    for (int request = 14; request < 40; ++request)
       options.faults.push_back(
           *sim::ParseFault("silent@" + std::to_string(request) + "!once", error));
     return options;
-  });
-  EXPECT_EQ(world.Run("live --port sim:BP --watch --count 6 --csv -"), 0) << world.err;
-  EXPECT_EQ(std::ranges::count(world.out, '\n'), 7);
-  EXPECT_THAT(world.out, HasSubstr(",,,,,")) << "a gap";
+  };
+  for (const auto& [face, gap] : {std::pair{" --csv -", ",,,,,"},
+                                  {"", "digital inputs --------\n"},
+                                  {" --json", "\"digital\":[null,null,"}}) {
+    World world(fallsSilent);
+    EXPECT_EQ(world.Run(std::string("live --port sim:BP --watch --count 9") + face), 0)
+        << world.err;
+    EXPECT_THAT(world.out, HasSubstr(gap));
+  }
+  // The states are the last but two that a single round asks for, up to three times.
+  World sound;
+  int asked = 0;
+  sound.Logger(sim::Model::BP).OnExchange([&](const sim::Exchange&) { ++asked; });
+  EXPECT_EQ(sound.Run("live --port sim:BP"), 0);
+  std::vector<std::string> faults;
+  for (int request = asked - 2; request <= asked; ++request)
+    faults.push_back("silent@" + std::to_string(request) + "!once");
+  World once(WithFaults(faults));
+  once.Expect("live --port sim:BP", 4, "the logger fell silent");
 }
 
 TEST(Online, WatchesUntilInterrupted) {

@@ -1,4 +1,5 @@
 #include "cli/World.h"
+#include "tools/Disk.h"
 
 namespace ostrel::cli {
 namespace {
@@ -22,8 +23,7 @@ struct ConsoleWorld : World {
                                  std::string& why) -> std::unique_ptr<std::ostream> {
       why = "no room";
       if (path == "/full") return nullptr;
-      auto stream = std::make_unique<std::ostream>(&log);
-      return stream;
+      return std::make_unique<std::ostream>(path == "/fills" ? nullptr : &log);
     };
     Logger().OnExchange([this](const sim::Exchange& exchange) {
       if (!exchange.request.starts_with("#01")) return;
@@ -31,7 +31,7 @@ struct ConsoleWorld : World {
       askedAt.push_back(exchange.at);
     });
   }
-  std::stringbuf log;
+  Disk log;
   std::string asked;
   std::vector<TimePoint> askedAt;
 };
@@ -45,9 +45,11 @@ TEST(TerminalCommand, SendsEachLineBehindTheAnswerToTheLastAndEndsOnceQuiet) {
   EXPECT_GE(world.askedAt[1] - world.askedAt[0], std::chrono::milliseconds(200));
   EXPECT_EQ(world.out, "Ostrel VR200 v4.12\n" + world.out.substr(19, 9) + "? nothing\n");
   EXPECT_EQ(world.log.str(), world.out);
+  EXPECT_EQ(world.log.written, 3) << "as it comes";
   EXPECT_THAT(world.err, HasSubstr("not sent, it is no command: bad\\x01line\n"));
   EXPECT_EQ(world.Run("terminal --port sim:VR200 --log /full"), 5);
   EXPECT_EQ(world.err, "ostrelctl: cannot write /full: no room\n");
+  world.Expect("terminal --port sim:VR200 --log /fills", 5, "cannot write /fills");
 }
 
 TEST(TerminalCommand, LeavesTracesAloneUnlessTold) {
@@ -56,9 +58,10 @@ TEST(TerminalCommand, LeavesTracesAloneUnlessTold) {
   EXPECT_TRUE(world.Logger().Traces());
   EXPECT_THAT(world.out, testing::ContainsRegex("^09:05:[0-9.]{6} [0-9:]{8} rx 04\n"
                                                 "09:05:[0-9.]{6} [0-9:]{8} DI="));
-  EXPECT_EQ(world.Run("terminal --port sim:VR200 --seconds 2 --json"), 0);
+  EXPECT_EQ(world.Run("terminal --port sim:VR200 --seconds 2 --json --stamp"), 0);
   EXPECT_TRUE(world.Logger().Traces());
-  EXPECT_THAT(world.out, testing::StartsWith("{\"text\":\""));
+  EXPECT_THAT(world.out, HasSubstr("\"text\":\""));
+  EXPECT_THAT(world.out, HasSubstr("\"time\":\"2026-03-02 09:05:"));
   EXPECT_EQ(world.Run("terminal --port sim:VR200 --traces off --seconds 60"), 0);
   EXPECT_FALSE(world.Logger().Traces());
   for (const char* wrong : {"--traces maybe", "--seconds nan", "--seconds 1e300", "--seconds 0"})

@@ -13,10 +13,10 @@
 #include <vector>
 
 #include "FakeInspector.h"
-#include "VirtualWorld.h"
 #include "cli/Ostrelctl.h"
 #include "host/SimulatedLoggers.h"
 #include "platform/SilentDialogs.h"
+#include "platform/virtual/VirtualWorld.h"
 
 namespace ostrel::cli {
 

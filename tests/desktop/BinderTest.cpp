@@ -81,6 +81,13 @@ TEST_F(Binder, ReadoutsTellTheirValueToThoseWhoCannotSeeThem) {
   EXPECT_EQ(told(shownLimits),
             "2 to 8, hysteresis .5: above the maximum\n0 to 12.4, hysteresis 1: above the maximum");
   EXPECT_TRUE(shownLimits->isVisibleTo(&view));
+  const QImage lit = shownLamp->grab().toImage();
+  lamp.SetValue(LedMedio::kDark);
+  const QPoint middle(lit.width() / 2, lit.height() / 2);
+  const QImage dark = shownLamp->grab().toImage();
+  EXPECT_EQ(dark.pixelColor(middle), dark.pixelColor(0, 0)) << "a ring alone";
+  EXPECT_NE(lit.pixelColor(middle), lit.pixelColor(0, 0));
+  lamp.SetValue(LedMedio::kLit);
   const QImage fresh = shownDigit->grab().toImage();
   digit.SetStale({.isStale = true, .since = "9:05:07"});
   lamp.SetStale({.isStale = true});
@@ -100,6 +107,38 @@ TEST_F(Binder, ReadoutsTellTheirValueToThoseWhoCannotSeeThem) {
   EXPECT_EQ(shownLine->toolTip(), "Well: 3 m, last read at 9:05:07");
   EXPECT_EQ(shownLine->accessibleName(), shownLine->toolTip());
   EXPECT_NE(shownLine->foregroundRole(), freshRole);
+}
+
+TEST_F(Binder, LimitsTellAndShowWhereTheValueStands) {
+  UseLanguage("en");
+  auto* shown = Show<Readout>("limits");
+  const auto drawn = [&](double value, const std::vector<AlarmBand>& bands) {
+    limits.Set(bands, value);
+    return shown->grab().toImage();
+  };
+  const std::vector<AlarmBand> one{{2, 8, 0.5}}, two{{2, 8, 0.5}, {0, 12, 1}};
+  for (const auto& [value, words] : {std::pair{1., "below the minimum"},
+                                     {2.2, "within the hysteresis"},
+                                     {5., "inside"},
+                                     {7.8, "within the hysteresis"},
+                                     {9., "above the maximum"}}) {
+    drawn(value, one);
+    EXPECT_TRUE(shown->toolTip().endsWith(": " + QString(words))) << words;
+  }
+  EXPECT_NE(drawn(5, one), drawn(6, one));
+  // The sign stands at the right: an arrow points away from the band.
+  const auto inkOf = [&](const QImage& image, int from, int rows) {
+    const QRect sign(image.width() - 15, image.height() / 2 + from, 14, rows);
+    const QColor bare = image.pixelColor(image.width() - 1, 1);
+    int ink = 0;
+    for (int y = sign.top(); y <= sign.bottom(); ++y)
+      for (int x = sign.left(); x <= sign.right(); ++x) ink += image.pixelColor(x, y) != bare;
+    return ink;
+  };
+  const QImage above = drawn(9, one), below = drawn(1, one);
+  EXPECT_LT(inkOf(above, -6, 5), inkOf(above, 1, 5));
+  EXPECT_GT(inkOf(below, -6, 5), inkOf(below, 1, 5));
+  EXPECT_LT(inkOf(drawn(9, two), -6, 5), inkOf(drawn(9, two), 1, 5)) << "the worst band counts";
 }
 
 /// A number that has not the room must not look like a smaller one.

@@ -45,7 +45,14 @@ TEST_F(WindowHistory, FindsOpensAndComparesWhatWas) {
     EXPECT_EQ(table->rowCount(), 2);
     table->selectRow(1);
     EXPECT_FALSE(modal->findChild<QPushButton*>("Open")->isEnabled()) << "a session holds nothing";
-    Type(modal->findChild<QLineEdit*>("Filter"), "lectura 2026");
+    EXPECT_EQ(table->item(0, 5)->text(), "COM7");
+    EXPECT_TRUE(table->item(0, 6)->text().contains("registros"));
+    table->selectRow(0);
+    auto* filter = modal->findChild<QLineEdit*>("Filter");
+    Type(filter, "nada");
+    EXPECT_FALSE(modal->findChild<QPushButton*>("Open")->isEnabled()) << "it is hidden";
+    filter->clear();
+    Type(filter, "LECTURA 2026");
     EXPECT_TRUE(table->isRowHidden(1));
     EXPECT_FALSE(table->isRowHidden(0));
     table->selectRow(0);
@@ -69,6 +76,7 @@ TEST_F(WindowHistory, FindsOpensAndComparesWhatWas) {
 TEST_F(WindowHistory, TellsATestRunInItsOwnLanguage) {
   ledger.Add({.kind = LedgerKind::TestRun,
               .state = LedgerState::Failed,
+              .file = "/a.ocf",
               .fault = "stopped: Error, PIN bloqueado",
               .detail = "bq, Ana\nnew number 1203050001\nVBat = 4.69 (>= 5) FAILED"});
   ModalScript modals;
@@ -76,7 +84,7 @@ TEST_F(WindowHistory, TellsATestRunInItsOwnLanguage) {
     auto* table = modal->findChild<QTableWidget*>();
     auto* measured = modal->findChild<QPlainTextEdit*>("Details");
     EXPECT_EQ(table->item(0, 2)->text(), "prueba de fábrica");
-    EXPECT_EQ(table->item(0, 6)->text(), "bq, Ana, se paró: Error, PIN bloqueado");
+    EXPECT_EQ(table->item(0, 6)->text(), "bq, Ana, /a.ocf, se paró: Error, PIN bloqueado");
     EXPECT_FALSE(measured->isVisible());
     table->selectRow(0);
     EXPECT_TRUE(measured->isVisible());

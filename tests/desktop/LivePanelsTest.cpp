@@ -1,4 +1,5 @@
 #include <QCheckBox>
+#include <QDockWidget>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -66,10 +67,15 @@ class WindowLivePanels : public OpenWindow {
 };
 
 TEST_F(WindowLivePanels, PlotsWhatIsChosenOnAnyPage) {
-  Window().GoTo("E_Digital_0");
+  Window().GoTo("E_Digital_1");
+  Core().conf.Digital[0].NOMBRE = "Gate";
   Switch("Ctrl+L");
   Run(minutes(2));
   PlotChart& chart = Chart();
+  EXPECT_EQ(PlotRow("DI0")->text(0), "Gate  DI0");
+  Core().conf.Digital[0].NOMBRE = "Door";
+  Run(seconds(2));
+  EXPECT_EQ(PlotRow("DI0")->text(0), "Door  DI0");
   EXPECT_EQ(chart.Chosen().size(), 3u) << "a chart without curves tells nothing";
   ChooseNothing();
   PlotRow("DI0")->setCheckState(0, Qt::Checked);
@@ -83,10 +89,13 @@ TEST_F(WindowLivePanels, PlotsWhatIsChosenOnAnyPage) {
   EXPECT_TRUE(PlotRow("DI0")->isHidden());
   EXPECT_FALSE(PlotRow("AI0")->isHidden());
 
-  Switch("Ctrl+L");
+  Find<QDockWidget>("Plot")->close();
   Run(seconds(2));
   const auto before = chart.View();
+  int asked = 0;
+  logger->OnExchange([&](const sim::Exchange&) { ++asked; });
   Run(minutes(1));
+  EXPECT_EQ(asked, 0) << "nothing is read for a panel that was closed";
   EXPECT_EQ(chart.View(), before) << "nothing is drawn while nobody looks";
   desktop = Make(&dialogs);
   desktop->Start("");
@@ -139,6 +148,54 @@ TEST_F(WindowLivePanels, PansAndZoomsByKeyboardAndFollowsAgain) {
   EXPECT_TRUE(chart.Pointed()) << "the list tells the values there";
 }
 
+TEST_F(WindowLivePanels, DrawsStatesInLanesAndNumbersOnTheAxesOfTheirUnits) {
+  Switch("Ctrl+L");
+  Run(seconds(20));
+  ChooseNothing();
+  for (const char* tag : {"CT0", "CT7", "AI0", "DI0", "DI1"})
+    PlotRow(tag)->setCheckState(0, Qt::Checked);
+  PlotChart& chart = Chart();
+  chart.resize(800, 400);
+  chart.replot();
+  ASSERT_EQ(chart.graphCount(), 5);
+  for (int i = 0; i < 5; ++i) {
+    const QCPGraph& graph = *chart.graph(i);
+    EXPECT_EQ(graph.lineStyle(), i < 3 ? QCPGraph::lsLine : QCPGraph::lsStepLeft);
+    for (const QCPGraphData& point : *graph.data()) {
+      EXPECT_TRUE(graph.valueAxis()->range().contains(point.value)) << i;
+      EXPECT_GE(point.value, i > 3 ? 1 : 0) << "in the lane of its own";
+    }
+  }
+  EXPECT_EQ(chart.graph(0)->valueAxis(), chart.graph(1)->valueAxis());
+  EXPECT_NE(chart.graph(0)->valueAxis(), chart.graph(2)->valueAxis());
+
+  QCPAxis& axis = *chart.graph(2)->valueAxis();
+  const QCPRange fitted = axis.range();
+  const auto behind = [&](Qt::Key key, Qt::KeyboardModifiers keys = Qt::NoModifier) {
+    Press(&chart, key, {}, keys);
+    chart.replot();
+    return axis.range();
+  };
+  EXPECT_LT(behind(Qt::Key_PageUp).size(), fitted.size());
+  EXPECT_GT(behind(Qt::Key_Up, Qt::ShiftModifier).center(), fitted.center());
+  EXPECT_EQ(behind(Qt::Key_0), fitted);
+  EXPECT_GT(behind(Qt::Key_PageDown).size(), fitted.size());
+  DoubleClick(&chart, {400, 200});
+  chart.replot();
+  EXPECT_EQ(axis.range(), fitted);
+  QEvent leave(QEvent::Leave);
+  QApplication::sendEvent(&chart, &leave);
+  EXPECT_FALSE(chart.Pointed()) << "the list tells the values of now again";
+  const auto length = chart.View().Length();
+  for (const Qt::Key key : {Qt::Key_Plus, Qt::Key_Minus}) Press(&chart, key);
+  EXPECT_EQ(chart.View().Length(), length);
+  for (const Qt::Key key : {Qt::Key_Left, Qt::Key_Left, Qt::Key_Right}) Press(&chart, key);
+  EXPECT_EQ(chart.View().Length(), length);
+  const auto end = chart.View().to;
+  Press(&chart, Qt::Key_Right);
+  EXPECT_GT(chart.View().to, end);
+}
+
 TEST_F(WindowLivePanels, SavesPictureAndValuesInView) {
   Switch("Ctrl+L");
   Run(seconds(30));
@@ -180,6 +237,7 @@ TEST_F(WindowLivePanels, KeepsItsHistoryUntilAnotherLoggerComes) {
 TEST_F(WindowLivePanels, AcceptsPointByPointAndKeepsIt) {
   Core().conf.Digital[0].NOMBRE = "Door";
   Core().conf.Analog[1].NOMBRE = "Level";
+  files.Create(Path("acceptance"));  // where the folder is to be
   Switch("Ctrl+K");
   Run(seconds(10));
   auto* list = Find<QTreeWidget>("AcceptanceList");
@@ -191,6 +249,10 @@ TEST_F(WindowLivePanels, AcceptsPointByPointAndKeepsIt) {
   EXPECT_EQ(list->topLevelItem(0)->text(2), "pass");
   EXPECT_EQ(list->topLevelItem(0)->text(4), now);
   EXPECT_EQ(list->currentItem(), list->topLevelItem(1)) << "on to the next";
+  auto* failure = list->parentWidget()->findChild<QLabel*>("Failure");
+  EXPECT_TRUE(failure->isVisibleTo(&Window()));
+  EXPECT_TRUE(failure->text().startsWith("The last change could not be kept: "));
+  files.Remove(Path("acceptance"));
   Find<QPushButton>("AcceptanceFail")->click();
   auto* note = Find<QLineEdit>("AcceptanceNote");
   Type(note, "no pulse");
@@ -222,7 +284,10 @@ TEST_F(WindowLivePanels, AcceptsPointByPointAndKeepsIt) {
   EXPECT_EQ(list->currentItem(), list->topLevelItem(3)) << "the input, not the row";
   Press(list, Qt::Key_Return);
   EXPECT_EQ(desktop->Navigator().Front()->Name(), "E_Digital");
+  Run(seconds(2));
   Core().session.Close(false);
+  Run(seconds(2));
+  EXPECT_TRUE(note->isEnabled()) << "notes are finished at the desk";
   Core().conf.Digital[2].NOMBRE = "Gate";
   Run(seconds(2));
   EXPECT_FALSE(Find<QPushButton>("AcceptancePass")->isEnabled())
@@ -237,8 +302,15 @@ TEST_F(WindowLivePanels, AcceptanceWaitsForTheEndOfADownload) {
   Run(seconds(3));
   std::set<int> shown;
   const TimerId watch = loop.Every(seconds(1), "watch", [&] {
-    if (Core().session.OwnsModel())
-      shown.insert(Find<QTreeWidget>("AcceptanceList")->topLevelItemCount());
+    if (!Core().session.OwnsModel()) return;
+    shown.insert(Find<QTreeWidget>("AcceptanceList")->topLevelItemCount());
+    for (const char* button : {"AcceptanceExport", "PlotPicture"})
+      EXPECT_FALSE(Find<QPushButton>(button)->isEnabled());
+  });
+  ModalScript script;
+  script.Expect([](QWidget* question) {
+    for (auto* button : question->findChildren<QAbstractButton*>())
+      if (button->text().contains("without saving")) button->click();
   });
   Core().session.AskFor(SessionPhase::Reading);
   Run(seconds(3));

@@ -79,13 +79,46 @@ TEST_F(TestPageView, ARunEndsOnItsColourWithItsValues) {
     EXPECT_EQ(Verdict(), isGood ? "passed" : "failed");
     EXPECT_EQ(values->rowCount(), 42);
     EXPECT_EQ(values->item(32, 0)->text(), "VO2=24 A0");
+    EXPECT_EQ(values->item(32, 2)->text(), "<= 0.7");
     EXPECT_EQ(values->item(32, 3)->text().contains("FAILED"), !isGood);
+    const QColor step = On(*desktop, "LabelTest")->grab().toImage().pixelColor(20, 20);
+    EXPECT_EQ(step.green() > step.red(), isGood) << FromQt(step.name());
     const QPoint corner = values->visualItemRect(values->item(32, 0)).topLeft() + QPoint(2, 2);
     const QImage seen = values->viewport()->grab().toImage();
     EXPECT_EQ(seen.valid(corner) && seen.pixelColor(corner) == QColor("#c92a2a"), !isGood);
     EXPECT_EQ(values->currentRow(), isGood ? 41 : 32) << "what failed first is in view";
     EXPECT_GE(On<QLabel>(*desktop, "LabelTest")->font().pointSize(), 30) << "read from afar";
   }
+}
+
+/// The run goes on behind another page, and what the operator has typed stays.
+TEST_F(TestPageView, TheStopButtonEndsTheRunWithTheFixtureOff) {
+  Connect();
+  TextBox& who = desktop->Navigator().Front()->Get<TextBox>("TextOperator");
+  who.Type("Luz");
+  const auto& fixture = world.logger->InFixture();
+  int level = 0;
+  for (const auto& [second, node] : {std::pair{6, "General"}, {8, "TEST"}})
+    world.loop.After(std::chrono::seconds(second), "operator",
+                     [this, node = node] { desktop->Window().GoTo(node); });
+  world.loop.After(std::chrono::seconds(9), "operator", [&] {
+    EXPECT_EQ(who.Text(), "Luz");
+    for (int output = 0; output < 4; ++output) level += fixture.Level(output);
+    On<QPushButton>(*desktop, "CommandStop")->click();
+    On<QPushButton>(*desktop, "CommandStop")->click();
+  });
+  On<QPushButton>(*desktop, "Command1")->click();
+  EXPECT_NE(level, 0) << "in the midst of a stage";
+  for (int output = 0; output < 4; ++output) EXPECT_EQ(fixture.Level(output), 0);
+  EXPECT_EQ(On<QLabel>(*desktop, "LabelTest")->text(), "Control de calidad NO SUPERADO");
+  EXPECT_EQ(Verdict(), "failed");
+  EXPECT_TRUE(operatorAtWork.boxes.empty());
+  EXPECT_FALSE(On(*desktop, "CommandStop")->isEnabled());
+  world.loop.RunFor(std::chrono::seconds(2));
+  EXPECT_FALSE(desktop->Core().comms.PortOpen()) << "the session was to end with the run";
+  const std::string kept = *world.files.Read(world.Path("factory") + "/test-main.csv");
+  EXPECT_NE(kept.find(",Luz,Puesto 1,"), std::string::npos) << kept;
+  EXPECT_NE(kept.find(",stopped,yes,"), std::string::npos) << kept;
 }
 
 TEST_F(TestPageView, ClosingTheWindowEndsTheRunFirst) {

@@ -213,12 +213,14 @@ TEST(TestPages, ARunHasTheLineToItself) {
   };
   station.world.dialogs.whileShown = [&](const MessageBox&) {
     EXPECT_FALSE(station.program->comms.LinkBusy);
+    station.Press("Command1");  // one run at a time
     station.world.loop.RunFor(std::chrono::seconds(3));
   };
   station.world.loop.RunFor(std::chrono::seconds(60));
   EXPECT_EQ(station.Status(), kPassedText);
   EXPECT_FALSE(station.program->Connected);
   EXPECT_THAT(station.sent, testing::Each(testing::Not(testing::AnyOf("#20", "#22", "#23"))));
+  EXPECT_EQ(std::ranges::count(station.Records("ka2"), '\n'), 2) << "headings and a board";
 }
 
 TEST(TestPages, WhatWasNotReadIsNotRecorded) {
@@ -229,7 +231,13 @@ TEST(TestPages, WhatWasNotReadIsNotRecorded) {
   station.onSent = [&](const std::string& message) {
     if (message == kKA2Rest) station.world.logger->InFixture().Sleep();
   };
+  station.onStep = [&](const std::string& text) {
+    EXPECT_TRUE(text != "Iniciando..." || station.Colour() == BackColour::Window) << "not judged";
+  };
   station.Run();
+  const auto& shown = station.page->GetForm().Get<ListBox>("Values").Rows();
+  EXPECT_EQ(shown.front().text, "Carga baja\tsin lectura\t< 0.1");
+  EXPECT_EQ(shown.size(), 7U) << "of this run alone";
   const auto record = station.LastRecord("ka2");
   EXPECT_EQ(record.at("Carga sube"), "");
   EXPECT_EQ(record.at("Carga sube band"), "> 4.18");

@@ -149,8 +149,12 @@ TEST(Records, ABoardWhoseRecordIsNotKeptHasNotPassed) {
     TestStation station(Board(sim::Model::BQ));
     station.page->GetForm().Get<CheckBox>("Check1").SetChecked(true);
     station.world.files.FailOperation(Change::Append, 2);  // behind the counter
-
     station.world.dialogs.Answer(again ? BoxAnswer::Yes : BoxAnswer::No);
+    station.world.dialogs.whileShown = [&](const MessageBox& box) {
+      if (box.buttons != BoxButtons::YesNo) return;
+      station.world.loop.RunFor(std::chrono::seconds(3));
+      EXPECT_TRUE(station.program->Connected) << "its session ends behind its record";
+    };
     station.Run();
     EXPECT_EQ(station.Boxes().front(),
               "No se puede guardar el registro de la prueba en /data/factory/test-bq.csv: no space "

@@ -33,7 +33,9 @@ TEST_F(GrowingFiles, ReplacesATraceAndNothingElse) {
   std::ofstream(Path("site.ocf"), std::ios::binary) << configuration;
   std::ofstream(Path("empty")) << "";
   std::ofstream(Path("old")) << "       12 RxSer Checksum error!\n" << std::string(9000, 'x');
-  EXPECT_EQ(Open("site.ocf"), "it holds something else than a trace");
+  std::ofstream(Path("notes")) << "octets each: 40\n";
+  for (const char* name : {"site.ocf", "notes"})
+    EXPECT_EQ(Open(name), "it holds something else than a trace");
   EXPECT_EQ(Read("site.ocf"), configuration);
   for (const char* name : {"empty", "old", "new", "old"}) {
     EXPECT_EQ(Open(name), "") << name;

@@ -10,9 +10,9 @@
 #include <utility>
 #include <vector>
 
-#include "VirtualWorld.h"
 #include "link/Comms.h"
 #include "platform/Line.h"
+#include "platform/virtual/VirtualWorld.h"
 
 namespace ostrel {
 

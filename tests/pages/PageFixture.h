@@ -2,12 +2,12 @@
 
 #include <gtest/gtest.h>
 
-#include "VirtualWorld.h"
 #include "controls/Form.h"
 #include "lang/Lang.h"
 #include "pages/ActEdit.h"
 #include "pages/Page.h"
 #include "pages/PageContext.h"
+#include "platform/virtual/VirtualWorld.h"
 #include "store/IniTool.h"
 
 namespace ostrel {

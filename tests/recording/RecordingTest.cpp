@@ -1,8 +1,8 @@
 #include <gmock/gmock.h>
 
-#include "VirtualWorld.h"
 #include "link/Frame.h"
 #include "platform/TappedPort.h"
+#include "platform/virtual/VirtualWorld.h"
 #include "recording/Recorder.h"
 #include "recording/Replay.h"
 
@@ -54,6 +54,7 @@ TEST(Recording, MasksSecretsHoweverTheLineIsTorn) {
            {"\xFFnoise" + Sealed("#114711"), "\xFFnoise" + Sealed("#11****"), "4711"},
            {Sealed("#45003APNPASS=clave77"), Sealed("#45003APNPASS=****"), "clave77"},
            {Sealed(gprs), Sealed("#BD101GPRS,1,****,clave77,2,3,4,5,6,7,8,9"), "movil"},
+           {"#9" + Sealed("#114711"), "#", "4711"},
            {"#11;BD117CTIMER\r", "#11;BD117CTIMER\r", "none"},  // 11 are its digits
            {"+APNPASS=clave77\r", "+APNPASS=****\r", "clave77"},
            {"\r\nOK\r\n\\\x01", "\r\nOK\r\n\\\x01", "none"}}) {
@@ -79,6 +80,39 @@ TEST(Recording, MasksASentCodeWhereverItComesBack) {
                                     Sealed("#114711"));
   EXPECT_THAT(text, Not(HasSubstr("4711")));
   EXPECT_THAT(text, HasSubstr("< wrong code ****\\r\n"));
+}
+
+/// A line stands where it ended, at the time of its first octet; a prompt stands ahead of what is
+/// said to it.
+TEST(Recording, TellsWhatPassedAndWhen) {
+  VirtualWorld world;
+  std::string text, error;
+  Recorder recorder(
+      world.loop, [&](std::string_view part) { text += part; }, "test");
+  const auto pass = [&](int ms) { world.loop.RunFor(milliseconds(ms)); };
+  pass(100);
+  recorder.Sent("#64;40\r");
+  recorder.Received("#1");
+  pass(20);
+  recorder.Received("0;OK\r");
+  pass(30);
+  recorder.Received("ab");
+  pass(20);
+  recorder.Sent("y\r");
+  recorder.Received("c\r");
+  pass(1000);
+  recorder.Received("login\x7F: ");
+  pass(150);
+  recorder.Sent("x");
+  recorder.Happened(LineEvent::Closed, "");
+  EXPECT_EQ(text,
+            "ostrel recording 1\n; test\n@ 0.100\n> #64;40\\r\n< #10;OK\\r\n"
+            "@ 0.170\n> y\\r\n@ 0.150\n< abc\\r\n@ 1.170\n< login\\x7F: \n"
+            "@ 1.320\n> x\n! closed\n");
+  EXPECT_TRUE(std::ranges::is_sorted(*ReadRecording(text, error), {}, &RecordedEvent::at));
+  text.clear();
+  recorder.Received(std::string(5000, 'n'));
+  EXPECT_GT(text.size(), 4000U) << "what never ends is not kept back";
 }
 
 TEST(Recording, TellsWhatIsWrongWithAText) {
@@ -125,11 +159,12 @@ struct Played {
 TEST(Replay, AnswersAsRecordedAndByContentOtherwise) {
   Played played(
       "! open COM1\n@ 0.100\n< ready\\r\n"
-      "@ 1.000\n> #64;40\\r\n@ 1.500\n< one\\r\n"
+      "@ 1.000\n> #64;40\\r\n@ 1.450\n< one\\r\n"
       "@ 2.000\n> #78;45000A=1\\r\n@ 2.010\n< refused\\r\n> #78;45001B=1\\r\n"
       "@ 3.000\n> #D8;5C260302090507\\r\n@ 3.010\n< set\\r\n"
       "@ 4.000\n> #64;40\\r\n@ 4.010\n< two\\r\n"
-      "@ 5.000\n> +\n@ 5.200\n> +\n@ 5.300\n< OK\\r\n");
+      "@ 5.000\n> +\n@ 5.200\n> +\n@ 5.300\n< OK\\r\n"
+      "@ 6.000\n> #11****\\r\n@ 6.010\n< in\\r\n");
   EXPECT_EQ(played.Ask(""), "ready\r");
   EXPECT_EQ(played.Ask("#64;40\r", milliseconds(400)), "") << "not earlier than then";
   EXPECT_EQ(played.Ask(""), "one\r");
@@ -140,14 +175,31 @@ TEST(Replay, AnswersAsRecordedAndByContentOtherwise) {
   EXPECT_EQ(played.Ask("#64;40\r"), "two\r");
   EXPECT_EQ(played.Ask("+"), "") << "a part without an end counts, too";
   EXPECT_EQ(played.Ask("+"), "OK\r");
+  EXPECT_EQ(played.Ask("#114711\r"), "in\r") << "by whatever code";
   using enum ReplayMatch;
   EXPECT_THAT(played.matches, ElementsAre(InOrder, Elsewhere, InOrder, Unknown, Alike, Elsewhere,
-                                          InOrder, InOrder));
+                                          InOrder, InOrder, InOrder));
+}
+
+TEST(Replay, ACallStandsAsLongAsItStoodThen) {
+  Played played(
+      "! open COM1\n@ 1.000\n> ATD6\\r\n@ 2.000\n! carrier on\n< CONNECT\\r\n"
+      "@ 3.000\n! carrier off\n");
+  EXPECT_FALSE(played.world.port.CDHolding());
+  EXPECT_EQ(played.Ask("ATD6\r", milliseconds(1500)), "CONNECT\r");
+  EXPECT_TRUE(played.world.port.CDHolding());
+  played.Ask("");
+  EXPECT_FALSE(played.world.port.CDHolding());
+  EXPECT_EQ(played.Ask("ATD6\r", milliseconds(100)), "");
+  for (const bool open : {false, true})
+    EXPECT_EQ(played.world.port.SetPortOpen(open), PortFault::None);
+  EXPECT_EQ(played.Ask("", milliseconds(5000)), "") << "that was another session";
 }
 
 TEST(Replay, TheDeviceGoesWhenItWentThen) {
   Played played("! open COM1\n@ 1.000\n> a\\r\n@ 2.000\n< b\\r\n@ 2.500\n! lost\n");
   EXPECT_EQ(played.Ask("a\r"), "b\r");
+  EXPECT_TRUE(played.world.port.CDHolding()) << "a cable";
   EXPECT_FALSE(played.world.port.LineLost());
   played.Ask("");
   EXPECT_TRUE(played.world.port.LineLost());

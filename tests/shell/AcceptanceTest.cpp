@@ -95,17 +95,30 @@ TEST(Acceptance, IsKeptAtEachChange) {
   AcceptanceWork newer = begin("1");
   newer.Judge(0, Verdict::Passed, "1");
   EXPECT_EQ(files.contents[kept.PathOf("1", "a.ocf")], "acceptance,2") << "of a newer program";
+  newer.Begin({"2", "a.ocf", "Tavro BP"});
+  EXPECT_TRUE(newer.MayNote()) << "another file";
+  files.contents[kept.PathOf("3", "a.ocf")] = "damaged";
+  newer.Begin({"3", "a.ocf", "Tavro BP"});
+  EXPECT_NE(newer.Error(), "");
+  newer.Begin({""});
+  EXPECT_EQ(newer.Error(), "");
 }
 
 TEST(Acceptance, KeepsNotesOfInputsThatHaveGone) {
-  const std::vector<AcceptancePoint> noted = Sample().points;
+  std::vector<AcceptancePoint> noted = Sample().points;
+  noted.push_back({"Modulo_5", "counter expansion input", 5, "Gas", Verdict::Passed});
   std::vector<AcceptancePoint> inputs{{"E_Digital_3", "digital input", 3, "Pump, \"B\""},
-                                      {"MODBUS_31", "MODBUS channel", 31, "Niño"}};
+                                      {"MODBUS_31", "MODBUS channel", 31, "Niño"},
+                                      {"Modulo_5", "flow expansion input", 5, "Gas"}};
   const auto joined = WithNotes(inputs, noted);
-  ASSERT_EQ(joined.size(), 3u);
+  ASSERT_EQ(joined.size(), 5u);
   EXPECT_EQ(joined[0], inputs[0]) << "an input of another name was never tried";
   EXPECT_EQ(joined[1], noted[2]);
-  EXPECT_EQ(joined[2], noted[1]);
+  EXPECT_EQ(joined[2], inputs[2]) << "nor was one that measures otherwise now";
+  EXPECT_EQ(joined[3], noted[1]);
+  EXPECT_EQ(joined[4], noted[3]);
+  EXPECT_EQ(CountOf(joined).passed, 2);
+  EXPECT_EQ(CountOf(joined).failed, 1);
 }
 
 TEST(Acceptance, ComesBackFromItsFile) {
@@ -123,6 +136,7 @@ TEST(Acceptance, ComesBackFromItsFile) {
   EXPECT_FALSE(kept.Latest("VR200-00013"));
   const std::string path = kept.PathOf(first.serialNumber, first.configuration);
   EXPECT_EQ(files.modes[path], 0600);
+  EXPECT_EQ(files.modes["/data/acceptance"], 0700);
   for (std::size_t n = 1; n <= 5; ++n) {
     files.FailFrom(n);
     EXPECT_FALSE(kept.Keep(Sample()).Ok());
@@ -155,14 +169,13 @@ TEST(Acceptance, TakesNoFileThatIsNotWhole) {
 
 TEST(Acceptance, IsATableForOthersInTheirWords) {
   const std::string table = AcceptanceTable(Sample(), [](std::string_view text) {
-    return text == "pass" ? "correcto" : std::string(text);
+    return text == "pass" ? "correcto" : text == "digital input" ? "entrada" : std::string(text);
   });
   EXPECT_TRUE(table.starts_with(
       "serial number,configuration,kind,number,name,verdict,note,value,time\r\n"));
-  EXPECT_NE(
-      table.find("VR200-000137,\"site, \"\"north\"\".ocf\",digital input,3,\"Pump, \"\"A\"\"\","
-                 "correcto,\"two\r\nlines\",on,2026-03-02 09:05:07\r\n"),
-      std::string::npos)
+  EXPECT_NE(table.find("VR200-000137,\"site, \"\"north\"\".ocf\",entrada,3,\"Pump, \"\"A\"\"\","
+                       "correcto,\"two\r\nlines\",on,2026-03-02 09:05:07\r\n"),
+            std::string::npos)
       << table;
 }
 

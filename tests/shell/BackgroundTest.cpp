@@ -96,7 +96,7 @@ TEST_F(UnderRounds, WhatAPageOrToolAsksForCutsTheRound) {
   EXPECT_EQ(Caption(program.setTotal.GetForm(), "LabelEstado"), "Preparado");
 }
 
-TEST_F(UnderRounds, TheTerminalHasTheLineToItself) {
+TEST_F(UnderRounds, TheTerminalAndTheUpdateHaveTheLineToThemselves) {
   Form& terminal = program.terminal.GetForm();
   navigation.NodeClick("T_Real");
   WithinARound([&] {
@@ -106,12 +106,16 @@ TEST_F(UnderRounds, TheTerminalHasTheLineToItself) {
   });
   EXPECT_GE(PlaceOf("#01VER"), 0);
   EXPECT_THAT(Get<TextView>(terminal, "TextWin").Text(), testing::HasSubstr("Ostrel VR200"));
-  requests.clear();
-  world.loop.RunFor(seconds(5));
-  EXPECT_THAT(requests, testing::IsEmpty());
-  navigation.NodeClick("Flag_0");
-  world.loop.RunFor(seconds(5));
-  EXPECT_GE(PlaceOf("#20"), 0) << "the rounds go on";
+  for (const char* page : {"Terminal", "Firmware"}) {
+    navigation.NodeClick(page);
+    world.loop.RunFor(seconds(2));
+    requests.clear();
+    world.loop.RunFor(seconds(5));
+    EXPECT_THAT(requests, testing::IsEmpty()) << page;
+    navigation.NodeClick("Flag_0");
+    world.loop.RunFor(seconds(5));
+    EXPECT_GE(PlaceOf("#20"), 0) << "the rounds go on";
+  }
 }
 
 TEST_F(UnderRounds, TheMonitorFollowsThemAndSwitchesBehindThem) {

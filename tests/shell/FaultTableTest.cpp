@@ -1,5 +1,3 @@
-#include <random>
-
 #include "SimWorld.h"
 
 namespace ostrel {
@@ -208,34 +206,6 @@ TEST(FaultTable, APortThatGoesEndsTheSessionAtOnce) {
     failedSomewhere = failedSomewhere || !out.downloaded;
   }
   EXPECT_TRUE(failedSomewhere);
-}
-
-/// Seeded faults of several kinds at random places; a failure names its seed.
-TEST(FaultTable, RandomSessionsAlwaysEndSoundly) {
-  const char* kinds[] = {
-      "drop-octet@1-4000",     "flip-bit@1-4000",      "duplicate@1-90",
-      "delay@1-90:900",        "bad-checksum@1-90",    "silent-after-record@0-40",
-      "refuse-statement@0-30", "torn-refusal@0-30:50", "wrong-closing",
-      "carrier-drop@1-90",     "vanish@1-400",         "silent@20-90"};
-  int uploaded = 0;
-  for (std::uint64_t seed = 1; seed <= 2000; ++seed) {
-    std::mt19937_64 random(seed);
-    sim::LoggerOptions options = SmallLogger("");
-    options.seed = seed;
-    std::string faults, error;
-    for (std::uint64_t n = random() % 3 + 1; n > 0; --n) {
-      const std::string fault =
-          std::string(kinds[random() % std::size(kinds)]) + (random() % 2 ? "!once" : "");
-      faults += fault + " ";
-      options.faults.push_back(*sim::ParseFault(fault, error));
-    }
-    const Outcome out = Road(options).Run();
-    uploaded += out.uploaded;
-    ExpectSound(out, "seed " + std::to_string(seed) + ": " + faults);
-    if (testing::Test::HasFailure()) return;
-  }
-  EXPECT_GT(uploaded, 200);
-  EXPECT_LT(uploaded, 1900);
 }
 
 }  // namespace

@@ -87,6 +87,25 @@ TEST_F(Writing, EndsWhereAStepFails) {
   }
 }
 
+/// An upload that was never verified is not what is said of a later one.
+TEST_F(Writing, WordsForALaterOneAreNotThoseOfAnOlderOne) {
+  const auto isUnverified = [this] {
+    return program.session.FaultDuring(SessionPhase::Reading).unverified;
+  };
+  Begin("Ostrel VR200");
+  ASSERT_TRUE(program.session.Upload());
+  EXPECT_TRUE(isUnverified());
+  BreakAt("#42", 1);
+  EXPECT_EQ(WriteGuarded(program, Road()).end, WriteEnd::NotRead);
+  EXPECT_FALSE(isUnverified()) << "the new one was not sent";
+  Begin("Ostrel VR200");
+  ASSERT_TRUE(program.session.Upload());
+  world.logger->InFixture().Sleep();
+  EXPECT_FALSE(program.session.Upload());
+  EXPECT_FALSE(program.session.Download());
+  EXPECT_FALSE(isUnverified()) << "whether it has the later one is not known";
+}
+
 TEST_F(Writing, NothingIsSentWithoutACopyOrAConsent) {
   Begin("Ostrel VR200");
   program.conf.General.DNAME = "Nuevo";

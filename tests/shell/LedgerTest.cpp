@@ -114,17 +114,56 @@ TEST_F(Books, TellAllThatWasDoneInASession) {
   EXPECT_EQ(entries[9].about, writing.id);
 }
 
-TEST_F(Books, TellWhatFailed) {
-  world.logger->OnExchange([&](const sim::Exchange& exchange) {
-    if (exchange.request.starts_with("#46")) program->session.BreakOff();
-  });
+/// What a logger held before a writing is told as far as it is known then, and no farther.
+TEST_F(Books, TellWhatFailedAndWhatWasHeldBefore) {
   Connect();
-  Name("Nuevo");
-  EXPECT_FALSE(program->session.Upload());
-  const LedgerEntry& writing = world.ledger.entries[1];
-  EXPECT_EQ(writing.state, LedgerState::Failed);
-  EXPECT_TRUE(writing.closing);
-  EXPECT_THAT(writing.fault, HasSubstr("COM7"));
+  ASSERT_TRUE(program->session.Download());
+  program->ledger.NoteCopy("/copy.ocf");
+  EXPECT_EQ(world.ledger.entries[1].copy, "/copy.ocf") << "the reading has one";
+  EXPECT_EQ(world.ledger.entries[1].firmware, VersionText(program->info.FirmwareVersion));
+  const auto write = [this](const std::string& name) {
+    Name(name);
+    EXPECT_EQ(program->session.Upload(), name != "Tercero");
+    return world.ledger.entries.back();
+  };
+  const LedgerEntry first = write("Primero");
+  EXPECT_EQ(first.former, world.ledger.entries[1].content);
+  EXPECT_EQ(first.copy, "/copy.ocf");
+  EXPECT_EQ(write("Segundo").former, first.content) << "as it has said";
+  bool answers = false;
+  world.logger->OnExchange([&](const sim::Exchange& exchange) {
+    if (exchange.request.starts_with("#46") && !answers) program->session.BreakOff();
+  });
+  const LedgerEntry doubtful = write("Tercero");
+  EXPECT_EQ(doubtful.state, LedgerState::Failed);
+  EXPECT_TRUE(doubtful.closing);
+  EXPECT_THAT(doubtful.fault, HasSubstr("COM7"));
+  answers = true;
+  Connect();
+  const LedgerEntry last = write("Cuarto");
+  EXPECT_EQ(last.former, "") << "it may be another logger";
+  EXPECT_EQ(last.copy, "");
+  program->session.Close(false);
+  world.port.SetOpenFault(SimWorld::kPort, PortFault::Busy);
+  EXPECT_FALSE(program->session.Open(SimWorld::kPort, "600123456"));
+  const LedgerEntry& session = world.ledger.entries.back();
+  EXPECT_EQ(session.kind, LedgerKind::Session);
+  EXPECT_EQ(session.state, LedgerState::Failed);
+  EXPECT_EQ(session.phone, "600123456");
+  EXPECT_NE(session.fault, "");
+}
+
+/// A file belongs to the logger that it was read from, whichever is connected when it is saved.
+TEST_F(Books, AFileThatIsSavedElsewhereKeepsItsHistory) {
+  Connect();
+  ASSERT_TRUE(program->session.Download());
+  ASSERT_TRUE(program->SaveTo("/a.ocf")->Ok());
+  Open("/a.ocf");
+  ASSERT_TRUE(program->SaveTo("/b.ocf")->Ok());
+  const LedgerEntry& saved = world.ledger.entries.back();
+  EXPECT_EQ(saved.serial, "");
+  EXPECT_EQ(saved.features, LedgerEntry::kUnknown);
+  EXPECT_EQ(saved.detail, "from /a.ocf");
 }
 
 TEST_F(Books, ThatCannotBeKeptAreToldOnceAndStopNothing) {
@@ -158,8 +197,10 @@ TEST_F(Books, ALoggerThatAFileIsNotForIsDoubted) {
   EXPECT_THAT(Doubts(), IsEmpty());
   program->info.SerialNumber = "OTHER";
   program->info.Features ^= 0x40;
-  EXPECT_THAT(Doubts(), ElementsAre(HasSubstr("was last used with the logger"),
-                                    HasSubstr("with a firmware of the features 0x")));
+  EXPECT_THAT(
+      Doubts(),
+      ElementsAre(HasSubstr("was last used with the logger"),
+                  HasSubstr("features 0x311ddf, and the logger that answers has 0x311d9f")));
   EXPECT_EQ(DoubtsOfWriting(*program).front().text.substr(0, 8), "the file");
 }
 
@@ -174,20 +215,24 @@ TEST_F(Books, ChangesThatAFileHasNeverSeenAreTold) {
   EXPECT_TRUE(Write().IsAsSent());
   EXPECT_EQ(held, "") << "the file has seen all of that";
   sim::Configuration changed = world.logger->Conf();
-  changed.name = "Tercero";
+  changed.ownNumber = "600777888";
   world.logger->SetConf(changed);
   goesOn = false;
   for (int i = 0; i < 2; ++i) {  // having looked does not make it seen
     held.clear();
     EXPECT_EQ(Write().end, WriteEnd::Declined);
-    EXPECT_THAT(held, HasSubstr("1 field(s) differ, the first NOMBRE in GENERAL"));
+    EXPECT_THAT(held, HasSubstr("1 field(s) differ, the first PTLF in GENERAL")) << "the newest";
   }
-  EXPECT_EQ(world.logger->Conf().name, "Tercero");
+  EXPECT_EQ(world.logger->Conf().ownNumber, "600777888");
   goesOn = true;
   EXPECT_TRUE(Write().IsAsSent());
   held.clear();
   EXPECT_TRUE(Write().IsAsSent());
   EXPECT_EQ(held, "");
+  world.logger->SetConf(changed);
+  for (LedgerEntry& entry : world.ledger.entries) entry.serial = "OTHER";
+  EXPECT_TRUE(Write().IsAsSent());
+  EXPECT_EQ(held, "") << "the file and this logger have not met";
 }
 
 /// The program is killed at each statement of an upload, and around its end. What the next start
@@ -313,14 +358,95 @@ TEST_F(KilledBooks, WhatStillRunsIsNotInterrupted) {
   EXPECT_EQ(open, 0);
 }
 
-TEST_F(KilledBooks, OtherWorkIsToldInWordsOfItsOwn) {
-  Connect();
-  const LedgerWork work = program->ledger.Begin(LedgerKind::Firmware, "new.hex");
-  Restart();
-  EXPECT_THAT(WordsOf(Found()).what.text, HasSubstr("firmware"));
-  Connect();
-  program->ledger.End(program->ledger.Begin(LedgerKind::Firmware, "new.hex"), "");
-  EXPECT_THAT(FindInterrupted(world.ledger), IsEmpty());
+LedgerEntry Work(LedgerKind kind, LedgerState state = LedgerState::UnderWay,
+                 const std::string& serial = "A") {
+  return {.kind = kind, .state = state, .serial = serial};
+}
+LedgerEntry AskedToClose(LedgerEntry writing) {
+  writing.closing = true;
+  return writing;
+}
+LedgerEntry About(std::int64_t id, LedgerEntry entry) {
+  entry.about = id;
+  return entry;
+}
+
+/// Which work leaves what in doubt, and what settles it. The program that did it has ended.
+TEST(FindInterrupted, TellsWhatIsOpenAndWhy) {
+  using enum LedgerKind;
+  using enum LedgerState;
+  const std::string former =
+      "it most probably holds its former configuration: it had not been asked to take the new one "
+      "over";
+  const std::string isNew =
+      "it most probably holds the new configuration: it has said that it took it over, which is "
+      "not verified";
+  const std::string unknown =
+      "whether it holds its former or the new configuration is not known: it had been asked to "
+      "take the new one over, and its answer is not known";
+  const std::string voice =
+      "its list is most probably not whole: writing begins with erasing the former one";
+  const std::string firmware =
+      "whether it holds a whole firmware is not known: a firmware is written over the former one";
+  for (const auto& [entries, told] :
+       std::initializer_list<std::pair<std::vector<LedgerEntry>, std::vector<std::string>>>{
+           {{Work(Writing)}, {"1 " + former}},
+           {{AskedToClose(Work(Writing))}, {"1 " + unknown}},
+           {{AskedToClose(Work(Writing, Failed))}, {"1 " + unknown}},
+           {{Work(Writing, Failed)}, {}},
+           {{Work(Writing, Done), About(1, Work(Reading))}, {"1 " + isNew}},
+           {{Work(Writing, Done), Work(Reading)}, {}},
+           {{Work(Writing), Work(Reading, Failed)}, {"1 " + former}},
+           {{Work(Writing), Work(Reading, Done, "B")}, {"1 " + former}},
+           {{Work(Writing), Work(Reading, Done)}, {}},
+           {{Work(Writing), Work(Writing, Done)}, {}},
+           {{Work(Writing), Work(Writing, UnderWay, "B")}, {"1 " + former, "2 " + former}},
+           {{Work(VoiceWriting), Work(Reading, Done)}, {"1 " + voice}},
+           {{Work(VoiceWriting), Work(VoiceReading, Done)}, {}},
+           {{Work(Firmware), Work(Reading, Done)}, {"1 " + firmware}},
+           {{Work(Firmware), Work(Firmware, Done)}, {}}}) {
+    VirtualLedger books;
+    for (const LedgerEntry& entry : entries) books.Add(entry);
+    books.process = "two";
+    std::vector<std::string> found;
+    for (const Interrupted& one : FindInterrupted(books)) {
+      const InterruptedWords words = WordsOf(one);
+      found.push_back(std::to_string(one.entry.id) + " " + Filled(words.holding) + ": " +
+                      Filled(words.why));
+      const bool isOfConfiguration = one.entry.kind == Writing;
+      EXPECT_EQ(one.holding == Holding::Unknown,
+                !isOfConfiguration || found.back().ends_with("known"));
+    }
+    EXPECT_EQ(found, told);
+  }
+}
+
+TEST(History, NamesAnEntryAndWhatItsLoggerHeldBefore) {
+  EXPECT_EQ(HistoryEntry("history:12"), 12);
+  for (const char* name : {"history:12x", "history:-1", "history:", "12"})
+    EXPECT_EQ(HistoryEntry(name), 0) << name;
+  VirtualLedger books;
+  for (const char* content : {"one", "two", "one"}) books.Add({.serial = "A", .content = content});
+  EXPECT_EQ(FormerEntry(books, {.id = 3, .serial = "A", .former = "one"})->id, 1);
+  EXPECT_FALSE(FormerEntry(books, {.id = 3, .serial = "A", .former = "none"}));
+  EXPECT_FALSE(FormerEntry(books, {.id = 3, .serial = "B", .former = "one"}));
+}
+
+TEST(History, AFileThatIsExportedHasTheHistoryOfItsEntry) {
+  VirtualWorld world;
+  LedgerEntry entry = AskedToClose(Work(LedgerKind::Writing, LedgerState::Failed));
+  entry.content = "hash";
+  entry.fault = "silent";
+  EXPECT_FALSE(ExportEntry(world.ledger, entry, world.files, "/x.ocf").Ok()) << "it is not kept";
+  world.ledger.KeepContent("hash", "octets");
+  ASSERT_TRUE(ExportEntry(world.ledger, entry, world.files, "/x.ocf").Ok());
+  EXPECT_EQ(world.files.contents["/x.ocf"], "octets");
+  EXPECT_EQ(world.files.modes["/x.ocf"], 0600);
+  const LedgerEntry& kept = world.ledger.entries.back();
+  EXPECT_EQ(kept.kind, LedgerKind::Saving);
+  EXPECT_EQ(kept.state, LedgerState::Done);
+  EXPECT_EQ(kept.file + kept.serial + kept.content + kept.fault, "/x.ocfAhash");
+  EXPECT_FALSE(kept.closing);
 }
 
 }  // namespace

@@ -1,3 +1,4 @@
+#include "SilentDevice.h"
 #include "World.h"
 #include "pages/ActionCatalogue.h"
 

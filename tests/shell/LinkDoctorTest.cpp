@@ -1,7 +1,9 @@
 #include <gmock/gmock.h>
 
 #include "FakeInspector.h"
-#include "VirtualWorld.h"
+#include "link/Frame.h"
+#include "platform/TappedPort.h"
+#include "platform/virtual/VirtualWorld.h"
 #include "shell/doctor/LinkDoctor.h"
 #include "sim/Logger.h"
 
@@ -9,6 +11,14 @@ namespace ostrel {
 namespace {
 
 using testing::HasSubstr;
+
+/// Keeps what is said to a device.
+struct Heard final : LineListener {
+  void Sent(std::string_view octets) override { text += octets; }
+  void Received(std::string_view) override {}
+  void Happened(LineEvent, const std::string&) override {}
+  std::string text;
+};
 
 /// A logger with faults at COM7.
 struct Ward {
@@ -29,7 +39,11 @@ struct Ward {
   Diagnosis Look(const std::string& phone = {}, const std::string& code = "4711") {
     DoctorQuestion question{.port = 7, .phone = phone};
     question.askCode = [code](std::string& given) { given = code; };
-    LinkDoctor doctor(world.platform, inspector, std::move(question));
+    TappedPort tapped(world.port);
+    tapped.Join(heard);
+    const Platform platform{world.loop,  tapped,          world.settings, world.dialogs,
+                            world.files, world.processes, world.clock,    nullptr};
+    LinkDoctor doctor(platform, inspector, std::move(question));
     Diagnosis diagnosis = doctor.Run();
     EXPECT_FALSE(world.port.PortOpen());
     return diagnosis;
@@ -45,6 +59,7 @@ struct Ward {
   VirtualWorld world;
   FakeInspector inspector;
   LineEnd* end = nullptr;
+  Heard heard;
 };
 
 TEST(LinkDoctor, TellsFromTheAnswersWhatToTry) {
@@ -71,6 +86,9 @@ TEST(LinkDoctor, FindsTheModemAndCallsByIt) {
   Ward ward({}, true);
   const Diagnosis called = ward.Look("600123456");
   EXPECT_TRUE(called.isWell) << Ward::Text(called);
+  EXPECT_LT(ward.heard.text.find("ATD"), ward.heard.text.find(";40"))
+      << "greeted in the call alone";
+  EXPECT_THAT(ward.heard.text, testing::EndsWith("ATH\r")) << "the call ends";
   const Diagnosis refused = ward.Look("600123456", "wrong");
   EXPECT_THAT(Ward::Text(refused), HasSubstr("did not accept the access code"));
   EXPECT_EQ(refused.advice, Spoken(DoctorWord::LookAtNumber));
@@ -106,15 +124,29 @@ TEST(LinkDoctor, LooksAtTheMachineBeforeItOpensAnything) {
 }
 
 TEST(LinkDoctor, ALineThatIsHeldWantsItsControlLines) {
-  for (const bool takesOctets : {false, true}) {
+  for (const auto& [takesOctets, isHeld] :
+       {std::pair{false, true}, {false, false}, {true, false}}) {
     Ward ward({"silent"});
     ward.world.port.SetLines(7, {.clearToSend = takesOctets, .dataSetReady = true});
-    ward.world.port.HoldOutput(7, !takesOctets);
+    ward.world.port.HoldOutput(7, isHeld);
     const Diagnosis diagnosis = ward.Look();
     const std::string text = Ward::Text(diagnosis);
     EXPECT_THAT(text, HasSubstr(takesOctets ? "CTS on, DSR on, DCD off" : "take octets: CTS off"));
     EXPECT_EQ(diagnosis.advice,
               Spoken(takesOctets ? DoctorWord::CheckSupply : DoctorWord::CheckLines));
+  }
+}
+
+TEST(LinkDoctor, TellsWhatComesUnasked) {
+  for (const auto& [octets, found] : std::vector<std::pair<std::string, std::string>>{
+           {"", "nothing comes unasked"},
+           {"hello\r\n", "readable text comes unasked, octets: 7"},
+           {FrameOf("#BD000") + "\r", "frames of a logger come unasked: 1"},
+           {"\x01\x02\x91w", "noise: 4 octets, of which 3"}}) {
+    Ward ward({"silent"});
+    ward.world.loop.After(std::chrono::milliseconds(200), "device",
+                          [&] { ward.end->Send(octets); });
+    EXPECT_THAT(Ward::Text(ward.Look()), HasSubstr("listening: " + found));
   }
 }
 

@@ -15,6 +15,7 @@ using std::chrono::seconds;
 
 constexpr LiveId kLevel{LiveKind::Analog, 0};
 constexpr LiveId kCount{LiveKind::Counter, 3};
+constexpr LiveId kRegister{LiveKind::MathRegister, 7};
 constexpr LiveId kDoor{LiveKind::Digital, 2};
 constexpr LiveRead kCame{.hasCome = true, .missed = 0, .at = {}};
 constexpr LiveRead kMissed{.hasCome = true, .missed = 1, .at = {}};
@@ -98,6 +99,7 @@ TEST(LiveHistory, ForgetsTheOldestAndNeverGrowsBeyondItsMemory) {
   }
   EXPECT_EQ(history.Span()->to, seconds(19'999) - minutes(120));
   EXPECT_GT(history.Span()->Length(), seconds(1000)) << "it uses what it has";
+  EXPECT_LT(history.Span()->Length(), seconds(kMost / (10 * sizeof(float)))) << "and no more";
 }
 
 /// Other values, and another time of the year, within one session of the program.
@@ -107,23 +109,34 @@ TEST(LiveHistory, GivesRoundsBackAsTheyCame) {
   LiveRound second{{seconds(3602), minutes(60)},
                    {{kDoor, "Door", "", {}, true, kCame},
                     {kLevel, "Level 1", "cm", 2.5, {}, kMissed},
-                    {kCount, "", "", 2'147'483'647., {}, kCame}}};
+                    {kCount, "", "", 2'147'483'647., {}, kCame},
+                    {kRegister, "", "", 123'456'789.25, {}, kCame}}};
   history.Add(second);
+  EXPECT_EQ(history.Find(kLevel)->unit, "cm");
   history.Add(LevelRound(seconds(1), 3.5));  // the clock was set back
+  LiveRound fourth = LevelRound(seconds(5), 4.5);
+  fourth.at = {seconds(3605), minutes(60)};
+  history.Add(fourth);
   std::vector<LiveRound> rounds;
-  history.ForEachRound({seconds(1), seconds(9)}, {kCount, kLevel, kDoor},
+  history.ForEachRound({seconds(1), seconds(9)}, {kRegister, kCount, kLevel, kDoor},
                        [&](const LiveRound& round) { rounds.push_back(round); });
-  ASSERT_EQ(rounds.size(), 3u);
+  ASSERT_EQ(rounds.size(), 4u);
+  EXPECT_EQ(rounds[3].at, fourth.at);
   EXPECT_EQ(rounds[1].at, second.at);
   const auto value = [&](std::size_t round, LiveId id) { return *rounds.at(round).Find(id); };
   EXPECT_EQ(LiveText(value(1, kCount)), "2147483647");
+  EXPECT_EQ(value(1, kRegister).number, 123'456'789.25);
   EXPECT_FALSE(value(1, kLevel).IsFresh() || value(1, kLevel).HasValue());
   EXPECT_EQ(value(1, kDoor).on, true);
   EXPECT_EQ(LiveText(value(0, kLevel)), "1.5");
   EXPECT_FALSE(value(0, kCount).HasValue()) << "that round had no counter";
   EXPECT_EQ(rounds[2].at, (WallTime{seconds(7202), minutes(120)})) << "time never runs back";
   EXPECT_EQ(history.Find(kLevel)->name, "Level") << "as it was told last";
-  EXPECT_EQ(history.Series().size(), 3u);
+  EXPECT_EQ(Drawn(history.Curve(kCount, {seconds(0), seconds(9)}, 100)), "2000:2147483647 2000:- ")
+      << "no line leads on where there is no such value";
+  EXPECT_EQ(history.Series().size(), 4u);
+  history.Clear();
+  EXPECT_TRUE(history.Series().empty() && !history.Span());
 }
 
 }  // namespace

@@ -58,26 +58,39 @@ TEST(Report, TellsWhoIsToldWhat) {
   }
   handover.Conf().Digital[1].ALARM[2].common.SMS = {};
   handover.Conf().Digital[1].ALARM[2].common.GPRS = kTrue;
+  AlarmBlock& bell = handover.Conf().Digital[2].ALARM[1].common;
+  bell = handover.Conf().Digital[0].ALARM[2].common;
+  bell.SMS = {};
+  bell.VOZ = kTrue;
+  handover.Conf().Digital[3].ALARM[0].common = bell;
+  handover.Conf().Digital[3].ALARM[0].common.HABIL = {};
   EXPECT_THAT(handover.Rows("Who is told what", "Telephones"),
               ElementsAre(ElementsAre("600000001", "none", "0", "all channels"),
                           ElementsAre("600000002", "3", "1", "all but these: DI0")));
   EXPECT_THAT(handover.Rows("Who is told what", "Alarms"),
               ElementsAre(ElementsAre("digital input 0", "2", "door", "SMS", "600000001"),
-                          ElementsAre("digital input 1", "2", "door", "GPRS", "")));
+                          ElementsAre("digital input 1", "2", "door", "GPRS", ""),
+                          ElementsAre("digital input 2", "1", "door", "SMS and voice",
+                                      "600000001\n600000002")));
+  EXPECT_THAT(ReportHtml(handover.Make()), HasSubstr("600000001<br>600000002"));
 }
 
 TEST(Report, ShowsTimersAsAWeek) {
   Handover handover;
   handover.Conf().WTimer[3] = {
       .HABIL = kTrue, .INICIO = {8 * 3600}, .SEMANA = 0b1000001, .ACT = {}};
+  handover.Conf().WTimer[3].ACT[0] = 40;
   handover.Conf().CTimer[0] = {
       .HABIL = kTrue, .PERIOD = 60, .valid = {{}, {3600}, {7200}, 0b0000010}, .EQ = 2, .ACT = {}};
+  handover.Conf().CTimer[1] = {.HABIL = kTrue, .PERIOD = 60, .valid = kAlways, .EQ = 0, .ACT = {}};
   EXPECT_THAT(
       handover.Rows("Timers in a week"),
       ElementsAre(ElementsAre("cyclic timer 0", "every 60 s, from 1:00:00 to 2:00:00, on Tu, if F1",
                               "", "1:00:00 - 2:00:00", "", "", "", "", "", ""),
+                  testing::AllOf(testing::Contains("cyclic timer 1"),
+                                 testing::Contains("0:00 - 24:00").Times(7)),
                   ElementsAre("weekly timer 3", "on Mo Su at 8:00:00", "8:00:00", "", "", "", "",
-                              "", "8:00:00", "")));
+                              "", "8:00:00", Not(testing::IsEmpty()))));
 }
 
 TEST(Report, IsOneFileWithoutSecretsAndWithoutForeignMarkup) {
@@ -89,6 +102,8 @@ TEST(Report, IsOneFileWithoutSecretsAndWithoutForeignMarkup) {
   const std::string html = ReportHtml(handover.Make());
   EXPECT_THAT(html, HasSubstr("&lt;script&gt;&quot;Dep\xC3\xB3sito&quot; &amp; co"));
   EXPECT_THAT(html, HasSubstr("Digital input 0: &quot;pump&quot;"));
+  for (const char* part : {"<th>For the contractor", "Made by", "VR200, &lt;"})
+    EXPECT_THAT(html, HasSubstr(part));
   for (const char* foreign : {"geheim77", "http", "src=", "href", "url(", "@import", "<script>"})
     EXPECT_THAT(html, Not(HasSubstr(foreign)));
 }
@@ -103,7 +118,18 @@ TEST(Report, SaysWhatIsKnownAndNothingElse) {
   EXPECT_THAT(titles(), Not(testing::Contains("Live values at sign-off")));
   EXPECT_THAT(titles(), Not(testing::Contains("Acceptance")));
   EXPECT_THAT(ReportHtml(handover.Make()), HasSubstr("No logger was connected"));
-  handover.work.logger = DeviceInfo{.FirmwareVersion = 412, .SerialNumber = "VR-7"};
+  handover.work.logger = DeviceInfo{.FirmwareVersion = 412,
+                                    .Features = 0x41,
+                                    .SerialNumber = "VR-7",
+                                    .BatteryVoltage = 3.5F,
+                                    .Rssi = 18,
+                                    .LogSize = 900,
+                                    .LogUsed = 12};
+  handover.work.clock = DateTime{2026, 3, 2, 9, 4, 0};
+  handover.work.file = "/site.ocf";
+  handover.work.hash = "ab12";
+  handover.Conf().General.DNAME = "a,b";
+  handover.Conf().Digital[0].NOMBRE = "pump";
   RealTimeData live;
   live.AnalogName[1] = "level";
   live.AnalogUnit[1] = "m";
@@ -113,12 +139,45 @@ TEST(Report, SaysWhatIsKnownAndNothingElse) {
     if (value.id == LiveId{LiveKind::Analog, 1}) value.number = 2.5;
   handover.work.acceptance.points = {kPumpTried};
   handover.work.history = {{"2026-03-02", "writing", "read back: the same", "ab12", "41"}};
-  EXPECT_THAT(handover.Rows("Site and logger"), testing::Contains(ElementsAre("firmware", "4.12")));
+  EXPECT_THAT(handover.Rows("Site and logger"),
+              ElementsAre(ElementsAre("site", "a,b"), ElementsAre("model", "Ostrel VR200"),
+                          ElementsAre("serial number", "VR-7"), ElementsAre("firmware", "4.12"),
+                          ElementsAre("features", "0x41"), ElementsAre("battery", "3.5 V"),
+                          ElementsAre("signal", "18 / 31"), ElementsAre("log in use", "12 / 900"),
+                          ElementsAre("clock of the logger", "2026-03-02 09:04:00"),
+                          ElementsAre("time of this report", "2026-03-02 09:05:07"),
+                          ElementsAre("file", "/site.ocf"),
+                          ElementsAre("hash of the configuration", "ab12")));
+  EXPECT_THAT(handover.Rows("Check of the configuration"),
+              testing::Contains(testing::Contains("error")));
+  EXPECT_THAT(
+      handover.Rows("What was written"),
+      ElementsAre(ElementsAre("2026-03-02", "writing", "read back: the same", "ab12", "41")));
+  EXPECT_THAT(titles(),
+              ElementsAre("Site and logger", "Channels", "Who is told what", "Timers in a week",
+                          "Other settings", "Live values at sign-off", "Acceptance",
+                          "Check of the configuration", "What was written", "Signatures"));
   std::vector<std::string> found;
   for (const ReportSection& section : handover.Make().sections)
     for (const ReportPart& part : section.parts)
       for (const auto& row : part.rows) found.insert(found.end(), row.begin(), row.end());
   EXPECT_THAT(found, testing::IsSupersetOf({"level", "2.5", "m", "pass", "tried", "ab12", "41"}));
+}
+
+TEST(Report, SaysEverythingInItsLanguage) {
+  Handover handover;
+  handover.work.acceptance.points = {kPumpTried};
+  handover.Conf().Phone[0].TLF = "600000001";
+  const auto say = [](std::string_view text) { return "\xC2\xAB" + std::string(text); };
+  const Report report = CommissioningReport(handover.work, {"es", say, say}, handover.world.files);
+  EXPECT_THAT(ReportHtml(report), HasSubstr("<html lang=\"es\">"));
+  for (const ReportSection& section : report.sections) {
+    EXPECT_THAT(section.title, testing::StartsWith(say("")));
+    for (const ReportPart& part : section.parts)
+      for (const std::string& head : part.head)
+        EXPECT_THAT(head, testing::StartsWith(say(""))) << section.title;
+  }
+  EXPECT_THAT(ReportHtml(report), HasSubstr(say("pass")));
 }
 
 TEST(Report, TellsWithWhichConfigurationALoggerWasAccepted) {
@@ -166,6 +225,9 @@ TEST(Report, TellsWhatTheLedgerKnowsOfTheLogger) {
   enter(LedgerKind::Writing, LedgerState::Done, 0, "VR-8");
   enter(LedgerKind::Writing, LedgerState::Done);
   enter(LedgerKind::Verification, LedgerState::Failed, 7);
+  for (const LedgerKind kind : {LedgerKind::Clock, LedgerKind::Firmware})
+    enter(kind, LedgerState::Done);
+  core.live.DeviceClock = {2026, 3, 2, 9, 4, 0};
   Handover handover;
   AddLogger(handover.work, core, world.platform, "/data");
   EXPECT_THAT(handover.Rows("What was written"),
@@ -173,8 +235,14 @@ TEST(Report, TellsWhatTheLedgerKnowsOfTheLogger) {
                                       "0123456789ab", "2"),
                           ElementsAre("2026-03-02 09:00:00", "total", "", "0123456789ab", "5"),
                           ElementsAre("2026-03-02 09:00:00", "writing", "read back: different",
-                                      "0123456789ab", "7")));
-  EXPECT_EQ(handover.work.hash.size(), 64U);
+                                      "0123456789ab", "7"),
+                          testing::Contains("clock"), testing::Contains("firmware")));
+  const std::string hash = handover.work.hash;
+  EXPECT_EQ(hash.size(), 64U);
+  EXPECT_EQ(handover.work.clock, core.live.DeviceClock);
+  handover.Conf().General.DNAME = "another";
+  AddLogger(handover.work, core, world.platform, "/data");
+  EXPECT_NE(handover.work.hash, hash);
 }
 
 }  // namespace

@@ -1,3 +1,4 @@
+#include "SilentDevice.h"
 #include "SimWorld.h"
 
 namespace ostrel {

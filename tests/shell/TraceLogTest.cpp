@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "VirtualWorld.h"
+#include "platform/virtual/VirtualWorld.h"
 #include "shell/TraceLog.h"
 
 namespace ostrel {

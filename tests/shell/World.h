@@ -5,7 +5,7 @@
 #include <fstream>
 #include <iterator>
 
-#include "VirtualWorld.h"
+#include "platform/virtual/VirtualWorld.h"
 #include "shell/Configurator.h"
 
 namespace ostrel {

@@ -1,5 +1,7 @@
 #include <gmock/gmock.h>
 
+#include <sstream>
+
 #include "base/CodePage.h"
 #include "shell/FaultWords.h"
 #include "shell/Navigation.h"
@@ -30,7 +32,9 @@ struct FirmBench {
   static sim::LoggerOptions Options(const std::string& fault) {
     sim::LoggerOptions options = sim::MakeDefaultOptions(sim::Model::BP);
     std::string error;
-    if (!fault.empty()) options.faults.push_back(sim::ParseFault(fault, error).value());
+    std::istringstream faults(fault);
+    for (std::string each; faults >> each;)
+      options.faults.push_back(sim::ParseFault(each, error).value());
     return options;
   }
   void Connect() { ASSERT_TRUE(program.session.Open(SimWorld::kPort, "")); }
@@ -56,6 +60,9 @@ TEST(FirmPage, SendsBothFilesAndEndsTheSession) {
   std::vector<std::string> stages;
   FaceOf(bench.form["LabelInfo"]).OnChanged = [&] {
     if (stages.empty() || stages.back() != bench.Info()) stages.push_back(bench.Info());
+    EXPECT_FALSE(bench.form.Get<Button>("StarBut").face.Enabled());
+    EXPECT_EQ(bench.form.MousePointer(), Pointer::Hourglass);
+    EXPECT_EQ(bench.program.session.Watch().Steps(), 27'012 + 912);
     EXPECT_EQ(navigation.NodeClick("General"), NodeResult::Rests);
   };
   bench.Start();
@@ -74,7 +81,27 @@ TEST(FirmPage, SendsBothFilesAndEndsTheSession) {
   EXPECT_TRUE(bench.form.Get<Button>("StarBut").face.Enabled());
   bench.program.session.Tick();
   EXPECT_FALSE(bench.program.Connected);
+  EXPECT_EQ(bench.form.MousePointer(), Pointer::Default);
+  EXPECT_FALSE(bench.program.session.Watch().Running());
   EXPECT_EQ(bench.program.session.Flash(), FlashState::Kept);
+  bench.world.loop.RunFor(seconds(60));
+  bench.Connect();
+  ASSERT_TRUE(bench.program.comms.ReadConf());
+  EXPECT_EQ(bar.Value(), static_cast<int>(image.size()) - 1) << "another transfer moves it not";
+}
+
+TEST(FirmPage, BrowsesForEachFile) {
+  FirmBench bench;
+  for (const auto& [button, box] :
+       {std::pair{"FirmBut", "FirmPath"}, {"LoaderBut", "LoaderPath"}}) {
+    bench.world.dialogs.ChoosePath(box);
+    bench.form.Get<Button>(button).Click();
+    bench.form.Get<Button>(button).Click();  // cancelled
+  }
+  EXPECT_EQ(bench.form.Get<TextBox>("FirmPath").Text(), "FirmPath");
+  EXPECT_EQ(bench.form.Get<TextBox>("LoaderPath").Text(), "LoaderPath");
+  for (const FileQuestion& question : bench.world.dialogs.questions)
+    EXPECT_EQ(question.filter, "Intel hex file (*.hex)|*.hex|Todos los ficheros (*.*)|*.*");
 }
 
 TEST(FirmPage, RefusesToStartWithoutSessionAndFiles) {
@@ -85,12 +112,12 @@ TEST(FirmPage, RefusesToStartWithoutSessionAndFiles) {
     const char* box;
   };
   for (const Case& c :
-       {Case{false, "/image.hex", "/CopyFlash.hex", "Debe iniciar la comunicacion primero"},
+       {Case{false, "", "/CopyFlash.hex", "Debe iniciar la comunicacion primero"},
         {true, "", "/CopyFlash.hex", "Debe seleccionar la ruta de los dos archivos"},
         {true, "/image.hex", "", "Debe seleccionar la ruta de los dos archivos"},
         {true, "/image.hex", "/copyflash.hex", "Debe seleccionar la ruta de los dos archivos"},
-        {true, "/image.hex", "/CopyFlash2.hex",
-         "No se puede leer el fichero /CopyFlash2.hex: "
+        {true, "/image.hex", "/CopyFlash/loader.hex",
+         "No se puede leer el fichero /CopyFlash/loader.hex: "
          "no such file"}}) {
     FirmBench bench;
     if (c.connected) bench.Connect();
@@ -182,10 +209,16 @@ TEST(FirmPage, EachFaultOfTheLoggerEndsItWithWordsOfWhatToDo) {
 }
 
 TEST(FirmPage, AFailedUpdateIsStartedAgain) {
-  FirmBench bench("refuse-loader!once");
+  FirmBench bench("refuse-loader!once refuse-erase@2!once");
   bench.Connect();
   bench.Start();
   EXPECT_EQ(bench.LastBox(), "¡Error!");
+  bench.world.port.HoldOutput(SimWorld::kPort, true);
+  bench.Start();
+  EXPECT_EQ(bench.program.session.Flash(), FlashState::Erased) << "and no better by an order lost";
+  bench.world.port.HoldOutput(SimWorld::kPort, false);
+  bench.Start();
+  EXPECT_EQ(bench.program.session.Flash(), FlashState::Erased) << "a refusal brings nothing back";
   bench.Start();
   EXPECT_EQ(bench.LastBox(), "NO CORTE LA ALIMENTACION MIENTRAS DURE LA ACTUALIZACION");
   EXPECT_EQ(bench.world.logger->Firmware().Loader() + "\r\n", HexFile(20));

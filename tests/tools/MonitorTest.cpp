@@ -5,6 +5,7 @@
 
 #include "shell/Navigation.h"
 #include "shell/SimWorld.h"
+#include "tools/Disk.h"
 #include "tools/LiveLimits.h"
 
 namespace ostrel {
@@ -115,12 +116,7 @@ TEST(Monitor, ShowsWhatTheLoggerHoldsAndSays) {
   station.Run(milliseconds(900));
   const RealTimeData& live = station.program.live;
   EXPECT_EQ(station.Caption("Label_AN_Name(0)"), "Nivel depósito");
-  EXPECT_EQ(station.Caption("Label_MB_Unit(2)"), "V");
-  EXPECT_EQ(station.Caption("Label_FL_Name(1)"), "Caudal salida");
   EXPECT_EQ(station.Digits("Digit_AN(0)"), NumText(live.AnalogValue[0]));
-  EXPECT_EQ(station.Digits("Digit_CNT(7)"), NumText(live.CounterValue[7]));
-  EXPECT_EQ(station.Digits("Digit_MB(31)"), NumText(live.ModbusValue[31]));
-  EXPECT_EQ(station.Digits("Digit_RMAT(7)"), live.MathRaw[7]);
   EXPECT_NE(live.AnalogValue[0], 0);
   station.program.live.DigitalMask = 0b100000110;
   station.program.live.DeviceClock = {2026, 3, 2, 9, 5, 7};
@@ -142,6 +138,81 @@ TEST(Monitor, ShowsWhatTheLoggerHoldsAndSays) {
   EXPECT_EQ(modules.Get<ReadoutLine>("LabelModulo(31)").Stale(), Staleness{});
   EXPECT_THAT(modules.Get<ReadoutLine>("LabelModulo(32)").Stale().since,
               testing::StartsWith("8:30:"));
+}
+
+/// Each value stands in its own row with its name and unit, and ages with the answer that it came
+/// in.
+TEST(Monitor, EachRowShowsItsOwnValueAndAge) {
+  struct Case {
+    sim::Model model;
+    LiveAnswer answer;
+    const char *family, *row, *digits, *name, *unit;
+  };
+  for (const Case& c :
+       {Case{sim::Model::BP, LiveAnswer::Counters, "CNT", "(7)", " 107", "counter", ""},
+        {sim::Model::BP, LiveAnswer::Flows, "FL", "(7)", " 207", "flow", "l/s"},
+        {sim::Model::BP, LiveAnswer::Masks, "AN", "(3)", " 303", "level", "m"},
+        {sim::Model::BP, LiveAnswer::Math, "MAT", "(3)", " 403", "sum", "kW"},
+        {sim::Model::BP, LiveAnswer::MathRaw, "RMAT", "(7)", "507", "R7", ""},
+        {sim::Model::KA1, LiveAnswer::Aux, "AN", "(3)", " 603", "probe", "C"},
+        {sim::Model::VR200, LiveAnswer::Modbus, "MB", "(31)", " 731", "drive", "V"}}) {
+    SCOPED_TRACE(c.name);
+    Station station(c.model);
+    station.Connect();
+    station.navigation.NodeClick("T_Real");
+    RealTimeData& live = station.program.live;
+    live.CounterName[7] = "counter", live.CounterValue[7] = 107;
+    live.FlowName[7] = "flow", live.FlowUnit[7] = "l/s", live.FlowValue[7] = 207;
+    live.AnalogName[3] = "level", live.AnalogUnit[3] = "m", live.AnalogValue[3] = 303;
+    live.MathName[3] = "sum", live.MathUnit[3] = "kW", live.MathValue[3] = 403;
+    live.MathRaw[7] = "507";
+    live.AuxName[3] = "probe", live.AuxUnit[3] = "C", live.AuxValue[3] = 603;
+    live.ModbusName[31] = "drive", live.ModbusUnit[31] = "V", live.ModbusValue[31] = 731;
+    live.FlagMask = 0x8000;
+    const std::string digits = std::string("Digit_") + c.family + c.row;
+    for (int answer = 0; answer < kLiveAnswers; ++answer) {
+      for (int i = 0; i < kLiveAnswers; ++i)
+        live.reads[i] = {.hasCome = true, .missed = 0, .at = std::chrono::hours(i)};
+      live.reads[answer].missed = kRoundsToStale;
+      station.program.monitor.Form_Activate();
+      const bool isOwn = answer == static_cast<int>(c.answer);
+      EXPECT_EQ(station.Get<DigitBox>(digits).Stale(),
+                (Staleness{isOwn, isOwn ? std::to_string(answer) + ":00:00" : ""}));
+    }
+    EXPECT_EQ(station.Caption("LabelLectura"), "Ultima lectura: 6:00:00") << "of the masks";
+    EXPECT_EQ(station.Digits(digits), c.digits);
+    const std::string label = std::string("Label_") + c.family;
+    EXPECT_EQ(station.Caption(label + "_Name" + c.row), c.name);
+    if (*c.unit != '\0') {
+      EXPECT_EQ(station.Caption(label + "_Unit" + c.row), c.unit);
+    }
+    EXPECT_EQ(station.Get<LedMedio>("Led_F(15)").Value(), LedMedio::kLit);
+    live.reads = {};
+    live.reads[0].missed = 1;
+    station.program.monitor.Form_Activate();
+    EXPECT_EQ(station.Get<DigitBox>(digits).Stale(), (Staleness{true, ""})) << "never read";
+  }
+}
+
+TEST(Monitor, CaptionsFollowTheLanguage) {
+  Station station(sim::Model::KA1);
+  station.navigation.NodeClick("Firmware");
+  station.program.tools.Translate = [](std::string_view text) {
+    return "<" + std::string(text) + ">";
+  };
+  station.Run(milliseconds(600));
+  EXPECT_EQ(FaceOf(station.program.firm.GetForm()["StarBut"]).Caption(), "<Iniciar>");
+  station.program.terminal.LoadText();
+  EXPECT_EQ(FaceOf(station.program.terminal.GetForm()["LabelLines"]).Caption(),
+            "<Lineas recibidas:> 0");
+  station.program.monitor.Form_Activate();
+  EXPECT_EQ(station.Caption("Frame1"), "<Sondas>");
+  EXPECT_EQ(station.Get<TabRow>("SSTab1").Tabs()[0].caption, "<General>");
+  station.navigation.ShowForm(ToolId::T_Real_Katodex);
+  station.program.tools.Translate = [](std::string_view) { return std::string("later"); };
+  station.Run(milliseconds(600));
+  EXPECT_EQ(FaceOf(station.program.cathodicMonitor.GetForm()["Label_AUX_Name(1)"]).Caption(),
+            "later");
 }
 
 TEST(Monitor, ATickSwitchesAnOutputOverOnce) {
@@ -199,7 +270,6 @@ TEST(Monitor, GreysWhatDidNotComeInTwoRounds) {
   station.program.live.ClockRead.missed = kRoundsToStale;
   station.program.monitor.Form_Activate();
   EXPECT_TRUE(station.Get<ReadoutLine>("RTCText").Stale().isStale);
-  EXPECT_FALSE(age("Digit_FL(0)").isStale);
   station.program.session.Close(false);
   station.sent.clear();
   station.Run(milliseconds(900));
@@ -225,8 +295,27 @@ TEST(Monitor, BarsShowTheLimitsOfTheLoadedConfiguration) {
   EXPECT_EQ(bar.Value(), std::optional<double>(station.program.live.AnalogValue[0]));
   EXPECT_EQ(bar.face.Caption(), "Nivel depósito");
   station.program.live.AnalogName[0].clear();
+  station.program.live.reads[static_cast<int>(LiveAnswer::Masks)].missed = kRoundsToStale;
   station.program.monitor.Form_Activate();
   EXPECT_EQ(bar.face.Caption(), "AI0");
+  EXPECT_FALSE(bar.Value()) << "a stale value stands nowhere";
+
+  Station modules(sim::Model::S100);
+  modules.Connect();
+  modules.navigation.NodeClick("T_Real");
+  modules.Run(milliseconds(900));
+  DeviceConf& conf = modules.program.conf;
+  conf.Analog[1].ALARM[0].common.HABIL = kTrue;
+  conf.Modulo[40].MODO = kModeAnalog;
+  conf.Modulo[40].A.ALARM[0].common.HABIL = kTrue;
+  for (const auto& [model, shown] : {std::pair{"Ostrel S100", true}, {"Tavro BQ", false}}) {
+    modules.program.TargetDeviceChange(model);
+    modules.program.monitor.Form_Activate();
+    for (const char* name : {"Bar_AN(1)", "Bar_EX(40)"}) {
+      EXPECT_EQ(modules.Get<LimitBar>(name).face.Visible(), shown) << model << name;
+      EXPECT_EQ(modules.Get<LimitBar>(name).Value().has_value(), shown);
+    }
+  }
 }
 
 TEST(Monitor, TheLimitsOfEachKindStandInItsUnit) {
@@ -288,6 +377,26 @@ TEST(Monitor, TheCathodicOneWritesAllOutputsAndKeepsItsFirstNames) {
   EXPECT_EQ(form.Get<DigitBox>("Digit_AUX(3)").Text(), " 0");
   EXPECT_EQ(FaceOf(form["Frame2"]).Caption(), "Entradas/ Salidas digitales");
   EXPECT_EQ(form.Get<DigitBox>("Digit_AN(0)").Text(), NumText(station.program.live.AnalogValue[0]));
+  EXPECT_EQ(FaceOf(form["Label_AN_Unit(1)"]).Caption(), "bar");
+  monitor.OutputChange(2);
+  station.Run(milliseconds(900));
+  EXPECT_EQ(station.world.logger->Outputs(), 0u);
+  station.sent.clear();
+  station.Run(milliseconds(900));
+  for (const std::string& message : station.sent)
+    EXPECT_FALSE(message.starts_with("#47") || message.starts_with("#48"))
+        << "they are written once";
+  station.navigation.HideAll();
+  station.sent.clear();
+  station.Run(std::chrono::seconds(2));
+  EXPECT_THAT(station.sent, IsEmpty());
+  station.program.live.DigitalMask = 0;
+  station.program.live.FlagMask = 0x8000;
+  station.program.session.Close(false);
+  EXPECT_TRUE(station.navigation.ShowForm(ToolId::T_Real_Katodex));
+  station.Run(milliseconds(900));
+  EXPECT_EQ(form.Get<LedMedio>("Led_F(15)").Value(), LedMedio::kLit);
+  EXPECT_TRUE(form.Get<LedMedio>("Led_F(15)").Stale().isStale) << "the session has ended";
 }
 
 TEST(LiveRounds, GoOnForWhoeverKeepsThemGoing) {
@@ -306,10 +415,17 @@ TEST(LiveRounds, GoOnForWhoeverKeepsThemGoing) {
   station.Run(std::chrono::seconds(5));
   EXPECT_EQ(rounds, 0);
   auto going = station.program.livePoll.KeepGoing();
+  station.Run(milliseconds(200));
+  auto second = station.program.livePoll.KeepGoing();
   station.Run(std::chrono::seconds(10));
-  EXPECT_THAT(rounds, testing::AllOf(testing::Ge(9), testing::Le(20)));
-  going.reset();
+  EXPECT_THAT(rounds, testing::AllOf(testing::Ge(9), testing::Le(20))) << "together no more often";
+  station.program.session.Close(false);
   rounds = 0;
+  station.Run(std::chrono::seconds(5));
+  EXPECT_EQ(rounds, 0) << "nothing is read without a session";
+  station.Connect();
+  going.reset();
+  second.reset();
   station.Run(std::chrono::seconds(5));
   EXPECT_EQ(rounds, 0);
 }
@@ -321,15 +437,15 @@ TEST(LiveRounds, ARecordingHasNamesUnitsAndGaps) {
   round.values = {{{LiveKind::Digital, 0}, "", "", {}, true, came},
                   {{LiveKind::Analog, 0}, "Level, \"north\"", "m", 0.1F, {}, came},
                   {{LiveKind::Counter, 3}, "In", "", 123456789.0, {}, came}};
-  auto stream = std::make_unique<std::ostringstream>();
-  const std::ostringstream& text = *stream;
-  LiveRecording recording(std::move(stream));
+  Disk disk;
+  LiveRecording recording(std::make_unique<std::ostream>(&disk));
   EXPECT_TRUE(recording.Add(round));
   round.values[1].read.missed = 1;
   round.values.pop_back();
   round.at.utcOffset = std::chrono::minutes(330);
   EXPECT_TRUE(recording.Add(round));
-  EXPECT_EQ(text.str(),
+  EXPECT_EQ(disk.written, 2) << "each row as it comes";
+  EXPECT_EQ(disk.str(),
             "utc,local,DI0,\"AI0 Level, \"\"north\"\" [m]\",CT3 In\n"
             "2026-03-02T03:35:07.050Z,2026-03-02T00:05:07.050-03:30,1,0.1,123456789\n"
             "2026-03-01T18:35:07.050Z,2026-03-02T00:05:07.050+05:30,1,,\n");
@@ -359,10 +475,12 @@ TEST(LiveRounds, TheWindowRecordsIntoAFileUntilItTakesNoMore) {
   button.Click();
   EXPECT_EQ(button.face.Caption(), "Parar");
   station.Run(std::chrono::seconds(2));
+  EXPECT_TRUE(station.world.dialogs.questions.back().overwritePrompt);
+  const auto rows = [&] { return std::ranges::count(file.str(), '\n') - 1; };
+  const auto inFront = rows();
   station.navigation.HideAll();
   station.Run(std::chrono::seconds(2));
-  const auto rows = [&] { return std::ranges::count(file.str(), '\n') - 1; };
-  EXPECT_GE(rows(), 4) << "with the monitor away, too";
+  EXPECT_GE(rows(), inFront + 2) << "with the monitor away, too";
   EXPECT_THAT(file.str(), testing::HasSubstr(",DI2 Door,"));
   EXPECT_THAT(file.str(), testing::HasSubstr("AI0 Nivel depósito [m]"));
 
@@ -381,6 +499,16 @@ TEST(LiveRounds, TheWindowRecordsIntoAFileUntilItTakesNoMore) {
   EXPECT_EQ(rows(), later);
   EXPECT_EQ(button.face.Caption(), "Grabar...");
   EXPECT_EQ(station.Caption("LabelGrabar"), "Grabacion terminada: el equipo es otro");
+  station.program.info.SerialNumber = number;
+  station.world.dialogs.ChoosePath("/day.csv");
+  button.Click();
+  station.Run(std::chrono::seconds(2));
+  EXPECT_EQ(button.face.Caption(), "Parar") << "another recording may be of another logger";
+  button.Click();
+  station.navigation.HideAll();
+  station.sent.clear();
+  station.Run(std::chrono::seconds(2));
+  EXPECT_THAT(station.sent, IsEmpty()) << "nobody wants the rounds any more";
   station.world.dialogs.ChoosePath("/full");
   button.Click();
   station.navigation.NodeClick("T_Real");

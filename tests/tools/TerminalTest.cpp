@@ -4,6 +4,7 @@
 
 #include "shell/Navigation.h"
 #include "shell/SimWorld.h"
+#include "tools/Disk.h"
 #include "tools/RichText.h"
 
 namespace ostrel {
@@ -26,7 +27,7 @@ class TerminalPage : public testing::Test {
     ConfiguratorOptions options = world.Options(false);
     options.openLog = [this](const std::string& path, std::string& why) {
       why = "no room";
-      auto stream = path == "/full" ? nullptr : std::make_unique<std::ostringstream>();
+      auto stream = path == "/full" ? nullptr : std::make_unique<std::ostream>(&disk);
       log = stream.get();
       return stream;
     };
@@ -44,7 +45,8 @@ class TerminalPage : public testing::Test {
   const std::string& Shown() { return form.Get<TextView>("TextWin").Text(); }
 
   SimWorld world;
-  std::ostringstream* log = nullptr;
+  Disk disk;
+  std::ostream* log = nullptr;
   Configurator program{world.platform, Options()};
   Form& form = program.terminal.GetForm();
   Navigation navigation{program};
@@ -68,13 +70,17 @@ TEST_F(TerminalPage, ShowsWhatComesWhileItIsInFrontOfAnOpenSession) {
   Switch("PauseCheck", false);
   EXPECT_EQ(Shown(), "held") << "it was not seen yet";
   Press("BorrarBut");
+  Comes("\n");
+  EXPECT_EQ(FaceOf(form["LabelLines"]).Caption(), "Lineas recibidas: 2") << "it counts on";
   program.comms.LinkBusy = true;
   Comes("of a dialogue");
-  EXPECT_EQ(Shown(), "");
+  form.Get<TextBox>("TextComando").Type("VER");
+  Press("EnviarBut");
+  EXPECT_THAT(asked, IsEmpty());
   program.comms.LinkBusy = false;
   program.Connected = false;
   Comes("of nobody");
-  EXPECT_EQ(Shown(), "");
+  EXPECT_EQ(Shown(), "\n");
 }
 
 TEST_F(TerminalPage, SendsWhatIsTypedAndKeepsItForTheArrowKeys) {
@@ -82,7 +88,7 @@ TEST_F(TerminalPage, SendsWhatIsTypedAndKeepsItForTheArrowKeys) {
   Press("EnviarBut");
   Press("TramaBut");
   EXPECT_THAT(asked, IsEmpty()) << "empty boxes send nothing";
-  for (const char* text : {"VER", "TIME"}) {
+  for (const char* text : {"OUT", "VER", "TIME", "TIME"}) {
     command.Type(text);
     Press("EnviarBut");
     EXPECT_EQ(command.Text(), text);
@@ -92,15 +98,19 @@ TEST_F(TerminalPage, SendsWhatIsTypedAndKeepsItForTheArrowKeys) {
   Press("TraceEnable");
   EXPECT_TRUE(world.logger->Traces());
   Press("TraceDisable");
-  EXPECT_THAT(asked, ElementsAre("#01VER", "#01TIME", "#5D", "#041", "#040"));
-  EXPECT_EQ(Shown().substr(0, 11), "Tavro BP v3");
+  EXPECT_THAT(asked, ElementsAre("#01OUT", "#01VER", "#01TIME", "#01TIME", "#5D", "#041", "#040"));
+  EXPECT_THAT(Shown(), testing::HasSubstr("Tavro BP v3"));
   command.Type("half");
   std::vector<std::string> seen;
-  for (const int way : {-1, -1, -1, 1, 1, 1}) {
+  for (const int way : {-1, -1, -1, -1, 1, 1, 1, 1}) {
     command.OnArrow(way);
     seen.push_back(command.Text());
   }
-  EXPECT_THAT(seen, ElementsAre("TIME", "VER", "VER", "TIME", "half", "half"));
+  EXPECT_THAT(seen, ElementsAre("TIME", "VER", "OUT", "OUT", "VER", "TIME", "half", "half"))
+      << "the same twice in a row is kept once";
+  form.Get<TextBox>("TextTrama").Type("#9");
+  form.Get<TextBox>("TextTrama").OnArrow(-1);
+  EXPECT_EQ(form.Get<TextBox>("TextTrama").Text(), "#5D") << "each box has its own";
 }
 
 TEST_F(TerminalPage, StampsHoldsBackAndLogs) {
@@ -110,16 +120,22 @@ TEST_F(TerminalPage, StampsHoldsBackAndLogs) {
   world.clock.SetNow({2026, 3, 2, 9, 5, 7});
   Comes("one\r");
   EXPECT_TRUE(Shown().starts_with("09:05:07.") && Shown().ends_with(" one\r")) << Shown();
-  Comes("\ntwo");
-  EXPECT_EQ(std::ranges::count(Shown(), ':'), 4) << "one stamp a line: " << Shown();
+  Comes("\ntwo\rthree");
+  EXPECT_EQ(std::ranges::count(Shown(), ':'), 6) << "one stamp a line: " << Shown();
   Switch("StampCheck", false);
   Switch("PauseCheck", true);
   const std::string before = Shown();
   Comes(" held\r\n");
   EXPECT_EQ(Shown(), before);
-  EXPECT_EQ(log->str(), before + " held\r\n") << "the log goes on";
-  Switch("PauseCheck", false);
+  EXPECT_EQ(disk.str(), before + " held\r\n") << "the log goes on";
+  EXPECT_EQ(disk.written, 3) << "as it comes";
+  for (const bool pauses : {false, true, false}) Switch("PauseCheck", pauses);
   EXPECT_EQ(Shown(), before + " held\r\n");
+  Switch("LogCheck", false);
+  Comes("not for the file");
+  EXPECT_EQ(disk.written, 3);
+  world.dialogs.ChoosePath("/console.txt");
+  Switch("LogCheck", true);
   log->setstate(std::ios::badbit);
   Comes("lost");
   EXPECT_FALSE(form.Get<CheckBox>("LogCheck").Checked());
@@ -132,7 +148,7 @@ TEST_F(TerminalPage, StampsHoldsBackAndLogs) {
 /// The path of the file is the one that configurations are saved under, too.
 TEST_F(TerminalPage, SavesRichText) {
   program.ConfFilePath = "/site.ocf";
-  Comes("{\\}\t\xE1\r\nend\n");
+  Comes("{\\}\t\x01\xE1\r\nend\n");
   Switch("PauseCheck", true);
   Comes("\r");
   Press("SaveBut");
@@ -140,9 +156,11 @@ TEST_F(TerminalPage, SavesRichText) {
   world.dialogs.ChoosePath("/x.rtf");
   Press("SaveBut");
   EXPECT_EQ(program.ConfFilePath, "/x.rtf");
+  EXPECT_TRUE(world.dialogs.questions.back().filter.starts_with("Rich text file (*.rtf)|*.rtf|"));
+  EXPECT_TRUE(world.dialogs.questions.back().overwritePrompt);
   EXPECT_EQ(world.files.contents["/x.rtf"],
             "{\\rtf1\\ansi\\ansicpg1252\\deff0{\\fonttbl{\\f0\\fmodern Courier New;}}\r\n"
-            "\\f0\\fs20 \\{\\\\\\}\\tab \\'e1\\par\r\nend\\par\r\n\\par\r\n}\r\n");
+            "\\f0\\fs20 \\{\\\\\\}\\tab \\'01\\'e1\\par\r\nend\\par\r\n\\par\r\n}\r\n");
   world.files.FailOperation(1);
   world.dialogs.ChoosePath("/y.rtf");
   Press("SaveBut");

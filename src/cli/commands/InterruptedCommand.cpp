@@ -52,17 +52,10 @@ ExitCode List(CommandContext& context, const std::vector<Interrupted>& open) {
        }});
 }
 
-ExitCode WrongLogger(const Online& online, const LedgerEntry& entry) {
-  const std::string& serial = online.configurator.info.SerialNumber;
-  if (serial == entry.serial) return ExitCode::Done;
-  return online.context.console.Fail(
-      ExitCode::BadFile,
-      "the logger that answers is " + serial + ", the interrupted one is " + entry.serial);
-}
-
 ExitCode Look(CommandContext& context, const LedgerEntry& entry) {
   return RunOnline(context, HistoryName(entry.id), [&](Online& online) {
-    if (const ExitCode wrong = WrongLogger(online, entry); wrong != ExitCode::Done) return wrong;
+    if (const ExitCode other = OtherLogger(online, entry.serial); other != ExitCode::Done)
+      return other;
     const ExitCode read = online.session.Download();
     if (read != ExitCode::Done) return read;
     const Holding found = WhatWasFound(online.configurator, entry, online.configurator.conf);

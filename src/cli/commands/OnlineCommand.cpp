@@ -22,6 +22,14 @@ ExitCode RunOnlineAs(CommandContext& context, const PortChoice& port, const std:
   return work(online);
 }
 
+ExitCode OtherLogger(const Online& online, const std::string& interrupted) {
+  const std::string& answers = online.configurator.info.SerialNumber;
+  if (interrupted.empty() || interrupted == answers) return ExitCode::Done;
+  return online.context.console.Fail(ExitCode::BadFile, "the logger that answers is " + answers +
+                                                            ", the interrupted one is " +
+                                                            interrupted + ". Nothing was changed");
+}
+
 ExitCode WithFeatures(CommandContext& context, const std::string& file,
                       const std::function<ExitCode(std::optional<std::int32_t> features)>& work) {
   if (context.options.features || !context.HasPort()) return work(context.options.features);

@@ -25,6 +25,9 @@ ExitCode RunOnline(CommandContext& context, const std::string& file,
 ExitCode RunOnlineAs(CommandContext& context, const PortChoice& port, const std::string& model,
                      const std::function<ExitCode(Online&)>& work, OpenTo wanted = OpenTo::Working);
 
+/// Refuses a logger that answers in the place of the interrupted one; empty is known of none.
+ExitCode OtherLogger(const Online& online, const std::string& interrupted);
+
 /// Runs a command on a file with the firmware's features: those of the options, else those of the
 /// logger at the port of the options, else none, since they are not known.
 ExitCode WithFeatures(CommandContext& context, const std::string& file,

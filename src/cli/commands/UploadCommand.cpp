@@ -191,15 +191,6 @@ ExitCode LoadFile(CommandContext& context, Configurator& configurator, const Upl
   return ExitCode::Done;
 }
 
-/// What was made for one logger alone goes to no other.
-ExitCode MayGoTo(const Online& online, const std::string& serial) {
-  const std::string& answers = online.configurator.info.SerialNumber;
-  if (serial.empty() || serial == answers) return ExitCode::Done;
-  return online.context.console.Fail(ExitCode::BadFile, "the logger that answers is " + answers +
-                                                            ", the interrupted one is " + serial +
-                                                            ". Nothing was sent");
-}
-
 /// What speaks against a safety copy of another logger than the one that answers.
 ExitCode MayTakeCopy(const Online& online, const std::string& name) {
   const std::string& serial = online.configurator.info.SerialNumber;
@@ -241,7 +232,8 @@ ExitCode RunUpload(CommandContext& context, const UploadOptions& options) {
   const ExitCode opened = session.Open();
   if (opened != ExitCode::Done) return opened;
   Online online{context, *configurator, session};
-  if (const ExitCode may = MayGoTo(online, options.serial); may != ExitCode::Done) return may;
+  if (const ExitCode other = OtherLogger(online, options.serial); other != ExitCode::Done)
+    return other;
   const ExitCode mayTake = MayTakeCopy(online, options.copy);
   if (mayTake != ExitCode::Done) return mayTake;
   TakeLines(online, options.copy);

@@ -4,6 +4,9 @@
 
 #include <array>
 #include <cerrno>
+#include <csignal>
+#include <ctime>
+#include <optional>
 #include <streambuf>
 #include <system_error>
 
@@ -16,6 +19,25 @@ constexpr mode_t kOwnersMode = 0600;
 constexpr mode_t kAnyMode = 0666;  // less what the user's mask takes
 /// Non-blocking: a pipe that nobody reads holds nothing up.
 constexpr int kFlags = O_CREAT | O_NONBLOCK | O_NOCTTY | O_CLOEXEC;
+
+/// Writes without the signal of a pipe that nobody reads any more: that it has failed is no reason
+/// to end the program, or to break off what it does with a logger.
+ssize_t WriteQuietly(int descriptor, const char* octets, std::size_t count) {
+  sigset_t pipe;
+  sigset_t former;
+  sigemptyset(&pipe);
+  sigaddset(&pipe, SIGPIPE);
+  ::pthread_sigmask(SIG_BLOCK, &pipe, &former);
+  const ssize_t written = ::write(descriptor, octets, count);
+  const int error = errno;
+  if (written < 0 && error == EPIPE) {
+    constexpr timespec kNow{};
+    ::sigtimedwait(&pipe, nullptr, &kNow);
+  }
+  ::pthread_sigmask(SIG_SETMASK, &former, nullptr);
+  errno = error;
+  return written;
+}
 
 /// Writes to an open file at once, and closes it at its end.
 class DescriptorBuffer final : public std::streambuf {
@@ -37,7 +59,7 @@ class DescriptorBuffer final : public std::streambuf {
     std::streamsize done = 0;
     while (done < count) {
       const ssize_t written =
-          ::write(descriptor_, octets + done, static_cast<std::size_t>(count - done));
+          WriteQuietly(descriptor_, octets + done, static_cast<std::size_t>(count - done));
       if (written < 0 && errno != EINTR) break;
       if (written > 0) done += written;
     }
@@ -59,10 +81,12 @@ class DescriptorStream final : public std::ostream {
   DescriptorBuffer buffer_;
 };
 
-Held WhatFileHolds(int descriptor, const GrowingKind& kind) {
+/// Nothing where it cannot be read, with `errno`.
+std::optional<Held> WhatFileHolds(int descriptor, const GrowingKind& kind) {
   std::array<char, 256> start{};
   const ssize_t got = ::pread(descriptor, start.data(), start.size(), 0);
-  return WhatIsHeld({start.data(), got > 0 ? static_cast<std::size_t>(got) : 0}, kind);
+  if (got < 0) return std::nullopt;
+  return WhatIsHeld({start.data(), static_cast<std::size_t>(got)}, kind);
 }
 
 /// These two fail with `errno`.
@@ -94,13 +118,13 @@ std::unique_ptr<std::ostream> OpenGrowing(const std::string& path, const Growing
   }
   auto stream = std::make_unique<DescriptorStream>(descriptor);
   if (isPipe) return stream;
-  const Held held = WhatFileHolds(descriptor, kind);
+  const std::optional<Held> held = WhatFileHolds(descriptor, kind);
   if (held == Held::SomethingElse) {
     why = WordsOfAnother(kind);
     return nullptr;
   }
-  const bool isReady =
-      kind.headOfLog.empty() ? MakeEmpty(descriptor, kind) : GoToEnd(*stream, kind, held);
+  const bool isReady = held && (kind.headOfLog.empty() ? MakeEmpty(descriptor, kind)
+                                                       : GoToEnd(*stream, kind, *held));
   if (isReady) return stream;
   why = WordsOf(errno);
   return nullptr;

@@ -57,7 +57,7 @@ std::vector<AcceptancePoint> ConfiguredInputs(const ModelConfiguration& configur
                                               const Translation& translate);
 
 /// The inputs of a configuration with what was noted of them. A note on an input that is configured
-/// no more, or under another name, is kept behind them.
+/// no more, under another name, or to measure otherwise, is kept behind them.
 std::vector<AcceptancePoint> WithNotes(std::vector<AcceptancePoint> inputs,
                                        const std::vector<AcceptancePoint>& noted);
 

@@ -1,7 +1,10 @@
+#include <fcntl.h>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include <QTemporaryDir>
+#include <csignal>
 #include <fstream>
 
 #include "platform/GrowingFile.h"
@@ -53,6 +56,21 @@ TEST_F(ModesTest, APipeHoldsNothingUp) {
   const auto full = OpenGrowing("/dev/full", kNotes, why);
   ASSERT_TRUE(full) << why;
   EXPECT_FALSE(*full << "line" << std::flush);
+}
+
+TEST_F(ModesTest, AReaderThatGoesEndsThePipeAndNotTheProgram) {
+  ASSERT_EQ(::mkfifo(Path("pipe").c_str(), 0600), 0);
+  EXPECT_FALSE(OpenGrowing(Path("pipe"), kNotes, why));
+  EXPECT_EQ(why, "no program reads the pipe");
+  const int reader = ::open(Path("pipe").c_str(), O_RDONLY | O_NONBLOCK);
+  const auto notes = OpenGrowing(Path("pipe"), kNotes, why);
+  ASSERT_TRUE(notes);
+  EXPECT_TRUE(*notes << "heard");
+  ::close(reader);
+  EXPECT_FALSE(*notes << "not heard");
+  sigset_t waiting;
+  ::sigpending(&waiting);
+  EXPECT_FALSE(sigismember(&waiting, SIGPIPE));
 }
 
 }  // namespace

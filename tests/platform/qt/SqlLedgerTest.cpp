@@ -73,14 +73,39 @@ TEST_F(OnDisk, WhatOneProgramKeepsAnotherFinds) {
   kept.process = entry.process;
   EXPECT_EQ(kept, entry);
   EXPECT_FALSE(one.IsRunning(entry)) << "that is no process";
+  LedgerEntry former = found[1];
+  former.process += "1";
+  EXPECT_FALSE(one.IsRunning(former)) << "one of the same number that has ended";
   EXPECT_EQ(one.Find({.serial = "Q2"}).size(), 1U);
   EXPECT_EQ(one.Find({.file = entry.file}).size(), 1U);
+  EXPECT_EQ(one.Find({.file = "none"}).size(), 0U);
   EXPECT_EQ(one.Find({.since = "2026-03-03"}).size(), 1U);
   EXPECT_EQ(one.Find({.after = 1, .most = 1}).front().id, 2);
+  EXPECT_EQ(one.Find({.after = 1}).size(), 1U);
   const std::string octets("a\0b\xFF", 4);
   EXPECT_TRUE(one.KeepContent("h", octets) && other.KeepContent("h", octets));
   EXPECT_EQ(other.Content("h"), octets);
   EXPECT_FALSE(other.Content("g"));
+}
+
+/// What is kept outlasts a power cut, while other programs read and write.
+TEST_F(OnDisk, IsDurableAndShared) {
+  SqlLedger ledger = Ledger();
+  ledger.Add({});
+  const auto set = [](const char* pragma) {
+    const QString name = QSqlDatabase::connectionNames().last();
+    QSqlQuery query(QString("PRAGMA %1").arg(pragma), QSqlDatabase::database(name, false));
+    return query.next() ? query.value(0).toString().toStdString() : "";
+  };
+  EXPECT_EQ(set("synchronous"), "2") << "full";
+  EXPECT_EQ(set("journal_mode"), "wal");
+  EXPECT_EQ(set("busy_timeout"), "2000");
+  Run({"ALTER TABLE entry RENAME TO away"});
+  EXPECT_EQ(ledger.Add({}), 0);
+  EXPECT_NE(ledger.Fault(), "");
+  Run({"ALTER TABLE away RENAME TO entry"});
+  EXPECT_EQ(ledger.Add({}), 2);
+  EXPECT_EQ(ledger.Fault(), "") << "all is well again";
 }
 
 TEST_F(OnDisk, AnOlderSchemaGrowsAndALaterOneIsLeftAlone) {

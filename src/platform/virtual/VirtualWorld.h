@@ -1,6 +1,5 @@
 #pragma once
 
-#include "platform/Line.h"
 #include "platform/Platform.h"
 #include "platform/virtual/LinePort.h"
 #include "platform/virtual/VirtualClock.h"
@@ -13,13 +12,7 @@
 
 namespace ostrel {
 
-/// A device that never speaks.
-struct SilentDevice final : LineDevice {
-  void Receive(std::string_view) override {}
-  void SetTerminalReady(bool) override {}
-};
-
-/// The outside world of a test: everything in memory and on virtual time.
+/// The outside world of a program, all of it in memory and on virtual time.
 struct VirtualWorld {
   VirtualLoop loop;
   LinePort port{loop};
