@@ -1,15 +1,14 @@
 #include "shell/NodeMarks.h"
 
 #include "blocks/expansion/ExpansionInputs.h"
-#include "shell/Navigation.h"
 
 namespace ostrel {
 
-bool IsRedNode(std::string_view key, const DeviceConf& conf) {
-  constexpr std::string_view kStem = "Modulo_";
-  if (!key.starts_with(kStem)) return false;
-  const auto target = FindNodeTarget(key, {}, false);
-  return target && target->index && conf.Modulo[*target->index].MODO != kModeOff;
+std::vector<std::string> RedNodes(const DeviceConf& conf) {
+  std::vector<std::string> keys;
+  for (std::size_t i = 0; i < conf.Modulo.size(); ++i)
+    if (conf.Modulo[i].MODO != kModeOff) keys.push_back("Modulo_" + std::to_string(i));
+  return keys;
 }
 
 }  // namespace ostrel

@@ -1,12 +1,13 @@
 #pragma once
 
-#include <string_view>
+#include <string>
+#include <vector>
 
 #include "model/DeviceConf.h"
 
 namespace ostrel {
 
-/// Whether the tree shows a node in red: that of an expansion input which is in use.
-bool IsRedNode(std::string_view key, const DeviceConf& conf);
+/// Keys of the nodes that the tree shows in red: those of the expansion inputs that are in use.
+std::vector<std::string> RedNodes(const DeviceConf& conf);
 
 }  // namespace ostrel

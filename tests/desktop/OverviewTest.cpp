@@ -167,6 +167,15 @@ TEST_F(OverviewS100, TheTreeHasNamesAndFindsThem) {
   EXPECT_EQ(Node("E_Digital_1")->text(0), "1") << "the text of the node stays as it is";
   EXPECT_EQ(Node("Modulo_5")->data(0, kNodeName), "Gate");
   EXPECT_TRUE(Node("Modulo_5")->toolTip(0).contains("changed"));
+  const auto isRed = [this](const QString& key) {
+    return Node(key)->data(0, Qt::ForegroundRole).isValid();
+  };
+  EXPECT_FALSE(isRed("Modulo_6"));
+  for (const int mode : {1, 0}) {
+    desktop->Core().conf.Modulo[6].MODO = static_cast<std::int16_t>(mode);
+    Pass();
+    EXPECT_EQ(isRed("Modulo_6"), mode != 0);
+  }
   desktop->Window().Tree().findChild<QLineEdit*>("Filter")->setText("pump");
   EXPECT_FALSE(Node("E_Digital_1")->isHidden());
   EXPECT_TRUE(Node("E_Digital_0")->isHidden());

@@ -69,7 +69,7 @@ TEST_F(OnEveryPage, TheLinkIsShownAsItIsAndWritingRestsOnADeadOne) {
   logger->OnExchange([&](const sim::Exchange&) { ++exchanges; });
   loop.RunFor(seconds(33));
   EXPECT_EQ(exchanges, 0) << "nothing is sent to find out";
-  EXPECT_EQ(LinkWords(), "Open, last answer 0:20 ago") << "in steps of twice the one before";
+  EXPECT_EQ(LinkWords(), "Open, last answer 0:20 ago") << "in steps of four times the one before";
   EXPECT_TRUE(write->isEnabled()) << "it was not asked";
   Window().GoTo("General");
   loop.RunFor(seconds(2));

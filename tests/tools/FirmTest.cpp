@@ -261,7 +261,6 @@ TEST(FirmPage, WhoBreaksItOffIsNotToldOfIt) {
   EXPECT_EQ(bench.Info(), "¡Error!");
   EXPECT_THAT(bench.world.dialogs.boxes, IsEmpty());
   EXPECT_EQ(bench.program.session.Flash(), FlashState::Erased);
-  EXPECT_FALSE(bench.program.Connected);
 }
 
 }  // namespace

@@ -36,14 +36,14 @@ RequestWait WaitOf(const Configurator& configurator) {
   return configurator.Connected ? RequestWait::GeneralPage : RequestWait::Session;
 }
 
-/// The age of an answer that nobody waits for, in steps of twice the one before up to a minute,
-/// then of a minute: words that change each second would be laid out and drawn each second, for as
-/// long as the session rests.
+/// The age of an answer that nobody waits for, in steps of four times the one before up to a
+/// minute, then of a minute: words that change each second would be laid out and drawn each second,
+/// for as long as the session rests.
 Duration InSteps(Duration age) {
   constexpr Duration kMinute = std::chrono::minutes(1);
   if (age >= kMinute) return age - age % kMinute;
   Duration step = std::chrono::seconds(5);
-  while (2 * step <= age) step *= 2;
+  while (4 * step <= age) step *= 4;
   return std::min(step, age);
 }
 

@@ -222,10 +222,7 @@ void MainWindow::BuildTree() {
   overview_.Forget();
 }
 
-void MainWindow::PaintTree() {
-  tree_->Paint([this](const std::string& key) { return IsRedNode(key, configurator_.conf); },
-               Words::tr("In use"));
-}
+void MainWindow::PaintTree() { tree_->Paint(RedNodes(configurator_.conf), Words::tr("In use")); }
 
 void MainWindow::GoTo(const std::string& key) {
   if (navigation_.NodeClick(key) == NodeResult::Rests) return;

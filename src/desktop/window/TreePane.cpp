@@ -80,6 +80,7 @@ void TreePane::SetNodes(const std::vector<TreeNode>& nodes) {
   const std::string key = current ? FromQt(current->data(0, kNodeKey).toString()) : "";
   const std::set<QString> open = OpenKeys();
   tree_->clear();
+  painted_.reset();
   for (const TreeNode& node : nodes) {
     QTreeWidgetItem* parent = Find(node.parent);
     auto* item = parent ? new QTreeWidgetItem(parent) : new QTreeWidgetItem(tree_);
@@ -92,14 +93,16 @@ void TreePane::SetNodes(const std::vector<TreeNode>& nodes) {
   quiet_ = wasQuiet;
 }
 
-void TreePane::Paint(const std::function<bool(const std::string& key)>& isRed,
-                     const QString& mark) {
+void TreePane::Paint(const std::vector<std::string>& redKeys, const QString& mark) {
   constexpr QColor kRedOnLight(208, 0, 0), kRedOnDark(255, 107, 107);
   constexpr int kMiddle = 128;
   const bool isDark = palette().color(QPalette::Base).lightness() < kMiddle;
+  if (painted_ && painted_->first == redKeys && painted_->second == isDark) return;
+  painted_ = {redKeys, isDark};
+  const std::set<std::string> reds(redKeys.begin(), redKeys.end());
   for (QTreeWidgetItemIterator it(tree_); *it; ++it) {
     QTreeWidgetItem& item = **it;
-    const bool red = isRed(FromQt(item.data(0, kNodeKey).toString()));
+    const bool red = reds.contains(FromQt(item.data(0, kNodeKey).toString()));
     const QVariant colour = red ? QVariant(QBrush(isDark ? kRedOnDark : kRedOnLight)) : QVariant();
     if (item.data(0, Qt::ForegroundRole) == colour) continue;
     item.setData(0, Qt::ForegroundRole, colour);

@@ -3,9 +3,11 @@
 #include <QTreeWidget>
 #include <QWidget>
 #include <functional>
+#include <optional>
 #include <set>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "shell/ChannelOverview.h"
@@ -26,9 +28,9 @@ class TreePane final : public QWidget {
   void FocusFilter();
   /// Marks a node as the one in front. Nothing is clicked by that.
   void Select(std::string_view key);
-  /// Paints nodes red or not, as the predicate says of their keys. `mark` are words for those who
-  /// do not see the colour.
-  void Paint(const std::function<bool(const std::string& key)>& isRed, const QString& mark);
+  /// Paints the nodes of these keys red, and no others. `mark` are words for those who do not see
+  /// the colour.
+  void Paint(const std::vector<std::string>& redKeys, const QString& mark);
   /// Puts names and marks beside the texts of nodes. A group shows the marks of what is below it.
   void Decorate(const FactTable& facts);
   /// The text of a node; empty when there is none.
@@ -56,6 +58,8 @@ class TreePane final : public QWidget {
   QLineEdit* filter_;
   QTreeWidget* tree_;
   bool quiet_ = false;
+  /// What was painted last, on a dark ground or not. It is asked for each second.
+  std::optional<std::pair<std::vector<std::string>, bool>> painted_;
 };
 
 }  // namespace ostrel

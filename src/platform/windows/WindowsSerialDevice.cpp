@@ -46,10 +46,10 @@ WindowsSerialDevice::~WindowsSerialDevice() {
 }
 
 PortFault WindowsSerialDevice::Start(const DeviceOpening& how) {
-  const bool isPipe = ::GetFileType(device_.Get()) == FILE_TYPE_PIPE;
-  if (!isPipe && !SetMode(how)) return PortFault::Failed;
+  isPipe_ = ::GetFileType(device_.Get()) == FILE_TYPE_PIPE;
+  if (!isPipe_ && !SetMode(how)) return PortFault::Failed;
   ReadOn();
-  if (!isPipe && ::SetCommMask(device_.Get(), kLines)) AwaitLines();
+  if (!isPipe_ && ::SetCommMask(device_.Get(), kLines)) AwaitLines();
   return isLost_ ? PortFault::Failed : PortFault::None;
 }
 
@@ -61,22 +61,29 @@ bool WindowsSerialDevice::SetMode(const DeviceOpening& how) {
     mode.fRtsControl = RTS_CONTROL_ENABLE;
     if (!::SetCommState(device_.Get(), &mode)) return false;
   }
-  // A reading ends as soon as there is an octet, and waits for the first one without end.
-  COMMTIMEOUTS times{};
-  times.ReadIntervalTimeout = MAXDWORD;
-  times.ReadTotalTimeoutMultiplier = MAXDWORD;
-  times.ReadTotalTimeoutConstant = MAXDWORD - 1;
+  COMMTIMEOUTS times{};  // none
   if (!::SetCommTimeouts(device_.Get(), &times)) return false;
   ::SetupComm(device_.Get(), kDriverOctets, kDriverOctets);
   ::PurgeComm(device_.Get(), PURGE_RXCLEAR | PURGE_TXCLEAR);
   return true;
 }
 
+/// A reading of a device ends when it has all that it was to read, be that after hours: it reads
+/// what the driver holds, or else waits for one octet. A pipe gives what there is.
+DWORD WindowsSerialDevice::OctetsToRead() const {
+  constexpr DWORD kMost = sizeof block_;
+  if (isPipe_) return kMost;
+  COMSTAT state{};
+  DWORD errors = 0;
+  ::ClearCommError(device_.Get(), &errors, &state);
+  return std::clamp<DWORD>(state.cbInQue, 1, kMost);
+}
+
 void WindowsSerialDevice::ReadOn() {
   if (isLost_ || reading_.IsUnderWay() || HasMore()) return;
   arrived_ = read_ = 0;
-  const auto size = static_cast<DWORD>(block_.size());
-  if (!reading_.Begun(::ReadFile(device_.Get(), block_.data(), size, nullptr, reading_.State())))
+  if (!reading_.Begun(
+          ::ReadFile(device_.Get(), block_.data(), OctetsToRead(), nullptr, reading_.State())))
     Lose();
 }
 

@@ -41,6 +41,7 @@ class WindowsSerialDevice final : public SerialDevice {
 
  private:
   bool SetMode(const DeviceOpening& how);
+  DWORD OctetsToRead() const;
   void ReadOn();
   void TakeRead();
   void WriteOn();
@@ -60,6 +61,7 @@ class WindowsSerialDevice final : public SerialDevice {
   std::string underWay_, waiting_;  ///< octets that are being written, and those behind them
   DWORD moved_ = 0;                 ///< which lines have moved
   TimerId nextTelling_ = 0;
+  bool isPipe_ = false;
   bool isLost_ = false;
 };
 
