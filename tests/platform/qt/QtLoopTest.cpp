@@ -30,8 +30,8 @@ TEST(QtEventLoopTest, ServesTimersByDueTimeAndKeepsTheDeadline) {
   const TimerId gone = loop.After(milliseconds(1), "gone", [&] { notes.push_back("gone"); });
   loop.Cancel(gone);
   loop.After(milliseconds(4), "third", [&] { notes.push_back("third"); });
-  EXPECT_FALSE(loop.RunUntil(kNo, loop.Now() + milliseconds(12)));
-  EXPECT_GE(loop.Now(), milliseconds(12));
+  EXPECT_FALSE(loop.RunUntil(kNo, loop.Now() + milliseconds(200)));
+  EXPECT_GE(loop.Now(), milliseconds(200));
   EXPECT_THAT(notes, ElementsAre("first", "second", "third"));
 }
 
