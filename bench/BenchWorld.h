@@ -1,24 +1,16 @@
 #pragma once
 
-#include "platform/virtual/LinePort.h"
-#include "platform/virtual/VirtualClock.h"
-#include "platform/virtual/VirtualDialogs.h"
-#include "platform/virtual/VirtualFiles.h"
-#include "platform/virtual/VirtualLoop.h"
-#include "platform/virtual/VirtualProcesses.h"
-#include "platform/virtual/VirtualSettings.h"
+#include "platform/virtual/VirtualWorld.h"
 #include "shell/Configurator.h"
 #include "sim/LineComposer.h"
 #include "sim/Logger.h"
 
 namespace ostrel {
 
-inline double Seconds(Duration duration) {
-  return std::chrono::duration<double>(duration).count();
-}
+inline double Seconds(Duration duration) { return std::chrono::duration<double>(duration).count(); }
 
 /// A configurator and a simulated logger with a dense configuration, on virtual time.
-struct BenchWorld {
+struct BenchWorld : VirtualWorld {
   static constexpr std::int16_t kPort = 7;
 
   explicit BenchWorld(sim::Model model, bool paced = false) {
@@ -45,14 +37,6 @@ struct BenchWorld {
   /// Octets on the line for a payload: "#", checksum, ";", payload, carriage return.
   static std::size_t FrameOctets(std::size_t payload) { return payload + 5; }
 
-  VirtualLoop loop;
-  LinePort port{loop};
-  VirtualSettings settings;
-  VirtualDialogs dialogs;
-  VirtualFiles files;
-  VirtualProcesses processes;
-  VirtualClock clock{DateTime{2026, 1, 15, 8, 30, 5}, loop};
-  Platform platform{loop, port, settings, dialogs, files, processes, clock};
   sim::Logger* logger = nullptr;
   Configurator program{platform, {.programFolder = "", .langFile = "/Lang.txt"}};
 };

@@ -2,6 +2,7 @@
 
 #include <memory>
 #include <ostream>
+#include <streambuf>
 #include <string>
 #include <string_view>
 
@@ -14,6 +15,16 @@ struct GrowingKind {
   bool isOwnersAlone;                          ///< nobody else may read it
   /// The first line of a new one, in a kind that is added to; empty where a former one is replaced.
   std::string_view headOfLog;
+};
+
+/// What passes on at once each octet that a stream is given: whoever derives from it writes them.
+class UnbufferedOctets : public std::streambuf {
+ protected:
+  int_type overflow(int_type c) final {
+    if (traits_type::eq_int_type(c, traits_type::eof())) return traits_type::not_eof(c);
+    const char octet = traits_type::to_char_type(c);
+    return xsputn(&octet, 1) == 1 ? c : traits_type::eof();
+  }
 };
 
 enum class Held { Nothing, FormerOne, SomethingElse };

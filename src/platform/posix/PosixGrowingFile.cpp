@@ -7,7 +7,6 @@
 #include <csignal>
 #include <ctime>
 #include <optional>
-#include <streambuf>
 #include <system_error>
 
 #include "platform/GrowingFile.h"
@@ -40,7 +39,7 @@ ssize_t WriteQuietly(int descriptor, const char* octets, std::size_t count) {
 }
 
 /// Writes to an open file at once, and closes it at its end.
-class DescriptorBuffer final : public std::streambuf {
+class DescriptorBuffer final : public UnbufferedOctets {
  public:
   explicit DescriptorBuffer(int descriptor) : descriptor_(descriptor) {}
   ~DescriptorBuffer() override { ::close(descriptor_); }
@@ -50,11 +49,6 @@ class DescriptorBuffer final : public std::streambuf {
   int Descriptor() const { return descriptor_; }
 
  protected:
-  int_type overflow(int_type c) override {
-    if (traits_type::eq_int_type(c, traits_type::eof())) return traits_type::not_eof(c);
-    const char octet = traits_type::to_char_type(c);
-    return xsputn(&octet, 1) == 1 ? c : traits_type::eof();
-  }
   std::streamsize xsputn(const char* octets, std::streamsize count) override {
     std::streamsize done = 0;
     while (done < count) {

@@ -1,7 +1,6 @@
 #include <windows.h>
 
 #include <array>
-#include <streambuf>
 #include <utility>
 
 #include "platform/GrowingFile.h"
@@ -13,16 +12,11 @@ namespace ostrel {
 namespace {
 
 /// Writes to an open file at once, and closes it at its end.
-class HandleBuffer final : public std::streambuf {
+class HandleBuffer final : public UnbufferedOctets {
  public:
   explicit HandleBuffer(Handle file) : file_(std::move(file)) {}
 
  protected:
-  int_type overflow(int_type c) override {
-    if (traits_type::eq_int_type(c, traits_type::eof())) return traits_type::not_eof(c);
-    const char octet = traits_type::to_char_type(c);
-    return xsputn(&octet, 1) == 1 ? c : traits_type::eof();
-  }
   std::streamsize xsputn(const char* octets, std::streamsize count) override {
     DWORD written = 0;
     ::WriteFile(file_.Get(), octets, static_cast<DWORD>(count), &written, nullptr);
