@@ -17,11 +17,12 @@ constexpr std::size_t kLeastQueued = kMostQueued * 4 / 5;
 
 constexpr std::string_view kErasing = "#DWLD_ERASING";
 constexpr std::string_view kReady = "#DWLD_READY";
+constexpr std::string_view kRefused = "#DWLD_ERROR";
 
 }  // namespace
 
-bool RefusesErasing(const LinkFault& fault) {
-  return fault.kind == LinkFault::Kind::WrongAnswer && fault.text != kReady;
+bool IsRefused(const LinkFault& fault) {
+  return fault.kind == LinkFault::Kind::WrongAnswer && fault.text == kRefused;
 }
 
 LinkFault FirmwareDialogue::Run(const FirmwareFiles& files, const OnStage& onStage) {

@@ -28,9 +28,9 @@ enum class FirmwareStage {
   Copying  ///< all is sent; the logger does the rest alone
 };
 
-/// Whether the dialogue failed since the logger will not erase its flash. Its word that it is ready
-/// is none: the word before, that it erases, was lost.
-bool RefusesErasing(const LinkFault& fault);
+/// Whether the dialogue failed on the logger's own word that it will not do what it was asked. Any
+/// other wrong answer, such as one that comes late or an echo, tells nothing of what it has heard.
+bool IsRefused(const LinkFault& fault);
 
 /// Replaces a logger's firmware.
 ///

@@ -303,7 +303,7 @@ LinkResult SessionDriver::SendFirmware(const FirmwareFiles& files,
     if (hasBegun) flash_ = FlashState::Erased;
     onStage(stage);
   });
-  if (!hasBegun && RefusesErasing(result.Fault())) flash_ = before;
+  if (!hasBegun && IsRefused(result.Fault())) flash_ = before;
   if (result) flash_ = FlashState::Kept;
   working.Ended(result);
   return result;
