@@ -6,6 +6,7 @@
 #include "link/LinkTimes.h"
 #include "link/NumberedStream.h"
 #include "link/WireText.h"
+#include "platform/Digits.h"
 
 namespace ostrel {
 namespace {

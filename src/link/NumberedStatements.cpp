@@ -3,6 +3,7 @@
 #include "link/LinkTimes.h"
 #include "link/WireText.h"
 #include "model/Features.h"
+#include "platform/Digits.h"
 
 namespace ostrel {
 

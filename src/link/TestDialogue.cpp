@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "base/Numbers.h"
 #include "link/LineReader.h"
 #include "link/LinkTimes.h"
 
@@ -17,23 +18,38 @@ bool AskBoard(Line& line, std::string message, std::string_view head) {
   return line.RxLine.starts_with(head);
 }
 
+/// Assigns a number to a field; false where it cannot hold it, and stays as it was.
+bool Take(std::int16_t& field, double number) {
+  const auto taken = RoundToEven<std::int16_t>(number);
+  field = taken.value_or(field);
+  return taken.has_value();
+}
+bool Take(float& field, double number) {
+  const auto taken = ToFloat(number);
+  field = taken.value_or(field);
+  return taken.has_value();
+}
+
 }  // namespace
 
 bool OrderTest(Line& line, std::string message) {
   return AskBoard(line, std::move(message), "#BE1");
 }
 
-bool ReadTestFrame(Line& line, double scale, TestFrame& frame) {
-  if (!AskBoard(line, "#F4", "#0B")) return false;
+TestFrameCame ReadTestFrame(Line& line, double scale, TestFrame& frame) {
+  TestFrameCame came;
+  if (!AskBoard(line, "#F4", "#0B")) return came;
   LineReader reader(line.RxLine);
-  reader.Into(frame.InputBits);
+  came.InputBits = Take(frame.InputBits, reader.Number());
   reader.Skip(1);
-  for (float* analog : {&frame.A0, &frame.A1, &frame.A2, &frame.A3})
-    Assign(*analog, reader.Number() * scale);
+  came.A0 = Take(frame.A0, reader.Number() * scale);
+  came.A1 = Take(frame.A1, reader.Number() * scale);
+  came.A2 = Take(frame.A2, reader.Number() * scale);
+  came.A3 = Take(frame.A3, reader.Number() * scale);
   reader.Skip(1);
-  reader.Into(frame.BatteryVolts);
-  reader.Into(frame.GsmState);
-  return true;
+  came.BatteryVolts = Take(frame.BatteryVolts, reader.Number());
+  came.GsmState = Take(frame.GsmState, reader.Number());
+  return came;
 }
 
 }  // namespace ostrel

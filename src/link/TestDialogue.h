@@ -16,11 +16,19 @@ struct TestFrame {
   std::int16_t GsmState = 0;
 };
 
+/// Which values of a frame have come with the answer.
+struct TestFrameCame {
+  bool InputBits = false;
+  bool A0 = false, A1 = false, A2 = false, A3 = false;
+  bool BatteryVolts = false;
+  bool GsmState = false;
+};
+
 /// Sends an order to a board under test and waits for its answer; true when that confirms it.
 bool OrderTest(Line& line, std::string message);
 
 /// Reads a frame. `scale` makes volts or degrees of the numbers in `A0` to `A3`. Without a good
-/// answer the frame stays as it was, and the result is false.
-bool ReadTestFrame(Line& line, double scale, TestFrame& frame);
+/// answer the frame stays as it was; with one, so does a value that its field cannot hold.
+TestFrameCame ReadTestFrame(Line& line, double scale, TestFrame& frame);
 
 }  // namespace ostrel

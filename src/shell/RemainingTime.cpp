@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "platform/Digits.h"
+
 namespace ostrel {
 namespace {
 
@@ -33,13 +35,10 @@ std::optional<Duration> RemainingTime::Left(TimePoint now) const {
 std::string DurationText(Duration duration) {
   const auto seconds = std::chrono::ceil<std::chrono::seconds>(duration).count();
   const bool hasHours = seconds >= 3600;
-  const auto twoDigits = [](auto number) {
-    return (number < 10 ? "0" : "") + std::to_string(number);
-  };
   const std::string minutes =
-      hasHours ? std::to_string(seconds / 3600) + ":" + twoDigits(seconds / 60 % 60)
+      hasHours ? std::to_string(seconds / 3600) + ":" + Padded(seconds / 60 % 60, 2)
                : std::to_string(seconds / 60);
-  return minutes + ":" + twoDigits(seconds % 60);
+  return minutes + ":" + Padded(seconds % 60, 2);
 }
 
 }  // namespace ostrel

@@ -84,9 +84,10 @@ class SessionDriver {
     mayClose_ = true;
     if (Connected_) session_.IniRequest = true;
   }
-  /// Whether it stands, and nobody has it: a test run may begin.
+  /// Whether it stands, and nobody has it: a test run may begin. A request that waits for the
+  /// general page waits on.
   bool MayLend() const {
-    return state_.phase == SessionPhase::Open && !lent_ && !HasRequest() &&
+    return state_.phase == SessionPhase::Open && !lent_ && !OwnsModel() &&
            listWork_ == ListWork::None;
   }
 

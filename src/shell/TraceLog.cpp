@@ -1,11 +1,7 @@
 #include "shell/TraceLog.h"
 
-#include "link/WireText.h"
-
 namespace ostrel {
 namespace {
-
-constexpr std::size_t kMilliDigits = 3;
 
 /// What stands behind the stamp, which is a number between blanks.
 std::string_view WithoutStamp(std::string_view line) {
@@ -25,11 +21,7 @@ TraceKind KindOf(std::string_view text) {
 
 }  // namespace
 
-std::string TraceEntry::Line() const {
-  const auto seconds = std::chrono::floor<std::chrono::seconds>(time);
-  return DateTimeText(FromSeconds(seconds.count())) + "." +
-         Padded(static_cast<int>((time - seconds).count()), kMilliDigits) + " " + text;
-}
+std::string TraceEntry::Line() const { return StampText(time) + " " + text; }
 
 void TraceLog::Add(std::string_view line) {
   const std::string_view text = WithoutStamp(line);

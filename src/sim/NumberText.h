@@ -4,6 +4,8 @@
 #include <concepts>
 #include <string>
 
+#include "platform/Digits.h"
+
 namespace ostrel::sim {
 
 /// Appends a whole number in plain digits.
@@ -24,9 +26,7 @@ inline void AppendNumber(std::string& text, float value) {
 
 /// Appends a number in exactly that many digits, zeros in front.
 inline void AppendPadded(std::string& text, int value, std::size_t digits) {
-  const std::string plain = std::to_string(value);
-  if (plain.size() < digits) text.append(digits - plain.size(), '0');
-  text += plain;
+  text += Padded(value, digits);
 }
 
 }  // namespace ostrel::sim

@@ -3,23 +3,16 @@
 #include <cstdlib>
 
 #include "base/Csv.h"
+#include "platform/Digits.h"
 
 namespace ostrel {
 namespace {
 
-constexpr int kMillisecondsASecond = 1000;
-
-std::string TwoDigits(std::int64_t number) {
-  return (number < 10 ? "0" : "") + std::to_string(number);
-}
-
 /// "2026-03-02T09:05:07.250".
 std::string IsoText(std::chrono::milliseconds time) {
-  const auto whole = std::chrono::floor<std::chrono::seconds>(time);
-  std::string text = DateTimeText(FromSeconds(whole.count()));
+  std::string text = StampText(time);
   text.replace(text.find(' '), 1, "T");
-  const auto rest = (time - whole).count();
-  return text + "." + std::to_string(kMillisecondsASecond + rest).substr(1);
+  return text;
 }
 
 /// "AI0 Level [m]".
@@ -36,8 +29,8 @@ std::string UtcText(const WallTime& time) { return IsoText(time.local - time.utc
 
 std::string LocalText(const WallTime& time) {
   const std::int64_t minutes = std::abs(time.utcOffset.count());
-  return IsoText(time.local) + (time.utcOffset.count() < 0 ? "-" : "+") + TwoDigits(minutes / 60) +
-         ":" + TwoDigits(minutes % 60);
+  return IsoText(time.local) + (time.utcOffset.count() < 0 ? "-" : "+") + Padded(minutes / 60, 2) +
+         ":" + Padded(minutes % 60, 2);
 }
 
 void LiveRecording::WriteHead(const LiveRound& round) {

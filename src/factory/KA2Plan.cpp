@@ -28,10 +28,10 @@ void CheckCharge(TestRun& run, std::string_view name, const Band& band, std::str
   int round = 0;
   for (; round < kChargeRounds && run.GoesOn(); ++round) {
     run.ReadTestFrame();
-    if (band.Holds(run.Frame().BatteryVolts)) break;
+    if (band.Holds(run.Battery().value)) break;
   }
   const bool passed = round < kTooManyRounds;
-  run.Note(name, run.Frame().BatteryVolts, band, passed);
+  run.Note(name, run.Battery(), band, passed);
   if (!passed) run.Fail(std::string(failure));
 }
 
@@ -40,8 +40,8 @@ void CheckInputs(TestRun& run, std::string_view order, std::string_view name, st
   run.Order(order);
   run.Delay(kSettleMs);
   run.ReadTestFrame();
-  run.Check(name, run.Frame().InputBits,
-            {.kind = Band::Kind::Equal, .low = static_cast<float>(inputs)}, failure);
+  run.Check(name, run.Inputs(), {.kind = Band::Kind::Equal, .low = static_cast<float>(inputs)},
+            failure);
 }
 
 void CheckBoard(TestRun& run) {
@@ -55,7 +55,7 @@ void CheckBoard(TestRun& run) {
   CheckInputs(run, kSwitchedOn, kInputsOn, 85, "Error en S0, se esperaba 85, lectura=");
   CheckInputs(run, kSwitchedOff, kInputsOff, 170, "Error en S0, se esperaba 170, lectura=");
   run.Order(kSwitchedOff);
-  run.Check(kProbe, run.Frame().A0, {.low = 5, .high = 40},
+  run.Check(kProbe, run.Analog(0), {.low = 5, .high = 40},
             "Error temperatura de sonda fuera de rango, lectura=");
   run.CheckGsm();
 }
@@ -69,7 +69,7 @@ void TestKA2Board(TestRun& run) {
   run.Request("Desconecte la tension de red");
   run.Delay(kSettleMs);
   run.ReadTestFrame();
-  run.Check(kMains, run.Frame().InputBits, {.kind = Band::Kind::HasBits, .low = kMainsFailure},
+  run.Check(kMains, run.Inputs(), {.kind = Band::Kind::HasBits, .low = kMainsFailure},
             "Error en deteccion fallo de red", Telling::Plain);
   run.Step("Escribiendo numero de serie");
   run.NumberBoard(NumVal(run.Info().SerialNumber) == -1);
@@ -92,6 +92,7 @@ const TestPlan kTestKA2{
     .modelName = "Ostrel KA2",
     .scale = 1,
     .atRest = kSwitchedOff,
+    .hint = "Iniciar el test con la bateria desconectada.",
     .steps = TestKA2Board,
     .lastRequest = "",
     .values = KA2Values,

@@ -14,11 +14,10 @@ namespace {
 constexpr std::string_view kOutputsOff = "#41VO0=0;VO1=0;VO2=0;VO3=0";
 constexpr float kMostIdleVolts = 0.7F;  ///< at an input that nothing drives
 constexpr std::size_t kAnalogs = 4;
-constexpr std::array<float TestFrame::*, kAnalogs> kReadings{&TestFrame::A0, &TestFrame::A1,
-                                                             &TestFrame::A2, &TestFrame::A3};
 
-/// One output switched on, and what must be read then. The texts for the operator say what they
-/// have said ever since: two of them do not name what is compared.
+/// One output switched on, and what must be read then. Some texts for the operator name something
+/// else than what is compared, the inputs at the first output and the last analog input at the
+/// first two; stations know them so, and they stay.
 struct Stage {
   std::string_view step;
   std::string_view order;
@@ -64,8 +63,7 @@ void CheckAnalog(TestRun& run, const Stage& stage, std::size_t analog) {
   failure.append(", se esperaba ").append(isDriven ? stage.expected : "< 0.7");
   const Band band = isDriven ? Band{.low = stage.low, .high = stage.high}
                              : Band{.kind = Band::Kind::AtMost, .high = kMostIdleVolts};
-  run.Check(ValueName(stage, name), run.Frame().*kReadings.at(analog), band,
-            failure.append(", lectura="));
+  run.Check(ValueName(stage, name), run.Analog(analog), band, failure.append(", lectura="));
 }
 
 void CheckStage(TestRun& run, const Stage& stage) {
@@ -73,7 +71,7 @@ void CheckStage(TestRun& run, const Stage& stage) {
   run.Order(stage.order);
   run.Delay(kSettleMs);
   run.ReadTestFrame();
-  run.Check(ValueName(stage, "S"), run.Frame().InputBits,
+  run.Check(ValueName(stage, "S"), run.Inputs(),
             {.kind = Band::Kind::Equal, .low = static_cast<float>(stage.inputs)},
             stage.inputsFailure);
   for (std::size_t analog = 0; analog < kAnalogs; ++analog) CheckAnalog(run, stage, analog);
@@ -91,7 +89,7 @@ void TestMainBoard(TestRun& run) {
   }
   run.NumberBoard(run.Info().SerialNumber == "0");
   run.ShowSerial();
-  run.Step("Comprobacion de consumo en modo idle, desconecte el USB y J9");
+  run.Prompt("Comprobacion de consumo en modo idle, desconecte el USB y J9");
   run.Order("#F5");
 }
 
@@ -114,6 +112,7 @@ const TestPlan kTest{
     .modelName = "Tavro BP",
     .scale = kVoltsPerStep,
     .atRest = kOutputsOff,
+    .hint = "",
     .steps = TestMainBoard,
     .lastRequest = "Compruebe que la tension del polimetro es menor de 50mV",
     .values = MainBoardValues,

@@ -31,12 +31,12 @@ constexpr std::array<Key, 6> kKeys{{
 /// nowhere.
 void AwaitKey(TestRun& run, const Key& key) {
   const Band band{.kind = Band::Kind::Equal, .low = static_cast<float>(key.inputs)};
-  run.Step(key.step);
+  run.Prompt(key.step);
   run.Delay(kBesideKeyMs);
   do {
     run.ReadTestFrame();
-  } while (run.GoesOn() && !band.Holds(run.Frame().InputBits));
-  run.Note(key.name, run.Frame().InputBits, band, true);
+  } while (run.GoesOn() && !band.Holds(run.Inputs().value));
+  run.Note(key.name, run.Inputs(), band, true);
   run.Step("Ok");
   run.Delay(kBesideKeyMs);
 }
@@ -71,6 +71,7 @@ const TestPlan kTestBQ{
     .modelName = "Tavro BQ",
     .scale = kVoltsPerStep,
     .atRest = kAtRest,
+    .hint = "",
     .steps = TestBQBoard,
     .lastRequest =
         "Desconecte el cable de diagnostico y compruebe que la tension del polimetro es menor de "
