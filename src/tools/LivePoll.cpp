@@ -1,6 +1,6 @@
 #include "tools/LivePoll.h"
 
-#include <optional>
+#include <algorithm>
 
 namespace ostrel {
 
@@ -31,7 +31,17 @@ void LivePoll::Read() {
     round = Present();
     context_.comms.ReadDeviceRTC();
   });
-  if (round) rounds_.Tell(*round);
+  if (!round) return;
+  told_ = context_.platform.loop.Now();
+  rounds_.Tell(*round);
+}
+
+bool LivePoll::IsPresent() const {
+  const bool isOfThisSession =
+      std::ranges::any_of(context_.live.reads, [](const LiveRead& read) { return read.hasCome; });
+  if (!context_.Connected || !told_ || !isOfThisSession || (Rests && Rests())) return false;
+  if (context_.comms.Reading().Runs()) return true;
+  return !context_.comms.LinkBusy && context_.platform.loop.Now() - *told_ <= kLivePresent;
 }
 
 LiveRound LivePoll::Present() const {

@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 #include "base/Feed.h"
 #include "model/LiveRound.h"
@@ -11,6 +12,8 @@ namespace ostrel {
 
 /// Twice a second, as far as the line keeps up.
 inline constexpr Duration kLivePeriod = std::chrono::milliseconds(500);
+/// How long a round tells how things are, where no other one is under way.
+inline constexpr Duration kLivePresent = std::chrono::seconds(5);
 
 /// Reads the live values of the session, and hands each round to whoever listens: the monitors, the
 /// plots, a recording.
@@ -37,6 +40,9 @@ class LivePoll {
   /// Whether the line is somebody's own now, and no round may begin. Null where it never is.
   std::function<bool()> Rests;
 
+  /// Whether the values of the last round are those of this moment: a round has come lately or is
+  /// under way, and nobody else has the line.
+  bool IsPresent() const;
   /// One round: the live values and the logger's clock. Tells it, whatever came, when it was not
   /// cut; nothing is told or sent while no session stands or another dialogue has the line.
   void Read();
@@ -50,6 +56,7 @@ class LivePoll {
   RoundFeed rounds_;
   std::weak_ptr<const void> kept_;  ///< lives while someone keeps the rounds going
   TimerId timer_ = 0;               ///< runs since someone did so first
+  std::optional<TimePoint> told_;   ///< when the last round was; nothing before the first
 };
 
 }  // namespace ostrel

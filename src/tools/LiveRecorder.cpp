@@ -58,9 +58,12 @@ RecorderPart::RecorderPart(Form& form, ToolContext& context, LiveRecorder& recor
       recorder_(recorder),
       BotonGrabar(form, "BotonGrabar", kBegin),
       LabelGrabar(form, "LabelGrabar") {
+  // The question for the file must not hold up a round that is under way.
   BotonGrabar.OnClick = [this] {
-    recorder_.Toggle();
-    Follow();
+    context_.comms.Reading().WhenFree([this] {
+      recorder_.Toggle();
+      Follow();
+    });
   };
 }
 

@@ -49,6 +49,7 @@ void T_Real_Katodex::LoadText() {
 
 void T_Real_Katodex::Form_Activate() {
   LoadText();
+  if (hasNames_) Show();  // as of a session that may have ended
   rounds_ = poll_.OnRound([this](const LiveRound&) { TakeRound(); });
   Timer1.SetEnabled(true);
 }

@@ -159,9 +159,11 @@ void T_Real_Tavro::SwitchTicked() {
 }
 
 void T_Real_Tavro::Show() {
-  const bool wasRead = std::ranges::any_of(
-      context_.live.reads, [](const LiveRead& read) { return read.hasCome || read.missed > 0; });
-  if (!wasRead) return;
+  // What stands here may be of a session before, whose end is to be seen.
+  hasShown_ = hasShown_ || std::ranges::any_of(context_.live.reads, [](const LiveRead& read) {
+                return read.hasCome || read.missed > 0;
+              });
+  if (!hasShown_) return;
   ShowNames();
   ShowValues();
   ShowBus();

@@ -71,6 +71,7 @@ class T_Real_Tavro final : public FrontForm {
   Timer Timer1;
   LivePoll::RoundFeed::Subscription rounds_;  ///< while it has the front
   bool polls_ = false;                        ///< the round under way is its own
+  bool hasShown_ = false;                     ///< values stand here, of whichever session
 };
 
 }  // namespace ostrel

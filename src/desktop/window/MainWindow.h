@@ -71,8 +71,8 @@ class MainWindow final : public QMainWindow {
   void Retranslate();
   /// Called when the configurator has started: shows what is in front, and follows it from here on.
   void Follow();
-  /// Goes to a node, as a click on it does.
-  void GoTo(const std::string& key);
+  /// Goes to a node, as a click on it does; false while the tree rests.
+  bool GoTo(const std::string& key);
   /// Goes to a field of the configuration: its page, its alarm configuration, its control.
   void GoToField(PageId page, const FieldId& field);
   LayoutContext Context();
@@ -96,6 +96,9 @@ class MainWindow final : public QMainWindow {
   void MakeRarerTools();
   /// Adds a tool to the bar, or to a menu of it.
   QAction* AddAction(QWidget& place, Sign sign, QKeySequence keys, std::function<void()> run);
+  /// What asks the operator something, guarded, at once or behind a reading that nobody waits for:
+  /// the question would hold that up.
+  std::function<void()> Asking(std::function<void()> run);
   /// Adds a tool that shows and hides a panel.
   QAction* AddSwitch(QWidget& place, Sign sign, QKeySequence keys, QDockWidget& panel,
                      std::function<void(bool on)> show);
