@@ -56,6 +56,31 @@ TEST_F(WindowAids, UndoesAndRedoesAPageAtATime) {
   EXPECT_FALSE(Tool("Deshacer")->isEnabled()) << "another model";
 }
 
+TEST_F(WindowAids, UndoMarksWhatIsNotSavedAndRestsDuringATransfer) {
+  AddLogger(sim::Model::BP);
+  port.SetPaced(true);
+  Connect(seconds(15));
+  Window().GoTo("E_Digital_0");
+  NameOf(PageId::E_Digital).Type("pump");
+  Window().GoTo("General");
+  dialogs.ChoosePath(Path("a.ocf"));
+  Tool("Guardar")->trigger();
+  EXPECT_FALSE(Window().isWindowModified());
+  Tool("Deshacer")->trigger();
+  EXPECT_TRUE(Window().isWindowModified());
+  Tool("Rehacer")->trigger();
+  EXPECT_FALSE(Window().isWindowModified());
+  int looks = 0;
+  loop.After(seconds(5), "look", [&] {
+    EXPECT_EQ(Core().session.State().phase, SessionPhase::Reading);
+    EXPECT_FALSE(Tool("Deshacer")->isEnabled());
+    ++looks;
+  });
+  Core().session.AskFor(SessionPhase::Reading);
+  loop.RunFor(seconds(40));
+  EXPECT_EQ(looks, 1);
+}
+
 TEST(EditHistory, KeepsSoManySteps) {
   TargetProfile profile;
   SelectTarget(profile, "Tavro BP");
