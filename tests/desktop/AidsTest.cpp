@@ -50,8 +50,12 @@ TEST_F(WindowAids, UndoesAndRedoesAPageAtATime) {
   EXPECT_FALSE(Tool("Rehacer")->isEnabled());
   Tool("Deshacer")->trigger();
   NameOf(PageId::E_Analog).Type("other");
+  Tool("Rehacer")->trigger();
+  EXPECT_EQ(Core().conf.Analog[1].NOMBRE, "other") << "what stands on the page is an edit";
   Window().GoTo("General");
   EXPECT_FALSE(Tool("Rehacer")->isEnabled()) << "a new edit leaves nothing to redo";
+  Tool("Deshacer")->trigger();
+  EXPECT_EQ(Core().conf.Analog[1].NOMBRE, "") << "and undone it is what was there before it";
   Core().TargetDeviceChange("Ostrel VR200");
   EXPECT_FALSE(Tool("Deshacer")->isEnabled()) << "another model";
 }
@@ -96,6 +100,8 @@ TEST(EditHistory, KeepsSoManySteps) {
   for (; history.CanUndo(); ++undone) state = history.Undo().state;
   EXPECT_EQ(undone, EditHistory::kMost - 1);
   EXPECT_EQ(state.General.DNAME, std::to_string(EditHistory::kMost));
+  ++state.Phone[5].Prio;  // of nobody
+  EXPECT_FALSE(history.IsEdited(state, profile)) << "a file holds the same texts";
 }
 
 TEST_F(WindowAids, RecordsTheLineInAFile) {

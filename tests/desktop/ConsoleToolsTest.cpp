@@ -42,6 +42,8 @@ TEST_F(ConsoleTools, TheConsoleShowsEachLineOnceAndItsEnd) {
   for (int i = 0; i < 200; ++i) Console().Append("needle\n");
   EXPECT_EQ(text->verticalScrollBar()->value(), text->verticalScrollBar()->maximum());
   auto* find = Window().Pages().Front()->findChild<QLineEdit*>("Find");
+  Press(find, Qt::Key_Return);
+  EXPECT_FALSE(On<QCheckBox>(*desktop, "PauseCheck")->isChecked()) << "nothing is sought";
   Type(find, "THREE");
   Press(find, Qt::Key_Return);
   EXPECT_EQ(text->textCursor().selectedText(), "three");

@@ -285,6 +285,8 @@ TEST_F(WindowLivePanels, AcceptsPointByPointAndKeepsIt) {
   EXPECT_TRUE(failure->text().startsWith("The last change could not be kept: "));
   files.Remove(Path("acceptance"));
   Find<QPushButton>("AcceptanceFail")->click();
+  EXPECT_EQ(list->topLevelItem(1)->text(4), list->topLevelItem(1)->text(1)) << "its own value";
+  EXPECT_FALSE(list->topLevelItem(1)->text(5).isEmpty());
   auto* note = Find<QLineEdit>("AcceptanceNote");
   Type(note, "no pulse");
   const std::string& serial = Core().info.SerialNumber;
@@ -302,6 +304,7 @@ TEST_F(WindowLivePanels, AcceptsPointByPointAndKeepsIt) {
   ASSERT_EQ(list->topLevelItemCount(), 3) << "it follows the configuration";
   EXPECT_EQ(list->topLevelItem(1)->text(3), "no pulse");
   list->setCurrentItem(list->topLevelItem(0));
+  EXPECT_EQ(note->text(), "");
   Find<QPushButton>("AcceptanceOpen")->click();
   EXPECT_EQ(list->topLevelItem(0)->text(2), "open");
   Find<QPushButton>("AcceptanceFail")->click();
@@ -323,6 +326,7 @@ TEST_F(WindowLivePanels, AcceptsPointByPointAndKeepsIt) {
   Run(seconds(2));
   EXPECT_FALSE(Find<QPushButton>("AcceptancePass")->isEnabled())
       << "of which logger this is, nobody knows";
+  EXPECT_TRUE(Find<QLabel>("AcceptanceSummary")->text().startsWith("Open a session to begin"));
   EXPECT_FALSE(note->isEnabled());
   EXPECT_EQ(list->topLevelItem(0)->text(1), "") << "nothing is measured any more";
 }
