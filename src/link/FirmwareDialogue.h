@@ -32,7 +32,7 @@ enum class FirmwareStage {
 /// other wrong answer, such as one that comes late or an echo, tells nothing of what it has heard.
 bool IsRefused(const LinkFault& fault);
 
-/// Replaces a logger's firmware.
+/// Replaces a logger's firmware, once.
 ///
 /// The files go out at line speed, and never more of them waits to go than half a second of the
 /// line carries. After each block the logger must have given a sign of life; a block counts when
