@@ -85,8 +85,7 @@ TEST(Recording, MasksASentCodeWhereverItComesBack) {
 /// Whatever befalls one octet of a line, or takes a run of them away, its passwords do not show.
 TEST(Recording, HoldsNoPasswordOfALineThatCameDamaged) {
   const std::string before = Sealed("#BD389TELEF,1,600111222");
-  const std::string line =
-      Sealed("#BD390GPRS,apn,clave77,pinar,1,2,3,0,ip,4,5,,,,,otra88,6,7");
+  const std::string line = Sealed("#BD390GPRS,apn,clave77,pinar,1,2,3,0,ip,4,5,,,,,otra88,6,7");
   const std::string behind = Sealed("#BD391CTIMER,0,60");
   const auto expectHidden = [&](const std::string& came, const std::string& what) {
     VirtualWorld world;
@@ -97,7 +96,7 @@ TEST(Recording, HoldsNoPasswordOfALineThatCameDamaged) {
   };
   for (std::size_t at = 0; at < line.size(); ++at) {
     const std::string where = " at " + std::to_string(at);
-    for (const char bit : {1, 8, 32}) {
+    for (const char bit : {'\x01', '\x08', '\x20'}) {
       std::string flipped = line;
       flipped[at] = static_cast<char>(flipped[at] ^ bit);
       expectHidden(flipped, "flipped" + where);

@@ -474,7 +474,7 @@ TEST_F(KilledBooks, WhatStillRunsIsNotInterrupted) {
 
 LedgerEntry Work(LedgerKind kind, LedgerState state = LedgerState::UnderWay,
                  const std::string& serial = "A") {
-  return {.kind = kind, .state = state, .serial = serial};
+  return {.kind = kind, .state = state, .began = "2026-03-02", .serial = serial};
 }
 LedgerEntry With(LedgerEntry entry, const std::string& content, const std::string& former = {}) {
   entry.content = content;
@@ -526,7 +526,7 @@ TEST(FindInterrupted, TellsWhatIsOpenAndWhy) {
            {{Work(Writing, Done), Work(Reading)}, {}},
            {{With(Work(Writing), "new", "old"), With(Work(Reading, Done), "new")}, {}},
            {{With(AskedToClose(Work(Writing)), "new", "old"), With(Work(Reading, Done), "old")},
-            {"1 it holds its former configuration: it was read on "}},
+            {"1 it holds its former configuration: it was read on 2026-03-02"}},
            {{With(Work(Writing), "new", "old"), With(Work(Reading, Done), "third")},
             {"1 " + former}},
            {{Tried(Work(VoiceWriting, Failed))}, {"1 " + voice}},
