@@ -45,6 +45,7 @@ class StandardFiles final : public Files {
     return files_.CopyMode(from, to);
   }
   FileResult Protect(const std::string& path) override { return files_.Protect(path); }
+  FileResult Preserve(const std::string& path) override { return files_.Preserve(path); }
   FileResult Write(const std::string& path, std::string_view octets) override {
     return files_.Write(path, octets);
   }

@@ -46,7 +46,8 @@ struct LinkHooks {
   std::function<void(std::string_view portName)> portFound;  ///< one usable port, such as "COM7"
   std::function<void(const LinkDeed&)> deedBegins{};         ///< ahead of its first octet
   std::function<void(const LinkDeed&, const LinkFault&)> deedEnds{};
-  std::function<void()> sessionEnds{};  ///< one that stood; the port is closed
+  /// One that stood has ended, and its port is closed; `fault` tells whether its line was lost.
+  std::function<void(const LinkFault& fault)> sessionEnds{};
 };
 
 /// The device link: owns the serial port and has every dialogue with a logger. It is the face of
@@ -161,6 +162,8 @@ class Comms {
   LinkResult Do(const LinkDeed& deed, const std::function<LinkResult()>& dialogue);
   LinkResult Set(const LinkDeed& deed, std::string message, std::string_view answer);
   void ClosePort();
+  /// The same where the line may have been lost before, which closing hides.
+  void ClosePort(bool isLost);
 
   Platform platform_;
   LinkRecords records_;

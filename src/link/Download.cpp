@@ -34,6 +34,7 @@ LinkFault Download::RunAttempts() {
   LinkFault fault;
   for (int attempt = 0; attempt < kLinkAttempts; ++attempt) {
     if (attempt > 0) line_.AwaitQuiet();  // the stream that failed may still be running
+    Tell(Progress::Stage::Attempt);
     line_.RxChars = 0;
     lines_.clear();
     if (model_.begin) model_.begin();

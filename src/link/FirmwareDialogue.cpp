@@ -48,6 +48,7 @@ LinkFault FirmwareDialogue::Transfer(const FirmwareFiles& files, const OnStage& 
 LinkFault FirmwareDialogue::Erase(const OnStage& onStage) {
   if (LinkFault fault = line_.AskOnly("#F0", kFlashAnswerMs, kErasing); !fault.Ok()) return fault;
   onStage(FirmwareStage::Erasing);
+  Tell(Progress::Stage::Closing);
   line_.ExpectAnswer(false);  // it says nothing while it erases
   if (!line_.RxSer(kFlashEraseMs)) return line_.WaitFault();
   if (line_.RxLine == kReady) return {};

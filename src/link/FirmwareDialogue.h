@@ -14,6 +14,7 @@ namespace ostrel {
 struct FirmwareFiles {
   std::string image;
   std::string loader;  ///< runs from RAM and copies the image into flash
+  std::string name{};  ///< path of the image; empty where it is not known
 };
 
 /// Octets of a file that go down the line: all but the last.

@@ -30,6 +30,7 @@ LinkFault Upload::Run() {
   Tell(Progress::Stage::Begun);
   LinkFault fault;
   for (int attempt = 0; attempt < kLinkAttempts; ++attempt) {
+    Tell(Progress::Stage::Attempt);
     fault = RunOnce();
     // What cannot be composed now cannot be at the next attempt.
     if (fault.Ok() || !line_.GoesOn() || fault.kind == LinkFault::Kind::PeriodTooLong) break;

@@ -53,6 +53,7 @@ LinkFault VoiceDialogue::Attempts(DialogueKind kind, int expected,
   LinkFault fault;
   for (int i = 0; i < kLinkAttempts; ++i) {
     if (i > 0) line_.AwaitQuiet();  // a list that failed may still be coming
+    Tell(Progress::Stage::Attempt, 0);
     fault = attempt();
     if (fault.Ok() || !line_.GoesOn()) break;
   }

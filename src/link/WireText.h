@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace ostrel {
 
@@ -22,6 +23,9 @@ std::string_view Characters(std::string_view line, std::size_t first,
 /// A line of the trace in which "****" stands for an access code, as a message or as the echo of
 /// its frame carries it.
 std::string MaskCode(std::string_view text);
+
+/// The passwords that a statement or a line of the configuration stream holds, none of them empty.
+std::vector<std::string_view> PasswordsIn(std::string_view text);
 
 /// A text in which "****" stands for the passwords of a statement or of a line of the configuration
 /// stream that it holds.

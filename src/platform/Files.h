@@ -63,6 +63,8 @@ class Files {
   virtual FileResult CopyMode(const std::string& from, const std::string& to) = 0;
   /// Makes a file or a folder accessible to its owner alone.
   virtual FileResult Protect(const std::string& path) = 0;
+  /// Makes a file one that its owner alone reads, and that nobody writes without a purpose.
+  virtual FileResult Preserve(const std::string& path) = 0;
   /// Replaces the content of an existing file.
   virtual FileResult Write(const std::string& path, std::string_view octets) = 0;
   /// Brings the content to the disk itself.
@@ -108,7 +110,7 @@ FileResult SaveWhole(Files& files, const std::string& path, std::string_view oct
                      Replacing replacing = Replacing::Unprotected,
                      Readers readers = Readers::AsBefore);
 
-/// Saves likewise at a name at which nothing may stand, readable by the owner alone.
+/// Saves likewise at a name at which nothing may stand, to be preserved as it is.
 FileResult SaveNew(Files& files, const std::string& path, std::string_view octets);
 
 }  // namespace ostrel

@@ -11,10 +11,14 @@ namespace {
 class PagesKept {
  public:
   explicit PagesKept(Configurator& configurator)
-      : configurator_(configurator), conf_(configurator.conf), origin_(configurator.WhereFrom()) {}
+      : configurator_(configurator),
+        conf_(configurator.conf),
+        origin_(configurator.WhereFrom()),
+        source_(configurator.ledger.Source()) {}
   ~PagesKept() {
     configurator_.ShowConfiguration(conf_);
     configurator_.SetOrigin(std::move(origin_));
+    configurator_.ledger.SetSource(std::move(source_));
   }
   PagesKept(const PagesKept&) = delete;
   PagesKept& operator=(const PagesKept&) = delete;
@@ -23,17 +27,19 @@ class PagesKept {
   Configurator& configurator_;
   DeviceConf conf_;
   Configurator::Origin origin_;
+  LedgerSource source_;
 };
 
 /// Reads what the logger holds, and gets the consent to replace it. Nothing when all is well.
 std::optional<WriteEnd> Prepare(Configurator& configurator, const WriteRoad& road,
                                 const DeviceConf& toSend) {
-  if (!road.keep && !road.mayWrite) return {};
+  const bool isGuarded = road.inSpiteOf && HaveMet(configurator);
+  if (!road.keep && !road.mayWrite && !isGuarded) return {};
   const auto held = ReadBeside(configurator, road.read);
   if (!held) return WriteEnd::NotRead;
   if (road.keep && !road.keep(*held)) return WriteEnd::NotKept;
-  if (const auto doubt = DoubtOfHeld(configurator, *held);
-      doubt && road.inSpiteOf && !road.inSpiteOf(*doubt))
+  if (const auto doubt = isGuarded ? DoubtOfHeld(configurator, *held) : std::nullopt;
+      doubt && !road.inSpiteOf(*doubt))
     return WriteEnd::Declined;
   if (road.mayWrite &&
       !road.mayWrite(Against(configurator, toSend, *held, road.passwords).WhatChanges()))

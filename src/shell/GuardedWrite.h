@@ -17,7 +17,8 @@ struct WriteRoad {
   std::function<bool()> write;  ///< uploads the model
   /// Keeps what the logger held before; null keeps nothing.
   std::function<bool(const DeviceConf& held)> keep{};
-  /// Asked where the ledger speaks against replacing what the logger holds; null when nobody asks.
+  /// Asked where the ledger speaks against replacing what the logger holds, which is read ahead
+  /// where the file was used with it; null when nobody asks.
   std::function<bool(const Phrase& doubt)> inSpiteOf{};
   /// Asked with what will change, from the logger to the model; null when nobody asks.
   std::function<bool(const Comparison& changes)> mayWrite{};

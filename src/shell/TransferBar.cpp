@@ -26,6 +26,7 @@ void ShowOnBar(const Progress& progress, ProgressBar& bar) {
     case Progress::Stage::Done:
       bar.SetValue(bar.Maximum());
       break;
+    case Progress::Stage::Attempt:
     case Progress::Stage::Closing:
     case Progress::Stage::Failed:
       break;
@@ -45,6 +46,7 @@ void ShowListOnBar(const Progress& progress, ProgressBar& bar) {
     case Progress::Stage::Done:
       bar.SetValue(bar.Maximum());
       break;
+    case Progress::Stage::Attempt:
     case Progress::Stage::Closing:
     case Progress::Stage::Failed:
       break;

@@ -20,6 +20,7 @@ void TransferWatch::Begin(std::string readFrom, int steps) {
 void TransferWatch::Follow(const Progress& progress) {
   switch (progress.stage) {
     case Progress::Stage::Begun:
+    case Progress::Stage::Attempt:
     case Progress::Stage::Closing:
       break;
     case Progress::Stage::Step:

@@ -50,6 +50,7 @@ FileResult ReadFirmware(Files& files, const FirmwarePaths& paths, FirmwareFiles&
     failed = *path;
     if (FileResult read = files.ReadUpTo(*path, kMostRead, *octets); !read.Ok()) return read;
   }
+  into.name = paths.image;
   return {};
 }
 

@@ -32,6 +32,11 @@ class WindowHistory : public OpenWindow {
     SessionTool("ReadTool")->trigger();
     loop.RunFor(seconds(40));
   }
+  void Edit(const std::string& name) {
+    Core().conf.General.DNAME = name;
+    Core().ShowConfiguration(Core().conf);
+    Window().Look();
+  }
   /// Clicks the button of a question whose text holds a word.
   static auto Chooses(const QString& word) {
     return [word](QWidget* modal) {
@@ -58,6 +63,11 @@ TEST_F(WindowHistory, FindsOpensAndComparesWhatWas) {
     EXPECT_EQ(table->item(0, 5)->text(), "COM7");
     EXPECT_EQ(table->item(0, 6)->text().section(u' ', 1), "registros");
     table->selectRow(0);
+    const QString details = modal->findChild<QPlainTextEdit*>("Details")->toPlainText();
+    for (const QString& known :
+         {ToQt("usuario: user"), ToQt("prestaciones: 0x"), ToQt("intentos: 1"),
+          ToQt("contenido: " + ledger.entries[1].content), ToQt("clase: lectura")})
+      EXPECT_TRUE(details.contains(known)) << FromQt(details);
     auto* filter = modal->findChild<QLineEdit*>("Filter");
     Type(filter, "nada");
     EXPECT_FALSE(modal->findChild<QPushButton*>("Open")->isEnabled()) << "it is hidden";
@@ -88,6 +98,64 @@ TEST_F(WindowHistory, FindsOpensAndComparesWhatWas) {
   ASSERT_EQ(dialogs.boxes.size(), 1U);
   EXPECT_NE(dialogs.boxes[0].text.find(Path("none/x.ocf")), std::string::npos);
   EXPECT_EQ(ledger.entries.back().serial, logger->Options().serial);
+  const auto kept = files.Read(Core().ConfFilePath);
+  Edit("edited");
+  const std::size_t asked = dialogs.questions.size();
+  Tool("Guardar")->trigger();
+  EXPECT_EQ(dialogs.questions.size(), asked + 1) << "a former state stays as it is";
+  EXPECT_EQ(files.Read(Path("history/entry-2.ocf")), kept);
+}
+
+/// Whether a message box has told something.
+bool HasTold(const VirtualDialogs& dialogs, const char* words) {
+  return std::ranges::any_of(dialogs.boxes, [&](const MessageBox& box) {
+    return box.text.find(words) != std::string::npos;
+  });
+}
+
+TEST_F(WindowHistory, PutsTheFormerConfigurationBackWithoutAnAccusation) {
+  ReadLogger();
+  const std::string former = Core().conf.General.DNAME;
+  LedgerEntry cut = ledger.entries.back();
+  cut.kind = LedgerKind::Writing;
+  cut.state = LedgerState::UnderWay;
+  cut.former = std::exchange(cut.content, {});
+  ledger.Add(cut);
+  ledger.process = "two";
+  sim::Configuration changed = logger->Conf();
+  changed.name = "Otro";
+  logger->SetConf(changed);
+  desktop.reset();
+  desktop = Make(&dialogs);
+  desktop->Start("");
+  ModalScript modals;
+  modals.Expect(Chooses("Reponer"));
+  modals.Expect(Chooses("Escribir"));
+  Window().show();
+  Connect();
+  loop.RunFor(seconds(120));
+  EXPECT_EQ(modals.Left(), 0U);
+  EXPECT_EQ(logger->Conf().name, former);
+  EXPECT_FALSE(HasTold(dialogs, "otros han cambiado"));
+}
+
+TEST_F(WindowHistory, WhatCameBackOtherwiseIsNoSuccess) {
+  ReadLogger();
+  Edit("Nuevo");
+  logger->OnExchange([this](const sim::Exchange& exchange) {
+    if (!exchange.request.starts_with("#46")) return;
+    sim::Configuration changed = logger->Conf();
+    changed.name = "Otro";
+    logger->SetConf(changed);
+  });
+  ModalScript modals;
+  modals.Expect(Chooses("Escribir"));
+  modals.Expect([](QWidget* modal) { Press(modal, Qt::Key_Escape); });
+  SessionTool("WriteTool")->trigger();
+  loop.RunFor(seconds(120));
+  EXPECT_EQ(modals.Left(), 0U);
+  EXPECT_EQ(Fault(), "El registrador contiene otra configuración que la enviada.");
+  EXPECT_TRUE(Window().isWindowModified()) << "it is safe nowhere";
 }
 
 TEST_F(WindowHistory, TellsATestRunInItsOwnLanguage) {
@@ -109,7 +177,8 @@ TEST_F(WindowHistory, TellsATestRunInItsOwnLanguage) {
     EXPECT_FALSE(measured->isVisible());
     table->selectRow(0);
     EXPECT_TRUE(measured->isVisible());
-    EXPECT_EQ(measured->toPlainText(), "número nuevo 1203050001\nVBat = 4.69 (>= 5) FALLO");
+    EXPECT_TRUE(
+        measured->toPlainText().endsWith("\nnúmero nuevo 1203050001\nVBat = 4.69 (>= 5) FALLO"));
     Press(modal, Qt::Key_Escape);
   });
   Tool("Historial")->trigger();

@@ -135,7 +135,7 @@ std::vector<std::string> DoubtsOfLogger(const Configurator& configurator) {
 
 /// Whether a file is a former state, which is written because the logger holds another one now.
 bool IsFormerState(const UploadOptions& options) {
-  return !options.copy.empty() || HistoryEntry(options.file) != 0;
+  return !options.copy.empty() || (options.finishes.empty() && HistoryEntry(options.file) != 0);
 }
 
 /// Writes with safety copy and verification, as far as the options want them.
@@ -156,7 +156,8 @@ ExitCode Send(Online& online, const UploadOptions& options, Refusal& refusal) {
       if (!step(refusal.Of(DoubtsOfModel(online.configurator)))) return false;
       return step(SaveBackup(context, online.configurator, held, result.backup));
     };
-  if (!IsFormerState(options))
+  const bool isUnasked = options.noBackup && options.force;
+  if (!IsFormerState(options) && !isUnasked)
     road.inSpiteOf = [&](const Phrase& doubt) { return step(refusal.Of({Filled(doubt)})); };
   const WriteResult written = WriteGuarded(online.configurator, road);
   if (written.end != WriteEnd::Written) return code;
@@ -180,7 +181,8 @@ ExitCode LoadFile(CommandContext& context, Configurator& configurator, const Upl
   const ExitCode refused = refusal.Of(DoubtsOfFile(context, options, *read));
   if (refused != ExitCode::Done) return refused;
   configurator.conf = read->conf;
-  if (file != kStandard) configurator.ledger.TakeFile(file);
+  if (file != kStandard)
+    configurator.ledger.TakeFile(options.finishes.empty() ? file : options.finishes);
   const std::string& fileModel = read->profile.TargetName;
   if (fileModel == model) return ExitCode::Done;
   configurator.TargetDeviceChange(fileModel);

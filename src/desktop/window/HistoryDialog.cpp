@@ -11,6 +11,7 @@
 #include <utility>
 
 #include "desktop/forms/Words.h"
+#include "shell/ledger/EntryFacts.h"
 #include "shell/ledger/TestRunBook.h"
 
 namespace ostrel {
@@ -23,8 +24,8 @@ constexpr std::size_t kEntriesShown = 2000;
 
 QString WordIn(std::string_view word) { return Words::tr(std::string(word).c_str()); }
 
-QString ResultOf(Ledger& books, const LedgerEntry& entry) {
-  return books.IsCutOff(entry) ? Words::tr("cut off") : WordIn(WordOf(entry.state));
+QString ResultOf(const Ledger& books, const LedgerEntry& entry) {
+  return WordIn(StateWord(entry, books.IsCutOff(entry)));
 }
 
 /// What failed. Of a test run the words ahead of a colon may be the ledger's, the rest was told.
@@ -44,7 +45,7 @@ QString MatterOf(const LedgerEntry& entry) {
   return parts.join(", ");
 }
 
-QStringList TextsOf(Ledger& books, const LedgerEntry& entry) {
+QStringList TextsOf(const Ledger& books, const LedgerEntry& entry) {
   QStringList texts(kHistoryColumns);
   texts[kNumber] = QString::number(entry.id);
   texts[kBegan] = ToQt(entry.began);
@@ -64,6 +65,18 @@ QString MeasuredIn(const LedgerEntry& entry) {
     if (line.endsWith(ToQt(kOutOfBand))) line.replace(ToQt(kOutOfBand), Words::tr("FAILED"));
   }
   return lines.join(u'\n');
+}
+
+/// What is known of an entry, a line a fact. What was measured stands by itself.
+QStringList FactLines(const Ledger& books, const LedgerEntry& entry) {
+  QStringList lines;
+  for (const EntryFact& fact : FactsOf(entry, books.IsCutOff(entry))) {
+    const bool isTest = entry.kind == LedgerKind::TestRun;
+    if (isTest && (fact.name == "detail" || fact.name == "fault")) continue;
+    const QString text = fact.isWord ? WordIn(fact.text) : ToQt(fact.text);
+    lines << WordIn(fact.name) + ": " + QString(text).replace(u'\n', u' ');
+  }
+  return lines;
 }
 
 QTableWidget* MakeHistoryTable(Ledger& books, const std::vector<LedgerEntry>& entries,
@@ -95,6 +108,7 @@ QTableWidget* MakeHistoryTable(Ledger& books, const std::vector<LedgerEntry>& en
 
 HistoryDialog::HistoryDialog(Ledger& books, QWidget* parent)
     : QDialog(parent),
+      books_(books),
       entries_(books.Find({.most = kEntriesShown})),
       table_(MakeHistoryTable(books, entries_, this)),
       details_(new QPlainTextEdit(this)) {
@@ -114,7 +128,7 @@ HistoryDialog::HistoryDialog(Ledger& books, QWidget* parent)
   details_->setReadOnly(true);
   details_->setTabChangesFocus(true);
   details_->setObjectName("Details");
-  details_->setAccessibleName(Words::tr("Measured values"));
+  details_->setAccessibleName(Words::tr("Details"));
   column->addWidget(details_, 2);
   auto* row = new QHBoxLayout;
   column->addLayout(row);
@@ -173,14 +187,23 @@ const LedgerEntry* HistoryDialog::Current() const {
 
 const LedgerEntry* HistoryDialog::Chosen() const {
   const LedgerEntry* entry = Current();
-  return entry && !entry->content.empty() ? entry : nullptr;
+  const bool isOfConfiguration = entry && entry->kind != LedgerKind::VoiceWriting;
+  return isOfConfiguration && !entry->content.empty() ? entry : nullptr;
+}
+
+QString HistoryDialog::DetailsOf(const LedgerEntry& entry) const {
+  QStringList lines = FactLines(books_, entry);
+  for (auto one = entries_.rbegin(); one != entries_.rend(); ++one)
+    if (one->about == entry.id)
+      lines << TextsOf(books_, *one).mid(kBegan, kResult - kBegan + 1).join(u' ');
+  lines << MeasuredIn(entry).split(u'\n', Qt::SkipEmptyParts);
+  return lines.join(u'\n');
 }
 
 void HistoryDialog::ShowChoice() {
   const LedgerEntry* entry = Current();
-  const QString measured = entry ? MeasuredIn(*entry) : QString();
-  details_->setPlainText(measured);
-  details_->setVisible(!measured.isEmpty());
+  details_->setPlainText(entry ? DetailsOf(*entry) : QString());
+  details_->setVisible(entry != nullptr);
   for (QPushButton* button : buttons_) button->setEnabled(Chosen() != nullptr);
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QDialog>
+#include <QString>
 #include <functional>
 #include <vector>
 
@@ -30,7 +31,10 @@ class HistoryDialog final : public QDialog {
   /// The same if it has a configuration; else null.
   const LedgerEntry* Chosen() const;
   void ShowChoice();
+  /// All that is known of an entry, and how it was read back.
+  QString DetailsOf(const LedgerEntry& entry) const;
 
+  Ledger& books_;
   std::vector<LedgerEntry> entries_;
   QTableWidget* table_;
   QPlainTextEdit* details_;            ///< what the chosen entry tells beside its line

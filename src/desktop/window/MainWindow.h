@@ -110,7 +110,10 @@ class MainWindow final : public QMainWindow {
   void Open();
   void OpenPath(const std::string& path);
   void Opened();
-  /// Works on the file that was opened, unless it was not whole, which is told.
+  /// Whether a path is that of a safety copy or of a state from the ledger, which stay as they are.
+  bool IsFormerState(const std::string& path) const;
+  /// Works on the file that was opened, unless it was not whole, which is told, or is to stay as it
+  /// is.
   void TakeFile();
   /// False when it was left, or when writing failed.
   bool Save();
@@ -217,13 +220,14 @@ class MainWindow final : public QMainWindow {
   bool MayChangeModel(const std::string& model);
 
   // The ledger.
-  /// Opens the configuration of an entry, from a file of its own in the user's data folder.
   /// The configuration of an entry, as a file of the program's own; told where it cannot be made.
   std::optional<std::string> FileOf(const LedgerEntry& entry);
+  /// Opens the configuration of an entry from that file.
   void OpenEntry(const LedgerEntry& entry);
   void CompareEntry(const LedgerEntry& entry);
   void SaveEntry(const LedgerEntry& entry);
-  void WriteEntry(const LedgerEntry& entry);
+  /// Asks to write the configuration of an entry; in the name of a file where one is given.
+  void WriteEntry(const LedgerEntry& entry, const std::string& inNameOf);
   /// Says in the status bar that nothing is kept; no box, since a transfer may run.
   void TellLedgerFault(const std::string& why);
   /// Tells at the start what was interrupted when the program ran last.
@@ -289,7 +293,9 @@ class MainWindow final : public QMainWindow {
           *traceSwitch_ = nullptr, *findingsSwitch_ = nullptr, *more_ = nullptr;
   QLabel* ledgerFault_ = nullptr;
   std::string offeredTo_;  ///< serial number of the logger that ways out were offered for
-  std::optional<LedgerEntry> looksFor_;  ///< the interrupted writing whose logger is being read
+  std::optional<LedgerEntry> looksFor_;     ///< the interrupted writing whose logger is being read
+  std::pair<std::int64_t, QString> found_;  ///< what reading for an interrupted writing has found
+  QString otherwise_;  ///< what is told for as long as a logger holds something else than was sent
   bool following_ = false;
   QString success_;                    ///< what the status bar says of the last writing
   bool hasMoved_ = false;              ///< a transfer of this session has succeeded

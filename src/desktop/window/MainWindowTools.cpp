@@ -203,6 +203,14 @@ void MainWindow::TakeFile() {
   }
 }
 
+bool MainWindow::IsFormerState(const std::string& path) const {
+  const std::string absolute = parts_.platform.files.Absolute(path);
+  const auto isIn = [&](const std::string& folder) {
+    return absolute.starts_with(parts_.platform.files.Absolute(folder) + "/");
+  };
+  return !path.empty() && (isIn(copies_.Folder()) || isIn(parts_.dataFolder + "/history"));
+}
+
 void MainWindow::Opened() {
   ForgetSuccess();
   TakeFile();
@@ -252,8 +260,9 @@ void MainWindow::Tell(const QString& words) {
 
 void MainWindow::WorkOn(const std::string& path) {
   unsaved_.Keep(configurator_.conf);
-  recent_.Add(path);
-  shownFile_ = path;
+  const bool isFormer = IsFormerState(path);
+  if (!isFormer) recent_.Add(path);
+  shownFile_ = isFormer ? std::string() : path;
   ShowTitle();
 }
 

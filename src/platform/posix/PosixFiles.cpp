@@ -29,6 +29,7 @@ constexpr mode_t kPermissions = 0777;
 constexpr mode_t kWritable = 0222;
 constexpr mode_t kOwnFile = 0600;
 constexpr mode_t kOwnFolder = 0700;
+constexpr mode_t kPreserved = 0400;
 constexpr mode_t kAnyNewFile = 0666;  // less what the process's mask takes away
 
 /// An open file, closed at the end of its scope.
@@ -245,6 +246,10 @@ FileResult PosixFiles::Protect(const std::string& path) {
   std::error_code error;
   const mode_t mode = fs::is_directory(path, error) ? kOwnFolder : kOwnFile;
   return Outcome(::chmod(path.c_str(), mode) == 0);
+}
+
+FileResult PosixFiles::Preserve(const std::string& path) {
+  return Outcome(::chmod(path.c_str(), kPreserved) == 0);
 }
 
 FileResult PosixFiles::Write(const std::string& path, std::string_view octets) {

@@ -23,6 +23,7 @@ class PosixFiles final : public Files {
   FileResult Create(const std::string& path) override;
   FileResult CopyMode(const std::string& from, const std::string& to) override;
   FileResult Protect(const std::string& path) override;
+  FileResult Preserve(const std::string& path) override;
   FileResult Write(const std::string& path, std::string_view octets) override;
   FileResult Sync(const std::string& path) override;
   /// Brings the change of the folder to the disk, too.

@@ -112,6 +112,12 @@ FileResult VirtualFiles::Protect(const std::string& path) {
   return {};
 }
 
+FileResult VirtualFiles::Preserve(const std::string& path) {
+  if (Fails(Change::Mode, path)) return {"cannot set the mode"};
+  modes[path] = 0400;
+  return {};
+}
+
 FileResult VirtualFiles::Write(const std::string& path, std::string_view octets) {
   const bool fails = Fails(Change::Write, path);
   const auto found = contents.find(Resolve(path));

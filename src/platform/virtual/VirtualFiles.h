@@ -58,6 +58,7 @@ class VirtualFiles final : public Files {
   FileResult Create(const std::string& path) override;
   FileResult CopyMode(const std::string& from, const std::string& to) override;
   FileResult Protect(const std::string& path) override;
+  FileResult Preserve(const std::string& path) override;
   FileResult Write(const std::string& path, std::string_view octets) override;
   FileResult Sync(const std::string& path) override;
   FileResult Rename(const std::string& from, const std::string& to) override;

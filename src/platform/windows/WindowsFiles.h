@@ -25,6 +25,7 @@ class WindowsFiles final : public Files {
   FileResult Create(const std::string& path) override;
   FileResult CopyMode(const std::string& from, const std::string& to) override;
   FileResult Protect(const std::string& path) override;
+  FileResult Preserve(const std::string& path) override;
   FileResult Write(const std::string& path, std::string_view octets) override;
   FileResult Sync(const std::string& path) override;
   /// Is on the disk when this returns.

@@ -29,6 +29,7 @@ enum class DoctorWord {
   NotPermittedGroup,
   NobodyElse,
   InUseBy,
+  InUseByOther,
   Opened,
   NotOpened,
   NoLines,

@@ -17,6 +17,9 @@ class Configurator;
 /// the pages, was last used with another logger, or with a firmware of other features.
 std::vector<Phrase> DoubtsOfIdentity(const Configurator& configurator);
 
+/// Whether the file was used with the logger that answers, so that what it holds can be judged.
+bool HaveMet(const Configurator& configurator);
+
 /// What speaks against it once the logger was read: it holds what the file never held nor was
 /// written, so that somebody else has changed it since.
 std::optional<Phrase> DoubtOfHeld(const Configurator& configurator, const DeviceConf& held);
