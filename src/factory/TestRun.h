@@ -11,7 +11,7 @@
 #include "factory/TestPlan.h"
 #include "factory/TestRecord.h"
 #include "link/Comms.h"
-#include "link/TestDialogue.h"
+#include "link/dialogues/TestDialogue.h"
 #include "model/DeviceInfo.h"
 #include "model/TargetProfile.h"
 #include "platform/Platform.h"

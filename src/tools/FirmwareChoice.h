@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-#include "link/FirmwareDialogue.h"
+#include "link/dialogues/FirmwareDialogue.h"
 #include "platform/Files.h"
 
 namespace ostrel {

@@ -3,9 +3,9 @@
 #include <sstream>
 
 #include "base/CodePage.h"
-#include "shell/FaultWords.h"
-#include "shell/Navigation.h"
 #include "shell/SimWorld.h"
+#include "shell/navigation/Navigation.h"
+#include "shell/session/FaultWords.h"
 #include "tools/FirmwareChoice.h"
 #include "tools/HexFiles.h"
 #include "tools/IntelHex.h"

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
-#include "shell/Navigation.h"
 #include "shell/SimWorld.h"
+#include "shell/navigation/Navigation.h"
 
 namespace ostrel {
 namespace {

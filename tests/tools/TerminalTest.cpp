@@ -2,8 +2,8 @@
 
 #include <sstream>
 
-#include "shell/Navigation.h"
 #include "shell/SimWorld.h"
+#include "shell/navigation/Navigation.h"
 #include "tools/Disk.h"
 #include "tools/RichText.h"
 

@@ -10,7 +10,7 @@
 #include "cli/commands/OnlineCommand.h"
 #include "host/LoggerText.h"
 #include "model/LiveRound.h"
-#include "tools/LiveRecording.h"
+#include "tools/live/LiveRecording.h"
 
 namespace ostrel::cli {
 namespace {

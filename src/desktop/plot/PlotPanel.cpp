@@ -14,7 +14,7 @@
 
 #include "base/Scope.h"
 #include "desktop/forms/Words.h"
-#include "tools/LiveRecording.h"
+#include "tools/live/LiveRecording.h"
 
 namespace ostrel {
 namespace {

@@ -11,14 +11,14 @@
 #include <QStyle>
 #include <QVBoxLayout>
 
+#include "desktop/dialogs/CompareWindow.h"
 #include "desktop/forms/Icons.h"
 #include "desktop/forms/Words.h"
-#include "desktop/window/CompareWindow.h"
-#include "desktop/window/FaultText.h"
+#include "desktop/session/FaultText.h"
 #include "platform/Settings.h"
 #include "shell/Configurator.h"
-#include "shell/ForeignKeys.h"
-#include "shell/NodeMarks.h"
+#include "shell/files/ForeignKeys.h"
+#include "shell/navigation/NodeMarks.h"
 
 namespace ostrel {
 namespace {

@@ -13,7 +13,7 @@
 #include "desktop/forms/Icons.h"
 #include "desktop/forms/Words.h"
 #include "desktop/program/Language.h"
-#include "desktop/window/FaultText.h"
+#include "desktop/session/FaultText.h"
 #include "desktop/window/MainWindow.h"
 #include "platform/Clock.h"
 #include "platform/Dialogs.h"
