@@ -7,7 +7,7 @@ namespace ostrel {
 namespace {
 
 constexpr const char* kMarkName = "NoteMark";
-constexpr qreal kLine = 2;  // width in pixels
+constexpr qreal kStrokeWidth = 2;  // width in pixels
 
 }  // namespace
 
@@ -59,7 +59,7 @@ bool NoteMark::eventFilter(QObject* watched, QEvent* event) {
 void NoteMark::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
-  painter.setPen(QPen(colour_, kLine));
+  painter.setPen(QPen(colour_, kStrokeWidth));
   painter.drawRoundedRect(QRectF(rect()).adjusted(1, 1, -1, -1), 4, 4);
 }
 

@@ -16,7 +16,7 @@ namespace {
 
 /// The jumpers of a board as pairs of pins, three columns of them, and which of the pairs each
 /// picture bridges: one bit a pair, the upper row first.
-constexpr int kColumns = 3;
+constexpr int kPicturesAcross = 3;
 constexpr std::array<unsigned, 6> kBridged{0b000000, 0b000111, 0b001110,
                                            0b110001, 0b011100, 0b101010};
 
@@ -37,12 +37,12 @@ class JumperView final : public QWidget {
     painter.drawRoundedRect(rect(), 6, 6);
     const auto image = static_cast<std::size_t>(picture_.Image());
     const unsigned bridged = image < kBridged.size() ? kBridged[image] : 0;
-    for (int pair = 0; pair < 2 * kColumns; ++pair) DrawPair(painter, pair, bridged >> pair & 1U);
+    for (int pair = 0; pair < 2 * kPicturesAcross; ++pair) DrawPair(painter, pair, bridged >> pair & 1U);
   }
 
  private:
   static void DrawPair(QPainter& painter, int pair, bool isBridged) {
-    const QPointF at(14 + pair % kColumns * 40, 14 + pair / kColumns * 32);
+    const QPointF at(14 + pair % kPicturesAcross * 40, 14 + pair / kPicturesAcross * 32);
     if (isBridged) {
       painter.setBrush(QColor("#2b3f8c"));
       painter.drawRoundedRect(QRectF(at.x() - 5, at.y() - 5, 36, 26), 4, 4);
