@@ -6,7 +6,6 @@
 #include "base/Scope.h"
 #include "link/Information.h"
 #include "link/LinkTimes.h"
-#include "link/LiveCommands.h"
 #include "link/Modem.h"
 #include "link/Opening.h"
 #include "link/ProbeReading.h"
@@ -165,7 +164,8 @@ LinkResult Comms::ReadTotalCount() {
 
 LinkResult Comms::ReadIOParameter() {
   const auto requests = NameRequests(records_.live, records_.profile, records_.info);
-  return line_.Converse(line_.TimeFor(requests.size()), [&] { return FetchEach(line_, requests); });
+  return line_.Converse(line_.TimeFor(requests.size()),
+                        [&] { return FetchNames(line_, requests, namesTold_); });
 }
 
 LinkResult Comms::ReadRealTime() {

@@ -1,5 +1,8 @@
 #include "shell/GuardedWrite.h"
 
+#include <type_traits>
+
+#include "base/Scope.h"
 #include "shell/Against.h"
 #include "shell/Configurator.h"
 #include "shell/ledger/IdentityGuard.h"
@@ -29,11 +32,16 @@ class PagesKept {
 std::optional<WriteEnd> Prepare(Configurator& configurator, const WriteRoad& road,
                                 const DeviceConf& toSend) {
   if (!road.keep && !road.mayWrite) return {};
+  const auto isDeclined = [&road](const std::optional<Phrase>& doubt) {
+    return doubt && road.inSpiteOf && !road.inSpiteOf(*doubt);
+  };
+  const auto known = configurator.session.ModelDoubt();  // whoever writes has been asked about it
   const auto held = ReadBeside(configurator, road.read);
   if (!held) return WriteEnd::NotRead;
+  if (const auto doubt = configurator.session.ModelDoubt(); doubt != known && isDeclined(doubt))
+    return WriteEnd::Declined;
   if (road.keep && !road.keep(*held)) return WriteEnd::NotKept;
-  if (const auto doubt = DoubtOfHeld(configurator, *held);
-      doubt && road.inSpiteOf && !road.inSpiteOf(*doubt))
+  if (!road.isFormerState && isDeclined(DoubtOfHeld(configurator, *held)))
     return WriteEnd::Declined;
   if (road.mayWrite &&
       !road.mayWrite(Against(configurator, toSend, *held, road.passwords).WhatChanges()))
@@ -65,6 +73,9 @@ std::optional<DeviceConf> ReadBeside(Configurator& configurator,
 
 WriteResult WriteGuarded(Configurator& configurator, const WriteRoad& road) {
   const auto guarded = configurator.ledger.WithGuards();
+  // What its readings tell of the model is asked about: nobody is to be told beside it.
+  auto& tell = configurator.session.OnModelDoubt;
+  const Lent untold(tell, std::remove_reference_t<decltype(tell)>{});
   configurator.session.ForgetWritten();
   WriteResult result{.sent = configurator.conf};
   result.end = Send(configurator, road, result);
