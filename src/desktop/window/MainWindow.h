@@ -18,6 +18,7 @@
 #include "desktop/window/SessionBar.h"
 #include "desktop/window/TraceView.h"
 #include "desktop/window/TreePane.h"
+#include "platform/Files.h"
 #include "platform/Platform.h"
 #include "platform/PortFacts.h"
 #include "platform/TappedPort.h"
@@ -136,7 +137,8 @@ class MainWindow final : public QMainWindow {
   void ShowUndo();
   void StartHistory();
   /// Saves octets to a file that the operator chooses. `kind` is in words.
-  void SaveBeside(const QString& kind, const QString& ending, const std::string& octets);
+  void SaveBeside(const QString& kind, const QString& ending, const std::string& octets,
+                  Readers readers = Readers::AsBefore);
   /// Says in a box what went wrong.
   void Tell(const QString& words);
 
