@@ -5,6 +5,7 @@
 #include <string>
 #include <string_view>
 
+#include "base/Scope.h"
 #include "cli/Console.h"
 #include "cli/ConsoleDialogs.h"
 #include "cli/Environment.h"
@@ -14,9 +15,9 @@
 #include "lang/Lang.h"
 #include "platform/TappedPort.h"
 #include "recording/Recorder.h"
-#include "shell/ConfigurationFile.h"
 #include "shell/Configurator.h"
-#include "shell/FieldWords.h"
+#include "shell/files/ConfigurationFile.h"
+#include "shell/words/FieldWords.h"
 
 namespace ostrel::cli {
 
@@ -56,6 +57,14 @@ class CommandContext {
   /// Gives texts in the language of the options.
   Translation Translator() {
     return [this](std::string_view text) { return lang_.TranslateIfRoom(text); };
+  }
+  /// The same in another language, by its column in the table of texts.
+  Translation TranslatorTo(std::int16_t column) {
+    return [this, column](std::string_view text) {
+      const AtEnd back([this, before = lang_.SelectedLang()] { lang_.SetSelectedLang(before); });
+      lang_.SetSelectedLang(column);
+      return lang_.TranslateIfRoom(text);
+    };
   }
 
   /// The model to work with, by its display name: that of the options, else that of the simulated

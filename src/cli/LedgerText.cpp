@@ -6,15 +6,12 @@
 
 #include "base/Printable.h"
 #include "host/LoggerText.h"
+#include "shell/ledger/EntryFacts.h"
 
 namespace ostrel::cli {
 namespace {
 
 constexpr int kFieldWidth = 14;
-
-std::string StateText(const LedgerEntry& entry, bool isCutOff) {
-  return isCutOff ? "cut off" : std::string(WordOf(entry.state));
-}
 
 std::string FeaturesOf(const LedgerEntry& entry) {
   return entry.features == LedgerEntry::kUnknown
@@ -52,7 +49,7 @@ Json EntryJson(const LedgerEntry& entry, bool isCutOff) {
 
 void PrintEntryLine(std::ostream& out, const LedgerEntry& entry, bool isCutOff) {
   out << std::right << std::setw(5) << entry.id << "  " << entry.began << "  " << std::left
-      << std::setw(kFieldWidth) << WordOf(entry.kind) << std::setw(10) << StateText(entry, isCutOff)
+      << std::setw(kFieldWidth) << WordOf(entry.kind) << std::setw(10) << StateWord(entry, isCutOff)
       << entry.model;
   if (!entry.serial.empty()) out << ' ' << Printable(entry.serial);
   if (const std::string matter = Matter(entry); !matter.empty()) out << "  " << Printable(matter);
@@ -68,21 +65,7 @@ void PrintEntry(std::ostream& out, const LedgerEntry& entry, bool isCutOff) {
       name = {};
     }
   };
-  VisitLedgerEntry(entry, [&](const char* name, const auto& value) {
-    using Value = std::remove_cvref_t<decltype(value)>;
-    if constexpr (std::is_same_v<Value, LedgerState>)
-      print(name, StateText(entry, isCutOff));
-    else if constexpr (std::is_enum_v<Value>)
-      print(name, std::string(WordOf(value)));
-    else if constexpr (std::is_same_v<Value, std::string>)
-      print(name, value);
-    else if constexpr (std::is_same_v<Value, bool>)
-      print(name, value ? "yes" : "");
-    else if (std::string_view(name) == "features")
-      print(name, FeaturesOf(entry));
-    else
-      print(name, value == 0 ? std::string() : std::to_string(value));
-  });
+  for (const EntryFact& fact : FactsOf(entry, isCutOff)) print(fact.name, fact.text);
 }
 
 }  // namespace ostrel::cli

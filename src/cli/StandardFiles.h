@@ -29,6 +29,7 @@ class StandardFiles final : public Files {
 
   /// What comes in by standard input has the limit of most files.
   FileResult ReadUpTo(const std::string& path, std::size_t most, std::string& octets) override;
+  FileResult ReadEnd(const std::string& path, std::size_t most, std::string& octets) override;
   bool Exists(const std::string& path) override { return IsOwn(path) || files_.Exists(path); }
   std::vector<std::string> List(const std::string& folder) override { return files_.List(folder); }
   std::string Absolute(const std::string& path) override {
@@ -44,6 +45,7 @@ class StandardFiles final : public Files {
     return files_.CopyMode(from, to);
   }
   FileResult Protect(const std::string& path) override { return files_.Protect(path); }
+  FileResult Preserve(const std::string& path) override { return files_.Preserve(path); }
   FileResult Write(const std::string& path, std::string_view octets) override {
     return files_.Write(path, octets);
   }

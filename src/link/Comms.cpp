@@ -4,11 +4,13 @@
 #include <utility>
 
 #include "base/Scope.h"
-#include "link/Information.h"
+#include "base/Sha256.h"
 #include "link/LinkTimes.h"
 #include "link/Modem.h"
-#include "link/Opening.h"
-#include "link/ProbeReading.h"
+#include "link/dialogues/Information.h"
+#include "link/dialogues/LiveCommands.h"
+#include "link/dialogues/Opening.h"
+#include "link/dialogues/ProbeReading.h"
 #include "platform/Clock.h"
 
 namespace ostrel {
@@ -19,6 +21,24 @@ constexpr int kOutputBits = 16;
 /// "counter 2 = 1500".
 std::string TotalText(std::string_view whose, std::int16_t index, std::int32_t value) {
   return std::string(whose) + std::to_string(index) + " = " + std::to_string(value);
+}
+
+/// The numbers of a list, one a line, as a text file has them.
+std::string NumbersText(const ConfAutVoz& list) {
+  std::string text;
+  for (const std::string& number : NumbersOf(list)) text += number + "\n";
+  return text;
+}
+
+/// "3 numbers, macro 2".
+std::string ListText(const ConfAutVoz& list) {
+  return std::to_string(NumbersOf(list).size()) + " numbers, " +
+         (list.MACRO < 0 ? "no macro" : "macro " + std::to_string(list.MACRO));
+}
+
+/// "123456 octets, SHA-256 0123456789abcdef...", of the image.
+std::string FirmwareText(const FirmwareFiles& files) {
+  return std::to_string(files.image.size()) + " octets, SHA-256 " + Sha256(files.image);
 }
 
 }  // namespace
@@ -84,7 +104,7 @@ LinkResult Comms::StartComs(std::int16_t port, const std::string& phone) {
 
 void Comms::CloseComs(bool modem) {
   const Line::Dialogue dialogue(line_);
-  const AtEnd closed([this] { ClosePort(); });
+  const AtEnd closed([this, isLost = LineLost()] { ClosePort(isLost); });
   if (modem && line_.GoesOn()) HangUp(line_);
   if (line_.GoesOn()) line_.AwaitSent();
 }
@@ -106,9 +126,12 @@ LinkResult Comms::Keep(LinkResult result) {
   return result;
 }
 
-void Comms::ClosePort() {
+void Comms::ClosePort() { ClosePort(line_.PortOpen() && LineLost()); }
+
+void Comms::ClosePort(bool isLost) {
   line_.Close();
-  if (std::exchange(stands_, false) && hooks_.sessionEnds) hooks_.sessionEnds();
+  if (!std::exchange(stands_, false) || !hooks_.sessionEnds) return;
+  hooks_.sessionEnds(isLost ? LinkFault{LinkFault::Kind::LineLost} : LinkFault{});
 }
 
 LinkResult Comms::Do(const LinkDeed& deed, const std::function<LinkResult()>& dialogue) {
@@ -206,7 +229,7 @@ LinkResult Comms::ReadProbeIdentity(ProbeIdentity& identity) {
 }
 
 LinkResult Comms::WriteAutVoz(const ConfAutVoz& list) {
-  return Do({LedgerKind::VoiceWriting},
+  return Do({.kind = LedgerKind::VoiceWriting, .detail = ListText(list), .text = NumbersText(list)},
             [&] { return line_.Converse(kAnyTime, [&] { return voice_.Write(list); }); });
 }
 
@@ -217,7 +240,7 @@ LinkResult Comms::ReadAutVozList(ConfAutVoz& list) {
 
 LinkResult Comms::SendFirmware(const FirmwareFiles& files,
                                const FirmwareDialogue::OnStage& onStage) {
-  return Do({LedgerKind::Firmware, std::to_string(files.image.size()) + " octets"}, [&] {
+  return Do({.kind = LedgerKind::Firmware, .detail = FirmwareText(files), .file = files.name}, [&] {
     return line_.Converse(kAnyTime,
                           [&] { return FirmwareDialogue(line_, progress_).Run(files, onStage); });
   });

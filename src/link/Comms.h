@@ -9,15 +9,15 @@
 #include <vector>
 
 #include "link/Background.h"
-#include "link/Download.h"
-#include "link/FirmwareDialogue.h"
 #include "link/Line.h"
 #include "link/LinkDeed.h"
 #include "link/LiveCommands.h"
 #include "link/Progress.h"
-#include "link/Upload.h"
-#include "link/VoiceDialogue.h"
 #include "link/Wire.h"
+#include "link/dialogues/Download.h"
+#include "link/dialogues/FirmwareDialogue.h"
+#include "link/dialogues/Upload.h"
+#include "link/dialogues/VoiceDialogue.h"
 #include "model/DeviceInfo.h"
 #include "model/ProbeIdentity.h"
 #include "model/RealTimeData.h"
@@ -47,7 +47,8 @@ struct LinkHooks {
   std::function<void(std::string_view portName)> portFound;  ///< one usable port, such as "COM7"
   std::function<void(const LinkDeed&)> deedBegins{};         ///< ahead of its first octet
   std::function<void(const LinkDeed&, const LinkFault&)> deedEnds{};
-  std::function<void()> sessionEnds{};  ///< one that stood; the port is closed
+  /// One that stood has ended, and its port is closed; `fault` tells whether its line was lost.
+  std::function<void(const LinkFault& fault)> sessionEnds{};
 };
 
 /// The device link: owns the serial port and has every dialogue with a logger. It is the face of
@@ -164,6 +165,8 @@ class Comms {
   LinkResult Do(const LinkDeed& deed, const std::function<LinkResult()>& dialogue);
   LinkResult Set(const LinkDeed& deed, std::string message, std::string_view answer);
   void ClosePort();
+  /// The same where the line may have been lost before, which closing hides.
+  void ClosePort(bool isLost);
 
   Platform platform_;
   LinkRecords records_;

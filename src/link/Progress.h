@@ -21,8 +21,10 @@ constexpr bool MovesVoiceList(DialogueKind kind) {
 struct Progress {
   enum class Stage {
     Begun,
+    Attempt,  ///< another attempt begins, be it the first
     Step,
-    Closing,  ///< an upload is about to ask the logger to take everything over
+    Closing,  ///< an upload is about to ask the logger to take everything over, or the logger has
+              ///< said that it erases its firmware
     Done,
     Failed
   };

@@ -27,11 +27,17 @@ std::size_t FindPasswordLine(std::string_view text) {
   return std::string_view::npos;
 }
 
+/// Whether the fields of a line can be told from one another.
+bool HasAllFields(std::string_view line) {
+  const auto fields = static_cast<std::size_t>(std::ranges::count(line, ',')) + 1;
+  return std::ranges::count(kFieldCounts, fields) > 0;
+}
+
 /// Masks the two fields of a line; all behind the key where they cannot be told from the others.
 std::string MaskFields(std::string_view line) {
-  const auto fields = static_cast<std::size_t>(std::ranges::count(line, ',')) + 1;
-  if (std::ranges::count(kFieldCounts, fields) == 0)
+  if (!HasAllFields(line))
     return std::string(line.substr(0, line.find(',') + 1)) + std::string(kMask);
+  const auto fields = static_cast<std::size_t>(std::ranges::count(line, ',')) + 1;
   std::string masked;
   for (std::size_t field = 1; field <= fields; ++field) {
     const std::string_view text = FieldOf(line, static_cast<int>(field));
@@ -42,13 +48,26 @@ std::string MaskFields(std::string_view line) {
   return masked;
 }
 
-}  // namespace
+/// Where the passwords of a text start: in the line of the stream, or behind a statement. What
+/// comes first counts: a field of the line may hold the words of a statement, and the other way
+/// round.
+struct PasswordPlace {
+  std::size_t line = std::string_view::npos;
+  std::size_t statement = std::string_view::npos;
+};
 
-std::string Padded(int number, std::size_t digits) {
-  std::string text = std::to_string(number);
-  if (text.size() < digits) text.insert(0, digits - text.size(), '0');
-  return text;
+PasswordPlace PlaceOfPasswords(std::string_view text) {
+  PasswordPlace place{.line = FindPasswordLine(text)};
+  std::size_t first = place.line;
+  for (const std::string_view statement : kPasswordStatements)
+    if (const std::size_t at = text.find(statement); at < first) {
+      first = at;
+      place = {.statement = at + statement.size()};
+    }
+  return place;
 }
+
+}  // namespace
 
 std::string HexOctet(std::uint8_t octet) {
   constexpr std::string_view kHex = "0123456789ABCDEF";
@@ -69,20 +88,23 @@ std::string MaskCode(std::string_view text) {
                 : std::string(text);
 }
 
+std::vector<std::string_view> PasswordsIn(std::string_view text) {
+  const PasswordPlace place = PlaceOfPasswords(text);
+  std::vector<std::string_view> found;
+  if (place.statement <= text.size()) found.push_back(text.substr(place.statement));
+  if (place.line < text.size() && HasAllFields(text.substr(place.line)))
+    for (const std::size_t field : kPasswordFields)
+      found.push_back(FieldOf(text.substr(place.line), static_cast<int>(field)));
+  std::erase(found, std::string_view());
+  return found;
+}
+
 std::string MaskPasswords(std::string_view text) {
-  // What comes first counts: a field of the line may hold the words of a statement, and the other
-  // way round.
-  const std::size_t line = FindPasswordLine(text);
-  std::size_t first = line;
-  std::size_t passwordAt = 0;
-  for (const std::string_view statement : kPasswordStatements)
-    if (const std::size_t at = text.find(statement); at < first) {
-      first = at;
-      passwordAt = at + statement.size();
-    }
-  if (passwordAt > 0) return std::string(text.substr(0, passwordAt)).append(kMask);
-  if (line == std::string_view::npos) return std::string(text);
-  return std::string(text.substr(0, line)) + MaskFields(text.substr(line));
+  const PasswordPlace place = PlaceOfPasswords(text);
+  if (place.statement <= text.size())
+    return std::string(text.substr(0, place.statement)).append(kMask);
+  if (place.line == std::string_view::npos) return std::string(text);
+  return std::string(text.substr(0, place.line)) + MaskFields(text.substr(place.line));
 }
 
 }  // namespace ostrel

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace ostrel {
 
@@ -11,9 +12,6 @@ namespace ostrel {
 inline constexpr char kEndOfLine = '\r';
 /// Digits of the number of a record or statement.
 inline constexpr std::size_t kRecordDigits = 3;
-
-/// A number in decimal with leading zeros up to `digits`.
-std::string Padded(int number, std::size_t digits);
 
 /// Two upper-case hexadecimal digits.
 std::string HexOctet(std::uint8_t octet);
@@ -25,6 +23,9 @@ std::string_view Characters(std::string_view line, std::size_t first,
 /// A line of the trace in which "****" stands for an access code, as a message or as the echo of
 /// its frame carries it.
 std::string MaskCode(std::string_view text);
+
+/// The passwords that a statement or a line of the configuration stream holds, none of them empty.
+std::vector<std::string_view> PasswordsIn(std::string_view text);
 
 /// A text in which "****" stands for the passwords of a statement or of a line of the configuration
 /// stream that it holds.

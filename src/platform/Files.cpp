@@ -48,8 +48,9 @@ FileResult SaveWhole(Files& files, const std::string& path, std::string_view oct
 
 FileResult SaveNew(Files& files, const std::string& path, std::string_view octets) {
   const std::string temporary = files.TemporaryBeside(path);
-  return ByTemporary(files, temporary, octets, {},
-                     [&] { return files.MoveToNew(temporary, path); });
+  return ByTemporary(
+      files, temporary, octets, [&] { return files.Preserve(temporary); },
+      [&] { return files.MoveToNew(temporary, path); });
 }
 
 }  // namespace ostrel

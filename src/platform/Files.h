@@ -36,6 +36,9 @@ class Files {
   FileResult ReadInto(const std::string& path, std::string& octets) {
     return ReadUpTo(path, kMostFileOctets, octets);
   }
+  /// Brings the last octets of a file of any size into a text, all of a file that has no more than
+  /// `most`.
+  virtual FileResult ReadEnd(const std::string& path, std::size_t most, std::string& octets) = 0;
   /// The whole content, or nothing when the file cannot be read.
   std::optional<std::string> Read(const std::string& path);
   virtual bool Exists(const std::string& path) = 0;
@@ -60,6 +63,8 @@ class Files {
   virtual FileResult CopyMode(const std::string& from, const std::string& to) = 0;
   /// Makes a file or a folder accessible to its owner alone.
   virtual FileResult Protect(const std::string& path) = 0;
+  /// Makes a file one that its owner alone reads, and that nobody writes without a purpose.
+  virtual FileResult Preserve(const std::string& path) = 0;
   /// Replaces the content of an existing file.
   virtual FileResult Write(const std::string& path, std::string_view octets) = 0;
   /// Brings the content to the disk itself.
@@ -105,7 +110,7 @@ FileResult SaveWhole(Files& files, const std::string& path, std::string_view oct
                      Replacing replacing = Replacing::Unprotected,
                      Readers readers = Readers::AsBefore);
 
-/// Saves likewise at a name at which nothing may stand, readable by the owner alone.
+/// Saves likewise at a name at which nothing may stand, to be preserved as it is.
 FileResult SaveNew(Files& files, const std::string& path, std::string_view octets);
 
 }  // namespace ostrel

@@ -49,10 +49,12 @@ struct LedgerEntry {
 
   std::int64_t id = 0;       ///< 0 as long as it is not kept
   std::int64_t session = 0;  ///< entry of the session that it belongs to
-  std::int64_t about = 0;    ///< entry of the writing that was read back or verified
+  std::int64_t about = 0;    ///< entry of the writing that was read back or verified; of a saving
+                           ///< under another name the last one of the file that it is a copy of
   LedgerKind kind = LedgerKind::Session;
   LedgerState state = LedgerState::UnderWay;
-  bool closing = false;  ///< a writing: the logger has been asked to take everything over
+  bool closing = false;  ///< a writing: the logger has been asked to take everything over; of a
+                         ///< firmware: it has said that it erases the former one
   bool settled = false;  ///< an interruption of which the operator wants to hear no more
   std::string began{};   ///< local, "2026-03-02 09:05:07"
   std::int64_t milliseconds = 0;
@@ -67,9 +69,10 @@ struct LedgerEntry {
   std::int64_t features = kUnknown;  ///< 32 bits without sign
   std::string file{};                ///< absolute path
   std::string content{};             ///< hash of the configuration that was read, written or saved
-  std::string former{};              ///< a writing: hash of what the logger held before
-  std::string copy{};                ///< path of the safety copy
-  std::int64_t steps = 0;            ///< statements or records of the last attempt
+  std::string former{};    ///< hash of what the logger held before a writing, or of what was
+                           ///< read from it that a saving is made of
+  std::string copy{};      ///< path of the safety copy
+  std::int64_t steps = 0;  ///< statements or records of the last attempt
   std::int64_t attempts = 0;
   std::string fault{};   ///< what failed, in words
   std::string detail{};  ///< "output 3 on"

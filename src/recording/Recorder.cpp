@@ -78,7 +78,8 @@ void Recorder::FlushQuiet() {
 /// A secret may have begun in a part that is written, so the line is looked at as a whole.
 void Recorder::Flush(Way& way) {
   if (way.line.size() == way.written) return;
-  std::string masked = secrets_.Masked(way.line);
+  std::string masked =
+      way.kind == RecordedKind::Sent ? secrets_.Sent(way.line) : secrets_.Received(way.line);
   const std::size_t written = std::exchange(way.written, way.line.size());
   if (masked.starts_with(std::string_view(way.line).substr(0, written)))
     masked.erase(0, written);

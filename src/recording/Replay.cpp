@@ -76,7 +76,7 @@ void Replay::Receive(std::string_view octets) {
   });
 }
 
-void Replay::AnswerPart() { Answer(secrets_.Masked(std::exchange(part_, {}))); }
+void Replay::AnswerPart() { Answer(secrets_.Sent(std::exchange(part_, {}))); }
 
 void Replay::Answer(const std::string& request) {
   ReplayedRequest told{.request = request};

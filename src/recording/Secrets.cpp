@@ -1,6 +1,7 @@
 #include "recording/Secrets.h"
 
 #include <algorithm>
+#include <array>
 
 #include "link/Frame.h"
 #include "link/WireText.h"
@@ -9,7 +10,8 @@ namespace ostrel {
 namespace {
 
 constexpr std::string_view kMasked = "****";
-constexpr std::size_t kShortestCode = 3;
+/// What is shorter stands in any line by chance.
+constexpr std::size_t kShortestKnown = 3;
 constexpr std::size_t kFrameHeadSize = 4;  // "#", two digits, ";"
 
 /// Where an access code starts in a line: behind "#11", or behind a frame's head and "11"; npos
@@ -25,43 +27,105 @@ std::size_t CodeStart(std::string_view line) {
   return std::string_view::npos;
 }
 
-void ReplaceAll(std::string& text, std::string_view from) {
-  for (std::size_t at = text.find(from); at != std::string::npos;
-       at = text.find(from, at + kMasked.size()))
-    text.replace(at, from.size(), kMasked);
+bool IsOfToken(char c) {
+  return (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
 }
 
-/// Gives the frame in a line that was changed the digits that make it good, or bad as it was.
-void Reseal(std::string& line, bool wasGood) {
-  const std::size_t at = line.find('#');
+/// Masks a secret wherever it stands, or only where nothing of the same token stands beside it.
+void ReplaceAll(std::string& text, std::string_view secret, bool asToken) {
+  for (std::size_t at = text.find(secret); at != std::string::npos;) {
+    const std::size_t end = at + secret.size();
+    const bool isToken =
+        (at == 0 || !IsOfToken(text[at - 1])) && (end == text.size() || !IsOfToken(text[end]));
+    if (isToken || !asToken) text.replace(at, secret.size(), kMasked);
+    at = text.find(secret, at + (isToken || !asToken ? kMasked.size() : 1));
+  }
+}
+
+/// Where the good frame of a line starts; npos where it has none.
+std::size_t GoodFrameIn(std::string_view line) {
+  std::size_t at = line.find('#');
+  while (at != std::string_view::npos && !ChecksumOk(line.substr(at))) at = line.find('#', at + 1);
+  return at;
+}
+
+/// What a modem says holds no secret.
+bool IsOfModem(std::string_view line) {
+  constexpr std::array<std::string_view, 8> kAnswers{
+      "OK", "ERROR", "NO CARRIER", "NO DIALTONE", "NO ANSWER", "BUSY", "RING", "CONNECT"};
+  const auto isStart = [line](std::string_view answer) { return line.starts_with(answer); };
+  return line.starts_with("+C") || std::ranges::any_of(kAnswers, isStart);
+}
+
+/// Gives the frame that starts somewhere in a line that was changed the digits that make it good,
+/// or bad as it was.
+void Reseal(std::string& line, std::size_t at, bool wasGood) {
   if (at == std::string::npos || line.size() <= at + kFrameHeadSize) return;
   if (line[at + kFrameHeadSize - 1] != ';') return;
   const std::uint8_t sum = PayloadSum(std::string_view(line).substr(at + kFrameHeadSize));
   line.replace(at + 1, 2, HexOctet(static_cast<std::uint8_t>(sum + (wasGood ? 0 : 1))));
 }
 
-bool HoldsGoodFrame(std::string_view line) {
-  const std::size_t at = line.find('#');
-  return at != std::string_view::npos && ChecksumOk(line.substr(at));
+std::string_view WithoutEnd(std::string_view line) {
+  while (!line.empty() && (line.back() == '\r' || line.back() == '\n')) line.remove_suffix(1);
+  return line;
 }
 
 }  // namespace
 
-std::string Secrets::Masked(std::string_view line) {
-  std::string_view body = line;
-  while (!body.empty() && (body.back() == '\r' || body.back() == '\n')) body.remove_suffix(1);
+std::string Secrets::Sent(std::string_view line) {
+  const std::string_view body = WithoutEnd(line);
+  if (const std::size_t code = CodeStart(body); code < body.size()) {
+    Learn(body.substr(code));
+    isOpening_ = true;
+  }
+  for (const std::string_view password : PasswordsIn(body)) Learn(password);
+  return Masked(body, Known::AsTokens).append(line.substr(body.size()));
+}
+
+std::string Secrets::Received(std::string_view line) {
+  const std::string_view body = WithoutEnd(line);
+  const std::size_t good = std::min(GoodFrameIn(body), body.size());
+  const std::string_view ahead = body.substr(0, good);
+  const std::string_view frame = body.substr(good);
+  for (const std::string_view password : PasswordsIn(frame)) Learn(password);
+  std::string masked = Masked(ahead, isOpening_ ? Known::Anywhere : Known::AsTokens);
+  if (!IsOfModem(ahead)) masked = MaskedDamage(std::move(masked), isTorn_);
+  masked += Masked(frame, Known::AsTokens);
+  if (line.ends_with('\r') && !body.empty()) {
+    isOpening_ = isOpening_ && (frame.empty() || CodeStart(frame) != std::string_view::npos);
+    isTorn_ =
+        frame.empty() && !IsOfModem(body) && body.find_first_of("#,") != std::string_view::npos;
+  }
+  return masked.append(line.substr(body.size()));
+}
+
+void Secrets::Learn(std::string_view secret) {
+  const bool isKnown = std::ranges::find(known_, secret) != known_.end();
+  if (secret.size() >= kShortestKnown && secret != kMasked && !isKnown) known_.emplace_back(secret);
+}
+
+std::string Secrets::Masked(std::string_view body, Known known) const {
   std::string masked(body);
   const std::size_t code = CodeStart(body);
-  if (code < body.size()) {
-    const std::string_view sent = body.substr(code);
-    if (sent.size() >= kShortestCode && sent != kMasked && std::ranges::count(codes_, sent) == 0)
-      codes_.emplace_back(sent);
-    masked.replace(code, std::string::npos, kMasked);
-  }
-  for (const std::string& known : codes_) ReplaceAll(masked, known);
+  if (code < body.size()) masked.replace(code, std::string::npos, kMasked);
+  const std::size_t good = GoodFrameIn(body);
+  if (good == std::string_view::npos)
+    for (const std::string& secret : known_) ReplaceAll(masked, secret, known == Known::AsTokens);
   masked = MaskPasswords(masked);
-  if (masked != body) Reseal(masked, HoldsGoodFrame(body));
-  return masked.append(line.substr(body.size()));
+  const bool isGood = good != std::string_view::npos;
+  if (masked != body) Reseal(masked, isGood ? good : masked.find('#'), isGood);
+  return masked;
+}
+
+std::string Secrets::MaskedDamage(std::string line, bool isTorn) {
+  if (line.empty()) return line;
+  if (isTorn && line.find('#') == std::string::npos) return std::string(kMasked);
+  const std::size_t comma = line.find(',');
+  if (comma >= line.size() - 1) return line;
+  line.replace(comma + 1, std::string::npos, kMasked);
+  Reseal(line, line.find('#'), false);
+  return line;
 }
 
 bool MayHoldSecret(std::string_view part) {

@@ -28,7 +28,7 @@
 #include "platform/Dialogs.h"
 #include "platform/EventLoop.h"
 #include "platform/Files.h"
-#include "shell/TransferBar.h"
+#include "shell/session/TransferBar.h"
 
 namespace ostrel {
 namespace {
@@ -229,7 +229,7 @@ LinkHooks Configurator::MakeHooks() {
       .deedBegins = [this](const LinkDeed& deed) { ledger.DeedBegins(deed); },
       .deedEnds = [this](const LinkDeed& deed,
                          const LinkFault& fault) { ledger.DeedEnds(deed, fault); },
-      .sessionEnds = [this] { ledger.SessionEnds(); },
+      .sessionEnds = [this](const LinkFault& fault) { ledger.SessionEnds(fault); },
   };
 }
 

@@ -5,7 +5,7 @@
 #include <span>
 
 #include "sim/LiveValues.h"
-#include "sim/NumberText.h"
+#include "sim/wire/NumberText.h"
 
 namespace ostrel::sim {
 namespace {

@@ -59,6 +59,7 @@ TEST(Identity, AFileOfAnotherLoggerIsRefusedUnlessForced) {
   for (LedgerEntry& entry : world.ledger.entries) entry.serial = "OTHER";
   EXPECT_EQ(world.Run("upload /a.ocf --port sim:VR200"), 5);
   EXPECT_THAT(world.err, HasSubstr("was last used with the logger OTHER"));
+  EXPECT_EQ(world.Run("upload history:2 --port sim:VR200"), 5) << "nor does what was kept of it";
   EXPECT_EQ(world.Logger().UploadsTaken(), 0U);
   EXPECT_EQ(world.Run("upload /a.ocf --force --port sim:VR200"), 0);
   EXPECT_EQ(world.Run("upload /a.ocf --port sim:VR200"), 0) << "it is this one's now" << world.err;
@@ -72,6 +73,7 @@ TEST(Identity, ALoggerThatOthersChangedIsNotOverwrittenUnlessForced) {
   world.Logger().SetConf(changed);
   EXPECT_EQ(world.Run("upload /a.ocf --port sim:VR200"), 5);
   EXPECT_THAT(world.err, HasSubstr("the logger was changed by others"));
+  EXPECT_EQ(world.Run("upload /a.ocf --no-backup --port sim:VR200"), 5) << "it is read ahead";
   EXPECT_EQ(world.Logger().Conf().name, "Otro");
   EXPECT_EQ(world.Run("upload /a.ocf --force --port sim:VR200"), 0) << world.err;
   changed.name = "Tercero";
@@ -111,13 +113,23 @@ TEST(InterruptedUpload, IsToldWithItsWaysOut) {
   EXPECT_EQ(world.Run("ports"), 0);
   EXPECT_THAT(world.err, HasSubstr("was interrupted: it most probably holds its former"));
   EXPECT_EQ(world.Run(way + "--look"), 0) << world.err;
-  EXPECT_EQ(world.out, "the logger holds its former configuration\n");
+  EXPECT_THAT(world.out, testing::StartsWith("the logger holds its former configuration\n"));
+  EXPECT_THAT(world.out, HasSubstr("--put-back")) << "the ways out are still there";
+  const auto alter = [&](const std::string& name) {
+    sim::Configuration conf = world.Logger().Conf();
+    conf.name = name;
+    world.Logger().SetConf(conf);
+  };
+  alter("Otro");
+  EXPECT_EQ(world.Run(way + "--finish"), 5);
+  EXPECT_THAT(world.err, HasSubstr("the logger was changed by others"));
+  EXPECT_EQ(world.Run(way + "--finish --force"), 0) << "as it is advised" << world.err;
+  EXPECT_EQ(world.Logger().Conf().name, "Nuevo");
   EXPECT_EQ(world.Run("interrupted"), 0);
   EXPECT_EQ(world.out, "");
   EXPECT_EQ(world.Run(way + "--look"), 5) << "it is settled";
-  way = interrupt();
-  EXPECT_EQ(world.Run(way + "--finish"), 0) << world.err;
-  EXPECT_EQ(world.Logger().Conf().name, "Nuevo");
+  EXPECT_EQ(world.Run("upload /a.ocf --port sim:VR200"), 0) << "it was its own" << world.err;
+  alter(former);
   sim::Configuration reset = world.Logger().Conf();
   reset.name = former;
   world.Logger().SetConf(reset);

@@ -1,6 +1,6 @@
 #include "cli/World.h"
 #include "link/UploadPlan.h"
-#include "shell/SafetyCopies.h"
+#include "shell/writing/SafetyCopies.h"
 
 namespace ostrel::cli {
 namespace {
@@ -47,7 +47,7 @@ TEST(Upload, WritesVerifiesAndKeepsTheFormerConfiguration) {
   });
   ASSERT_NE(found, world.files.contents.end());
   EXPECT_TRUE(found->second == world.former);
-  EXPECT_EQ(world.files.modes[found->first], 0600);
+  EXPECT_EQ(world.files.modes[found->first], 0400);
   EXPECT_EQ(world.files.modes["/home/user/data/backups"], 0700);
 }
 

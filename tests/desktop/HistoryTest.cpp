@@ -5,7 +5,11 @@
 #include <QTreeWidget>
 
 #include "OpenWindow.h"
-#include "desktop/window/CompareWindow.h"
+#include "base/CodePage.h"
+#include "base/Sha256.h"
+#include "desktop/dialogs/CompareWindow.h"
+#include "shell/files/ConfigurationFile.h"
+#include "shell/ledger/Interrupted.h"
 
 namespace ostrel {
 namespace {
@@ -16,11 +20,22 @@ class WindowHistory : public OpenWindow {
  protected:
   WindowHistory() { AddLogger(sim::Model::BP); }
 
+  void Restart() {
+    ledger.process += "+";
+    desktop.reset();
+    desktop = Make(&dialogs);
+    desktop->Start("");
+  }
   void ReadLogger() {
     Window().show();
     Connect();
     SessionTool("ReadTool")->trigger();
     loop.RunFor(seconds(40));
+  }
+  void Edit(const std::string& name) {
+    Core().conf.General.DNAME = name;
+    Core().ShowConfiguration(Core().conf);
+    Window().Look();
   }
   /// Clicks the button of a question whose text holds a word.
   static auto Chooses(const QString& word) {
@@ -46,8 +61,13 @@ TEST_F(WindowHistory, FindsOpensAndComparesWhatWas) {
     table->selectRow(1);
     EXPECT_FALSE(modal->findChild<QPushButton*>("Open")->isEnabled()) << "a session holds nothing";
     EXPECT_EQ(table->item(0, 5)->text(), "COM7");
-    EXPECT_TRUE(table->item(0, 6)->text().contains("registros"));
+    EXPECT_EQ(table->item(0, 6)->text().section(u' ', 1), "registros");
     table->selectRow(0);
+    const QString details = modal->findChild<QPlainTextEdit*>("Details")->toPlainText();
+    for (const QString& known :
+         {ToQt("usuario: user"), ToQt("prestaciones: 0x"), ToQt("intentos: 1"),
+          ToQt("contenido: " + ledger.entries[1].content), ToQt("clase: lectura")})
+      EXPECT_TRUE(details.contains(known)) << FromQt(details);
     auto* filter = modal->findChild<QLineEdit*>("Filter");
     Type(filter, "nada");
     EXPECT_FALSE(modal->findChild<QPushButton*>("Open")->isEnabled()) << "it is hidden";
@@ -63,6 +83,10 @@ TEST_F(WindowHistory, FindsOpensAndComparesWhatWas) {
   EXPECT_EQ(compared->topLevelItemCount(), 1) << "the name alone differs";
   modals.Expect([&](QWidget* modal) {
     modal->findChild<QTableWidget*>()->selectRow(1);  // behind the file that was compared
+    for (const char* name : {"none/x.ocf", "kept.ocf"}) {
+      dialogs.ChoosePath(Path(name));
+      modal->findChild<QPushButton*>("Save")->click();
+    }
     modals.Expect(Chooses("sin guardar"));
     modal->findChild<QPushButton*>("Open")->click();
   });
@@ -70,10 +94,74 @@ TEST_F(WindowHistory, FindsOpensAndComparesWhatWas) {
   EXPECT_EQ(modals.Left(), 0U);
   EXPECT_EQ(Core().conf.General.DNAME, read);
   EXPECT_EQ(Core().ConfFilePath, Path("history/entry-2.ocf"));
+  EXPECT_EQ(files.Read(Path("kept.ocf")), files.Read(Core().ConfFilePath));
+  ASSERT_EQ(dialogs.boxes.size(), 1U);
+  EXPECT_NE(dialogs.boxes[0].text.find(Path("none/x.ocf")), std::string::npos);
   EXPECT_EQ(ledger.entries.back().serial, logger->Options().serial);
+  const auto kept = files.Read(Core().ConfFilePath);
+  Edit("edited");
+  const std::size_t asked = dialogs.questions.size();
+  Tool("Guardar")->trigger();
+  EXPECT_EQ(dialogs.questions.size(), asked + 1) << "a former state stays as it is";
+  EXPECT_EQ(files.Read(Path("history/entry-2.ocf")), kept);
+}
+
+/// Whether a message box has told something.
+bool HasTold(const VirtualDialogs& dialogs, const char* words) {
+  return std::ranges::any_of(dialogs.boxes, [&](const MessageBox& box) {
+    return box.text.find(words) != std::string::npos;
+  });
+}
+
+TEST_F(WindowHistory, PutsTheFormerConfigurationBackWithoutAnAccusation) {
+  ReadLogger();
+  const std::string former = Core().conf.General.DNAME;
+  LedgerEntry cut = ledger.entries.back();
+  cut.kind = LedgerKind::Writing;
+  cut.state = LedgerState::UnderWay;
+  cut.former = std::exchange(cut.content, {});
+  ledger.Add(cut);
+  ledger.process = "two";
+  sim::Configuration changed = logger->Conf();
+  changed.name = "Otro";
+  logger->SetConf(changed);
+  desktop.reset();
+  desktop = Make(&dialogs);
+  desktop->Start("");
+  ModalScript modals;
+  modals.Expect(Chooses("Reponer"));
+  modals.Expect(Chooses("Escribir"));
+  Window().show();
+  Connect();
+  loop.RunFor(seconds(120));
+  EXPECT_EQ(modals.Left(), 0U);
+  EXPECT_EQ(logger->Conf().name, former);
+  EXPECT_FALSE(HasTold(dialogs, "otros han cambiado"));
+}
+
+TEST_F(WindowHistory, WhatCameBackOtherwiseIsNoSuccess) {
+  ReadLogger();
+  Edit("Nuevo");
+  logger->OnExchange([this](const sim::Exchange& exchange) {
+    if (!exchange.request.starts_with("#46")) return;
+    sim::Configuration changed = logger->Conf();
+    changed.name = "Otro";
+    logger->SetConf(changed);
+  });
+  ModalScript modals;
+  modals.Expect(Chooses("Escribir"));
+  modals.Expect([](QWidget* modal) { Press(modal, Qt::Key_Escape); });
+  SessionTool("WriteTool")->trigger();
+  loop.RunFor(seconds(120));
+  EXPECT_EQ(modals.Left(), 0U);
+  EXPECT_EQ(Fault(), "El registrador contiene otra configuración que la enviada.");
+  EXPECT_TRUE(Window().isWindowModified()) << "it is safe nowhere";
 }
 
 TEST_F(WindowHistory, TellsATestRunInItsOwnLanguage) {
+  ledger.process = "killed";
+  ledger.Add({.kind = LedgerKind::Writing});
+  ledger.process = "one";
   ledger.Add({.kind = LedgerKind::TestRun,
               .state = LedgerState::Failed,
               .file = "/a.ocf",
@@ -85,10 +173,12 @@ TEST_F(WindowHistory, TellsATestRunInItsOwnLanguage) {
     auto* measured = modal->findChild<QPlainTextEdit*>("Details");
     EXPECT_EQ(table->item(0, 2)->text(), "prueba de fábrica");
     EXPECT_EQ(table->item(0, 6)->text(), "bq, Ana, /a.ocf, se paró: Error, PIN bloqueado");
+    EXPECT_EQ(table->item(1, 3)->text(), "cortado");
     EXPECT_FALSE(measured->isVisible());
     table->selectRow(0);
     EXPECT_TRUE(measured->isVisible());
-    EXPECT_EQ(measured->toPlainText(), "número nuevo 1203050001\nVBat = 4.69 (>= 5) FALLO");
+    EXPECT_TRUE(
+        measured->toPlainText().endsWith("\nnúmero nuevo 1203050001\nVBat = 4.69 (>= 5) FALLO"));
     Press(modal, Qt::Key_Escape);
   });
   Tool("Historial")->trigger();
@@ -102,10 +192,7 @@ TEST_F(WindowHistory, TellsOfWhatWasInterruptedAndOffersAWayOut) {
   cut.state = LedgerState::UnderWay;
   cut.former = cut.content;
   ledger.Add(cut);
-  ledger.process = "two";
-  desktop.reset();
-  desktop = Make(&dialogs);
-  desktop->Start("");
+  Restart();
   ASSERT_FALSE(dialogs.boxes.empty());
   EXPECT_NE(dialogs.boxes.back().text.find("contenga su configuración anterior"), std::string::npos)
       << dialogs.boxes.back().text;
@@ -118,10 +205,67 @@ TEST_F(WindowHistory, TellsOfWhatWasInterruptedAndOffersAWayOut) {
   EXPECT_EQ(dialogs.boxes.back().text, "El registrador contiene la configuración nueva.")
       << "both hashes are the same here";
   const std::size_t told = dialogs.boxes.size();
-  desktop.reset();
-  desktop = Make(&dialogs);
-  desktop->Start("");
+  Restart();
   EXPECT_EQ(dialogs.boxes.size(), told) << "it is known now";
+}
+
+/// The ways out of a writing that was cut off, one session each; another logger is not asked about.
+TEST_F(WindowHistory, EachWayOutOfAnInterruptionLeadsWhereItSays) {
+  ReadLogger();
+  LedgerEntry cut = ledger.entries.back();
+  DeviceConf wanted = Core().conf;
+  const std::string former = std::exchange(wanted.General.DNAME, "nueva");
+  const std::string octets = ContentOf(files, wanted, Core().profile);
+  cut.kind = LedgerKind::Writing;
+  cut.state = LedgerState::UnderWay;
+  cut.former = std::exchange(cut.content, Sha256(octets));
+  ledger.KeepContent(cut.content, octets);
+  LedgerEntry foreign = cut;
+  foreign.serial = "OTHER";
+  ledger.Add(foreign);
+  struct Case {
+    const char* way;
+    bool isCutAnew, writes;
+    std::string name;      ///< of the logger behind it
+    std::size_t stayOpen;  ///< interruptions
+  };
+  for (const Case& c : {Case{"Más tarde", true, false, "otra", 2},
+                        {"Escribir la nueva", false, true, "nueva", 1},
+                        {"Reponer la anterior", true, true, former, 1},
+                        {"No avisar más", true, false, "otra", 1}}) {
+    SCOPED_TRACE(c.way);
+    sim::Configuration changed = logger->Conf();
+    changed.name = "otra";
+    logger->SetConf(changed);
+    if (c.isCutAnew) ledger.Add(cut);
+    Restart();
+    ModalScript modals;
+    modals.Expect(Chooses(c.way));
+    if (c.writes) modals.Expect([](QWidget* modal) { AgreeToWrite(modal, false); });
+    Window().show();
+    Connect();
+    loop.RunFor(seconds(60));
+    EXPECT_EQ(modals.Left(), 0U);
+    EXPECT_EQ(FromCodePage(logger->Conf().name), c.name);
+    EXPECT_EQ(FindInterrupted(ledger).size(), c.stayOpen);
+  }
+}
+
+TEST_F(WindowHistory, ALedgerThatCannotBeUsedIsTold) {
+  ledger.fault = "the disk is gone";
+  Restart();
+  auto* told = Window().findChild<QLabel*>("LedgerFault");
+  ASSERT_NE(told, nullptr);
+  EXPECT_EQ(told->text(), "No se guarda nada en el libro de registro: the disk is gone");
+  ModalScript modals;
+  modals.Expect([&](QWidget* modal) {
+    QStringList texts;
+    for (const QLabel* label : modal->findChildren<QLabel*>()) texts << label->text();
+    EXPECT_TRUE(texts.contains("No se puede leer el libro de registro: the disk is gone"));
+    Press(modal, Qt::Key_Escape);
+  });
+  Tool("Historial")->trigger();
+  EXPECT_EQ(modals.Left(), 0U);
 }
 
 }  // namespace

@@ -46,6 +46,9 @@ class WindowLivePanels : public OpenWindow {
     return Window().findChild<Widget*>(name);
   }
   PlotChart& Chart() { return *static_cast<PlotChart*>(Find<QWidget>("PlotChart")); }
+  std::string ChosenTags() {
+    return static_cast<PlotPanel*>(Find<QDockWidget>("Plot"))->ChosenTags();
+  }
   QTreeWidgetItem* Row(const char* list, int row) {
     return Find<QTreeWidget>(list)->topLevelItem(row);
   }
@@ -55,8 +58,8 @@ class WindowLivePanels : public OpenWindow {
     throw std::invalid_argument("no value " + FromQt(tag));
   }
   void ChooseNothing() {
-    for (const LiveId id : std::vector(Chart().Chosen()))
-      PlotRow(ToQt(LiveTag(id)))->setCheckState(0, Qt::Unchecked);
+    for (int row = 0; row < Find<QTreeWidget>("PlotList")->topLevelItemCount(); ++row)
+      Row("PlotList", row)->setCheckState(0, Qt::Unchecked);
   }
   /// What stands in a file that a button saves.
   std::string Saved(const char* button, const std::string& name) {
@@ -76,7 +79,9 @@ TEST_F(WindowLivePanels, PlotsWhatIsChosenOnAnyPage) {
   Core().conf.Digital[0].NOMBRE = "Door";
   Run(seconds(2));
   EXPECT_EQ(PlotRow("DI0")->text(0), "Door  DI0");
-  EXPECT_EQ(chart.Chosen().size(), 3u) << "a chart without curves tells nothing";
+  EXPECT_EQ(ChosenTags(), "AI0 AI1 AI2") << "a chart without curves tells nothing";
+  for (const QLabel* label : Find<QDockWidget>("Plot")->findChildren<QLabel*>())
+    EXPECT_FALSE(label->isVisibleTo(&Window())) << FromQt(label->text());
   ChooseNothing();
   PlotRow("DI0")->setCheckState(0, Qt::Checked);
   PlotRow("AI0")->setCheckState(0, Qt::Checked);
@@ -91,16 +96,18 @@ TEST_F(WindowLivePanels, PlotsWhatIsChosenOnAnyPage) {
 
   Find<QDockWidget>("Plot")->close();
   Run(seconds(2));
-  const auto before = chart.View();
   int asked = 0;
   logger->OnExchange([&](const sim::Exchange&) { ++asked; });
   Run(minutes(1));
   EXPECT_EQ(asked, 0) << "nothing is read for a panel that was closed";
+  const auto before = chart.View();
+  Switch("Ctrl+K");
+  Run(minutes(1));
+  EXPECT_GT(asked, 0);
   EXPECT_EQ(chart.View(), before) << "nothing is drawn while nobody looks";
   desktop = Make(&dialogs);
   desktop->Start("");
-  EXPECT_EQ(static_cast<PlotChart*>(Window().findChild<QWidget*>("PlotChart"))->Chosen().size(), 2u)
-      << "the choice is remembered";
+  EXPECT_EQ(ChosenTags(), "DI0 AI0") << "the choice is remembered";
 }
 
 TEST_F(WindowLivePanels, PansAndZoomsByKeyboardAndFollowsAgain) {
@@ -127,25 +134,52 @@ TEST_F(WindowLivePanels, PansAndZoomsByKeyboardAndFollowsAgain) {
   Press(&chart, Qt::Key_End);
   EXPECT_TRUE(follow->isChecked());
   EXPECT_GT(chart.View().to, last + seconds(8));
+  Press(&chart, Qt::Key_Left);
+  follow->click();
+  EXPECT_GT(chart.View().to, last + seconds(8));
   Press(&chart, Qt::Key_Home);
   EXPECT_NEAR(double(length().count()), 140'000, 15'000) << "all that was read";
+  const auto all = length();
+  Find<QPushButton>("PlotOut")->click();
+  EXPECT_GT(length(), all);
+  Find<QPushButton>("PlotIn")->click();
+  EXPECT_EQ(length(), all);
 
   chart.resize(800, 300);
   chart.replot();
   const QPoint middle(400, 200);
+  const auto turn = [&](Qt::KeyboardModifiers keys) {
+    QWheelEvent wheel(middle, chart.mapToGlobal(middle), {}, {0, 120}, Qt::NoButton, keys,
+                      Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&chart, &wheel);
+    chart.replot();
+  };
   const auto whole = chart.View();
-  QWheelEvent wheel(middle, chart.mapToGlobal(middle), {}, {0, 120}, Qt::NoButton, Qt::NoModifier,
-                    Qt::NoScrollPhase, false);
-  QApplication::sendEvent(&chart, &wheel);
+  turn(Qt::NoModifier);
   EXPECT_LT(length(), whole.Length());
   const auto zoomed = chart.View();
+  const QCPAxis& values = *chart.graph(0)->valueAxis();
+  const QCPRange fitted = values.range();
+  turn(Qt::ShiftModifier);
+  EXPECT_LT(values.range().size(), fitted.size()) << "with Shift the values";
+  const QCPRange rested = values.range();
+  SendMouse(&chart, QEvent::MouseButtonPress, middle, Qt::ShiftModifier);
+  SendMouse(&chart, QEvent::MouseMove, middle + QPoint(0, 40));
+  SendMouse(&chart, QEvent::MouseButtonRelease, middle + QPoint(0, 40));
+  EXPECT_GT(values.range().center(), rested.center());
+  EXPECT_EQ(chart.View(), zoomed);
   SendMouse(&chart, QEvent::MouseButtonPress, middle);
   SendMouse(&chart, QEvent::MouseMove, middle + QPoint(100, 0));
   SendMouse(&chart, QEvent::MouseButtonRelease, middle + QPoint(100, 0));
   EXPECT_LT(chart.View().to, zoomed.to);
   EXPECT_EQ(length(), zoomed.Length());
   EXPECT_FALSE(follow->isChecked());
-  EXPECT_TRUE(chart.Pointed()) << "the list tells the values there";
+  EXPECT_TRUE(chart.Pointed());
+  const QString there = chart.accessibleDescription();
+  QEvent leave(QEvent::Leave);
+  QApplication::sendEvent(&chart, &leave);
+  EXPECT_FALSE(chart.Pointed());
+  EXPECT_NE(chart.accessibleDescription(), there) << "the values of now again";
 }
 
 TEST_F(WindowLivePanels, DrawsStatesInLanesAndNumbersOnTheAxesOfTheirUnits) {
@@ -166,6 +200,7 @@ TEST_F(WindowLivePanels, DrawsStatesInLanesAndNumbersOnTheAxesOfTheirUnits) {
       EXPECT_GE(point.value, i > 3 ? 1 : 0) << "in the lane of its own";
     }
   }
+  EXPECT_EQ(chart.graph(2)->name(), "Nivel depósito [m]");
   EXPECT_EQ(chart.graph(0)->valueAxis(), chart.graph(1)->valueAxis());
   EXPECT_NE(chart.graph(0)->valueAxis(), chart.graph(2)->valueAxis());
 
@@ -177,15 +212,12 @@ TEST_F(WindowLivePanels, DrawsStatesInLanesAndNumbersOnTheAxesOfTheirUnits) {
     return axis.range();
   };
   EXPECT_LT(behind(Qt::Key_PageUp).size(), fitted.size());
-  EXPECT_GT(behind(Qt::Key_Up, Qt::ShiftModifier).center(), fitted.center());
+  EXPECT_GT(behind(Qt::Key_Up).center(), fitted.center());
   EXPECT_EQ(behind(Qt::Key_0), fitted);
   EXPECT_GT(behind(Qt::Key_PageDown).size(), fitted.size());
   DoubleClick(&chart, {400, 200});
   chart.replot();
   EXPECT_EQ(axis.range(), fitted);
-  QEvent leave(QEvent::Leave);
-  QApplication::sendEvent(&chart, &leave);
-  EXPECT_FALSE(chart.Pointed()) << "the list tells the values of now again";
   const auto length = chart.View().Length();
   for (const Qt::Key key : {Qt::Key_Plus, Qt::Key_Minus}) Press(&chart, key);
   EXPECT_EQ(chart.View().Length(), length);
@@ -254,6 +286,8 @@ TEST_F(WindowLivePanels, AcceptsPointByPointAndKeepsIt) {
   EXPECT_TRUE(failure->text().startsWith("The last change could not be kept: "));
   files.Remove(Path("acceptance"));
   Find<QPushButton>("AcceptanceFail")->click();
+  EXPECT_EQ(list->topLevelItem(1)->text(4), list->topLevelItem(1)->text(1)) << "its own value";
+  EXPECT_FALSE(list->topLevelItem(1)->text(5).isEmpty());
   auto* note = Find<QLineEdit>("AcceptanceNote");
   Type(note, "no pulse");
   const std::string& serial = Core().info.SerialNumber;
@@ -271,6 +305,7 @@ TEST_F(WindowLivePanels, AcceptsPointByPointAndKeepsIt) {
   ASSERT_EQ(list->topLevelItemCount(), 3) << "it follows the configuration";
   EXPECT_EQ(list->topLevelItem(1)->text(3), "no pulse");
   list->setCurrentItem(list->topLevelItem(0));
+  EXPECT_EQ(note->text(), "");
   Find<QPushButton>("AcceptanceOpen")->click();
   EXPECT_EQ(list->topLevelItem(0)->text(2), "open");
   Find<QPushButton>("AcceptanceFail")->click();
@@ -292,14 +327,95 @@ TEST_F(WindowLivePanels, AcceptsPointByPointAndKeepsIt) {
   Run(seconds(2));
   EXPECT_FALSE(Find<QPushButton>("AcceptancePass")->isEnabled())
       << "of which logger this is, nobody knows";
+  EXPECT_TRUE(Find<QLabel>("AcceptanceSummary")->text().startsWith("Open a session to begin"));
   EXPECT_FALSE(note->isEnabled());
   EXPECT_EQ(list->topLevelItem(0)->text(1), "") << "nothing is measured any more";
 }
 
-TEST_F(WindowLivePanels, AcceptanceWaitsForTheEndOfADownload) {
+/// The terminal has the line to itself: no rounds come.
+TEST_F(WindowLivePanels, WhatIsOldIsNotTakenForPresent) {
+  Core().conf.Analog[1].NOMBRE = "Level";
+  Window().GoTo("E_Digital_0");
+  Switch("Ctrl+K");
+  Switch("Ctrl+L");
+  Run(seconds(5));
+  const auto now = [&] { return Row("AcceptanceList", 0)->text(1); };
+  const auto heading = [&] { return Find<QTreeWidget>("PlotList")->headerItem()->text(1); };
+  EXPECT_FALSE(now().isEmpty());
+  EXPECT_EQ(heading(), "Now");
+  Window().GoTo("Terminal");
+  Run(seconds(2));
+  EXPECT_EQ(now(), "");
+  EXPECT_TRUE(heading().contains(u':')) << "when the values came";
+  Find<QPushButton>("AcceptancePass")->click();
+  EXPECT_EQ(Row("AcceptanceList", 0)->text(2), "pass");
+  EXPECT_EQ(Row("AcceptanceList", 0)->text(4), "") << "nothing was measured at that moment";
+  Window().GoTo("E_Digital_0");
+  Run(seconds(3));
+  EXPECT_FALSE(now().isEmpty());
+  EXPECT_EQ(heading(), "Now");
+  Core().comms.LinkBusy = true;
+  Run(seconds(2));
+  EXPECT_EQ(now(), "") << "another dialogue has the line";
+  Core().comms.LinkBusy = false;
+}
+
+/// Clicks fall into rounds, which must come to their ends behind the question.
+TEST_F(WindowLivePanels, NoQuestionHoldsARoundUp) {
+  Window().GoTo("E_Digital_0");
+  Switch("Ctrl+L");
+  Run(seconds(5));
+  int asked = 0;
+  const auto rests = [&] {
+    ++asked;
+    EXPECT_FALSE(Core().comms.LinkBusy) << asked;
+  };
+  dialogs.whileAsked = [&](const FileQuestion&) { rests(); };
+  const auto inARound = [&](const std::function<void()>& click) {
+    bool isClicked = false;
+    logger->OnExchange([&](const sim::Exchange& exchange) {
+      if (exchange.request == "#22" && !std::exchange(isClicked, true))
+        loop.After(std::chrono::milliseconds(1), "a click", click);
+    });
+    Run(seconds(3));
+    logger->OnExchange({});
+    EXPECT_TRUE(isClicked);
+  };
+  for (const char* button : {"PlotPicture", "PlotValues"})
+    inARound([&] { Find<QPushButton>(button)->click(); });
+  for (const QKeySequence& keys : {QKeySequence(QKeySequence::Open), QKeySequence("Ctrl+Shift+S")})
+    inARound([&] {
+      for (QAction* action : Window().findChildren<QAction*>())
+        if (action->shortcut() == keys) return action->trigger();
+    });
+  inARound([&] { Core().monitor.GetForm().Get<Button>("BotonGrabar").Click(); });
+  EXPECT_EQ(asked, 5);
+  dialogs.OnModal([&](Modal&) { rests(); });
+  inARound([&] {
+    Core().context.EditActions(Core().conf.Digital[0].ALARM[0].common.ACTHI, "DI0", [] {});
+  });
+  EXPECT_EQ(asked, 6);
+}
+
+TEST_F(WindowLivePanels, AcceptanceGoesByTheNameOfTheConfiguration) {
   Core().conf.Digital[0].NOMBRE = "Door";
   Switch("Ctrl+K");
+  for (const auto& [name, passed] : {std::pair{"a.ocf", 0}, {"b.ocf", 0}, {"a.ocf", 1}}) {
+    dialogs.ChoosePath(Path(name));
+    Tool("Guardar como")->trigger();
+    Run(seconds(2));
+    const QString summary = Find<QLabel>("AcceptanceSummary")->text();
+    EXPECT_TRUE(summary.contains(QString(", %1: %2 passed").arg(name).arg(passed)))
+        << FromQt(summary);
+    Find<QPushButton>("AcceptancePass")->click();
+  }
+}
+
+TEST_F(WindowLivePanels, AcceptanceWaitsForTheEndOfADownload) {
+  Core().conf.Digital[0].NOMBRE = "Door";
+  for (const char* keys : {"Ctrl+L", "Ctrl+K"}) Switch(keys);
   Run(seconds(3));
+  EXPECT_TRUE(Find<QPushButton>("PlotPicture")->isEnabled());
   std::set<int> shown;
   const TimerId watch = loop.Every(seconds(1), "watch", [&] {
     if (!Core().session.OwnsModel()) return;

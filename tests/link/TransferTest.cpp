@@ -20,7 +20,7 @@ class TransferTest : public LinkTest {
                     }}});
   }
   ProgressFeed::Subscription listener = comms.OnProgress([this](const Progress& told) {
-    const char* stages[] = {"begun", "step", "closing", "done", "failed"};
+    const char* stages[] = {"begun", "attempt", "step", "closing", "done", "failed"};
     hooked.push_back(stages[static_cast<int>(told.stage)] + std::string(" ") +
                      std::to_string(told.step) + " of " + std::to_string(told.expected));
   });
@@ -44,7 +44,7 @@ TEST_F(TransferTest, DownloadReadsEveryRecord) {
   EXPECT_EQ(cells[0], 309);
   EXPECT_TRUE(comBusy);
   EXPECT_EQ(comms.Fault().kind, Kind::None);
-  Texts expected = {"begun 0 of 0", "clear"};
+  Texts expected = {"begun 0 of 0", "clear", "attempt 0 of 0"};
   for (int n = 1; n <= 310; ++n) expected.push_back("step " + std::to_string(n) + " of 0");
   expected.insert(expected.end(), {"done 310 of 0", "load"});
   EXPECT_THAT(hooked, ElementsAreArray(expected));
@@ -83,6 +83,8 @@ TEST_F(TransferTest, FailedAttemptsStartOver) {
     EXPECT_EQ(comms.Fault().number, c.number);
     EXPECT_THAT(hooked.back(), testing::StartsWith("failed"));
     EXPECT_EQ(std::ranges::count(hooked, "clear"), 1);
+    const auto isAttempt = [](const std::string& one) { return one.starts_with("attempt"); };
+    EXPECT_EQ(std::ranges::count_if(hooked, isAttempt), 3) << "be they silent";
     EXPECT_EQ(std::ranges::count(hooked, "load"), 0);
 
     const std::size_t requests = logger.lines.size();
@@ -157,8 +159,8 @@ TEST_F(TransferTest, UploadSendsTheStatementsAndCloses) {
   EXPECT_EQ(loop.Now(), milliseconds(4 * 200));
   EXPECT_THAT(logger.lines, ElementsAre("#45000ID=Pozo \xE9", "#45001CELL=0", "#45002CELL=0",
                                         "#45003CELL=9", "#46004"));
-  EXPECT_THAT(hooked, ElementsAre("begun 0 of 0", "step 1 of 4", "step 2 of 4", "step 3 of 4",
-                                  "step 4 of 4", "closing 4 of 0", "done 4 of 0"));
+  EXPECT_THAT(hooked, ElementsAre("begun 0 of 0", "attempt 0 of 0", "step 1 of 4", "step 2 of 4",
+                                  "step 3 of 4", "step 4 of 4", "closing 4 of 0", "done 4 of 0"));
   listener.reset();
   hooked.clear();
   comms.WriteConf();

@@ -70,7 +70,7 @@ TEST(SaveNewTest, NeverTakesTheNameOfWhatStands) {
   EXPECT_TRUE(SaveNew(files, "/copy", kOld).Ok());
   EXPECT_TRUE(SaveNew(files, "/copy", kNew).stands);
   EXPECT_EQ(files.contents, (std::map<std::string, std::string>{{"/copy", kOld}}));
-  EXPECT_EQ(files.modes["/copy"], 0600);
+  EXPECT_EQ(files.modes["/copy"], 0400);
 }
 
 /// A folder of the file system in memory.

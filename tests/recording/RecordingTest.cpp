@@ -82,6 +82,44 @@ TEST(Recording, MasksASentCodeWhereverItComesBack) {
   EXPECT_THAT(text, HasSubstr("< wrong code ****\\r\n"));
 }
 
+/// Whatever befalls one octet of a line, or takes a run of them away, its passwords do not show.
+TEST(Recording, HoldsNoPasswordOfALineThatCameDamaged) {
+  const std::string before = Sealed("#BD389TELEF,1,600111222");
+  const std::string line = Sealed("#BD390GPRS,apn,clave77,pinar,1,2,3,0,ip,4,5,,,,,otra88,6,7");
+  const std::string behind = Sealed("#BD391CTIMER,0,60");
+  const auto expectHidden = [&](const std::string& came, const std::string& what) {
+    VirtualWorld world;
+    const std::string text = Recorded(world, {before + came + behind});
+    for (const char* secret : {"clave77", "otra88"})
+      EXPECT_THAT(text, Not(HasSubstr(secret))) << what;
+    EXPECT_THAT(text, HasSubstr("TELEF,1,600111222")) << "what is good stays";
+  };
+  for (std::size_t at = 0; at < line.size(); ++at) {
+    const std::string where = " at " + std::to_string(at);
+    for (const char bit : {'\x01', '\x08', '\x20'}) {
+      std::string flipped = line;
+      flipped[at] = static_cast<char>(flipped[at] ^ bit);
+      expectHidden(flipped, "flipped" + where);
+    }
+    for (const int lost : {1, 6})
+      expectHidden(line.substr(0, at) + line.substr(std::min(at + lost, line.size())),
+                   "lost" + where);
+    for (const char extra : {'\r', ',', '#', ';', 'x'})
+      expectHidden(line.substr(0, at) + extra + line.substr(at), "inserted" + where);
+  }
+}
+
+/// A code that is a number stands in many a line by chance: none of them is to give it away.
+TEST(Recording, ACodeThatIsANumberLeavesOtherLinesAlone) {
+  VirtualWorld world;
+  const std::string good = Sealed("#10OK") + Sealed("#BD119X,1") + Sealed("#BD120CTIMER,120,60");
+  const std::string text =
+      Recorded(world, {good, "#00;BD120CTIMER\rno 120 known\r"}, Sealed("#11120"));
+  EXPECT_EQ(ReceivedOf(text), good + "#00;BD120CTIMER\r****\r");
+  const std::string said = Recorded(world, {good, "no 120 known\r"}, Sealed("#11120"));
+  EXPECT_EQ(ReceivedOf(said), good + "no **** known\r");
+}
+
 /// A line stands where it ended, at the time of its first octet; a prompt stands ahead of what is
 /// said to it.
 TEST(Recording, TellsWhatPassedAndWhen) {

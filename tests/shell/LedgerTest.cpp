@@ -4,12 +4,12 @@
 
 #include "SimWorld.h"
 #include "base/Sha256.h"
-#include "shell/Against.h"
-#include "shell/GuardedWrite.h"
-#include "shell/WriteDoubts.h"
+#include "shell/compare/Against.h"
 #include "shell/ledger/History.h"
 #include "shell/ledger/IdentityGuard.h"
 #include "shell/ledger/Interrupted.h"
+#include "shell/writing/GuardedWrite.h"
+#include "shell/writing/WriteDoubts.h"
 
 namespace ostrel {
 namespace {
@@ -153,17 +153,100 @@ TEST_F(Books, TellWhatFailedAndWhatWasHeldBefore) {
   EXPECT_NE(session.fault, "");
 }
 
-/// A file belongs to the logger that it was read from, whichever is connected when it is saved.
+/// A file belongs to the logger that it was read from, under whichever name and whenever it is
+/// saved: it is doubted for another one, and what that logger was known to hold is no change.
 TEST_F(Books, AFileThatIsSavedElsewhereKeepsItsHistory) {
   Connect();
   ASSERT_TRUE(program->session.Download());
+  program->session.Close(false);
+  Name("Nuevo");
   ASSERT_TRUE(program->SaveTo("/a.ocf")->Ok());
+  EXPECT_EQ(world.ledger.entries.back().features,
+            static_cast<std::uint32_t>(program->info.Features))
+      << "without a session, too";
   Open("/a.ocf");
   ASSERT_TRUE(program->SaveTo("/b.ocf")->Ok());
+  Name("Otro");
+  ASSERT_TRUE(program->SaveTo("/c.ocf")->Ok());
   const LedgerEntry& saved = world.ledger.entries.back();
   EXPECT_EQ(saved.serial, "");
-  EXPECT_EQ(saved.features, LedgerEntry::kUnknown);
-  EXPECT_EQ(saved.detail, "from /a.ocf");
+  EXPECT_EQ(saved.detail, "from /b.ocf");
+  Open("/c.ocf");
+  Connect();
+  EXPECT_THAT(Doubts(), IsEmpty());
+  EXPECT_TRUE(Write().IsAsSent());
+  EXPECT_EQ(held, "") << "it was read ahead of the first saving";
+  Open("/c.ocf");
+  const std::string serial = program->info.SerialNumber;
+  for (const char* answers : {"OTHER", ""}) {
+    program->info.SerialNumber = answers;
+    EXPECT_THAT(Doubts(), ElementsAre(HasSubstr("was last used with the logger " + serial)));
+  }
+  Open("/b.ocf");
+  program->info.Features ^= 0x40;
+  EXPECT_THAT(Doubts(), ElementsAre(HasSubstr("logger " + serial), HasSubstr("the features")));
+}
+
+/// A reading beside the pages neither hands the pages to the logger that is read, nor does it count
+/// as seen.
+TEST_F(Books, ComparingWithALoggerLeavesTheFileItsHistory) {
+  Connect();
+  ASSERT_TRUE(program->session.Download());
+  ASSERT_TRUE(program->SaveTo("/a.ocf")->Ok());
+  program->session.Close(false);
+  for (LedgerEntry& entry : world.ledger.entries) entry.serial = "OTHER";
+  for (const bool isOpened : {true, false}) {
+    if (isOpened) Open("/a.ocf");
+    Connect();
+    const auto doubts = Doubts();
+    EXPECT_EQ(doubts.size(), isOpened ? 1U : 0U);
+    sim::Configuration changed = world.logger->Conf();
+    changed.name += "x";
+    world.logger->SetConf(changed);
+    EXPECT_TRUE(ReadBeside(*program, [this] { return program->session.Download(); }));
+    EXPECT_EQ(Doubts(), doubts);
+    if (isOpened) {
+      ASSERT_TRUE(program->session.Download());
+      ASSERT_TRUE(program->SaveTo("/a.ocf")->Ok());
+    } else {
+      goesOn = false;
+      EXPECT_EQ(Write().end, WriteEnd::Declined);
+      EXPECT_THAT(held, HasSubstr("changed by others"));
+    }
+    program->session.Close(false);
+  }
+}
+
+/// What could not be kept is told at once, and kept as soon as that works again.
+TEST_F(Books, WhatCouldNotBeKeptIsKeptLate) {
+  std::vector<std::string> told;
+  program->ledger.OnFault = [&](const std::string& why) { told.push_back(why); };
+  Connect();
+  world.logger->OnExchange([&](const sim::Exchange& exchange) {
+    if (exchange.request.starts_with("#46")) world.ledger.fault = "the disk is full";
+  });
+  Name("Nuevo");
+  ASSERT_TRUE(program->session.Upload());
+  EXPECT_THAT(told, ElementsAre("the disk is full"));
+  const LedgerEntry& written = world.ledger.entries.back();
+  ASSERT_EQ(written.kind, LedgerKind::Writing);
+  EXPECT_EQ(written.state, LedgerState::UnderWay);
+  world.ledger.fault.clear();
+  program->session.Close(false);
+  EXPECT_EQ(written.state, LedgerState::Done);
+}
+
+TEST_F(Books, ASessionWhoseLineWasLostHasFailed) {
+  for (const bool isLost : {false, true}) {
+    Connect();
+    if (isLost) world.line->Vanish();
+    program->session.Close(false);
+    const auto session =
+        std::ranges::find(world.ledger.entries.rbegin(), world.ledger.entries.rend(),
+                          LedgerKind::Session, &LedgerEntry::kind);
+    EXPECT_EQ(session->state == LedgerState::Failed, isLost);
+    EXPECT_EQ(session->fault.empty(), !isLost);
+  }
 }
 
 TEST_F(Books, ThatCannotBeKeptAreToldOnceAndStopNothing) {
@@ -194,7 +277,11 @@ TEST_F(Books, ALoggerThatAFileIsNotForIsDoubted) {
   Restart();
   Connect();
   Open("/site.ocf");
-  EXPECT_THAT(Doubts(), IsEmpty());
+  LedgerEntry failed = *std::ranges::find(world.ledger.entries, "/site.ocf", &LedgerEntry::file);
+  failed.state = LedgerState::Failed;
+  failed.serial = "OTHER";
+  world.ledger.Add(failed);
+  EXPECT_THAT(Doubts(), IsEmpty()) << "what failed was no use";
   program->info.SerialNumber = "OTHER";
   program->info.Features ^= 0x40;
   EXPECT_THAT(
@@ -303,7 +390,8 @@ TEST_F(KilledBooks, EachStatementLeavesTrueWordsAndAWayOut) {
     ASSERT_EQ(Truth(), Holding::Former);
     if (n % 8 != 1) continue;
     ASSERT_EQ(Look(found.entry), Holding::Former);
-    EXPECT_THAT(FindInterrupted(world.ledger), IsEmpty()) << "it is known now";
+    ASSERT_EQ(Found().holding, Holding::Former) << "it was found, and the way out is still due";
+    EXPECT_THAT(WordsOf(Found()).why.text, StartsWith("it was read on"));
     if (n % 16 != 1) continue;
     const bool finishes = n % 32 == 1;
     WriteContent(finishes ? found.entry.content : found.entry.former);
@@ -336,6 +424,32 @@ TEST_F(KilledBooks, ItsEndIsNotKnownUntilSomebodyLooks) {
   EXPECT_EQ(Look(Found().entry), Holding::Former);
 }
 
+/// What was finished, or put back, is nothing that others did.
+TEST_F(KilledBooks, AWayOutIsNoChangeByOthers) {
+  for (const bool finishes : {true, false}) {
+    world.ledger.entries.clear();
+    world.logger->SetConf(former);
+    Connect();
+    ASSERT_TRUE(program->session.Download());
+    ASSERT_TRUE(program->SaveTo("/site.ocf")->Ok());
+    Name("Ahora");
+    world.logger->OnExchange([this](const sim::Exchange& exchange) {
+      if (exchange.request.starts_with("#45010")) Kill();
+    });
+    Write();
+    world.logger->OnExchange({});
+    Restart();
+    const LedgerEntry cut = Found().entry;
+    WriteContent(finishes ? cut.content : cut.former);
+    held.clear();
+    Open("/site.ocf");
+    Connect();
+    EXPECT_TRUE(Write().IsAsSent());
+    EXPECT_EQ(held, "") << finishes;
+    program->session.Close(false);
+  }
+}
+
 TEST_F(KilledBooks, AReadingBackThatIsCutOffIsToldToo) {
   WriteAndDie("#42", 2);  // the reading ahead, the one behind
   const Interrupted found = Found();
@@ -360,7 +474,20 @@ TEST_F(KilledBooks, WhatStillRunsIsNotInterrupted) {
 
 LedgerEntry Work(LedgerKind kind, LedgerState state = LedgerState::UnderWay,
                  const std::string& serial = "A") {
-  return {.kind = kind, .state = state, .serial = serial};
+  return {.kind = kind, .state = state, .began = "2026-03-02", .serial = serial};
+}
+LedgerEntry With(LedgerEntry entry, const std::string& content, const std::string& former = {}) {
+  entry.content = content;
+  entry.former = former;
+  return entry;
+}
+LedgerEntry Tried(LedgerEntry entry) {
+  entry.attempts = 1;
+  return entry;
+}
+LedgerEntry Telling(LedgerEntry session) {
+  session.firmware = "1.23";
+  return session;
 }
 LedgerEntry AskedToClose(LedgerEntry writing) {
   writing.closing = true;
@@ -395,10 +522,22 @@ TEST(FindInterrupted, TellsWhatIsOpenAndWhy) {
            {{AskedToClose(Work(Writing, Failed))}, {"1 " + unknown}},
            {{Work(Writing, Failed)}, {}},
            {{Work(Writing, Done), About(1, Work(Reading))}, {"1 " + isNew}},
+           {{Work(Writing, Done), About(1, Work(Reading, Failed))}, {"1 " + isNew}},
            {{Work(Writing, Done), Work(Reading)}, {}},
+           {{With(Work(Writing), "new", "old"), With(Work(Reading, Done), "new")}, {}},
+           {{With(AskedToClose(Work(Writing)), "new", "old"), With(Work(Reading, Done), "old")},
+            {"1 it holds its former configuration: it was read on 2026-03-02"}},
+           {{With(Work(Writing), "new", "old"), With(Work(Reading, Done), "third")},
+            {"1 " + former}},
+           {{Tried(Work(VoiceWriting, Failed))}, {"1 " + voice}},
+           {{Work(VoiceWriting, Failed)}, {}},
+           {{AskedToClose(Work(Firmware, Failed))}, {"1 " + firmware}},
+           {{Work(Firmware, Failed)}, {}},
+           {{Work(Firmware), Telling(Work(Session, Done))}, {}},
+           {{Work(Firmware), Work(Session, Done)}, {"1 " + firmware}},
+           {{AskedToClose(Work(Firmware)), Telling(Work(Session, Done))}, {"1 " + firmware}},
            {{Work(Writing), Work(Reading, Failed)}, {"1 " + former}},
            {{Work(Writing), Work(Reading, Done, "B")}, {"1 " + former}},
-           {{Work(Writing), Work(Reading, Done)}, {}},
            {{Work(Writing), Work(Writing, Done)}, {}},
            {{Work(Writing), Work(Writing, UnderWay, "B")}, {"1 " + former, "2 " + former}},
            {{Work(VoiceWriting), Work(Reading, Done)}, {"1 " + voice}},
@@ -415,7 +554,7 @@ TEST(FindInterrupted, TellsWhatIsOpenAndWhy) {
                       Filled(words.why));
       const bool isOfConfiguration = one.entry.kind == Writing;
       EXPECT_EQ(one.holding == Holding::Unknown,
-                !isOfConfiguration || found.back().ends_with("known"));
+                !isOfConfiguration || found.back().ends_with("is not known"));
     }
     EXPECT_EQ(found, told);
   }
@@ -447,6 +586,24 @@ TEST(History, AFileThatIsExportedHasTheHistoryOfItsEntry) {
   EXPECT_EQ(kept.state, LedgerState::Done);
   EXPECT_EQ(kept.file + kept.serial + kept.content + kept.fault, "/x.ocfAhash");
   EXPECT_FALSE(kept.closing);
+}
+
+/// A file of the program's own holds what its entry holds, whatever stood there.
+TEST(History, AStateThatIsKeptAsAFileIsThatOfItsEntry) {
+  VirtualWorld world;
+  const LedgerEntry entry{.id = 7, .serial = "A", .content = Sha256("octets")};
+  world.ledger.KeepContent(entry.content, "octets");
+  const auto keep = [&] { return KeepExported(world.ledger, entry, world.files, "/h.ocf").Ok(); };
+  world.files.contents["/h.ocf"] = "octets";  // of another ledger
+  for (const char* stands : {"octets", "edited"}) {
+    world.files.contents["/h.ocf"] = stands;
+    EXPECT_TRUE(keep());
+    EXPECT_EQ(world.files.contents["/h.ocf"], "octets");
+    EXPECT_EQ(world.files.modes["/h.ocf"], 0400);
+  }
+  EXPECT_EQ(world.ledger.entries.size(), 2U);
+  EXPECT_TRUE(keep());
+  EXPECT_EQ(world.ledger.entries.size(), 2U) << "it stands";
 }
 
 }  // namespace

@@ -137,6 +137,24 @@ TEST(LinkDoctor, ALineThatIsHeldWantsItsControlLines) {
   }
 }
 
+/// A logger that greets at last does not make a bad line a good one.
+TEST(LinkDoctor, ALineWithABadSymptomIsNotWell) {
+  Ward held({});
+  held.world.port.SetLines(7, {.clearToSend = false, .dataSetReady = true});
+  Ward noisy({});
+  noisy.world.loop.After(std::chrono::milliseconds(200), "device",
+                         [&] { noisy.end->Send("\x01\x02\x91w"); });
+  Ward late({"silent@1!once", "silent@2!once"});
+  for (const auto& [ward, advice] : {std::pair{&held, DoctorWord::CheckLines},
+                                     {&noisy, DoctorWord::CheckEarthing},
+                                     {&late, DoctorWord::CheckEarthing}}) {
+    const Diagnosis diagnosis = ward->Look();
+    EXPECT_FALSE(diagnosis.isWell) << Ward::Text(diagnosis);
+    EXPECT_EQ(diagnosis.advice, Spoken(advice)) << Ward::Text(diagnosis);
+    EXPECT_THAT(Ward::Text(diagnosis), HasSubstr("a logger greets"));
+  }
+}
+
 TEST(LinkDoctor, TellsWhatComesUnasked) {
   for (const auto& [octets, found] : std::vector<std::pair<std::string, std::string>>{
            {"", "nothing comes unasked"},

@@ -3,9 +3,10 @@
 #include <sstream>
 
 #include "base/CodePage.h"
-#include "shell/FaultWords.h"
-#include "shell/Navigation.h"
 #include "shell/SimWorld.h"
+#include "shell/navigation/Navigation.h"
+#include "shell/session/FaultWords.h"
+#include "tools/FirmwareChoice.h"
 #include "tools/HexFiles.h"
 #include "tools/IntelHex.h"
 
@@ -26,6 +27,7 @@ struct FirmBench {
     form.Get<TextBox>("LoaderPath").SetText("/CopyFlash.hex");
     world.logger->OnExchange([this](const sim::Exchange& exchange) {
       answered += exchange.frames;
+      ++requests;
       if (exchange.request.starts_with("#F")) asked += exchange.request + " ";
     });
   }
@@ -49,6 +51,7 @@ struct FirmBench {
   Form& form = program.firm.GetForm();
   std::string asked;         ///< of the logger
   std::size_t answered = 0;  ///< frames
+  std::size_t requests = 0;
 };
 
 TEST(FirmPage, SendsBothFilesAndEndsTheSession) {
@@ -145,6 +148,9 @@ TEST(FirmPage, WarnsOfFilesThatLookWrong) {
         {spoilt("\r\n:", "\r\n;"), loader, "image.hex: Linea 2: no es un registro"},
         {good.substr(0, good.size() - 13), loader, "image.hex: falta el registro final"},
         {good, "", "CopyFlash.hex: falta el registro final"},
+        // All but the last octet is sent.
+        {good.substr(0, good.size() - 2), loader, "image.hex: Linea 31: no es un registro"},
+        {good, loader.substr(0, loader.size() - 2), "CopyFlash.hex: Linea 3: no es un registro"},
         {loader, good, "intercambiados"},
         {std::string(17'000'000, ' ') + "\n" + good, loader, "image.hex: ocupa mas de 16 MB"}}) {
     SCOPED_TRACE(c.warning);
@@ -161,7 +167,43 @@ TEST(FirmPage, WarnsOfFilesThatLookWrong) {
     bench.Start();
     EXPECT_THAT(bench.asked, testing::StartsWith("#F0 "));
   }
-  EXPECT_EQ(FirstHexFault(good + "rubbish"), HexFault{}) << "behind the end nothing counts";
+}
+
+TEST(IntelHex, IsToldByTheFirstLineThatIsNone) {
+  using Kind = HexFault::Kind;
+  const std::string good = ":0100000041BE\n", end = ":00000001FF";
+  for (const auto& [file, fault] : {std::pair{good + "\r\n\n" + good + end, HexFault{}},
+                                    {":0100000041BE \t\r\n" + end + "\t\nrubbish", {}},
+                                    {good + ":0100000041BE0\n" + end, {Kind::NoRecord, 2}},
+                                    {good + ":0200000041BD\n" + end, {Kind::NoRecord, 2}},
+                                    {"\n:\n" + end, {Kind::NoRecord, 2}},
+                                    {"0100000041BE\n" + end, {Kind::NoRecord, 1}},
+                                    {":010000004GBE\n" + end, {Kind::NoRecord, 1}},
+                                    {":0100000041BF\n" + end, {Kind::BadChecksum, 1}},
+                                    {good, {Kind::NoEnd}}})
+    EXPECT_EQ(FirstHexFault(file), fault) << file;
+  EXPECT_EQ(FirstHexFault(std::string_view(end).substr(0, end.size() - 1)),
+            (HexFault{Kind::NoRecord, 1}))
+      << "what stands behind the text is none of it";
+}
+
+/// The name of a file counts, not that of a folder.
+TEST(FirmwareDoubts, FindFilesThatAreSwapped) {
+  struct Case {
+    const char *image, *loader;
+    int imageRecords, loaderRecords;
+    bool isDoubted;
+  };
+  for (const Case& c : {Case{"/a/image.hex", "/a/CopyFlash.hex", 3, 2, false},
+                        {"/CopyFlash/image.hex", "/CopyFlash/loader.hex", 3, 2, false},
+                        {"/a/CopyFlash.hex", "/CopyFlash/image.hex", 3, 2, true},
+                        {"/a/image.hex", "/a/CopyFlash.hex", 2, 2, true}})
+    EXPECT_EQ(
+        FirmwareDoubts({c.image, c.loader}, {HexFile(c.imageRecords), HexFile(c.loaderRecords)},
+                       [](std::string_view text) { return std::string(text); })
+            .size(),
+        c.isDoubted ? 1U : 0U)
+        << c.image;
 }
 
 /// The fault that damages the first answer behind the opening of a session.
@@ -169,6 +211,13 @@ std::string DamagedFirstAnswer() {
   FirmBench bench;
   bench.Connect();
   return "bad-checksum@" + std::to_string(bench.answered + 1) + "!once";
+}
+
+/// The fault that sends the first request behind the opening of a session back.
+std::string EchoedFirstRequest() {
+  FirmBench bench;
+  bench.Connect();
+  return "echo@" + std::to_string(bench.requests + 1) + "!once";
 }
 
 TEST(FirmPage, EachFaultOfTheLoggerEndsItWithWordsOfWhatToDo) {
@@ -183,6 +232,8 @@ TEST(FirmPage, EachFaultOfTheLoggerEndsItWithWordsOfWhatToDo) {
        {Case{"refuse-erase", "answered something else: \"#DWLD_ERROR\"", FlashState::Kept, 0},
         // The answer that it erases is lost: the next that comes is that it has.
         {DamagedFirstAnswer(), "answered something else: \"#DWLD_READY\"", FlashState::InDoubt, 0},
+        // What is no word of refusal tells nothing of what the logger has heard.
+        {EchoedFirstRequest(), "answered something else: \"#F0\"", FlashState::InDoubt, 0},
         {"ready-late:45000", "", FlashState::Kept, 27'011},
         {"ready-late:60000", "fell silent", FlashState::Erased, 0},
         {"no-alive-mark@2", "no sign of life by octet 16386", FlashState::Erased, 16'386},
@@ -252,15 +303,33 @@ TEST(FirmPage, ASessionThatEndsBehindTheQuestionIsNotUsed) {
   EXPECT_EQ(bench.Info(), "Preparado");
 }
 
-TEST(FirmPage, WhoBreaksItOffIsNotToldOfIt) {
+TEST(FirmPage, ADialogueUnderWayIsNotDisturbed) {
   FirmBench bench;
   bench.Connect();
-  bench.world.port.SetPaced(true);
-  bench.world.loop.After(seconds(10), "leave", [&] { bench.program.ShutDown(); });
+  bench.program.comms.LinkBusy = true;
   bench.Start();
   EXPECT_EQ(bench.Info(), "¡Error!");
-  EXPECT_THAT(bench.world.dialogs.boxes, IsEmpty());
-  EXPECT_EQ(bench.program.session.Flash(), FlashState::Erased);
+  EXPECT_EQ(bench.LastBox(), "¡Error!\n\nLa linea esta ocupada: no se ha enviado nada");
+  EXPECT_FALSE(bench.program.session.State().failed) << "it is not the other that has failed";
+  EXPECT_EQ(bench.asked, "");
+}
+
+TEST(FirmPage, WhoBreaksItOffIsNotToldOfIt) {
+  for (const bool leaves : {false, true}) {
+    FirmBench bench;
+    bench.Connect();
+    bench.world.port.SetPaced(true);
+    bench.world.loop.After(seconds(10), "break off", [&] {
+      leaves ? bench.program.ShutDown() : bench.program.session.BreakOff();
+    });
+    bench.Start();
+    EXPECT_EQ(bench.Info(), "¡Error!");
+    EXPECT_THAT(bench.world.dialogs.boxes, IsEmpty());
+    EXPECT_EQ(bench.program.session.Flash(), FlashState::Erased);
+    if (leaves) continue;  // nobody looks any more
+    EXPECT_FALSE(bench.program.Connected);
+    EXPECT_EQ(FaceOf(bench.program.general.GetForm()["IniCom"]).Caption(), "Iniciar comunicacion");
+  }
 }
 
 }  // namespace

@@ -9,6 +9,9 @@ namespace {
 constexpr std::string_view kHtmlEnd = ".html";
 constexpr std::string_view kPdfEnd = ".pdf";
 constexpr std::string_view kPortWord = "port";
+// Columns of the table of texts.
+constexpr std::int16_t kSpanish = 1;
+constexpr std::int16_t kEnglish = 2;
 
 struct ReportOptions {
   std::string file;  ///< or "port"
@@ -25,14 +28,14 @@ std::string NoReportName(const std::string& path) {
 ExitCode WriteReport(CommandContext& context, const ReportOptions& options,
                      const Commissioned& work) {
   const std::string& code = options.language;
-  const ReportLanguage language{.code = code,
-                                .say =
-                                    [&](std::string_view text) {
-                                      return context.environment.translate
-                                                 ? context.environment.translate(code, text)
+  const ReportLanguage language{
+      .code = code,
+      .say =
+          [&](std::string_view text) {
+            return context.environment.translate ? context.environment.translate(code, text)
                                                  : std::string(text);
-                                    },
-                                .translate = context.Translator()};
+          },
+      .translate = context.TranslatorTo(code == "es" ? kSpanish : kEnglish)};
   std::string octets = ReportHtml(CommissioningReport(work, language, context.platform.files));
   if (options.out.ends_with(kPdfEnd)) octets = context.environment.makePdf(octets);
   FileResult saved = {"it could not be set as pages"};
@@ -48,12 +51,14 @@ ExitCode WriteReport(CommandContext& context, const ReportOptions& options,
 /// Adds what the logger of a session tells of itself, and what it measures now.
 ExitCode AskLogger(const Online& online, Commissioned& work) {
   Configurator& logger = online.configurator;
+  const bool isClockRead = logger.comms.ReadDeviceRTC();
   const ExitCode named = online.session.Run([&] { return logger.comms.ReadIOParameter(); });
   if (named != ExitCode::Done) return named;
   const ExitCode read = online.session.Run([&] { return logger.comms.ReadRealTime(); });
   if (read != ExitCode::Done) return read;
   const CommandContext& context = online.context;
-  AddLogger(work, logger, context.platform, context.environment.dataFolder);
+  AddLogger(work, logger, context.platform, context.environment.dataFolder,
+            {.clock = isClockRead, .live = true});
   return ExitCode::Done;
 }
 
@@ -76,6 +81,8 @@ ExitCode RunReport(CommandContext& context, const ReportOptions& options) {
           const ExitCode downloaded = online.session.Download();
           if (downloaded != ExitCode::Done) return downloaded;
           work.configuration = {online.configurator.profile, online.configurator.conf};
+        } else if (options.file != kStandard) {
+          online.configurator.ledger.TakeFile(options.file);
         }
         return AskLogger(online, work);
       });

@@ -7,10 +7,10 @@
 #include "cli/commands/UploadRun.h"
 #include "host/LoggerText.h"
 #include "link/UploadPlan.h"
-#include "shell/GuardedWrite.h"
-#include "shell/WriteDoubts.h"
 #include "shell/ledger/History.h"
 #include "shell/ledger/IdentityGuard.h"
+#include "shell/writing/GuardedWrite.h"
+#include "shell/writing/WriteDoubts.h"
 
 namespace ostrel::cli {
 namespace {
@@ -131,7 +131,7 @@ std::vector<std::string> DoubtsOfLogger(const Configurator& configurator) {
 
 /// Whether a file is a former state, which is written because the logger holds another one now.
 bool IsFormerState(const UploadOptions& options) {
-  return !options.copy.empty() || HistoryEntry(options.file) != 0;
+  return !options.copy.empty() || (options.finishes.empty() && HistoryEntry(options.file) != 0);
 }
 
 /// Writes with safety copy and verification, as far as the options want them.
@@ -154,6 +154,7 @@ ExitCode Send(Online& online, const UploadOptions& options, Refusal& refusal) {
     road.keep = [&](const DeviceConf& held) {
       return step(SaveBackup(context, online.configurator, held, result.backup));
     };
+  if (options.noBackup && options.force) road.inSpiteOf = nullptr;  // nothing is read for it
   const WriteResult written = WriteGuarded(online.configurator, road);
   if (written.end != WriteEnd::Written) return code;
   result.comparison = written.verified;
@@ -176,7 +177,8 @@ ExitCode LoadFile(CommandContext& context, Configurator& configurator, const Upl
   const ExitCode refused = refusal.Of(DoubtsOfFile(context, options, *read));
   if (refused != ExitCode::Done) return refused;
   configurator.conf = read->conf;
-  if (file != kStandard) configurator.ledger.TakeFile(file);
+  if (file != kStandard)
+    configurator.ledger.TakeFile(options.finishes.empty() ? file : options.finishes);
   const std::string& fileModel = read->profile.TargetName;
   if (fileModel == model) return ExitCode::Done;
   configurator.TargetDeviceChange(fileModel);

@@ -6,7 +6,7 @@ namespace ostrel {
 namespace {
 
 constexpr int kWidest = 380;
-constexpr int kGap = 3;
+constexpr int kBubbleGap = 3;
 
 }  // namespace
 
@@ -29,10 +29,10 @@ void NoteBubble::Tell(const QWidget& control, const QString& words) {
   const QSize size(width, isLong ? heightForWidth(width) : sizeHint().height());
   const QWidget& sheet = *parentWidget();
   const QPoint corner = control.mapTo(&sheet, QPoint(0, 0));
-  const int below = corner.y() + control.height() + kGap;
+  const int below = corner.y() + control.height() + kBubbleGap;
   const bool fits = below + size.height() <= sheet.height();
   setGeometry(QRect(QPoint(std::clamp(corner.x(), 0, std::max(0, sheet.width() - size.width())),
-                           fits ? below : corner.y() - kGap - size.height()),
+                           fits ? below : corner.y() - kBubbleGap - size.height()),
                     size));
   raise();
   show();

@@ -5,13 +5,13 @@
 #include <QVBoxLayout>
 
 #include "desktop/forms/Words.h"
-#include "desktop/layouts/LayoutParts.h"
 #include "desktop/layouts/Layouts.h"
+#include "desktop/layouts/parts/LayoutParts.h"
 
 namespace ostrel {
 namespace {
 
-constexpr int kGap = 8;  // between the controls of a row or column, in pixels
+constexpr int kListGap = 8;  // between the controls of a row or column, in pixels
 
 /// A box that leaves of a list only the rows that hold its text in view. A row that goes out of
 /// view is selected no more, and one that is selected out of view empties the box.
@@ -49,7 +49,7 @@ void PasteByKeys(QListWidget* list, QPushButton* button) {
 Card ListCard(FormView& view) {
   const Card card = MakeCard(view, Words::tr("Numbers"));
   auto* entry = new QHBoxLayout;
-  entry->setSpacing(kGap);
+  entry->setSpacing(kListGap);
   entry->addWidget(view.LabelFor("PhoneText", std::string_view("PhoneLabel")));
   entry->addWidget(view.Show("PhoneText"), 1);
   for (const auto* name : {"Add", "SearchBut"}) entry->addWidget(view.Show(name));
@@ -62,7 +62,7 @@ Card ListCard(FormView& view) {
   auto* paste = view.Show<QPushButton>("PasteBut");
   PasteByKeys(list, paste);
   auto* buttons = new QVBoxLayout;
-  buttons->setSpacing(kGap);
+  buttons->setSpacing(kListGap);
   for (QWidget* button : {view.Show("Del"), static_cast<QWidget*>(paste), view.Show("ImportBut"),
                           view.Show("ExportBut")})
     buttons->addWidget(button);
@@ -82,10 +82,10 @@ Card CallCard(FormView& view) {
   return card;
 }
 
-Card LoggerCard(FormView& view) {
+Card StoredListCard(FormView& view) {
   const Card card = MakeCard(view, Words::tr("Logger"));
   auto* moves = new QHBoxLayout;
-  moves->setSpacing(kGap);
+  moves->setSpacing(kListGap);
   for (const auto* name : {"ReadBut", "WriteBut"}) moves->addWidget(view.Show(name));
   moves->addWidget(view.ShowNamed("PBar", Words::tr("Progress")), 1);
   moves->addWidget(view.Show("StateLabel"));
@@ -105,7 +105,7 @@ void LayOutVoice(FormView& view) {
   QVBoxLayout* page = MakeSheet(view);
   page->addWidget(ListCard(view).box, 1);
   page->addWidget(CallCard(view).box);
-  page->addWidget(LoggerCard(view).box);
+  page->addWidget(StoredListCard(view).box);
 }
 
 }  // namespace ostrel

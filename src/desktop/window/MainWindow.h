@@ -8,32 +8,32 @@
 #include <ostream>
 #include <string>
 
+#include "desktop/dialogs/ScheduleView.h"
+#include "desktop/dialogs/TraceView.h"
 #include "desktop/forms/Icons.h"
 #include "desktop/program/PortWatch.h"
-#include "desktop/window/FaultNote.h"
+#include "desktop/session/FaultNote.h"
+#include "desktop/session/SessionBar.h"
 #include "desktop/window/LivePanels.h"
 #include "desktop/window/Overview.h"
 #include "desktop/window/PageArea.h"
-#include "desktop/window/ScheduleView.h"
-#include "desktop/window/SessionBar.h"
-#include "desktop/window/TraceView.h"
 #include "desktop/window/TreePane.h"
 #include "platform/Files.h"
 #include "platform/Platform.h"
 #include "platform/PortFacts.h"
 #include "platform/TappedPort.h"
 #include "recording/Recorder.h"
-#include "shell/ChannelPiece.h"
-#include "shell/Comparison.h"
-#include "shell/ConfigurationFile.h"
-#include "shell/EditHistory.h"
-#include "shell/Navigation.h"
-#include "shell/RecentFiles.h"
-#include "shell/SafetyCopies.h"
-#include "shell/SessionDriver.h"
-#include "shell/TraceLog.h"
-#include "shell/UnsavedMark.h"
+#include "shell/compare/ChannelPiece.h"
+#include "shell/compare/Comparison.h"
+#include "shell/files/ConfigurationFile.h"
+#include "shell/files/EditHistory.h"
+#include "shell/files/RecentFiles.h"
+#include "shell/files/UnsavedMark.h"
 #include "shell/ledger/Interrupted.h"
+#include "shell/navigation/Navigation.h"
+#include "shell/session/SessionDriver.h"
+#include "shell/session/TraceLog.h"
+#include "shell/writing/SafetyCopies.h"
 
 class QAction;
 class QLabel;
@@ -72,8 +72,8 @@ class MainWindow final : public QMainWindow {
   void Retranslate();
   /// Called when the configurator has started: shows what is in front, and follows it from here on.
   void Follow();
-  /// Goes to a node, as a click on it does.
-  void GoTo(const std::string& key);
+  /// Goes to a node, as a click on it does; false while the tree rests.
+  bool GoTo(const std::string& key);
   /// Goes to a field of the configuration: its page, its alarm configuration, its control.
   void GoToField(PageId page, const FieldId& field);
   LayoutContext Context();
@@ -97,6 +97,9 @@ class MainWindow final : public QMainWindow {
   void MakeRarerTools();
   /// Adds a tool to the bar, or to a menu of it.
   QAction* AddAction(QWidget& place, Sign sign, QKeySequence keys, std::function<void()> run);
+  /// What asks the operator something, guarded, at once or behind a reading that nobody waits for:
+  /// the question would hold that up.
+  std::function<void()> Asking(std::function<void()> run);
   /// Adds a tool that shows and hides a panel.
   QAction* AddSwitch(QWidget& place, Sign sign, QKeySequence keys, QDockWidget& panel,
                      std::function<void(bool on)> show);
@@ -108,7 +111,10 @@ class MainWindow final : public QMainWindow {
   void Open();
   void OpenPath(const std::string& path);
   void Opened();
-  /// Works on the file that was opened, unless it was not whole, which is told.
+  /// Whether a path is that of a safety copy or of a state from the ledger, which stay as they are.
+  bool IsFormerState(const std::string& path) const;
+  /// Works on the file that was opened, unless it was not whole, which is told, or is to stay as it
+  /// is.
   void TakeFile();
   /// False when it was left, or when writing failed.
   bool Save();
@@ -216,13 +222,14 @@ class MainWindow final : public QMainWindow {
   bool MayChangeModel(const std::string& model);
 
   // The ledger.
-  /// Opens the configuration of an entry, from a file of its own in the user's data folder.
   /// The configuration of an entry, as a file of the program's own; told where it cannot be made.
   std::optional<std::string> FileOf(const LedgerEntry& entry);
+  /// Opens the configuration of an entry from that file.
   void OpenEntry(const LedgerEntry& entry);
   void CompareEntry(const LedgerEntry& entry);
   void SaveEntry(const LedgerEntry& entry);
-  void WriteEntry(const LedgerEntry& entry);
+  /// Asks to write the configuration of an entry; in the name of a file where one is given.
+  void WriteEntry(const LedgerEntry& entry, const std::string& inNameOf);
   /// Says in the status bar that nothing is kept; no box, since a transfer may run.
   void TellLedgerFault(const std::string& why);
   /// Tells at the start what was interrupted when the program ran last.
@@ -288,7 +295,9 @@ class MainWindow final : public QMainWindow {
           *traceSwitch_ = nullptr, *findingsSwitch_ = nullptr, *more_ = nullptr;
   QLabel* ledgerFault_ = nullptr;
   std::string offeredTo_;  ///< serial number of the logger that ways out were offered for
-  std::optional<LedgerEntry> looksFor_;  ///< the interrupted writing whose logger is being read
+  std::optional<LedgerEntry> looksFor_;     ///< the interrupted writing whose logger is being read
+  std::pair<std::int64_t, QString> found_;  ///< what reading for an interrupted writing has found
+  QString otherwise_;  ///< what is told for as long as a logger holds something else than was sent
   bool following_ = false;
   QString success_;                    ///< what the status bar says of the last writing
   bool hasMoved_ = false;              ///< a transfer of this session has succeeded

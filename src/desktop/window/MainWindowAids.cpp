@@ -1,10 +1,10 @@
 #include <QAction>
 #include <QStatusBar>
 
+#include "desktop/dialogs/DoctorDialog.h"
 #include "desktop/forms/Words.h"
 #include "desktop/program/Language.h"
-#include "desktop/window/DoctorDialog.h"
-#include "desktop/window/FaultText.h"
+#include "desktop/session/FaultText.h"
 #include "desktop/window/MainWindow.h"
 #include "host/GrowingFiles.h"
 #include "host/PdfText.h"
@@ -121,8 +121,8 @@ void MainWindow::SaveReport() {
                     .file = shownFile_};
   // A logger that is busy, or has gone silent, is not asked for what it measures now.
   if (configurator_.Connected) {
-    if (configurator_.comms.ReadIOParameter()) configurator_.comms.ReadRealTime();
-    AddLogger(work, configurator_, parts_.platform, parts_.dataFolder);
+    const AskedForReport asked = AskForReport(configurator_.comms);
+    AddLogger(work, configurator_, parts_.platform, parts_.dataFolder, asked);
   }
   const Report report = CommissioningReport(
       work,

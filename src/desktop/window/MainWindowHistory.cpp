@@ -4,10 +4,10 @@
 #include <QStatusBar>
 #include <utility>
 
+#include "desktop/dialogs/CompareWindow.h"
+#include "desktop/dialogs/HistoryDialog.h"
 #include "desktop/forms/Words.h"
-#include "desktop/window/CompareWindow.h"
-#include "desktop/window/FaultText.h"
-#include "desktop/window/HistoryDialog.h"
+#include "desktop/session/FaultText.h"
 #include "desktop/window/MainWindow.h"
 #include "platform/Dialogs.h"
 #include "shell/Configurator.h"
@@ -43,8 +43,7 @@ std::optional<std::string> MainWindow::FileOf(const LedgerEntry& entry) {
   const std::string folder = parts_.dataFolder + "/history";
   std::string path = folder + "/entry-" + std::to_string(entry.id) + ".ocf";
   FileResult made = files.MakeFolder(folder);
-  if (made.Ok() && !files.Exists(path))
-    made = ExportEntry(*parts_.platform.ledger, entry, files, path);
+  if (made.Ok()) made = KeepExported(*parts_.platform.ledger, entry, files, path);
   if (made.Ok()) return path;
   Tell(Words::tr("%1 could not be written: %2").arg(ToQt(path), ToQt(made.error)));
   return {};
@@ -108,7 +107,9 @@ void MainWindow::OfferWayOut() {
 
 void MainWindow::AskWayOut(const Interrupted& interrupted) {
   Ledger& books = *parts_.platform.ledger;
-  QMessageBox box(QMessageBox::NoIcon, ToQt(configurator_.profile.TargetName), TextOf(interrupted),
+  QString text = TextOf(interrupted);
+  if (found_.first == interrupted.entry.id) text = found_.second + u' ' + text;
+  QMessageBox box(QMessageBox::NoIcon, ToQt(configurator_.profile.TargetName), text,
                   QMessageBox::NoButton, this);
   box.setIconPixmap(BoxPicture(BoxIcon::Exclamation));
   const bool isWriting = interrupted.entry.kind == LedgerKind::Writing;
@@ -133,24 +134,31 @@ void MainWindow::AskWayOut(const Interrupted& interrupted) {
     looksFor_ = interrupted.entry;
     return AskFor(SessionPhase::Reading);
   }
-  if (finish && chosen == finish) return WriteEntry(interrupted.entry);
+  if (finish && chosen == finish) return WriteEntry(interrupted.entry, interrupted.entry.file);
   if (!putBack || chosen != putBack) return;
-  if (const auto former = FormerEntry(books, interrupted.entry)) return WriteEntry(*former);
+  if (const auto former = FormerEntry(books, interrupted.entry)) return WriteEntry(*former, {});
+  Tell(Words::tr("Nothing was written: what the logger held before is not kept."));
 }
 
 /// The question ahead of each writing comes by itself.
-void MainWindow::WriteEntry(const LedgerEntry& entry) {
+void MainWindow::WriteEntry(const LedgerEntry& entry, const std::string& inNameOf) {
   OpenEntry(entry);
   const auto wanted = ContentOfHistory(configurator_, entry.content);
-  if (wanted && ostrel::Compare({configurator_.profile, configurator_.conf}, *wanted).isSame)
-    AskFor(SessionPhase::Writing);
+  if (!wanted || !ostrel::Compare({configurator_.profile, configurator_.conf}, *wanted).isSame)
+    return Tell(Words::tr("Nothing was written: the pages show another configuration."));
+  if (!inNameOf.empty()) configurator_.ledger.TakeFile(inNameOf);
+  AskFor(SessionPhase::Writing);
 }
 
 void MainWindow::TellWhatWasFound(const DeviceConf& read) {
   if (!looksFor_) return;
   const LedgerEntry sought = *std::exchange(looksFor_, {});
-  if (configurator_.info.SerialNumber == sought.serial)
-    Tell(SentenceOf(FoundWords(WhatWasFound(configurator_, sought, read))));
+  if (configurator_.info.SerialNumber != sought.serial) return;
+  const Holding found = WhatWasFound(configurator_, sought, read);
+  found_ = {sought.id, SentenceOf(FoundWords(found))};
+  if (found != Holding::New) return offeredTo_.clear();  // the ways out come again, with that
+  Settle(*parts_.platform.ledger, sought);
+  Tell(found_.second);
 }
 
 }  // namespace ostrel

@@ -5,9 +5,9 @@
 #include <QStatusBar>
 #include <utility>
 
+#include "desktop/dialogs/CompareWindow.h"
 #include "desktop/forms/Words.h"
-#include "desktop/window/CompareWindow.h"
-#include "desktop/window/FaultText.h"
+#include "desktop/session/FaultText.h"
 #include "desktop/window/MainWindow.h"
 #include "shell/Configurator.h"
 
@@ -29,6 +29,7 @@ void MainWindow::AskFor(SessionPhase transfer) { configurator_.session.AskFor(tr
 
 void MainWindow::ShowSession() {
   const SessionState& state = configurator_.session.State();
+  if (state.phase == SessionPhase::Opening) otherwise_.clear();
   hasMoved_ = hasMoved_ && state.phase != SessionPhase::Opening && !state.failed;
   ShowLink();
   ShowTransfer();
@@ -115,7 +116,7 @@ void MainWindow::ShowTransfer() {
 
 QString MainWindow::FaultNow() {
   const auto& failed = configurator_.session.State().failed;
-  if (!failed) return {};
+  if (!failed) return otherwise_;
   return FaultText(*failed, ports_.DeviceOf("COM" + std::to_string(configurator_.session.Port())));
 }
 

@@ -3,18 +3,18 @@
 
 #include "base/Printable.h"
 #include "base/Scope.h"
+#include "desktop/dialogs/CompareDialog.h"
+#include "desktop/dialogs/WriteDialog.h"
 #include "desktop/forms/Words.h"
-#include "desktop/window/CompareDialog.h"
-#include "desktop/window/FaultText.h"
+#include "desktop/session/FaultText.h"
 #include "desktop/window/MainWindow.h"
-#include "desktop/window/WriteDialog.h"
 #include "link/UploadPlan.h"
 #include "platform/Dialogs.h"
 #include "shell/Configurator.h"
-#include "shell/GuardedWrite.h"
-#include "shell/RecordCounts.h"
-#include "shell/VoiceDoubts.h"
-#include "shell/WriteDoubts.h"
+#include "shell/session/RecordCounts.h"
+#include "shell/writing/GuardedWrite.h"
+#include "shell/writing/VoiceDoubts.h"
+#include "shell/writing/WriteDoubts.h"
 
 namespace ostrel {
 namespace {
@@ -51,6 +51,7 @@ void MainWindow::Read() {
 void MainWindow::Write() {
   if (const auto why = WhyWritingRests(configurator_.session.Life())) return Tell(SentenceOf(*why));
   navigation_.CommitFront();
+  configurator_.session.CompleteInfo();  // who answers is part of the question
   const WriteQuestion question = AskedBeforeWriting();
   WriteDialog dialog(question, this);
   if (dialog.exec() != QDialog::Accepted || !configurator_.Connected) return;
@@ -65,11 +66,16 @@ void MainWindow::Write() {
   };
   WriteRoad road{.read = [step] { return step(&SessionDriver::Download); },
                  .write = [step] { return step(&SessionDriver::Upload); },
-                 .keep = [this](const DeviceConf& held) { return KeepFormer(held); },
-                 .inSpiteOf = [this](const Phrase& doubt) { return MayWriteInSpite(doubt); }};
+                 .keep = [this](const DeviceConf& held) { return KeepFormer(held); }};
+  // A former state is written because the logger holds another one now.
+  if (!IsFormerState(configurator_.ledger.File()))
+    road.inSpiteOf = [this](const Phrase& doubt) { return MayWriteInSpite(doubt); };
   if (dialog.ShowsChanges())
     road.mayWrite = [this](const Comparison& changes) { return MayChange(changes); };
-  ShowWritten(WriteGuarded(configurator_, road));
+  const DeviceConf safe = unsaved_.Kept();
+  const WriteResult result = WriteGuarded(configurator_, road);
+  if (result.verified && !result.verified->isSame) unsaved_.Keep(safe);
+  ShowWritten(result);
 }
 
 WriteQuestion MainWindow::AskedBeforeWriting() const {
@@ -115,21 +121,25 @@ bool MainWindow::MayChange(const Comparison& changes) {
 
 /// A failed step is told as any other fault of the session.
 void MainWindow::ShowWritten(const WriteResult& result) {
-  if (result.end == WriteEnd::Written) configurator_.session.ShowWritten();
   if (result.IsAsSent()) {
+    configurator_.session.ShowWritten();
     success_ = Words::tr("Written and verified: the logger holds what the pages show.");
     statusBar()->showMessage(success_, kMessageTime);
   }
   if (!result.verified || result.verified->isSame) return;
-  CompareDialog dialog({.title = Words::tr("The logger holds another configuration than was sent"),
-                        .before = Words::tr("Sent"),
-                        .after = Words::tr("In the logger")},
-                       result.verified->differences, configurator_.profile, Translate(), this);
+  configurator_.session.ForgetSuccess();
+  const QString words = Words::tr("The logger holds another configuration than was sent");
+  otherwise_ = words + u'.';
+  ShowFault();
+  CompareDialog dialog(
+      {.title = words, .before = Words::tr("Sent"), .after = Words::tr("In the logger")},
+      result.verified->differences, configurator_.profile, Translate(), this);
   dialog.exec();
 }
 
 void MainWindow::TransferEnded(const TransferEnd& end) {
   hasMoved_ = end.done;
+  if (end.done && !isBeside_) otherwise_.clear();
   if (!end.done || isBeside_ || (writeStep_ > 0 && end.kind == SessionPhase::Reading)) return;
   unsaved_.Keep(end.held);
   if (end.kind == SessionPhase::Reading) {

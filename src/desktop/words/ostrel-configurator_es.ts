@@ -2708,8 +2708,8 @@
         <translation>Gráfica de valores en tiempo real</translation>
     </message>
     <message>
-        <source>Drag or arrow keys: move. Wheel, + and -: zoom. With Shift: the values instead of time. Home: all. End: follow. 0 or double click: fit the values.</source>
-        <translation>Arrastrar o flechas: mover. Rueda, + y -: ampliar y reducir. Con Mayús: los valores en lugar del tiempo. Inicio: todo. Fin: seguir. 0 o doble clic: ajustar los valores.</translation>
+        <source>Drag, left and right: move in time. Wheel, + and -: zoom in time. Drag and wheel with Shift, up and down, page up and page down: the same of the values. Home: all. End: follow. 0 or double click: fit the values.</source>
+        <translation>Arrastrar, izquierda y derecha: mover en el tiempo. Rueda, + y -: ampliar y reducir el tiempo. Arrastrar y rueda con Mayús, arriba y abajo, retroceder y avanzar página: lo mismo con los valores. Inicio: todo. Fin: seguir. 0 o doble clic: ajustar los valores.</translation>
     </message>
     <message>
         <source>&amp;Follow now</source>
@@ -3140,8 +3140,8 @@
         <translation>número nuevo</translation>
     </message>
     <message>
-        <source>nothing was checked</source>
-        <translation>no se comprobó nada</translation>
+        <source>the board did not confirm the first order, so the checks behind it did not run</source>
+        <translation>el equipo no confirmó la primera orden, y las comprobaciones que dependen de ella no se hicieron</translation>
     </message>
     <message>
         <source>its record was not kept</source>
@@ -3210,6 +3210,154 @@
     <message>
         <source>the configuration was read from the logger %1, and the logger that answers is %2</source>
         <translation>la configuración se leyó del registrador %1, y el que responde es %2</translation>
+    </message>
+    <message>
+        <source>id</source>
+        <translation>número</translation>
+    </message>
+    <message>
+        <source>about</source>
+        <translation>acerca de</translation>
+    </message>
+    <message>
+        <source>state</source>
+        <translation>estado</translation>
+    </message>
+    <message>
+        <source>closing</source>
+        <translation>toma pedida</translation>
+    </message>
+    <message>
+        <source>settled</source>
+        <translation>zanjado</translation>
+    </message>
+    <message>
+        <source>began</source>
+        <translation>inicio</translation>
+    </message>
+    <message>
+        <source>milliseconds</source>
+        <translation>milisegundos</translation>
+    </message>
+    <message>
+        <source>user</source>
+        <translation>usuario</translation>
+    </message>
+    <message>
+        <source>machine</source>
+        <translation>ordenador</translation>
+    </message>
+    <message>
+        <source>process</source>
+        <translation>proceso</translation>
+    </message>
+    <message>
+        <source>port</source>
+        <translation>puerto</translation>
+    </message>
+    <message>
+        <source>phone</source>
+        <translation>teléfono</translation>
+    </message>
+    <message>
+        <source>serial</source>
+        <translation>número de serie</translation>
+    </message>
+    <message>
+        <source>content</source>
+        <translation>contenido</translation>
+    </message>
+    <message>
+        <source>former</source>
+        <translation>contenido anterior</translation>
+    </message>
+    <message>
+        <source>copy</source>
+        <translation>copia</translation>
+    </message>
+    <message>
+        <source>steps</source>
+        <translation>pasos</translation>
+    </message>
+    <message>
+        <source>attempts</source>
+        <translation>intentos</translation>
+    </message>
+    <message>
+        <source>fault</source>
+        <translation>fallo</translation>
+    </message>
+    <message>
+        <source>detail</source>
+        <translation>detalle</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Detalles</translation>
+    </message>
+    <message>
+        <source>the configuration was read from the logger %1, and the logger that answers has not told its serial number</source>
+        <translation>la configuración se leyó del registrador %1, y el que responde no ha dicho su número de serie</translation>
+    </message>
+    <message>
+        <source>the file was last used with the logger %1 on %2, and the logger that answers has not told its serial number</source>
+        <translation>el archivo se usó por última vez con el registrador %1 el %2, y el que responde no ha dicho su número de serie</translation>
+    </message>
+    <message>
+        <source>it holds its former configuration</source>
+        <translation>contiene su configuración anterior</translation>
+    </message>
+    <message>
+        <source>it was read on %1</source>
+        <translation>se leyó el %1</translation>
+    </message>
+    <message>
+        <source>Nothing was written: what the logger held before is not kept.</source>
+        <translation>No se escribió nada: no se conserva lo que el registrador contenía antes.</translation>
+    </message>
+    <message>
+        <source>Nothing was written: the pages show another configuration.</source>
+        <translation>No se escribió nada: las páginas muestran otra configuración.</translation>
+    </message>
+    <message>
+        <source>in use by a program of another user</source>
+        <translation>lo usa un programa de otro usuario</translation>
+    </message>
+    <message>
+        <source>What is as in an empty configuration is not listed.</source>
+        <translation>Lo que es como en una configuración vacía no figura.</translation>
+    </message>
+    <message>
+        <source>Read on %1</source>
+        <translation>Leído el %1</translation>
+    </message>
+    <message>
+        <source>the configuration</source>
+        <translation>la configuración</translation>
+    </message>
+    <message>
+        <source>it is what was last written to or read from the logger (entry %1)</source>
+        <translation>es lo último que se escribió en el registrador o se leyó de él (asiento %1)</translation>
+    </message>
+    <message>
+        <source>it is not what was last written to or read from the logger (entry %1)</source>
+        <translation>no es lo último que se escribió en el registrador o se leyó de él (asiento %1)</translation>
+    </message>
+    <message>
+        <source>what the logger holds is not known since the writing of entry %1</source>
+        <translation>no se sabe qué contiene el registrador desde la escritura del asiento %1</translation>
+    </message>
+    <message>
+        <source>the ledger does not know what the logger holds</source>
+        <translation>el libro de registro no sabe qué contiene el registrador</translation>
+    </message>
+    <message>
+        <source>outcome not known</source>
+        <translation>resultado desconocido</translation>
+    </message>
+    <message>
+        <source>cut off before it took effect</source>
+        <translation>cortada antes de tener efecto</translation>
     </message>
     <message>
         <source>the file was last used with the logger %1 on %2, and the logger that answers is %3</source>

@@ -1,3 +1,6 @@
+#include <pwd.h>
+#include <unistd.h>
+
 #include <QProcess>
 #include <QString>
 #include <algorithm>
@@ -31,12 +34,17 @@ std::string NameOf(const std::string& process) {
   return boot + "/" + process + "/" + StartOf(process);
 }
 
+/// Who works here; a service or a plain shell may not tell it in its environment.
+std::string UserName() {
+  const QString told = qEnvironmentVariable("USER", qEnvironmentVariable("LOGNAME"));
+  if (!told.isEmpty()) return told.toStdString();
+  const passwd* const account = ::getpwuid(::getuid());
+  return account ? account->pw_name : std::to_string(::getuid());
+}
+
 }  // namespace
 
-RunningProgram ThisProgram() {
-  return {.user = qEnvironmentVariable("USER", qEnvironmentVariable("LOGNAME")).toStdString(),
-          .nameOf = NameOf};
-}
+RunningProgram ThisProgram() { return {.user = UserName(), .nameOf = NameOf}; }
 
 bool ShowDocument(const std::string& path) {
   return QProcess::startDetached("xdg-open", {QString::fromStdString(path)});

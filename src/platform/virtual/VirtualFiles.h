@@ -46,6 +46,7 @@ class VirtualFiles final : public Files {
   void Heal();
 
   FileResult ReadUpTo(const std::string& path, std::size_t most, std::string& octets) override;
+  FileResult ReadEnd(const std::string& path, std::size_t most, std::string& octets) override;
   bool Exists(const std::string& path) override;
   std::vector<std::string> List(const std::string& folder) override;
   /// There is no present folder here: the path itself.
@@ -57,6 +58,7 @@ class VirtualFiles final : public Files {
   FileResult Create(const std::string& path) override;
   FileResult CopyMode(const std::string& from, const std::string& to) override;
   FileResult Protect(const std::string& path) override;
+  FileResult Preserve(const std::string& path) override;
   FileResult Write(const std::string& path, std::string_view octets) override;
   FileResult Sync(const std::string& path) override;
   FileResult Rename(const std::string& from, const std::string& to) override;

@@ -35,6 +35,14 @@ bool IsFolder(DWORD attributes) {
   return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0;
 }
 
+/// A read-only file is replaced and removed on purpose only, and then its mark is in the way.
+void LetChange(const std::string& path) {
+  const DWORD attributes = AttributesOf(path);
+  if (attributes == INVALID_FILE_ATTRIBUTES || (attributes & FILE_ATTRIBUTE_READONLY) == 0) return;
+  ::SetFileAttributesW(WidePath(path).c_str(),
+                       attributes & ~static_cast<DWORD>(FILE_ATTRIBUTE_READONLY));
+}
+
 bool WriteAll(HANDLE file, std::string_view octets) {
   constexpr std::size_t kBlock = 1U << 20U;
   while (!octets.empty()) {
@@ -131,6 +139,24 @@ FileResult WindowsFiles::ReadUpTo(const std::string& path, std::size_t most, std
   return TooLarge(most);
 }
 
+FileResult WindowsFiles::ReadEnd(const std::string& path, std::size_t most, std::string& octets) {
+  octets.clear();
+  const Handle file = OpenFile(path, GENERIC_READ, OPEN_EXISTING);
+  LARGE_INTEGER size{};
+  if (IsFolder(AttributesOf(path))) return {"it is no regular file"};
+  if (!file) return Outcome(false);
+  if (::GetFileType(file.Get()) != FILE_TYPE_DISK) return {"it is no regular file"};
+  if (!::GetFileSizeEx(file.Get(), &size)) return Outcome(false);
+  LARGE_INTEGER start{};
+  start.QuadPart = std::max<LONGLONG>(size.QuadPart - static_cast<LONGLONG>(most), 0);
+  if (::SetFilePointerEx(file.Get(), start, nullptr, FILE_BEGIN) &&
+      ReadAll(file.Get(), most, octets))
+    return {};
+  const FileResult failed = Outcome(false);
+  octets.clear();
+  return failed;
+}
+
 bool WindowsFiles::Exists(const std::string& path) {
   return AttributesOf(path) != INVALID_FILE_ATTRIBUTES;
 }
@@ -217,6 +243,12 @@ FileResult WindowsFiles::Protect(const std::string& path) {
   return result;
 }
 
+FileResult WindowsFiles::Preserve(const std::string& path) {
+  const FileResult own = Protect(path);
+  if (!own.Ok()) return own;
+  return Outcome(::SetFileAttributesW(WidePath(path).c_str(), FILE_ATTRIBUTE_READONLY) != 0);
+}
+
 FileResult WindowsFiles::Write(const std::string& path, std::string_view octets) {
   Handle file = OpenFile(path, GENERIC_WRITE, TRUNCATE_EXISTING);
   return Outcome(file && WriteAll(file.Get(), octets) && file.Close());
@@ -228,12 +260,9 @@ FileResult WindowsFiles::Sync(const std::string& path) {
 }
 
 FileResult WindowsFiles::Rename(const std::string& from, const std::string& to) {
-  // A read-only file is replaced on purpose only, and then its mark is in the way.
   const std::wstring target = WidePath(to);
-  const DWORD attributes = AttributesOf(to);
-  if (IsFolder(attributes)) return {"what stands there is no file to replace"};
-  if (attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY) != 0)
-    ::SetFileAttributesW(target.c_str(), attributes & ~static_cast<DWORD>(FILE_ATTRIBUTE_READONLY));
+  if (IsFolder(AttributesOf(to))) return {"what stands there is no file to replace"};
+  LetChange(to);
   return Outcome(::MoveFileExW(WidePath(from).c_str(), target.c_str(),
                                MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH) != 0);
 }
@@ -246,6 +275,7 @@ FileResult WindowsFiles::MoveToNew(const std::string& from, const std::string& t
 }
 
 FileResult WindowsFiles::Remove(const std::string& path) {
+  LetChange(path);
   return Outcome(::DeleteFileW(WidePath(path).c_str()) != 0);
 }
 

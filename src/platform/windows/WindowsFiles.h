@@ -14,6 +14,7 @@ namespace ostrel {
 class WindowsFiles final : public Files {
  public:
   FileResult ReadUpTo(const std::string& path, std::size_t most, std::string& octets) override;
+  FileResult ReadEnd(const std::string& path, std::size_t most, std::string& octets) override;
   bool Exists(const std::string& path) override;
   std::vector<std::string> List(const std::string& folder) override;
   std::string Absolute(const std::string& path) override;
@@ -24,6 +25,7 @@ class WindowsFiles final : public Files {
   FileResult Create(const std::string& path) override;
   FileResult CopyMode(const std::string& from, const std::string& to) override;
   FileResult Protect(const std::string& path) override;
+  FileResult Preserve(const std::string& path) override;
   FileResult Write(const std::string& path, std::string_view octets) override;
   FileResult Sync(const std::string& path) override;
   /// Is on the disk when this returns.

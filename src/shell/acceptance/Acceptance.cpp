@@ -6,9 +6,9 @@
 #include <utility>
 
 #include "blocks/Configuration.h"
-#include "shell/ChannelOverview.h"
-#include "shell/Navigation.h"
-#include "shell/NavigationTree.h"
+#include "shell/navigation/ChannelOverview.h"
+#include "shell/navigation/Navigation.h"
+#include "shell/navigation/NavigationTree.h"
 
 namespace ostrel {
 namespace {
@@ -85,8 +85,7 @@ std::vector<AcceptancePoint> WithNotes(std::vector<AcceptancePoint> inputs,
   for (const AcceptancePoint& note : noted) {
     if (!note.IsTouched()) continue;
     const auto input = std::ranges::find_if(inputs, [&](const AcceptancePoint& each) {
-      return each.node == note.node && each.kind == note.kind && each.name == note.name &&
-             !each.IsTouched();
+      return each.node == note.node && each.kind == note.kind && each.name == note.name;
     });
     if (input == inputs.end())
       inputs.push_back(note);

@@ -28,6 +28,7 @@ constexpr std::pair<DoctorWord, const char*> kWords[] = {
     {NotPermittedGroup, "it may be opened by members of the group %1 alone"},
     {NobodyElse, "nobody else is known to have it open"},
     {InUseBy, "in use by %1"},
+    {InUseByOther, "in use by a program of another user"},
     {Opened, "opened at 9600 bit/s"},
     {NotOpened, "it cannot be opened as a serial port"},
     {NoLines, "the device has none"},

@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "shell/Phrase.h"
+#include "shell/words/Phrase.h"
 
 namespace ostrel {
 
@@ -29,6 +29,7 @@ enum class DoctorWord {
   NotPermittedGroup,
   NobodyElse,
   InUseBy,
+  InUseByOther,
   Opened,
   NotOpened,
   NoLines,

@@ -9,8 +9,8 @@
 #include "link/Frame.h"
 #include "link/LinkTimes.h"
 #include "link/Modem.h"
-#include "link/Opening.h"
-#include "shell/FaultWords.h"
+#include "link/dialogues/Opening.h"
+#include "shell/session/FaultWords.h"
 
 namespace ostrel {
 namespace {
@@ -152,7 +152,7 @@ bool LinkDoctor::OpenPort() {
       return Fail(Spoken(PortOpening), Spoken(DeviceMissing, {PortName(question_.port)}),
                   Spoken(PlugIn));
     case PortFault::Busy:
-      return Fail(Spoken(PortOpening), Spoken(InUseBy, {"?"}), Spoken(CloseProgram));
+      return Fail(Spoken(PortOpening), Spoken(InUseByOther), Spoken(CloseProgram));
     case PortFault::NoPermission:
       return Fail(Spoken(PortOpening), Spoken(NotPermitted), Spoken(AskAdministrator));
     case PortFault::Failed:
@@ -244,8 +244,7 @@ void LinkDoctor::Call() {
     Add(Health::Good, Spoken(DoctorWord::Call), Spoken(CallStands));
     const Line::Dialogue dialogue(line_);
     HangUp(line_);
-    diagnosis_.isWell = true;
-    return Advise(DialBySession);
+    return Conclude(DialBySession);
   }
   const FaultWords words = WordsOf({.during = SessionPhase::Opening, .link = fault, .code = given},
                                    PortName(question_.port));
@@ -274,9 +273,22 @@ void LinkDoctor::CountDamage() {
          Spoken(CheckEarthing));
   } else {
     Add(Health::Good, Spoken(Damage), Spoken(NoDamage, {std::to_string(lines)}));
-    diagnosis_.isWell = true;
-    Advise(AllWell);
+    Conclude(AllWell);
   }
+}
+
+/// All is well where nothing bad was found. One greeting that is missed is nothing: a logger
+/// sleeps.
+void LinkDoctor::Conclude(DoctorWord well) {
+  std::size_t missed = 0;
+  for (const Symptom& symptom : diagnosis_.symptoms) {
+    if (symptom.health != Health::Bad) continue;
+    if (symptom.what == Spoken(CableLines)) return Advise(CheckLines);
+    if (symptom.what == Spoken(Listening)) return Advise(CheckEarthing);
+    if (++missed > 1) return Advise(CheckEarthing);
+  }
+  diagnosis_.isWell = true;
+  Advise(well);
 }
 
 }  // namespace ostrel

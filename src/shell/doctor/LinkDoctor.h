@@ -9,8 +9,8 @@
 #include "platform/Platform.h"
 #include "platform/PortFacts.h"
 #include "platform/TappedPort.h"
-#include "shell/Phrase.h"
 #include "shell/doctor/DoctorWords.h"
+#include "shell/words/Phrase.h"
 
 namespace ostrel {
 
@@ -86,6 +86,8 @@ class LinkDoctor {
   void TryModem();
   void Call();
   void CountDamage();
+  /// Advises what to do behind a logger that answers well.
+  void Conclude(DoctorWord well);
   void Add(Health health, Phrase what, Phrase found);
   /// Adds what is wrong with an advice; false, so that a step can end with it.
   bool Fail(Phrase what, Phrase found, Phrase advice);

@@ -2,6 +2,7 @@
 
 #include <charconv>
 
+#include "base/Sha256.h"
 #include "shell/Configurator.h"
 
 namespace ostrel {
@@ -37,10 +38,10 @@ std::optional<ModelConfiguration> ContentOfHistory(const Configurator& configura
 }
 
 FileResult ExportEntry(Ledger& books, const LedgerEntry& entry, Files& files,
-                       const std::string& path) {
+                       const std::string& path, Replacing replacing) {
   const auto octets = entry.content.empty() ? std::nullopt : books.Content(entry.content);
   if (!octets) return {"the entry has no configuration"};
-  FileResult saved = SaveWhole(files, path, *octets, Replacing::Unprotected, Readers::OwnerAlone);
+  FileResult saved = SaveWhole(files, path, *octets, replacing, Readers::OwnerAlone);
   if (!saved.Ok()) return saved;
   LedgerEntry kept = entry;
   kept.id = kept.session = kept.about = 0;
@@ -55,6 +56,17 @@ FileResult ExportEntry(Ledger& books, const LedgerEntry& entry, Files& files,
   kept.detail = "of entry " + std::to_string(entry.id);
   books.Add(kept);
   return saved;
+}
+
+FileResult KeepExported(Ledger& books, const LedgerEntry& entry, Files& files,
+                        const std::string& path) {
+  const auto stands = files.Read(path);
+  const auto last = books.Find({.file = files.Absolute(path), .most = 1});
+  if (stands && Sha256(*stands) == entry.content && !last.empty() &&
+      last.front().content == entry.content)
+    return {};
+  const FileResult saved = ExportEntry(books, entry, files, path, Replacing::Any);
+  return saved.Ok() ? files.Preserve(path) : saved;
 }
 
 }  // namespace ostrel

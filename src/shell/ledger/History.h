@@ -7,8 +7,8 @@
 
 #include "platform/Files.h"
 #include "platform/Ledger.h"
-#include "shell/ConfigurationFile.h"
-#include "shell/Phrase.h"
+#include "shell/files/ConfigurationFile.h"
+#include "shell/words/Phrase.h"
 
 namespace ostrel {
 
@@ -36,6 +36,11 @@ std::optional<ModelConfiguration> ContentOfHistory(const Configurator& configura
 
 /// Saves the configuration of an entry to a file, which from then on has the history of the entry.
 FileResult ExportEntry(Ledger& books, const LedgerEntry& entry, Files& files,
-                       const std::string& path);
+                       const std::string& path, Replacing replacing = Replacing::Unprotected);
+
+/// Has the configuration of an entry stand at a path of the program's own, and stay as it is. What
+/// stands there already is replaced unless it is just that, and has its history.
+FileResult KeepExported(Ledger& books, const LedgerEntry& entry, Files& files,
+                        const std::string& path);
 
 }  // namespace ostrel

@@ -1,28 +1,59 @@
 #include "shell/ledger/IdentityGuard.h"
 
 #include <algorithm>
-#include <set>
+#include <utility>
 
 #include "base/Sha256.h"
-#include "shell/Against.h"
 #include "shell/Configurator.h"
+#include "shell/compare/Against.h"
 #include "shell/ledger/History.h"
 
 namespace ostrel {
 namespace {
 
-/// Contents of a file that are looked into, the newest; all that is older counts by its hash alone.
+/// Contents of a file that are looked into, the newest; what is older counts by its hash alone.
 constexpr std::size_t kLookedInto = 8;
 
-/// The entries of a file that tell what it was used for, the newest first.
-std::vector<LedgerEntry> UsesOf(Ledger& books, const std::string& file) {
-  std::vector<LedgerEntry> uses = books.Find({.file = file});
-  std::erase_if(uses, [](const LedgerEntry& entry) {
-    return entry.state != LedgerState::Done || entry.content.empty();
-  });
-  if (const std::int64_t id = HistoryEntry(file))
-    if (auto entry = FindEntry(books, id)) uses.push_back(std::move(*entry));
+/// How many copies of copies of a file are followed.
+constexpr int kCopiesFollowed = 16;
+
+/// Whether an entry tells of a content that its file has had. A writing counts however it ended.
+bool TellsContent(const LedgerEntry& entry) {
+  return !entry.content.empty() &&
+         (entry.state == LedgerState::Done || entry.kind == LedgerKind::Writing);
+}
+
+/// The entries of a file that tell what it was used for, the newest first, and behind its saving
+/// under another name those of the file that it is a copy of.
+std::vector<LedgerEntry> UsesOf(Ledger& books, std::string file) {
+  std::vector<LedgerEntry> uses;
+  std::int64_t copied = 0;
+  for (int copies = 0; copies < kCopiesFollowed && !file.empty(); ++copies) {
+    const std::int64_t last = std::exchange(copied, 0);
+    if (const std::int64_t id = HistoryEntry(file))
+      if (auto entry = FindEntry(books, id)) uses.push_back(std::move(*entry));
+    for (LedgerEntry& entry : books.Find({.file = std::exchange(file, {})})) {
+      if (last != 0 && entry.id > last) continue;
+      if (!TellsContent(entry)) continue;
+      uses.push_back(std::move(entry));
+      copied = uses.back().kind == LedgerKind::Saving ? uses.back().about : 0;
+      const auto from = FindEntry(books, copied);
+      if (!from) continue;
+      file = from->file;
+      break;
+    }
+  }
   return uses;
+}
+
+std::vector<LedgerEntry> UsesOf(const LedgerKeeper& keeper) {
+  if (!keeper.Books() || keeper.File().empty()) return {};
+  return UsesOf(*keeper.Books(), keeper.File());
+}
+
+/// The newest use with a logger.
+auto LastWith(const std::vector<LedgerEntry>& uses, const std::string& serial) {
+  return serial.empty() ? uses.end() : std::ranges::find(uses, serial, &LedgerEntry::serial);
 }
 
 std::string MaskText(std::int64_t features) {
@@ -37,50 +68,73 @@ std::string MaskText(std::int64_t features) {
 
 std::vector<Phrase> DoubtsOfIdentity(const Configurator& configurator) {
   const LedgerKeeper& keeper = configurator.ledger;
-  const DeviceInfo& info = configurator.info;
-  if (!keeper.Books() || info.SerialNumber.empty()) return {};
+  const std::string& serial = configurator.info.SerialNumber;
+  if (!keeper.Books()) return {};
   if (keeper.File().empty()) {
-    if (keeper.Origin().empty() || keeper.Origin() == info.SerialNumber) return {};
+    if (keeper.Origin().empty() || keeper.Origin() == serial) return {};
+    if (serial.empty())
+      return {
+          {"the configuration was read from the logger %1, and the logger that answers has not "
+           "told its serial number",
+           {keeper.Origin()}}};
     return {{"the configuration was read from the logger %1, and the logger that answers is %2",
-             {keeper.Origin(), info.SerialNumber}}};
+             {keeper.Origin(), serial}}};
   }
-  const std::vector<LedgerEntry> uses = UsesOf(*keeper.Books(), keeper.File());
-  const auto last =
-      std::ranges::find_if(uses, [](const LedgerEntry& entry) { return !entry.serial.empty(); });
+  const std::vector<LedgerEntry> uses = UsesOf(keeper);
+  const auto isUse = [](const LedgerEntry& entry) {
+    return !entry.serial.empty() && (entry.state == LedgerState::Done || entry.closing);
+  };
+  const auto last = std::ranges::find_if(uses, isUse);
   if (last == uses.end()) return {};
   std::vector<Phrase> doubts;
-  if (last->serial != info.SerialNumber)
+  if (serial.empty())
+    doubts.push_back(
+        {"the file was last used with the logger %1 on %2, and the logger that answers has not "
+         "told its serial number",
+         {last->serial, last->began}});
+  else if (last->serial != serial)
     doubts.push_back(
         {"the file was last used with the logger %1 on %2, and the logger that answers "
          "is %3",
-         {last->serial, last->began, info.SerialNumber}});
-  const auto features = static_cast<std::uint32_t>(info.Features);
-  if (last->features != LedgerEntry::kUnknown && last->features != features)
+         {last->serial, last->began, serial}});
+  const auto features = static_cast<std::uint32_t>(configurator.info.Features);
+  const auto told = std::ranges::find_if(uses, [&](const LedgerEntry& entry) {
+    return isUse(entry) && entry.features != LedgerEntry::kUnknown;
+  });
+  if (told != uses.end() && told->features != features)
     doubts.push_back(
         {"the file was last used with a firmware of the features %1, and the logger "
          "that answers has %2",
-         {MaskText(last->features), MaskText(features)}});
+         {MaskText(told->features), MaskText(features)}});
   return doubts;
 }
 
+bool HaveMet(const Configurator& configurator) {
+  const std::vector<LedgerEntry> uses = UsesOf(configurator.ledger);
+  return LastWith(uses, configurator.info.SerialNumber) != uses.end();
+}
+
 std::optional<Phrase> DoubtOfHeld(const Configurator& configurator, const DeviceConf& held) {
-  const LedgerKeeper& keeper = configurator.ledger;
-  if (!keeper.Books() || keeper.File().empty()) return {};
-  const std::vector<LedgerEntry> uses = UsesOf(*keeper.Books(), keeper.File());
-  const auto last = std::ranges::find(uses, configurator.info.SerialNumber, &LedgerEntry::serial);
-  if (last == uses.end()) return {};  // the file and this logger have not met
+  const std::vector<LedgerEntry> uses = UsesOf(configurator.ledger);
+  const auto last = LastWith(uses, configurator.info.SerialNumber);
+  if (last == uses.end()) return {};
+  // What it held when a writing was interrupted is not known where nothing was read ahead of it.
+  if (last->kind == LedgerKind::Writing && last->state != LedgerState::Done && last->former.empty())
+    return {};
+  std::vector<std::string> known;
+  for (const LedgerEntry& use : uses)
+    for (const std::string& hash : {use.content, use.former})
+      if (!hash.empty() && std::ranges::find(known, hash) == known.end()) known.push_back(hash);
   const std::string hash =
       Sha256(ContentOf(configurator.context.platform.files, held, configurator.profile));
-  if (std::ranges::find(uses, hash, &LedgerEntry::content) != uses.end()) return {};
+  if (std::ranges::find(known, hash) != known.end()) return {};
   // A logger may tell the same thing in another form than it was sent.
   std::optional<Comparison> changes;
-  std::set<std::string> seen;
-  for (const LedgerEntry& use : uses) {
-    if (seen.size() == kLookedInto) break;
-    if (!seen.insert(use.content).second) continue;
-    const auto known = ContentOfHistory(configurator, use.content);
-    if (!known) continue;
-    Comparison comparison = Against(configurator, known->conf, held).WhatCameBack();
+  known.resize(std::min(known.size(), kLookedInto));
+  for (const std::string& one : known) {
+    const auto content = ContentOfHistory(configurator, one);
+    if (!content) continue;
+    Comparison comparison = Against(configurator, content->conf, held).WhatCameBack();
     if (comparison.isSame) return {};
     if (!changes) changes = std::move(comparison);
   }

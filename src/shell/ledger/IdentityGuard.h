@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "model/DeviceConf.h"
-#include "shell/Phrase.h"
+#include "shell/words/Phrase.h"
 
 namespace ostrel {
 
@@ -16,6 +16,9 @@ class Configurator;
 /// What speaks against it before anything has been asked of the logger: the file, or what stands on
 /// the pages, was last used with another logger, or with a firmware of other features.
 std::vector<Phrase> DoubtsOfIdentity(const Configurator& configurator);
+
+/// Whether the file was used with the logger that answers, so that what it holds can be judged.
+bool HaveMet(const Configurator& configurator);
 
 /// What speaks against it once the logger was read: it holds what the file never held nor was
 /// written, so that somebody else has changed it since.

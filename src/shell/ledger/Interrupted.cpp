@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "shell/Against.h"
 #include "shell/Configurator.h"
+#include "shell/compare/Against.h"
 #include "shell/ledger/History.h"
 
 namespace ostrel {
@@ -18,19 +18,42 @@ bool LeavesDoubt(LedgerKind kind) {
          kind == LedgerKind::Firmware;
 }
 
-/// Whether an entry tells what a logger holds after work of a kind.
-bool Tells(const LedgerEntry& entry, LedgerKind kind) {
+/// Whether an entry of the same logger ends the doubt that work has left: it was done once more, or
+/// what it was to bring was found there.
+bool Ends(const LedgerEntry& entry, const LedgerEntry& work) {
+  if (entry.serial != work.serial) return false;
+  // Who tells its version has not erased it: the order was never heard.
+  if (work.kind == LedgerKind::Firmware && !work.closing && entry.kind == LedgerKind::Session)
+    return !entry.firmware.empty();
   if (entry.state != LedgerState::Done) return false;
-  if (entry.kind == kind) return true;
-  return kind == LedgerKind::Writing        ? entry.kind == LedgerKind::Reading
-         : kind == LedgerKind::VoiceWriting ? entry.kind == LedgerKind::VoiceReading
-                                            : false;
+  if (entry.kind == work.kind) return true;
+  if (work.kind == LedgerKind::Writing)
+    return entry.kind == LedgerKind::Reading && !entry.content.empty() &&
+           entry.content == work.content;
+  return work.kind == LedgerKind::VoiceWriting && entry.kind == LedgerKind::VoiceReading;
+}
+
+/// Whether work was begun so far that the logger is left in doubt when it fails: a list is erased
+/// first of all.
+bool HasHarmed(const LedgerEntry& work) {
+  return work.closing || (work.kind == LedgerKind::VoiceWriting && work.attempts > 0);
 }
 
 /// Whether a program was ended in the midst of what an entry tells of.
 bool IsCutOff(const Ledger& books, const LedgerEntry& entry) { return books.IsCutOff(entry); }
 
-Holding HoldingOf(const LedgerEntry& entry) {
+/// The reading of that logger among later entries, the newest first, that found what it held
+/// before.
+std::string WhenFoundFormer(const LedgerEntry& work, const std::vector<LedgerEntry>& later) {
+  for (const LedgerEntry& entry : later)
+    if (entry.kind == LedgerKind::Reading && entry.state == LedgerState::Done &&
+        entry.serial == work.serial)
+      return !work.former.empty() && entry.content == work.former ? entry.began : std::string();
+  return {};
+}
+
+Holding HoldingOf(const LedgerEntry& entry, const std::string& foundFormer) {
+  if (!foundFormer.empty()) return Holding::Former;
   if (entry.state == LedgerState::Done) return Holding::New;
   if (entry.kind != LedgerKind::Writing || entry.closing) return Holding::Unknown;
   return Holding::Former;
@@ -54,18 +77,19 @@ std::vector<Interrupted> FindInterrupted(Ledger& books) {
   std::vector<Interrupted> open;
   std::vector<LedgerEntry> later;  // of which the newest come first
   for (const LedgerEntry& entry : books.Find({.most = kLookedThrough})) {
-    // A reading back counts for the writing that it is about.
-    const bool isReadBack = entry.kind == LedgerKind::Reading && entry.about != 0;
-    const auto work =
-        isReadBack && IsCutOff(books, entry) ? FindEntry(books, entry.about) : std::optional(entry);
-    const bool isOpen =
-        work && LeavesDoubt(work->kind) && !work->settled &&
-        (IsCutOff(books, entry) || (work->state == LedgerState::Failed && work->closing));
-    const auto tells = [&](const LedgerEntry& one) {
-      return one.serial == work->serial && Tells(one, work->kind);
-    };
-    if (isOpen && std::ranges::none_of(later, tells))
-      open.push_back({.entry = *work, .holding = HoldingOf(*work)});
+    // A reading back that failed, too, counts for the writing that it is about.
+    const bool isReadBack = entry.kind == LedgerKind::Reading && entry.about != 0 &&
+                            (entry.state == LedgerState::Failed || IsCutOff(books, entry));
+    const auto work = isReadBack ? FindEntry(books, entry.about) : std::optional(entry);
+    const bool isOpen = work && LeavesDoubt(work->kind) && !work->settled &&
+                        (isReadBack || IsCutOff(books, entry) ||
+                         (work->state == LedgerState::Failed && HasHarmed(*work)));
+    const auto ends = [&](const LedgerEntry& one) { return Ends(one, *work); };
+    if (isOpen && std::ranges::none_of(later, ends)) {
+      std::string foundFormer = WhenFoundFormer(*work, later);
+      const Holding holding = HoldingOf(*work, foundFormer);
+      open.push_back({.entry = *work, .holding = holding, .foundFormer = std::move(foundFormer)});
+    }
     later.push_back(entry);
   }
   std::ranges::reverse(open);
@@ -81,6 +105,9 @@ InterruptedWords WordsOf(const Interrupted& interrupted) {
   } else if (entry.kind == LedgerKind::Firmware) {
     words.holding = {"whether it holds a whole firmware is not known"};
     words.why = {"a firmware is written over the former one"};
+  } else if (!interrupted.foundFormer.empty()) {
+    words.holding = {"it holds its former configuration"};
+    words.why = {"it was read on %1", {interrupted.foundFormer}};
   } else if (interrupted.holding == Holding::Former) {
     words.holding = {"it most probably holds its former configuration"};
     words.why = {"it had not been asked to take the new one over"};

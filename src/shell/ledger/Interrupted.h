@@ -5,7 +5,7 @@
 
 #include "model/DeviceConf.h"
 #include "platform/Ledger.h"
-#include "shell/Phrase.h"
+#include "shell/words/Phrase.h"
 
 namespace ostrel {
 
@@ -19,9 +19,12 @@ enum class Holding { Former, New, Unknown };
 struct Interrupted {
   LedgerEntry entry;  ///< of the writing, also where it was its reading back that was interrupted
   Holding holding = Holding::Unknown;
+  std::string foundFormer{};  ///< when it was last read since, and held its former configuration
 
+  /// Whether reading the logger's configuration tells anything about it.
+  bool CanLook() const { return entry.kind == LedgerKind::Writing && !entry.content.empty(); }
   /// Whether what was to be written is kept, so that it can be written again.
-  bool CanFinish() const { return !entry.content.empty(); }
+  bool CanFinish() const { return CanLook(); }
   /// Whether what the logger held before is kept.
   bool CanPutBack() const { return !entry.former.empty(); }
 };
@@ -33,8 +36,8 @@ struct InterruptedWords {
   Phrase why{};      ///< how that is known
 };
 
-/// All interruptions that are open, the oldest first. One is closed by a later reading or writing
-/// of the same logger that succeeded, and by `Settle`.
+/// All interruptions that are open, the oldest first. One is closed by a later writing of the same
+/// logger that succeeded, by a reading that found what was to be written, and by `Settle`.
 std::vector<Interrupted> FindInterrupted(Ledger& books);
 
 InterruptedWords WordsOf(const Interrupted& interrupted);

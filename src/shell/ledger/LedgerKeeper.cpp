@@ -6,12 +6,15 @@
 #include "platform/Clock.h"
 #include "platform/EventLoop.h"
 #include "platform/Files.h"
-#include "shell/Comparison.h"
-#include "shell/ConfigurationFile.h"
-#include "shell/FaultWords.h"
+#include "shell/compare/Comparison.h"
+#include "shell/files/ConfigurationFile.h"
+#include "shell/session/FaultWords.h"
 
 namespace ostrel {
 namespace {
+
+/// Contents that wait for a ledger which cannot keep them.
+constexpr std::size_t kMostLate = 16;
 
 /// The phase of a session that a deed belongs to, as far as the words for its faults go.
 SessionPhase PhaseOf(LedgerKind kind) {
@@ -43,18 +46,39 @@ LedgerEntry LedgerKeeper::Made(LedgerKind kind) const {
 }
 
 void LedgerKeeper::Keep(LedgerEntry& entry) {
-  Ledger* const books = Books();
-  if (!books) return;
-  if (entry.id != 0 && books->Change(entry)) return;
-  if (entry.id == 0) entry.id = books->Add(entry);
-  const std::string why = books->Fault();
-  if (why.empty() || std::exchange(told_, true)) return;
-  if (OnFault) OnFault(why);
+  if (!Books()) return;
+  KeepLate();
+  bool isKept = false;
+  if (entry.id == 0) {
+    entry.id = Books()->Add(entry);
+    isKept = entry.id != 0;
+  } else {
+    late_.erase(entry.id);
+    isKept = Books()->Change(entry);
+    if (!isKept) late_[entry.id] = entry;
+  }
+  if (!isKept) Tell(Books()->Fault());
+}
+
+void LedgerKeeper::KeepLate() {
+  while (!lateContents_.empty()) {
+    const auto& [hash, octets] = *lateContents_.begin();
+    if (!Books()->KeepContent(hash, octets)) return;
+    lateContents_.erase(lateContents_.begin());
+  }
+  while (!late_.empty() && Books()->Change(late_.begin()->second)) late_.erase(late_.begin());
+}
+
+void LedgerKeeper::Tell(const std::string& why) {
+  if (!std::exchange(told_, true) && OnFault) OnFault(why);
 }
 
 std::string LedgerKeeper::KeepContent(const std::string& octets) {
   std::string hash = Sha256(octets);
-  if (!Books()->KeepContent(hash, octets)) return {};
+  if (!Books()->KeepContent(hash, octets)) {
+    if (lateContents_.size() < kMostLate) lateContents_[hash] = octets;
+    Tell(Books()->Fault());
+  }
   return hash;
 }
 
@@ -83,14 +107,16 @@ void LedgerKeeper::DeedBegins(const LinkDeed& deed) {
   deed_.detail = deed.detail;
   if (deed.kind == LedgerKind::Writing) {
     written_ = 0;
-    deed_.file = file_;
+    deed_.file = source_.file;
     deed_.former = held_;
     deed_.copy = copy_;
     return;  // it is kept as soon as it is known what is sent
   }
+  if (!deed.file.empty()) deed_.file = subject_.platform.files.Absolute(deed.file);
+  if (!deed.text.empty() && Books()) deed_.content = KeepContent(deed.text);
   if (deed.kind == LedgerKind::Reading && guarded_ && written_ != 0) {
     deed_.about = written_;
-    deed_.file = file_;
+    deed_.file = source_.file;
   }
   Keep(deed_);
   if (deed.kind == LedgerKind::Session) session_ = deed_;
@@ -105,13 +131,11 @@ void LedgerKeeper::Composed() {
 }
 
 void LedgerKeeper::Follow(const Progress& progress) {
-  if (progress.stage == Progress::Stage::Closing) {
-    deed_.closing = true;
-    Keep(deed_);
-  }
-  if (progress.stage != Progress::Stage::Step) return;
-  if (deed_.attempts == 0 || progress.step < deed_.steps) ++deed_.attempts;
-  deed_.steps = progress.step;
+  if (progress.stage == Progress::Stage::Attempt) ++deed_.attempts;
+  if (progress.stage == Progress::Stage::Step) deed_.steps = progress.step;
+  if (progress.stage != Progress::Stage::Closing) return;
+  deed_.closing = true;
+  Keep(deed_);
 }
 
 void LedgerKeeper::DeedEnds(const LinkDeed& deed, const LinkFault& fault) {
@@ -133,10 +157,8 @@ void LedgerKeeper::EndReading(bool done) {
   if (done) {
     deed_.content = held_ = KeepConfiguration();
     copy_.clear();
-    if (!guarded_) {
-      file_.clear();
-      origin_ = deed_.serial;
-    }
+    source_.file.clear();
+    ComesFromLogger();
   }
   Keep(deed_);
   if (done) reading_ = deed_;
@@ -146,15 +168,26 @@ void LedgerKeeper::EndWriting(bool done) {
   Keep(deed_);
   if (done) {
     held_ = deed_.content;
-    origin_ = deed_.serial;
     written_ = deed_.id;
+    ComesFromLogger();
   } else if (deed_.closing) {
     held_.clear();
   }
 }
 
-void LedgerKeeper::SessionEnds() {
-  Close(session_, true, sessionBegan_);
+void LedgerKeeper::ComesFromLogger() {
+  source_.serial = deed_.serial;
+  source_.firmware = deed_.firmware;
+  source_.features = deed_.features;
+  source_.session = deed_.session;
+  source_.held = held_;
+}
+
+void LedgerKeeper::SessionEnds(const LinkFault& fault) {
+  if (!fault.Ok())
+    session_.fault =
+        Filled(WordsOf({.during = SessionPhase::Open, .link = fault}, session_.port).what);
+  Close(session_, fault.Ok(), sessionBegan_);
   Keep(session_);
   session_ = {};
 }
@@ -166,25 +199,32 @@ void LedgerKeeper::InfoChanged(std::string_view key) {
   if (key == "FEATURES") told.features = static_cast<std::uint32_t>(subject_.info.Features);
   if (told == session_) return;
   session_ = std::move(told);
+  if (source_.session != 0 && source_.session == session_.id) {
+    source_.serial = session_.serial;
+    source_.firmware = session_.firmware;
+    source_.features = session_.features;
+  }
   if (session_.id != 0) Keep(session_);
 }
 
 void LedgerKeeper::TakeFile(const std::string& path) {
-  file_ = subject_.platform.files.Absolute(path);
-  origin_.clear();
+  source_ = {.file = subject_.platform.files.Absolute(path)};
 }
 
 void LedgerKeeper::Saved(const std::string& path, const std::string& octets) {
-  const std::string before = std::exchange(file_, subject_.platform.files.Absolute(path));
+  const std::string before = std::exchange(source_.file, subject_.platform.files.Absolute(path));
   if (!Books()) return;
   LedgerEntry entry = Made(LedgerKind::Saving);
-  entry.file = file_;
-  entry.serial = origin_;
-  if (entry.serial != session_.serial) {
-    entry.firmware.clear();
-    entry.features = LedgerEntry::kUnknown;
+  entry.file = source_.file;
+  entry.serial = source_.serial;
+  entry.firmware = source_.firmware;
+  entry.features = source_.features;
+  entry.former = source_.held;
+  if (!before.empty() && before != source_.file) {
+    entry.detail = "from " + before;
+    const auto last = Books()->Find({.file = before, .most = 1});
+    if (!last.empty()) entry.about = last.front().id;
   }
-  if (entry.serial.empty() && !before.empty()) entry.detail = "from " + before;
   entry.state = LedgerState::Done;
   entry.content = KeepContent(octets);
   Keep(entry);
@@ -205,8 +245,8 @@ Lent<bool> LedgerKeeper::WithGuards() {
 void LedgerKeeper::Verified(const Comparison& comparison) {
   LedgerEntry entry = Made(LedgerKind::Verification);
   entry.about = written_;
-  entry.file = file_;
-  entry.content = held_;
+  entry.file = source_.file;
+  entry.content = source_.held = held_;
   entry.state = comparison.isSame ? LedgerState::Done : LedgerState::Failed;
   if (!comparison.isSame)
     entry.fault = std::to_string(comparison.differences.size()) + " field(s) differ";

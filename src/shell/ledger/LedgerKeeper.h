@@ -1,8 +1,11 @@
 #pragma once
 
 #include <functional>
+#include <map>
 #include <string>
 #include <string_view>
+#include <utility>
+#include <vector>
 
 #include "base/Scope.h"
 #include "link/LinkDeed.h"
@@ -25,6 +28,16 @@ struct LedgerWork {
   TimePoint began;
 };
 
+/// Where the configuration on the pages comes from, as far as the ledger goes.
+struct LedgerSource {
+  std::string file{};      ///< opened or saved to; empty where a logger was read since
+  std::string serial{};    ///< of the logger that was last read or written; empty for a file's
+  std::string firmware{};  ///< of that logger
+  std::int64_t features = LedgerEntry::kUnknown;
+  std::string held{};        ///< hash of what that logger held when it was read or written
+  std::int64_t session = 0;  ///< entry of the session with that logger
+};
+
 /// Keeps book of what one configurator does with loggers, as the link tells it: each session, and
 /// each deed in it ahead of its first octet. Without a ledger, or with one that fails, it keeps
 /// nothing and the work goes on; that is told once.
@@ -43,7 +56,7 @@ class LedgerKeeper {
   // What the link tells.
   void DeedBegins(const LinkDeed& deed);
   void DeedEnds(const LinkDeed& deed, const LinkFault& fault);
-  void SessionEnds();
+  void SessionEnds(const LinkFault& fault);
   /// An attempt of an upload has taken its state from the model.
   void Composed();
   void Follow(const Progress& progress);
@@ -59,8 +72,7 @@ class LedgerKeeper {
   void NoteCopy(const std::string& path);
   /// What was read back last was compared with what was written.
   void Verified(const Comparison& comparison);
-  /// A writing with its guards runs as long as what is given lives: readings in it do not replace
-  /// the configuration.
+  /// A writing with its guards runs as long as what is given lives.
   [[nodiscard]] Lent<bool> WithGuards();
 
   /// Keeps that work begins, ahead of its first octet: a firmware update or a test run.
@@ -70,10 +82,13 @@ class LedgerKeeper {
 
   /// The file that the configuration comes from or was saved to; empty where a logger was read
   /// since.
-  const std::string& File() const { return file_; }
+  const std::string& File() const { return source_.file; }
   /// Serial number of the logger that the configuration was last read from; empty where it comes
   /// from a file, or is not known.
-  const std::string& Origin() const { return origin_; }
+  const std::string& Origin() const { return source_.serial; }
+  const LedgerSource& Source() const { return source_; }
+  /// For those who have put back what stood on the pages before.
+  void SetSource(LedgerSource source) { source_ = std::move(source); }
   /// Where it keeps; null without a ledger.
   Ledger* Books() const { return subject_.platform.ledger; }
 
@@ -83,23 +98,29 @@ class LedgerKeeper {
  private:
   LedgerEntry Made(LedgerKind kind) const;
   void Keep(LedgerEntry& entry);
+  /// Keeps what could not be kept when it was due.
+  void KeepLate();
+  void Tell(const std::string& why);
   /// Keeps the octets of a configuration. Gives their hash.
   std::string KeepContent(const std::string& octets);
   std::string KeepConfiguration();
   void EndReading(bool done);
   void EndWriting(bool done);
   void Close(LedgerEntry& entry, bool done, TimePoint began);
+  void ComesFromLogger();
 
   Subject subject_;
   LedgerEntry session_;  ///< the session that stands, with what its logger has told of itself
   LedgerEntry deed_;     ///< what the link does, or has done last
   LedgerEntry reading_;  ///< the last reading that succeeded
   TimePoint sessionBegan_{}, deedBegan_{};
-  std::string file_, origin_;
+  LedgerSource source_;
   std::string held_;  ///< hash of what the logger is known to hold; empty where it is not
   std::string copy_;  ///< safety copy of that
   std::int64_t written_ =
       0;  ///< entry of the writing that is to be read back; 0 while there is none
+  std::map<std::int64_t, LedgerEntry> late_;         ///< by their numbers
+  std::map<std::string, std::string> lateContents_;  ///< by their hashes
   bool guarded_ = false;
   bool told_ = false;
 };

@@ -7,13 +7,14 @@
 #include "model/DeviceInfo.h"
 #include "model/LiveRound.h"
 #include "platform/DateTime.h"
-#include "shell/ConfigurationFile.h"
-#include "shell/Phrase.h"
 #include "shell/acceptance/Acceptance.h"
+#include "shell/files/ConfigurationFile.h"
 #include "shell/report/Report.h"
+#include "shell/words/Phrase.h"
 
 namespace ostrel {
 
+class Comms;
 class Configurator;
 class Files;
 struct Platform;
@@ -39,6 +40,15 @@ struct Commissioned {
   Acceptance acceptance{};        ///< the one that counts, which may be of another configuration
   std::string acceptanceFault{};  ///< why what was noted with this configuration cannot be read
   std::vector<RecordedWork> history{};
+  /// How the configuration stands to what the ledger last knew the logger to hold, and what speaks
+  /// against its being that logger's at all.
+  std::vector<Phrase> standing{};
+};
+
+/// What a logger was asked for a report, and has told: nothing is said of the rest.
+struct AskedForReport {
+  bool clock = false;
+  bool live = false;
 };
 
 /// The language of a report.
@@ -53,10 +63,13 @@ struct ReportLanguage {
 /// not in it.
 Report CommissioningReport(const Commissioned& work, const ReportLanguage& language, Files& files);
 
+/// Has the connected logger tell its clock, its names, and what it measures now.
+AskedForReport AskForReport(Comms& comms);
+
 /// Adds what the connected logger tells of itself and last measured, and what was accepted of it
 /// with the configuration of the file, else with the configuration that was accepted last. What was
 /// noted with the former and cannot be read is not stood in for.
 void AddLogger(Commissioned& work, const Configurator& logger, const Platform& platform,
-               const std::string& dataFolder);
+               const std::string& dataFolder, const AskedForReport& asked);
 
 }  // namespace ostrel

@@ -2,10 +2,10 @@
 
 #include "base/Channels.h"
 #include "model/Features.h"
-#include "shell/FieldWords.h"
-#include "shell/Recipients.h"
 #include "shell/report/ReportWriter.h"
 #include "shell/schedule/ScheduleWords.h"
+#include "shell/words/FieldWords.h"
+#include "shell/words/Recipients.h"
 
 namespace ostrel::report {
 namespace {
@@ -73,10 +73,17 @@ ReportPart Writer::Telephones() const {
     if (phone.MASKMODE != 0)
       channels = Say(phone.MASKMODE == 1 ? "these alone:" : "all but these:") + " " + tokens;
     part.rows.push_back({phone.TLF, phone.Prio == 0 ? Say("none") : std::to_string(phone.Prio),
-                         std::to_string(phone.PRV), channels});
+                         PrivilegeText(phone.PRV), channels});
   }
   if (part.rows.empty()) return {.note = Say("No telephone is told anything.")};
   return part;
+}
+
+std::string Writer::PrivilegeText(std::int16_t level) const {
+  constexpr std::array<std::string_view, 4> kLevels{"User", "Advanced user", "Administrator",
+                                                    "Kestrel"};
+  const auto place = static_cast<std::size_t>(level);
+  return place < kLevels.size() ? Say(kLevels[place]) : std::to_string(level);
 }
 
 std::string Writer::Ways(const AlarmBlock& alarm) const {

@@ -2,10 +2,10 @@
 
 #include <map>
 
-#include "shell/ChannelOverview.h"
-#include "shell/Navigation.h"
-#include "shell/SettingLines.h"
 #include "shell/check/CheckRules.h"
+#include "shell/navigation/ChannelOverview.h"
+#include "shell/navigation/Navigation.h"
+#include "shell/words/SettingLines.h"
 
 namespace ostrel::report {
 namespace {
@@ -25,6 +25,13 @@ bool IsOfLogger(const SettingSection& section) { return section.id.channel < 0; 
 std::string Capital(std::string text) {
   if (!text.empty() && text[0] >= 'a' && text[0] <= 'z')
     text[0] = static_cast<char>(text[0] - 'a' + 'A');
+  return text;
+}
+
+/// A number with a digit ahead of its point, as people write it.
+std::string WithZero(std::string text) {
+  const std::size_t point = text.starts_with('-') ? 1 : 0;
+  if (text.substr(point).starts_with('.')) text.insert(point, 1, '0');
   return text;
 }
 
@@ -49,7 +56,7 @@ ReportSection Writer::Logger() const {
     add("serial number", logger->SerialNumber);
     add("firmware", VersionText(logger->FirmwareVersion));
     add("features", FeaturesText(logger->Features));
-    add("battery", DecText(logger->BatteryVoltage) + " V");
+    add("battery", WithZero(DecText(logger->BatteryVoltage)) + " V");
     add("signal", std::to_string(logger->Rssi) + " / 31");
     add("log in use", DecText(logger->LogUsed) + " / " + DecText(logger->LogSize));
   } else {
@@ -60,6 +67,8 @@ ReportSection Writer::Logger() const {
   add("time of this report", DateTimeText(work_.madeAt));
   add("file", work_.file);
   add("hash of the configuration", work_.hash);
+  for (const Phrase& standing : work_.standing)
+    add("the configuration", Filled(standing, language_.say));
   return {Say("Site and logger"), {part}};
 }
 
@@ -79,17 +88,19 @@ std::vector<ReportPart> Writer::SettingParts(bool (*isShown)(const SettingSectio
         const std::string alarm = Say("alarm") + " " + std::to_string(config);
         ReportPart& part = alarms[config];
         part.caption = record + ", " + alarm;
-        part.rows.push_back({line.words.substr(alarm.size() + 2), line.value});
+        part.rows.push_back({line.words.substr(alarm.size() + 2), WithZero(line.value)});
       } else if (line.id.word == "NOMBRE" && section.id.channel >= 0) {
         plain.caption += ": " + line.value;
       } else if (!line.id.word.starts_with("TLF")) {
-        plain.rows.push_back({line.words, line.value});
+        plain.rows.push_back({line.words, WithZero(line.value)});
       }
     }
     const bool isNamed = plain.caption != record;
     if (isNamed || !plain.rows.empty()) parts.push_back(std::move(plain));
     for (auto& [config, part] : alarms) parts.push_back(std::move(part));
   }
+  if (!parts.empty())
+    parts.push_back({.note = Say("What is as in an empty configuration is not listed.")});
   return parts;
 }
 
@@ -102,10 +113,14 @@ ReportSection Writer::OtherSettings() const {
 ReportSection Writer::LiveValues() const {
   ReportSection section{Say("Live values at sign-off")};
   if (!work_.live) return section;
-  ReportPart values{.form = ReportForm::Table, .head = Head({"channel", "name", "value", "unit"})};
-  for (const LiveValue& value : work_.live->values)
+  ReportPart values{
+      .form = ReportForm::Table,
+      .caption = Filled(Say("Read on %1"), {DateTimeText(work_.live->at.LocalSeconds())}),
+      .head = Head({"channel", "name", "value", "unit"})};
+  const LiveRound round = WithNames(*work_.live, Conf());
+  for (const LiveValue& value : round.values)
     if (value.IsFresh() && (IsState(value.id.kind) || !value.name.empty()))
-      values.rows.push_back({LiveTag(value.id), value.name, LiveText(value), value.unit});
+      values.rows.push_back({LiveTag(value.id), value.name, WithZero(LiveText(value)), value.unit});
   values.note = Say("Measured channels without a name are left out.");
   section.parts.push_back(std::move(values));
   return section;

@@ -7,8 +7,8 @@
 #include <string_view>
 #include <vector>
 
-#include "shell/SettingLines.h"
 #include "shell/report/Commissioning.h"
+#include "shell/words/SettingLines.h"
 
 namespace ostrel::report {
 
@@ -37,6 +37,7 @@ class Writer {
   std::vector<ReportPart> SettingParts(bool (*isShown)(const SettingSection&)) const;
   ReportPart Telephones() const;
   ReportPart Alarms() const;
+  std::string PrivilegeText(std::int16_t level) const;
   std::string Ways(const AlarmBlock& alarm) const;
   const TargetProfile& Model() const { return work_.configuration.profile; }
   const DeviceConf& Conf() const { return work_.configuration.conf; }
