@@ -5,6 +5,7 @@
 #include "cli/FaultText.h"
 #include "cli/TransferLine.h"
 #include "host/SimulatedLoggers.h"
+#include "shell/WriteDoubts.h"
 
 namespace ostrel::cli {
 
@@ -64,14 +65,11 @@ ExitCode LoggerSession::Open(OpenTo wanted) {
   if (interrupted_) return Failed({});
   if (isKnown) return ExitCode::Done;
   const LinkFault& told = configurator_.comms.InfoFault();
-  if (told.IsDamage())
-    return context_.console.Fail(ExitCode::DialogueFailed,
-                                 "the logger did not tell who it is: lines were lost or arrived "
-                                 "damaged. Check cable and earthing");
-  if (told.kind != LinkFault::Kind::Silence) return Failed(told);
+  if (!told.IsDamage() && told.kind != LinkFault::Kind::Silence) return Failed(told);
+  const std::string doubt = Filled(*DoubtOfInformation(configurator_));
   return context_.console.Fail(ExitCode::DialogueFailed,
-                               "the logger greets, and does not tell who it is: it may have no "
-                               "firmware, which \"ostrelctl firmware\" sends");
+                               doubt + (told.IsDamage() ? ". Check cable and earthing"
+                                                        : ", which \"ostrelctl firmware\" sends"));
 }
 
 ExitCode LoggerSession::Run(const std::function<LinkResult()>& dialogue) {

@@ -137,6 +137,14 @@ std::string WordsToKeep(std::span<const std::string> args) {
   return words;
 }
 
+/// Tells that what goes beside the work could not be written. Work that is done stays done.
+ExitCode BesideLost(CommandContext& context, const std::string& path, ExitCode result) {
+  const std::string words = "cannot write " + path;
+  if (!context.isDone) return context.console.Fail(ExitCode::BadFile, words);
+  context.console.Say(words);
+  return result;
+}
+
 ExitCode RunChosen(const std::vector<Command>& commands, Environment& environment,
                    const GlobalOptions& options) {
   for (const Command& command : commands) {
@@ -153,10 +161,8 @@ ExitCode RunChosen(const std::vector<Command>& commands, Environment& environmen
       return context.console.Fail(ExitCode::BadFile,
                                   "cannot write " + options.simState + ": " + kept.error);
     if (!environment.out && !context.isDone) return OutputLost(context);
-    if (context.traceLost)
-      return context.console.Fail(ExitCode::BadFile, "cannot write " + options.trace);
-    if (!isRecorded)
-      return context.console.Fail(ExitCode::BadFile, "cannot write " + options.record);
+    if (context.traceLost) return BesideLost(context, options.trace, result);
+    if (!isRecorded) return BesideLost(context, options.record, result);
     return result;
   }
   return ExitCode::Usage;

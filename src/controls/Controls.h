@@ -103,6 +103,13 @@ class TextBox {
   /// The kind of number that belongs into the box, as `CheckNumberBox` knows it; empty for a text.
   std::string_view NumberKind() const { return numberKind_; }
   void SetNumberKind(std::string_view kind) { numberKind_ = kind; }
+  /// What a field keeps of a number that is typed.
+  struct KeptNumber {
+    std::string text{};    ///< the value, as it would be shown
+    bool isOther = false;  ///< than the number in the box
+  };
+  /// Tells what the field of the box would keep of the text; null where the box has no number.
+  std::function<KeptNumber()> Kept;
   /// Whether dots stand for the text, which is a password.
   bool Hidden() const { return hidden_; }
   void SetHidden(bool hidden);

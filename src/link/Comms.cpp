@@ -187,7 +187,8 @@ LinkResult Comms::ReadTotalCount() {
 
 LinkResult Comms::ReadIOParameter() {
   const auto requests = NameRequests(records_.live, records_.profile, records_.info);
-  return line_.Converse(line_.TimeFor(requests.size()), [&] { return FetchEach(line_, requests); });
+  return line_.Converse(line_.TimeFor(requests.size()),
+                        [&] { return FetchNames(line_, requests, namesTold_); });
 }
 
 LinkResult Comms::ReadRealTime() {

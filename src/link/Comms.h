@@ -11,6 +11,7 @@
 #include "link/Background.h"
 #include "link/Line.h"
 #include "link/LinkDeed.h"
+#include "link/LiveCommands.h"
 #include "link/Progress.h"
 #include "link/Wire.h"
 #include "link/dialogues/Download.h"
@@ -117,6 +118,8 @@ class Comms {
   LinkResult ReadTotalCount();
   /// Fetches the names and units that the logger holds. Succeeds whatever was answered.
   LinkResult ReadIOParameter();
+  /// What was answered to the last `ReadIOParameter`.
+  const std::vector<NameAnswer>& NamesTold() const { return namesTold_; }
   /// Refreshes the live values; succeeds when the logger's masks have arrived.
   LinkResult ReadRealTime();
   /// Sets all outputs by a mask, one bit each.
@@ -176,6 +179,7 @@ class Comms {
   VoiceDialogue voice_;
   LinkFault fault_;
   LinkFault infoFault_{LinkFault::Kind::Silence};
+  std::vector<NameAnswer> namesTold_;
   bool lent_ = false;
   bool opened_ = false;  ///< the open port is ours to close
   bool isCall_ = false;  ///< the session goes through a modem

@@ -1,6 +1,8 @@
 #include <algorithm>
+#include <array>
 #include <concepts>
 #include <cstddef>
+#include <span>
 
 #include "sim/LiveValues.h"
 #include "sim/wire/NumberText.h"
@@ -57,7 +59,7 @@ class Answers {
     return text_;
   }
   std::string AnalogNames() {
-    for (const AnalogInput& input : conf_.analogs) {
+    for (const AnalogInput& input : Told(conf_.analogs, self_.Traits().analogs)) {
       Add(static_cast<int>(input.interface));
       Add(input.group);
       Add(input.scale.valueAtStart);
@@ -68,11 +70,11 @@ class Answers {
     return text_;
   }
   std::string CounterNames() {
-    for (const FlowMeter& meter : conf_.flows) Add(meter.name);
+    for (const FlowMeter& meter : Told(conf_.flows, self_.Traits().flows)) Add(meter.name);
     return text_;
   }
   std::string FlowNames() {
-    for (const FlowMeter& meter : conf_.flows) AddNames(meter);
+    for (const FlowMeter& meter : Told(conf_.flows, self_.Traits().flows)) AddNames(meter);
     return text_;
   }
   /// The last register is a total, which has more digits than a measured value.
@@ -112,6 +114,12 @@ class Answers {
   }
 
  private:
+  /// The channels whose names are told. A list of all there may be has a place for each.
+  template <class Channel, std::size_t N>
+  std::span<const Channel> Told(const std::array<Channel, N>& channels, int own) const {
+    const auto count = self_.tellsOwnNames ? static_cast<std::size_t>(own) : N;
+    return std::span<const Channel>(channels).first(count);
+  }
   void Add(const std::string& field) { text_.append(1, ',').append(field); }
   template <class Number>
   requires(std::integral<Number> || std::same_as<Number, float>) void Add(Number value) {

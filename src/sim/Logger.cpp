@@ -204,7 +204,7 @@ bool Logger::AnswerAccessCode(std::string_view rest) {
 
 bool Logger::AnswerHandshake(std::string_view rest) {
   if (!rest.empty()) return false;
-  Reply("#BF" + VersionText());
+  Reply(options_.greetsBare ? "#BF" : "#BF" + VersionText());
   return true;
 }
 

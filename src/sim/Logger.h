@@ -48,7 +48,7 @@ class Logger final : public LineDevice {
   void SetTerminalReady(bool ready) override;
 
   const LoggerOptions& Options() const { return options_; }
-  Identity Self() const { return {options_.model, options_.features}; }
+  Identity Self() const { return {options_.model, options_.features, options_.tellsOwnNames}; }
 
   /// The configuration in force: always one that was set or uploaded whole.
   const Configuration& Conf() const { return conf_; }

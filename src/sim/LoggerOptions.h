@@ -19,8 +19,10 @@ struct LoggerOptions {
   int version = 0;  ///< firmware, in hundredths
   std::uint32_t features = 0;
   std::string serial{};
-  int battery = 360;       ///< its voltage in hundredths, to which the seed adds a little
-  std::uint64_t seed = 1;  ///< of live values and faults
+  int battery = 360;           ///< its voltage in hundredths, to which the seed adds a little
+  bool greetsBare = false;     ///< its greeting does not tell what it is
+  bool tellsOwnNames = false;  ///< names of the channels that it has, not of all that there may be
+  std::uint64_t seed = 1;      ///< of live values and faults
   DateTime clockStart{2026, 1, 15, 8, 30, 5};            ///< its clock when it is made ...
   std::int64_t clockOffsetSeconds = 0;                   ///< ... and what is added to that
   Duration replyDelay = std::chrono::milliseconds{2};    ///< from a request to its answer

@@ -56,6 +56,7 @@ std::optional<Model> ParseModel(std::string_view text);
 struct Identity {
   Model model = Model::VR200;
   std::uint32_t features = 0;
+  bool tellsOwnNames = false;  ///< see `LoggerOptions`
 
   const ModelTraits& Traits() const { return TraitsOf(model); }
   bool Has(std::uint32_t bits) const { return (features & bits) == bits; }

@@ -26,6 +26,10 @@ void AddOptions(CLI::App& app, SimOptions& options, Texts& texts) {
   app.add_option("--serial", texts.serial, "Serial number; 0, or -1 of a KA2, is a new board's");
   app.add_option("--features", texts.features, "Features of the firmware, hexadecimal");
   app.add_flag("--pace", options.isPaced, "960 octets a second, as on a cable");
+  app.add_flag("--bare-greeting", options.logger.greetsBare,
+               "Greet without telling model and version");
+  app.add_flag("--own-names", options.logger.tellsOwnNames,
+               "Tell the names of the channels that the model has, not of all there may be");
   app.add_flag("--empty", options.isEmpty, "Start without a configuration");
   app.add_option("--state", options.stateFile, "File in which the logger is kept");
   app.add_option("--fixture", options.fixture,

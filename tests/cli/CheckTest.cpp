@@ -215,7 +215,9 @@ TEST(Check, FindsEachSenselessNumberByItsRule) {
   for (const RuleCase& one : std::vector<RuleCase>{
            {"IE= 4", "IE= 4", "", ""},
            {"FE= 20", "FE= 4", "", "scale-useless"},
+           {"FE= 20", "FE= 3", "", "scale-useless"},
            {"EqIE=-1", "EqIE= 6", "", "scale-useless"},
+           {"EqIE=-1", "EqIE= 7", "", "scale-useless"},
            {"INTERFAZ= 6", "INTERFAZ= 1", "", "interface-unknown"},
            {"INTERFAZ= 1", "INTERFAZ= 4", "", "interface-unknown"},
            {"TLFM 9=601", "TLFM 9=600", "", "telephone-twice"},

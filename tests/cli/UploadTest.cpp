@@ -155,6 +155,34 @@ TEST(Upload, OneWordSendsTheFileOfAnotherModel) {
   EXPECT_EQ(world.err.find("forced: the logger says", told + 1), std::string::npos) << "once";
 }
 
+/// A logger that greets without its name is known for what it is when it has been read.
+TEST(Upload, IsRefusedByWhatIsReadAhead) {
+  World world([](sim::Model model) {
+    sim::LoggerOptions options = sim::MakeDefaultOptions(model);
+    options.greetsBare = true;
+    return options;
+  });
+  world.HaveFile("/ka1.ocf", "KA1");
+  world.Expect("upload /ka1.ocf --target KA1 --port sim:VR200", 5,
+               "fits the model Ostrel VR200, and the model chosen is Ostrel KA1. Nothing was sent");
+  EXPECT_EQ(world.Logger().UploadsTaken(), 0U);
+  EXPECT_EQ(world.Backups(), 0U);
+}
+
+/// What goes beside it is told, and changes nothing about an upload that is done.
+TEST(Upload, IsDoneThoughWhatGoesBesideItIsLost) {
+  for (const std::string beside : {"trace", "record"}) {
+    UploadWorld world;
+    world.environment.openTrace =
+        world.environment.openLineRecording = [](const std::string&, std::string&) {
+          return std::make_unique<std::ostream>(nullptr);  // takes nothing
+        };
+    EXPECT_EQ(world.Upload("--" + beside + " /full"), 0);
+    EXPECT_THAT(world.err, HasSubstr("cannot write /full"));
+    world.Expect("info --port sim:VR200 --" + beside + " /full", 5, "cannot write /full");
+  }
+}
+
 TEST(Upload, WhatIsNotSentIsNoDifference) {
   World world([](sim::Model model) {
     sim::LoggerOptions options = sim::MakeDefaultOptions(model);

@@ -76,12 +76,11 @@ TEST_F(OverviewBP, ABadNumberSaysWhatItCountsAsAndACommaIsPutRight) {
   GoTo("E_Analog_1");
   const QRect place = On(*desktop, "IE")->geometry();
   Type(On(*desktop, "IE"), "1.2.3");
-  EXPECT_EQ(Bubble(), "This is not a number of the kind expected here. It counts as 1.2.");
+  EXPECT_EQ(Bubble(), "This is not a number of the kind expected here. 1.2 is kept.");
   auto* strip = desktop->Window().findChild<QLabel*>("Notes");
   On(*desktop, "EqIE")->setFocus();
   QCoreApplication::processEvents();
-  EXPECT_TRUE(strip->isVisible() && strip->text().contains("It counts as 1.2."))
-      << "for all to see";
+  EXPECT_TRUE(strip->isVisible() && strip->text().contains("1.2 is kept.")) << "for all to see";
   EXPECT_EQ(On(*desktop, "IE")->geometry(), place) << "a mark takes no room";
   Type(On(*desktop, "FE"), "0,9");
   EXPECT_EQ(Bubble(), "") << "the other box has the focus";
@@ -92,6 +91,26 @@ TEST_F(OverviewBP, ABadNumberSaysWhatItCountsAsAndACommaIsPutRight) {
   Type(On(*desktop, "FE"), "1,5");
   GoTo("General");
   EXPECT_FLOAT_EQ(desktop->Core().conf.Analog[1].FE, 1.5F);
+}
+
+/// A whole field rounds what is typed, and one of few octets has no room for all of it.
+TEST_F(OverviewBP, ANoteTellsWhatAFieldKeepsOfANumber) {
+  desktop->Core().conf.LTimer[0].PERIOD = 7;
+  GoTo("LTimer0_3");
+  constexpr const char* kPeriod = "Period(0)";
+  const std::pair<const char*, std::pair<const char*, std::int16_t>> kCases[] = {
+      {"40000", {"This number does not fit here. 7 is kept.", 7}},
+      {"2,5", {"This is not a number of the kind expected here. 2 is kept.", 2}},
+      {"3", {"", 3}},
+      {"50000", {"This number does not fit here. 3 is kept.", 3}}};
+  for (const auto& [typed, kept] : kCases) {
+    Type(On(*desktop, kPeriod), typed);
+    EXPECT_EQ(NoteOf(kPeriod), kept.first) << typed;
+    loop.RunFor(seconds(2));  // the window looks whether anything is unsaved
+    EXPECT_EQ(NoteOf(kPeriod), kept.first) << typed;
+    desktop->Navigator().CommitFront();
+    EXPECT_EQ(desktop->Core().conf.LTimer[0].PERIOD, kept.second) << typed;
+  }
 }
 
 TEST_F(OverviewBP, FindingsStandAtTheirFieldsAndAPanelLeadsThere) {

@@ -59,6 +59,10 @@ TEST_F(OnEveryPage, TheLinkIsShownAsItIsAndWritingRestsOnADeadOne) {
   EXPECT_FALSE(write->isEnabled());
   Connect(seconds(15));
   EXPECT_EQ(LinkWords(), "Open");
+  const auto colour = [this] {
+    return Window().findChild<QLabel*>("Lamp")->styleSheet().section('#', 1).left(6);
+  };
+  const QString whileHeard = colour();
   EXPECT_TRUE(write->isEnabled());
   EXPECT_FALSE(SessionTool("CancelTool")->isEnabled()) << "nothing is under way";
   const QString whatItDoes = write->toolTip();
@@ -70,6 +74,7 @@ TEST_F(OnEveryPage, TheLinkIsShownAsItIsAndWritingRestsOnADeadOne) {
   loop.RunFor(seconds(33));
   EXPECT_EQ(exchanges, 0) << "nothing is sent to find out";
   EXPECT_EQ(LinkWords(), "Open, last answer 0:20 ago") << "in steps of four times the one before";
+  EXPECT_NE(colour(), whileHeard) << "nothing is known by now";
   EXPECT_TRUE(write->isEnabled()) << "it was not asked";
   Window().GoTo("General");
   loop.RunFor(seconds(2));
@@ -189,6 +194,32 @@ TEST_F(OnEveryPage, LeavingAVoiceListThatIsBeingWrittenIsAsked) {
   Core().PageOf(PageId::Aut_Voz)->GetForm().Get<Button>("WriteBut").Click();
   EXPECT_EQ(Core().session.VoiceList(), ListWork::None);
   EXPECT_EQ(logger->Conf().voice.numbers.size(), 50U) << "and goes on meanwhile";
+}
+
+/// A box of the window would hold it.
+TEST_F(OnEveryPage, AVoiceListThatIsBeingReadIsNotHeldByAQuestion) {
+  ConnectWithOwnBoxes();
+  sim::Configuration held = logger->Conf();
+  held.voice.numbers.assign(100, "600123456");
+  logger->SetConf(held);
+  Core().conf.General.DNAME = "Pozo";
+  Window().GoTo("Aut_Voz");
+  loop.RunFor(seconds(2));
+  QTimer::singleShot(5000, [] {  // a box that waits after all is not to hang the test
+    if (QMessageBox* box = Box()) box->reject();
+  });
+  bool looked = false;
+  loop.After(milliseconds(700), "close", [&] {
+    ASSERT_EQ(Core().session.VoiceList(), ListWork::Reading);
+    EXPECT_FALSE(Tool("Guardar")->isEnabled() || Tool("Canal")->isEnabled());
+    EXPECT_FALSE(Window().close()) << "it asks";
+    EXPECT_EQ(Core().session.VoiceList(), ListWork::Reading) << "and goes on meanwhile";
+    looked = Box() != nullptr;
+    if (looked) Box()->reject();
+  });
+  Core().PageOf(PageId::Aut_Voz)->GetForm().Get<Button>("ReadBut").Click();
+  EXPECT_TRUE(looked);
+  EXPECT_TRUE(Tool("Guardar")->isEnabled());
 }
 
 TEST_F(OnEveryPage, AVoiceListIsAskedAboutAndCancelledWithItsWords) {

@@ -159,9 +159,14 @@ TEST_F(WindowTools, TracesAllTheTimeAndShowsWhatIsWanted) {
   EXPECT_EQ(shown(), paused);
   trace->findChild<QPushButton*>("Pause")->setChecked(false);
   EXPECT_GT(shown().size(), paused.size());
+  // A file that others may read does not make a trace theirs.
+  const QString file = ToQt(Path("trace.txt"));
+  ASSERT_TRUE(QFile(file).open(QIODevice::WriteOnly));
+  QFile::setPermissions(file, QFile::ReadOwner | QFile::WriteOwner | QFile::ReadOther);
   dialogs.ChoosePath(Path("trace.txt"));
   trace->findChild<QPushButton*>("Save")->click();
   EXPECT_EQ(ToQt(*files.Read(Path("trace.txt"))).trimmed(), shown());
+  EXPECT_FALSE(QFile::permissions(file) & QFile::ReadOther);
   auto* search = trace->findChild<QLineEdit*>("Search");
   auto* text = trace->findChild<QPlainTextEdit*>();
   search->setText("#BF");

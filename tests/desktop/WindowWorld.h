@@ -42,10 +42,11 @@ struct WindowWorld {
     Stored("Target") = target;
   }
   /// Puts a simulated logger on the port.
-  void AddLogger(sim::Model model, const sim::Faults& faults = {}) {
+  void AddLogger(sim::Model model, const sim::Faults& faults = {}, bool greetsBare = false) {
     line = &port.AddDevice(kPort, "/dev/sim", "", [&](LineEnd& end) {
       sim::LoggerOptions options = sim::MakeDefaultOptions(model);
       options.faults = faults;
+      options.greetsBare = greetsBare;
       auto made = std::make_unique<sim::Logger>(loop, end, options);
       logger = made.get();
       logger->SetConf(sim::DemoConfiguration(model));

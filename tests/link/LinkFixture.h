@@ -127,7 +127,7 @@ class LinkTest : public testing::Test, protected VirtualWorld {
   LinkHooks Hooks() {
     const auto note = [this](std::string what) { return [this, what] { hooked.push_back(what); }; };
     return {.clearPages = note("clear"),
-            .loadPages = note("load"),
+            .loadPages = [this] { hooked.emplace_back(ComBusy ? "load" : "load while free"); },
             .composed = {},
             .infoChanged = [this](std::string_view key) { hooked.emplace_back(key); },
             .showPWForm =

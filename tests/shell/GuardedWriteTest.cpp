@@ -15,8 +15,9 @@ using testing::IsEmpty;
 /// A session with a logger that holds the demonstration configuration.
 class Writing : public testing::Test {
  protected:
-  Writing() : world(sim::MakeDefaultOptions(sim::Model::VR200)) {
-    world.logger->SetConf(sim::DemoConfiguration(sim::Model::VR200));
+  explicit Writing(const sim::LoggerOptions& options = sim::MakeDefaultOptions(sim::Model::VR200))
+      : world(options) {
+    world.logger->SetConf(sim::DemoConfiguration(options.model));
   }
 
   void Begin(const std::string& model) {
@@ -201,6 +202,93 @@ TEST_F(Writing, ALoggerOfAnotherModelIsDoubted) {
   EXPECT_FALSE(program.session.ModelDoubt());
 }
 
+sim::LoggerOptions GreetingBare(sim::Model model) {
+  sim::LoggerOptions options = sim::MakeDefaultOptions(model);
+  options.greetsBare = true;
+  return options;
+}
+
+/// A logger whose greeting does not tell what it is.
+class WritingUnnamed : public Writing {
+ protected:
+  WritingUnnamed() : Writing(GreetingBare(sim::Model::VR200)) {
+    program.session.OnModelDoubt = [this](const Phrase& doubt) { told.push_back(Filled(doubt)); };
+  }
+
+  static constexpr const char* kFitsVR200 =
+      "what was read from the logger fits the model Ostrel VR200, and the model chosen is Ostrel "
+      "KA1";
+  std::vector<std::string> told;
+};
+
+TEST_F(WritingUnnamed, WhatIsReadAheadTellsOfAnotherModel) {
+  Begin("Ostrel KA1");
+  ASSERT_FALSE(program.session.ModelDoubt());
+  program.conf.General.DNAME = "Nuevo";
+  std::vector<std::string> asked;
+  WriteRoad road = Road();
+  road.inSpiteOf = [&](const Phrase& doubt) {
+    asked.push_back(Filled(doubt));
+    return false;
+  };
+  EXPECT_EQ(WriteGuarded(program, road).end, WriteEnd::Declined);
+  EXPECT_THAT(asked, ElementsAre(kFitsVR200));
+  EXPECT_EQ(world.logger->UploadsTaken(), 0U);
+  EXPECT_THAT(told, IsEmpty()) << "it was asked about";
+  EXPECT_NE(WriteGuarded(program, road).end, WriteEnd::Declined)
+      << "whoever writes knows it by now, and has been asked";
+}
+
+TEST_F(WritingUnnamed, AReadingTellsOfAnotherModelOnce) {
+  Begin("Ostrel KA1");
+  for (int i = 0; i < 2; ++i) EXPECT_TRUE(program.session.Download());
+  EXPECT_THAT(told, ElementsAre(kFitsVR200));
+}
+
+/// Emptying leaves lists of actions and what is told by GPRS alone: what a larger model left there
+/// is no evidence.
+TEST_F(WritingUnnamed, ASmallerModelBehindALargerOneIsNotDoubted) {
+  sim::Logger* small = nullptr;
+  world.port.AddDevice(8, "small", "", [&](LineEnd& end) {
+    auto made = std::make_unique<sim::Logger>(world.loop, end, GreetingBare(sim::Model::BQ));
+    small = made.get();
+    return made;
+  });
+  Begin("Ostrel VR200");
+  ASSERT_TRUE(program.session.Download());
+  program.conf.Digital[6].ALARM[0].common.ACTHI[0] = 3;
+  program.session.Close(false);
+  program.TargetDeviceChange("Tavro BQ");
+  ASSERT_TRUE(program.session.Open(8, ""));
+  ASSERT_TRUE(program.session.Download());
+  EXPECT_THAT(told, IsEmpty());
+}
+
+TEST(WritingNames, CountsOfNamesTellOfAnotherModelAtTheOpening) {
+  sim::LoggerOptions options = GreetingBare(sim::Model::BQ);
+  options.tellsOwnNames = true;
+  SimWorld world(options);
+  Configurator program(world.platform, world.Options(false));
+  std::vector<std::string> told;
+  program.session.OnModelDoubt = [&](const Phrase& doubt) { told.push_back(Filled(doubt)); };
+  program.StartForCommand("Ostrel VR200", 1);
+  ASSERT_TRUE(program.session.Open(SimWorld::kPort, ""));
+  EXPECT_THAT(told, ElementsAre("what was read from the logger fits the model Tavro BQ, and the "
+                                "model chosen is Ostrel VR200"));
+}
+
+TEST_F(Writing, ALoggerThatDoesNotTellWhoItIsIsDoubted) {
+  Begin("Ostrel VR200");
+  ASSERT_TRUE(program.session.Download());
+  program.session.Close(false);
+  world.logger->OnExchange([this](const sim::Exchange& e) {
+    if (e.request.starts_with("#40")) world.logger->InFixture().Sleep();
+  });
+  ASSERT_TRUE(program.session.Open(SimWorld::kPort, ""));
+  EXPECT_THAT(Doubts(), Contains("the logger greets, and does not tell who it is: it may have no "
+                                 "firmware"));
+}
+
 TEST(ModelEvidence, AGreetingNamesTheLongestName) {
   EXPECT_EQ(ModelInGreeting("#BFOstrel KA2 v3.25"), "Ostrel KA2");
   EXPECT_EQ(ModelInGreeting("#BFTAVRO_BQ"), "Tavro BQ");
@@ -208,17 +296,45 @@ TEST(ModelEvidence, AGreetingNamesTheLongestName) {
   EXPECT_EQ(ModelInGreeting("#BF"), "");
 }
 
-TEST(ModelEvidence, ChannelsTellWhatFits) {
-  const auto same = [](std::string_view text) { return std::string(text); };
-  TargetProfile profile;
-  SelectTarget(profile, "Ostrel KA1");
-  DeviceConf held = EmptyConfiguration(profile, same);
-  EXPECT_EQ(ModelsThatFit(held, profile, same).size(), 6U);
-  held.Digital[5].NOMBRE = "door";
-  EXPECT_THAT(ModelsThatFit(held, profile, same),
-              ElementsAre("Ostrel KA1", "Ostrel KA2", "Ostrel VR200", "Tavro BP"));
-  held.Analog[3].NOMBRE = "level";
-  EXPECT_THAT(ModelsThatFit(held, profile, same), ElementsAre("Ostrel VR200", "Tavro BP"));
+/// The words of the models of a set.
+std::string WordsOfModels(const ModelSet& models) {
+  std::string words;
+  for (std::size_t i = 0; i < models.size(); ++i)
+    if (models[i]) words += std::string(TargetModels()[i].word) + ' ';
+  return words;
+}
+
+TEST(ModelEvidence, TheLinesOfAStreamTellWhatFits) {
+  constexpr const char* kAll = "KA1 KA2 VR200 S100 BQ BP ";
+  const std::pair<const char*, const char*> kCases[] = {
+      {"DIGITAL,4,,0", kAll},  // one more than a BQ has: a flow's total is counted beside
+      {"DIGITAL.ALM,5,0,", "KA1 KA2 VR200 BP "},
+      {"ANALOG,0,", "VR200 S100 BQ BP "},
+      {"ANALOG.ACT,3,0", "VR200 BP "},
+      {"CAUDAL,3,", "KA1 KA2 VR200 BP "},
+      {"MODBUS.PRM,9600", "VR200 "},
+      {"MODBUS,31,", "VR200 "},
+      {"ONEWIRE,0,", "KA1 KA2 "},
+      {"AUX,3,", "KA1 KA2 "},
+      {"KTX,10,20", "KA1 KA2 "},
+      {"EXPINPUT.A.ALM,95,0", "S100 "},
+      {"EXPINPUTS,95", kAll},
+      {"FLAG.ALM,15,0", kAll}};
+  for (const auto& [line, models] : kCases)
+    EXPECT_EQ(WordsOfModels(ModelsOfStream(std::vector{"#BD000" + std::string(line)})), models)
+        << line;
+}
+
+TEST(ModelEvidence, TheCountsOfNamesTellWhatFits) {
+  const std::pair<NameAnswer, const char*> kCases[] = {{{"#DA", 24}, "KA1 KA2 VR200 S100 BQ BP "},
+                                                       {{"#DA", 12}, "KA1 KA2 S100 BQ "},
+                                                       {{"#D9", 2}, "S100 BQ "},
+                                                       {{"#D8", 4}, "S100 BQ "},
+                                                       {{"#D3", 124}, "KA1 KA2 S100 BQ BP "},
+                                                       {{"#CA", 12}, "VR200 S100 BQ BP "},
+                                                       {{"#D4", 14}, "KA1 KA2 VR200 BQ BP "}};
+  for (const auto& [told, models] : kCases)
+    EXPECT_EQ(WordsOfModels(ModelsOfNames({&told, 1})), models) << told.head << ' ' << told.fields;
 }
 
 }  // namespace

@@ -204,6 +204,16 @@ TEST_F(StayingPages, KeepTheFrontWhenAClickOpensNothing) {
   EXPECT_EQ(Name(), "again");
 }
 
+TEST_F(StayingPages, TheTestOfABQStaysAsWell) {
+  core.TargetDeviceChange("Tavro BQ");
+  navigation.NodeClick("TEST");
+  EXPECT_EQ(FrontName(), "TestBQ");
+  navigation.NodeClick("General");
+  EXPECT_EQ(FrontName(), "General");
+  navigation.NodeClick("CTimer");
+  EXPECT_EQ(FrontName(), "TestBQ");
+}
+
 TEST_F(StayingPages, AreCoveredByTheNextPageAndComeBackBehindIt) {
   core.TargetDeviceChange("Ostrel S100");
   navigation.NodeClick("E_Digital_0");

@@ -121,14 +121,10 @@ std::vector<std::string> DoubtsOfFile(CommandContext& context, const UploadOptio
   return doubts;
 }
 
-std::vector<std::string> DoubtsOfModel(const Configurator& configurator) {
-  if (const auto doubt = configurator.session.ModelDoubt()) return {Filled(*doubt)};
-  return {};
-}
-
 /// What speaks against writing to the logger that answers, before it is read.
 std::vector<std::string> DoubtsOfLogger(const Configurator& configurator) {
-  std::vector<std::string> doubts = DoubtsOfModel(configurator);
+  std::vector<std::string> doubts;
+  if (const auto doubt = configurator.session.ModelDoubt()) doubts.push_back(Filled(*doubt));
   for (const Phrase& doubt : DoubtsOfIdentity(configurator)) doubts.push_back(Filled(doubt));
   return doubts;
 }
@@ -147,18 +143,18 @@ ExitCode Send(Online& online, const UploadOptions& options, Refusal& refusal) {
     code = ended;
     return ended == ExitCode::Done;
   };
-  WriteRoad road{.read = [&] { return step(online.session.Download()); },
-                 .write = [&] { return step(online.session.Upload()); },
-                 .verify = !options.noVerify,
-                 .passwords = context.ShownPasswords()};
+  WriteRoad road{
+      .read = [&] { return step(online.session.Download()); },
+      .write = [&] { return step(online.session.Upload()); },
+      .inSpiteOf = [&](const Phrase& doubt) { return step(refusal.Of({Filled(doubt)})); },
+      .isFormerState = IsFormerState(options),
+      .verify = !options.noVerify,
+      .passwords = context.ShownPasswords()};
   if (!options.noBackup)
     road.keep = [&](const DeviceConf& held) {
-      if (!step(refusal.Of(DoubtsOfModel(online.configurator)))) return false;
       return step(SaveBackup(context, online.configurator, held, result.backup));
     };
-  const bool isUnasked = options.noBackup && options.force;
-  if (!IsFormerState(options) && !isUnasked)
-    road.inSpiteOf = [&](const Phrase& doubt) { return step(refusal.Of({Filled(doubt)})); };
+  if (options.noBackup && options.force) road.inSpiteOf = nullptr;  // nothing is read for it
   const WriteResult written = WriteGuarded(online.configurator, road);
   if (written.end != WriteEnd::Written) return code;
   result.comparison = written.verified;

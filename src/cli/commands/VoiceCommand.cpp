@@ -8,6 +8,7 @@
 #include "cli/TransferLine.h"
 #include "cli/commands/Commands.h"
 #include "cli/commands/OnlineCommand.h"
+#include "shell/writing/VoiceDoubts.h"
 #include "shell/writing/WriteDoubts.h"
 #include "store/IniClass.h"
 #include "store/IniTool.h"
@@ -200,20 +201,15 @@ std::optional<ConfAutVoz> OpenText(CommandContext& context, const VoiceOptions& 
   return list;
 }
 
-/// Why a logger would not take the list of a configuration; empty when it would. It erases its own
-/// before it looks at a number.
-std::string WhyNotTaken(const ConfAutVoz& list) {
-  int count = 0;
-  for (int place = 0; place <= kVoiceNumbers; ++place) {
-    const std::string& number = list.TEL[place];
-    if (number.empty()) continue;
-    ++count;
-    if (!IsIntText(number)) return "TEL " + std::to_string(place) + ": " + NoNumber(number);
-  }
-  if (count > kVoiceNumbers) return std::string(kTooMany);
-  if (list.MACRO >= kVoiceMacros)
-    return "MACRO: voice calls start macros 0 to 39: choose one of these or none";
-  return {};
+/// Why a list is refused; empty where it is not. One without a number is asked about.
+std::string WhyRefused(const ConfAutVoz& list) {
+  using Kind = VoiceDoubt::Kind;
+  const auto doubt = DoubtOfVoiceList(list);
+  if (!doubt || doubt->kind == Kind::Empty) return {};
+  if (doubt->kind == Kind::NoNumber)
+    return "TEL " + std::to_string(doubt->place) + ": " + NoNumber(doubt->number);
+  if (doubt->kind == Kind::TooMany) return std::string(kTooMany);
+  return "MACRO: voice calls start macros 0 to 39: choose one of these or none";
 }
 
 /// The list of a configuration, with the macro that the options choose in place of its own.
@@ -228,7 +224,7 @@ std::optional<ConfAutVoz> OpenConfigured(CommandContext& context, const VoiceOpt
     list.MACRO = MacroOf(options.macro);
   else if (tool.ProfileRead("AUT_VOZ", "MACRO", options.file).empty())
     why = "it chooses no macro for voice calls: --macro does";
-  if (why.empty()) why = WhyNotTaken(list);
+  if (why.empty()) why = WhyRefused(list);
   if (!why.empty()) {
     context.console.Fail(ExitCode::BadFile, options.file + ": " + why);
     return {};
@@ -268,7 +264,8 @@ ExitCode WriteOnline(Online& online, ConfAutVoz list, bool keepsMacro) {
 
 /// Asks before the list that a logger holds is only taken away.
 ExitCode MayEmpty(CommandContext& context, const std::string& file, const ConfAutVoz& list) {
-  if (!NumbersOf(list).empty()) return ExitCode::Done;
+  const auto doubt = DoubtOfVoiceList(list);
+  if (!doubt || doubt->kind != VoiceDoubt::Kind::Empty) return ExitCode::Done;
   const std::string loses =
       file + " holds no number: the logger would lose all numbers of its list";
   if (context.dialogs.Confirm(loses + ". Write it?")) return ExitCode::Done;

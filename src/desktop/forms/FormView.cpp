@@ -184,17 +184,30 @@ void FormView::SetNotes(std::map<std::string, QString, std::less<>> notes) {
   for (const auto& [control, note] : notes_) ShowNote(control);
 }
 
+namespace {
+
+/// What is told of a box whose text is not what it takes, or is kept as something else.
+QString NoteOnNumber(const TextBox& box) {
+  const bool isRed = box.face.Colour() == BackColour::Red;
+  if (isRed && box.NumberKind() == kAddressKind)
+    return Words::tr(
+        "This is not an address: write four numbers from 0 to 255 with points between them, or 0 "
+        "for none.");
+  const TextBox::KeptNumber kept = box.Kept ? box.Kept() : TextBox::KeptNumber{};
+  if (!isRed && !kept.isOther) return {};
+  QString note = isRed ? Words::tr("This is not a number of the kind expected here.")
+                       : Words::tr("This number does not fit here.");
+  if (box.Kept) note += ' ' + Words::tr("%1 is kept.").arg(ToQt(kept.text).trimmed());
+  return note;
+}
+
+}  // namespace
+
 QString FormView::NoteOf(std::string_view control) const {
   QStringList notes;
   const ControlRef ref = form_[control];
-  if (auto* const* box = std::get_if<TextBox*>(&ref);
-      box && (*box)->face.Colour() == BackColour::Red)
-    notes << ((*box)->NumberKind() == kAddressKind
-                  ? Words::tr(
-                        "This is not an address: write four numbers from 0 to 255 with points "
-                        "between them, or 0 for none.")
-                  : Words::tr("This is not a number of the kind expected here. It counts as %1.")
-                        .arg(ToQt(NumText(NumberIn(**box))).trimmed()));
+  if (auto* const* box = std::get_if<TextBox*>(&ref))
+    if (const QString note = NoteOnNumber(**box); !note.isEmpty()) notes << note;
   if (const auto note = notes_.find(control); note != notes_.end()) notes << note->second;
   return notes.join(u' ');
 }

@@ -52,8 +52,7 @@ int RunWindow(const CommandLine& line) {
                   UserDataFolder(), machine.Inspector());
   dialogs.StandBefore(desktop.Window());
   machine.loop.SetFaultHandler([&](std::exception_ptr fault) { desktop.ShowFault(fault); });
-  desktop.Window().show();  // ahead of the first questions, which want a window behind them
-  desktop.Start(line.file);
+  desktop.ShowAndStart(line.file);
   if (!line.page.empty()) {
     if (!FindNodeTarget(line.page, desktop.Core().profile, true)) {
       std::cerr << "ostrel-configurator: there is no page " << line.page << std::endl;

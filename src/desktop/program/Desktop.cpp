@@ -40,6 +40,11 @@ void Desktop::Start(const std::string& file) {
   if (isMissing) window_.TellMissing(file);
 }
 
+void Desktop::ShowAndStart(const std::string& file) {
+  window_.show();
+  Start(file);
+}
+
 void Desktop::Guarded(const std::function<void()>& run) {
   try {
     run();

@@ -22,6 +22,8 @@ class Desktop {
   /// shows the choice of the model, or the general page when there is a file. `file` is empty for
   /// none.
   void Start(const std::string& file);
+  /// Shows the window, then starts: the questions of a first run want a window behind them.
+  void ShowAndStart(const std::string& file);
   /// Shows what was thrown where an event came in, and goes on.
   void ShowFault(std::exception_ptr fault);
 

@@ -18,7 +18,8 @@ const char* ColourOf(const LinkState& state) {
     case SessionPhase::Closed:
       return kUnknown;
     case SessionPhase::Open:
-      return state.list == ListWork::None ? kGood : kBusy;
+      if (state.list != ListWork::None) return kBusy;
+      return state.life.health == LinkHealth::Resting ? kDoubtful : kGood;
     case SessionPhase::Opening:
     case SessionPhase::Reading:
     case SessionPhase::Writing:

@@ -428,7 +428,8 @@ QString MainWindow::WhatLeavingBreaks() {
         "The voice-call list is being written. Leaving breaks that off, "
         "and the logger is left without a whole list.");
   const SessionPhase phase = session.State().phase;
-  if (phase == SessionPhase::Writing || (IsTransfer(phase) && unsaved_.Changed()))
+  const bool isReading = phase == SessionPhase::Reading || session.VoiceList() == ListWork::Reading;
+  if (phase == SessionPhase::Writing || (isReading && unsaved_.Changed()))
     return Words::tr("A transfer is under way. Leaving breaks it off.");
   return {};
 }

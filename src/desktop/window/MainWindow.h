@@ -18,6 +18,7 @@
 #include "desktop/window/Overview.h"
 #include "desktop/window/PageArea.h"
 #include "desktop/window/TreePane.h"
+#include "platform/Files.h"
 #include "platform/Platform.h"
 #include "platform/PortFacts.h"
 #include "platform/TappedPort.h"
@@ -142,7 +143,8 @@ class MainWindow final : public QMainWindow {
   void ShowUndo();
   void StartHistory();
   /// Saves octets to a file that the operator chooses. `kind` is in words.
-  void SaveBeside(const QString& kind, const QString& ending, const std::string& octets);
+  void SaveBeside(const QString& kind, const QString& ending, const std::string& octets,
+                  Readers readers = Readers::AsBefore);
   /// Says in a box what went wrong.
   void Tell(const QString& words);
 

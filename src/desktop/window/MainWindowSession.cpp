@@ -50,7 +50,7 @@ void MainWindow::ShowLink() {
   session_->Link().ShowState(state, NameOfLogger());
   const bool isListBusy = state.list != ListWork::None;
   const bool mayAsk =
-      state.phase == SessionPhase::Open && !session.OwnsModel() && !isListBusy && !session.IsLent();
+      state.phase == SessionPhase::Open && !session.OwnsModel() && !session.IsLent();
   const auto why = WhyWritingRests(state.life);
   session_->Allow(
       {.read = mayAsk && state.life.health != LinkHealth::Lost,
@@ -68,8 +68,8 @@ void MainWindow::ShowLink() {
 }
 
 /// A transfer owns the model: nothing may be edited, opened, saved or compared under it, and a
-/// dialog or a menu that is opened in it would hold it up. The focus is where it was when it has
-/// ended, unless the operator has taken it elsewhere.
+/// dialog or a menu that is opened in it would hold it up, as it would a voice-call list. The focus
+/// is where it was when it has ended, unless the operator has taken it elsewhere.
 void MainWindow::Rest(bool rests) {
   for (QAction* action : {open_, save_, saveAs_, recentFiles_, compare_, channels_, liveTools_,
                           more_, safetyCopies_, schedule_, history_, report_, doctor_, language_})

@@ -65,7 +65,8 @@ void MainWindow::MakeToolBar() {
   LetTabReachTools(*bar_);
   trace_->OnRecord = [this](bool on) { Asking([this, on] { Record(on); })(); };
   trace_->OnSave = [this] {
-    parts_.guard([this] { SaveBeside(Words::tr("Trace"), "txt", trace_->Text()); });
+    parts_.guard(
+        [this] { SaveBeside(Words::tr("Trace"), "txt", trace_->Text(), Readers::OwnerAlone); });
   };
   auto* find = new QAction(this);
   find->setShortcut(QKeySequence::Find);
@@ -323,14 +324,16 @@ void MainWindow::ShowTrace(bool on) {
   if (on) trace_->Follow();
 }
 
-void MainWindow::SaveBeside(const QString& kind, const QString& ending, const std::string& octets) {
-  Asking([this, kind, ending, octets] {
+void MainWindow::SaveBeside(const QString& kind, const QString& ending, const std::string& octets,
+                            Readers readers) {
+  Asking([this, kind, ending, octets, readers] {
     const auto path = parts_.platform.dialogs.ChooseFile(
         {.mode = FileQuestion::Mode::Save,
          .filter = FromQt(kind + "|*." + ending + "|" + Words::tr("All files") + "|*.*"),
          .overwritePrompt = true});
     if (!path) return;
-    const FileResult saved = SaveWhole(parts_.platform.files, *path, octets);
+    const FileResult saved =
+        SaveWhole(parts_.platform.files, *path, octets, Replacing::Unprotected, readers);
     if (!saved.Ok())
       Tell(Words::tr("%1 could not be written: %2").arg(ToQt(*path), ToQt(saved.error)));
   })();

@@ -1,7 +1,6 @@
 #include <QStatusBar>
 #include <utility>
 
-#include "base/Numbers.h"
 #include "base/Printable.h"
 #include "base/Scope.h"
 #include "desktop/dialogs/CompareDialog.h"
@@ -10,17 +9,36 @@
 #include "desktop/session/FaultText.h"
 #include "desktop/window/MainWindow.h"
 #include "link/UploadPlan.h"
-#include "model/ConfAutVoz.h"
 #include "platform/Dialogs.h"
 #include "shell/Configurator.h"
 #include "shell/session/RecordCounts.h"
 #include "shell/writing/GuardedWrite.h"
+#include "shell/writing/VoiceDoubts.h"
 #include "shell/writing/WriteDoubts.h"
 
 namespace ostrel {
 namespace {
 
 constexpr int kMessageTime = 10'000;  // ms
+
+QString VoiceQuestion(const VoiceDoubt& doubt) {
+  switch (doubt.kind) {
+    case VoiceDoubt::Kind::Empty:
+      return Words::tr("The list is empty: the logger loses all numbers that it holds. Write it?");
+    case VoiceDoubt::Kind::NoNumber:
+      return Words::tr(
+                 "%n of the numbers are no telephone numbers, the first of them \"%1\". A "
+                 "logger may refuse them. Write the list?",
+                 nullptr, doubt.count)
+          .arg(ToQt(Printable(doubt.number)));
+    case VoiceDoubt::Kind::TooMany:
+    case VoiceDoubt::Kind::NoMacro:
+      break;
+  }
+  return Words::tr(
+      "A logger takes 250 numbers at the most, and macros 0 to 39. It may refuse the list. Write "
+      "it?");
+}
 
 }  // namespace
 
@@ -141,25 +159,12 @@ void MainWindow::TransferEnded(const TransferEnd& end) {
 }
 
 bool MainWindow::MayWriteList(const ConfAutVoz& list) {
-  const std::vector<std::string> numbers = NumbersOf(list);
-  std::vector<std::string> bad;
-  for (const std::string& number : numbers)
-    if (!IsIntText(number)) bad.push_back(number);
-  QString doubt;
-  if (numbers.empty())
-    doubt = Words::tr("The list is empty: the logger loses all numbers that it holds. Write it?");
-  else if (!bad.empty())
-    doubt = Words::tr(
-                "%n of the numbers are no telephone numbers, the first of them \"%1\". A "
-                "logger may refuse them. Write the list?",
-                nullptr, static_cast<int>(bad.size()))
-                .arg(ToQt(Printable(bad.front())));
-  return doubt.isEmpty() ||
-         parts_.platform.dialogs.ShowMessage({.text = FromQt(doubt),
-                                              .title = configurator_.profile.TargetName,
-                                              .icon = BoxIcon::Question,
-                                              .buttons = BoxButtons::YesNo,
-                                              .prefersNo = true}) == BoxAnswer::Yes;
+  const auto doubt = DoubtOfVoiceList(list);
+  return !doubt || parts_.platform.dialogs.ShowMessage({.text = FromQt(VoiceQuestion(*doubt)),
+                                                        .title = configurator_.profile.TargetName,
+                                                        .icon = BoxIcon::Question,
+                                                        .buttons = BoxButtons::YesNo,
+                                                        .prefersNo = true}) == BoxAnswer::Yes;
 }
 
 bool MainWindow::MayChangeModel(const std::string& model) {

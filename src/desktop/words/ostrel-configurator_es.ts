@@ -84,8 +84,16 @@
         <translation>Persistencia:</translation>
     </message>
     <message>
-        <source>This is not a number of the kind expected here. It counts as %1.</source>
-        <translation>No es un número del tipo que aquí se espera. Vale como %1.</translation>
+        <source>This is not a number of the kind expected here.</source>
+        <translation>No es un número del tipo que aquí se espera.</translation>
+    </message>
+    <message>
+        <source>This number does not fit here.</source>
+        <translation>Este número no cabe aquí.</translation>
+    </message>
+    <message>
+        <source>%1 is kept.</source>
+        <translation>Se guarda %1.</translation>
     </message>
     <message>
         <source>Section</source>
@@ -886,6 +894,22 @@
     <message>
         <source>what was read from the logger fits the model %1, and the model chosen is %2</source>
         <translation>lo leído del registrador corresponde al modelo %1, y el modelo elegido es %2</translation>
+    </message>
+    <message>
+        <source>what was read from the logger fits no model, and the model chosen is %1</source>
+        <translation>lo leído del registrador no corresponde a ningún modelo, y el modelo elegido es %1</translation>
+    </message>
+    <message>
+        <source>the logger did not tell who it is</source>
+        <translation>el registrador no ha dicho quién es</translation>
+    </message>
+    <message>
+        <source>the logger did not tell who it is: lines were lost or arrived damaged</source>
+        <translation>el registrador no ha dicho quién es: se perdieron líneas o llegaron dañadas</translation>
+    </message>
+    <message>
+        <source>the logger greets, and does not tell who it is: it may have no firmware</source>
+        <translation>el registrador saluda y no dice quién es: puede que no tenga firmware</translation>
     </message>
     <message>
         <source>the last reading of the logger failed</source>
@@ -2638,6 +2662,10 @@
     <message>
         <source>Writing the voice-call list</source>
         <translation>Escribiendo la lista de voz</translation>
+    </message>
+    <message>
+        <source>A logger takes 250 numbers at the most, and macros 0 to 39. It may refuse the list. Write it?</source>
+        <translation>Un equipo admite 250 números como máximo y las macros 0 a 39. Puede rechazar la lista. ¿Escribirla?</translation>
     </message>
     <message>
         <source>The list is empty: the logger loses all numbers that it holds. Write it?</source>

@@ -1,5 +1,7 @@
 #include "link/dialogues/LiveCommands.h"
 
+#include <algorithm>
+
 #include "link/LinkTimes.h"
 
 namespace ostrel {
@@ -28,8 +30,12 @@ LinkFault FetchTotals(Line& line, TotalCounts& totals) {
   return fault;
 }
 
-LinkFault FetchEach(Line& line, const std::vector<LiveRequest>& requests) {
-  for (const LiveRequest& request : requests) Fetch(line, request);
+LinkFault FetchNames(Line& line, const std::vector<LiveRequest>& requests,
+                     std::vector<NameAnswer>& told) {
+  told.clear();
+  for (const LiveRequest& request : requests)
+    if (Fetch(line, request).Ok())
+      told.push_back({request.head, static_cast<int>(std::ranges::count(line.RxLine, ','))});
   return EndOf(line);
 }
 

@@ -14,11 +14,20 @@ namespace ostrel {
 /// Asks for the totals until the answer is one.
 LinkFault FetchTotals(Line& line, TotalCounts& totals);
 
-/// Asks each request once. What is missing or wrong leaves the values as they were; a fault tells
-/// only that the line did not last to the end.
-LinkFault FetchEach(Line& line, const std::vector<LiveRequest>& requests);
+/// An answer with the names and units of channels.
+struct NameAnswer {
+  std::string_view head;  ///< that of its request
+  int fields = 0;         ///< behind the head
+};
 
-/// The same, but the answer that carries the masks has to come. Notes which answers came and when.
+/// Asks each request for names once, and notes which were answered with how much. What is missing
+/// or wrong leaves the values as they were; a fault tells only that the line did not last to the
+/// end.
+LinkFault FetchNames(Line& line, const std::vector<LiveRequest>& requests,
+                     std::vector<NameAnswer>& told);
+
+/// The same for live values, but the answer that carries the masks has to come. Notes which answers
+/// came and when.
 LinkFault FetchLive(Line& line, const std::vector<LiveRequest>& requests, const Clock& clock);
 
 /// Sets outputs 0 to `count` less 1 by a mask, one bit each. Answers are not looked at.

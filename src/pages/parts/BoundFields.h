@@ -1,6 +1,9 @@
 #pragma once
 
+#include <cmath>
 #include <functional>
+#include <limits>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -29,6 +32,17 @@ std::string NumberText(Number number, NumberForm form) {
     return form == NumberForm::Dec ? DecText(number) : NumText(number);
 }
 
+/// What a field that holds `former` keeps of the number in a box.
+template <class Number>
+TextBox::KeptNumber KeptOf(const TextBox& box, Number former, NumberForm form) {
+  const double typed = NumberIn(box);
+  Number kept = former;
+  Assign(kept, typed);
+  const bool isSame = std::integral<Number> ? static_cast<double>(kept) == typed
+                                            : std::abs(typed) <= std::numeric_limits<Number>::max();
+  return {NumberText(kept, form), !isSame};
+}
+
 /// The controls of a form that show plain fields of a record, each bound to its member. A text box
 /// takes as many characters as its field may have.
 template <class Record>
@@ -47,10 +61,14 @@ class BoundFields {
     box.SetMaxLength(MetaOf(member).longest);
     box.SetNumberKind(kind);
     Edits(box.face, member);
-    bound_.push_back({[&box, member, form](const Record& record) {
+    const auto former = std::make_shared<Number>();
+    box.Kept = [&box, former, form] { return KeptOf(box, *former, form); };
+    bound_.push_back({[&box, member, form, former](const Record& record) {
+                        *former = record.*member;
                         box.SetText(NumberText(record.*member, form));
                       },
-                      [&box, member](Record& record) { Assign(record.*member, NumberIn(box)); }});
+                      [&box, member](Record& record) { Assign(record.*member, NumberIn(box)); },
+                      [member, former](const Record& record) { *former = record.*member; }});
     numbers_.push_back(&box);
   }
   /// A check box for a yes or no.
@@ -67,11 +85,16 @@ class BoundFields {
                       [&box, member](Record& record) { Assign(record.*member, box.Position()); }});
   }
 
-  void Load(const Record& record) const {
+  void Load(const Record& record) {
+    loaded_ = &record;
     for (const Binding& binding : bound_) binding.load(record);
   }
   void Save(Record& record) const {
-    for (const Binding& binding : bound_) binding.save(record);
+    const bool isCommitted = &record == loaded_;  // and not a copy, made to look at it
+    for (const Binding& binding : bound_) {
+      binding.save(record);
+      if (isCommitted && binding.note) binding.note(record);
+    }
   }
   void CheckNumbers() const {
     for (TextBox* box : numbers_) CheckNumberBox(*box, box->NumberKind());
@@ -81,7 +104,9 @@ class BoundFields {
   struct Binding {
     std::function<void(const Record&)> load;
     std::function<void(Record&)> save;
+    std::function<void(const Record&)> note{};  ///< takes what the record holds from now on
   };
+  const Record* loaded_ = nullptr;
   std::vector<Binding> bound_;
   std::vector<TextBox*> numbers_;
 };

@@ -12,6 +12,11 @@ ThresholdBoxes::ThresholdBoxes(Form& form, const ControlNames& names, NumberForm
           std::make_unique<Label>(form, names("Label" + std::string(shape.name)), shape.label);
     entry.box = std::make_unique<TextBox>(form, names(shape.name));
     entry.box->SetNumberKind(shape.kind);
+    entry.box->Kept = [&box = *entry.box, &former = *entry.former, numberForm] {
+      const TextBox::KeptNumber kept = KeptOf(box, former.shown, numberForm);
+      if (former.factor != 0) return kept;
+      return TextBox::KeptNumber{NumberText(former.shown, numberForm), true};
+    };
     entries_.push_back(std::move(entry));
   }
 }

@@ -33,6 +33,7 @@ class ThresholdBoxes {
     std::size_t i = 0;
     Describe(thresholds, [&](const FieldMeta&, float value) {
       const Entry& entry = entries_[i++];
+      *entry.former = entry.shape.isScaled ? Former{value * factor, factor} : Former{value, 1};
       entry.box->SetText(NumberText(entry.shape.isScaled ? value * factor : value, numberForm_));
     });
   }
@@ -50,10 +51,16 @@ class ThresholdBoxes {
   void SetEnabled(bool enabled);
 
  private:
+  /// What was shown last, and by which factor: one of 0 lets nothing be typed.
+  struct Former {
+    float shown = 0;
+    float factor = 1;
+  };
   struct Entry {
     ThresholdBox shape;
     std::unique_ptr<Label> label;  ///< null for none
     std::unique_ptr<TextBox> box;
+    std::unique_ptr<Former> former = std::make_unique<Former>();
   };
 
   NumberForm numberForm_;

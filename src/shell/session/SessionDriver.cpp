@@ -7,7 +7,6 @@
 #include "base/Scope.h"
 #include "platform/Clock.h"
 #include "platform/Dialogs.h"
-#include "shell/writing/ModelEvidence.h"
 
 namespace ostrel {
 namespace {
@@ -138,12 +137,14 @@ bool SessionDriver::Open(std::int16_t port, const std::string& phone, OpenTo wan
     });
     unverified_ = false;
     greeting_.clear();
-    fitting_.clear();
+    ofNames_ = ofStream_ = kAnyModel;
+    toldDoubt_.reset();
     Connected_ = comms_.StartComs(port, phone);
     if (Connected_) {
       greeting_ = comms_.RxLine;
-      if (const auto doubt = ModelDoubt(); doubt && OnModelDoubt) OnModelDoubt(*doubt);
+      TellModelDoubt();
       ReadAfterConnect(wanted);
+      TellModelDoubt();
     }
   }
   opening.Ended(Connected_);
@@ -182,6 +183,7 @@ void SessionDriver::ReadAfterConnect(OpenTo wanted) {
   if (isMute && wanted == OpenTo::AnyThatGreets) return;
   comms_.ReadTotalCount();
   comms_.ReadIOParameter();
+  ofNames_ = ModelsOfNames(comms_.NamesTold());
   // A clock that did not come, or came damaged, is no reason to set one.
   const bool isClockRead = comms_.ReadDeviceRTC();
   if (isClockRead && comms_.PortOpen()) CompareClocks();
@@ -209,9 +211,7 @@ void SessionDriver::ShowState() {
 }
 
 void SessionDriver::ForgetSuccess() {
-  const std::string& shown = session_.ComStat.face.Key();
-  if (state_.phase == SessionPhase::Open && (shown == kWritten || shown == kRead))
-    SetStatus(kStands);
+  if (state_.phase == SessionPhase::Open && tellsSuccess_) SetStatus(kStands);
 }
 
 bool SessionDriver::Upload() {
@@ -232,6 +232,7 @@ bool SessionDriver::Transfer(SessionPhase kind, std::string_view status, std::st
     session_.EnableTransfers(false);
     const AtEnd ended([&] {
       SetStatus(end.done ? success : "Error!");
+      tellsSuccess_ = end.done;
       if (brokenOff_) {
         Connected_ = false;
         ShowState();
@@ -252,6 +253,7 @@ bool SessionDriver::Transfer(SessionPhase kind, std::string_view status, std::st
     working.Ended(end.done);
   }
   if (OnTransferEnded) OnTransferEnded(end);
+  TellModelDoubt();
   return end.done;
 }
 
@@ -326,20 +328,38 @@ bool SessionDriver::ReadOrPutBack() {
     putBack();
     return false;
   }
-  fitting_ = ModelsThatFit(context_.conf, context_.profile,
-                           [this](std::string_view text) { return context_.Translate(text); });
+  ofStream_ = ModelsOfStream(comms_.DownloadedLines());
   return true;
 }
 
 std::optional<Phrase> SessionDriver::ModelDoubt() const {
   const std::string& chosen = context_.profile.TargetName;
   if (!Connected_) return {};
-  if (const auto named = ModelInGreeting(greeting_); !named.empty() && named != chosen)
+  if (const auto named = ModelInGreeting(greeting_); !named.empty()) {
+    if (named == chosen) return {};
     return Phrase{"the logger says that it is the model %1, and the model chosen is %2",
                   {std::string(named), chosen}};
-  if (fitting_.empty() || std::ranges::find(fitting_, chosen) != fitting_.end()) return {};
+  }
+  std::string_view fitting;
+  for (std::size_t i = 0; i < kAnyModel.size(); ++i) {
+    if (!ofNames_[i] || !ofStream_[i]) continue;
+    const std::string_view name = TargetModels()[i].name;
+    if (name == chosen) return {};
+    if (fitting.empty()) fitting = name;
+  }
+  if (fitting.empty())
+    return Phrase{"what was read from the logger fits no model, and the model chosen is %1",
+                  {chosen}};
   return Phrase{"what was read from the logger fits the model %1, and the model chosen is %2",
-                {fitting_.front(), chosen}};
+                {std::string(fitting), chosen}};
+}
+
+/// Once, as long as it stays the same.
+void SessionDriver::TellModelDoubt() {
+  auto doubt = ModelDoubt();
+  if (!doubt || !OnModelDoubt || doubt == toldDoubt_) return;
+  toldDoubt_ = std::move(doubt);
+  OnModelDoubt(*toldDoubt_);
 }
 
 void SessionDriver::BeginWatch(SessionPhase kind) {
@@ -350,7 +370,7 @@ void SessionDriver::BeginWatch(SessionPhase kind) {
 }
 
 bool SessionDriver::OwnsModel() const {
-  return IsTransfer(state_.phase) || (HasRequest() && Serves());
+  return IsTransfer(state_.phase) || listWork_ != ListWork::None || (HasRequest() && Serves());
 }
 
 bool SessionDriver::RequestWaits() const { return HasRequest() && !OwnsModel(); }
@@ -371,7 +391,13 @@ void SessionDriver::CodeAsked(bool given) {
   if (code_ == CodeAnswer::NotAsked) code_ = CodeAnswer::NotGiven;
 }
 
+void SessionDriver::ShowWritten() {
+  SetStatus(kWritten);
+  tellsSuccess_ = true;
+}
+
 void SessionDriver::SetStatus(std::string_view key) {
+  tellsSuccess_ = false;
   session_.ComStat.face.SetCaption(key, context_.Translate(key));
 }
 

@@ -14,6 +14,7 @@
 #include "shell/session/LinkLife.h"
 #include "shell/session/SessionState.h"
 #include "shell/session/TransferWatch.h"
+#include "shell/writing/ModelEvidence.h"
 
 namespace ostrel {
 
@@ -94,9 +95,10 @@ class SessionDriver {
   const SessionState& State() const { return state_; }
   /// Number of the port that a session was last asked on; 0 before.
   std::int16_t Port() const { return port_; }
-  /// True from the moment on from which a transfer owns the model: nothing may be edited, opened,
-  /// saved or compared any more. A request that cannot be served yet, because no session stands or
-  /// the general page is not in front, leaves the model free.
+  /// True from the moment on from which a transfer owns the model, that of a voice-call list
+  /// included: nothing may be edited, opened, saved or compared any more. A request that cannot be
+  /// served yet, because no session stands or the general page is not in front, leaves the model
+  /// free.
   bool OwnsModel() const;
   /// Whether a transfer has been asked for that cannot begin yet, for one of these reasons.
   bool RequestWaits() const;
@@ -114,7 +116,7 @@ class SessionDriver {
   TransferWatch& Watch() { return watch_; }
 
   /// Tells that a configuration is written, after it has been read back.
-  void ShowWritten() { SetStatus(kWritten); }
+  void ShowWritten();
   /// What the logger holds is not on the pages any more: the words of the last success go.
   void ForgetSuccess();
 
@@ -129,7 +131,8 @@ class SessionDriver {
   // Set by the face.
   /// Serve a request to read or to write, instead of the plain transfers.
   std::function<void()> ServeRead, ServeWrite;
-  /// Runs as soon as a logger has greeted as another model than the one chosen.
+  /// Runs as soon as a logger has told that it is of another model than the one chosen: by its
+  /// greeting, by the names of its channels, or by its configuration.
   std::function<void(const Phrase& doubt)> OnModelDoubt;
   /// Runs after the state, or what a transfer waits for, has changed.
   std::function<void()> OnStateChanged;
@@ -151,6 +154,7 @@ class SessionDriver {
   void Serve(bool& request, const std::function<void()>& byFace, bool (SessionDriver::*transfer)());
   void ReadAfterConnect(OpenTo wanted);
   void CompareClocks();
+  void TellModelDoubt();
   void ShowState();
   /// Runs a transfer with the page disabled, between its two status texts.
   bool Transfer(SessionPhase kind, std::string_view status, std::string_view success);
@@ -182,11 +186,14 @@ class SessionDriver {
   bool brokenOff_ = false;
   CodeAnswer code_ = CodeAnswer::NotAsked;
   bool lastReadFailed_ = false;
+  bool tellsSuccess_ = false;  ///< of the last transfer, on the general page
   ListWork listWork_ = ListWork::None;
   FlashState flash_ = FlashState::Kept;
-  std::string greeting_;              ///< of the logger that answers
-  std::vector<std::string> fitting_;  ///< models that have all that it told of; empty: not known
-  DeviceConf sent_;                   ///< what the last attempt of an upload sends
+  std::string greeting_;             ///< of the logger that answers
+  ModelSet ofNames_ = kAnyModel;     ///< models that its names of channels allow ...
+  ModelSet ofStream_ = kAnyModel;    ///< ... and its configuration
+  std::optional<Phrase> toldDoubt_;  ///< what was told of it
+  DeviceConf sent_;                  ///< what the last attempt of an upload sends
 };
 
 }  // namespace ostrel

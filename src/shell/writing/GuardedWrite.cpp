@@ -1,5 +1,8 @@
 #include "shell/writing/GuardedWrite.h"
 
+#include <type_traits>
+
+#include "base/Scope.h"
 #include "shell/Configurator.h"
 #include "shell/compare/Against.h"
 #include "shell/ledger/IdentityGuard.h"
@@ -33,13 +36,18 @@ class PagesKept {
 /// Reads what the logger holds, and gets the consent to replace it. Nothing when all is well.
 std::optional<WriteEnd> Prepare(Configurator& configurator, const WriteRoad& road,
                                 const DeviceConf& toSend) {
-  const bool isGuarded = road.inSpiteOf && HaveMet(configurator);
+  const auto isDeclined = [&road](const std::optional<Phrase>& doubt) {
+    return doubt && road.inSpiteOf && !road.inSpiteOf(*doubt);
+  };
+  const bool isGuarded = road.inSpiteOf && !road.isFormerState && HaveMet(configurator);
   if (!road.keep && !road.mayWrite && !isGuarded) return {};
+  const auto known = configurator.session.ModelDoubt();  // whoever writes has been asked about it
   const auto held = ReadBeside(configurator, road.read);
   if (!held) return WriteEnd::NotRead;
+  if (const auto doubt = configurator.session.ModelDoubt(); doubt != known && isDeclined(doubt))
+    return WriteEnd::Declined;
   if (road.keep && !road.keep(*held)) return WriteEnd::NotKept;
-  if (const auto doubt = isGuarded ? DoubtOfHeld(configurator, *held) : std::nullopt;
-      doubt && !road.inSpiteOf(*doubt))
+  if (isGuarded && isDeclined(DoubtOfHeld(configurator, *held)))
     return WriteEnd::Declined;
   if (road.mayWrite &&
       !road.mayWrite(Against(configurator, toSend, *held, road.passwords).WhatChanges()))
@@ -71,6 +79,9 @@ std::optional<DeviceConf> ReadBeside(Configurator& configurator,
 
 WriteResult WriteGuarded(Configurator& configurator, const WriteRoad& road) {
   const auto guarded = configurator.ledger.WithGuards();
+  // What its readings tell of the model is asked about: nobody is to be told beside it.
+  auto& tell = configurator.session.OnModelDoubt;
+  const Lent untold(tell, std::remove_reference_t<decltype(tell)>{});
   configurator.session.ForgetWritten();
   WriteResult result{.sent = configurator.conf};
   result.end = Send(configurator, road, result);

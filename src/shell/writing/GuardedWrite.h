@@ -17,9 +17,10 @@ struct WriteRoad {
   std::function<bool()> write;  ///< uploads the model
   /// Keeps what the logger held before; null keeps nothing.
   std::function<bool(const DeviceConf& held)> keep{};
-  /// Asked where the ledger speaks against replacing what the logger holds, which is read ahead
-  /// where the file was used with it; null when nobody asks.
+  /// Asked where what the logger holds, which is read ahead, speaks against replacing it: it is of
+  /// another model, or the ledger knows that others have changed it. Null when nobody asks.
   std::function<bool(const Phrase& doubt)> inSpiteOf{};
+  bool isFormerState = false;  ///< what is sent is to replace what the ledger does not know
   /// Asked with what will change, from the logger to the model; null when nobody asks.
   std::function<bool(const Comparison& changes)> mayWrite{};
   bool verify = true;                       ///< reads everything back and compares

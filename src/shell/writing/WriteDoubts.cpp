@@ -53,9 +53,22 @@ std::optional<Phrase> WhatLacks(const ModelConfiguration& configuration, const s
   return {};
 }
 
+std::optional<Phrase> DoubtOfInformation(const Configurator& configurator) {
+  const LinkFault& told = configurator.comms.InfoFault();
+  if (told.Ok()) return {};
+  if (told.IsDamage())
+    return Phrase("the logger did not tell who it is: lines were lost or arrived damaged");
+  if (told.kind == LinkFault::Kind::Silence)
+    return Phrase("the logger greets, and does not tell who it is: it may have no firmware");
+  return Phrase("the logger did not tell who it is");
+}
+
 std::vector<Phrase> DoubtsOfWriting(const Configurator& configurator) {
   std::vector<Phrase> doubts;
   if (auto model = configurator.session.ModelDoubt()) doubts.push_back(std::move(*model));
+  // The serial number comes behind the features, and is that of this session.
+  if (configurator.Connected && configurator.info.SerialNumber.empty())
+    if (auto unknown = DoubtOfInformation(configurator)) doubts.push_back(std::move(*unknown));
   for (Phrase& doubt : DoubtsOfIdentity(configurator)) doubts.push_back(std::move(doubt));
   if (configurator.session.LastReadFailed())
     doubts.push_back({"the last reading of the logger failed"});

@@ -21,6 +21,10 @@ std::vector<FoundByRule> ErrorsIn(const ModelConfiguration& configuration,
 std::optional<Phrase> WhatLacks(const ModelConfiguration& configuration, const std::string& path,
                                 Files& files, const Translation& translate);
 
+/// What is amiss where the logger of a session did not tell who it is, nor what its firmware can
+/// do. Nothing where it has.
+std::optional<Phrase> DoubtOfInformation(const Configurator& configurator);
+
 /// What speaks against writing the configuration of a configurator into the logger that answers,
 /// as sentences for people. Empty when nothing does.
 std::vector<Phrase> DoubtsOfWriting(const Configurator& configurator);
