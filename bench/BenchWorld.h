@@ -2,8 +2,8 @@
 
 #include "platform/virtual/VirtualWorld.h"
 #include "shell/Configurator.h"
-#include "sim/LineComposer.h"
 #include "sim/Logger.h"
+#include "sim/wire/LineComposer.h"
 
 namespace ostrel {
 

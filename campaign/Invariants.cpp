@@ -8,8 +8,8 @@
 #include "base/CodePage.h"
 #include "blocks/Configuration.h"
 #include "link/LinkTimes.h"
-#include "sim/LineComposer.h"
-#include "sim/StatementParser.h"
+#include "sim/wire/LineComposer.h"
+#include "sim/wire/StatementParser.h"
 
 namespace ostrel::campaign {
 namespace {

@@ -8,8 +8,8 @@
 #include <unordered_set>
 
 #include "platform/Line.h"
-#include "sim/Frame.h"
 #include "sim/Random.h"
+#include "sim/wire/Frame.h"
 
 namespace ostrel::campaign {
 

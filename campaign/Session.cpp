@@ -5,8 +5,8 @@
 #include <utility>
 
 #include "blocks/Configuration.h"
-#include "shell/FaultWords.h"
 #include "shell/ledger/Interrupted.h"
+#include "shell/session/FaultWords.h"
 
 namespace ostrel::campaign {
 namespace {

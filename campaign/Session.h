@@ -11,7 +11,7 @@
 #include "Invariants.h"
 #include "Tally.h"
 #include "World.h"
-#include "shell/GuardedWrite.h"
+#include "shell/writing/GuardedWrite.h"
 
 namespace ostrel::campaign {
 

@@ -3,7 +3,7 @@
 
 #include "Session.h"
 #include "blocks/Configuration.h"
-#include "shell/SafetyCopies.h"
+#include "shell/writing/SafetyCopies.h"
 #include "sim/blocks/Block.h"
 
 namespace ostrel::campaign {

@@ -2,7 +2,7 @@
 
 #include "Target.h"
 #include "platform/virtual/VirtualFiles.h"
-#include "shell/ConfigurationFile.h"
+#include "shell/files/ConfigurationFile.h"
 #include "store/IniClass.h"
 
 namespace {

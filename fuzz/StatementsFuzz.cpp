@@ -3,9 +3,9 @@
 
 #include "NoLine.h"
 #include "Target.h"
-#include "sim/LineComposer.h"
 #include "sim/Logger.h"
-#include "sim/StatementParser.h"
+#include "sim/wire/LineComposer.h"
+#include "sim/wire/StatementParser.h"
 
 namespace {
 

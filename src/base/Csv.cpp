@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "base/Numbers.h"
+
 namespace ostrel {
 namespace {
 
@@ -24,6 +26,13 @@ std::string CsvCell(const std::string& cell) {
   std::string quoted = "\"";
   for (const char c : cell) quoted += c == '"' ? std::string("\"\"") : std::string(1, c);
   return quoted + '"';
+}
+
+std::string SheetText(std::string text) {
+  constexpr std::string_view kBeginsFormula = "=+-@";
+  const bool looksSo = !text.empty() && kBeginsFormula.find(text[0]) != std::string_view::npos;
+  if (looksSo && !IsFloatText(text)) text.insert(0, 1, '\'');
+  return text;
 }
 
 std::string CsvRow(std::span<const std::string> cells) {

@@ -4,14 +4,12 @@
 #include <array>
 #include <cmath>
 
+#include "platform/Digits.h"
+
 namespace ostrel {
 namespace {
 
 constexpr std::int32_t kDaySeconds = 86'400;
-
-std::string TwoDigits(std::int32_t number) {
-  return {static_cast<char>('0' + number / 10), static_cast<char>('0' + number % 10)};
-}
 
 std::string_view TrimBlanks(std::string_view text) {
   const std::size_t first = text.find_first_not_of(" \t");
@@ -44,8 +42,8 @@ std::optional<TimeOfDay> SecondsToTime(std::int32_t& seconds) {
 
 std::string TimeText(TimeOfDay time) {
   const std::int32_t seconds = std::clamp(time.seconds, 0, kDaySeconds - 1);
-  return std::to_string(seconds / 3600) + ":" + TwoDigits(seconds / 60 % 60) + ":" +
-         TwoDigits(seconds % 60);
+  return std::to_string(seconds / 3600) + ":" + Padded(seconds / 60 % 60, 2) + ":" +
+         Padded(seconds % 60, 2);
 }
 
 std::optional<TimeOfDay> TextTime(std::string_view text) {

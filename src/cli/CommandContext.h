@@ -15,9 +15,9 @@
 #include "lang/Lang.h"
 #include "platform/TappedPort.h"
 #include "recording/Recorder.h"
-#include "shell/ConfigurationFile.h"
 #include "shell/Configurator.h"
-#include "shell/FieldWords.h"
+#include "shell/files/ConfigurationFile.h"
+#include "shell/words/FieldWords.h"
 
 namespace ostrel::cli {
 

@@ -3,9 +3,9 @@
 #include "base/CodePage.h"
 #include "blocks/Configuration.h"
 #include "cli/FaultText.h"
-#include "shell/ForeignKeys.h"
-#include "shell/WriteDoubts.h"
 #include "shell/check/CheckRules.h"
+#include "shell/files/ForeignKeys.h"
+#include "shell/writing/WriteDoubts.h"
 
 namespace ostrel::cli {
 namespace {

@@ -5,7 +5,7 @@
 
 #include "blocks/Receiver.h"
 #include "cli/CommandContext.h"
-#include "shell/SafetyCopies.h"
+#include "shell/writing/SafetyCopies.h"
 
 namespace ostrel::cli {
 

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "shell/FieldWords.h"
+#include "shell/words/FieldWords.h"
 
 namespace ostrel::cli {
 namespace {

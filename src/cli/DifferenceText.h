@@ -3,7 +3,7 @@
 #include <optional>
 
 #include "cli/Result.h"
-#include "shell/Comparison.h"
+#include "shell/compare/Comparison.h"
 
 namespace ostrel::cli {
 

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "shell/FaultWords.h"
+#include "shell/session/FaultWords.h"
 
 namespace ostrel::cli {
 

@@ -1,5 +1,7 @@
 #include "cli/StandardFiles.h"
 
+#include <algorithm>
+
 namespace ostrel::cli {
 
 FileResult StandardFiles::ReadUpTo(const std::string& path, std::size_t most, std::string& octets) {
@@ -8,6 +10,13 @@ FileResult StandardFiles::ReadUpTo(const std::string& path, std::size_t most, st
   if (!read_) read_ = readInput_(input_);
   octets = input_;
   return *read_;
+}
+
+FileResult StandardFiles::ReadEnd(const std::string& path, std::size_t most, std::string& octets) {
+  if (!IsOwn(path)) return files_.ReadEnd(path, most, octets);
+  FileResult read = ReadUpTo(path, kMostFileOctets, octets);
+  octets.erase(0, octets.size() - std::min(octets.size(), most));
+  return read;
 }
 
 FileResult StandardFiles::ReadHistory(std::int64_t id, std::string& octets) {

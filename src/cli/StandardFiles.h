@@ -29,6 +29,7 @@ class StandardFiles final : public Files {
 
   /// What comes in by standard input has the limit of most files.
   FileResult ReadUpTo(const std::string& path, std::size_t most, std::string& octets) override;
+  FileResult ReadEnd(const std::string& path, std::size_t most, std::string& octets) override;
   bool Exists(const std::string& path) override { return IsOwn(path) || files_.Exists(path); }
   std::vector<std::string> List(const std::string& folder) override { return files_.List(folder); }
   std::string Absolute(const std::string& path) override {

@@ -4,7 +4,7 @@
 #include <string_view>
 
 #include "cli/Console.h"
-#include "shell/TransferWatch.h"
+#include "shell/session/TransferWatch.h"
 
 namespace ostrel::cli {
 

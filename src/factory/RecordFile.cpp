@@ -4,6 +4,7 @@
 
 #include "base/Csv.h"
 #include "base/Numbers.h"
+#include "base/Printable.h"
 #include "factory/FolderLock.h"
 
 namespace ostrel {
@@ -23,29 +24,35 @@ std::string Headings(const std::vector<std::string>& values) {
   return CsvRow(row);
 }
 
-/// What stands ahead of a new row: the headings of a new table, an end for a row that was torn,
-/// which may have left a quote open.
+/// What stands ahead of a new row: the headings of a table that has none yet, an end for a row that
+/// was torn, which may have left a quote open. No cell holds a line end.
 std::string StartOf(Files& files, const std::string& path, const std::vector<std::string>& values) {
-  std::string octets;
-  files.ReadInto(path, octets);
-  if (octets.empty()) return files.Exists(path) ? "" : Headings(values);
-  if (std::ranges::count(octets, '"') % 2 != 0) return "\"\r\n";
-  return octets.ends_with('\n') ? "" : "\r\n";
+  constexpr std::size_t kLongestRow = 65'536;
+  std::string end;
+  const FileResult read = files.ReadEnd(path, kLongestRow, end);
+  if (!read.Ok() && files.Exists(path)) return "";
+  if (end.empty()) return Headings(values);
+  const std::string_view torn = std::string_view(end).substr(end.rfind('\n') + 1);
+  if (torn.empty()) return "";
+  return std::ranges::count(torn, '"') % 2 != 0 ? "\"\r\n" : "\r\n";
 }
+
+/// What somebody typed or a board told, as a cell.
+std::string Typed(const std::string& text) { return SheetText(Printable(text)); }
 
 std::string RowOf(const TestRecord& record, const std::vector<std::string>& values) {
   const std::chrono::duration<double> seconds = record.duration;
   std::vector<std::string> row{DateTimeText(record.startedAt),
                                record.test,
                                record.model,
-                               record.operatorName,
-                               record.station,
-                               record.serial,
+                               Typed(record.operatorName),
+                               Typed(record.station),
+                               Typed(record.serial),
                                record.givenSerial,
                                std::string(VerdictWord(record.verdict)),
                                record.checked ? "yes" : "no",
                                DecText(std::round(seconds.count() * 1000) / 1000),
-                               Joined(record.failures)};
+                               Typed(Joined(record.failures))};
   for (const std::string& name : values) {
     const auto measured = std::ranges::find(record.values, name, &Measurement::name);
     const bool stands = measured != record.values.end();

@@ -1,8 +1,10 @@
 #include "factory/SerialCounter.h"
 
-#include "base/Values.h"
+#include <utility>
+
+#include "base/Numbers.h"
 #include "factory/FolderLock.h"
-#include "link/WireText.h"
+#include "platform/Digits.h"
 #include "store/IniTool.h"
 
 namespace ostrel {
@@ -27,14 +29,18 @@ FileResult SerialCounter::Raise(int& value) {
 
 FileResult SerialCounter::RaiseLocked(int& value) {
   Files& files = platform_.files;
-  const std::string path = folder_ + "/TestOstrel.ini";
+  const std::string path = Path();
   // Made as any file is, so that the other stations may write it.
   if (!files.Exists(path))
-    if (FileResult made = files.Append(path, ContentOf(0)); !made.Ok()) return made;
+    if (FileResult made = files.Append(path, ContentOf(0)); !made.Ok()) {
+      files.Remove(path);  // an empty one would be taken for one that was cut
+      return made;
+    }
   std::string octets;
   if (FileResult read = files.ReadInto(path, octets); !read.Ok()) return read;
   // A file that was cut must not start the numbers over.
-  const std::string text = IniTool(files).ProfileRead(kSection, kKey, path);
+  ProfileIndex index(std::move(octets));
+  const std::string text = ProfileValue(index, kSection, kKey);
   const auto last = IsIntText(text) ? RoundToEven<int>(NumVal(text)) : std::nullopt;
   if (!last || *last < 0) return {"it holds no counter"};
   const int next = (*last % kCounters + 1) % kCounters;

@@ -19,6 +19,8 @@ class SerialCounter {
   /// Raises the counter, which starts over behind 9999, and brings its new value. After a failure
   /// no number may be given: another station may give it.
   FileResult Raise(int& value);
+  /// The file in which it stands.
+  std::string Path() const { return folder_ + "/TestOstrel.ini"; }
 
  private:
   FileResult RaiseLocked(int& value);

@@ -30,8 +30,7 @@ TestPage::TestPage(TestPageContext context, const TestPlan& plan)
       TextStation(form_, "TextStation"),
       Values(form_, "Values"),
       Timer1(form_, "Timer1", context_.bench.platform.loop, std::chrono::seconds(1)) {
-  if (&plan == &kTestKA2)
-    Label1.emplace(form_, "Label1", "Iniciar el test con la bateria desconectada.");
+  if (!plan.hint.empty()) Label1.emplace(form_, "Label1", plan.hint);
   if (&plan == &kTestBQ) Check1.emplace(form_, "Check1", "No probar ED");
   if (&plan == &kTest) {
     Label2.emplace(form_, "Label2", "Posicion jumper para prueba:");
@@ -85,7 +84,10 @@ void TestPage::ShowRunning(bool runs) {
 void TestPage::Start() {
   Comms& comms = context_.bench.comms;
   comms.Reading().WhenFree([this, &comms] {
-    if (MayRun() && !comms.LinkBusy) RunTest();
+    if (Running()) return;
+    if (MayRun() && !comms.LinkBusy) return RunTest();
+    LabelTest.face.SetColour(BackColour::Window);
+    ShowStep("No se puede iniciar ahora: la linea esta ocupada", StepKind::Work);
   });
 }
 
@@ -103,12 +105,16 @@ void TestPage::RunTest() {
   ShowRunning(true);
   context_.lendSession(true);
   const AtEnd ended([this] {
+    ShowVerdict(run_->Record());
     context_.lendSession(false);
     run_.reset();
     ShowRunning(false);
   });
-  const TestRecord& record = run_->Run();
-  // Nothing that was not checked is shown as good.
+  run_->Run();
+}
+
+/// Nothing that was not checked is shown as good.
+void TestPage::ShowVerdict(const TestRecord& record) {
   if (record.verdict != TestVerdict::Passed)
     LabelTest.face.SetColour(BackColour::Red);
   else if (record.checked)
@@ -126,7 +132,7 @@ void TestPage::Stop() {
   if (run_) run_->Stop();
 }
 
-void TestPage::ShowStep(std::string_view text) { LabelTest.face.SetCaption(text); }
+void TestPage::ShowStep(std::string_view text, StepKind) { LabelTest.face.SetCaption(text); }
 
 /// The columns of a row stand between tabs; its value tells whether it has passed.
 void TestPage::ShowMeasured(const Measurement& measured) {

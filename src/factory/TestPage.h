@@ -39,7 +39,7 @@ class TestPage final : public FrontForm, private TestPanel {
   void Stop();
 
  private:
-  void ShowStep(std::string_view text) override;
+  void ShowStep(std::string_view text, StepKind kind) override;
   void ShowMeasured(const Measurement& measured) override;
   void ShowSignal(int rssi) override { ProgressBar1.SetValue(rssi); }
   void ShowSerial(const std::string& serial) override { DigitSerial.face.SetCaption(serial); }
@@ -53,6 +53,7 @@ class TestPage final : public FrontForm, private TestPanel {
   void Start();
   bool MayRun() const { return context_.Connected && !Running() && context_.mayLend(); }
   void RunTest();
+  void ShowVerdict(const TestRecord& record);
   void ShowFirstFailed();
   void ShowRunning(bool runs);
 

@@ -7,13 +7,19 @@
 
 namespace ostrel {
 
+/// What a line of a run is.
+enum class StepKind {
+  Work,     ///< what the run does
+  Prompt,   ///< the same, of which the operator does a part
+  Verdict,  ///< its end
+};
+
 /// Where a test run shows itself and asks its operator: a page, or a terminal. Texts are shown as
 /// they stand, in every language.
 class TestPanel {
  public:
   virtual ~TestPanel() = default;
-  /// What the run does now, or its verdict at the end.
-  virtual void ShowStep(std::string_view text) = 0;
+  virtual void ShowStep(std::string_view text, StepKind kind) = 0;
   virtual void ShowMeasured(const Measurement& measured) = 0;
   /// The modem's signal.
   virtual void ShowSignal(int rssi) = 0;

@@ -16,6 +16,8 @@ struct TestPlan {
   std::string_view modelName;  ///< display name of the model that it is for
   double scale;             ///< makes volts or degrees of what a board reads at its analog inputs
   std::string_view atRest;  ///< order that switches the fixture's outputs off
+  /// What the operator sees to ahead of a run; empty for nothing.
+  std::string_view hint;
   /// Everything ahead of the record and the end of the session.
   void (*steps)(TestRun& run);
   /// What the operator is asked for when the session has ended; empty for nothing.

@@ -1,5 +1,6 @@
 #include "factory/TestRun.h"
 
+#include <array>
 #include <utility>
 
 #include "base/Numbers.h"
@@ -36,13 +37,19 @@ const TestRecord& TestRun::Run() {
              .station = choice_.station.name};
   bench_.book.Begins(record_);
   HoldLine();
-  plan_.steps(*this);
+  try {
+    plan_.steps(*this);
+  } catch (...) {
+    lineLost_ = true;
+    End();
+    throw;
+  }
   End();
   return record_;
 }
 
 void TestRun::Stop() {
-  if (!std::exchange(stopped_, true)) line_.BreakOff();
+  if (!judged_ && !std::exchange(stopped_, true)) line_.BreakOff();
 }
 
 void TestRun::HoldLine() {
@@ -78,8 +85,15 @@ void TestRun::Delay(int ms) {
 
 void TestRun::ReadTestFrame() {
   if (!GoesOn()) return;
-  isRead_ = ostrel::ReadTestFrame(line_, plan_.scale, frame_);
+  came_ = ostrel::ReadTestFrame(line_, plan_.scale, frame_);
   NoteLine();
+}
+
+Reading TestRun::Analog(std::size_t analog) const {
+  constexpr std::array kValues{&TestFrame::A0, &TestFrame::A1, &TestFrame::A2, &TestFrame::A3};
+  constexpr std::array kCame{&TestFrameCame::A0, &TestFrameCame::A1, &TestFrameCame::A2,
+                             &TestFrameCame::A3};
+  return {frame_.*kValues.at(analog), came_.*kCame.at(analog)};
 }
 
 void TestRun::NumberBoard(bool isBlank) {
@@ -99,7 +113,11 @@ void TestRun::ShowSerial() {
 // ---- The operator
 
 void TestRun::Step(std::string_view text) {
-  if (GoesOn()) panel_.ShowStep(text);
+  if (GoesOn()) panel_.ShowStep(text, StepKind::Work);
+}
+
+void TestRun::Prompt(std::string_view text) {
+  if (GoesOn()) panel_.ShowStep(text, StepKind::Prompt);
 }
 
 void TestRun::Request(std::string_view text) {
@@ -120,33 +138,37 @@ void TestRun::Fail(std::string text) {
 
 // ---- Checks
 
-void TestRun::Note(std::string_view name, float value, const Band& band, bool passed) {
+void TestRun::Note(std::string_view name, Reading reading, const Band& band, bool passed) {
   if (!GoesOn()) return;
-  record_.values.push_back(
-      {std::string(name), isRead_ ? std::optional(value) : std::nullopt, band, passed});
+  record_.values.push_back({std::string(name),
+                            reading.isRead ? std::optional(reading.value) : std::nullopt, band,
+                            passed});
   panel_.ShowMeasured(record_.values.back());
 }
 
-void TestRun::Check(std::string_view name, float value, const Band& band, std::string_view failure,
-                    Telling telling) {
-  const bool passed = band.Holds(value);
-  Note(name, value, band, passed);
+void TestRun::Check(std::string_view name, Reading reading, const Band& band,
+                    std::string_view failure, Telling telling) {
+  const bool passed = band.Holds(reading.value);
+  Note(name, reading, band, passed);
   if (passed) return;
-  Fail(std::string(failure) + (telling == Telling::WithReading ? NumText(value) : std::string()));
+  Fail(std::string(failure) +
+       (telling == Telling::WithReading ? NumText(reading.value) : std::string()));
 }
 
 void TestRun::TakeSerial() {
   if (!GoesOn()) return;
   int counter = 0;
-  const FileResult raised = SerialCounter(bench_.platform, choice_.station.folder).Raise(counter);
+  SerialCounter counters(bench_.platform, choice_.station.folder);
+  const FileResult raised = counters.Raise(counter);
   mayNumber_ = raised.Ok();
-  if (!mayNumber_) return Fail("Error en el contador de numeros de serie: " + raised.error);
+  if (!mayNumber_)
+    return Fail("Error en el contador de numeros de serie " + counters.Path() + ": " +
+                raised.error);
   newSerial_ = SerialOf(bench_.platform.clock.LocalNow(), counter);
 }
 
 void TestRun::CheckBattery() {
-  isRead_ = bench_.comms.InfoFault().Ok();
-  Check(kBatteryValue, bench_.info.BatteryVoltage,
+  Check(kBatteryValue, {bench_.info.BatteryVoltage, bench_.comms.InfoFault().Ok()},
         {.kind = Band::Kind::AtLeast, .low = kLeastBatteryVolts},
         "Tension de bateria demasiado baja", Telling::Plain);
 }
@@ -158,7 +180,7 @@ void TestRun::CheckGsm() {
     ReadTestFrame();
     if (frame_.GsmState != 0) break;
   }
-  Check(kGsmValue, frame_.GsmState, {.kind = Band::Kind::GsmCode}, GsmFailure(frame_.GsmState),
+  Check(kGsmValue, Gsm(), {.kind = Band::Kind::GsmCode}, GsmFailure(frame_.GsmState),
         Telling::Plain);
   if (GoesOn()) panel_.ShowSignal(bench_.info.Rssi);
 }
@@ -178,12 +200,14 @@ void TestRun::End() {
   }
   hold_.reset();
   record_.verdict = Verdict();
+  judged_ = true;
   Keep();
   bench_.book.Ends(record_);
   panel_.CloseSession();
   if (GoesOn() && !plan_.lastRequest.empty()) panel_.Request(std::string(plan_.lastRequest));
   panel_.ShowStep(record_.verdict == TestVerdict::Passed ? "Control de calidad superado con exito"
-                                                         : "Control de calidad NO SUPERADO");
+                                                         : "Control de calidad NO SUPERADO",
+                  StepKind::Verdict);
 }
 
 /// A board without a record has not passed.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -10,7 +11,7 @@
 #include "factory/TestPlan.h"
 #include "factory/TestRecord.h"
 #include "link/Comms.h"
-#include "link/TestDialogue.h"
+#include "link/dialogues/TestDialogue.h"
 #include "model/DeviceInfo.h"
 #include "model/TargetProfile.h"
 #include "platform/Platform.h"
@@ -35,6 +36,12 @@ struct TestChoice {
 /// From a change at the fixture to the reading of what it has come to.
 inline constexpr int kSettleMs = 3000;
 
+/// A value of a board, as it was read last.
+struct Reading {
+  float value = 0;
+  bool isRead = false;  ///< it has come from this board, when it was last asked
+};
+
 /// How a failure is told: as its text stands, or with the reading behind it.
 enum class Telling { Plain, WithReading };
 
@@ -55,15 +62,19 @@ class TestRun {
   TestRun& operator=(const TestRun&) = delete;
 
   /// Runs the test to its end. The result stands in the table of records, unless `Kept` says no.
+  /// What is thrown in a wait breaks the run off, which ends as any other, and is thrown on.
   const TestRecord& Run();
+  const TestRecord& Record() const { return record_; }
   /// Ends the run at the next moment, from within a wait of it. Later calls do nothing, so that the
-  /// order that switches the fixture off gets its time.
+  /// order that switches the fixture off gets its time, nor does one behind the verdict.
   void Stop();
   /// Whether the record is on the disk.
   bool Kept() const { return kept_; }
 
   // Steps.
   void Step(std::string_view text);
+  /// A step of which the operator does a part.
+  void Prompt(std::string_view text);
   /// Sends an order; true when the board confirms it.
   bool Order(std::string_view message);
   /// The first order, without whose confirmation nothing is checked.
@@ -71,7 +82,10 @@ class TestRun {
   void Delay(int ms);
   /// Reads a frame, or keeps the last one where no good answer comes.
   void ReadTestFrame();
-  const TestFrame& Frame() const { return frame_; }
+  Reading Inputs() const { return {static_cast<float>(frame_.InputBits), came_.InputBits}; }
+  Reading Analog(std::size_t analog) const;
+  Reading Battery() const { return {frame_.BatteryVolts, came_.BatteryVolts}; }
+  Reading Gsm() const { return {static_cast<float>(frame_.GsmState), came_.GsmState}; }
   const DeviceInfo& Info() const { return bench_.info; }
   bool SkipsKeys() const { return choice_.skipsKeys; }
   /// True as long as steps do something.
@@ -79,10 +93,10 @@ class TestRun {
 
   /// Notes a value, and tells of a failure when it is not in its band. The text of a failure stands
   /// ahead of the reading.
-  void Check(std::string_view name, float value, const Band& band, std::string_view failure,
+  void Check(std::string_view name, Reading reading, const Band& band, std::string_view failure,
              Telling telling = Telling::WithReading);
   /// Notes a value that has passed or not.
-  void Note(std::string_view name, float value, const Band& band, bool passed);
+  void Note(std::string_view name, Reading reading, const Band& band, bool passed);
   void Fail(std::string text);
   void Request(std::string_view text);
   /// Raises the counter of serial numbers and makes the new one.
@@ -110,7 +124,7 @@ class TestRun {
   Line& line_;
   std::optional<Line::Dialogue> hold_;
   TestFrame& frame_;
-  bool isRead_ = false;  ///< what is judged now has come from the board
+  TestFrameCame came_;  ///< with the last answer
   TestRecord record_;
   TimePoint began_{};
   std::string newSerial_;
@@ -118,6 +132,7 @@ class TestRun {
   bool failed_ = false;
   bool stopped_ = false;
   bool lineLost_ = false;
+  bool judged_ = false;  ///< the verdict stands
   bool kept_ = false;
 };
 

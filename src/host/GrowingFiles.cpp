@@ -5,7 +5,7 @@
 
 #include "platform/GrowingFile.h"
 #include "recording/Recording.h"
-#include "tools/LiveRecording.h"
+#include "tools/live/LiveRecording.h"
 
 namespace ostrel {
 namespace {

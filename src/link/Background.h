@@ -31,6 +31,8 @@ class Background {
   void WhenFree(std::function<void()> action);
   /// The same without haste; dropped, which false tells, while no reading runs.
   bool Behind(std::function<void()> action);
+  /// Whether a reading is under way.
+  bool Runs() const { return runs_; }
   /// Whether a reading was cut: what it has brought is not whole.
   bool IsCut() const { return isCut_; }
 

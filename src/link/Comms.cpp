@@ -5,12 +5,12 @@
 
 #include "base/Scope.h"
 #include "base/Sha256.h"
-#include "link/Information.h"
 #include "link/LinkTimes.h"
-#include "link/LiveCommands.h"
 #include "link/Modem.h"
-#include "link/Opening.h"
-#include "link/ProbeReading.h"
+#include "link/dialogues/Information.h"
+#include "link/dialogues/LiveCommands.h"
+#include "link/dialogues/Opening.h"
+#include "link/dialogues/ProbeReading.h"
 #include "platform/Clock.h"
 
 namespace ostrel {

@@ -9,14 +9,14 @@
 #include <vector>
 
 #include "link/Background.h"
-#include "link/Download.h"
-#include "link/FirmwareDialogue.h"
 #include "link/Line.h"
 #include "link/LinkDeed.h"
 #include "link/Progress.h"
-#include "link/Upload.h"
-#include "link/VoiceDialogue.h"
 #include "link/Wire.h"
+#include "link/dialogues/Download.h"
+#include "link/dialogues/FirmwareDialogue.h"
+#include "link/dialogues/Upload.h"
+#include "link/dialogues/VoiceDialogue.h"
 #include "model/DeviceInfo.h"
 #include "model/ProbeIdentity.h"
 #include "model/RealTimeData.h"

@@ -2,7 +2,7 @@
 
 #include "base/Utf8.h"
 #include "link/LinkTimes.h"
-#include "link/NumberedStatements.h"
+#include "link/dialogues/NumberedStatements.h"
 
 namespace ostrel {
 namespace {

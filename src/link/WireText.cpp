@@ -69,12 +69,6 @@ PasswordPlace PlaceOfPasswords(std::string_view text) {
 
 }  // namespace
 
-std::string Padded(int number, std::size_t digits) {
-  std::string text = std::to_string(number);
-  if (text.size() < digits) text.insert(0, digits - text.size(), '0');
-  return text;
-}
-
 std::string HexOctet(std::uint8_t octet) {
   constexpr std::string_view kHex = "0123456789ABCDEF";
   return {kHex[octet >> 4U], kHex[octet & 0xFU]};

@@ -13,9 +13,6 @@ inline constexpr char kEndOfLine = '\r';
 /// Digits of the number of a record or statement.
 inline constexpr std::size_t kRecordDigits = 3;
 
-/// A number in decimal with leading zeros up to `digits`.
-std::string Padded(int number, std::size_t digits);
-
 /// Two upper-case hexadecimal digits.
 std::string HexOctet(std::uint8_t octet);
 

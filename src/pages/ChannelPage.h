@@ -195,7 +195,6 @@ void ChannelPage<Channel>::Tick() {
 
 template <AlarmChannel Channel>
 void ChannelPage<Channel>::EditActions(ActionList AlarmBlock::*list) {
-  if (context_.ComBusy) return;  // the list is being replaced
   Record& record = Current();
   AlarmBlock& alarm = record.ALARM[CurrentConfig()].common;
   std::string subject = form_.Title();
@@ -205,8 +204,8 @@ void ChannelPage<Channel>::EditActions(ActionList AlarmBlock::*list) {
     if (!shown.NOMBRE.empty()) subject += " \"" + shown.NOMBRE + '"';
   }
   if (Record::kShape.configs > 1) subject += ", " + configs_.Caption();
-  context_.EditActions(alarm.*list, subject + ", " + panel_.CaptionOf(list));
-  panel_.ShowActionCounts(alarm);
+  context_.EditActions(alarm.*list, subject + ", " + panel_.CaptionOf(list),
+                       [this, &alarm] { panel_.ShowActionCounts(alarm); });
 }
 
 }  // namespace ostrel

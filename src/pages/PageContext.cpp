@@ -22,10 +22,15 @@ void PageContext::WhenFree(std::function<void()> action) const {
     action();
 }
 
-void PageContext::EditActions(ActionList& actions, std::string_view subject) const {
-  CopyActions(actions, ActionBuffer);
-  showActEdit(subject);
-  CopyActions(ActionBuffer, actions);
+void PageContext::EditActions(ActionList& actions, std::string subject,
+                              std::function<void()> edited) const {
+  WhenFree([this, &actions, subject = std::move(subject), edited = std::move(edited)] {
+    if (ComBusy) return;  // the list is being replaced
+    CopyActions(actions, ActionBuffer);
+    showActEdit(subject);
+    CopyActions(ActionBuffer, actions);
+    edited();
+  });
 }
 
 void PageContext::ShowHelp(std::string_view word) const {

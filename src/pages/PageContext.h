@@ -69,8 +69,10 @@ struct PageContext {
   std::string ConfReadKey(std::string_view section, std::string_view key) const;
   /// Runs what wants the line to the logger, at once or behind a reading that nobody waits for.
   void WhenFree(std::function<void()> action) const;
-  /// Lets the operator edit an action list. `subject` says whose it is.
-  void EditActions(ActionList& actions, std::string_view subject = {}) const;
+  /// Lets the operator edit an action list of the model, unless a download is replacing it, and
+  /// runs `edited` behind. `subject` says whose it is. The dialog stands within no reading, which
+  /// it would hold up.
+  void EditActions(ActionList& actions, std::string subject, std::function<void()> edited) const;
   /// Opens the help page of a word.
   void ShowHelp(std::string_view word) const;
   /// Shows a form until its logic closes it or the operator dismisses it.

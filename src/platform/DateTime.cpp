@@ -5,6 +5,8 @@
 #include <cstddef>
 #include <string_view>
 
+#include "platform/Digits.h"
+
 namespace ostrel {
 
 std::string DateTimeText(const DateTime& time) {
@@ -12,13 +14,15 @@ std::string DateTimeText(const DateTime& time) {
   const std::array parts{time.year, time.month, time.day, time.hour, time.minute, time.second};
   std::string text;
   for (std::size_t i = 0; i < parts.size(); ++i) {
-    const std::string digits = std::to_string(parts[i]);
-    const std::size_t width = i == 0 ? 4 : 2;
-    if (digits.size() < width) text.append(width - digits.size(), '0');
-    text += digits;
+    text += Padded(parts[i], i == 0 ? 4 : 2);
     if (i < kBehind.size()) text += kBehind[i];
   }
   return text;
+}
+
+std::string StampText(std::chrono::milliseconds time) {
+  const auto whole = std::chrono::floor<std::chrono::seconds>(time);
+  return DateTimeText(FromSeconds(whole.count())) + "." + Padded((time - whole).count(), 3);
 }
 
 std::optional<DateTime> ReadDateTime(std::string_view text) {

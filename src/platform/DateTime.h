@@ -33,6 +33,8 @@ constexpr bool IsValid(const DateTime& t) {
 
 /// "2026-03-02 09:05:07".
 std::string DateTimeText(const DateTime& time);
+/// "2026-03-02 09:05:07.250", of a time since 1 January 1970.
+std::string StampText(std::chrono::milliseconds time);
 
 /// Reads "2026-03-02", with a blank or "T" and a time of hours, minutes and perhaps seconds behind
 /// it, else midnight. Nothing for any other text, nor for a moment that does not exist.

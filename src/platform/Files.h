@@ -36,6 +36,9 @@ class Files {
   FileResult ReadInto(const std::string& path, std::string& octets) {
     return ReadUpTo(path, kMostFileOctets, octets);
   }
+  /// Brings the last octets of a file of any size into a text, all of a file that has no more than
+  /// `most`.
+  virtual FileResult ReadEnd(const std::string& path, std::size_t most, std::string& octets) = 0;
   /// The whole content, or nothing when the file cannot be read.
   std::optional<std::string> Read(const std::string& path);
   virtual bool Exists(const std::string& path) = 0;

@@ -5,6 +5,7 @@
 #include <iterator>
 
 #include "link/WireText.h"
+#include "platform/Digits.h"
 
 namespace ostrel {
 namespace {
@@ -100,7 +101,7 @@ std::string RecordedLine(const RecordedEvent& event) {
 std::string RecordedTime(Duration at) {
   const auto whole = std::chrono::duration_cast<std::chrono::milliseconds>(at).count();
   return std::string{kTimeLetter, ' '} + std::to_string(whole / 1000) + "." +
-         Padded(static_cast<int>(whole % 1000), kMilliDigits) + "\n";
+         Padded(whole % 1000, kMilliDigits) + "\n";
 }
 
 std::optional<Recording> ReadRecording(std::string_view text, std::string& error) {

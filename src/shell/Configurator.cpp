@@ -28,7 +28,7 @@
 #include "platform/Dialogs.h"
 #include "platform/EventLoop.h"
 #include "platform/Files.h"
-#include "shell/TransferBar.h"
+#include "shell/session/TransferBar.h"
 
 namespace ostrel {
 namespace {

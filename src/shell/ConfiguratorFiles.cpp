@@ -3,10 +3,10 @@
 #include "blocks/Configuration.h"
 #include "blocks/Orders.h"
 #include "platform/Dialogs.h"
-#include "shell/ConfigurationFile.h"
 #include "shell/Configurator.h"
-#include "shell/ForeignKeys.h"
-#include "shell/WriteDoubts.h"
+#include "shell/files/ConfigurationFile.h"
+#include "shell/files/ForeignKeys.h"
+#include "shell/writing/WriteDoubts.h"
 #include "store/IniClass.h"
 
 // What the configurator does with its file.

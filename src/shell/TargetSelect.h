@@ -5,7 +5,7 @@
 
 #include "controls/FrontForm.h"
 #include "pages/PageContext.h"
-#include "shell/StoredSettings.h"
+#include "shell/files/StoredSettings.h"
 
 namespace ostrel {
 

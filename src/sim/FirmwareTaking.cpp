@@ -22,7 +22,7 @@ void FirmwareTaking::BeginImage() {
   state_ = State::Image;
   BeginFile(image_);
   loader_.clear();
-  isDeaf_ = isMuteBlock_ = false;
+  isWhole_ = isDeaf_ = isMuteBlock_ = false;
 }
 
 void FirmwareTaking::BeginLoader() {
@@ -58,7 +58,7 @@ void FirmwareTaking::TakeImageOctet(char octet, FaultPlan& plan, Signs& signs) {
         plan.At(FaultKind::NoAliveMark, static_cast<int>(image_.size() / kBlock) + 1).has_value();
   image_ += octet;
   isDeaf_ = plan.At(FaultKind::SilentAfterOctet, static_cast<int>(image_.size())).has_value();
-  signs.imageEnded = EndsFile(octet);
+  signs.imageEnded = isWhole_ = EndsFile(octet);
   const bool isDue = image_.size() % kMarkEvery == 0 || signs.imageEnded;
   if (isDue && !isMuteBlock_ && !isDeaf_) ++signs.aliveMarks;
 }

@@ -10,7 +10,7 @@
 namespace ostrel::sim {
 
 /// What a logger does while it gets new firmware. It takes an image and a loader as Intel hex and
-/// looks at no more than where each ends.
+/// looks at no more than where each ends. An image without its end record is none.
 class FirmwareTaking {
  public:
   enum class State {
@@ -18,6 +18,7 @@ class FirmwareTaking {
     Image,    ///< its flash is erased; it takes the image
     Loader,   ///< it takes the loader
     Copying,  ///< it hears and says nothing
+    Empty,    ///< what it has copied was no whole image: it is left without firmware
   };
 
   /// What came of some octets.
@@ -32,7 +33,8 @@ class FirmwareTaking {
   /// Takes what belongs to a file; frames do not.
   Signs Take(std::string_view octets, FaultPlan& plan);
   void BeginCopying() { state_ = State::Copying; }
-  void End() { state_ = State::Idle; }
+  /// Its flash is written.
+  void End() { state_ = isWhole_ ? State::Idle : State::Empty; }
 
   State Now() const { return state_; }
   bool IsIdle() const { return state_ == State::Idle; }
@@ -53,6 +55,7 @@ class FirmwareTaking {
   std::string record_;     ///< the one under way
   bool inFrame_ = false;   ///< up to its carriage return
   bool hasEnded_ = false;  ///< the end record of the file under way has come
+  bool isWhole_ = false;   ///< the end record of the image has come
   bool isDeaf_ = false;
   bool isMuteBlock_ = false;  ///< a fault keeps the marks of this block back
 };

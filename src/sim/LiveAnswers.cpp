@@ -3,7 +3,7 @@
 #include <cstddef>
 
 #include "sim/LiveValues.h"
-#include "sim/NumberText.h"
+#include "sim/wire/NumberText.h"
 
 namespace ostrel::sim {
 namespace {

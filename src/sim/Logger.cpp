@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <utility>
 
-#include "sim/LineComposer.h"
-#include "sim/NumberText.h"
+#include "sim/wire/LineComposer.h"
+#include "sim/wire/NumberText.h"
 
 namespace ostrel::sim {
 

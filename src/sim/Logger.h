@@ -13,13 +13,13 @@
 #include "platform/Line.h"
 #include "sim/Configuration.h"
 #include "sim/FirmwareTaking.h"
-#include "sim/Fixture.h"
-#include "sim/Frame.h"
 #include "sim/LiveValues.h"
 #include "sim/LoggerOptions.h"
 #include "sim/Sender.h"
-#include "sim/StatementCursor.h"
 #include "sim/Upload.h"
+#include "sim/fixture/Fixture.h"
+#include "sim/wire/Frame.h"
+#include "sim/wire/StatementCursor.h"
 
 namespace ostrel::sim {
 

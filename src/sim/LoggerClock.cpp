@@ -1,7 +1,7 @@
 #include <chrono>
 
 #include "sim/Logger.h"
-#include "sim/NumberText.h"
+#include "sim/wire/NumberText.h"
 
 namespace ostrel::sim {
 namespace {

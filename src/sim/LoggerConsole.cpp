@@ -2,7 +2,7 @@
 #include <array>
 
 #include "sim/Logger.h"
-#include "sim/NumberText.h"
+#include "sim/wire/NumberText.h"
 
 namespace ostrel::sim {
 namespace {

@@ -22,7 +22,7 @@ bool Logger::AnswerErase(std::string_view rest) {
 }
 
 bool Logger::AnswerLoader(std::string_view rest) {
-  if (!rest.empty() || taking_.IsIdle()) return false;
+  if (!rest.empty() || taking_.IsIdle() || taking_.Now() == State::Empty) return false;
   if (taking_.IsDeaf()) {
     exchange_.note = "unheard by fault";
     return true;

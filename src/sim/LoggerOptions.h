@@ -6,10 +6,10 @@
 #include "platform/DateTime.h"
 #include "platform/Time.h"
 #include "sim/Faults.h"
-#include "sim/Fixture.h"
 #include "sim/Model.h"
 #include "sim/Modem.h"
 #include "sim/blocks/Probes.h"
+#include "sim/fixture/Fixture.h"
 
 namespace ostrel::sim {
 

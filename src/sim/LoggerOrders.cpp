@@ -2,8 +2,8 @@
 #include <utility>
 
 #include "sim/Logger.h"
-#include "sim/NumberText.h"
 #include "sim/blocks/Block.h"
+#include "sim/wire/NumberText.h"
 
 namespace ostrel::sim {
 namespace {

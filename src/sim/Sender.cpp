@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "sim/Frame.h"
+#include "sim/wire/Frame.h"
 
 namespace ostrel::sim {
 

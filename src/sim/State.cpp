@@ -4,8 +4,8 @@
 
 #include "sim/Logger.h"
 #include "sim/StateText.h"
-#include "sim/StatementParser.h"
 #include "sim/blocks/Block.h"
+#include "sim/wire/StatementParser.h"
 
 namespace ostrel::sim {
 namespace {

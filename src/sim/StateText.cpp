@@ -5,8 +5,8 @@
 #include <optional>
 #include <system_error>
 
-#include "sim/NumberText.h"
-#include "sim/Text1252.h"
+#include "sim/wire/NumberText.h"
+#include "sim/wire/Text1252.h"
 
 namespace ostrel::sim {
 namespace {
@@ -20,7 +20,8 @@ std::string Escape(std::string_view octets) {
   std::string text;
   for (const char c : octets) {
     if (IsEscaped(c))
-      text.append({'\\', kLowerHexDigits[static_cast<std::size_t>(c) >> 4], kLowerHexDigits[c & 15]});
+      text.append(
+          {'\\', kLowerHexDigits[static_cast<std::size_t>(c) >> 4], kLowerHexDigits[c & 15]});
     else
       text += c;
   }

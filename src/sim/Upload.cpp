@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "sim/StatementParser.h"
+#include "sim/wire/StatementParser.h"
 
 namespace ostrel::sim {
 

@@ -6,7 +6,7 @@
 #include "base/CodePage.h"
 #include "base/Printable.h"
 #include "host/LoggerText.h"
-#include "sim/FixtureText.h"
+#include "sim/fixture/FixtureText.h"
 
 namespace ostrel {
 namespace {

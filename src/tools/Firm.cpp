@@ -7,6 +7,7 @@
 namespace ostrel {
 namespace {
 
+constexpr std::string_view kLineTaken = "La linea esta ocupada: no se ha enviado nada";
 constexpr std::string_view kNoSession = "Debe iniciar la comunicacion primero";
 
 std::string_view StageKey(FirmwareStage stage) {
@@ -71,9 +72,10 @@ void Firm::SetInfo(std::string_view key) {
   LabelInfo.face.SetCaption(key, context_.Translate(key));
 }
 
-void Firm::Tell(std::string_view key) {
-  context_.dialogs.ShowMessage(
-      {.text = context_.Translate(key), .title = context_.profile.TargetName});
+void Firm::Tell(std::string_view key, std::string_view why) {
+  std::string text = context_.Translate(key);
+  if (!why.empty()) text += "\n\n" + context_.Translate(why);
+  context_.dialogs.ShowMessage({.text = text, .title = context_.profile.TargetName});
 }
 
 void Firm::Choose(TextBox& path) {
@@ -140,7 +142,10 @@ void Firm::SendFirmware(const FirmwareFiles& files) {
   if (!sent) {
     SetInfo("¡Error!");
     // Who has closed the port in the midst of it knows, and may be leaving.
-    if (sent.Fault().kind != LinkFault::Kind::PortClosed) Tell("¡Error!");
+    if (sent.Fault().kind == LinkFault::Kind::PortClosed) return;
+    // One that failed has its words in the state of the session; one that was turned away has none.
+    if (sent.Fault().kind == LinkFault::Kind::Busy) return Tell("¡Error!", kLineTaken);
+    Tell("¡Error!");
     return;
   }
   context_.IniCom_Click();  // the logger has left the dialogue

@@ -31,7 +31,8 @@ class Firm final : public FrontForm {
   void ShowStage(FirmwareStage stage);
   void EnableAll(bool enabled);
   void SetInfo(std::string_view key);
-  void Tell(std::string_view key);
+  /// Shows a box; `why` stands below, where there is something to say.
+  void Tell(std::string_view key, std::string_view why = {});
 
   ToolContext& context_;
   Form form_{"Firm", "Actualizacion de firmware"};

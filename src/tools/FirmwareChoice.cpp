@@ -12,6 +12,11 @@ constexpr std::string_view kLoaderName = "CopyFlash";
 constexpr std::size_t kMostSensible = 16U * 1024U * 1024U;
 constexpr std::size_t kMostRead = 256U * 1024U * 1024U;
 
+/// What of a file goes down the line: a record that ends with the file loses its last digit.
+std::string_view SentPart(std::string_view stored) {
+  return stored.substr(0, SentOctets(stored.size()));
+}
+
 std::string_view NameOf(std::string_view path) { return path.substr(path.find_last_of("/\\") + 1); }
 
 std::string HexWords(const HexFault& fault,
@@ -55,7 +60,7 @@ std::vector<std::string> FirmwareDoubts(
   std::vector<std::string> doubts;
   for (const auto& [path, octets] :
        {std::pair{&paths.image, &files.image}, {&paths.loader, &files.loader}})
-    if (const HexFault fault = FirstHexFault(*octets); fault.kind != HexFault::Kind::None)
+    if (const HexFault fault = FirstHexFault(SentPart(*octets)); fault.kind != HexFault::Kind::None)
       doubts.push_back(std::string(NameOf(*path)) + ": " + HexWords(fault, translate));
   if (files.image.size() > kMostSensible)
     doubts.push_back(std::string(NameOf(paths.image)) + ": " + translate("ocupa mas de 16 MB"));

@@ -1,7 +1,5 @@
 #include "tools/LineStamper.h"
 
-#include "base/Values.h"
-
 namespace ostrel {
 
 std::string LineStamper::Take(std::string_view piece, std::string_view stamp) {
@@ -18,11 +16,8 @@ std::string LineStamper::Take(std::string_view piece, std::string_view stamp) {
 }
 
 std::string StampOf(const Clock& clock) {
-  const auto now = clock.LocalTime();
-  std::string stamp =
-      DateTimeText(FromSeconds(std::chrono::floor<std::chrono::seconds>(now).count()));
-  stamp.erase(0, stamp.find(' ') + 1);
-  return stamp + "." + std::to_string(1000 + now.count() % 1000).substr(1) + " ";
+  const std::string stamp = StampText(clock.LocalTime());
+  return stamp.substr(stamp.find(' ') + 1) + " ";
 }
 
 }  // namespace ostrel

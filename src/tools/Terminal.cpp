@@ -85,14 +85,19 @@ void Terminal::ShowLines() {
 
 void Terminal::Send(std::string_view head, TextBox& box, TypedHistory& history) {
   if (box.Text().empty()) return;
-  history.Add(box.Text());
-  Post(std::string(head) + box.Text());
+  Post(std::string(head) + box.Text(), [&history, text = box.Text()] { history.Add(text); });
 }
 
-/// No reply is awaited: what the logger says is shown as it comes.
-void Terminal::Post(std::string message) {
-  context_.comms.Reading().WhenFree([this, message = std::move(message)]() mutable {
-    if (!context_.comms.LinkBusy) context_.comms.TxSer(message, 0);
+/// No reply is awaited: what the logger says is shown as it comes. A dialogue that has the line
+/// keeps it: a box that tells of that would hold the dialogue up, so the line below tells.
+void Terminal::Post(std::string message, const std::function<void()>& sent) {
+  context_.comms.Reading().WhenFree([this, message = std::move(message), sent]() mutable {
+    if (context_.comms.LinkBusy)
+      return LabelLines.face.SetCaption(
+          context_.Translate("La linea esta ocupada: no se ha enviado nada"));
+    context_.comms.TxSer(message, 0);
+    if (sent) sent();
+    ShowLines();
   });
 }
 

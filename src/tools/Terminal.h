@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <ostream>
 #include <string>
@@ -28,7 +29,8 @@ class Terminal final : public FrontForm {
   void Take();
   void Show(std::string_view text);
   void Send(std::string_view head, TextBox& box, TypedHistory& history);
-  void Post(std::string message);
+  /// Sends a message and runs `sent`, unless a dialogue has the line.
+  void Post(std::string message, const std::function<void()>& sent = {});
   void Save();
   void SwitchLog();
   void EndLog();

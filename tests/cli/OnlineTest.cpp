@@ -127,6 +127,9 @@ TEST(Online, AWatchGoesOnOverARoundThatFailed) {
     faults.push_back("silent@" + std::to_string(request) + "!once");
   World once(WithFaults(faults));
   once.Expect("live --port sim:BP", 4, "the logger fell silent");
+  World last(WithFaults(faults));
+  last.Expect("live --watch --count 1 --csv - --port sim:BP", 4, "the logger fell silent");
+  EXPECT_EQ(std::ranges::count(last.out, '\n'), 2) << "the last round has its row as any other";
 }
 
 TEST(Online, WatchesUntilInterrupted) {

@@ -83,6 +83,33 @@ TEST_F(FactoryTest, WhatBreaksOffEndsWithFourAndIsRecorded) {
   EXPECT_THAT(world.files.contents["/home/user/data/factory/test-bq.csv"], HasSubstr(",stopped,"));
 }
 
+/// The signal ends the wait for an answer, and is then told by the event loop, too.
+TEST_F(FactoryTest, OneInterruptAtAQuestionStillSwitchesTheFixtureOff) {
+  SitDown();
+  bool hasCome = false;
+  world.environment.interrupted = [&] { return hasCome; };
+  onAsk = [&] {
+    hasCome = true;
+    world.loop.After(Duration::zero(), "signal", [&] { world.environment.onInterrupt(); });
+    return std::nullopt;
+  };
+  std::vector<std::string> orders;
+  world.Logger(sim::Model::KA2).OnExchange([&](const sim::Exchange& exchange) {
+    if (exchange.request.starts_with("#41")) orders.push_back(exchange.request);
+  });
+  EXPECT_EQ(world.Run("test ka2 --port sim:KA2"), 4);
+  EXPECT_EQ(std::ranges::count(orders, "#41OUT0=0;OUT1=0"), 2) << "the first order and the last";
+}
+
+TEST_F(FactoryTest, WhatIsAskedOfTheOperatorIsSaidInAnyCase) {
+  EXPECT_EQ(world.Run("test ka2 --quiet --yes --port sim:KA2"), 0);
+  EXPECT_THAT(world.err, testing::StartsWith("Iniciar el test con la bateria desconectada."));
+  EXPECT_THAT(world.err, HasSubstr("Control de calidad superado con exito"));
+  EXPECT_EQ(world.Run("test bq --quiet --yes --port sim:BQ"), 0);
+  EXPECT_THAT(world.err, HasSubstr("Comprobacion de IN1, pulse la tecla 2"));
+  EXPECT_EQ(world.err.find("Iniciando"), std::string::npos);
+}
+
 TEST_F(FactoryTest, ABoardThatDoesNotConfirmIsNoSuccess) {
   World refusing(WithFaults({"refuse-command@1!once"}));
   EXPECT_EQ(refusing.Run("test main --port sim:BP --yes"), 4);

@@ -1,6 +1,6 @@
 #include "cli/World.h"
 #include "link/UploadPlan.h"
-#include "shell/SafetyCopies.h"
+#include "shell/writing/SafetyCopies.h"
 
 namespace ostrel::cli {
 namespace {

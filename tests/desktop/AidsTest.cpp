@@ -6,12 +6,12 @@
 
 #include "Input.h"
 #include "OpenWindow.h"
+#include "desktop/dialogs/TraceView.h"
 #include "desktop/program/Language.h"
-#include "desktop/window/TraceView.h"
 #include "platform/virtual/VirtualFiles.h"
 #include "recording/Recording.h"
-#include "shell/EditHistory.h"
 #include "shell/doctor/DoctorWords.h"
+#include "shell/files/EditHistory.h"
 #include "shell/report/Commissioning.h"
 
 namespace ostrel {

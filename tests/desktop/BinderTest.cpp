@@ -19,7 +19,7 @@
 #include "desktop/forms/FormView.h"
 #include "desktop/forms/ReadoutViews.h"
 #include "desktop/forms/Words.h"
-#include "desktop/layouts/LayoutParts.h"
+#include "desktop/layouts/parts/LayoutParts.h"
 #include "desktop/program/Language.h"
 #include "platform/virtual/VirtualLoop.h"
 

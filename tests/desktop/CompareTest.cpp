@@ -7,9 +7,9 @@
 #include <QTreeWidget>
 
 #include "OpenWindow.h"
+#include "desktop/dialogs/ApplyDialog.h"
+#include "desktop/dialogs/CompareWindow.h"
 #include "desktop/program/Language.h"
-#include "desktop/window/ApplyDialog.h"
-#include "desktop/window/CompareWindow.h"
 
 namespace ostrel {
 namespace {

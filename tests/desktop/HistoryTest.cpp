@@ -7,8 +7,8 @@
 #include "OpenWindow.h"
 #include "base/CodePage.h"
 #include "base/Sha256.h"
-#include "desktop/window/CompareWindow.h"
-#include "shell/ConfigurationFile.h"
+#include "desktop/dialogs/CompareWindow.h"
+#include "shell/files/ConfigurationFile.h"
 #include "shell/ledger/Interrupted.h"
 
 namespace ostrel {

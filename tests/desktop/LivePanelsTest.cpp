@@ -46,6 +46,9 @@ class WindowLivePanels : public OpenWindow {
     return Window().findChild<Widget*>(name);
   }
   PlotChart& Chart() { return *static_cast<PlotChart*>(Find<QWidget>("PlotChart")); }
+  std::string ChosenTags() {
+    return static_cast<PlotPanel*>(Find<QDockWidget>("Plot"))->ChosenTags();
+  }
   QTreeWidgetItem* Row(const char* list, int row) {
     return Find<QTreeWidget>(list)->topLevelItem(row);
   }
@@ -55,8 +58,8 @@ class WindowLivePanels : public OpenWindow {
     throw std::invalid_argument("no value " + FromQt(tag));
   }
   void ChooseNothing() {
-    for (const LiveId id : std::vector(Chart().Chosen()))
-      PlotRow(ToQt(LiveTag(id)))->setCheckState(0, Qt::Unchecked);
+    for (int row = 0; row < Find<QTreeWidget>("PlotList")->topLevelItemCount(); ++row)
+      Row("PlotList", row)->setCheckState(0, Qt::Unchecked);
   }
   /// What stands in a file that a button saves.
   std::string Saved(const char* button, const std::string& name) {
@@ -76,8 +79,7 @@ TEST_F(WindowLivePanels, PlotsWhatIsChosenOnAnyPage) {
   Core().conf.Digital[0].NOMBRE = "Door";
   Run(seconds(2));
   EXPECT_EQ(PlotRow("DI0")->text(0), "Door  DI0");
-  EXPECT_EQ(chart.Chosen().size(), 3u) << "a chart without curves tells nothing";
-  EXPECT_FALSE(IsState(chart.Chosen().front().kind));
+  EXPECT_EQ(ChosenTags(), "AI0 AI1 AI2") << "a chart without curves tells nothing";
   for (const QLabel* label : Find<QDockWidget>("Plot")->findChildren<QLabel*>())
     EXPECT_FALSE(label->isVisibleTo(&Window())) << FromQt(label->text());
   ChooseNothing();
@@ -105,8 +107,7 @@ TEST_F(WindowLivePanels, PlotsWhatIsChosenOnAnyPage) {
   EXPECT_EQ(chart.View(), before) << "nothing is drawn while nobody looks";
   desktop = Make(&dialogs);
   desktop->Start("");
-  EXPECT_EQ(static_cast<PlotChart*>(Window().findChild<QWidget*>("PlotChart"))->Chosen().size(), 2u)
-      << "the choice is remembered";
+  EXPECT_EQ(ChosenTags(), "DI0 AI0") << "the choice is remembered";
 }
 
 TEST_F(WindowLivePanels, PansAndZoomsByKeyboardAndFollowsAgain) {
@@ -211,7 +212,7 @@ TEST_F(WindowLivePanels, DrawsStatesInLanesAndNumbersOnTheAxesOfTheirUnits) {
     return axis.range();
   };
   EXPECT_LT(behind(Qt::Key_PageUp).size(), fitted.size());
-  EXPECT_GT(behind(Qt::Key_Up, Qt::ShiftModifier).center(), fitted.center());
+  EXPECT_GT(behind(Qt::Key_Up).center(), fitted.center());
   EXPECT_EQ(behind(Qt::Key_0), fitted);
   EXPECT_GT(behind(Qt::Key_PageDown).size(), fitted.size());
   DoubleClick(&chart, {400, 200});
@@ -329,6 +330,71 @@ TEST_F(WindowLivePanels, AcceptsPointByPointAndKeepsIt) {
   EXPECT_TRUE(Find<QLabel>("AcceptanceSummary")->text().startsWith("Open a session to begin"));
   EXPECT_FALSE(note->isEnabled());
   EXPECT_EQ(list->topLevelItem(0)->text(1), "") << "nothing is measured any more";
+}
+
+/// The terminal has the line to itself: no rounds come.
+TEST_F(WindowLivePanels, WhatIsOldIsNotTakenForPresent) {
+  Core().conf.Analog[1].NOMBRE = "Level";
+  Window().GoTo("E_Digital_0");
+  Switch("Ctrl+K");
+  Switch("Ctrl+L");
+  Run(seconds(5));
+  const auto now = [&] { return Row("AcceptanceList", 0)->text(1); };
+  const auto heading = [&] { return Find<QTreeWidget>("PlotList")->headerItem()->text(1); };
+  EXPECT_FALSE(now().isEmpty());
+  EXPECT_EQ(heading(), "Now");
+  Window().GoTo("Terminal");
+  Run(seconds(2));
+  EXPECT_EQ(now(), "");
+  EXPECT_TRUE(heading().contains(u':')) << "when the values came";
+  Find<QPushButton>("AcceptancePass")->click();
+  EXPECT_EQ(Row("AcceptanceList", 0)->text(2), "pass");
+  EXPECT_EQ(Row("AcceptanceList", 0)->text(4), "") << "nothing was measured at that moment";
+  Window().GoTo("E_Digital_0");
+  Run(seconds(3));
+  EXPECT_FALSE(now().isEmpty());
+  EXPECT_EQ(heading(), "Now");
+  Core().comms.LinkBusy = true;
+  Run(seconds(2));
+  EXPECT_EQ(now(), "") << "another dialogue has the line";
+  Core().comms.LinkBusy = false;
+}
+
+/// Clicks fall into rounds, which must come to their ends behind the question.
+TEST_F(WindowLivePanels, NoQuestionHoldsARoundUp) {
+  Window().GoTo("E_Digital_0");
+  Switch("Ctrl+L");
+  Run(seconds(5));
+  int asked = 0;
+  const auto rests = [&] {
+    ++asked;
+    EXPECT_FALSE(Core().comms.LinkBusy) << asked;
+  };
+  dialogs.whileAsked = [&](const FileQuestion&) { rests(); };
+  const auto inARound = [&](const std::function<void()>& click) {
+    bool isClicked = false;
+    logger->OnExchange([&](const sim::Exchange& exchange) {
+      if (exchange.request == "#22" && !std::exchange(isClicked, true))
+        loop.After(std::chrono::milliseconds(1), "a click", click);
+    });
+    Run(seconds(3));
+    logger->OnExchange({});
+    EXPECT_TRUE(isClicked);
+  };
+  for (const char* button : {"PlotPicture", "PlotValues"})
+    inARound([&] { Find<QPushButton>(button)->click(); });
+  for (const QKeySequence& keys : {QKeySequence(QKeySequence::Open), QKeySequence("Ctrl+Shift+S")})
+    inARound([&] {
+      for (QAction* action : Window().findChildren<QAction*>())
+        if (action->shortcut() == keys) return action->trigger();
+    });
+  inARound([&] { Core().monitor.GetForm().Get<Button>("BotonGrabar").Click(); });
+  EXPECT_EQ(asked, 5);
+  dialogs.OnModal([&](Modal&) { rests(); });
+  inARound([&] {
+    Core().context.EditActions(Core().conf.Digital[0].ALARM[0].common.ACTHI, "DI0", [] {});
+  });
+  EXPECT_EQ(asked, 6);
 }
 
 TEST_F(WindowLivePanels, AcceptanceGoesByTheNameOfTheConfiguration) {

@@ -10,7 +10,7 @@
 
 #include "Input.h"
 #include "WindowWorld.h"
-#include "desktop/window/FaultNote.h"
+#include "desktop/session/FaultNote.h"
 
 namespace ostrel {
 

@@ -13,7 +13,7 @@
 #include "WindowWorld.h"
 #include "blocks/Configuration.h"
 #include "desktop/program/Language.h"
-#include "desktop/window/FaultText.h"
+#include "desktop/session/FaultText.h"
 #include "desktop/window/NodeDelegate.h"
 #include "platform/virtual/VirtualFiles.h"
 #include "shell/check/CheckRules.h"

@@ -13,15 +13,15 @@
 #include "desktop/program/HelpProcesses.h"
 #include "desktop/program/Language.h"
 #include "desktop/program/PortWatch.h"
-#include "desktop/window/FaultText.h"
+#include "desktop/session/FaultText.h"
 #include "platform/qt/QtProcesses.h"
 #include "platform/virtual/LinePort.h"
 #include "platform/virtual/VirtualClock.h"
 #include "platform/virtual/VirtualDialogs.h"
 #include "platform/virtual/VirtualLoop.h"
-#include "shell/FaultWords.h"
 #include "shell/check/CheckRules.h"
 #include "shell/schedule/ScheduleWords.h"
+#include "shell/session/FaultWords.h"
 
 namespace ostrel {
 namespace {

@@ -3,6 +3,7 @@
 #include "FactoryWorld.h"
 #include "factory/RecordFile.h"
 #include "factory/SerialCounter.h"
+#include "shell/ledger/TestRunBook.h"
 
 namespace ostrel {
 namespace {
@@ -90,8 +91,10 @@ TEST(SerialCounter, WithoutItABlankBoardStaysBlankAndFails) {
   for (std::size_t n = 1; n <= kTries; ++n)
     station.world.files.FailOperation(VirtualFiles::Change::Lock, n);
   station.Run();
-  EXPECT_EQ(station.Boxes().front(),
-            "Error en el contador de numeros de serie: another program holds it");
+  EXPECT_EQ(
+      station.Boxes().front(),
+      "Error en el contador de numeros de serie /data/factory/TestOstrel.ini: another program "
+      "holds it");
   EXPECT_EQ(station.Orders().size(), 19u) << "all but the number";
   EXPECT_EQ(station.LastRecord("main")["serial"], "0");
   EXPECT_EQ(station.Status(), kFailedText);
@@ -200,7 +203,7 @@ TEST(Records, RunsStandInTheLedger) {
             "GSM = 1 (not 0, 2..8)",
             "its record was not kept"},
            {[](TestStation& station) { station.world.logger->InFixture().Sleep(); },
-            LedgerState::Failed, "0", "bq, Ana, Puesto 1", "nothing was checked"}}) {
+            LedgerState::Failed, "0", "bq, Ana, Puesto 1", kUnconfirmed.data()}}) {
     TestStation station(Board(sim::Model::BQ));
     station.page->GetForm().Get<CheckBox>("Check1").SetChecked(true);
     std::string first;

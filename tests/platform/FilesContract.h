@@ -88,6 +88,13 @@ TYPED_TEST_P(FilesContract, WhatIsAppendedUnderALockComesBehind) {
   EXPECT_TRUE(files.ReadUpTo(path, 8, octets).Ok());
   EXPECT_NE(files.ReadUpTo(path, 7, octets).error, "");
   EXPECT_EQ(octets, "");
+  for (const auto& [most, end] :
+       {std::pair{3U, "two"}, {8U, "one\r\ntwo"}, {99U, "one\r\ntwo"}, {0U, ""}}) {
+    EXPECT_TRUE(files.ReadEnd(path, most, octets).Ok());
+    EXPECT_EQ(octets, end);
+  }
+  EXPECT_FALSE(files.ReadEnd(path + "x", 3, octets).Ok());
+  EXPECT_EQ(octets, "");
   EXPECT_EQ(files.Read(files.Absolute(path)), "one\r\ntwo");
 }
 

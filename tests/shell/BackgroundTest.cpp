@@ -1,7 +1,7 @@
 #include <gmock/gmock.h>
 
 #include "SimWorld.h"
-#include "shell/Navigation.h"
+#include "shell/navigation/Navigation.h"
 
 namespace ostrel {
 namespace {

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/virtual/VirtualFiles.h"
-#include "shell/Comparison.h"
+#include "shell/compare/Comparison.h"
 #include "store/IniClass.h"
 
 namespace ostrel {

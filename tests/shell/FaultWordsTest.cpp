@@ -2,7 +2,7 @@
 
 #include <set>
 
-#include "shell/FaultWords.h"
+#include "shell/session/FaultWords.h"
 
 namespace ostrel {
 namespace {

@@ -1,5 +1,5 @@
 #include "World.h"
-#include "shell/ForeignKeys.h"
+#include "shell/files/ForeignKeys.h"
 
 namespace ostrel {
 namespace {

@@ -1,9 +1,9 @@
 #include <gmock/gmock.h>
 
 #include "SimWorld.h"
-#include "shell/GuardedWrite.h"
-#include "shell/ModelEvidence.h"
-#include "shell/WriteDoubts.h"
+#include "shell/writing/GuardedWrite.h"
+#include "shell/writing/ModelEvidence.h"
+#include "shell/writing/WriteDoubts.h"
 
 namespace ostrel {
 namespace {

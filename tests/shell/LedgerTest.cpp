@@ -4,12 +4,12 @@
 
 #include "SimWorld.h"
 #include "base/Sha256.h"
-#include "shell/Against.h"
-#include "shell/GuardedWrite.h"
-#include "shell/WriteDoubts.h"
+#include "shell/compare/Against.h"
 #include "shell/ledger/History.h"
 #include "shell/ledger/IdentityGuard.h"
 #include "shell/ledger/Interrupted.h"
+#include "shell/writing/GuardedWrite.h"
+#include "shell/writing/WriteDoubts.h"
 
 namespace ostrel {
 namespace {

@@ -1,9 +1,9 @@
 #include <gmock/gmock.h>
 
 #include "World.h"
-#include "shell/Comparison.h"
-#include "shell/Navigation.h"
-#include "shell/NavigationTree.h"
+#include "shell/compare/Comparison.h"
+#include "shell/navigation/Navigation.h"
+#include "shell/navigation/NavigationTree.h"
 
 namespace ostrel {
 namespace {

@@ -1,7 +1,7 @@
 #include <gmock/gmock.h>
 
 #include "platform/virtual/VirtualSettings.h"
-#include "shell/RecentFiles.h"
+#include "shell/files/RecentFiles.h"
 
 namespace ostrel {
 namespace {

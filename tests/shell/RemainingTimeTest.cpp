@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "shell/RemainingTime.h"
+#include "shell/session/RemainingTime.h"
 
 namespace ostrel {
 namespace {

@@ -2,9 +2,9 @@
 
 #include "World.h"
 #include "blocks/expansion/ExpansionInputs.h"
-#include "shell/FieldWords.h"
 #include "shell/acceptance/AcceptanceFile.h"
 #include "shell/report/Commissioning.h"
+#include "shell/words/FieldWords.h"
 
 namespace ostrel {
 namespace {

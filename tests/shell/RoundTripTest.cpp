@@ -3,7 +3,7 @@
 #include "SimWorld.h"
 #include "base/CodePage.h"
 #include "blocks/Configuration.h"
-#include "shell/Comparison.h"
+#include "shell/compare/Comparison.h"
 
 namespace ostrel {
 namespace {

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/virtual/VirtualWorld.h"
-#include "shell/TraceLog.h"
+#include "shell/session/TraceLog.h"
 
 namespace ostrel {
 namespace {

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "controls/Form.h"
-#include "shell/TransferBar.h"
+#include "shell/session/TransferBar.h"
 
 namespace ostrel {
 namespace {

@@ -2,7 +2,7 @@
 
 #include "platform/virtual/VirtualLoop.h"
 #include "platform/virtual/VirtualSettings.h"
-#include "shell/TransferWatch.h"
+#include "shell/session/TransferWatch.h"
 
 namespace ostrel {
 namespace {

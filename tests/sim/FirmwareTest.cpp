@@ -47,6 +47,23 @@ TEST(SimFirmware, IsTakenStepByStepAndThenInForce) {
   EXPECT_THAT(bench.Ask("#40"), HasSubstr("#BF"));
 }
 
+TEST(SimFirmware, AnImageWithoutItsEndRecordIsNone) {
+  SimBench bench(Model::BP);
+  const auto update = [&](const std::string& image) {
+    bench.Say(ComposeFrame("#F0"), 5s);
+    bench.Say(image);
+    EXPECT_EQ(bench.Ask("#F1"), "#DWLD_RAM_READY");
+    bench.Say(Image(3));
+    bench.loop.RunFor(8s);
+  };
+  const std::string image = Image(40);
+  update(image.substr(0, image.size() - 3));
+  EXPECT_THAT(bench.Ask("#40"), HasSubstr("#BF"));
+  EXPECT_EQ(bench.Ask("#5D"), "") << "no firmware is there to answer";
+  update(image);
+  EXPECT_NE(bench.Ask("#5D"), "");
+}
+
 TEST(SimConsole, AnswersCommandsAndTellsWhatItDoes) {
   SimBench bench(Model::BP);
   EXPECT_EQ(bench.Say(ComposeFrame("#01time")), "08:30:05\r\n");

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
-#include "sim/Fixture.h"
-#include "sim/FixtureText.h"
+#include "sim/fixture/Fixture.h"
+#include "sim/fixture/FixtureText.h"
 
 namespace ostrel::sim {
 namespace {

@@ -1,7 +1,7 @@
 #include <gmock/gmock.h>
 
-#include "sim/Frame.h"
 #include "sim/SimBench.h"
+#include "sim/wire/Frame.h"
 
 namespace ostrel::sim {
 namespace {

@@ -7,8 +7,8 @@
 #include <vector>
 
 #include "platform/virtual/VirtualLoop.h"
-#include "sim/Frame.h"
 #include "sim/Logger.h"
+#include "sim/wire/Frame.h"
 
 namespace ostrel::sim {
 

@@ -2,9 +2,9 @@
 
 #include <set>
 
-#include "sim/LineComposer.h"
 #include "sim/SimBench.h"
-#include "sim/Text1252.h"
+#include "sim/wire/LineComposer.h"
+#include "sim/wire/Text1252.h"
 
 namespace ostrel::sim {
 namespace {

@@ -6,9 +6,9 @@
 #include <string>
 #include <vector>
 
-#include "sim/LineComposer.h"
 #include "sim/Random.h"
-#include "sim/StatementParser.h"
+#include "sim/wire/LineComposer.h"
+#include "sim/wire/StatementParser.h"
 
 namespace ostrel::sim {
 

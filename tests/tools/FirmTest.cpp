@@ -3,9 +3,9 @@
 #include <sstream>
 
 #include "base/CodePage.h"
-#include "shell/FaultWords.h"
-#include "shell/Navigation.h"
 #include "shell/SimWorld.h"
+#include "shell/navigation/Navigation.h"
+#include "shell/session/FaultWords.h"
 #include "tools/FirmwareChoice.h"
 #include "tools/HexFiles.h"
 #include "tools/IntelHex.h"
@@ -27,6 +27,7 @@ struct FirmBench {
     form.Get<TextBox>("LoaderPath").SetText("/CopyFlash.hex");
     world.logger->OnExchange([this](const sim::Exchange& exchange) {
       answered += exchange.frames;
+      ++requests;
       if (exchange.request.starts_with("#F")) asked += exchange.request + " ";
     });
   }
@@ -50,6 +51,7 @@ struct FirmBench {
   Form& form = program.firm.GetForm();
   std::string asked;         ///< of the logger
   std::size_t answered = 0;  ///< frames
+  std::size_t requests = 0;
 };
 
 TEST(FirmPage, SendsBothFilesAndEndsTheSession) {
@@ -146,6 +148,9 @@ TEST(FirmPage, WarnsOfFilesThatLookWrong) {
         {spoilt("\r\n:", "\r\n;"), loader, "image.hex: Linea 2: no es un registro"},
         {good.substr(0, good.size() - 13), loader, "image.hex: falta el registro final"},
         {good, "", "CopyFlash.hex: falta el registro final"},
+        // All but the last octet is sent.
+        {good.substr(0, good.size() - 2), loader, "image.hex: Linea 31: no es un registro"},
+        {good, loader.substr(0, loader.size() - 2), "CopyFlash.hex: Linea 3: no es un registro"},
         {loader, good, "intercambiados"},
         {std::string(17'000'000, ' ') + "\n" + good, loader, "image.hex: ocupa mas de 16 MB"}}) {
     SCOPED_TRACE(c.warning);
@@ -208,6 +213,13 @@ std::string DamagedFirstAnswer() {
   return "bad-checksum@" + std::to_string(bench.answered + 1) + "!once";
 }
 
+/// The fault that sends the first request behind the opening of a session back.
+std::string EchoedFirstRequest() {
+  FirmBench bench;
+  bench.Connect();
+  return "echo@" + std::to_string(bench.requests + 1) + "!once";
+}
+
 TEST(FirmPage, EachFaultOfTheLoggerEndsItWithWordsOfWhatToDo) {
   struct Case {
     std::string fault;
@@ -220,6 +232,8 @@ TEST(FirmPage, EachFaultOfTheLoggerEndsItWithWordsOfWhatToDo) {
        {Case{"refuse-erase", "answered something else: \"#DWLD_ERROR\"", FlashState::Kept, 0},
         // The answer that it erases is lost: the next that comes is that it has.
         {DamagedFirstAnswer(), "answered something else: \"#DWLD_READY\"", FlashState::InDoubt, 0},
+        // What is no word of refusal tells nothing of what the logger has heard.
+        {EchoedFirstRequest(), "answered something else: \"#F0\"", FlashState::InDoubt, 0},
         {"ready-late:45000", "", FlashState::Kept, 27'011},
         {"ready-late:60000", "fell silent", FlashState::Erased, 0},
         {"no-alive-mark@2", "no sign of life by octet 16386", FlashState::Erased, 16'386},
@@ -295,6 +309,7 @@ TEST(FirmPage, ADialogueUnderWayIsNotDisturbed) {
   bench.program.comms.LinkBusy = true;
   bench.Start();
   EXPECT_EQ(bench.Info(), "¡Error!");
+  EXPECT_EQ(bench.LastBox(), "¡Error!\n\nLa linea esta ocupada: no se ha enviado nada");
   EXPECT_FALSE(bench.program.session.State().failed) << "it is not the other that has failed";
   EXPECT_EQ(bench.asked, "");
 }

@@ -1,8 +1,8 @@
 #include <sstream>
 
 #include "tools/Disk.h"
-#include "tools/LiveLimits.h"
 #include "tools/LiveStation.h"
+#include "tools/live/LiveLimits.h"
 
 namespace ostrel {
 namespace {

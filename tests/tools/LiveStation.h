@@ -2,8 +2,8 @@
 
 #include <gmock/gmock.h>
 
-#include "shell/Navigation.h"
 #include "shell/SimWorld.h"
+#include "shell/navigation/Navigation.h"
 
 namespace ostrel {
 

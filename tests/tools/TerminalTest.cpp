@@ -2,8 +2,8 @@
 
 #include <sstream>
 
-#include "shell/Navigation.h"
 #include "shell/SimWorld.h"
+#include "shell/navigation/Navigation.h"
 #include "tools/Disk.h"
 #include "tools/RichText.h"
 
@@ -77,6 +77,12 @@ TEST_F(TerminalPage, ShowsWhatComesWhileItIsInFrontOfAnOpenSession) {
   form.Get<TextBox>("TextComando").Type("VER");
   Press("EnviarBut");
   EXPECT_THAT(asked, IsEmpty());
+  EXPECT_EQ(FaceOf(form["LabelLines"]).Caption(), "La linea esta ocupada: no se ha enviado nada");
+  form.Get<TextBox>("TextComando").OnArrow(-1);
+  EXPECT_EQ(form.Get<TextBox>("TextComando").Text(), "VER") << "nothing was sent before it";
+  form.Get<TextBox>("TextComando").Type("half");
+  form.Get<TextBox>("TextComando").OnArrow(-1);
+  EXPECT_EQ(form.Get<TextBox>("TextComando").Text(), "half") << "it does not count as sent";
   program.comms.LinkBusy = false;
   program.Connected = false;
   Comes("of nobody");

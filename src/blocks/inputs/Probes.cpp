@@ -2,7 +2,7 @@
 
 #include "blocks/AlarmWire.h"
 #include "blocks/inputs/InterfaceCodes.h"
-#include "link/WireText.h"
+#include "platform/Digits.h"
 
 namespace ostrel {
 namespace {

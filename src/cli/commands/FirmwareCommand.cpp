@@ -10,6 +10,8 @@ constexpr std::string_view kStay = "--yes sends them all the same";
 
 /// Reads the files and has the operator look at what seems wrong with them.
 ExitCode TakeFiles(CommandContext& context, const FirmwarePaths& paths, FirmwareFiles& files) {
+  if (paths.image.empty())
+    return context.console.Fail(ExitCode::BadFile, "the path of the image is empty");
   if (!AreNamed(paths))
     return context.console.Fail(
         ExitCode::BadFile, "\"CopyFlash\" must stand in the path of the loader: " + paths.loader);

@@ -10,7 +10,7 @@
 #include "cli/commands/OnlineCommand.h"
 #include "host/LoggerText.h"
 #include "model/LiveRound.h"
-#include "tools/LiveRecording.h"
+#include "tools/live/LiveRecording.h"
 
 namespace ostrel::cli {
 namespace {
@@ -142,8 +142,11 @@ class LiveRun {
       // Watching is ended by an interrupt, which is no failure then.
       if (context_.isDone = options_.watch && interrupted(); context_.isDone) return ExitCode::Done;
       const bool isLast = !options_.watch || round == options_.count;
-      if (!read && (isLast || !IsPassing(read.Fault()))) return online_.session.Failed(read);
+      // While watching, a round that failed has its row, of gaps, the last one as any other.
+      const bool hasRow = read || (options_.watch && IsPassing(read.Fault()));
+      if (!hasRow) return online_.session.Failed(read);
       if (const ExitCode taken = Take(); taken != ExitCode::Done) return taken;
+      if (!read && isLast) return online_.session.Failed(read);
       if (isLast || loop.RunUntil(interrupted, next)) return ExitCode::Done;
     }
   }

@@ -6,8 +6,8 @@
 #include "cli/commands/Commands.h"
 #include "cli/commands/OnlineCommand.h"
 #include "host/LoggerText.h"
-#include "shell/SettingLines.h"
 #include "shell/check/CheckRules.h"
+#include "shell/words/SettingLines.h"
 
 namespace ostrel::cli {
 namespace {

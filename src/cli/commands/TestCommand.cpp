@@ -4,6 +4,7 @@
 #include "cli/commands/Commands.h"
 #include "cli/commands/OnlineCommand.h"
 #include "factory/TestRun.h"
+#include "shell/ledger/TestRunBook.h"
 
 namespace ostrel::cli {
 namespace {
@@ -25,7 +26,10 @@ class TerminalPanel final : public TestPanel {
  public:
   explicit TerminalPanel(Online& online) : online_(online) {}
 
-  void ShowStep(std::string_view text) override { Console().Note(text); }
+  /// What the operator waits for is said in any case.
+  void ShowStep(std::string_view text, StepKind kind) override {
+    kind == StepKind::Work ? Console().Note(text) : Console().Say(text);
+  }
   void ShowMeasured(const Measurement& measured) override {
     Console().Note("  " + measured.name + " = " + Reading(measured) + " (" + measured.band.Text() +
                    ")");
@@ -88,25 +92,26 @@ ExitCode CodeOf(CommandContext& context, const TestRun& run, const TestRecord& r
   if (record.verdict == TestVerdict::BrokenOff)
     return context.console.Fail(ExitCode::DialogueFailed, "the line has gone");
   if (record.verdict == TestVerdict::Failed) return ExitCode::Differences;
-  if (!record.checked)
-    return context.console.Fail(
-        ExitCode::DialogueFailed,
-        "the board did not confirm the first order, so the checks behind it did not run");
+  if (!record.checked) return context.console.Fail(ExitCode::DialogueFailed, kUnconfirmed);
   return ExitCode::Done;
 }
 
 /// The first interrupt stops the run and lets it switch the fixture off; the next one closes the
-/// port.
+/// port. One that leaves a question is told by the question, and again as it is served.
 ExitCode RunTest(Online& online, const TestPlan& plan, const TestChoice& choice) {
   TerminalPanel panel(online);
   TestFrame frame;
   TestRun run(online.configurator.Bench(), plan, choice, panel, frame);
   std::function<void()>& onInterrupt = online.context.environment.onInterrupt;
   const Lent<std::function<void()>> stops(
-      onInterrupt, [&run, stopped = false, closePort = onInterrupt]() mutable {
+      onInterrupt, [&run, &context = online.context, stopped = false, isToldTwice = false,
+                    closePort = onInterrupt]() mutable {
+        if (std::exchange(isToldTwice, false)) return;
+        isToldTwice = context.dialogs.Left() && context.Interrupted();
         if (std::exchange(stopped, true)) return closePort();
         run.Stop();
       });
+  if (!plan.hint.empty()) online.context.console.Say(plan.hint);
   const TestRecord& record = run.Run();
   const ExitCode shown = online.context.Show(
       {[&] { return JsonOf(record); }, [&](std::ostream& out) { WriteRecord(out, record); }});

@@ -7,10 +7,10 @@
 #include "cli/commands/UploadRun.h"
 #include "host/LoggerText.h"
 #include "link/UploadPlan.h"
-#include "shell/GuardedWrite.h"
-#include "shell/WriteDoubts.h"
 #include "shell/ledger/History.h"
 #include "shell/ledger/IdentityGuard.h"
+#include "shell/writing/GuardedWrite.h"
+#include "shell/writing/WriteDoubts.h"
 
 namespace ostrel::cli {
 namespace {

@@ -8,7 +8,7 @@
 #include "cli/TransferLine.h"
 #include "cli/commands/Commands.h"
 #include "cli/commands/OnlineCommand.h"
-#include "shell/WriteDoubts.h"
+#include "shell/writing/WriteDoubts.h"
 #include "store/IniClass.h"
 #include "store/IniTool.h"
 

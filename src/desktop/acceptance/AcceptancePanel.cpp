@@ -9,6 +9,7 @@
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
+#include "desktop/forms/DarkPalette.h"
 #include "desktop/forms/Words.h"
 #include "desktop/window/FieldText.h"
 
@@ -34,7 +35,7 @@ QString InputText(const AcceptancePoint& point) {
 
 /// Beside the word, which says the same.
 QBrush ColourOfVerdict(Verdict verdict, const QPalette& palette) {
-  const bool isDark = palette.color(QPalette::Base).lightness() < 128;
+  const bool isDark = IsDark(palette);
   if (verdict == Verdict::Passed) return QColor(isDark ? "#69db7c" : "#2b8a3e");
   if (verdict == Verdict::Failed) return QColor(isDark ? "#ff8787" : "#c92a2a");
   return palette.text();

@@ -26,6 +26,7 @@
 #include "base/Values.h"
 #include "controls/NumberBox.h"
 #include "desktop/forms/AccessKeys.h"
+#include "desktop/forms/DarkPalette.h"
 #include "desktop/forms/ReadoutViews.h"
 #include "desktop/forms/Words.h"
 
@@ -126,8 +127,7 @@ void FollowColour(QLineEdit& edit, const TextBox& box) {
   edit.setProperty("bad", isBad);
   QPalette palette;  // of the program
   if (isBad) {
-    const bool isDark = palette.color(QPalette::Base).lightness() < 128;
-    palette.setColor(QPalette::Base, QColor(isDark ? "#4d1f22" : "#ffe3e3"));
+    palette.setColor(QPalette::Base, QColor(IsDark(palette) ? "#4d1f22" : "#ffe3e3"));
   }
   edit.setPalette(palette);
 }

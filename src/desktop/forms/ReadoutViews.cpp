@@ -7,8 +7,10 @@
 #include <QStringList>
 #include <algorithm>
 #include <array>
+#include <cmath>
 
 #include "base/Numbers.h"
+#include "desktop/forms/DarkPalette.h"
 #include "desktop/forms/ElidedLabel.h"
 #include "desktop/forms/Words.h"
 
@@ -34,14 +36,14 @@ QAccessibleInterface* MakeReadoutInterface(const QString&, QObject* object) {
   return readout ? new ReadoutInterface(readout) : nullptr;
 }
 
-bool IsDark(const QWidget& widget) {
-  return widget.palette().color(QPalette::Base).lightness() < 128;
-}
-
 /// The colours of what is well, doubtful and not well, on light and on dark.
-QColor GoodColour(const QWidget& widget) { return IsDark(widget) ? "#51cf66" : "#2b8a3e"; }
-QColor DoubtColour(const QWidget& widget) { return IsDark(widget) ? "#fcc419" : "#e8a100"; }
-QColor BadColour(const QWidget& widget) { return IsDark(widget) ? "#ff8787" : "#c92a2a"; }
+QColor GoodColour(const QWidget& widget) {
+  return IsDark(widget.palette()) ? "#51cf66" : "#2b8a3e";
+}
+QColor DoubtColour(const QWidget& widget) {
+  return IsDark(widget.palette()) ? "#fcc419" : "#e8a100";
+}
+QColor BadColour(const QWidget& widget) { return IsDark(widget.palette()) ? "#ff8787" : "#c92a2a"; }
 QColor DimColour(const QWidget& widget) {
   return widget.palette().color(QPalette::PlaceholderText);
 }
@@ -227,7 +229,10 @@ class LimitView final : public Readout {
     const auto lowest = std::ranges::min_element(bands, {}, &AlarmBand::minimum);
     const auto highest = std::ranges::max_element(bands, {}, &AlarmBand::maximum);
     if (bands.empty()) return;
-    const double span = std::max(highest->maximum - lowest->minimum, 1e-6);
+    // Never so small beside the limits themselves that a margin would be lost in them.
+    constexpr double kLeastShare = 1e-9;
+    const double most = std::max(std::abs(highest->maximum), std::abs(lowest->minimum));
+    const double span = std::max({highest->maximum - lowest->minimum, most * kLeastShare, 1e-6});
     first_ = lowest->minimum - kMargin * span;
     last_ = highest->maximum + kMargin * span;
   }

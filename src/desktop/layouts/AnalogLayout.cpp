@@ -2,10 +2,10 @@
 #include <QVBoxLayout>
 
 #include "desktop/forms/Words.h"
-#include "desktop/layouts/AlarmPanelLayout.h"
-#include "desktop/layouts/LayoutParts.h"
 #include "desktop/layouts/Layouts.h"
-#include "desktop/layouts/ScaleLayout.h"
+#include "desktop/layouts/parts/AlarmPanelLayout.h"
+#include "desktop/layouts/parts/LayoutParts.h"
+#include "desktop/layouts/parts/ScaleLayout.h"
 
 namespace ostrel {
 namespace {

@@ -1,8 +1,8 @@
 #include <QLabel>
 
 #include "desktop/forms/Words.h"
-#include "desktop/layouts/LayoutParts.h"
 #include "desktop/layouts/Layouts.h"
+#include "desktop/layouts/parts/LayoutParts.h"
 
 namespace ostrel {
 namespace {

@@ -1,8 +1,8 @@
 #include <QVBoxLayout>
 
-#include "desktop/layouts/AlarmPanelLayout.h"
-#include "desktop/layouts/LayoutParts.h"
 #include "desktop/layouts/Layouts.h"
+#include "desktop/layouts/parts/AlarmPanelLayout.h"
+#include "desktop/layouts/parts/LayoutParts.h"
 
 namespace ostrel {
 

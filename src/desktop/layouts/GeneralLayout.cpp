@@ -6,9 +6,9 @@
 #include <QVBoxLayout>
 
 #include "desktop/forms/Words.h"
-#include "desktop/layouts/LayoutParts.h"
 #include "desktop/layouts/Layouts.h"
-#include "desktop/window/FaultNote.h"
+#include "desktop/layouts/parts/LayoutParts.h"
+#include "desktop/session/FaultNote.h"
 #include "desktop/window/FieldText.h"
 
 namespace ostrel {

@@ -1,7 +1,7 @@
 #include <QVBoxLayout>
 
-#include "desktop/layouts/LayoutParts.h"
 #include "desktop/layouts/Layouts.h"
+#include "desktop/layouts/parts/LayoutParts.h"
 
 namespace ostrel {
 namespace {

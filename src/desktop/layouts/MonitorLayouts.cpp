@@ -5,9 +5,9 @@
 #include <algorithm>
 
 #include "desktop/forms/Words.h"
-#include "desktop/layouts/LayoutParts.h"
 #include "desktop/layouts/Layouts.h"
-#include "tools/MonitorParts.h"
+#include "desktop/layouts/parts/LayoutParts.h"
+#include "tools/live/MonitorParts.h"
 
 namespace ostrel {
 namespace {

@@ -2,9 +2,9 @@
 #include <QVBoxLayout>
 
 #include "desktop/forms/Words.h"
-#include "desktop/layouts/AlarmPanelLayout.h"
-#include "desktop/layouts/LayoutParts.h"
 #include "desktop/layouts/Layouts.h"
+#include "desktop/layouts/parts/AlarmPanelLayout.h"
+#include "desktop/layouts/parts/LayoutParts.h"
 
 namespace ostrel {
 namespace {

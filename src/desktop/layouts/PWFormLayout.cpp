@@ -2,8 +2,8 @@
 #include <QLineEdit>
 #include <QVBoxLayout>
 
-#include "desktop/layouts/LayoutParts.h"
 #include "desktop/layouts/Layouts.h"
+#include "desktop/layouts/parts/LayoutParts.h"
 
 namespace ostrel {
 

@@ -3,8 +3,8 @@
 
 #include "blocks/inputs/Sampling.h"
 #include "desktop/forms/Words.h"
-#include "desktop/layouts/LayoutParts.h"
 #include "desktop/layouts/Layouts.h"
+#include "desktop/layouts/parts/LayoutParts.h"
 
 namespace ostrel {
 void LayOutSampleRate(FormView& view) {

@@ -3,8 +3,8 @@
 #include <QVBoxLayout>
 
 #include "desktop/forms/Words.h"
-#include "desktop/layouts/LayoutParts.h"
 #include "desktop/layouts/Layouts.h"
+#include "desktop/layouts/parts/LayoutParts.h"
 
 namespace ostrel {
 

@@ -6,8 +6,8 @@
 #include <QTableWidget>
 
 #include "desktop/forms/Words.h"
-#include "desktop/layouts/LayoutParts.h"
 #include "desktop/layouts/Layouts.h"
+#include "desktop/layouts/parts/LayoutParts.h"
 
 // The page of a test run. Its operator stands at the fixture, two metres away.
 

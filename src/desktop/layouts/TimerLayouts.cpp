@@ -1,8 +1,8 @@
 #include <QVBoxLayout>
 #include <string>
 
-#include "desktop/layouts/LayoutParts.h"
 #include "desktop/layouts/Layouts.h"
+#include "desktop/layouts/parts/LayoutParts.h"
 
 // The pages of the timers: four cards, one for each timer that they show.
 

@@ -5,6 +5,7 @@
 #include <cmath>
 #include <map>
 
+#include "desktop/forms/DarkPalette.h"
 #include "desktop/forms/Words.h"
 
 namespace ostrel {
@@ -65,8 +66,8 @@ Moment PlotChart::MomentOf(double key) const {
 TimeSpan PlotChart::View() const { return {MomentOf(view_.lower), MomentOf(view_.upper)}; }
 
 QColor PlotChart::Colour(std::size_t place) const {
-  const bool isDark = palette().color(QPalette::Base).lightness() < 128;
-  return QColor((isDark ? kCurvesOnDark : kCurvesOnLight)[place % kCurvesOnLight.size()]);
+  return QColor(
+      (IsDark(palette()) ? kCurvesOnDark : kCurvesOnLight)[place % kCurvesOnLight.size()]);
 }
 
 QPen PlotChart::PenOf(std::size_t place, bool isState) const {
@@ -381,16 +382,15 @@ void PlotChart::leaveEvent(QEvent* event) {
 }
 
 void PlotChart::keyPressEvent(QKeyEvent* event) {
-  const bool isValues = event->modifiers().testFlag(Qt::ShiftModifier);
   switch (event->key()) {
     case Qt::Key_Left:
       return PanTime(-kPanStep);
     case Qt::Key_Right:
       return PanTime(kPanStep);
     case Qt::Key_Up:
-      return isValues ? PanValues(kPanStep) : ZoomTime(1 / kZoomStep);
+      return PanValues(kPanStep);
     case Qt::Key_Down:
-      return isValues ? PanValues(-kPanStep) : ZoomTime(kZoomStep);
+      return PanValues(-kPanStep);
     case Qt::Key_Plus:
       return ZoomTime(1 / kZoomStep);
     case Qt::Key_Minus:

@@ -11,16 +11,15 @@
 namespace ostrel {
 
 /// Curves of live values over time: numbers with an axis for each unit, states as steps, each in a
-/// lane of its own below. Time is panned by dragging or the arrow keys, and zoomed by the wheel or
-/// plus and minus; values are with Shift, or by Shift with the arrow keys and the page keys. It
-/// draws what the pixels can show, however much time is in view.
+/// lane of its own below. Time is panned by dragging or left and right, and zoomed by the wheel or
+/// plus and minus; values by dragging with Shift or up and down, and by the wheel with Shift or the
+/// page keys. It draws what the pixels can show, however much time is in view.
 class PlotChart final : public QCustomPlot {
  public:
   PlotChart(const LiveHistory& history, QWidget* parent);
 
   /// Chooses the values that are drawn.
   void Choose(const std::vector<LiveId>& ids);
-  const std::vector<LiveId>& Chosen() const { return chosen_; }
   /// Draws anew with names and colours as they are now.
   void Rebuild();
   /// Follows the history, which has grown.

@@ -14,7 +14,7 @@
 
 #include "base/Scope.h"
 #include "desktop/forms/Words.h"
-#include "tools/LiveRecording.h"
+#include "tools/live/LiveRecording.h"
 
 namespace ostrel {
 namespace {
@@ -142,8 +142,9 @@ void PlotPanel::Retranslate() {
       Words::tr("Nothing has been read yet. Values come while a session with a logger is open."));
   chart_->setAccessibleName(Words::tr("Plot of live values"));
   chart_->setToolTip(
-      Words::tr("Drag or arrow keys: move. Wheel, + and -: zoom. With Shift: the values instead "
-                "of time. Home: all. End: follow. 0 or double click: fit the values."));
+      Words::tr("Drag, left and right: move in time. Wheel, + and -: zoom in time. Drag and wheel "
+                "with Shift, up and down, page up and page down: the same of the values. Home: "
+                "all. End: follow. 0 or double click: fit the values."));
   follow_->setText(Words::tr("&Follow now"));
   all_->setText(Words::tr("All"));
   in_->setText(Words::tr("Zoom in"));
@@ -160,6 +161,12 @@ void PlotPanel::Look() {
   SyncRows();
   ChooseAtFirst();
   chart_->Look();  // tells that it has moved, which shows the values
+}
+
+void PlotPanel::SetPresent(bool isPresent) {
+  if (isPresent_ == isPresent) return;
+  isPresent_ = isPresent;
+  ShowValues();
 }
 
 void PlotPanel::SetMaySave(bool may) {
@@ -255,7 +262,7 @@ void PlotPanel::ShowValues() {
   const Moment at = chart_->Pointed().value_or(kept->to);
   const Lent syncing(isSyncing_, true);
   list_->headerItem()->setText(
-      kPlotValue, chart_->Pointed()
+      kPlotValue, chart_->Pointed() || !isPresent_
                       ? ToQt(DateTimeText(WallTime{at + history_.UtcOffset(), {}}.LocalSeconds()))
                             .section(u' ', 1)
                       : Words::tr("Now"));

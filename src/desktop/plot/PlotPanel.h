@@ -26,6 +26,8 @@ class PlotPanel final : public QDockWidget {
   void Retranslate();
   /// Brings list and chart up to the history.
   void Look();
+  /// Whether the last round tells how things are now; its time stands above its values otherwise.
+  void SetPresent(bool isPresent);
   /// The values that are chosen, as tags: "AI0 FL3". They may be chosen ahead of the first round.
   std::string ChosenTags() const;
   void ChooseTags(const std::string& tags);
@@ -56,6 +58,7 @@ class PlotPanel final : public QDockWidget {
   bool wasChosen_ = false;      ///< by the operator
   bool isSyncing_ = false;
   bool maySave_ = true;
+  bool isPresent_ = false;
   QLineEdit* filter_;
   QTreeWidget* list_;
   QLabel* hint_;

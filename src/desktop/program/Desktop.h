@@ -7,7 +7,7 @@
 
 #include "desktop/window/MainWindow.h"
 #include "shell/Configurator.h"
-#include "shell/Navigation.h"
+#include "shell/navigation/Navigation.h"
 
 namespace ostrel {
 

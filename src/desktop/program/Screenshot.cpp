@@ -9,12 +9,12 @@
 #include <algorithm>
 #include <optional>
 
+#include "desktop/dialogs/DoctorDialog.h"
+#include "desktop/dialogs/HistoryDialog.h"
+#include "desktop/dialogs/ScheduleView.h"
 #include "desktop/forms/Words.h"
 #include "desktop/program/Desktop.h"
 #include "desktop/program/Language.h"
-#include "desktop/window/DoctorDialog.h"
-#include "desktop/window/HistoryDialog.h"
-#include "desktop/window/ScheduleView.h"
 #include "host/GrowingFiles.h"
 #include "host/SimulatedLoggers.h"
 #include "host/System.h"
@@ -25,9 +25,9 @@
 #include "platform/virtual/VirtualLoop.h"
 #include "platform/virtual/VirtualProcesses.h"
 #include "platform/virtual/VirtualSettings.h"
-#include "shell/GuardedWrite.h"
-#include "shell/NavigationTree.h"
+#include "shell/navigation/NavigationTree.h"
 #include "shell/report/Commissioning.h"
+#include "shell/writing/GuardedWrite.h"
 
 namespace ostrel {
 namespace {

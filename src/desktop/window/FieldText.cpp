@@ -3,7 +3,7 @@
 #include <string>
 
 #include "desktop/forms/Words.h"
-#include "shell/FieldWords.h"
+#include "shell/words/FieldWords.h"
 
 namespace ostrel {
 namespace {

@@ -6,7 +6,7 @@
 
 #include "desktop/forms/Icons.h"
 #include "desktop/forms/Words.h"
-#include "desktop/window/FaultText.h"
+#include "desktop/session/FaultText.h"
 
 namespace ostrel {
 namespace {

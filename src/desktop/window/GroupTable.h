@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "shell/ChannelOverview.h"
+#include "shell/navigation/ChannelOverview.h"
 
 class QLabel;
 class QTableWidget;

@@ -98,8 +98,10 @@ void LivePanels::TakeRound(const LiveRound& round) {
 
 void LivePanels::Look(const std::string& file) {
   file_ = file;
+  const bool isPresent = configurator_.livePoll.IsPresent();
+  plot_->SetPresent(isPresent);
   if (!acceptanceSwitch_->isChecked()) return;
-  if (!configurator_.Connected) acceptance_->ShowRound({});
+  if (!isPresent) acceptance_->ShowRound({});
   // What is half read is no configuration.
   if (!configurator_.session.OwnsModel()) FollowConfiguration();
 }

@@ -11,14 +11,14 @@
 #include <QStyle>
 #include <QVBoxLayout>
 
+#include "desktop/dialogs/CompareWindow.h"
 #include "desktop/forms/Icons.h"
 #include "desktop/forms/Words.h"
-#include "desktop/window/CompareWindow.h"
-#include "desktop/window/FaultText.h"
+#include "desktop/session/FaultText.h"
 #include "platform/Settings.h"
 #include "shell/Configurator.h"
-#include "shell/ForeignKeys.h"
-#include "shell/NodeMarks.h"
+#include "shell/files/ForeignKeys.h"
+#include "shell/navigation/NodeMarks.h"
 
 namespace ostrel {
 namespace {
@@ -224,12 +224,13 @@ void MainWindow::BuildTree() {
 
 void MainWindow::PaintTree() { tree_->Paint(RedNodes(configurator_.conf), Words::tr("In use")); }
 
-void MainWindow::GoTo(const std::string& key) {
-  if (navigation_.NodeClick(key) == NodeResult::Rests) return;
+bool MainWindow::GoTo(const std::string& key) {
+  if (navigation_.NodeClick(key) == NodeResult::Rests) return false;
   NoteEdits();  // of the page that was left
   shownNode_ = key;
   tree_->Select(key);
   ShowGroup(key);
+  return true;
 }
 
 void MainWindow::ShowGroup(const std::string& key) {
@@ -255,13 +256,12 @@ void MainWindow::ShowTimers() {
 
 void MainWindow::GoToTimer(const SectionMeta& section, int timer) {
   for (const ConstField& field : FieldsOf(std::as_const(configurator_.conf), configurator_.profile))
-    if (field.id.section == &section) return GoTo(NodeOf(field.page, timer));
+    if (field.id.section == &section) return static_cast<void>(GoTo(NodeOf(field.page, timer)));
 }
 
 void MainWindow::GoToField(PageId page, const FieldId& field) {
   const std::string node = NodeOf(page, field.channel);
-  if (node.empty()) return;
-  GoTo(node);
+  if (node.empty() || !GoTo(node)) return;
   FormView* front = pages_->Front();
   if (!front) return;
   const Form& form = front->GetForm();

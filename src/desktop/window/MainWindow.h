@@ -8,31 +8,31 @@
 #include <ostream>
 #include <string>
 
+#include "desktop/dialogs/ScheduleView.h"
+#include "desktop/dialogs/TraceView.h"
 #include "desktop/forms/Icons.h"
 #include "desktop/program/PortWatch.h"
-#include "desktop/window/FaultNote.h"
+#include "desktop/session/FaultNote.h"
+#include "desktop/session/SessionBar.h"
 #include "desktop/window/LivePanels.h"
 #include "desktop/window/Overview.h"
 #include "desktop/window/PageArea.h"
-#include "desktop/window/ScheduleView.h"
-#include "desktop/window/SessionBar.h"
-#include "desktop/window/TraceView.h"
 #include "desktop/window/TreePane.h"
 #include "platform/Platform.h"
 #include "platform/PortFacts.h"
 #include "platform/TappedPort.h"
 #include "recording/Recorder.h"
-#include "shell/ChannelPiece.h"
-#include "shell/Comparison.h"
-#include "shell/ConfigurationFile.h"
-#include "shell/EditHistory.h"
-#include "shell/Navigation.h"
-#include "shell/RecentFiles.h"
-#include "shell/SafetyCopies.h"
-#include "shell/SessionDriver.h"
-#include "shell/TraceLog.h"
-#include "shell/UnsavedMark.h"
+#include "shell/compare/ChannelPiece.h"
+#include "shell/compare/Comparison.h"
+#include "shell/files/ConfigurationFile.h"
+#include "shell/files/EditHistory.h"
+#include "shell/files/RecentFiles.h"
+#include "shell/files/UnsavedMark.h"
 #include "shell/ledger/Interrupted.h"
+#include "shell/navigation/Navigation.h"
+#include "shell/session/SessionDriver.h"
+#include "shell/session/TraceLog.h"
+#include "shell/writing/SafetyCopies.h"
 
 class QAction;
 class QLabel;
@@ -71,8 +71,8 @@ class MainWindow final : public QMainWindow {
   void Retranslate();
   /// Called when the configurator has started: shows what is in front, and follows it from here on.
   void Follow();
-  /// Goes to a node, as a click on it does.
-  void GoTo(const std::string& key);
+  /// Goes to a node, as a click on it does; false while the tree rests.
+  bool GoTo(const std::string& key);
   /// Goes to a field of the configuration: its page, its alarm configuration, its control.
   void GoToField(PageId page, const FieldId& field);
   LayoutContext Context();
@@ -96,6 +96,9 @@ class MainWindow final : public QMainWindow {
   void MakeRarerTools();
   /// Adds a tool to the bar, or to a menu of it.
   QAction* AddAction(QWidget& place, Sign sign, QKeySequence keys, std::function<void()> run);
+  /// What asks the operator something, guarded, at once or behind a reading that nobody waits for:
+  /// the question would hold that up.
+  std::function<void()> Asking(std::function<void()> run);
   /// Adds a tool that shows and hides a panel.
   QAction* AddSwitch(QWidget& place, Sign sign, QKeySequence keys, QDockWidget& panel,
                      std::function<void(bool on)> show);

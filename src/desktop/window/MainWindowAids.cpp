@@ -1,10 +1,10 @@
 #include <QAction>
 #include <QStatusBar>
 
+#include "desktop/dialogs/DoctorDialog.h"
 #include "desktop/forms/Words.h"
 #include "desktop/program/Language.h"
-#include "desktop/window/DoctorDialog.h"
-#include "desktop/window/FaultText.h"
+#include "desktop/session/FaultText.h"
 #include "desktop/window/MainWindow.h"
 #include "host/GrowingFiles.h"
 #include "host/PdfText.h"

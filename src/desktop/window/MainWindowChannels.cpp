@@ -2,8 +2,8 @@
 #include <QMenu>
 #include <utility>
 
+#include "desktop/dialogs/ApplyDialog.h"
 #include "desktop/forms/Words.h"
-#include "desktop/window/ApplyDialog.h"
 #include "desktop/window/FieldText.h"
 #include "desktop/window/MainWindow.h"
 #include "shell/Configurator.h"

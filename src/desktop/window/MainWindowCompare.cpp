@@ -1,14 +1,14 @@
 #include "base/Scope.h"
 #include "blocks/Configuration.h"
+#include "desktop/dialogs/CompareWindow.h"
 #include "desktop/forms/Words.h"
-#include "desktop/window/CompareWindow.h"
-#include "desktop/window/FaultText.h"
+#include "desktop/session/FaultText.h"
 #include "desktop/window/MainWindow.h"
 #include "platform/Dialogs.h"
 #include "shell/Configurator.h"
-#include "shell/GuardedWrite.h"
-#include "shell/TakeOver.h"
-#include "shell/WriteDoubts.h"
+#include "shell/compare/TakeOver.h"
+#include "shell/writing/GuardedWrite.h"
+#include "shell/writing/WriteDoubts.h"
 
 // Comparing what stands on the pages with what stands elsewhere.
 

@@ -4,10 +4,10 @@
 #include <QStatusBar>
 #include <utility>
 
+#include "desktop/dialogs/CompareWindow.h"
+#include "desktop/dialogs/HistoryDialog.h"
 #include "desktop/forms/Words.h"
-#include "desktop/window/CompareWindow.h"
-#include "desktop/window/FaultText.h"
-#include "desktop/window/HistoryDialog.h"
+#include "desktop/session/FaultText.h"
 #include "desktop/window/MainWindow.h"
 #include "platform/Dialogs.h"
 #include "shell/Configurator.h"

@@ -5,9 +5,9 @@
 #include <QStatusBar>
 #include <utility>
 
+#include "desktop/dialogs/CompareWindow.h"
 #include "desktop/forms/Words.h"
-#include "desktop/window/CompareWindow.h"
-#include "desktop/window/FaultText.h"
+#include "desktop/session/FaultText.h"
 #include "desktop/window/MainWindow.h"
 #include "shell/Configurator.h"
 

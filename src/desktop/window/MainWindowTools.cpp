@@ -13,7 +13,7 @@
 #include "desktop/forms/Icons.h"
 #include "desktop/forms/Words.h"
 #include "desktop/program/Language.h"
-#include "desktop/window/FaultText.h"
+#include "desktop/session/FaultText.h"
 #include "desktop/window/MainWindow.h"
 #include "platform/Clock.h"
 #include "platform/Dialogs.h"
@@ -36,9 +36,10 @@ void MainWindow::MakeToolBar() {
   bar_->setContextMenuPolicy(Qt::PreventContextMenu);
   bar_->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
   bar_->setIconSize({22, 22});
-  open_ = AddAction(*bar_, Sign::Open, QKeySequence::Open, [this] { Open(); });
-  save_ = AddAction(*bar_, Sign::Save, QKeySequence::Save, [this] { Save(); });
-  saveAs_ = AddAction(*bar_, Sign::SaveAs, QKeySequence("Ctrl+Shift+S"), [this] { SaveAs(); });
+  open_ = AddAction(*bar_, Sign::Open, QKeySequence::Open, Asking([this] { Open(); }));
+  save_ = AddAction(*bar_, Sign::Save, QKeySequence::Save, Asking([this] { Save(); }));
+  saveAs_ =
+      AddAction(*bar_, Sign::SaveAs, QKeySequence("Ctrl+Shift+S"), Asking([this] { SaveAs(); }));
   recentFiles_ = AddAction(*bar_, Sign::Recent, {}, {});
   AddMenu(recentFiles_, [this](QMenu& menu) { FillRecent(menu); });
   bar_->addSeparator();
@@ -62,7 +63,7 @@ void MainWindow::MakeToolBar() {
   bar_->addSeparator();
   MakeRarerTools();
   LetTabReachTools(*bar_);
-  trace_->OnRecord = [this](bool on) { parts_.guard([&] { Record(on); }); };
+  trace_->OnRecord = [this](bool on) { Asking([this, on] { Record(on); })(); };
   trace_->OnSave = [this] {
     parts_.guard([this] { SaveBeside(Words::tr("Trace"), "txt", trace_->Text()); });
   };
@@ -79,15 +80,15 @@ void MainWindow::MakeRarerTools() {
   auto* menu = new QMenu(this);
   menu->setToolTipsVisible(true);
   SetMenu(more_, menu);
-  schedule_ = AddAction(*menu, Sign::Schedule, {}, [this] { ShowSchedule(); });
-  report_ = AddAction(*menu, Sign::Report, {},
-                      [this] { configurator_.comms.Reading().WhenFree([this] { SaveReport(); }); });
-  history_ = AddAction(*menu, Sign::History, QKeySequence("Ctrl+H"), [this] { ShowHistory(); });
+  schedule_ = AddAction(*menu, Sign::Schedule, {}, Asking([this] { ShowSchedule(); }));
+  report_ = AddAction(*menu, Sign::Report, {}, Asking([this] { SaveReport(); }));
+  history_ =
+      AddAction(*menu, Sign::History, QKeySequence("Ctrl+H"), Asking([this] { ShowHistory(); }));
   safetyCopies_ = AddAction(*menu, Sign::Copies, {}, {});
   AddMenu(safetyCopies_, [this](QMenu& copies) { FillCopies(copies); });
-  doctor_ = AddAction(*menu, Sign::Doctor, {}, [this] { ShowDoctor(); });
+  doctor_ = AddAction(*menu, Sign::Doctor, {}, Asking([this] { ShowDoctor(); }));
   menu->addSeparator();
-  language_ = AddAction(*menu, Sign::Language, {}, [this] { AskLanguage(); });
+  language_ = AddAction(*menu, Sign::Language, {}, Asking([this] { AskLanguage(); }));
 }
 
 QAction* MainWindow::AddAction(QWidget& place, Sign sign, QKeySequence keys,
@@ -97,6 +98,12 @@ QAction* MainWindow::AddAction(QWidget& place, Sign sign, QKeySequence keys,
   if (run)
     connect(action, &QAction::triggered, this, [this, run = std::move(run)] { parts_.guard(run); });
   return action;
+}
+
+std::function<void()> MainWindow::Asking(std::function<void()> run) {
+  return [this, run = std::move(run)] {
+    configurator_.comms.Reading().WhenFree([this, run] { parts_.guard(run); });
+  };
 }
 
 QAction* MainWindow::AddSwitch(QWidget& place, Sign sign, QKeySequence keys, QDockWidget& panel,
@@ -273,8 +280,7 @@ void MainWindow::AskLanguage() {
 void MainWindow::FillRecent(QMenu& menu) {
   for (const std::string& path : recent_.Paths()) {
     QString text = QDir::toNativeSeparators(ToQt(path));
-    menu.addAction(text.replace(u'&', "&&"), this,
-                   [this, path] { parts_.guard([&] { OpenPath(path); }); });
+    menu.addAction(text.replace(u'&', "&&"), this, Asking([this, path] { OpenPath(path); }));
   }
   if (menu.isEmpty()) menu.addAction(Words::tr("No files yet"))->setEnabled(false);
 }
@@ -283,9 +289,8 @@ void MainWindow::FillCopies(QMenu& menu) {
   const QFileInfoList copies =
       QDir(ToQt(copies_.Folder())).entryInfoList({"*.ocf"}, QDir::Files, QDir::Time);
   for (const QFileInfo& copy : copies.first(std::min(copies.size(), kCopiesOffered)))
-    menu.addAction(copy.completeBaseName(), this, [this, path = copy.absoluteFilePath()] {
-      parts_.guard([&] { OpenPath(FromQt(path)); });
-    });
+    menu.addAction(copy.completeBaseName(), this,
+                   Asking([this, path = FromQt(copy.absoluteFilePath())] { OpenPath(path); }));
   if (menu.isEmpty()) menu.addAction(Words::tr("No copies yet"))->setEnabled(false);
   menu.addSeparator();
   menu.addAction(Words::tr("Show the folder"), this, [this] {
@@ -319,14 +324,16 @@ void MainWindow::ShowTrace(bool on) {
 }
 
 void MainWindow::SaveBeside(const QString& kind, const QString& ending, const std::string& octets) {
-  const auto path = parts_.platform.dialogs.ChooseFile(
-      {.mode = FileQuestion::Mode::Save,
-       .filter = FromQt(kind + "|*." + ending + "|" + Words::tr("All files") + "|*.*"),
-       .overwritePrompt = true});
-  if (!path) return;
-  const FileResult saved = SaveWhole(parts_.platform.files, *path, octets);
-  if (!saved.Ok())
-    Tell(Words::tr("%1 could not be written: %2").arg(ToQt(*path), ToQt(saved.error)));
+  Asking([this, kind, ending, octets] {
+    const auto path = parts_.platform.dialogs.ChooseFile(
+        {.mode = FileQuestion::Mode::Save,
+         .filter = FromQt(kind + "|*." + ending + "|" + Words::tr("All files") + "|*.*"),
+         .overwritePrompt = true});
+    if (!path) return;
+    const FileResult saved = SaveWhole(parts_.platform.files, *path, octets);
+    if (!saved.Ok())
+      Tell(Words::tr("%1 could not be written: %2").arg(ToQt(*path), ToQt(saved.error)));
+  })();
 }
 
 }  // namespace ostrel

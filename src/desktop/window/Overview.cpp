@@ -1,9 +1,9 @@
 #include "desktop/window/Overview.h"
 
-#include "desktop/window/FaultText.h"
+#include "desktop/session/FaultText.h"
 #include "desktop/window/FieldText.h"
 #include "shell/Configurator.h"
-#include "shell/Navigation.h"
+#include "shell/navigation/Navigation.h"
 
 namespace ostrel {
 namespace {

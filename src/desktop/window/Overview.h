@@ -7,7 +7,7 @@
 #include "desktop/window/GroupTable.h"
 #include "desktop/window/PageArea.h"
 #include "desktop/window/TreePane.h"
-#include "shell/UnsavedMark.h"
+#include "shell/files/UnsavedMark.h"
 
 namespace ostrel {
 

@@ -7,6 +7,7 @@
 #include <QVBoxLayout>
 #include <utility>
 
+#include "desktop/forms/DarkPalette.h"
 #include "desktop/forms/Words.h"
 #include "desktop/window/NodeDelegate.h"
 
@@ -95,8 +96,7 @@ void TreePane::SetNodes(const std::vector<TreeNode>& nodes) {
 
 void TreePane::Paint(const std::vector<std::string>& redKeys, const QString& mark) {
   constexpr QColor kRedOnLight(208, 0, 0), kRedOnDark(255, 107, 107);
-  constexpr int kMiddle = 128;
-  const bool isDark = palette().color(QPalette::Base).lightness() < kMiddle;
+  const bool isDark = IsDark(palette());
   if (painted_ && painted_->first == redKeys && painted_->second == isDark) return;
   painted_ = {redKeys, isDark};
   const std::set<std::string> reds(redKeys.begin(), redKeys.end());

@@ -10,8 +10,8 @@
 #include <utility>
 #include <vector>
 
-#include "shell/ChannelOverview.h"
-#include "shell/NavigationTree.h"
+#include "shell/navigation/ChannelOverview.h"
+#include "shell/navigation/NavigationTree.h"
 
 class QLineEdit;
 

@@ -2680,8 +2680,8 @@
         <translation>Gráfica de valores en tiempo real</translation>
     </message>
     <message>
-        <source>Drag or arrow keys: move. Wheel, + and -: zoom. With Shift: the values instead of time. Home: all. End: follow. 0 or double click: fit the values.</source>
-        <translation>Arrastrar o flechas: mover. Rueda, + y -: ampliar y reducir. Con Mayús: los valores en lugar del tiempo. Inicio: todo. Fin: seguir. 0 o doble clic: ajustar los valores.</translation>
+        <source>Drag, left and right: move in time. Wheel, + and -: zoom in time. Drag and wheel with Shift, up and down, page up and page down: the same of the values. Home: all. End: follow. 0 or double click: fit the values.</source>
+        <translation>Arrastrar, izquierda y derecha: mover en el tiempo. Rueda, + y -: ampliar y reducir el tiempo. Arrastrar y rueda con Mayús, arriba y abajo, retroceder y avanzar página: lo mismo con los valores. Inicio: todo. Fin: seguir. 0 o doble clic: ajustar los valores.</translation>
     </message>
     <message>
         <source>&amp;Follow now</source>
@@ -3112,8 +3112,8 @@
         <translation>número nuevo</translation>
     </message>
     <message>
-        <source>nothing was checked</source>
-        <translation>no se comprobó nada</translation>
+        <source>the board did not confirm the first order, so the checks behind it did not run</source>
+        <translation>el equipo no confirmó la primera orden, y las comprobaciones que dependen de ella no se hicieron</translation>
     </message>
     <message>
         <source>its record was not kept</source>

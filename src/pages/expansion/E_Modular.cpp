@@ -141,12 +141,11 @@ void E_Modular::RepaintTree() const {
 
 template <auto kPart, class Tab>
 void E_Modular::EditActionsOf(ActionList AlarmBlock::*list, Tab& tab) {
-  if (context_.ComBusy) return;  // the list is being replaced
   auto& record = Current().*kPart;
   std::string subject = context_.Translate(kInputTitle) + NumText(CurrentIndex_);
   if (const std::string name = tab.NameOf(record); !name.empty()) subject += " \"" + name + '"';
-  context_.EditActions(record.ALARM[0].common.*list, subject + ", " + tab.CaptionOf(list));
-  tab.ShowActionCounts(record);
+  context_.EditActions(record.ALARM[0].common.*list, subject + ", " + tab.CaptionOf(list),
+                       [&tab, &record] { tab.ShowActionCounts(record); });
 }
 
 void E_Modular::ShowHelp() const {

@@ -188,11 +188,10 @@ void TimerPage<Kind>::SaveInto(DeviceConf& conf) const {
 
 template <TimerKind Kind>
 void TimerPage<Kind>::EditActions(std::int16_t slot) {
-  if (context_.ComBusy) return;  // the list is being replaced
   ActionList& actions = Kind::Records(context_.conf)[CurrentIndex_ + slot].ACT;
   Slot& edited = slots_[static_cast<std::size_t>(slot)];
-  context_.EditActions(actions, form_.Title() + ", " + edited.FrameTimer.face.Caption());
-  edited.BotonEditar.SetCount(CountActions(actions));
+  context_.EditActions(actions, form_.Title() + ", " + edited.FrameTimer.face.Caption(),
+                       [&edited, &actions] { edited.BotonEditar.SetCount(CountActions(actions)); });
 }
 
 template <TimerKind Kind>

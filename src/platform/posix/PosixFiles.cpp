@@ -89,6 +89,16 @@ bool ReadAll(int handle, std::size_t most, std::string& octets) {
   return true;
 }
 
+/// Opens a file to be read; not blocking, so that a pipe by this name cannot hold the program up.
+Handle ToRead(const std::string& path) { return Handle(path, O_RDONLY | O_NONBLOCK); }
+
+/// Looks at a file that was opened, which must be a regular one.
+FileResult LookAt(const Handle& file, struct stat& state) {
+  if (!file || ::fstat(file.Number(), &state) != 0) return Outcome(false);
+  if (!S_ISREG(state.st_mode)) return {"it is no regular file"};
+  return {};
+}
+
 /// Brings a change of the folder of a file to the disk. A folder that cannot be read or synced, as
 /// on some network drives, is no reason to fail.
 FileResult SyncFolderOf(const std::string& path) {
@@ -130,11 +140,9 @@ bool IsLeftOver(std::string_view ending) {
 
 FileResult PosixFiles::ReadUpTo(const std::string& path, std::size_t most, std::string& octets) {
   octets.clear();
-  // Non-blocking, so that a pipe by this name cannot hold the program up.
-  const Handle file(path, O_RDONLY | O_NONBLOCK);
+  const Handle file = ToRead(path);
   struct stat state {};
-  if (!file || ::fstat(file.Number(), &state) != 0) return Outcome(false);
-  if (!S_ISREG(state.st_mode)) return {"it is no regular file"};
+  if (FileResult looked = LookAt(file, state); !looked.Ok()) return looked;
   const bool isLarge = state.st_size > static_cast<off_t>(most);
   if (!isLarge && !ReadAll(file.Number(), most, octets)) {
     const FileResult failed = Outcome(false);
@@ -144,6 +152,19 @@ FileResult PosixFiles::ReadUpTo(const std::string& path, std::size_t most, std::
   if (!isLarge && octets.size() <= most) return {};
   octets.clear();
   return TooLarge(most);
+}
+
+FileResult PosixFiles::ReadEnd(const std::string& path, std::size_t most, std::string& octets) {
+  octets.clear();
+  const Handle file = ToRead(path);
+  struct stat state {};
+  if (FileResult looked = LookAt(file, state); !looked.Ok()) return looked;
+  const off_t start = std::max<off_t>(state.st_size - static_cast<off_t>(most), 0);
+  if (::lseek(file.Number(), start, SEEK_SET) >= 0 && ReadAll(file.Number(), most, octets))
+    return {};
+  const FileResult failed = Outcome(false);
+  octets.clear();
+  return failed;
 }
 
 bool PosixFiles::Exists(const std::string& path) {
@@ -275,6 +296,9 @@ FileResult PosixFiles::Append(const std::string& path, std::string_view octets) 
   Handle file(path, O_WRONLY | O_APPEND | O_CREAT);
   struct stat before {};
   if (!file || ::fstat(file.Number(), &before) != 0) return Outcome(false);
+  // The name of a new file is to last as long as what stands in it.
+  if (before.st_size == 0)
+    if (FileResult named = SyncFolderOf(path); !named.Ok()) return named;
   if (WriteAll(file.Number(), octets) && SyncHandle(file.Number())) return Outcome(file.Close());
   const FileResult failed = Outcome(false);
   [[maybe_unused]] const int taken = ::ftruncate(file.Number(), before.st_size);

@@ -24,6 +24,7 @@ BoxAnswer VirtualDialogs::ShowMessage(const MessageBox& box) {
 
 std::optional<std::string> VirtualDialogs::ChooseFile(const FileQuestion& question) {
   questions.push_back(question);
+  if (whileAsked) whileAsked(question);
   return Next(paths_, std::optional<std::string>());
 }
 

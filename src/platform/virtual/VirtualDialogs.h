@@ -26,6 +26,9 @@ class VirtualDialogs final : public Dialogs {
   /// Called while a message box is up: what the operator, or the line, does meanwhile.
   std::function<void(const MessageBox& box)> whileShown;
 
+  /// The same while a file is asked for.
+  std::function<void(const FileQuestion& question)> whileAsked;
+
   /// Queues the answer of the next Yes/No box that has none yet. Boxes with OK alone take none.
   void Answer(BoxAnswer answer) { answers_.push_back(answer); }
   /// Queues the answer of a file question; nothing queued, or nothing given, is a cancel.

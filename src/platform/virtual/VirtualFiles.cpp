@@ -1,5 +1,6 @@
 #include "platform/virtual/VirtualFiles.h"
 
+#include <algorithm>
 #include <array>
 
 namespace ostrel {
@@ -41,6 +42,14 @@ FileResult VirtualFiles::ReadUpTo(const std::string& path, std::size_t most, std
   if (found == contents.end()) return {"no such file"};
   if (found->second.size() > most) return TooLarge(most);
   octets = found->second;
+  return {};
+}
+
+FileResult VirtualFiles::ReadEnd(const std::string& path, std::size_t most, std::string& octets) {
+  octets.clear();
+  const auto found = contents.find(Resolve(path));
+  if (found == contents.end()) return {"no such file"};
+  octets = found->second.substr(found->second.size() - std::min(found->second.size(), most));
   return {};
 }
 
@@ -156,9 +165,9 @@ FileResult VirtualFiles::MakeFolder(const std::string& path) {
 }
 
 FileResult VirtualFiles::Append(const std::string& path, std::string_view octets) {
-  if (Fails(Change::Append, path)) return {"no space left"};
-  contents[Resolve(path)] += octets;
-  return {};
+  const bool fails = Fails(Change::Append, path);
+  contents[Resolve(path)] += fails ? "" : octets;  // a new file stays, and is empty
+  return {fails ? "no space left" : ""};
 }
 
 FileResult VirtualFiles::WhileLocked(const std::string& path, const std::function<void()>& work) {

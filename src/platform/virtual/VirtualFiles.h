@@ -46,6 +46,7 @@ class VirtualFiles final : public Files {
   void Heal();
 
   FileResult ReadUpTo(const std::string& path, std::size_t most, std::string& octets) override;
+  FileResult ReadEnd(const std::string& path, std::size_t most, std::string& octets) override;
   bool Exists(const std::string& path) override;
   std::vector<std::string> List(const std::string& folder) override;
   /// There is no present folder here: the path itself.

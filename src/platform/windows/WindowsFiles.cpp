@@ -139,6 +139,24 @@ FileResult WindowsFiles::ReadUpTo(const std::string& path, std::size_t most, std
   return TooLarge(most);
 }
 
+FileResult WindowsFiles::ReadEnd(const std::string& path, std::size_t most, std::string& octets) {
+  octets.clear();
+  const Handle file = OpenFile(path, GENERIC_READ, OPEN_EXISTING);
+  LARGE_INTEGER size{};
+  if (IsFolder(AttributesOf(path))) return {"it is no regular file"};
+  if (!file) return Outcome(false);
+  if (::GetFileType(file.Get()) != FILE_TYPE_DISK) return {"it is no regular file"};
+  if (!::GetFileSizeEx(file.Get(), &size)) return Outcome(false);
+  LARGE_INTEGER start{};
+  start.QuadPart = std::max<LONGLONG>(size.QuadPart - static_cast<LONGLONG>(most), 0);
+  if (::SetFilePointerEx(file.Get(), start, nullptr, FILE_BEGIN) &&
+      ReadAll(file.Get(), most, octets))
+    return {};
+  const FileResult failed = Outcome(false);
+  octets.clear();
+  return failed;
+}
+
 bool WindowsFiles::Exists(const std::string& path) {
   return AttributesOf(path) != INVALID_FILE_ATTRIBUTES;
 }

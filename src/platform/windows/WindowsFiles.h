@@ -14,6 +14,7 @@ namespace ostrel {
 class WindowsFiles final : public Files {
  public:
   FileResult ReadUpTo(const std::string& path, std::size_t most, std::string& octets) override;
+  FileResult ReadEnd(const std::string& path, std::size_t most, std::string& octets) override;
   bool Exists(const std::string& path) override;
   std::vector<std::string> List(const std::string& folder) override;
   std::string Absolute(const std::string& path) override;

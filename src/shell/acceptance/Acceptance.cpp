@@ -6,9 +6,9 @@
 #include <utility>
 
 #include "blocks/Configuration.h"
-#include "shell/ChannelOverview.h"
-#include "shell/Navigation.h"
-#include "shell/NavigationTree.h"
+#include "shell/navigation/ChannelOverview.h"
+#include "shell/navigation/Navigation.h"
+#include "shell/navigation/NavigationTree.h"
 
 namespace ostrel {
 namespace {

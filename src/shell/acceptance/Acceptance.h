@@ -8,7 +8,7 @@
 #include "blocks/Clearing.h"
 #include "model/LiveRound.h"
 #include "platform/DateTime.h"
-#include "shell/ConfigurationFile.h"
+#include "shell/files/ConfigurationFile.h"
 
 namespace ostrel {
 

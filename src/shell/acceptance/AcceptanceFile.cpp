@@ -88,10 +88,10 @@ std::string AcceptanceTable(const Acceptance& acceptance, const Translation& tra
     headings.push_back(translate(word));
   std::string text = CsvRow(headings);
   for (const AcceptancePoint& point : acceptance.points)
-    text +=
-        CsvRow(Row{acceptance.serialNumber, acceptance.configuration, translate(point.kind),
-                   std::to_string(point.number), point.name, translate(VerdictWord(point.verdict)),
-                   point.note, point.value, TimeCell(point)});
+    text += CsvRow(Row{SheetText(acceptance.serialNumber), SheetText(acceptance.configuration),
+                       translate(point.kind), std::to_string(point.number), SheetText(point.name),
+                       translate(VerdictWord(point.verdict)), SheetText(point.note), point.value,
+                       TimeCell(point)});
   return text;
 }
 

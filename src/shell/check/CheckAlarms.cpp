@@ -2,8 +2,8 @@
 
 #include "base/Channels.h"
 #include "model/Features.h"
-#include "shell/Recipients.h"
 #include "shell/check/CheckRules.h"
+#include "shell/words/Recipients.h"
 
 namespace ostrel {
 void VisitEnabledAlarms(const Examined& file, const AlarmVisitor& visit) {

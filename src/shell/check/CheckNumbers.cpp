@@ -7,8 +7,8 @@
 #include "blocks/inputs/AuxiliaryInputs.h"
 #include "blocks/inputs/FlagAlarms.h"
 #include "blocks/inputs/InterfaceCodes.h"
-#include "shell/FieldWords.h"
 #include "shell/check/CheckRules.h"
+#include "shell/words/FieldWords.h"
 
 namespace ostrel {
 namespace {

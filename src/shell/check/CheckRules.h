@@ -7,9 +7,9 @@
 #include <string_view>
 #include <vector>
 
-#include "shell/ConfigurationFile.h"
-#include "shell/Phrase.h"
-#include "shell/SentFields.h"
+#include "shell/files/ConfigurationFile.h"
+#include "shell/words/Phrase.h"
+#include "shell/writing/SentFields.h"
 #include "store/IniClass.h"
 
 namespace ostrel {

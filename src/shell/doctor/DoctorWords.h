@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "shell/Phrase.h"
+#include "shell/words/Phrase.h"
 
 namespace ostrel {
 

@@ -9,8 +9,8 @@
 #include "link/Frame.h"
 #include "link/LinkTimes.h"
 #include "link/Modem.h"
-#include "link/Opening.h"
-#include "shell/FaultWords.h"
+#include "link/dialogues/Opening.h"
+#include "shell/session/FaultWords.h"
 
 namespace ostrel {
 namespace {

@@ -9,8 +9,8 @@
 #include "platform/Platform.h"
 #include "platform/PortFacts.h"
 #include "platform/TappedPort.h"
-#include "shell/Phrase.h"
 #include "shell/doctor/DoctorWords.h"
+#include "shell/words/Phrase.h"
 
 namespace ostrel {
 

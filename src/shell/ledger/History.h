@@ -7,8 +7,8 @@
 
 #include "platform/Files.h"
 #include "platform/Ledger.h"
-#include "shell/ConfigurationFile.h"
-#include "shell/Phrase.h"
+#include "shell/files/ConfigurationFile.h"
+#include "shell/words/Phrase.h"
 
 namespace ostrel {
 

@@ -4,8 +4,8 @@
 #include <utility>
 
 #include "base/Sha256.h"
-#include "shell/Against.h"
 #include "shell/Configurator.h"
+#include "shell/compare/Against.h"
 #include "shell/ledger/History.h"
 
 namespace ostrel {

@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "model/DeviceConf.h"
-#include "shell/Phrase.h"
+#include "shell/words/Phrase.h"
 
 namespace ostrel {
 

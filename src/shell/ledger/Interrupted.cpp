@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "shell/Against.h"
 #include "shell/Configurator.h"
+#include "shell/compare/Against.h"
 #include "shell/ledger/History.h"
 
 namespace ostrel {

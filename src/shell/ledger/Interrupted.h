@@ -5,7 +5,7 @@
 
 #include "model/DeviceConf.h"
 #include "platform/Ledger.h"
-#include "shell/Phrase.h"
+#include "shell/words/Phrase.h"
 
 namespace ostrel {
 

@@ -6,9 +6,9 @@
 #include "platform/Clock.h"
 #include "platform/EventLoop.h"
 #include "platform/Files.h"
-#include "shell/Comparison.h"
-#include "shell/ConfigurationFile.h"
-#include "shell/FaultWords.h"
+#include "shell/compare/Comparison.h"
+#include "shell/files/ConfigurationFile.h"
+#include "shell/session/FaultWords.h"
 
 namespace ostrel {
 namespace {

@@ -11,7 +11,7 @@ void Add(std::string& text, std::string_view mark, std::string_view part) {
 std::string_view ReasonOf(const TestRecord& record) {
   switch (record.verdict) {
     case TestVerdict::Passed:
-      return record.checked ? "" : kNothingChecked;
+      return record.checked ? "" : kUnconfirmed;
     case TestVerdict::Failed:
       return record.failures.empty() ? kNotKept : "";
     default:

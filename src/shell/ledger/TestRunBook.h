@@ -9,7 +9,8 @@ namespace ostrel {
 
 /// What stands in the ledger of a test run, beside its own words: the first words of a fault, and
 /// marks in the lines of a detail. A face that speaks other languages translates these.
-inline constexpr std::string_view kNothingChecked = "nothing was checked";
+inline constexpr std::string_view kUnconfirmed =
+    "the board did not confirm the first order, so the checks behind it did not run";
 inline constexpr std::string_view kNotKept = "its record was not kept";
 inline constexpr std::string_view kNewNumber = "new number";
 inline constexpr std::string_view kOutOfBand = "FAILED";

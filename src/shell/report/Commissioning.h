@@ -7,10 +7,10 @@
 #include "model/DeviceInfo.h"
 #include "model/LiveRound.h"
 #include "platform/DateTime.h"
-#include "shell/ConfigurationFile.h"
-#include "shell/Phrase.h"
 #include "shell/acceptance/Acceptance.h"
+#include "shell/files/ConfigurationFile.h"
 #include "shell/report/Report.h"
+#include "shell/words/Phrase.h"
 
 namespace ostrel {
 

@@ -2,10 +2,10 @@
 
 #include "base/Channels.h"
 #include "model/Features.h"
-#include "shell/FieldWords.h"
-#include "shell/Recipients.h"
 #include "shell/report/ReportWriter.h"
 #include "shell/schedule/ScheduleWords.h"
+#include "shell/words/FieldWords.h"
+#include "shell/words/Recipients.h"
 
 namespace ostrel::report {
 namespace {

@@ -2,10 +2,10 @@
 
 #include <map>
 
-#include "shell/ChannelOverview.h"
-#include "shell/Navigation.h"
-#include "shell/SettingLines.h"
 #include "shell/check/CheckRules.h"
+#include "shell/navigation/ChannelOverview.h"
+#include "shell/navigation/Navigation.h"
+#include "shell/words/SettingLines.h"
 
 namespace ostrel::report {
 namespace {

@@ -7,8 +7,8 @@
 #include <string_view>
 #include <vector>
 
-#include "shell/SettingLines.h"
 #include "shell/report/Commissioning.h"
+#include "shell/words/SettingLines.h"
 
 namespace ostrel::report {
 

@@ -4,8 +4,8 @@
 #include <string>
 #include <vector>
 
-#include "shell/Phrase.h"
 #include "shell/schedule/Schedule.h"
+#include "shell/words/Phrase.h"
 
 namespace ostrel {
 

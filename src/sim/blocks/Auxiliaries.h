@@ -3,7 +3,7 @@
 #include <string>
 
 #include "sim/Alarm.h"
-#include "sim/Scale.h"
+#include "sim/wire/Scale.h"
 
 namespace ostrel::sim {
 

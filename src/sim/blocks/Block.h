@@ -7,11 +7,11 @@
 #include <string_view>
 
 #include "sim/Configuration.h"
-#include "sim/DemoParts.h"
-#include "sim/LineComposer.h"
-#include "sim/RandomParts.h"
 #include "sim/StateText.h"
-#include "sim/StatementCursor.h"
+#include "sim/demo/DemoParts.h"
+#include "sim/demo/RandomParts.h"
+#include "sim/wire/LineComposer.h"
+#include "sim/wire/StatementCursor.h"
 
 namespace ostrel::sim {
 

@@ -1,7 +1,7 @@
 #include "sim/blocks/Flags.h"
 
-#include "sim/AlarmStatement.h"
 #include "sim/blocks/Block.h"
+#include "sim/wire/AlarmStatement.h"
 
 namespace ostrel::sim {
 namespace {

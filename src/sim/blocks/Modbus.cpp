@@ -2,8 +2,8 @@
 
 #include <array>
 
-#include "sim/AlarmStatement.h"
 #include "sim/blocks/Block.h"
+#include "sim/wire/AlarmStatement.h"
 
 namespace ostrel::sim {
 namespace {

@@ -4,9 +4,9 @@
 #include <charconv>
 #include <vector>
 
-#include "sim/AlarmStatement.h"
-#include "sim/NumberText.h"
 #include "sim/blocks/Block.h"
+#include "sim/wire/AlarmStatement.h"
+#include "sim/wire/NumberText.h"
 
 namespace ostrel::sim {
 namespace {

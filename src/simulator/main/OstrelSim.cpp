@@ -11,7 +11,7 @@
 #include "platform/qt/QtClock.h"
 #include "platform/qt/ServedLine.h"
 #include "recording/Replay.h"
-#include "sim/FixtureText.h"
+#include "sim/fixture/FixtureText.h"
 #include "simulator/SimOptions.h"
 
 namespace {

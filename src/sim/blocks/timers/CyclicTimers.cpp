@@ -1,7 +1,7 @@
 #include "sim/blocks/timers/CyclicTimers.h"
 
-#include "sim/AlarmStatement.h"
 #include "sim/blocks/Block.h"
+#include "sim/wire/AlarmStatement.h"
 
 namespace ostrel::sim {
 namespace {

@@ -1,0 +1,82 @@
+#include "shell/writing/GuardedWrite.h"
+
+#include "shell/Configurator.h"
+#include "shell/compare/Against.h"
+#include "shell/ledger/IdentityGuard.h"
+
+namespace ostrel {
+namespace {
+
+/// Puts back what stood on the pages, at the end of a scope.
+class PagesKept {
+ public:
+  explicit PagesKept(Configurator& configurator)
+      : configurator_(configurator),
+        conf_(configurator.conf),
+        origin_(configurator.WhereFrom()),
+        source_(configurator.ledger.Source()) {}
+  ~PagesKept() {
+    configurator_.ShowConfiguration(conf_);
+    configurator_.SetOrigin(std::move(origin_));
+    configurator_.ledger.SetSource(std::move(source_));
+  }
+  PagesKept(const PagesKept&) = delete;
+  PagesKept& operator=(const PagesKept&) = delete;
+
+ private:
+  Configurator& configurator_;
+  DeviceConf conf_;
+  Configurator::Origin origin_;
+  LedgerSource source_;
+};
+
+/// Reads what the logger holds, and gets the consent to replace it. Nothing when all is well.
+std::optional<WriteEnd> Prepare(Configurator& configurator, const WriteRoad& road,
+                                const DeviceConf& toSend) {
+  const bool isGuarded = road.inSpiteOf && HaveMet(configurator);
+  if (!road.keep && !road.mayWrite && !isGuarded) return {};
+  const auto held = ReadBeside(configurator, road.read);
+  if (!held) return WriteEnd::NotRead;
+  if (road.keep && !road.keep(*held)) return WriteEnd::NotKept;
+  if (const auto doubt = isGuarded ? DoubtOfHeld(configurator, *held) : std::nullopt;
+      doubt && !road.inSpiteOf(*doubt))
+    return WriteEnd::Declined;
+  if (road.mayWrite &&
+      !road.mayWrite(Against(configurator, toSend, *held, road.passwords).WhatChanges()))
+    return WriteEnd::Declined;
+  return {};
+}
+
+WriteEnd Send(Configurator& configurator, const WriteRoad& road, WriteResult& result) {
+  if (const auto ended = Prepare(configurator, road, result.sent)) return *ended;
+  if (!road.write()) return WriteEnd::NotWritten;
+  if (!road.verify) return WriteEnd::Written;
+  const auto held = ReadBeside(configurator, road.read);
+  if (!held) return WriteEnd::NotReadBack;
+  result.verified = Against(configurator, result.sent, *held, road.passwords).WhatCameBack();
+  configurator.ledger.Verified(*result.verified);
+  return WriteEnd::Written;
+}
+
+}  // namespace
+
+std::optional<DeviceConf> ReadBeside(Configurator& configurator,
+                                     const std::function<bool()>& read) {
+  const PagesKept kept(configurator);
+  // Emptying leaves some fields alone: what stands on the pages must not pass for what was read.
+  configurator.conf = DeviceConf{};
+  if (!read()) return {};
+  return configurator.conf;
+}
+
+WriteResult WriteGuarded(Configurator& configurator, const WriteRoad& road) {
+  const auto guarded = configurator.ledger.WithGuards();
+  configurator.session.ForgetWritten();
+  WriteResult result{.sent = configurator.conf};
+  result.end = Send(configurator, road, result);
+  // A logger holds just this now.
+  if (result.verified && result.verified->isSame) configurator.SetOrigin({.isKnown = true});
+  return result;
+}
+
+}  // namespace ostrel
