@@ -82,7 +82,7 @@ TEST(Upload, SendsNothingWhereAPeriodOverflows) {
 TEST(Upload, LeavesOutWhatItIsToldTo) {
   UploadWorld world;
   world.Upon("#42", [] { ADD_FAILURE() << "a download"; });
-  EXPECT_EQ(world.Upload("--no-backup --no-verify --json"), 0);
+  EXPECT_EQ(world.Upload("--no-backup --no-verify --force --json"), 0);
   EXPECT_EQ(world.Backups(), 0U);
   const QJsonObject result = world.Json().object();
   EXPECT_TRUE(result["backup"].isNull() && result["verified"].isNull());
@@ -132,7 +132,7 @@ TEST(Upload, SaysWhyItFailedAndHowTheLoggerStands) {
   }
   UploadWorld world;
   world.Upon("#42", [&] { world.environment.onInterrupt(); });  // the first is the verification
-  EXPECT_EQ(world.Upload("--no-backup"), 4);
+  EXPECT_EQ(world.Upload("--no-backup --force"), 4);
   EXPECT_THAT(world.err, HasSubstr("interrupted; the logger has taken the new configuration over, "
                                    "which is not verified"));
 }
