@@ -88,6 +88,12 @@ std::string FoldText(std::string_view utf8) {
   std::string folded;
   folded.reserve(utf8.size());
   for (std::size_t position = 0; position < utf8.size();) {
+    // Nearly all names are plain.
+    if (const auto octet = static_cast<unsigned char>(utf8[position]); octet < 0x80) {
+      folded += static_cast<char>(FoldedOctet(octet));
+      ++position;
+      continue;
+    }
     const char32_t character = NextCharacter(utf8, position);
     if (character == kMalformed)
       folded += '\xFF';

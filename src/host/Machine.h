@@ -7,11 +7,11 @@
 #include "host/System.h"
 #include "platform/DevicePort.h"
 #include "platform/Platform.h"
+#include "platform/PortSwitch.h"
 #include "platform/qt/QtClock.h"
 #include "platform/qt/QtEventLoop.h"
 #include "platform/qt/QtSettings.h"
 #include "platform/qt/SqlLedger.h"
-#include "platform/virtual/PortSwitch.h"
 
 namespace ostrel {
 

@@ -25,9 +25,7 @@ bool RefusesErasing(const LinkFault& fault) {
 }
 
 LinkFault FirmwareDialogue::Run(const FirmwareFiles& files, const OnStage& onStage) {
-  put_ = 0;
   expected_ = SentOctets(files.image.size()) + SentOctets(files.loader.size());
-  received_.clear();
   LinkFault fault = Transfer(files, onStage);
   Tell(fault.Ok() ? Progress::Stage::Done : Progress::Stage::Failed);
   return fault;

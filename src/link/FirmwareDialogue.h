@@ -32,7 +32,7 @@ enum class FirmwareStage {
 /// is none: the word before, that it erases, was lost.
 bool RefusesErasing(const LinkFault& fault);
 
-/// Replaces a logger's firmware.
+/// Replaces a logger's firmware, once.
 ///
 /// The files go out at line speed, and never more of them waits to go than half a second of the
 /// line carries. After each block the logger must have given a sign of life; a block counts when

@@ -17,8 +17,6 @@ constexpr std::size_t kMostNamed = 5;
 /// Sections and keys as the file's reader compares them.
 using Names = std::set<std::pair<std::string, std::string>>;
 
-std::string NameRead(std::string_view name) { return FoldText(WithoutBlanks(name)); }
-
 /// Keys that earlier files have in place of present ones: they are read, and written anew.
 bool IsEarlierForm(const std::string& section, const std::string& key) {
   return section == FoldText(GeneralParameters::kSection.word) && key.starts_with(FoldText("TLF "));

@@ -31,6 +31,8 @@ std::string_view WithoutBlanks(std::string_view text) {
   return text;
 }
 
+std::string NameRead(std::string_view name) { return FoldText(WithoutBlanks(name)); }
+
 ProfileIndex::ProfileIndex(std::string octets) : text_(std::move(octets)) {
   std::string_view rest = text_;
   while (!rest.empty()) {

@@ -10,6 +10,9 @@ namespace ostrel {
 /// A text without the blanks and tabs around it.
 std::string_view WithoutBlanks(std::string_view text);
 
+/// The name of a section or key, in UTF-8, as a file's reader compares it.
+std::string NameRead(std::string_view name);
+
 /// The keys of one profile file, found in one pass over its text. The first occurrence of a section
 /// counts, and of a key in it; names compare ignoring letter case. CR and LF end a line; blanks and
 /// tabs at the ends of names and values do not belong to them.

@@ -122,9 +122,7 @@ void Firm::EnableAll(bool enabled) {
 
 void Firm::ShowStage(FirmwareStage stage) {
   SetInfo(StageKey(stage));
-  if (stage != FirmwareStage::Image) return;
-  PBar.SetMaximum(static_cast<int>(imageOctets_));
-  PBar.SetValue(0);
+  if (stage == FirmwareStage::Image) PBar.SetMaximum(static_cast<int>(imageOctets_));
 }
 
 void Firm::SendFirmware(const FirmwareFiles& files) {

@@ -21,8 +21,7 @@ std::optional<std::string> NumbersOfRecord(std::string_view line) {
     if (error != std::errc() || end != line.data() + at + 2) return {};
     numbers += static_cast<char>(number);
   }
-  const bool isWhole = numbers.size() >= kAroundData &&
-                       numbers.size() == static_cast<unsigned char>(numbers[0]) + kAroundData;
+  const bool isWhole = numbers.size() == static_cast<unsigned char>(numbers[0]) + kAroundData;
   return isWhole ? std::optional(numbers) : std::nullopt;
 }
 

@@ -25,7 +25,6 @@ void LiveRecorder::Begin(const std::string& path) {
     return static_cast<void>(context_.dialogs.ShowMessage({.text = path + ": " + why,
                                                            .title = context_.profile.TargetName,
                                                            .icon = BoxIcon::Exclamation}));
-  ended_ = {};
   isDoubtful_ = false;
   logger_ = {};
   recording_.emplace(std::move(out));

@@ -72,11 +72,6 @@ MathPart::MathPart(Form& form)
     registers[static_cast<std::size_t>(i)].SetNames("R" + std::to_string(i));
 }
 
-void MathPart::SetVisible(const TargetProfile& profile) {
-  for (int i = 0; i < kMathRows; ++i)
-    rows[static_cast<std::size_t>(i)].SetVisible(i < profile.MathCount);
-}
-
 Staleness LiveShow::AgeOf(const LiveRead& read) const {
   if (context_.Connected && !read.IsStale()) return {};
   return {.isStale = true, .since = read.hasCome ? TimeOfRead(read) : ""};

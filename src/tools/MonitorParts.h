@@ -61,7 +61,6 @@ void AddLamps(Lamps& lamps, Labels& labels, Form& form, std::string_view lamp,
 /// The math channels and registers of a monitor.
 struct MathPart {
   explicit MathPart(Form& form);
-  void SetVisible(const TargetProfile& profile);
 
   Frame FrameCMat;
   MeasureRows rows;

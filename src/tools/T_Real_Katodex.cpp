@@ -43,7 +43,6 @@ void T_Real_Katodex::LoadText() {
   for (std::size_t i = 0; i < kAuxChannels.size(); ++i)
     aux_[i].SetNames(context_.Translate(kAuxChannels.at(i).name),
                      std::string(kAuxChannels.at(i).unit));
-  math_.SetVisible(context_.profile);
   recorder_.Follow();
 }
 

@@ -105,7 +105,6 @@ void T_Real_Tavro::ShapeInputs() {
     At(LabelModulo, i).face.SetVisible(model.IsS100);
     if (!model.IsS100) At(moduleBars_, i).Set({}, {});
   }
-  math_.SetVisible(model);
 }
 
 void T_Real_Tavro::ShapeLabels() {

@@ -59,6 +59,7 @@ TEST(Identity, AFileOfAnotherLoggerIsRefusedUnlessForced) {
   for (LedgerEntry& entry : world.ledger.entries) entry.serial = "OTHER";
   EXPECT_EQ(world.Run("upload /a.ocf --port sim:VR200"), 5);
   EXPECT_THAT(world.err, HasSubstr("was last used with the logger OTHER"));
+  EXPECT_EQ(world.Run("upload history:2 --port sim:VR200"), 5) << "nor does what was kept of it";
   EXPECT_EQ(world.Logger().UploadsTaken(), 0U);
   EXPECT_EQ(world.Run("upload /a.ocf --force --port sim:VR200"), 0);
   EXPECT_EQ(world.Run("upload /a.ocf --port sim:VR200"), 0) << "it is this one's now" << world.err;

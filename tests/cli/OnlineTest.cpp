@@ -1,5 +1,6 @@
 #include "cli/World.h"
 #include "lang/Lang.h"
+#include "tools/Disk.h"
 
 namespace ostrel::cli {
 namespace {
@@ -62,6 +63,10 @@ TEST(Online, ShowsLiveValues) {
   const double total = live["registers"][7]["value"].toDouble();
   EXPECT_NE(total, 0);
   EXPECT_NE(total, static_cast<float>(total)) << "all of its digits";
+  EXPECT_EQ(world.Run("total 0 123456789 --port sim:BP"), 0) << world.err;
+  EXPECT_EQ(world.Run("live --port sim:BP --json"), 0);
+  const double count = world.Json().object()["counters"][0]["value"].toDouble();
+  EXPECT_NE(count, static_cast<float>(count));
   EXPECT_EQ(live["flows"].toArray().size(), 2);
   EXPECT_EQ(live["modbus"].toArray().size(), 0);
 }
@@ -139,6 +144,25 @@ TEST(Online, WatchesUntilInterrupted) {
   EXPECT_EQ(world.Run("live --watch --port sim:KA1"), 0);
   EXPECT_THAT(world.out, testing::StartsWith("\x1b[H2026-03-02 09:05:"));
   EXPECT_THAT(world.out, testing::EndsWith("\x1b[K\n\x1b[J")) << "nothing of the former one stays";
+  bool isOpen = false;  // the clock is read last
+  world.Logger(sim::Model::KA1).OnExchange([&](const sim::Exchange& exchange) {
+    if (isOpen) world.environment.onInterrupt();
+    isOpen = exchange.request == "#5D";
+  });
+  EXPECT_EQ(world.Run("live --port sim:KA1"), 4) << "what was asked for has not come";
+  EXPECT_EQ(world.out, "");
+}
+
+TEST(Online, AWatchWritesEachRoundAtOnceAndEndsWithItsReader) {
+  World world;
+  Disk pipe;
+  std::ostream& output = world.outStream;
+  output.rdbuf(&pipe);
+  EXPECT_EQ(world.Run("live --watch --count 5 --port sim:KA1"), 0);
+  EXPECT_GE(pipe.written, 5);
+  output.rdbuf(nullptr);
+  EXPECT_EQ(world.Run("live --watch --csv - --port sim:KA1"), 5);
+  EXPECT_EQ(world.err, "ostrelctl: cannot write the output\n") << "once";
 }
 
 TEST(Online, SetsOutputsAndTotals) {

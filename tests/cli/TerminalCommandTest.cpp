@@ -13,7 +13,7 @@ struct ConsoleWorld : World {
                         const SimulatedLoggers::MakeOptions& make = sim::MakeDefaultOptions)
       : World(make) {
     environment.watchInput = [this, typed](const auto& onLine, const auto& onEnd) {
-      loop.After(std::chrono::milliseconds(1), "typing", [=] {
+      loop.After(std::chrono::seconds(2), "typing", [=] {
         for (const std::string& line : typed) onLine(line);
         onEnd();
       });
@@ -37,10 +37,10 @@ struct ConsoleWorld : World {
 };
 
 TEST(TerminalCommand, SendsEachLineBehindTheAnswerToTheLastAndEndsOnceQuiet) {
-  ConsoleWorld world({"VER", "", "TIME", "bad\x01line", "nothing"});
+  ConsoleWorld world({"", "VER", "TIME", "bad\x01line", "nothing"});
   const TimePoint start = world.loop.Now();
   EXPECT_EQ(world.Run("terminal --port sim:VR200 --log /log"), 0) << world.err;
-  EXPECT_LT(world.loop.Now() - start, std::chrono::seconds(5));
+  EXPECT_LT(world.loop.Now() - start, std::chrono::seconds(7));
   ASSERT_EQ(world.asked, "#01VER #01TIME #01nothing ");
   EXPECT_GE(world.askedAt[1] - world.askedAt[0], std::chrono::milliseconds(200));
   EXPECT_EQ(world.out, "Ostrel VR200 v4.12\n" + world.out.substr(19, 9) + "? nothing\n");
@@ -49,7 +49,9 @@ TEST(TerminalCommand, SendsEachLineBehindTheAnswerToTheLastAndEndsOnceQuiet) {
   EXPECT_THAT(world.err, HasSubstr("not sent, it is no command: bad\\x01line\n"));
   EXPECT_EQ(world.Run("terminal --port sim:VR200 --log /full"), 5);
   EXPECT_EQ(world.err, "ostrelctl: cannot write /full: no room\n");
-  world.Expect("terminal --port sim:VR200 --log /fills", 5, "cannot write /fills");
+  const TimePoint begun = world.loop.Now();
+  world.Expect("terminal --port sim:VR200 --traces on --log /fills", 5, "cannot write /fills");
+  EXPECT_LT(world.loop.Now() - begun, std::chrono::seconds(5)) << "as soon as it is full";
 }
 
 TEST(TerminalCommand, LeavesTracesAloneUnlessTold) {
@@ -85,18 +87,62 @@ TEST(TerminalCommand, WaitsOnACallForAnAnswerThatIsLongInComing) {
   }
 }
 
-/// A cable may carry text without a carrier.
+/// A cable may carry text without a carrier; a call ends with it.
 TEST(TerminalCommand, OutlastsTheCarrierOfACable) {
-  const std::string command = "terminal --raw --seconds 5 --port sim:VR200";
-  std::size_t frames = 0;
-  ConsoleWorld sound({"#041", "#5D"});
-  sound.Logger().OnExchange([&](const sim::Exchange& exchange) { frames += exchange.frames; });
-  EXPECT_EQ(sound.Run(command), 0) << sound.err;
-  ConsoleWorld world({"#041", "#5D"},
-                     WithFaults({"carrier-drop@" + std::to_string(frames) + "!once"}));
-  EXPECT_EQ(world.Run(command), 0) << world.err;
-  EXPECT_THAT(world.err, HasSubstr("Se corto la comunicacion"));
+  for (const bool isCall : {false, true}) {
+    SCOPED_TRACE(isCall);
+    const auto with = [isCall](const std::vector<std::string>& faults) {
+      return [isCall, faulty = WithFaults(faults)](sim::Model model) {
+        sim::LoggerOptions options = faulty(model);
+        options.modem = isCall;
+        return options;
+      };
+    };
+    const std::string command = "terminal --raw --seconds 60 --port sim:VR200" +
+                                std::string(isCall ? " --phone 600 --code 1234" : "");
+    std::size_t frames = 0;
+    ConsoleWorld sound({"#041", "#5D"}, with({}));
+    sound.Logger().OnExchange([&](const sim::Exchange& exchange) { frames += exchange.frames; });
+    EXPECT_EQ(sound.Run(command), 0) << sound.err;
+    ConsoleWorld world({"#041", "#5D"}, with({"carrier-drop@" + std::to_string(frames) + "!once"}));
+    world.environment.watchInput = [&world](const auto& onLine, const auto&) {
+      world.loop.After(std::chrono::seconds(2), "typing", [=] {
+        for (const char* line : {"#041", "#5D"}) onLine(line);
+      });
+      return std::make_shared<int>();  // and the input stays open
+    };
+    const TimePoint begun = world.loop.Now();
+    EXPECT_EQ(world.Run(command), isCall ? 4 : 0) << world.err;
+    EXPECT_EQ(world.loop.Now() - begun < std::chrono::seconds(60), isCall);
+    EXPECT_THAT(world.err, HasSubstr("Se corto la comunicacion"));
+    EXPECT_EQ(world.out.find("DI=") == std::string::npos, isCall);
+  }
+}
+
+TEST(TerminalCommand, IsEndedByAnInterrupt) {
+  ConsoleWorld world;
+  world.environment.watchInput = {};
+  world.loop.After(std::chrono::seconds(9), "interrupt", [&] { world.environment.onInterrupt(); });
+  EXPECT_EQ(world.Run("terminal --traces on --port sim:VR200"), 0) << world.err;
   EXPECT_THAT(world.out, HasSubstr("DI="));
+}
+
+/// Noise without the end of a line is shown, too, and leads no terminal astray.
+TEST(TerminalCommand, ShowsNoiseAsItIsToProgramsAlone) {
+  std::size_t requests = 0, typed = 0;
+  ConsoleWorld sound({"#5D"});
+  sound.Logger().OnExchange([&](const sim::Exchange& exchange) {
+    ++requests;
+    if (exchange.request == "#5D") typed = requests;
+  });
+  EXPECT_EQ(sound.Run("terminal --raw --port sim:VR200"), 0);
+  for (const auto& [face, isTerminal] : {std::pair{"", false}, {"", true}, {" --json", false}}) {
+    ConsoleWorld world({"#5D"}, WithFaults({"noise@" + std::to_string(typed) + "!once"}));
+    world.environment.outIsTerminal = isTerminal;
+    EXPECT_EQ(world.Run("terminal --raw --port sim:VR200" + std::string(face)), 0) << world.err;
+    EXPECT_GT(world.out.size(), 24U);
+    EXPECT_EQ(world.out.find("\xC2\x8D") == std::string::npos, isTerminal) << world.out;
+  }
 }
 
 TEST(TerminalCommand, SendsFramesAsTheyAreTyped) {

@@ -50,10 +50,39 @@ TEST_F(WindowAids, UndoesAndRedoesAPageAtATime) {
   EXPECT_FALSE(Tool("Rehacer")->isEnabled());
   Tool("Deshacer")->trigger();
   NameOf(PageId::E_Analog).Type("other");
+  Tool("Rehacer")->trigger();
+  EXPECT_EQ(Core().conf.Analog[1].NOMBRE, "other") << "what stands on the page is an edit";
   Window().GoTo("General");
   EXPECT_FALSE(Tool("Rehacer")->isEnabled()) << "a new edit leaves nothing to redo";
+  Tool("Deshacer")->trigger();
+  EXPECT_EQ(Core().conf.Analog[1].NOMBRE, "") << "and undone it is what was there before it";
   Core().TargetDeviceChange("Ostrel VR200");
   EXPECT_FALSE(Tool("Deshacer")->isEnabled()) << "another model";
+}
+
+TEST_F(WindowAids, UndoMarksWhatIsNotSavedAndRestsDuringATransfer) {
+  AddLogger(sim::Model::BP);
+  port.SetPaced(true);
+  Connect(seconds(15));
+  Window().GoTo("E_Digital_0");
+  NameOf(PageId::E_Digital).Type("pump");
+  Window().GoTo("General");
+  dialogs.ChoosePath(Path("a.ocf"));
+  Tool("Guardar")->trigger();
+  EXPECT_FALSE(Window().isWindowModified());
+  Tool("Deshacer")->trigger();
+  EXPECT_TRUE(Window().isWindowModified());
+  Tool("Rehacer")->trigger();
+  EXPECT_FALSE(Window().isWindowModified());
+  int looks = 0;
+  loop.After(seconds(5), "look", [&] {
+    EXPECT_EQ(Core().session.State().phase, SessionPhase::Reading);
+    EXPECT_FALSE(Tool("Deshacer")->isEnabled());
+    ++looks;
+  });
+  Core().session.AskFor(SessionPhase::Reading);
+  loop.RunFor(seconds(40));
+  EXPECT_EQ(looks, 1);
 }
 
 TEST(EditHistory, KeepsSoManySteps) {
@@ -71,6 +100,8 @@ TEST(EditHistory, KeepsSoManySteps) {
   for (; history.CanUndo(); ++undone) state = history.Undo().state;
   EXPECT_EQ(undone, EditHistory::kMost - 1);
   EXPECT_EQ(state.General.DNAME, std::to_string(EditHistory::kMost));
+  ++state.Phone[5].Prio;  // of nobody
+  EXPECT_FALSE(history.IsEdited(state, profile)) << "a file holds the same texts";
 }
 
 TEST_F(WindowAids, RecordsTheLineInAFile) {

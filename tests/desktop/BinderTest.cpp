@@ -109,6 +109,22 @@ TEST_F(Binder, ReadoutsTellTheirValueToThoseWhoCannotSeeThem) {
   EXPECT_NE(shownLine->foregroundRole(), freshRole);
 }
 
+TEST_F(Binder, AChangeOfAReadoutIsDrawn) {
+  struct Drawings : QObject {
+    bool eventFilter(QObject*, QEvent* event) override {
+      count += event->type() == QEvent::Paint ? 1 : 0;
+      return false;
+    }
+    int count = 0;
+  } drawings;
+  auto* shown = Show<Readout>("digit");
+  QCoreApplication::processEvents();
+  shown->installEventFilter(&drawings);
+  digit.SetText(" 7");
+  QCoreApplication::processEvents();
+  EXPECT_GE(drawings.count, 1);
+}
+
 TEST_F(Binder, LimitsTellAndShowWhereTheValueStands) {
   UseLanguage("en");
   auto* shown = Show<Readout>("limits");
@@ -126,6 +142,7 @@ TEST_F(Binder, LimitsTellAndShowWhereTheValueStands) {
     EXPECT_TRUE(shown->toolTip().endsWith(": " + QString(words))) << words;
   }
   EXPECT_NE(drawn(5, one), drawn(6, one));
+  EXPECT_NE(drawn(1.5, one), drawn(0.8, one)) << "outside it stands somewhere, too";
   // The sign stands at the right: an arrow points away from the band.
   const auto inkOf = [&](const QImage& image, int from, int rows) {
     const QRect sign(image.width() - 15, image.height() / 2 + from, 14, rows);

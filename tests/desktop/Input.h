@@ -13,10 +13,10 @@
 namespace ostrel {
 
 /// Events as a user makes them, delivered at once.
-inline void SendMouse(QWidget* widget, QEvent::Type type, QPoint at) {
+inline void SendMouse(QWidget* widget, QEvent::Type type, QPoint at,
+                      Qt::KeyboardModifiers keys = Qt::NoModifier) {
   QMouseEvent event(type, at, widget->mapToGlobal(at), Qt::LeftButton,
-                    type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton,
-                    Qt::NoModifier);
+                    type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton, keys);
   QApplication::sendEvent(widget, &event);
 }
 

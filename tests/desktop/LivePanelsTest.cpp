@@ -77,6 +77,9 @@ TEST_F(WindowLivePanels, PlotsWhatIsChosenOnAnyPage) {
   Run(seconds(2));
   EXPECT_EQ(PlotRow("DI0")->text(0), "Door  DI0");
   EXPECT_EQ(chart.Chosen().size(), 3u) << "a chart without curves tells nothing";
+  EXPECT_FALSE(IsState(chart.Chosen().front().kind));
+  for (const QLabel* label : Find<QDockWidget>("Plot")->findChildren<QLabel*>())
+    EXPECT_FALSE(label->isVisibleTo(&Window())) << FromQt(label->text());
   ChooseNothing();
   PlotRow("DI0")->setCheckState(0, Qt::Checked);
   PlotRow("AI0")->setCheckState(0, Qt::Checked);
@@ -91,11 +94,14 @@ TEST_F(WindowLivePanels, PlotsWhatIsChosenOnAnyPage) {
 
   Find<QDockWidget>("Plot")->close();
   Run(seconds(2));
-  const auto before = chart.View();
   int asked = 0;
   logger->OnExchange([&](const sim::Exchange&) { ++asked; });
   Run(minutes(1));
   EXPECT_EQ(asked, 0) << "nothing is read for a panel that was closed";
+  const auto before = chart.View();
+  Switch("Ctrl+K");
+  Run(minutes(1));
+  EXPECT_GT(asked, 0);
   EXPECT_EQ(chart.View(), before) << "nothing is drawn while nobody looks";
   desktop = Make(&dialogs);
   desktop->Start("");
@@ -127,25 +133,52 @@ TEST_F(WindowLivePanels, PansAndZoomsByKeyboardAndFollowsAgain) {
   Press(&chart, Qt::Key_End);
   EXPECT_TRUE(follow->isChecked());
   EXPECT_GT(chart.View().to, last + seconds(8));
+  Press(&chart, Qt::Key_Left);
+  follow->click();
+  EXPECT_GT(chart.View().to, last + seconds(8));
   Press(&chart, Qt::Key_Home);
   EXPECT_NEAR(double(length().count()), 140'000, 15'000) << "all that was read";
+  const auto all = length();
+  Find<QPushButton>("PlotOut")->click();
+  EXPECT_GT(length(), all);
+  Find<QPushButton>("PlotIn")->click();
+  EXPECT_EQ(length(), all);
 
   chart.resize(800, 300);
   chart.replot();
   const QPoint middle(400, 200);
+  const auto turn = [&](Qt::KeyboardModifiers keys) {
+    QWheelEvent wheel(middle, chart.mapToGlobal(middle), {}, {0, 120}, Qt::NoButton, keys,
+                      Qt::NoScrollPhase, false);
+    QApplication::sendEvent(&chart, &wheel);
+    chart.replot();
+  };
   const auto whole = chart.View();
-  QWheelEvent wheel(middle, chart.mapToGlobal(middle), {}, {0, 120}, Qt::NoButton, Qt::NoModifier,
-                    Qt::NoScrollPhase, false);
-  QApplication::sendEvent(&chart, &wheel);
+  turn(Qt::NoModifier);
   EXPECT_LT(length(), whole.Length());
   const auto zoomed = chart.View();
+  const QCPAxis& values = *chart.graph(0)->valueAxis();
+  const QCPRange fitted = values.range();
+  turn(Qt::ShiftModifier);
+  EXPECT_LT(values.range().size(), fitted.size()) << "with Shift the values";
+  const QCPRange rested = values.range();
+  SendMouse(&chart, QEvent::MouseButtonPress, middle, Qt::ShiftModifier);
+  SendMouse(&chart, QEvent::MouseMove, middle + QPoint(0, 40));
+  SendMouse(&chart, QEvent::MouseButtonRelease, middle + QPoint(0, 40));
+  EXPECT_GT(values.range().center(), rested.center());
+  EXPECT_EQ(chart.View(), zoomed);
   SendMouse(&chart, QEvent::MouseButtonPress, middle);
   SendMouse(&chart, QEvent::MouseMove, middle + QPoint(100, 0));
   SendMouse(&chart, QEvent::MouseButtonRelease, middle + QPoint(100, 0));
   EXPECT_LT(chart.View().to, zoomed.to);
   EXPECT_EQ(length(), zoomed.Length());
   EXPECT_FALSE(follow->isChecked());
-  EXPECT_TRUE(chart.Pointed()) << "the list tells the values there";
+  EXPECT_TRUE(chart.Pointed());
+  const QString there = chart.accessibleDescription();
+  QEvent leave(QEvent::Leave);
+  QApplication::sendEvent(&chart, &leave);
+  EXPECT_FALSE(chart.Pointed());
+  EXPECT_NE(chart.accessibleDescription(), there) << "the values of now again";
 }
 
 TEST_F(WindowLivePanels, DrawsStatesInLanesAndNumbersOnTheAxesOfTheirUnits) {
@@ -166,6 +199,7 @@ TEST_F(WindowLivePanels, DrawsStatesInLanesAndNumbersOnTheAxesOfTheirUnits) {
       EXPECT_GE(point.value, i > 3 ? 1 : 0) << "in the lane of its own";
     }
   }
+  EXPECT_EQ(chart.graph(2)->name(), "Nivel depósito [m]");
   EXPECT_EQ(chart.graph(0)->valueAxis(), chart.graph(1)->valueAxis());
   EXPECT_NE(chart.graph(0)->valueAxis(), chart.graph(2)->valueAxis());
 
@@ -183,9 +217,6 @@ TEST_F(WindowLivePanels, DrawsStatesInLanesAndNumbersOnTheAxesOfTheirUnits) {
   DoubleClick(&chart, {400, 200});
   chart.replot();
   EXPECT_EQ(axis.range(), fitted);
-  QEvent leave(QEvent::Leave);
-  QApplication::sendEvent(&chart, &leave);
-  EXPECT_FALSE(chart.Pointed()) << "the list tells the values of now again";
   const auto length = chart.View().Length();
   for (const Qt::Key key : {Qt::Key_Plus, Qt::Key_Minus}) Press(&chart, key);
   EXPECT_EQ(chart.View().Length(), length);
@@ -254,6 +285,8 @@ TEST_F(WindowLivePanels, AcceptsPointByPointAndKeepsIt) {
   EXPECT_TRUE(failure->text().startsWith("The last change could not be kept: "));
   files.Remove(Path("acceptance"));
   Find<QPushButton>("AcceptanceFail")->click();
+  EXPECT_EQ(list->topLevelItem(1)->text(4), list->topLevelItem(1)->text(1)) << "its own value";
+  EXPECT_FALSE(list->topLevelItem(1)->text(5).isEmpty());
   auto* note = Find<QLineEdit>("AcceptanceNote");
   Type(note, "no pulse");
   const std::string& serial = Core().info.SerialNumber;
@@ -271,6 +304,7 @@ TEST_F(WindowLivePanels, AcceptsPointByPointAndKeepsIt) {
   ASSERT_EQ(list->topLevelItemCount(), 3) << "it follows the configuration";
   EXPECT_EQ(list->topLevelItem(1)->text(3), "no pulse");
   list->setCurrentItem(list->topLevelItem(0));
+  EXPECT_EQ(note->text(), "");
   Find<QPushButton>("AcceptanceOpen")->click();
   EXPECT_EQ(list->topLevelItem(0)->text(2), "open");
   Find<QPushButton>("AcceptanceFail")->click();
@@ -292,14 +326,30 @@ TEST_F(WindowLivePanels, AcceptsPointByPointAndKeepsIt) {
   Run(seconds(2));
   EXPECT_FALSE(Find<QPushButton>("AcceptancePass")->isEnabled())
       << "of which logger this is, nobody knows";
+  EXPECT_TRUE(Find<QLabel>("AcceptanceSummary")->text().startsWith("Open a session to begin"));
   EXPECT_FALSE(note->isEnabled());
   EXPECT_EQ(list->topLevelItem(0)->text(1), "") << "nothing is measured any more";
 }
 
-TEST_F(WindowLivePanels, AcceptanceWaitsForTheEndOfADownload) {
+TEST_F(WindowLivePanels, AcceptanceGoesByTheNameOfTheConfiguration) {
   Core().conf.Digital[0].NOMBRE = "Door";
   Switch("Ctrl+K");
+  for (const auto& [name, passed] : {std::pair{"a.ocf", 0}, {"b.ocf", 0}, {"a.ocf", 1}}) {
+    dialogs.ChoosePath(Path(name));
+    Tool("Guardar como")->trigger();
+    Run(seconds(2));
+    const QString summary = Find<QLabel>("AcceptanceSummary")->text();
+    EXPECT_TRUE(summary.contains(QString(", %1: %2 passed").arg(name).arg(passed)))
+        << FromQt(summary);
+    Find<QPushButton>("AcceptancePass")->click();
+  }
+}
+
+TEST_F(WindowLivePanels, AcceptanceWaitsForTheEndOfADownload) {
+  Core().conf.Digital[0].NOMBRE = "Door";
+  for (const char* keys : {"Ctrl+L", "Ctrl+K"}) Switch(keys);
   Run(seconds(3));
+  EXPECT_TRUE(Find<QPushButton>("PlotPicture")->isEnabled());
   std::set<int> shown;
   const TimerId watch = loop.Every(seconds(1), "watch", [&] {
     if (!Core().session.OwnsModel()) return;

@@ -71,6 +71,10 @@ TEST_F(TestPageView, ARunEndsOnItsColourWithItsValues) {
     bool couldStop = false;
     operatorAtWork.whileShown = [&](const MessageBox& box) {
       couldStop = On(*desktop, "CommandStop")->isEnabled();
+      const auto* step = On<QLabel>(*desktop, "LabelTest");
+      EXPECT_GE(step->height(), step->heightForWidth(step->width()));
+      EXPECT_TRUE(step->hasHeightForWidth() || step->width() >= step->sizeHint().width())
+          << "cut off: " << FromQt(step->text());
       EXPECT_FALSE(desktop->Window().IsLineInUse()) << "a box would not wait: " << box.text;
       world.loop.RunFor(std::chrono::seconds(2));
     };

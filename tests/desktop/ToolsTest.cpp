@@ -5,6 +5,7 @@
 #include <QMenu>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QTabBar>
 #include <QTableWidget>
 #include <QTimer>
 #include <QTreeWidget>
@@ -88,6 +89,17 @@ TEST_F(WindowTools, OpensATreeNodeFromTheFilter) {
   filter->setText("nothing");
   Press(filter, Qt::Key_Return);
   EXPECT_EQ(tree.Tree().currentItem()->text(0), "Macros");
+}
+
+TEST_F(WindowTools, ATabOfTheMonitorShowsItsSheet) {
+  Window().show();
+  Core().TargetDeviceChange("Ostrel VR200");
+  Window().GoTo("T_Real");
+  for (const int tab : {1, 0}) {
+    On<QTabBar>(*desktop, "SSTab1")->setCurrentIndex(tab);
+    EXPECT_EQ(On(*desktop, "Digit_MB(0)")->isVisibleTo(&Window()), tab == 1);
+    EXPECT_EQ(On(*desktop, "Digit_AN(0)")->isVisibleTo(&Window()), tab == 0);
+  }
 }
 
 TEST_F(WindowTools, LeavesAChannelThatTheFilesModelHasNot) {

@@ -62,7 +62,7 @@ class FirmwareTest : public LinkTest {
 };
 
 TEST_F(FirmwareTest, TheFilesGoOutAsTheyAreAtLineSpeed) {
-  taker.lastWordAt = 30'000;
+  taker.lastWordAt = 29'900;  // ahead of what follows the end record
   std::size_t mostQueued = 0, leastQueued = 1000;
   int steps = 0;
   const TimerId watch = loop.Every(milliseconds(1), "watch", [&] {
@@ -81,6 +81,7 @@ TEST_F(FirmwareTest, TheFilesGoOutAsTheyAreAtLineSpeed) {
     if (stages.back() == Stage::Image) {
       EXPECT_LE(told.step, static_cast<int>(taker.streamed) + 1) << "what has left";
     }
+    if (steps < 30'300 && told.step >= 30'300) taker.end->Send("late");
     steps = told.step;
   });
   EXPECT_EQ(Send(), Kind::None);
@@ -90,6 +91,7 @@ TEST_F(FirmwareTest, TheFilesGoOutAsTheyAreAtLineSpeed) {
   EXPECT_THAT(stages, ElementsAre(Stage::Asking, Stage::Erasing, Stage::Image, Stage::Loader,
                                   Stage::Copying));
   EXPECT_EQ(steps, 30'900);
+  EXPECT_EQ(comms.TakeInput(), "") << "what comes meanwhile is none of the next dialogue's";
   EXPECT_LE(mostQueued, 480U);
   EXPECT_GE(leastQueued, 380U) << "a program that is held up does not hold up the line";
   const Duration spoken = LineTime(Frames("#LAST", "#F1", "#DWLD_RAM_READY").size());
@@ -170,6 +172,11 @@ TEST_F(FirmwareTest, APortThatClosesOrALineThatIsHeldEndsTheStream) {
   At(seconds(5), [this] { comms.Abort(); });
   EXPECT_LE(Took([&] { EXPECT_EQ(Send(), Kind::PortClosed); }), seconds(5));
   EXPECT_EQ(stages.back(), Stage::Image);
+  OpenPort();
+  const auto atTheEnd = comms.OnProgress([this](const Progress& told) {
+    if (told.step == told.expected) comms.Abort();
+  });
+  EXPECT_EQ(Send(), Kind::PortClosed) << "even with the last octet";
 }
 
 }  // namespace

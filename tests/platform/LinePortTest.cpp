@@ -3,8 +3,8 @@
 #include <string>
 #include <vector>
 
+#include "platform/PortSwitch.h"
 #include "platform/virtual/LinePort.h"
-#include "platform/virtual/PortSwitch.h"
 #include "platform/virtual/VirtualLoop.h"
 
 namespace ostrel {

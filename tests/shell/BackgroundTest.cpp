@@ -94,6 +94,11 @@ TEST_F(UnderRounds, WhatAPageOrToolAsksForCutsTheRound) {
   WithinARound([this] { program.context.showTotal(0); });
   EXPECT_EQ(world.dialogs.modals, 1);
   EXPECT_EQ(Caption(program.setTotal.GetForm(), "LabelEstado"), "Preparado");
+
+  navigation.NodeClick("General");
+  WithinARound([this] { Session().IniCom.Click(); }, "#44");
+  EXPECT_FALSE(program.Connected);
+  EXPECT_EQ(PlaceOf("#20"), -1) << "no round begins any more";
 }
 
 TEST_F(UnderRounds, TheTerminalAndTheUpdateHaveTheLineToThemselves) {
@@ -116,6 +121,13 @@ TEST_F(UnderRounds, TheTerminalAndTheUpdateHaveTheLineToThemselves) {
     world.loop.RunFor(seconds(5));
     EXPECT_GE(PlaceOf("#20"), 0) << "the rounds go on";
   }
+  Form& firm = program.firm.GetForm();
+  for (const auto& [box, path] : {std::pair{"FirmPath", "/i.hex"}, {"LoaderPath", "/CopyFlash"}}) {
+    world.files.contents[path] = "ab";
+    Get<TextBox>(firm, box).SetText(path);
+  }
+  WithinARound([&] { Get<Button>(firm, "StarBut").Click(); });
+  EXPECT_GE(PlaceOf("#F0"), 0) << "it begins behind the round";
 }
 
 TEST_F(UnderRounds, TheMonitorFollowsThemAndSwitchesBehindThem) {

@@ -194,7 +194,11 @@ TEST_F(Books, ALoggerThatAFileIsNotForIsDoubted) {
   Restart();
   Connect();
   Open("/site.ocf");
-  EXPECT_THAT(Doubts(), IsEmpty());
+  LedgerEntry failed = *std::ranges::find(world.ledger.entries, "/site.ocf", &LedgerEntry::file);
+  failed.state = LedgerState::Failed;
+  failed.serial = "OTHER";
+  world.ledger.Add(failed);
+  EXPECT_THAT(Doubts(), IsEmpty()) << "what failed was no use";
   program->info.SerialNumber = "OTHER";
   program->info.Features ^= 0x40;
   EXPECT_THAT(

@@ -87,6 +87,14 @@ TEST(LiveHistory, BreaksACurveWhereAReadFailedOrNobodyRead) {
     EXPECT_EQ(history.ValueAt(kLevel, seconds(at)), level) << at;
 }
 
+TEST(LiveHistory, ALineThatFailsAllTheTimeIsThinnedToo) {
+  constexpr int kRounds = 20'000, kColumns = 100;
+  LiveHistory history;
+  for (int i = 0; i < kRounds; ++i)
+    history.Add(LevelRound(seconds(i), i % 7, i % 2 == 0 ? kCame : kMissed));
+  EXPECT_LE(history.Curve(kLevel, {seconds(0), seconds(kRounds)}, kColumns).size(), 9u * kColumns);
+}
+
 TEST(LiveHistory, ForgetsTheOldestAndNeverGrowsBeyondItsMemory) {
   constexpr std::size_t kMost = 100'000;
   LiveHistory history(kMost);

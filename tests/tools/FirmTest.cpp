@@ -6,6 +6,7 @@
 #include "shell/FaultWords.h"
 #include "shell/Navigation.h"
 #include "shell/SimWorld.h"
+#include "tools/FirmwareChoice.h"
 #include "tools/HexFiles.h"
 #include "tools/IntelHex.h"
 
@@ -161,7 +162,43 @@ TEST(FirmPage, WarnsOfFilesThatLookWrong) {
     bench.Start();
     EXPECT_THAT(bench.asked, testing::StartsWith("#F0 "));
   }
-  EXPECT_EQ(FirstHexFault(good + "rubbish"), HexFault{}) << "behind the end nothing counts";
+}
+
+TEST(IntelHex, IsToldByTheFirstLineThatIsNone) {
+  using Kind = HexFault::Kind;
+  const std::string good = ":0100000041BE\n", end = ":00000001FF";
+  for (const auto& [file, fault] : {std::pair{good + "\r\n\n" + good + end, HexFault{}},
+                                    {":0100000041BE \t\r\n" + end + "\t\nrubbish", {}},
+                                    {good + ":0100000041BE0\n" + end, {Kind::NoRecord, 2}},
+                                    {good + ":0200000041BD\n" + end, {Kind::NoRecord, 2}},
+                                    {"\n:\n" + end, {Kind::NoRecord, 2}},
+                                    {"0100000041BE\n" + end, {Kind::NoRecord, 1}},
+                                    {":010000004GBE\n" + end, {Kind::NoRecord, 1}},
+                                    {":0100000041BF\n" + end, {Kind::BadChecksum, 1}},
+                                    {good, {Kind::NoEnd}}})
+    EXPECT_EQ(FirstHexFault(file), fault) << file;
+  EXPECT_EQ(FirstHexFault(std::string_view(end).substr(0, end.size() - 1)),
+            (HexFault{Kind::NoRecord, 1}))
+      << "what stands behind the text is none of it";
+}
+
+/// The name of a file counts, not that of a folder.
+TEST(FirmwareDoubts, FindFilesThatAreSwapped) {
+  struct Case {
+    const char *image, *loader;
+    int imageRecords, loaderRecords;
+    bool isDoubted;
+  };
+  for (const Case& c : {Case{"/a/image.hex", "/a/CopyFlash.hex", 3, 2, false},
+                        {"/CopyFlash/image.hex", "/CopyFlash/loader.hex", 3, 2, false},
+                        {"/a/CopyFlash.hex", "/CopyFlash/image.hex", 3, 2, true},
+                        {"/a/image.hex", "/a/CopyFlash.hex", 2, 2, true}})
+    EXPECT_EQ(
+        FirmwareDoubts({c.image, c.loader}, {HexFile(c.imageRecords), HexFile(c.loaderRecords)},
+                       [](std::string_view text) { return std::string(text); })
+            .size(),
+        c.isDoubted ? 1U : 0U)
+        << c.image;
 }
 
 /// The fault that damages the first answer behind the opening of a session.
@@ -252,15 +289,32 @@ TEST(FirmPage, ASessionThatEndsBehindTheQuestionIsNotUsed) {
   EXPECT_EQ(bench.Info(), "Preparado");
 }
 
-TEST(FirmPage, WhoBreaksItOffIsNotToldOfIt) {
+TEST(FirmPage, ADialogueUnderWayIsNotDisturbed) {
   FirmBench bench;
   bench.Connect();
-  bench.world.port.SetPaced(true);
-  bench.world.loop.After(seconds(10), "leave", [&] { bench.program.ShutDown(); });
+  bench.program.comms.LinkBusy = true;
   bench.Start();
   EXPECT_EQ(bench.Info(), "¡Error!");
-  EXPECT_THAT(bench.world.dialogs.boxes, IsEmpty());
-  EXPECT_EQ(bench.program.session.Flash(), FlashState::Erased);
+  EXPECT_FALSE(bench.program.session.State().failed) << "it is not the other that has failed";
+  EXPECT_EQ(bench.asked, "");
+}
+
+TEST(FirmPage, WhoBreaksItOffIsNotToldOfIt) {
+  for (const bool leaves : {false, true}) {
+    FirmBench bench;
+    bench.Connect();
+    bench.world.port.SetPaced(true);
+    bench.world.loop.After(seconds(10), "break off", [&] {
+      leaves ? bench.program.ShutDown() : bench.program.session.BreakOff();
+    });
+    bench.Start();
+    EXPECT_EQ(bench.Info(), "¡Error!");
+    EXPECT_THAT(bench.world.dialogs.boxes, IsEmpty());
+    EXPECT_EQ(bench.program.session.Flash(), FlashState::Erased);
+    if (leaves) continue;  // nobody looks any more
+    EXPECT_FALSE(bench.program.Connected);
+    EXPECT_EQ(FaceOf(bench.program.general.GetForm()["IniCom"]).Caption(), "Iniciar comunicacion");
+  }
 }
 
 }  // namespace

@@ -60,7 +60,6 @@ ExitCode SendFiles(Online& online, const FirmwareFiles& files) {
     code = online.session.SendFirmware(files, tell);
   }
   if (code != ExitCode::Done) return code;
-  online.session.Close();
   context.console.Say(
       context.Translator()("NO CORTE LA ALIMENTACION MIENTRAS DURE LA ACTUALIZACION"));
   return context.Show({[&] {

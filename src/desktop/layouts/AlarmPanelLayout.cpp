@@ -1,7 +1,6 @@
 #include "desktop/layouts/AlarmPanelLayout.h"
 
 #include <QHBoxLayout>
-#include <QLabel>
 #include <QVBoxLayout>
 
 #include "desktop/forms/Words.h"
@@ -91,6 +90,19 @@ Card ActionCard(FormView& view, const ControlNames& names) {
 }
 
 }  // namespace
+
+std::vector<ThresholdWords> LevelThresholds(std::string_view beside) {
+  return {{"Minimo", Words::tr("Minimum:")},
+          {"Maximo", Words::tr("Maximum:")},
+          {"Histeresis", Words::tr("Hysteresis:")},
+          {"Persist", Words::tr("Persistence:"), beside}};
+}
+
+QLabel* LayOutNotice(FormView& view, std::string_view control) {
+  auto* notice = view.Show<QLabel>(control);
+  notice->setWordWrap(true);
+  return notice;
+}
 
 QWidget* LayOutAlarmPanel(FormView& view, const std::vector<ThresholdWords>& thresholds,
                           const ControlNames& names) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QLabel>
 #include <QString>
 #include <QWidget>
 #include <string_view>
@@ -17,6 +18,13 @@ struct ThresholdWords {
   std::string_view beside = {};  ///< a control that stands at its right, if any
   std::string_view label = {};   ///< the form's label; if empty "Label" and the control's name
 };
+
+/// The boxes of an alarm on a level. `beside` is the control at the right of the persistence, if
+/// any.
+std::vector<ThresholdWords> LevelThresholds(std::string_view beside = {});
+
+/// Shows a notice of the form in as many lines as it takes.
+QLabel* LayOutNotice(FormView& view, std::string_view control);
 
 /// Draws the alarm block that all alarmed pages share: the choice of the configuration, and under
 /// it what raises the alarm, who is told, when it is valid and what it runs.

@@ -40,14 +40,9 @@ void LayOutAnalog(FormView& view) {
   top->addWidget(InterfaceCard(view).box, 4);
   top->addWidget(ScaleCard(view).box, 4);
   page->addLayout(top);
-  page->addWidget(LayOutAlarmPanel(view, {{"Minimo", Words::tr("Minimum:")},
-                                          {"Maximo", Words::tr("Maximum:")},
-                                          {"Histeresis", Words::tr("Hysteresis:")},
-                                          {"Persist", Words::tr("Persistence:"), "Asterisk"}}));
+  page->addWidget(LayOutAlarmPanel(view, LevelThresholds("Asterisk")));
   // The asterisk at the persistence is explained here.
-  auto* notice = view.Show<QLabel>("Notice");
-  notice->setWordWrap(true);
-  page->addWidget(notice);
+  page->addWidget(LayOutNotice(view, "Notice"));
   page->addStretch(1);
 }
 

@@ -22,10 +22,7 @@ void LayOutAux(FormView& view) {
   top->addWidget(input.box, 1);
   top->addWidget(ScaleCard(view).box, 1);
   page->addLayout(top);
-  page->addWidget(LayOutAlarmPanel(view, {{"Minimo", Words::tr("Minimum:")},
-                                          {"Maximo", Words::tr("Maximum:")},
-                                          {"Histeresis", Words::tr("Hysteresis:")},
-                                          {"Persist", Words::tr("Persistence:")}}));
+  page->addWidget(LayOutAlarmPanel(view, LevelThresholds()));
   page->addStretch(1);
 }
 

@@ -42,14 +42,9 @@ void LayOutCaudal(FormView& view) {
   flow->addWidget(weight.box, 1, 0, 1, 3);
   top->addLayout(flow);
   page->addLayout(top);
-  page->addWidget(LayOutAlarmPanel(view, {{"Minimo", Words::tr("Minimum:")},
-                                          {"Maximo", Words::tr("Maximum:")},
-                                          {"Histeresis", Words::tr("Hysteresis:")},
-                                          {"Persist", Words::tr("Persistence:"), "Asterisk"}}));
+  page->addWidget(LayOutAlarmPanel(view, LevelThresholds("Asterisk")));
   // The asterisk at the persistence is explained here.
-  auto* notice = view.Show<QLabel>("Notice");
-  notice->setWordWrap(true);
-  page->addWidget(notice);
+  page->addWidget(LayOutNotice(view, "Notice"));
   page->addStretch(1);
 }
 

@@ -22,13 +22,6 @@ QVBoxLayout* AddTab(QStackedWidget& tabs) {
   return column;
 }
 
-std::vector<ThresholdWords> LevelWords() {
-  return {{"Minimo", Words::tr("Minimum:")},
-          {"Maximo", Words::tr("Maximum:")},
-          {"Histeresis", Words::tr("Hysteresis:")},
-          {"Persist", Words::tr("Persistence:")}};
-}
-
 QString ModeText(const ListRow& row) {
   switch (row.value) {
     case kModeDigital:
@@ -85,10 +78,8 @@ void LayOutFlowTab(FormView& view, QVBoxLayout& tab) {
   top->addWidget(meter.box, 1);
   for (const Card& card : PulseCards(view, {.prefix = "Q_"})) top->addWidget(card.box);
   tab.addLayout(top);
-  tab.addWidget(LayOutAlarmPanel(view, LevelWords(), {.prefix = "Q_"}));
-  auto* notice = view.Show<QLabel>("Q_Notice");
-  notice->setWordWrap(true);
-  tab.addWidget(notice);
+  tab.addWidget(LayOutAlarmPanel(view, LevelThresholds(), {.prefix = "Q_"}));
+  tab.addWidget(LayOutNotice(view, "Q_Notice"));
   tab.addStretch(1);
 }
 
@@ -126,7 +117,7 @@ void LayOutAnalogTab(FormView& view, QVBoxLayout& tab) {
   top->addWidget(input.box, 1);
   top->addWidget(ScaleCard(view, names).box, 1);
   tab.addLayout(top);
-  tab.addWidget(LayOutAlarmPanel(view, LevelWords(), names));
+  tab.addWidget(LayOutAlarmPanel(view, LevelThresholds(), names));
   tab.addStretch(1);
 }
 

@@ -23,10 +23,7 @@ void LayOutMath(FormView& view) {
   top->addWidget(channel.box, 1);
   top->addWidget(equation.box, 1);
   page->addLayout(top);
-  page->addWidget(LayOutAlarmPanel(view, {{"Minimo", Words::tr("Minimum:")},
-                                          {"Maximo", Words::tr("Maximum:")},
-                                          {"Histeresis", Words::tr("Hysteresis:")},
-                                          {"Persist", Words::tr("Persistence:")}}));
+  page->addWidget(LayOutAlarmPanel(view, LevelThresholds()));
   page->addStretch(1);
 }
 

@@ -101,11 +101,7 @@ void LayOutModbusChannel(FormView& view) {
                                           {"Histeresis", {}, {}, "LabelHist"},
                                           {"Persist", {}, {}, "LabelPersist"}}));
   ShowUnitsByMode(view);
-  for (const auto* name : {"Notice", "NoticeTimer"}) {
-    auto* notice = view.Show<QLabel>(name);
-    notice->setWordWrap(true);
-    page->addWidget(notice);
-  }
+  for (const auto* name : {"Notice", "NoticeTimer"}) page->addWidget(LayOutNotice(view, name));
   page->addStretch(1);
 }
 

@@ -40,10 +40,7 @@ void LayOutOneWire(FormView& view) {
   top->addWidget(kind.box);
   top->addWidget(IdentityCard(view).box);
   page->addLayout(top);
-  page->addWidget(LayOutAlarmPanel(view, {{"Minimo", Words::tr("Minimum:")},
-                                          {"Maximo", Words::tr("Maximum:")},
-                                          {"Histeresis", Words::tr("Hysteresis:")},
-                                          {"Persist", Words::tr("Persistence:")}}));
+  page->addWidget(LayOutAlarmPanel(view, LevelThresholds()));
   page->addStretch(1);
 }
 

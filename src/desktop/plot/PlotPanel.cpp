@@ -237,7 +237,6 @@ void PlotPanel::ChooseTags(const std::string& tags) {
   std::istringstream words(tags);
   for (std::string tag; words >> tag;)
     if (const auto id = LiveIdOf(tag)) chosen_.push_back(*id);
-  wasChosen_ = !chosen_.empty();
   Chosen();
 }
 

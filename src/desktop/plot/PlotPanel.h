@@ -53,7 +53,7 @@ class PlotPanel final : public QDockWidget {
 
   const LiveHistory& history_;
   std::vector<LiveId> chosen_;  ///< in the order of choosing
-  bool wasChosen_ = false;      ///< by the operator, or an earlier run
+  bool wasChosen_ = false;      ///< by the operator
   bool isSyncing_ = false;
   bool maySave_ = true;
   QLineEdit* filter_;

@@ -167,7 +167,7 @@ void HistoryDialog::Filter(const QString& text) {
 
 const LedgerEntry* HistoryDialog::Current() const {
   const int row = table_->currentRow();
-  if (row < 0 || table_->isRowHidden(row) || table_->selectedItems().isEmpty()) return nullptr;
+  if (row < 0 || table_->selectedItems().isEmpty()) return nullptr;  // none that is hidden
   return &entries_[static_cast<std::size_t>(row)];
 }
 

@@ -1,6 +1,5 @@
 #include "desktop/window/Overview.h"
 
-#include "desktop/forms/Words.h"
 #include "desktop/window/FaultText.h"
 #include "desktop/window/FieldText.h"
 #include "shell/Configurator.h"

@@ -85,8 +85,7 @@ std::vector<AcceptancePoint> WithNotes(std::vector<AcceptancePoint> inputs,
   for (const AcceptancePoint& note : noted) {
     if (!note.IsTouched()) continue;
     const auto input = std::ranges::find_if(inputs, [&](const AcceptancePoint& each) {
-      return each.node == note.node && each.kind == note.kind && each.name == note.name &&
-             !each.IsTouched();
+      return each.node == note.node && each.kind == note.kind && each.name == note.name;
     });
     if (input == inputs.end())
       inputs.push_back(note);

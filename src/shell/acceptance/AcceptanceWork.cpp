@@ -7,7 +7,6 @@ namespace ostrel {
 void AcceptanceWork::Begin(const Acceptance& subject) {
   present_ = subject;
   error_.clear();
-  isForeign_ = false;
   if (subject.serialNumber.empty()) return;
   AcceptanceFiles::Kept kept = files_.Read(subject.serialNumber, subject.configuration);
   error_ = kept.result.error;
@@ -26,8 +25,8 @@ void AcceptanceWork::Judge(std::size_t place, Verdict verdict, const std::string
 }
 
 void AcceptanceWork::Note(std::size_t place, const std::string& note) {
-  if (!MayNote() || present_.points.at(place).note == note) return;
-  present_.points[place].note = note;
+  if (!MayNote()) return;
+  present_.points.at(place).note = note;
   Keep();
 }
 

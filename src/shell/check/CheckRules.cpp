@@ -3,10 +3,12 @@
 #include <algorithm>
 #include <array>
 #include <set>
+#include <unordered_map>
+#include <utility>
 
 #include "base/Channels.h"
-#include "base/CodePage.h"
 #include "base/Printable.h"
+#include "base/Utf8.h"
 #include "blocks/TelephoneWire.h"
 #include "blocks/VoiceNumbers.h"
 #include "blocks/bus/ModbusBus.h"
@@ -104,8 +106,9 @@ bool MayBeAbsent(const ConstField& field, const IniClass& document) {
 
 std::vector<Finding> MisreadValues(const Examined& file) {
   std::vector<Finding> found;
-  for (const ConstField& field : file.Fields()) {
-    const std::string* value = file.Written(field);
+  for (std::size_t i = 0; i < file.Fields().size(); ++i) {
+    const ConstField& field = file.Fields()[i];
+    const std::string* value = file.Written(i);
     if (!value || MayBeAbsent(field, file.Document()) ||
         IsReadRight(field.value, *value, file.Model().IsS100))
       continue;
@@ -137,12 +140,13 @@ std::vector<Finding> MissingSections(const Examined& file) {
 std::vector<Finding> MissingKeys(const Examined& file) {
   std::vector<Finding> found;
   int missing = 0;
-  for (const ConstField& field : file.Fields()) {
-    const std::string section = field.Section(), key = field.Key();
-    if (std::holds_alternative<const ConfPhone*>(field.value) ||
-        !file.Document().SectionExists("", section) || file.Written(field) ||
+  for (std::size_t i = 0; i < file.Fields().size(); ++i) {
+    const ConstField& field = file.Fields()[i];
+    if (file.Written(i) || std::holds_alternative<const ConfPhone*>(field.value) ||
         MayBeAbsent(field, file.Document()))
       continue;
+    const std::string section = field.Section(), key = field.Key();
+    if (!file.Document().SectionExists("", section)) continue;
     if (found.empty() || found.back().section != section) {
       found.push_back({section, key, "the key is missing, and is read as empty"});
       missing = 0;
@@ -242,9 +246,32 @@ std::vector<Finding> SharedNumbers(const Examined& file) {
   return found;
 }
 
-/// Section and key in one text, as the file's reader compares them.
-std::string PlaceInFile(std::string_view section, std::string_view key) {
-  return FoldText(WithoutBlanks(section)) + '\n' + FoldText(WithoutBlanks(key));
+/// The values of a file by key, in a section each; of what stands twice, the first counts.
+using WrittenKeys = std::unordered_map<std::string, const std::string*>;
+
+/// The values as they stand in a file, one a field; null for those that stand nowhere.
+std::vector<const std::string*> WrittenValues(const IniClass& document,
+                                              const std::vector<ConstField>& fields) {
+  std::unordered_map<std::string, WrittenKeys> sections;
+  WrittenKeys* keys = nullptr;
+  document.Visit([&](std::string_view name) { keys = &sections[NameRead(name)]; },
+                 [&](std::string_view key, const std::string& value) {
+                   if (keys) keys->try_emplace(NameRead(key), &value);
+                 });
+  std::vector<const std::string*> values(fields.size());
+  std::string section;
+  for (std::size_t i = 0; i < fields.size() && !sections.empty(); ++i) {
+    // The fields of a section stand together.
+    if (std::string own = fields[i].Section(); i == 0 || own != section) {
+      section = std::move(own);
+      const auto found = sections.find(NameRead(section));
+      keys = found == sections.end() ? nullptr : &found->second;
+    }
+    if (!keys) continue;
+    const auto found = keys->find(NameRead(fields[i].Key()));
+    if (found != keys->end()) values[i] = found->second;
+  }
+  return values;
 }
 
 constexpr std::array<Rule, 46> kRules{{
@@ -263,7 +290,8 @@ constexpr std::array<Rule, 46> kRules{{
     {"period-too-long", Severity::Error, "a long timer whose period does not fit its statement",
      LongPeriods},
     {"macro-broken", Severity::Error, "a line of the macros that is none", BrokenMacros},
-    {"macro-memory-full", Severity::Error, "macros and equations with more characters in all than the 1024 of a logger's memory",
+    {"macro-memory-full", Severity::Error,
+     "macros and equations with more characters in all than the 1024 of a logger's memory",
      MacrosBeyondMemory},
     {"equation-above-f15", Severity::Error, "an equation of a flag that does not exist",
      EquationsWithoutFlag},
@@ -345,22 +373,11 @@ Examined::Examined(const ModelConfiguration& configuration, std::optional<std::i
       empty_(EmptyConfiguration(configuration.profile, translate)),
       fields_(FieldsOf(configuration.conf, configuration.profile)),
       emptyFields_(FieldsOf(std::as_const(empty_), configuration.profile)),
+      written_(WrittenValues(document, fields_)),
       statements_(ComposeStatements(configuration.conf,
                                     {configuration.profile, features.value_or(kEveryFeature)})
                       .size()),
-      sent_(configuration.conf, {configuration.profile, features.value_or(kEveryFeature)}) {
-  std::string_view section;
-  document.Visit([&](std::string_view name) { section = name; },
-                 [&](std::string_view key, const std::string& value) {
-                   written_.try_emplace(PlaceInFile(section, key), &value);
-                 });
-}
-
-const std::string* Examined::Written(const ConstField& field) const {
-  if (written_.empty()) return nullptr;  // no file
-  const auto found = written_.find(PlaceInFile(field.Section(), field.Key()));
-  return found == written_.end() ? nullptr : found->second;
-}
+      sent_(configuration.conf, {configuration.profile, features.value_or(kEveryFeature)}) {}
 
 bool Examined::IsSet(std::size_t index) const {
   return !IsSameValue(fields_[index].value, emptyFields_[index].value) &&

@@ -5,7 +5,6 @@
 #include <span>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <vector>
 
 #include "shell/ConfigurationFile.h"
@@ -37,9 +36,9 @@ class Examined {
   const std::optional<std::int32_t>& Features() const { return features_; }
   const IniClass& Document() const { return document_; }
   const std::vector<ConstField>& Fields() const { return fields_; }
-  /// The value of a field as it stands in the file; null where it stands nowhere. Names compare as
-  /// the file's reader compares them: ignoring letter case and the blanks around them.
-  const std::string* Written(const ConstField& field) const;
+  /// The value of field `index` as it stands in the file; null where it stands nowhere. Names
+  /// compare as the file's reader compares them: ignoring letter case and the blanks around them.
+  const std::string* Written(std::size_t index) const { return written_[index]; }
 
   /// Whether a field holds something else than in an empty configuration.
   bool IsSet(std::size_t index) const;
@@ -58,7 +57,7 @@ class Examined {
   const IniClass& document_;
   DeviceConf empty_;
   std::vector<ConstField> fields_, emptyFields_;
-  std::unordered_map<std::string, const std::string*> written_;  ///< by section and key
+  std::vector<const std::string*> written_;  ///< a field each
   std::size_t statements_;
   mutable SentFields sent_;  ///< under the features, or under all where they are not known
   mutable std::optional<SentFields> fullySent_;  ///< under all features, once it is asked

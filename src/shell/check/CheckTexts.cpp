@@ -43,11 +43,12 @@ std::vector<Finding> CutValues(const Examined& file) {
 /// file would drop.
 std::vector<Finding> StrippedTexts(const Examined& file) {
   std::vector<Finding> found;
-  for (const ConstField& field : file.Fields()) {
+  for (std::size_t i = 0; i < file.Fields().size(); ++i) {
+    const ConstField& field = file.Fields()[i];
     const std::string* text = TextOf(field.value);
     // A control character is told by the rule on what cannot be sent.
     if (!text || UpToControl(*text).size() < text->size()) continue;
-    const std::string* value = file.Written(field);
+    const std::string* value = file.Written(i);
     const bool isStripped = value && ProfilePart(*value).size() < value->size();
     std::string loss = LossInProfile(isStripped ? *value : *text);
     if (!loss.empty()) found.push_back({field.Section(), field.Key(), std::move(loss)});

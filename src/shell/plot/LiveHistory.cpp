@@ -185,7 +185,7 @@ std::vector<CurvePoint> LiveHistory::Curve(LiveId id, const TimeSpan& span, int 
   Thinner thinner(span, columns);
   auto chunk = ChunkAt(span.from);
   // A line leads in from the round before, and out to the round behind.
-  if (chunk != chunks_.begin() && (chunk == chunks_.end() || chunk->start >= span.from))
+  if (chunk != chunks_.begin())
     if (const Chunk& before = *std::prev(chunk); const Column* column = before.Find(id))
       thinner.Take(before.Last(), ValueOf(*column, before.after.size() - 1));
   for (; chunk != chunks_.end(); ++chunk) {

@@ -63,7 +63,7 @@ class LiveHistory {
   std::size_t Octets() const { return octets_; }
 
   /// A curve for a chart that is `columns` pixels wide: at most the first, least, greatest and last
-  /// value of each column and a break, and one point beyond either end. What a finer curve would
+  /// value of each column and a break, and the points next to either end. What a finer curve would
   /// show, this one does.
   std::vector<CurvePoint> Curve(LiveId id, const TimeSpan& span, int columns) const;
   /// The value of the last round up to a moment; nothing where it did not come, or nobody read.

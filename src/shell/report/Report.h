@@ -17,6 +17,7 @@ struct ReportPart {
   ReportForm form = ReportForm::Facts;
   std::string caption{};  ///< may be empty
   std::vector<std::string> head{};
+  std::vector<int> widths{};  ///< of the columns, in hundredths; shared out evenly if empty
   std::vector<std::vector<std::string>> rows{};
   std::string note{};  ///< a sentence below; may be empty
 };

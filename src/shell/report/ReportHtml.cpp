@@ -19,6 +19,7 @@ td, th { border: 1px solid #c9d1d9; padding: 3px 6px; text-align: left; vertical
 th { background-color: #eef2f6; font-weight: bold; }
 td.name { background-color: #f7f9fb; }
 tr { page-break-inside: avoid; }
+table.dense { font-size: 8.5pt; }
 h2, h3 { page-break-after: avoid; }
 )";
 
@@ -53,9 +54,12 @@ std::string CellHtml(std::string_view tag, std::string_view text, std::string_vi
          std::string(tag) + ">";
 }
 
-std::string RowHtml(const std::vector<std::string>& cells, std::string_view tag) {
+std::string RowHtml(const std::vector<std::string>& cells, std::string_view tag,
+                    const std::vector<int>& widths = {}) {
   std::string html = "<tr>";
-  for (const std::string& cell : cells) html += CellHtml(tag, cell);
+  for (std::size_t i = 0; i < cells.size(); ++i)
+    html += CellHtml(tag, cells[i],
+                     i < widths.size() ? " width=\"" + std::to_string(widths[i]) + "%\"" : "");
   return html + "</tr>\n";
 }
 
@@ -77,9 +81,12 @@ std::string PartHtml(const ReportPart& part) {
   std::string html;
   if (!part.caption.empty()) html += CellHtml("h3", part.caption) + "\n";
   if (!part.rows.empty() || !part.head.empty()) {
-    html += "<table width=\"100%\" cellspacing=\"0\" cellpadding=\"3\">\n";
+    html += "<table width=\"100%\" cellspacing=\"0\" cellpadding=\"3\"" +
+            std::string(part.widths.empty() ? "" : " class=\"dense\"") + ">\n";
     if (part.form == ReportForm::Signatures) html += SignRows(part.head);
-    if (part.form == ReportForm::Table) html += RowHtml(part.head, "th");
+    if (part.form == ReportForm::Table)
+      // A head is set again on each page that the table goes on to.
+      html += "<thead>" + RowHtml(part.head, "th", part.widths) + "</thead>\n";
     for (const auto& row : part.rows)
       html += part.form == ReportForm::Facts ? FactRow(row) : RowHtml(row, "td");
     html += "</table>\n";

@@ -26,6 +26,16 @@ std::string MaskTokens(const ConfPhone& phone, bool isS100) {
   return Joined(tokens, " ");
 }
 
+// Names of timers and of actions are long words, times of a day are short.
+constexpr int kTimerWidth = 12, kRuleWidth = 17, kDayWidth = 8, kActionsWidth = 15;
+
+/// A time of day, without its seconds where these are none.
+std::string ShortTime(const TimeOfDay& time) {
+  std::string text = TimeText(time);
+  if (text.ends_with(":00")) text.resize(text.size() - 3);
+  return text;
+}
+
 /// When a timer runs on each day of a week, Monday first; nothing where the days of a week do not
 /// decide it.
 struct DayTimes {
@@ -40,10 +50,10 @@ struct DayTimes {
   Days operator()(const ConfCTimer& timer) const {
     const ValidityRange& valid = timer.valid;
     if (valid.SIEMPRE) return On(kAllDays, "0:00 - 24:00");
-    return On(valid.SEMANA, TimeText(valid.INICIO) + " - " + TimeText(valid.FINAL));
+    return On(valid.SEMANA, ShortTime(valid.INICIO) + " - " + ShortTime(valid.FINAL));
   }
   Days operator()(const ConfWTimer& timer) const {
-    return On(timer.SEMANA, TimeText(timer.INICIO));
+    return On(timer.SEMANA, ShortTime(timer.INICIO));
   }
   Days operator()(const ConfLTimer&) const { return {}; }
   Days operator()(const ConfMTimer&) const { return {}; }
@@ -105,9 +115,13 @@ ReportSection Writer::Timers() const {
     return Filled(Say(phrase.text), phrase.arguments);
   };
   const Receiver receiver{Model(), Features().value_or(kEveryFeature)};
-  ReportPart part{.form = ReportForm::Table, .head = Head({"timer", "when"})};
+  ReportPart part{.form = ReportForm::Table,
+                  .head = Head({"timer", "when"}),
+                  .widths = {kTimerWidth, kRuleWidth}};
   for (const std::string_view day : kWeek) part.head.push_back(Say(day));
   part.head.push_back(Say("runs"));
+  part.widths.resize(part.head.size() - 1, kDayWidth);
+  part.widths.push_back(kActionsWidth);
   for (const ScheduledTimer& timer : MakeSchedule(Conf(), receiver, work_.madeAt).timers) {
     std::string rule = RuleText(timer, say);
     if (timer.Flag() > 0) rule += ", " + Say("if") + " F" + std::to_string(timer.Flag() - 1);

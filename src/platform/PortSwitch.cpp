@@ -1,4 +1,4 @@
-#include "platform/virtual/PortSwitch.h"
+#include "platform/PortSwitch.h"
 
 #include <algorithm>
 #include <utility>
