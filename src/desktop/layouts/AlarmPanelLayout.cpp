@@ -91,7 +91,7 @@ Card ActionCard(FormView& view, const ControlNames& names) {
 
 }  // namespace
 
-std::vector<ThresholdWords> LevelThresholds(std::string_view beside) {
+std::vector<ThresholdWords> LevelThresholdWords(std::string_view beside) {
   return {{"Minimo", Words::tr("Minimum:")},
           {"Maximo", Words::tr("Maximum:")},
           {"Histeresis", Words::tr("Hysteresis:")},

@@ -21,7 +21,7 @@ struct ThresholdWords {
 
 /// The boxes of an alarm on a level. `beside` is the control at the right of the persistence, if
 /// any.
-std::vector<ThresholdWords> LevelThresholds(std::string_view beside = {});
+std::vector<ThresholdWords> LevelThresholdWords(std::string_view beside = {});
 
 /// Shows a notice of the form in as many lines as it takes.
 QLabel* LayOutNotice(FormView& view, std::string_view control);

@@ -40,7 +40,7 @@ void LayOutAnalog(FormView& view) {
   top->addWidget(InterfaceCard(view).box, 4);
   top->addWidget(ScaleCard(view).box, 4);
   page->addLayout(top);
-  page->addWidget(LayOutAlarmPanel(view, LevelThresholds("Asterisk")));
+  page->addWidget(LayOutAlarmPanel(view, LevelThresholdWords("Asterisk")));
   // The asterisk at the persistence is explained here.
   page->addWidget(LayOutNotice(view, "Notice"));
   page->addStretch(1);

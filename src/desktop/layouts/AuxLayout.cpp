@@ -22,7 +22,7 @@ void LayOutAux(FormView& view) {
   top->addWidget(input.box, 1);
   top->addWidget(ScaleCard(view).box, 1);
   page->addLayout(top);
-  page->addWidget(LayOutAlarmPanel(view, LevelThresholds()));
+  page->addWidget(LayOutAlarmPanel(view, LevelThresholdWords()));
   page->addStretch(1);
 }
 

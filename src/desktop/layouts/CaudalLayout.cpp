@@ -42,7 +42,7 @@ void LayOutCaudal(FormView& view) {
   flow->addWidget(weight.box, 1, 0, 1, 3);
   top->addLayout(flow);
   page->addLayout(top);
-  page->addWidget(LayOutAlarmPanel(view, LevelThresholds("Asterisk")));
+  page->addWidget(LayOutAlarmPanel(view, LevelThresholdWords("Asterisk")));
   // The asterisk at the persistence is explained here.
   page->addWidget(LayOutNotice(view, "Notice"));
   page->addStretch(1);

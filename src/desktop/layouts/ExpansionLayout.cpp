@@ -78,7 +78,7 @@ void LayOutFlowTab(FormView& view, QVBoxLayout& tab) {
   top->addWidget(meter.box, 1);
   for (const Card& card : PulseCards(view, {.prefix = "Q_"})) top->addWidget(card.box);
   tab.addLayout(top);
-  tab.addWidget(LayOutAlarmPanel(view, LevelThresholds(), {.prefix = "Q_"}));
+  tab.addWidget(LayOutAlarmPanel(view, LevelThresholdWords(), {.prefix = "Q_"}));
   tab.addWidget(LayOutNotice(view, "Q_Notice"));
   tab.addStretch(1);
 }
@@ -117,7 +117,7 @@ void LayOutAnalogTab(FormView& view, QVBoxLayout& tab) {
   top->addWidget(input.box, 1);
   top->addWidget(ScaleCard(view, names).box, 1);
   tab.addLayout(top);
-  tab.addWidget(LayOutAlarmPanel(view, LevelThresholds(), names));
+  tab.addWidget(LayOutAlarmPanel(view, LevelThresholdWords(), names));
   tab.addStretch(1);
 }
 

@@ -23,7 +23,7 @@ void LayOutMath(FormView& view) {
   top->addWidget(channel.box, 1);
   top->addWidget(equation.box, 1);
   page->addLayout(top);
-  page->addWidget(LayOutAlarmPanel(view, LevelThresholds()));
+  page->addWidget(LayOutAlarmPanel(view, LevelThresholdWords()));
   page->addStretch(1);
 }
 

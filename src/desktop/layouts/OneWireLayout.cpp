@@ -40,7 +40,7 @@ void LayOutOneWire(FormView& view) {
   top->addWidget(kind.box);
   top->addWidget(IdentityCard(view).box);
   page->addLayout(top);
-  page->addWidget(LayOutAlarmPanel(view, LevelThresholds()));
+  page->addWidget(LayOutAlarmPanel(view, LevelThresholdWords()));
   page->addStretch(1);
 }
 
