@@ -19,8 +19,7 @@ if(WIN32)
   set_target_properties(ostrel-configurator PROPERTIES WIN32_EXECUTABLE ON)  # no console window
   ostrel_resources(ostrel-configurator "Configuration of telemetry loggers"
                    "1 ICON \"${CMAKE_SOURCE_DIR}/data/windows/ostrel-configurator.ico\"")
-  qt_import_plugins(ostrel-configurator
-                    INCLUDE Qt6::QSQLiteDriverPlugin Qt6::QOffscreenIntegrationPlugin)
+  qt_import_plugins(ostrel-configurator INCLUDE Qt6::QSQLiteDriverPlugin)
 else()
   install(FILES ${CMAKE_SOURCE_DIR}/data/desktop/ostrel-configurator.desktop
           DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)

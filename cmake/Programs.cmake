@@ -30,7 +30,7 @@ if(WIN32)
   ostrel_resources(ostrelctl "Command line of the Ostrel Configurator" "")
   ostrel_resources(ostrel-sim "Simulated logger" "")
   # What a program brings along of a toolkit that is no library of its own.
-  qt_import_plugins(ostrelctl INCLUDE Qt6::QSQLiteDriverPlugin Qt6::QOffscreenIntegrationPlugin)
+  qt_import_plugins(ostrelctl INCLUDE Qt6::QSQLiteDriverPlugin)
 endif()
 
 # The translation table stands where an installed program looks for it: beside the programs.

@@ -26,4 +26,7 @@ set(CPACK_NSIS_EXTRA_UNINSTALL_COMMANDS [[
   DeleteRegKey SHCTX "Software\Classes\Ostrel.Configuration"
   System::Call 'shell32::SHChangeNotify(i 0x08000000, i 0, p 0, p 0)'
 ]])
+# Behind the removal of what the installer keeps there.
+set(CPACK_NSIS_DELETE_ICONS_EXTRA
+    "  DeleteRegKey /ifempty SHCTX \"Software\\${CPACK_PACKAGE_VENDOR}\"")
 include(CPack)

@@ -24,6 +24,9 @@ using SystemFiles = PosixFiles;
 using EndSignals = SignalPipe;
 #endif
 
+/// Ahead of an application that draws and shows no window: has it do without a display.
+void DrawWithoutDisplay();
+
 /// The serial devices of this machine, with what the user's settings say of their numbers.
 std::unique_ptr<SerialDevices> MachineDevices(QtEventLoop& loop, const Settings& settings);
 

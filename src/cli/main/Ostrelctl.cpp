@@ -76,7 +76,7 @@ std::unique_ptr<QCoreApplication> MakeApplication(int& argc, char** argv) {
   const bool setsPages = std::any_of(
       argv, argv + argc, [](const char* word) { return std::string_view(word).ends_with(".pdf"); });
   if (!setsPages) return std::make_unique<QCoreApplication>(argc, argv);
-  qputenv("QT_QPA_PLATFORM", "offscreen");
+  DrawWithoutDisplay();
   return std::make_unique<QGuiApplication>(argc, argv);
 }
 

@@ -15,6 +15,7 @@
 #include "host/GrowingFiles.h"
 #include "host/LangSeed.h"
 #include "host/Machine.h"
+#include "host/System.h"
 #include "host/UsualStation.h"
 #include "platform/qt/QtProcesses.h"
 
@@ -64,7 +65,7 @@ int RunWindow(const CommandLine& line) {
 }
 
 int Run(int argc, char** argv) {
-  if (NeedsNoDisplay(argc, argv)) qputenv("QT_QPA_PLATFORM", "offscreen");
+  if (NeedsNoDisplay(argc, argv)) DrawWithoutDisplay();
   const QApplication application(argc, argv);
   QApplication::setApplicationName("ostrel-configurator");
   QApplication::setApplicationVersion(OSTREL_VERSION);

@@ -1,5 +1,6 @@
 #include "platform/qt/QtEventLoop.h"
 
+#include <QCoreApplication>
 #include <QEventLoop>
 #include <algorithm>
 #include <utility>
@@ -87,6 +88,7 @@ void QtEventLoop::ServeOne() {
 }
 
 void QtEventLoop::Guard(const Callback& callback) {
+  ++served_;
   try {
     callback();
   } catch (...) {
@@ -98,12 +100,16 @@ void QtEventLoop::Guard(const Callback& callback) {
   }
 }
 
-/// One round of Qt's loop, as a wait under way; throws what a callback threw.
+/// One round of Qt's loop, as a wait under way; throws what a callback threw. Qt for Windows wakes
+/// for what is put into its queue, serves that with the next round, and sleeps on in the same
+/// round. So what stands there is served ahead of a sleep, and instead of it.
 void QtEventLoop::Process(bool sleep) {
   ++waits_;
-  if (!fault_) {
+  const std::uint64_t before = served_;
+  if (!fault_ && sleep) QCoreApplication::sendPostedEvents();
+  sleep = sleep && served_ == before;
+  if (!fault_)
     QEventLoop().processEvents(sleep ? QEventLoop::WaitForMoreEvents : QEventLoop::AllEvents);
-  }
   --waits_;
   if (fault_) std::rethrow_exception(std::exchange(fault_, nullptr));
 }

@@ -58,6 +58,7 @@ class QtEventLoop final : public EventLoop {
   std::vector<Timer> timers_;  ///< in the order of setting or re-arming
   TimerId lastId_ = 0;
   int waits_ = 0;
+  std::uint64_t served_ = 0;  ///< how often Qt has called program code
   std::exception_ptr fault_;
   FaultHandler faultHandler_;
 };

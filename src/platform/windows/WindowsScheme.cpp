@@ -1,15 +1,16 @@
-#include <QSettings>
+#include <windows.h>
 
 #include "platform/qt/SystemScheme.h"
 
 namespace ostrel {
 
 std::optional<bool> DesktopWantsDark() {
-  const QSettings settings(
-      "HKEY_CURRENT_USER\\Software\\Microsoft\\Windows\\CurrentVersion\\Themes\\Personalize",
-      QSettings::NativeFormat);
-  const QVariant light = settings.value("AppsUseLightTheme");
-  return light.isValid() ? std::optional(light.toInt() == 0) : std::nullopt;
+  DWORD light = 0;
+  DWORD size = sizeof light;
+  const LSTATUS code = ::RegGetValueW(
+      HKEY_CURRENT_USER, L"Software\\Microsoft\\Windows\\CurrentVersion\\Themes\\Personalize",
+      L"AppsUseLightTheme", RRF_RT_REG_DWORD, nullptr, &light, &size);
+  return code == ERROR_SUCCESS ? std::optional(light == 0) : std::nullopt;
 }
 
 }  // namespace ostrel

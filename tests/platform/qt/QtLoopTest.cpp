@@ -42,6 +42,18 @@ TEST(QtEventLoopTest, WaitSleepsInsteadOfPolling) {
   EXPECT_LT(looks, 8);
 }
 
+TEST(QtEventLoopTest, WaitEndsWithTheEventThatFulfilsIt) {
+  QtEventLoop loop;
+  const TimePoint start = loop.Now();
+  // With nothing else to come, a wait that looked one event late would end at its deadline.
+  for (const Duration delay : {Duration::zero(), Duration(milliseconds(30))}) {
+    bool served = false;
+    loop.After(delay, "last event", [&] { served = true; });
+    EXPECT_TRUE(loop.RunUntil([&] { return served; }, loop.Now() + seconds(20)));
+  }
+  EXPECT_LT(loop.Now() - start, seconds(10));
+}
+
 TEST(QtEventLoopTest, TimersOfOneIntervalWakeTogether) {
   QtEventLoop loop;
   std::vector<TimePoint> first, second;
