@@ -66,10 +66,9 @@ void MainWindow::Write() {
   };
   WriteRoad road{.read = [step] { return step(&SessionDriver::Download); },
                  .write = [step] { return step(&SessionDriver::Upload); },
-                 .keep = [this](const DeviceConf& held) { return KeepFormer(held); }};
-  // A former state is written because the logger holds another one now.
-  if (!IsFormerState(configurator_.ledger.File()))
-    road.inSpiteOf = [this](const Phrase& doubt) { return MayWriteInSpite(doubt); };
+                 .keep = [this](const DeviceConf& held) { return KeepFormer(held); },
+                 .inSpiteOf = [this](const Phrase& doubt) { return MayWriteInSpite(doubt); },
+                 .isFormerState = IsFormerState(configurator_.ledger.File())};
   if (dialog.ShowsChanges())
     road.mayWrite = [this](const Comparison& changes) { return MayChange(changes); };
   const DeviceConf safe = unsaved_.Kept();
