@@ -5,7 +5,7 @@
 #include "cli/FaultText.h"
 #include "cli/TransferLine.h"
 #include "host/SimulatedLoggers.h"
-#include "shell/WriteDoubts.h"
+#include "shell/writing/WriteDoubts.h"
 
 namespace ostrel::cli {
 

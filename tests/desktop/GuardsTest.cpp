@@ -2,8 +2,8 @@
 #include <QFile>
 
 #include "OpenWindow.h"
+#include "desktop/dialogs/ComparisonTree.h"
 #include "desktop/program/Language.h"
-#include "desktop/window/ComparisonTree.h"
 
 namespace ostrel {
 namespace {

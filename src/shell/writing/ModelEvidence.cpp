@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "link/LineReader.h"
-#include "link/NumberedStream.h"
+#include "link/dialogues/NumberedStream.h"
 #include "model/TargetProfile.h"
 
 namespace ostrel {

@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-#include "link/LiveCommands.h"
+#include "link/dialogues/LiveCommands.h"
 
 namespace ostrel {
 
