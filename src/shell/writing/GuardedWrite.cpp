@@ -47,8 +47,7 @@ std::optional<WriteEnd> Prepare(Configurator& configurator, const WriteRoad& roa
   if (const auto doubt = configurator.session.ModelDoubt(); doubt != known && isDeclined(doubt))
     return WriteEnd::Declined;
   if (road.keep && !road.keep(*held)) return WriteEnd::NotKept;
-  if (isGuarded && isDeclined(DoubtOfHeld(configurator, *held)))
-    return WriteEnd::Declined;
+  if (isGuarded && isDeclined(DoubtOfHeld(configurator, *held))) return WriteEnd::Declined;
   if (road.mayWrite &&
       !road.mayWrite(Against(configurator, toSend, *held, road.passwords).WhatChanges()))
     return WriteEnd::Declined;
