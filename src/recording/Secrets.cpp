@@ -27,6 +27,17 @@ std::size_t CodeStart(std::string_view line) {
   return std::string_view::npos;
 }
 
+/// How much of a damaged frame is its head without doubt: "#59;BD390", or less of it.
+std::size_t HeadSize(std::string_view frame) {
+  constexpr std::string_view kShape = "#hh;BDddd";
+  const auto fits = [](char shape, char c) {
+    const bool isDigit = c >= '0' && c <= '9';
+    if (shape == 'h') return isDigit || (c >= 'A' && c <= 'F');
+    return shape == 'd' ? isDigit : shape == c;
+  };
+  return static_cast<std::size_t>(std::ranges::mismatch(kShape, frame, fits).in1 - kShape.begin());
+}
+
 bool IsOfToken(char c) {
   return (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
 }
@@ -120,11 +131,14 @@ std::string Secrets::Masked(std::string_view body, Known known) const {
 
 std::string Secrets::MaskedDamage(std::string line, bool isTorn) {
   if (line.empty()) return line;
-  if (isTorn && line.find('#') == std::string::npos) return std::string(kMasked);
-  const std::size_t comma = line.find(',');
-  if (comma >= line.size() - 1) return line;
-  line.replace(comma + 1, std::string::npos, kMasked);
-  Reseal(line, line.find('#'), false);
+  const std::size_t frame = line.find('#');
+  if (isTorn && frame > 0) return std::string(kMasked);
+  if (line.find(',') >= line.size() - 1) return line;
+  // What is missing may have brought a password forward, up to the head of the frame.
+  const std::size_t head =
+      frame == std::string::npos ? 0 : frame + HeadSize(std::string_view(line).substr(frame));
+  if (head < line.size()) line.replace(head, std::string::npos, kMasked);
+  Reseal(line, frame, false);
   return line;
 }
 

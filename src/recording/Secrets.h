@@ -14,7 +14,7 @@ class Secrets {
   /// that they tell nothing either. Codes and passwords that were sent are known from then on.
   std::string Sent(std::string_view line);
   /// The same for a line that came. The passwords of a good line are known from then on. In a line
-  /// without a good frame no field can be told from the others: all behind its first comma is
+  /// without a good frame no field can be told from the others: all behind its head is
   /// masked, and so is the whole of what follows it outside any frame, which a torn line leaves.
   std::string Received(std::string_view line);
 

@@ -372,6 +372,7 @@ TEST_F(WindowLivePanels, NoQuestionHoldsARoundUp) {
   };
   dialogs.whileAsked = [&](const FileQuestion&) { rests(); };
   const auto inARound = [&](const std::function<void()>& click) {
+    const int before = asked;
     bool isClicked = false;
     logger->OnExchange([&](const sim::Exchange& exchange) {
       if (exchange.request == "#22" && !std::exchange(isClicked, true))
@@ -380,6 +381,7 @@ TEST_F(WindowLivePanels, NoQuestionHoldsARoundUp) {
     Run(seconds(3));
     logger->OnExchange({});
     EXPECT_TRUE(isClicked);
+    EXPECT_EQ(asked, before + 1);
   };
   for (const char* button : {"PlotPicture", "PlotValues"})
     inARound([&] { Find<QPushButton>(button)->click(); });
@@ -388,13 +390,13 @@ TEST_F(WindowLivePanels, NoQuestionHoldsARoundUp) {
       for (QAction* action : Window().findChildren<QAction*>())
         if (action->shortcut() == keys) return action->trigger();
     });
+  Window().GoTo("T_Real");
   inARound([&] { Core().monitor.GetForm().Get<Button>("BotonGrabar").Click(); });
-  EXPECT_EQ(asked, 5);
+  Window().GoTo("E_Digital_0");
   dialogs.OnModal([&](Modal&) { rests(); });
   inARound([&] {
     Core().context.EditActions(Core().conf.Digital[0].ALARM[0].common.ACTHI, "DI0", [] {});
   });
-  EXPECT_EQ(asked, 6);
 }
 
 TEST_F(WindowLivePanels, AcceptanceGoesByTheNameOfTheConfiguration) {

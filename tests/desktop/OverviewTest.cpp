@@ -95,9 +95,11 @@ TEST_F(OverviewBP, ABadNumberSaysWhatItCountsAsAndACommaIsPutRight) {
 
 /// A whole field rounds what is typed, and one of few octets has no room for all of it.
 TEST_F(OverviewBP, ANoteTellsWhatAFieldKeepsOfANumber) {
-  desktop->Core().conf.LTimer[0].PERIOD = 7;
   GoTo("LTimer0_3");
   constexpr const char* kPeriod = "Period(0)";
+  Click(On(*desktop, "TimerHabil(0)"));
+  Type(On(*desktop, kPeriod), "7");
+  desktop->Navigator().CommitFront();
   const std::pair<const char*, std::pair<const char*, std::int16_t>> kCases[] = {
       {"40000", {"This number does not fit here. 7 is kept.", 7}},
       {"2,5", {"This is not a number of the kind expected here. 2 is kept.", 2}},

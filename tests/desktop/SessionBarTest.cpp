@@ -202,7 +202,9 @@ TEST_F(OnEveryPage, AVoiceListThatIsBeingReadIsNotHeldByAQuestion) {
   sim::Configuration held = logger->Conf();
   held.voice.numbers.assign(100, "600123456");
   logger->SetConf(held);
-  Core().conf.General.DNAME = "Pozo";
+  Window().GoTo("E_Digital_3");
+  NameOfInput().Type("gate");
+  loop.RunFor(seconds(2));  // the window looks whether anything is unsaved
   Window().GoTo("Aut_Voz");
   loop.RunFor(seconds(2));
   QTimer::singleShot(5000, [] {  // a box that waits after all is not to hang the test

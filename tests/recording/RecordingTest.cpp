@@ -130,9 +130,9 @@ TEST(Recording, TellsWhatPassedAndWhen) {
   const auto pass = [&](int ms) { world.loop.RunFor(milliseconds(ms)); };
   pass(100);
   recorder.Sent("#64;40\r");
-  recorder.Received("#1");
+  recorder.Received("#9");
   pass(20);
-  recorder.Received("0;OK\r");
+  recorder.Received("A;OK\r");
   pass(30);
   recorder.Received("ab");
   pass(20);
@@ -144,7 +144,7 @@ TEST(Recording, TellsWhatPassedAndWhen) {
   recorder.Sent("x");
   recorder.Happened(LineEvent::Closed, "");
   EXPECT_EQ(text,
-            "ostrel recording 1\n; test\n@ 0.100\n> #64;40\\r\n< #10;OK\\r\n"
+            "ostrel recording 1\n; test\n@ 0.100\n> #64;40\\r\n< #9A;OK\\r\n"
             "@ 0.170\n> y\\r\n@ 0.150\n< abc\\r\n@ 1.170\n< login\\x7F: \n"
             "@ 1.320\n> x\n! closed\n");
   EXPECT_TRUE(std::ranges::is_sorted(*ReadRecording(text, error), {}, &RecordedEvent::at));

@@ -307,7 +307,8 @@ std::string WordsOfModels(const ModelSet& models) {
 TEST(ModelEvidence, TheLinesOfAStreamTellWhatFits) {
   constexpr const char* kAll = "KA1 KA2 VR200 S100 BQ BP ";
   const std::pair<const char*, const char*> kCases[] = {
-      {"DIGITAL,4,,0", kAll},  // one more than a BQ has: a flow's total is counted beside
+      {"DIGITAL,2,,0", kAll},  // one more than an S100 has: a flow's total is counted beside
+      {"DIGITAL,4,,0", "KA1 KA2 VR200 BQ BP "},
       {"DIGITAL.ALM,5,0,", "KA1 KA2 VR200 BP "},
       {"ANALOG,0,", "VR200 S100 BQ BP "},
       {"ANALOG.ACT,3,0", "VR200 BP "},
