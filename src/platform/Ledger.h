@@ -50,7 +50,7 @@ struct LedgerEntry {
   std::int64_t id = 0;       ///< 0 as long as it is not kept
   std::int64_t session = 0;  ///< entry of the session that it belongs to
   std::int64_t about = 0;    ///< entry of the writing that was read back or verified; of a saving
-                           ///< under another name the last one of the file that it is a copy of
+                             ///< under another name the last one of the file that it is a copy of
   LedgerKind kind = LedgerKind::Session;
   LedgerState state = LedgerState::UnderWay;
   bool closing = false;  ///< a writing: the logger has been asked to take everything over; of a

@@ -21,11 +21,11 @@ TEST(SimOptions, AreReadOrRefusedInOneLine) {
   };
   SimOptions options;
   std::string said;
-  EXPECT_EQ(parse({"--model", "ka2", "--features", "401", "--pace", "--modem", "--code", "77",
-                   "--fault", "silent", "--fault", "drop-octet@3!once", "--seed", "9",
-                   "--serial", "-1"},
-                  options, said),
-            -1);
+  EXPECT_EQ(
+      parse({"--model", "ka2", "--features", "401", "--pace", "--modem", "--code", "77", "--fault",
+             "silent", "--fault", "drop-octet@3!once", "--seed", "9", "--serial", "-1"},
+            options, said),
+      -1);
   EXPECT_EQ(options.logger.model, sim::Model::KA2);
   EXPECT_EQ(options.logger.features, 0x401U);
   EXPECT_EQ(options.logger.faults.size(), 2U);

@@ -37,9 +37,7 @@ struct ModbusChannels {
     return receiver.profile.ModbusCount > 0 ? kChannels : 0;
   }
   /// A logger has no mark for "off": it is a channel without a multiplier and without a mask.
-  static bool IsOff(const ConfModbus& channel) {
-    return channel.MULT == 0 && channel.MASCARA == 0;
-  }
+  static bool IsOff(const ConfModbus& channel) { return channel.MULT == 0 && channel.MASCARA == 0; }
   /// Adds the statements of one channel. The alarm of one that is off goes all the same.
   static void Compose(const DeviceConf& conf, const Receiver& receiver, int channel,
                       StatementList& out);

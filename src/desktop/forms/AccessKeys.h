@@ -21,8 +21,8 @@ QString WithAccessKey(const QString& caption, std::set<QChar>& taken);
 /// Gives the buttons, boxes and field labels below a widget access keys, each letter once.
 void AssignAccessKeys(QWidget& root);
 
-/// Lets the Tab key reach the tools of a bar, which the window system leaves out. Called when all of
-/// them stand.
+/// Lets the Tab key reach the tools of a bar, which the window system leaves out. Called when all
+/// of them stand.
 void LetTabReachTools(QToolBar& bar);
 
 }  // namespace ostrel

@@ -37,7 +37,8 @@ class JumperView final : public QWidget {
     painter.drawRoundedRect(rect(), 6, 6);
     const auto image = static_cast<std::size_t>(picture_.Image());
     const unsigned bridged = image < kBridged.size() ? kBridged[image] : 0;
-    for (int pair = 0; pair < 2 * kPicturesAcross; ++pair) DrawPair(painter, pair, bridged >> pair & 1U);
+    for (int pair = 0; pair < 2 * kPicturesAcross; ++pair)
+      DrawPair(painter, pair, bridged >> pair & 1U);
   }
 
  private:

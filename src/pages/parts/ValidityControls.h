@@ -10,7 +10,8 @@ namespace ostrel {
 /// The controls of a range of validity: at all times, or between two times of the day on some days.
 class ValidityControls {
  public:
-  /// The labels of the two times. Timers call them otherwise than alarms do, and never disable them.
+  /// The labels of the two times. Timers call them otherwise than alarms do, and never disable
+  /// them.
   struct TimeLabels {
     std::string_view start, end;
     bool areDisabled;
