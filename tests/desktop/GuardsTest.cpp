@@ -16,14 +16,15 @@ class Guards : public OpenWindow {
  protected:
   Guards() { UseLanguage("en"); }
 
-  /// Presses the tool for writing, and answers its dialog.
-  void Write(std::function<void(QDialog*)> answer) {
+  /// Presses the tool for writing, and answers its dialog; `behind` expects what comes up then.
+  void Write(std::function<void(QDialog*)> answer, const std::function<void()>& behind = {}) {
     modals.Expect(
         [answer = std::move(answer)](QWidget* modal) { answer(qobject_cast<QDialog*>(modal)); });
+    if (behind) behind();
     SessionTool("WriteTool")->trigger();
     loop.RunFor(seconds(30));
   }
-  /// Expects a comparison behind that, which is closed.
+  /// Expects a comparison, which is closed.
   void ExpectComparison(const QString& title, qsizetype differences) {
     modals.Expect([=](QWidget* modal) {
       EXPECT_EQ(modal->windowTitle(), title);
@@ -81,11 +82,14 @@ TEST_F(Guards, WhatWillChangeIsShownOnRequestAndMayBeDeclined) {
   AddLogger(sim::Model::BP);
   BeginToEdit();
   for (const bool shows : {true, false}) {
-    if (shows) ExpectComparison("What will change", 1);
-    Write([shows](QDialog* dialog) {
-      dialog->findChild<QCheckBox*>("ShowChanges")->setChecked(shows);
-      AgreeToWrite(dialog, true);
-    });
+    Write(
+        [shows](QDialog* dialog) {
+          dialog->findChild<QCheckBox*>("ShowChanges")->setChecked(shows);
+          AgreeToWrite(dialog, true);
+        },
+        [this, shows] {
+          if (shows) ExpectComparison("What will change", 1);
+        });
     EXPECT_EQ(modals.Left(), 0U);
     EXPECT_EQ(logger->UploadsTaken(), shows ? 0U : 1U);
   }
@@ -100,10 +104,8 @@ TEST_F(Guards, AWritingThatCameOutOtherwiseIsShown) {
     held.name = "Otro";
     logger->SetConf(held);
   });
-  modals.Expect([](QWidget* modal) { AgreeToWrite(modal, true); });
-  ExpectComparison("The logger holds another configuration than was sent", 1);
-  SessionTool("WriteTool")->trigger();
-  loop.RunFor(seconds(30));
+  Write([](QDialog* dialog) { AgreeToWrite(dialog, true); },
+        [this] { ExpectComparison("The logger holds another configuration than was sent", 1); });
   EXPECT_EQ(modals.Left(), 0U);
 }
 
