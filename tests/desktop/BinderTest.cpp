@@ -330,12 +330,13 @@ TEST_F(Binder, LimitsTypingButShowsLongerTextsOfCode) {
   EXPECT_EQ(edit->text(), "ninet");
 }
 
-TEST_F(Binder, PaintsBadNumbersAndSaysWhatTheyCountAs) {
+TEST_F(Binder, PaintsBadNumbersAndSaysWhatIsKeptOfThem) {
   auto* edit = Show<QLineEdit>("text");
+  text.Kept = [] { return TextBox::KeptNumber{"12", false}; };
   Type(edit, "12x");
   CheckNumberBox(text, "int");
   EXPECT_TRUE(edit->property("bad").toBool());
-  EXPECT_TRUE(edit->toolTip().contains("12."));
+  EXPECT_TRUE(edit->toolTip().endsWith("12 is kept."));
   EXPECT_EQ(edit->grab().toImage().pixelColor(edit->width() / 2, edit->height() / 2),
             QColor("#ffe3e3"));
   Type(edit, "12");
