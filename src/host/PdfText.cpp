@@ -4,8 +4,6 @@
 #include <QBuffer>
 #include <QPainter>
 #include <QPdfWriter>
-#include <QTextBlock>
-#include <QTextCursor>
 #include <QTextDocument>
 #include <algorithm>
 
@@ -26,19 +24,6 @@ void DrawPage(QPainter& painter, QTextDocument& text, const QSizeF& page, int nu
                    QString("%1 / %2").arg(number + 1).arg(count));
 }
 
-/// Moves each heading that would end a page to the next one, where what it heads begins.
-void KeepHeadings(QTextDocument& text, qreal pageHeight) {
-  const auto pageOf = [&](const QTextBlock& block) {
-    return static_cast<int>(text.documentLayout()->blockBoundingRect(block).bottom() / pageHeight);
-  };
-  for (QTextBlock block = text.begin(); block.next().isValid(); block = block.next()) {
-    if (block.blockFormat().headingLevel() == 0 || pageOf(block) == pageOf(block.next())) continue;
-    QTextBlockFormat onNextPage = block.blockFormat();
-    onNextPage.setPageBreakPolicy(QTextFormat::PageBreak_AlwaysBefore);
-    QTextCursor(block).setBlockFormat(onNextPage);
-  }
-}
-
 }  // namespace
 
 std::string PdfOf(const std::string& html) {
@@ -57,7 +42,6 @@ std::string PdfOf(const std::string& html) {
     text.setHtml(QString::fromStdString(html));
     const QSizeF page(writer.width(), writer.height() - kFootHeight);
     text.setPageSize(page);
-    KeepHeadings(text, page.height());
     writer.setTitle(text.metaInformation(QTextDocument::DocumentTitle));
     QPainter painter;
     if (!painter.begin(&writer)) return {};

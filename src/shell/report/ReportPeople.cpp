@@ -27,7 +27,7 @@ std::string MaskTokens(const ConfPhone& phone, bool isS100) {
 }
 
 // Names of timers and of actions are long words, times of a day are short.
-constexpr int kTimerWidth = 12, kRuleWidth = 17, kDayWidth = 8, kActionsWidth = 15;
+constexpr int kTimerWidth = 14, kRuleWidth = 15, kDayWidth = 8, kActionsWidth = 15;
 
 /// A time of day, without its seconds where these are none.
 std::string ShortTime(const TimeOfDay& time) {
