@@ -148,8 +148,7 @@ TEST(Check, FindsEachMistakeOfTimersByItsRule) {
 }
 
 TEST(Check, TakesFilesOfEarlierPrograms) {
-  World world;
-  world.HaveFile("/a.ocf");
+  FileWorld world;
   std::string& text = world.files.contents["/a.ocf"];
   const auto replace = [&](std::string_view from, std::string_view by) {
     const std::size_t at = text.find(from, text.find("[MODBUS"));
@@ -284,8 +283,7 @@ TEST(Check, FindsNothingInWhatASimulatedLoggerHolds) {
 }
 
 TEST(Check, FindsThatAFileWasCutAndSaysWhere) {
-  World world;
-  world.HaveFile("/a.ocf");
+  FileWorld world;
   std::string& text = world.files.contents["/a.ocf"];
   text.resize(text.find("[FLAG 14]"));
   world.Expect("check /a.ocf", 1, "error: [FLAG 14]: this section and ");
@@ -295,17 +293,11 @@ TEST(Check, FindsThatAFileWasCutAndSaysWhere) {
 }
 
 TEST(Check, CountsWithTheFirmwareOfTheLoggerAtThePort) {
-  World world([](sim::Model model) {
-    sim::LoggerOptions options = sim::MakeDefaultOptions(model);
-    options.features = 0;
-    return options;
-  });
-  world.HaveFile("/a.ocf");
+  FileWorld world(With([](sim::LoggerOptions& options) { options.features = 0; }));
   world.SetKey("/a.ocf", "MTIMER 0", "HABIL", "True");
   EXPECT_EQ(world.Run("check /a.ocf"), 0);
   EXPECT_THAT(world.out, testing::Not(HasSubstr("this firmware does not take")));
-  EXPECT_EQ(world.Run("check /a.ocf --port sim:VR200"), 0) << world.err;
-  EXPECT_THAT(world.out, HasSubstr("this firmware does not take"));
+  world.Expect("check /a.ocf --port sim:VR200", 0, "this firmware does not take");
 }
 
 }  // namespace

@@ -8,18 +8,15 @@ using testing::HasSubstr;
 using testing::Not;
 
 TEST(Statements, AreThoseThatAnUploadSends) {
-  World world;
-  world.HaveFile("/a.ocf");
+  FileWorld world;
   std::string sent;
   world.Logger().OnExchange([&](const sim::Exchange& exchange) {
     if (exchange.request.starts_with("#45"))
       sent += FromCodePage(exchange.request.substr(6)) + "\n";
   });
   EXPECT_EQ(world.Run("upload /a.ocf --no-verify --no-backup --port sim:VR200"), 0);
-  const auto features = world.Logger().Self().features;
-  std::ostringstream hex;
-  hex << std::hex << features;
-  EXPECT_EQ(world.Run("statements /a.ocf --secrets --features 0x" + hex.str()), 0);
+  const auto features = static_cast<std::int32_t>(world.Logger().Self().features);
+  EXPECT_EQ(world.Run("statements /a.ocf --secrets --features " + FeaturesText(features)), 0);
   EXPECT_EQ(world.out, sent);
   EXPECT_EQ(world.Run("statements /a.ocf --json"), 0);
   const QJsonArray statements = world.Json().object()["statements"].toArray();
@@ -54,8 +51,7 @@ TEST(Show, TellsOnlyWhatIsSetUnlessToldAll) {
 }
 
 TEST(Show, SaysNothingOfAlarmsThatAreOffUnlessAsked) {
-  World world;
-  world.HaveFile("/a.ocf");
+  FileWorld world;
   world.SetKey("/a.ocf", "DIGITAL 7", "HABIL( 3)", "False");
   world.SetKey("/a.ocf", "DIGITAL 7", "SIEMPRE( 3)", "False");
   world.SetKey("/a.ocf", "DIGITAL 6", "HABIL( 2)", "True");
@@ -67,8 +63,7 @@ TEST(Show, SaysNothingOfAlarmsThatAreOffUnlessAsked) {
 }
 
 TEST(Show, GivesTypedJson) {
-  World world;
-  world.HaveFile("/a.ocf");
+  FileWorld world;
   world.SetKey("/a.ocf", "ANALOG 0", "EqFE", " 2.5");
   EXPECT_EQ(world.Run("show /a.ocf --json"), 0);
   const QJsonObject sections = world.Json().object()["sections"].toObject();
@@ -120,8 +115,7 @@ TEST(Schedule, TellsFiringsOfTimersAndMacros) {
 }
 
 TEST(Diff, TellsDifferencesInWordsAndByExitCode) {
-  World world;
-  world.HaveFile("/a.ocf");
+  FileWorld world;
   world.files.contents["/b.ocf"] = world.files.contents["/a.ocf"];
   EXPECT_EQ(world.Run("diff /a.ocf /b.ocf"), 0);
   EXPECT_EQ(world.out, "");
@@ -134,8 +128,7 @@ TEST(Diff, TellsDifferencesInWordsAndByExitCode) {
 }
 
 TEST(Download, AsksBeforeItReplacesWhatItWouldLose) {
-  World world;
-  world.HaveFile("/a.ocf");
+  FileWorld world;
   const std::string former = world.files.contents["/a.ocf"] + "\r\n[MINE]\r\nA=1";
   world.files.contents["/a.ocf"] = former;
   world.Expect("download /a.ocf --port sim:VR200", 5, "would lose: [MINE] A");
@@ -145,8 +138,7 @@ TEST(Download, AsksBeforeItReplacesWhatItWouldLose) {
 }
 
 TEST(Diff, ComparesAFileWithWhatTheLoggerHolds) {
-  World world;
-  world.HaveFile("/a.ocf");
+  FileWorld world;
   EXPECT_EQ(world.Run("diff /a.ocf port --port sim:VR200"), 0) << world.out;
   world.SetKey("/a.ocf", "General", "NOMBRE", "Nuevo");
   const std::string name = "\"" + world.Logger().Conf().name + "\"";
@@ -158,11 +150,11 @@ TEST(Diff, ComparesAFileWithWhatTheLoggerHolds) {
 /// What a file gives back changed is told, and nothing of what the logger held is lost.
 TEST(Files, ATextThatAFileDoesNotKeepIsTold) {
   World world;
-  sim::Configuration conf = world.Logger().Conf();
-  conf.name = " a\nCSM=600111222";
-  conf.digitals[0].name = "\"quoted\"";
-  conf.digitals[1].name = " edges ";
-  world.Logger().SetConf(conf);
+  world.Alter([](sim::Configuration& conf) {
+    conf.name = " a\nCSM=600111222";
+    conf.digitals[0].name = "\"quoted\"";
+    conf.digitals[1].name = " edges ";
+  });
   world.Expect("download /a.ocf --port sim:VR200", 0,
                "[GENERAL] NOMBRE: the file keeps it up to its control ");
   EXPECT_THAT(world.err, HasSubstr("[DIGITAL 0] NOMBRE: the file does not keep the quotes around"));
@@ -179,8 +171,7 @@ TEST(Files, ATextThatAFileDoesNotKeepIsTold) {
 
 /// Names of a file fold, as its reader folds them, and what the reader strips does not count.
 TEST(Files, AreCheckedAsTheirReaderReadsThem) {
-  World world;
-  world.HaveFile("/a.ocf");
+  FileWorld world;
   world.Edit("/a.ocf", "UNIDAD=", "Unidad =");
   world.SetKey("/a.ocf", "DIGITAL 0", "NOMBRE", std::string(300, ' ') + "x");
   world.Edit("/a.ocf", "HISTERESIS( 0)=", "Histeresis( 0)=rubbish");
@@ -194,12 +185,7 @@ TEST(Files, AreCheckedAsTheirReaderReadsThem) {
 }
 
 TEST(Files, AreShownAsTheConnectedFirmwareTakesThem) {
-  World world([](sim::Model model) {
-    sim::LoggerOptions options = sim::MakeDefaultOptions(model);
-    options.features &= ~0x4U;
-    return options;
-  });
-  world.HaveFile("/a.ocf");
+  FileWorld world(With([](sim::LoggerOptions& options) { options.features &= ~0x4U; }));
   world.SetKey("/a.ocf", "FLAG 0", "TEXTO( 0)", "Bombeo");
   world.SetKey("/a.ocf", "FLAG 0", "HABIL( 0)", "True");
   EXPECT_EQ(world.Run("statements /a.ocf"), 0);
@@ -216,8 +202,7 @@ TEST(Files, AreShownAsTheConnectedFirmwareTakesThem) {
 }
 
 TEST(Files, ADashIsStandardInputOrOutput) {
-  World world;
-  world.HaveFile("/a.ocf");
+  FileWorld world;
   const std::string file = world.files.contents["/a.ocf"];
   EXPECT_EQ(world.Run("download - --port sim:VR200"), 0);
   EXPECT_EQ(world.out, file);
@@ -253,8 +238,7 @@ TEST(Files, ErrorsAreJsonForPrograms) {
 }
 
 TEST(Files, AProtectedFileIsReplacedAfterAQuestion) {
-  World world;
-  world.HaveFile("/a.ocf");
+  FileWorld world;
   world.files.modes["/a.ocf"] = 0444;
   world.Edit("/a.ocf", "NOMBRE=", "NOMBRE=mine");
   const std::string former = world.files.contents["/a.ocf"];
@@ -267,8 +251,7 @@ TEST(Files, AProtectedFileIsReplacedAfterAQuestion) {
 }
 
 TEST(Files, OfACutFileEveryReaderTells) {
-  World world;
-  world.HaveFile("/a.ocf");
+  FileWorld world;
   world.HaveFile("/cut.ocf");
   std::string& cut = world.files.contents["/cut.ocf"];
   cut.resize(cut.size() / 2);
@@ -287,13 +270,10 @@ TEST(Files, CoreTextsAreInTheLanguageOfTheLocale) {
       "{Espa\xF1ol}{English}\r\n{Ejecutar macro}{Run macro}\r\n";
   world.HaveFile("/a.ocf");
   world.SetKey("/a.ocf", "DIGITAL 0", "ACTHI( 0 0)", " 3");
-  EXPECT_EQ(world.Run("show /a.ocf"), 0);
-  EXPECT_THAT(world.out, HasSubstr("3 - Ejecutar macro"));
+  world.Expect("show /a.ocf", 0, "3 - Ejecutar macro");
   world.environment.lang = 2;
-  EXPECT_EQ(world.Run("show /a.ocf"), 0);
-  EXPECT_THAT(world.out, HasSubstr("3 - Run macro"));
-  EXPECT_EQ(world.Run("show /a.ocf --lang 1"), 0);
-  EXPECT_THAT(world.out, HasSubstr("3 - Ejecutar macro"));
+  world.Expect("show /a.ocf", 0, "3 - Run macro");
+  world.Expect("show /a.ocf --lang 1", 0, "3 - Ejecutar macro");
 }
 
 }  // namespace

@@ -7,8 +7,7 @@ using testing::HasSubstr;
 using testing::Not;
 
 TEST(History, ListsShowsComparesAndExportsWhatWasDone) {
-  World world;
-  world.HaveFile("/a.ocf");
+  FileWorld world;
   const std::string former = world.files.contents["/a.ocf"];
   world.SetKey("/a.ocf", "General", "NOMBRE", "Nuevo");
   ASSERT_EQ(world.Run("upload /a.ocf --port sim:VR200"), 0) << world.err;
@@ -21,23 +20,20 @@ TEST(History, ListsShowsComparesAndExportsWhatWasDone) {
   EXPECT_EQ(written["file"].toString(), "/a.ocf");
   EXPECT_EQ(written["former"], read["content"]);
   EXPECT_TRUE(written["copy"].toString().contains("/backups/"));
-  EXPECT_EQ(world.Run("history --serial nobody"), 0);
-  EXPECT_EQ(world.out, "");
-  EXPECT_EQ(world.Run("history --since 2026-03-03"), 0);
-  EXPECT_EQ(world.out, "");
+  for (const std::string of : {"--serial nobody", "--since 2026-03-03"}) {
+    EXPECT_EQ(world.Run("history " + of), 0);
+    EXPECT_EQ(world.out, "") << of;
+  }
   EXPECT_EQ(world.Run("history --since yesterday"), 2);
-  EXPECT_EQ(world.Run("history"), 0);
-  EXPECT_THAT(world.out, HasSubstr("\n    6  2026-03-02 09:0"));
-  EXPECT_EQ(world.Run("history show 6"), 0);
-  EXPECT_THAT(world.out, HasSubstr("file          /a.ocf\n"));
+  world.Expect("history", 0, "\n    6  2026-03-02 09:0");
+  world.Expect("history show 6", 0, "file          /a.ocf\n");
   EXPECT_THAT(world.out, HasSubstr("verification  done"));
   EXPECT_EQ(world.Run("history show 99"), 5);
   EXPECT_EQ(world.Run("history export 2 /old.ocf"), 0) << world.err;
   EXPECT_TRUE(world.files.contents["/old.ocf"] == former);
   EXPECT_EQ(world.files.modes["/old.ocf"], 0600);
   EXPECT_EQ(world.Run("history export 1 /none.ocf"), 5);
-  EXPECT_EQ(world.Run("diff history:2 /a.ocf"), 1);
-  EXPECT_THAT(world.out, HasSubstr("-> \"Nuevo\""));
+  world.Expect("diff history:2 /a.ocf", 1, "-> \"Nuevo\"");
   EXPECT_EQ(world.Run("diff history:2 history:99"), 5);
   EXPECT_EQ(world.Run("download history:2 --port sim:VR200"), 5);
   EXPECT_EQ(world.Run("upload history:2 --port sim:VR200"), 0) << world.err;
@@ -47,18 +43,15 @@ TEST(History, ListsShowsComparesAndExportsWhatWasDone) {
 TEST(History, ThatCannotBeReadIsToldAndStopsNothing) {
   World world;
   world.ledger.fault = "the disk is gone";
-  EXPECT_EQ(world.Run("history"), 5);
-  EXPECT_THAT(world.err, HasSubstr("cannot read the ledger: the disk is gone"));
-  EXPECT_EQ(world.Run("download /a.ocf --port sim:VR200"), 0);
-  EXPECT_THAT(world.err, HasSubstr("nothing is kept in the ledger: the disk is gone"));
+  world.Expect("history", 5, "cannot read the ledger: the disk is gone");
+  world.Expect("download /a.ocf --port sim:VR200", 0,
+               "nothing is kept in the ledger: the disk is gone");
 }
 
 TEST(Identity, AFileOfAnotherLoggerIsRefusedUnlessForced) {
-  World world;
-  world.HaveFile("/a.ocf");
+  FileWorld world;
   for (LedgerEntry& entry : world.ledger.entries) entry.serial = "OTHER";
-  EXPECT_EQ(world.Run("upload /a.ocf --port sim:VR200"), 5);
-  EXPECT_THAT(world.err, HasSubstr("was last used with the logger OTHER"));
+  world.Expect("upload /a.ocf --port sim:VR200", 5, "was last used with the logger OTHER");
   EXPECT_EQ(world.Run("upload history:2 --port sim:VR200"), 5) << "nor does what was kept of it";
   EXPECT_EQ(world.Logger().UploadsTaken(), 0U);
   EXPECT_EQ(world.Run("upload /a.ocf --force --port sim:VR200"), 0);
@@ -66,18 +59,13 @@ TEST(Identity, AFileOfAnotherLoggerIsRefusedUnlessForced) {
 }
 
 TEST(Identity, ALoggerThatOthersChangedIsNotOverwrittenUnlessForced) {
-  World world;
-  world.HaveFile("/a.ocf");
-  sim::Configuration changed = world.Logger().Conf();
-  changed.name = "Otro";
-  world.Logger().SetConf(changed);
-  EXPECT_EQ(world.Run("upload /a.ocf --port sim:VR200"), 5);
-  EXPECT_THAT(world.err, HasSubstr("the logger was changed by others"));
+  FileWorld world;
+  world.Alter([](sim::Configuration& conf) { conf.name = "Otro"; });
+  world.Expect("upload /a.ocf --port sim:VR200", 5, "the logger was changed by others");
   EXPECT_EQ(world.Run("upload /a.ocf --no-backup --port sim:VR200"), 5) << "it is read ahead";
   EXPECT_EQ(world.Logger().Conf().name, "Otro");
   EXPECT_EQ(world.Run("upload /a.ocf --force --port sim:VR200"), 0) << world.err;
-  changed.name = "Tercero";
-  world.Logger().SetConf(changed);
+  world.Alter([](sim::Configuration& conf) { conf.name = "Tercero"; });
   ASSERT_EQ(world.Run("backups --json"), 0);
   const QString copy = world.Json().array().last().toObject()["name"].toString();
   EXPECT_EQ(world.Run("restore " + copy.toStdString() + " --port sim:VR200"), 0)
@@ -87,15 +75,13 @@ TEST(Identity, ALoggerThatOthersChangedIsNotOverwrittenUnlessForced) {
 
 /// Each way out of a writing that was killed, from a shell.
 TEST(InterruptedUpload, IsToldWithItsWaysOut) {
-  World world;
-  world.HaveFile("/a.ocf");
+  FileWorld world;
   const std::string former = world.Logger().Conf().name;
   const auto interrupt = [&] {
     world.ledger.cut = false;
     world.HaveFile("/a.ocf");
     world.SetKey("/a.ocf", "General", "NOMBRE", "Nuevo");
-    world.Logger().OnExchange([&](const sim::Exchange& exchange) {
-      if (!exchange.request.starts_with("#45020")) return;
+    world.Upon("#45020", [&] {
       world.ledger.cut = true;
       world.environment.onInterrupt();
     });
@@ -110,29 +96,19 @@ TEST(InterruptedUpload, IsToldWithItsWaysOut) {
     return "interrupted " + std::to_string(open[0].toObject()["id"].toInt()) + " --port sim:VR200 ";
   };
   std::string way = interrupt();
-  EXPECT_EQ(world.Run("ports"), 0);
-  EXPECT_THAT(world.err, HasSubstr("was interrupted: it most probably holds its former"));
+  world.Expect("ports", 0, "was interrupted: it most probably holds its former");
   EXPECT_EQ(world.Run(way + "--look"), 0) << world.err;
   EXPECT_THAT(world.out, testing::StartsWith("the logger holds its former configuration\n"));
   EXPECT_THAT(world.out, HasSubstr("--put-back")) << "the ways out are still there";
-  const auto alter = [&](const std::string& name) {
-    sim::Configuration conf = world.Logger().Conf();
-    conf.name = name;
-    world.Logger().SetConf(conf);
-  };
-  alter("Otro");
-  EXPECT_EQ(world.Run(way + "--finish"), 5);
-  EXPECT_THAT(world.err, HasSubstr("the logger was changed by others"));
+  world.Alter([](sim::Configuration& conf) { conf.name = "Otro"; });
+  world.Expect(way + "--finish", 5, "the logger was changed by others");
   EXPECT_EQ(world.Run(way + "--finish --force"), 0) << "as it is advised" << world.err;
   EXPECT_EQ(world.Logger().Conf().name, "Nuevo");
   EXPECT_EQ(world.Run("interrupted"), 0);
   EXPECT_EQ(world.out, "");
   EXPECT_EQ(world.Run(way + "--look"), 5) << "it is settled";
   EXPECT_EQ(world.Run("upload /a.ocf --port sim:VR200"), 0) << "it was its own" << world.err;
-  alter(former);
-  sim::Configuration reset = world.Logger().Conf();
-  reset.name = former;
-  world.Logger().SetConf(reset);
+  world.Alter([&](sim::Configuration& conf) { conf.name = former; });
   way = interrupt();
   EXPECT_EQ(world.Run(way + "--put-back"), 0) << world.err;
   EXPECT_EQ(world.Logger().Conf().name, former);

@@ -95,39 +95,31 @@ TEST(Online, RecordsLiveValues) {
     return path == "/" ? nullptr : std::make_unique<std::ostream>(nullptr);  // takes nothing
   };
   world.Expect(watch + "/full", 5, "cannot write the values to /full to the end");
-  EXPECT_EQ(world.Run(watch + "/"), 5);
-  EXPECT_THAT(world.err, HasSubstr("cannot write the values to /: it is a folder"));
+  world.Expect(watch + "/", 5, "cannot write the values to /: it is a folder");
   EXPECT_EQ(world.Run("live --port sim:BQ --count 3"), 2);
 }
 
 TEST(Online, AWatchGoesOnOverARoundThatFailed) {
-  const auto fallsSilent = [](sim::Model model) {
-    sim::LoggerOptions options = sim::MakeDefaultOptions(model);
-    std::string error;
-    for (int request = 14; request < 40; ++request)
-      options.faults.push_back(
-          *sim::ParseFault("silent@" + std::to_string(request) + "!once", error));
-    return options;
+  const auto silentFrom = [](int first, int last) {
+    std::vector<std::string> faults;
+    for (int request = first; request <= last; ++request)
+      faults.push_back("silent@" + std::to_string(request) + "!once");
+    return WithFaults(faults);
   };
   for (const auto& [face, gap] : {std::pair{" --csv -", ",,,,,"},
                                   {"", "digital inputs --------\n"},
                                   {" --json", "\"digital\":[null,null,"}}) {
-    World world(fallsSilent);
-    EXPECT_EQ(world.Run(std::string("live --port sim:BP --watch --count 9") + face), 0)
-        << world.err;
-    EXPECT_THAT(world.out, HasSubstr(gap));
+    World world(silentFrom(14, 39));
+    world.Expect(std::string("live --port sim:BP --watch --count 9") + face, 0, gap);
   }
   // The states are the last but two that a single round asks for, up to three times.
   World sound;
   int asked = 0;
   sound.Logger(sim::Model::BP).OnExchange([&](const sim::Exchange&) { ++asked; });
   EXPECT_EQ(sound.Run("live --port sim:BP"), 0);
-  std::vector<std::string> faults;
-  for (int request = asked - 2; request <= asked; ++request)
-    faults.push_back("silent@" + std::to_string(request) + "!once");
-  World once(WithFaults(faults));
+  World once(silentFrom(asked - 2, asked));
   once.Expect("live --port sim:BP", 4, "the logger fell silent");
-  World last(WithFaults(faults));
+  World last(silentFrom(asked - 2, asked));
   last.Expect("live --watch --count 1 --csv - --port sim:BP", 4, "the logger fell silent");
   EXPECT_EQ(std::ranges::count(last.out, '\n'), 2) << "the last round has its row as any other";
 }
@@ -296,12 +288,10 @@ TEST(Online, TracesTheLineWithItsPrefixes) {
 
 /// A logger behind a modem.
 SimulatedLoggers::MakeOptions Behind(std::string code) {
-  return [code](sim::Model model) {
-    sim::LoggerOptions options = sim::MakeDefaultOptions(model);
+  return With([code](sim::LoggerOptions& options) {
     options.modem = true;
     options.accessCode = code;
-    return options;
-  };
+  });
 }
 
 TEST(Online, GivesTheAccessCodeOnceFromTheOptionsOrAsksForIt) {

@@ -72,19 +72,14 @@ TEST(TerminalCommand, LeavesTracesAloneUnlessTold) {
 
 /// An answer may take on a call as long as any; and traces left on do not spoil the next dialling.
 TEST(TerminalCommand, WaitsOnACallForAnAnswerThatIsLongInComing) {
-  ConsoleWorld world({"VER", "OUT"}, [](sim::Model model) {
-    sim::LoggerOptions options = sim::MakeDefaultOptions(model);
-    options.modem = true;
-    options.replyDelay = std::chrono::seconds(3);
-    return options;
-  });
+  ConsoleWorld world({"VER", "OUT"}, With([](sim::LoggerOptions& options) {
+                       options.modem = true;
+                       options.replyDelay = std::chrono::seconds(3);
+                     }));
   const std::string call = "terminal --port sim:VR200 --phone 600 --code 1234 ";
   EXPECT_EQ(world.Run(call), 0) << world.err;
   EXPECT_EQ(world.out, "Ostrel VR200 v4.12\nOUT=0\n");
-  for (int i = 0; i < 2; ++i) {
-    EXPECT_EQ(world.Run(call + "--traces on --seconds 20"), 0) << world.err;
-    EXPECT_THAT(world.out, HasSubstr("OUT=0\n"));
-  }
+  for (int i = 0; i < 2; ++i) world.Expect(call + "--traces on --seconds 20", 0, "OUT=0\n");
 }
 
 /// A cable may carry text without a carrier; a call ends with it.
@@ -123,8 +118,7 @@ TEST(TerminalCommand, IsEndedByAnInterrupt) {
   ConsoleWorld world;
   world.environment.watchInput = {};
   world.loop.After(std::chrono::seconds(9), "interrupt", [&] { world.environment.onInterrupt(); });
-  EXPECT_EQ(world.Run("terminal --traces on --port sim:VR200"), 0) << world.err;
-  EXPECT_THAT(world.out, HasSubstr("DI="));
+  world.Expect("terminal --traces on --port sim:VR200", 0, "DI=");
 }
 
 /// Noise without the end of a line is shown, too, and leads no terminal astray.
@@ -147,8 +141,7 @@ TEST(TerminalCommand, ShowsNoiseAsItIsToProgramsAlone) {
 
 TEST(TerminalCommand, SendsFramesAsTheyAreTyped) {
   ConsoleWorld world({"#5D", "5D"});
-  EXPECT_EQ(world.Run("terminal --raw --port sim:VR200"), 0);
-  EXPECT_THAT(world.out, HasSubstr(";A2260302090"));
+  world.Expect("terminal --raw --port sim:VR200", 0, ";A2260302090");
   EXPECT_THAT(world.err, HasSubstr("not sent, it is no frame: 5D\n"));
 }
 

@@ -9,11 +9,9 @@ using testing::HasSubstr;
 class FactoryTest : public testing::Test {
  protected:
   FactoryTest()
-      : world([](sim::Model model) {
-          sim::LoggerOptions options = sim::MakeDefaultOptions(model);
-          options.serial = model == sim::Model::KA2 ? "-1" : "0";
-          return options;
-        }) {
+      : world(With([](sim::LoggerOptions& options) {
+          options.serial = options.model == sim::Model::KA2 ? "-1" : "0";
+        })) {
     world.environment.station = {"root", "bench", "/home/user/data/factory"};
   }
   /// Answers what the operator is asked, and keeps it.
@@ -48,10 +46,10 @@ TEST_F(FactoryTest, EachTestPassesAndIsRecorded) {
 
 TEST_F(FactoryTest, TheOperatorIsAskedInTurn) {
   SitDown();
-  EXPECT_EQ(world.Run("test ka2 --port sim:KA2 --folder /share"), 0) << world.err;
+  world.Expect("test ka2 --port sim:KA2 --folder /share", 0,
+               "Ostrel KA2, serial number 2603020001: passed");
   EXPECT_THAT(asked, testing::ElementsAre("Conecte la bateria [Enter] ",
                                           "Desconecte la tension de red [Enter] "));
-  EXPECT_THAT(world.out, HasSubstr("Ostrel KA2, serial number 2603020001: passed"));
   EXPECT_TRUE(world.files.contents.contains("/share/TestOstrel.ini"));
 }
 
@@ -60,13 +58,12 @@ TEST_F(FactoryTest, WhatIsNotPassedEndsWithOne) {
   EXPECT_EQ(world.Run("test bq --skip-keys --quiet --port sim:BQ"), 1);
   EXPECT_THAT(world.err, HasSubstr("Error, PIN bloqueado"));
   EXPECT_THAT(world.out, HasSubstr("not 0, 2..8    FAILED"));
-  EXPECT_EQ(world.Run("history --serial 2603020001"), 0);
-  EXPECT_THAT(world.out, HasSubstr("test run      failed    Tavro BQ 2603020001  bq, root, bench: "
-                                   "Error, PIN bloqueado\n"));
-  EXPECT_EQ(world.Run("history show 2"), 0);
-  EXPECT_THAT(world.out, HasSubstr("detail        bq, root, bench\n"
-                                   "              new number 2603020001\n"
-                                   "              VBat = "));
+  world.Expect(
+      "history --serial 2603020001", 0,
+      "test run      failed    Tavro BQ 2603020001  bq, root, bench: Error, PIN bloqueado\n");
+  world.Expect("history show 2", 0,
+               "detail        bq, root, bench\n              new number 2603020001\n"
+               "              VBat = ");
 }
 
 TEST_F(FactoryTest, WhatBreaksOffEndsWithFourAndIsRecorded) {
@@ -105,21 +102,19 @@ TEST_F(FactoryTest, WhatIsAskedOfTheOperatorIsSaidInAnyCase) {
   EXPECT_EQ(world.Run("test ka2 --quiet --yes --port sim:KA2"), 0);
   EXPECT_THAT(world.err, testing::StartsWith("Iniciar el test con la bateria desconectada."));
   EXPECT_THAT(world.err, HasSubstr("Control de calidad superado con exito"));
-  EXPECT_EQ(world.Run("test bq --quiet --yes --port sim:BQ"), 0);
-  EXPECT_THAT(world.err, HasSubstr("Comprobacion de IN1, pulse la tecla 2"));
+  world.Expect("test bq --quiet --yes --port sim:BQ", 0, "Comprobacion de IN1, pulse la tecla 2");
   EXPECT_EQ(world.err.find("Iniciando"), std::string::npos);
 }
 
 TEST_F(FactoryTest, ABoardThatDoesNotConfirmIsNoSuccess) {
   World refusing(WithFaults({"refuse-command@1!once"}));
-  EXPECT_EQ(refusing.Run("test main --port sim:BP --yes"), 4);
-  EXPECT_THAT(refusing.err, HasSubstr("Control de calidad superado con exito"));
+  refusing.Expect("test main --port sim:BP --yes", 4, "Control de calidad superado con exito");
   EXPECT_THAT(refusing.err, HasSubstr("the checks behind it did not run"));
 }
 
 TEST_F(FactoryTest, WhatMakesNoSenseIsRefusedAheadOfASession) {
-  EXPECT_EQ(world.Run("test main --port sim:BQ"), 2);
-  EXPECT_THAT(world.err, HasSubstr("the test main is for the model Tavro BP, not Tavro BQ"));
+  world.Expect("test main --port sim:BQ", 2,
+               "the test main is for the model Tavro BP, not Tavro BQ");
   EXPECT_EQ(world.Run("test bp --port sim:BP"), 2);
   EXPECT_EQ(world.Run("test main"), 2);
   EXPECT_TRUE(world.files.contents.count("/home/user/data/factory/test-main.csv") == 0);

@@ -8,27 +8,14 @@ namespace {
 using testing::HasSubstr;
 
 /// A VR200, and a file that holds what it holds, but for the name.
-struct UploadWorld : World {
+struct UploadWorld : FileWorld {
   explicit UploadWorld(std::vector<std::string> faults = {})
-      : World(WithFaults(std::move(faults))) {
-    HaveFile("/a.ocf");
+      : FileWorld(WithFaults(std::move(faults))) {
     former = files.contents["/a.ocf"];
     SetKey("/a.ocf", "General", "NOMBRE", "Nuevo");
   }
   int Upload(const std::string& options = "") {
     return Run("upload /a.ocf --port sim:VR200 " + options);
-  }
-  /// Does something at each request that starts in some way.
-  void Upon(std::string head, std::function<void()> act) {
-    Logger().OnExchange([head, act](const sim::Exchange& exchange) {
-      if (exchange.request.starts_with(head)) act();
-    });
-  }
-  /// Changes what the logger holds.
-  void Alter(const std::function<void(sim::Configuration&)>& change) {
-    sim::Configuration conf = Logger().Conf();
-    change(conf);
-    Logger().SetConf(conf);
   }
 
   std::string former;
@@ -141,11 +128,11 @@ TEST(Upload, OneWordSendsTheFileOfAnotherModel) {
   World world;
   world.HaveFile("/ka1.ocf", "KA1");
   for (const auto* line :
-       {"upload /ka1.ocf --port sim:VR200", "upload /ka1.ocf --yes --port sim:VR200"}) {
-    EXPECT_EQ(world.Run(line), 5);
-    EXPECT_THAT(world.err, HasSubstr("is for the model Ostrel KA1, and the logger is of the model "
-                                     "Ostrel VR200. Nothing was sent: --force sends it"));
-  }
+       {"upload /ka1.ocf --port sim:VR200", "upload /ka1.ocf --yes --port sim:VR200"})
+    world.Expect(
+        line, 5,
+        "is for the model Ostrel KA1, and the logger is of the model Ostrel VR200. Nothing "
+        "was sent: --force sends it");
   EXPECT_EQ(world.Logger().UploadsTaken(), 0U);
   EXPECT_EQ(world.Run("upload /ka1.ocf --dry-run --port sim:VR200"), 0);
   EXPECT_EQ(world.Run("upload /ka1.ocf --force --port sim:VR200"), 4) << "it is sent";
@@ -157,11 +144,7 @@ TEST(Upload, OneWordSendsTheFileOfAnotherModel) {
 
 /// A logger that greets without its name is known for what it is when it has been read.
 TEST(Upload, IsRefusedByWhatIsReadAhead) {
-  World world([](sim::Model model) {
-    sim::LoggerOptions options = sim::MakeDefaultOptions(model);
-    options.greetsBare = true;
-    return options;
-  });
+  World world(With([](sim::LoggerOptions& options) { options.greetsBare = true; }));
   world.HaveFile("/ka1.ocf", "KA1");
   world.files.contents["/sent.ocf"] = world.files.contents["/ka1.ocf"];  // of unknown descent
   world.Expect("upload /sent.ocf --target KA1 --port sim:VR200", 5,
@@ -178,19 +161,13 @@ TEST(Upload, IsDoneThoughWhatGoesBesideItIsLost) {
         world.environment.openLineRecording = [](const std::string&, std::string&) {
           return std::make_unique<std::ostream>(nullptr);  // takes nothing
         };
-    EXPECT_EQ(world.Upload("--" + beside + " /full"), 0);
-    EXPECT_THAT(world.err, HasSubstr("cannot write /full"));
+    world.Expect("upload /a.ocf --port sim:VR200 --" + beside + " /full", 0, "cannot write /full");
     world.Expect("info --port sim:VR200 --" + beside + " /full", 5, "cannot write /full");
   }
 }
 
 TEST(Upload, WhatIsNotSentIsNoDifference) {
-  World world([](sim::Model model) {
-    sim::LoggerOptions options = sim::MakeDefaultOptions(model);
-    options.features = 0;
-    return options;
-  });
-  world.HaveFile("/a.ocf");
+  FileWorld world(With([](sim::LoggerOptions& options) { options.features = 0; }));
   world.SetKey("/a.ocf", "MTIMER 0", "HABIL", "True");
   EXPECT_EQ(world.Run("upload /a.ocf --json --port sim:VR200"), 0) << world.err;
   const QJsonObject result = world.Json().object();
@@ -200,28 +177,22 @@ TEST(Upload, WhatIsNotSentIsNoDifference) {
 }
 
 TEST(Upload, ShowsPasswordsThatCameBackOtherwiseWhenAsked) {
-  World world;
-  world.HaveFile("/a.ocf");
+  FileWorld world;
   world.SetKey("/a.ocf", "GPRS", "APN_PASS", "sent");
-  world.Logger().OnExchange([&](const sim::Exchange& exchange) {
-    if (!exchange.request.starts_with("#46")) return;
-    sim::Configuration conf = world.Logger().Conf();
-    conf.gprs.apnPassword = "held";
-    world.Logger().SetConf(conf);
+  world.Upon("#46", [&] {
+    world.Alter([](sim::Configuration& conf) { conf.gprs.apnPassword = "held"; });
   });
   EXPECT_EQ(world.Run("upload /a.ocf --port sim:VR200"), 1) << world.err;
   EXPECT_THAT(world.out, testing::Not(HasSubstr("held")));
-  EXPECT_EQ(world.Run("upload /a.ocf --secrets --port sim:VR200"), 1);
-  EXPECT_THAT(world.out, HasSubstr("\"sent\" -> \"held\""));
+  world.Expect("upload /a.ocf --secrets --port sim:VR200", 1, "\"sent\" -> \"held\"");
 }
 
 /// A copy goes back with the texts that its file does not keep; one of another logger does not go
 /// without a question.
 TEST(Upload, ASafetyCopyIsWrittenBack) {
   World world;
-  sim::Configuration former = world.Logger().Conf();
-  former.digitals[0].name = " Boya ";
-  world.Logger().SetConf(former);
+  world.Alter([](sim::Configuration& conf) { conf.digitals[0].name = " Boya "; });
+  const sim::Configuration former = world.Logger().Conf();
   world.HaveFile("/ka1.ocf", "KA1");
   EXPECT_EQ(world.Run("backups"), 0);
   EXPECT_EQ(world.out, "");
@@ -238,8 +209,8 @@ TEST(Upload, ASafetyCopyIsWrittenBack) {
   EXPECT_EQ(world.Json().array().size(), 2);
   const std::string copy = "/home/user/data/backups/Q9" + name.substr(name.find("-2026"));
   world.files.contents[copy + ".ocf"] = world.files.contents["/a.ocf"];
-  EXPECT_EQ(world.Run("restore Q9" + name.substr(name.find("-2026")) + " --port sim:VR200"), 5);
-  EXPECT_THAT(world.err, HasSubstr("is not of the logger VR200-000137: --yes writes it"));
+  world.Expect("restore Q9" + name.substr(name.find("-2026")) + " --port sim:VR200", 5,
+               "is not of the logger VR200-000137: --yes writes it");
 }
 
 /// What a logger of another model would get, and a file that was cut, are refused before anything
@@ -264,8 +235,7 @@ TEST(Upload, RefusesWhatWouldHarmTheLogger) {
 }
 
 TEST(Upload, ADryRunSendsNothingAndTellsItsTime) {
-  World world;
-  world.HaveFile("/a.ocf");
+  FileWorld world;
   EXPECT_EQ(world.Run("statements /a.ocf --features 10000"), 0);
   const std::string statements = world.out;
   EXPECT_EQ(world.Run("upload /a.ocf --dry-run --features 10000"), 0);

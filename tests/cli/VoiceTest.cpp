@@ -10,12 +10,13 @@ using testing::Not;
 /// What the simulated logger has to begin with: three numbers and macro 0.
 struct VoiceWorld : World {
   explicit VoiceWorld(std::vector<std::string> faults = {}) : World(WithFaults(std::move(faults))) {
-    sim::Configuration held = Logger().Conf();
-    held.voice = {{"+34600", "601", "602"}, 7};
-    Logger().SetConf(held);
+    Alter([](sim::Configuration& held) { held.voice = {{"+34600", "601", "602"}, 7}; });
   }
   const sim::VoiceList& Held() { return Logger().Conf().voice; }
   int Voice(const std::string& command) { return Run("voice " + command + " --port sim:VR200"); }
+  void ExpectVoice(const std::string& command, int code, const std::string& says) {
+    Expect("voice " + command + " --port sim:VR200", code, says);
+  }
 };
 
 TEST(Voice, IsReadToOutputTextAndConfiguration) {
@@ -62,18 +63,16 @@ TEST(Voice, AnEmptyListIsAskedAndACutFileIsLeftAlone) {
   world.SetKey("/a.ocf", "AUT_VOZ", "MACRO", "-1");
   world.files.contents["/none.txt"] = "";
   for (const auto* file : {"/a.ocf", "/none.txt"}) {
-    EXPECT_EQ(world.Voice(std::string("write ") + file), 5);
-    EXPECT_THAT(world.err, HasSubstr("the logger would lose all numbers of its list. --yes"));
+    world.ExpectVoice(std::string("write ") + file, 5,
+                      "the logger would lose all numbers of its list. --yes");
     EXPECT_EQ(world.Held().numbers.size(), 3U);
   }
   world.environment.errIsTerminal = true;
-  EXPECT_EQ(world.Voice("read /a.ocf"), 0);
-  EXPECT_THAT(world.err, HasSubstr("voice-call list [")) << "it shows how far it is";
+  world.ExpectVoice("read /a.ocf", 0, "voice-call list [");  // how far it is
   std::string& cut = world.files.contents["/a.ocf"];
   cut.resize(cut.size() / 2);
   const std::string before = cut;
-  EXPECT_EQ(world.Voice("read /a.ocf"), 5);
-  EXPECT_THAT(world.err, HasSubstr("mend the file first"));
+  world.ExpectVoice("read /a.ocf", 5, "mend the file first");
   EXPECT_EQ(world.files.contents["/a.ocf"], before);
   EXPECT_EQ(world.Voice("write /none.txt --yes"), 0) << world.err;
   EXPECT_TRUE(world.Held().numbers.empty());
@@ -82,8 +81,7 @@ TEST(Voice, AnEmptyListIsAskedAndACutFileIsLeftAlone) {
 TEST(Voice, RefusesWhatIsNoListOrNoMacro) {
   VoiceWorld world;
   world.files.contents["/list.txt"] = "801\nAna\n";
-  EXPECT_EQ(world.Voice("write /list.txt"), 5);
-  EXPECT_THAT(world.err, HasSubstr("/list.txt, line 2: Ana is no telephone number"));
+  world.ExpectVoice("write /list.txt", 5, "/list.txt, line 2: Ana is no telephone number");
   EXPECT_EQ(world.Voice("write /none.txt"), 5);
   for (const auto* macro : {"40", "-1", "x", "1.5"})
     EXPECT_EQ(world.Voice("write /list.txt --macro " + std::string(macro)), 2) << macro;
@@ -98,8 +96,7 @@ TEST(Voice, RefusesWhatIsNoListOrNoMacro) {
            {"[AUT_VOZ]\r\nMACRO= 1\r\nTEL 3=abc,1", "TEL 3: abc,1 is no telephone number"},
            {"[AUT_VOZ]\r\nMACRO= 1\r\n" + many, "a list has 250 numbers at the most"}}) {
     world.files.contents["/a.ocf"] = start + rest;
-    EXPECT_EQ(world.Voice("write /a.ocf"), 5) << rest;
-    EXPECT_THAT(world.err, HasSubstr("/a.ocf: " + why));
+    world.ExpectVoice("write /a.ocf", 5, "/a.ocf: " + why);
   }
   EXPECT_EQ(world.Held().numbers.size(), 3U);
 }
@@ -122,11 +119,7 @@ TEST(Voice, ExitsWith4WhereItFails) {
   EXPECT_EQ(world.Voice("write /list.txt --macro none"), 4);
   EXPECT_THAT(world.err, HasSubstr("check sum"));
   EXPECT_THAT(world.err, HasSubstr("list may be erased or incomplete: write it again"));
-  World old([](sim::Model model) {
-    sim::LoggerOptions options = sim::MakeDefaultOptions(model);
-    options.features &= ~sim::kMissedCall;
-    return options;
-  });
+  World old(With([](sim::LoggerOptions& options) { options.features &= ~sim::kMissedCall; }));
   old.Expect("voice read --port sim:BP", 4, "has no voice-call list");
 }
 
@@ -141,10 +134,10 @@ TEST(Passwords, AreToldOnlyWhenAskedFor) {
     };
     return std::make_unique<Log>(world.files.contents[path]);
   };
-  sim::Configuration held = world.Logger().Conf();
-  held.gprs.apnPassword = "Secreto1";
-  held.gprs.ftpPassword = "Secreto2";
-  world.Logger().SetConf(held);
+  world.Alter([](sim::Configuration& held) {
+    held.gprs.apnPassword = "Secreto1";
+    held.gprs.ftpPassword = "Secreto2";
+  });
   world.HaveFile("/a.ocf");
   EXPECT_THAT(world.files.contents["/a.ocf"], HasSubstr("APN_PASS=Secreto1")) << "as the format is";
   EXPECT_EQ(world.files.modes["/a.ocf"], 0600);
@@ -179,10 +172,10 @@ TEST(Passwords, MakeAFileThatStandsItsOwnersAloneWithTheFirst) {
   World world;
   world.files.contents["/a.ocf"] = "[GPRS]\r\nAPN_PASS=";
   for (const auto& [password, mode] : {std::pair("", 0644), {"Secreto1", 0600}, {"Otra", 0644}}) {
-    sim::Configuration held = world.Logger().Conf();
-    held.gprs.apnPassword = password;
-    held.gprs.ftpPassword = "";
-    world.Logger().SetConf(held);
+    world.Alter([&](sim::Configuration& held) {
+      held.gprs.apnPassword = password;
+      held.gprs.ftpPassword = "";
+    });
     world.files.modes["/a.ocf"] = 0644;
     EXPECT_EQ(world.Run("download /a.ocf --port sim:VR200 --yes"), 0) << world.err;
     EXPECT_EQ(world.files.modes["/a.ocf"], mode) << password;

@@ -6,6 +6,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <functional>
 #include <initializer_list>
 #include <sstream>
 #include <string>
@@ -20,16 +21,21 @@
 
 namespace ostrel::cli {
 
-/// Makes options of the simulated loggers with these faults.
-inline SimulatedLoggers::MakeOptions WithFaults(std::vector<std::string> faults) {
-  return [faults = std::move(faults)](sim::Model model) {
+/// Makes options of the simulated loggers with a change.
+inline SimulatedLoggers::MakeOptions With(std::function<void(sim::LoggerOptions&)> change) {
+  return [change = std::move(change)](sim::Model model) {
     sim::LoggerOptions options = sim::MakeDefaultOptions(model);
-    for (const std::string& text : faults) {
-      std::string error;
-      options.faults.push_back(sim::ParseFault(text, error).value());
-    }
+    change(options);
     return options;
   };
+}
+/// With these faults.
+inline SimulatedLoggers::MakeOptions WithFaults(std::vector<std::string> faults) {
+  return With([faults = std::move(faults)](sim::LoggerOptions& options) {
+    std::string error;
+    for (const std::string& text : faults)
+      options.faults.push_back(sim::ParseFault(text, error).value());
+  });
 }
 
 /// A shell in memory: the command line on virtual time with six simulated loggers and its own
@@ -91,6 +97,18 @@ struct World : VirtualWorld {
   QJsonDocument Json() const { return QJsonDocument::fromJson(QByteArray::fromStdString(out)); }
 
   sim::Logger& Logger(sim::Model model = sim::Model::VR200) { return simulated.LoggerOf(model); }
+  /// Changes what the logger holds.
+  void Alter(const std::function<void(sim::Configuration&)>& change) {
+    sim::Configuration conf = Logger().Conf();
+    change(conf);
+    Logger().SetConf(conf);
+  }
+  /// Does something at each request to the logger that starts in some way.
+  void Upon(std::string head, std::function<void()> act) {
+    Logger().OnExchange([head, act](const sim::Exchange& exchange) {
+      if (exchange.request.starts_with(head)) act();
+    });
+  }
 
   /// Puts a file there that holds what a simulated logger holds.
   void HaveFile(const std::string& path, const std::string& model = "VR200") {
@@ -119,6 +137,14 @@ struct World : VirtualWorld {
     for (const auto& [path, octets] : files.contents)
       count += path.starts_with("/home/user/data/backups/") && path.ends_with(".ocf") ? 1U : 0U;
     return count;
+  }
+};
+
+/// Beside a file that holds what the simulated VR200 holds.
+struct FileWorld : World {
+  explicit FileWorld(const SimulatedLoggers::MakeOptions& makeOptions = sim::MakeDefaultOptions)
+      : World(makeOptions) {
+    HaveFile("/a.ocf");
   }
 };
 

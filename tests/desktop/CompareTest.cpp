@@ -7,7 +7,6 @@
 #include <QTreeWidget>
 
 #include "OpenWindow.h"
-#include "desktop/dialogs/ApplyDialog.h"
 #include "desktop/dialogs/CompareWindow.h"
 #include "desktop/program/Language.h"
 
@@ -53,7 +52,7 @@ TEST_F(Comparing, TellsInWordsLeadsToTheFieldAndTakesOver) {
   conf.Gprs.APN_PASS = "two";
   Core().ShowConfiguration(conf);
   Window().GoTo("E_Digital_2");
-  Core().PageOf(PageId::E_Digital)->GetForm().Get<TextBox>("Nombre").Type("door");
+  NameOf().Type("door");
 
   ASSERT_TRUE(SafetyCopies(files, clock, FromQt(folder.path()))
                   .Keep({conf, Core().profile, "123"})
@@ -99,10 +98,9 @@ TEST_F(Comparing, TellsInWordsLeadsToTheFieldAndTakesOver) {
 }
 
 TEST_F(Comparing, ReadsTheLoggerBesideThePages) {
-  AddLogger(sim::Model::BP);
-  Connect();
+  ConnectTo(sim::Model::BP);
   Window().GoTo("E_Digital_2");
-  Core().PageOf(PageId::E_Digital)->GetForm().Get<TextBox>("Nombre").Type("door");
+  NameOf().Type("door");
   Tool("Comparar")->trigger();
   Choose("Side1", "the logger");
   EXPECT_EQ(Summary(), "The logger is being read.");
@@ -195,7 +193,6 @@ TEST_F(Copying, AnAlarmGoesIntoAnotherAndAChannelKeepsItsName) {
 
 TEST_F(Copying, IsAppliedToAllOthers) {
   Window().GoTo("E_Digital_2");
-  ModalScript modals;
   modals.Expect([](QWidget* modal) {
     auto* what = modal->findChild<QComboBox*>("What");
     what->setCurrentIndex(what->findText("alarm 1 alone"));

@@ -79,8 +79,7 @@ TEST_F(ConsoleTools, TenMegabytesDoNotSlowTheConsole) {
 }
 
 TEST_F(ConsoleTools, TheArrowKeysBringBackWhatWasSent) {
-  AddLogger(sim::Model::BP);
-  Connect();
+  ConnectTo(sim::Model::BP);
   Window().GoTo("Terminal");
   auto* box = On<QLineEdit>(*desktop, "TextComando");
   Type(box, "VER");
@@ -99,7 +98,7 @@ TEST_F(ConsoleTools, AnUpdateKeepsTheWindowAsLongAsFlashIsErased) {
   Window().show();
   Connect(seconds(15));
   Window().GoTo("E_Digital_3");
-  Core().PageOf(PageId::E_Digital)->GetForm().Get<TextBox>("Nombre").Type("gate");
+  NameOf().Type("gate");
   Window().GoTo("Firmware");
   for (const auto& [box, name, octets] : {std::tuple{"FirmPath", "image.hex", HexFile(400)},
                                           {"LoaderPath", "CopyFlash.hex", HexFile(3)}}) {

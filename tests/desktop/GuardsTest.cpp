@@ -46,13 +46,10 @@ class Guards : public OpenWindow {
     return !dialogs.boxes.empty() && dialogs.boxes.back().buttons == BoxButtons::YesNo &&
            dialogs.boxes.back().text.find(text) != std::string::npos;
   }
-
-  ModalScript modals;
 };
 
 TEST_F(Guards, AnotherModelIsToldAtTheOpeningAndDoubtedBeforeWriting) {
-  AddLogger(sim::Model::VR200);
-  Connect();
+  ConnectTo(sim::Model::VR200);
   constexpr const char* kSays = "The logger says that it is the model Ostrel VR200";
   ASSERT_EQ(dialogs.boxes.size(), 1U);
   EXPECT_TRUE(dialogs.boxes[0].text.starts_with(kSays));
@@ -67,7 +64,7 @@ TEST_F(Guards, AnotherModelIsToldAtTheOpeningAndDoubtedBeforeWriting) {
 }
 
 TEST_F(Guards, AnotherModelThatShowsInTheReadingAheadIsAskedAbout) {
-  AddLogger(sim::Model::VR200, {}, true);
+  AddLogger(sim::Model::VR200, {}, [](auto& options) { options.greetsBare = true; });
   Connect();
   EXPECT_TRUE(dialogs.boxes.empty()) << "nothing is known of it";
   Core().general.GetForm().Get<TextBox>("NameBox").Type("Nuevo");
@@ -90,23 +87,20 @@ TEST_F(Guards, WhatWillChangeIsShownOnRequestAndMayBeDeclined) {
         [this, shows] {
           if (shows) ExpectComparison("What will change", 1);
         });
-    EXPECT_EQ(modals.Left(), 0U);
     EXPECT_EQ(logger->UploadsTaken(), shows ? 0U : 1U);
   }
 }
 
-TEST_F(Guards, AWritingThatCameOutOtherwiseIsShown) {
+TEST_F(Guards, AWritingThatCameOutOtherwiseIsShownAndNoSuccess) {
   AddLogger(sim::Model::BP);
   BeginToEdit();
   logger->OnExchange([this](const sim::Exchange& exchange) {
-    if (!exchange.request.starts_with("#46")) return;
-    sim::Configuration held = logger->Conf();
-    held.name = "Otro";
-    logger->SetConf(held);
+    if (exchange.request.starts_with("#46")) Alter([](auto& held) { held.name = "Otro"; });
   });
   Write([](QDialog* dialog) { AgreeToWrite(dialog, true); },
         [this] { ExpectComparison("The logger holds another configuration than was sent", 1); });
-  EXPECT_EQ(modals.Left(), 0U);
+  EXPECT_EQ(Fault(), "The logger holds another configuration than was sent.");
+  EXPECT_TRUE(Window().isWindowModified()) << "it is safe nowhere";
 }
 
 TEST_F(Guards, AFileOfAnotherModelAsksWhileASessionStands) {
@@ -114,8 +108,7 @@ TEST_F(Guards, AFileOfAnotherModelAsksWhileASessionStands) {
   Core().TargetDeviceChange("Tavro BQ");
   ASSERT_TRUE(Core().SaveTo(file)->Ok());
   Core().TargetDeviceChange("Tavro BP");
-  AddLogger(sim::Model::BP);
-  Connect();
+  ConnectTo(sim::Model::BP);
   for (const BoxAnswer answer : {BoxAnswer::No, BoxAnswer::Yes}) {
     dialogs.boxes.clear();
     dialogs.ChoosePath(file);

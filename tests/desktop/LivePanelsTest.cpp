@@ -23,8 +23,7 @@ class WindowLivePanels : public OpenWindow {
  protected:
   WindowLivePanels() {
     UseLanguage("en");
-    AddLogger(sim::Model::BP);
-    Connect();
+    ConnectTo(sim::Model::BP);
     Window().resize(1280, 720);
     Window().show();
   }
@@ -425,8 +424,7 @@ TEST_F(WindowLivePanels, AcceptanceWaitsForTheEndOfADownload) {
     for (const char* button : {"AcceptanceExport", "PlotPicture"})
       EXPECT_FALSE(Find<QPushButton>(button)->isEnabled());
   });
-  ModalScript script;
-  script.Expect([](QWidget* question) {
+  modals.Expect([](QWidget* question) {
     for (auto* button : question->findChildren<QAbstractButton*>())
       if (button->text().contains("without saving")) button->click();
   });

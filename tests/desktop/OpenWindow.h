@@ -14,16 +14,26 @@
 
 namespace ostrel {
 
-/// A window in Spanish, with the model Tavro BP chosen and questions answered by a script.
+/// A window in Spanish with the model Tavro BP chosen, or as it is told, and questions answered by
+/// a script.
 class OpenWindow : public testing::Test, protected WindowWorld<VirtualLoop> {
  protected:
-  OpenWindow() {
-    StartBefore("Tavro BP", "1");
-    desktop = Make(&dialogs);
-    desktop->Start("");
+  explicit OpenWindow(const std::string& model = "Tavro BP", const std::string& language = "1") {
+    StartBefore(model, language);
+    Restart();
   }
+  void Restart(const std::string& file = "") {
+    desktop.reset();
+    desktop = Make(&dialogs);
+    desktop->Start(file);
+  }
+  void TearDown() override { EXPECT_EQ(modals.Left(), 0U) << "a question did not come up"; }
   Configurator& Core() { return desktop->Core(); }
   MainWindow& Window() { return desktop->Window(); }
+  /// The box for the name of the channel that a page shows.
+  TextBox& NameOf(PageId page = PageId::E_Digital) {
+    return Core().PageOf(page)->GetForm().Get<TextBox>("Nombre");
+  }
   /// The tool of a text, in the bar or behind its last tool; the tools are made in Spanish.
   QAction* Tool(const QString& text) {
     QList<QAction*> tools = Window().findChild<QToolBar*>("Tools")->actions();
@@ -49,6 +59,11 @@ class OpenWindow : public testing::Test, protected WindowWorld<VirtualLoop> {
     auto* note = Window().Pages().Front()->findChild<FaultNote*>("FaultNote");
     return note && note->isVisibleTo(&Window()) ? note->Text() : QString();
   }
+  /// Puts a logger on the port, and asks for a session with it.
+  void ConnectTo(sim::Model model, Duration time = std::chrono::seconds(5)) {
+    AddLogger(model);
+    Connect(time);
+  }
   /// Asks for a session on the logger's port.
   void Connect(Duration time = std::chrono::seconds(5)) {
     SessionFrame& session = Core().general.Session();
@@ -60,6 +75,7 @@ class OpenWindow : public testing::Test, protected WindowWorld<VirtualLoop> {
   }
 
   VirtualDialogs dialogs;
+  ModalScript modals;  ///< of the window's own questions
   std::unique_ptr<Desktop> desktop;
 };
 

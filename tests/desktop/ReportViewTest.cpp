@@ -1,34 +1,23 @@
-#include <gtest/gtest.h>
-
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QLineEdit>
 #include <QListWidget>
 
-#include "Input.h"
-#include "WindowWorld.h"
+#include "OpenWindow.h"
 
 namespace ostrel {
 namespace {
 
-class ReportViews : public testing::Test, protected WindowWorld<VirtualLoop> {
+class ReportViews : public OpenWindow {
  protected:
-  ReportViews() {
-    StartBefore("Tavro BP", "1");
-    desktop = Make(&dialogs);
-    desktop->Start("");
-  }
   template <class Widget>
   Widget* Find(const char* name) {
-    return desktop->Window().Pages().Front()->findChild<Widget*>(name);
+    return Window().Pages().Front()->findChild<Widget*>(name);
   }
-
-  VirtualDialogs dialogs;
-  std::unique_ptr<Desktop> desktop;
 };
 
 TEST_F(ReportViews, PasswordsAreDotsUntilTheBoxIsChecked) {
-  desktop->Window().GoTo("GPRS");
+  Window().GoTo("GPRS");
   for (const auto* name : {"TextAPNPassword", "TextFTPPass"})
     EXPECT_EQ(Find<QLineEdit>(name)->echoMode(), QLineEdit::Password);
   Find<QAbstractButton>("CheckMostrar")->click();
@@ -37,9 +26,9 @@ TEST_F(ReportViews, PasswordsAreDotsUntilTheBoxIsChecked) {
 
 TEST_F(ReportViews, LinesThatAreNotSentAreGrey) {
   for (int place = 0; place < 42; ++place)
-    desktop->Core().conf.Macro.LINE[place] = "F1={" + std::to_string(place) + "}";
-  desktop->Core().PageOf(PageId::Macros)->LoadData();
-  desktop->Window().GoTo("Macros");
+    Core().conf.Macro.LINE[place] = "F1={" + std::to_string(place) + "}";
+  Core().PageOf(PageId::Macros)->LoadData();
+  Window().GoTo("Macros");
   const auto* list = Find<QListWidget>("MacroPool");
   ASSERT_EQ(list->count(), 42);
   for (const auto& [row, isGrey] : {std::pair{0, false}, {39, false}, {40, true}, {41, true}})
@@ -47,7 +36,7 @@ TEST_F(ReportViews, LinesThatAreNotSentAreGrey) {
 }
 
 TEST_F(ReportViews, TheVoiceListIsPastedAndFiltered) {
-  desktop->Window().GoTo("Aut_Voz");
+  Window().GoTo("Aut_Voz");
   QGuiApplication::clipboard()->setText("600\n611\n622\n7 11");
   Find<QAbstractButton>("PasteBut")->click();
   auto* list = Find<QListWidget>("PhoneList");
@@ -63,10 +52,10 @@ TEST_F(ReportViews, TheVoiceListIsPastedAndFiltered) {
   EXPECT_EQ(shown(), "611 711 ");
   Find<QAbstractButton>("Del")->click();
   EXPECT_EQ(list->count(), 4) << "what is out of view is selected no more";
-  desktop->Core().PageOf(PageId::Aut_Voz)->GetForm().Get<TextBox>("PhoneText").Type("8119");
+  Core().PageOf(PageId::Aut_Voz)->GetForm().Get<TextBox>("PhoneText").Type("8119");
   Find<QAbstractButton>("Add")->click();
   EXPECT_EQ(shown(), "611 711 8119 ") << "what comes later is filtered, too";
-  desktop->Core().PageOf(PageId::Aut_Voz)->GetForm().Get<TextBox>("PhoneText").Type("622");
+  Core().PageOf(PageId::Aut_Voz)->GetForm().Get<TextBox>("PhoneText").Type("622");
   Find<QAbstractButton>("SearchBut")->click();
   QCoreApplication::processEvents();
   EXPECT_EQ(list->currentRow(), 2);

@@ -1,5 +1,3 @@
-#include <QCheckBox>
-#include <QComboBox>
 #include <QMessageBox>
 #include <QProgressBar>
 #include <QPushButton>
@@ -7,7 +5,6 @@
 #include <QStatusBar>
 #include <QTableWidget>
 #include <QTimer>
-#include <QTreeWidget>
 
 #include "OpenWindow.h"
 #include "desktop/program/Language.h"
@@ -24,9 +21,6 @@ class OnEveryPage : public OpenWindow {
     UseLanguage("en");
     AddLogger(sim::Model::BP);
   }
-  TextBox& NameOfInput() {
-    return Core().PageOf(PageId::E_Digital)->GetForm().Get<TextBox>("Nombre");
-  }
   /// Starts anew with the window's own boxes, and connects over a line of real speed.
   void ConnectWithOwnBoxes() {
     desktop.reset();
@@ -35,6 +29,9 @@ class OnEveryPage : public OpenWindow {
     Window().show();
     port.SetPaced(true);
     Connect(seconds(15));
+    QTimer::singleShot(10'000, [] {  // a box that waits after all is not to hang the test
+      if (QMessageBox* box = Box()) box->reject();
+    });
   }
   /// Presses a tool and agrees to a plain writing.
   void WriteFromTheBar() {
@@ -50,8 +47,6 @@ class OnEveryPage : public OpenWindow {
     auto* strip = Window().findChild<FaultNote*>("FaultStrip");
     return strip->isHidden() ? QString() : strip->Text();
   }
-
-  ModalScript modals;
 };
 
 TEST_F(OnEveryPage, TheLinkIsShownAsItIsAndWritingRestsOnADeadOne) {
@@ -122,16 +117,16 @@ TEST_F(OnEveryPage, ReadsAndWritesWhereTheOperatorIs) {
   EXPECT_TRUE(rested);
   EXPECT_EQ(desktop->Navigator().Front()->Name(), "E_Digital");
   EXPECT_EQ(Window().focusWidget(), On(*desktop, "Nombre"));
-  EXPECT_EQ(NameOfInput().Text(), Core().conf.Digital[3].NOMBRE);
-  EXPECT_FALSE(NameOfInput().Text().empty());
-  NameOfInput().Type("gate");
+  EXPECT_EQ(NameOf().Text(), Core().conf.Digital[3].NOMBRE);
+  EXPECT_FALSE(NameOf().Text().empty());
+  NameOf().Type("gate");
   WriteFromTheBar();
   loop.RunFor(seconds(40));
   EXPECT_EQ(logger->Conf().digitals[3].name, "gate");
   EXPECT_FALSE(Window().isWindowModified());
   SessionFrame& frame = Core().general.Session();
   EXPECT_EQ(frame.ComStat.face.Key(), "Configuracion escrita con exito");
-  NameOfInput().Type("door");
+  NameOf().Type("door");
   loop.RunFor(seconds(2));
   EXPECT_EQ(frame.ComStat.face.Key(), "Comunicacion iniciada") << "what is shown is not written";
 }
@@ -157,9 +152,6 @@ TEST_F(OnEveryPage, ATransferIsCancelledAsAnInterruptionDoes) {
 /// Whoever waits in an event of the window would hold the transfer below it.
 TEST_F(OnEveryPage, QuestionsDoNotHoldATransfer) {
   ConnectWithOwnBoxes();
-  QTimer::singleShot(5000, [] {  // a box that waits after all is not to hang the test
-    if (QMessageBox* box = Box()) box->reject();
-  });
   WriteFromTheBar();
   loop.After(seconds(2), "close", [&] {
     EXPECT_FALSE(Window().close()) << "it asks";
@@ -199,17 +191,12 @@ TEST_F(OnEveryPage, LeavingAVoiceListThatIsBeingWrittenIsAsked) {
 /// A box of the window would hold it.
 TEST_F(OnEveryPage, AVoiceListThatIsBeingReadIsNotHeldByAQuestion) {
   ConnectWithOwnBoxes();
-  sim::Configuration held = logger->Conf();
-  held.voice.numbers.assign(100, "600123456");
-  logger->SetConf(held);
+  Alter([](auto& held) { held.voice.numbers.assign(100, "600123456"); });
   Window().GoTo("E_Digital_3");
-  NameOfInput().Type("gate");
+  NameOf().Type("gate");
   loop.RunFor(seconds(2));  // the window looks whether anything is unsaved
   Window().GoTo("Aut_Voz");
   loop.RunFor(seconds(2));
-  QTimer::singleShot(5000, [] {  // a box that waits after all is not to hang the test
-    if (QMessageBox* box = Box()) box->reject();
-  });
   bool looked = false;
   loop.After(milliseconds(700), "close", [&] {
     ASSERT_EQ(Core().session.VoiceList(), ListWork::Reading);
@@ -304,7 +291,7 @@ TEST_F(OnEveryPage, SavesToTheFileThatIsKnown) {
   Tool("Guardar")->trigger();
   ASSERT_EQ(dialogs.questions.size(), 1u);
   Window().GoTo("E_Digital_3");
-  NameOfInput().Type("gate");
+  NameOf().Type("gate");
   Tool("Guardar")->trigger();
   EXPECT_EQ(dialogs.questions.size(), 1u);
   EXPECT_NE(files.Read(Path("a.ocf"))->find("gate"), std::string::npos);
@@ -327,30 +314,9 @@ TEST_F(OnEveryPage, TheWholeWindowStandsOnTheScreen) {
 }
 
 TEST_F(OnEveryPage, AMissingFileIsCalledMissing) {
-  desktop.reset();
-  desktop = Make(&dialogs);
-  desktop->Start(Path("none.ocf"));
+  Restart(Path("none.ocf"));
   ASSERT_EQ(dialogs.boxes.size(), 1u);
   EXPECT_EQ(dialogs.boxes[0].text, Path("none.ocf") + " no existe.");
-}
-
-/// Words that the pages give as they are, and the choice of a language.
-TEST_F(OnEveryPage, SpeaksEnglishThroughout) {
-  Window().GoTo("General");
-  dialogs.OnModal([](Modal& modal) {
-    EXPECT_EQ(AsForm(modal).Get<ComboBox>("ComboLang").Position(), 0);
-    AsForm(modal).Get<ComboBox>("ComboLang").SetPosition(1);
-    AsForm(modal).Get<Button>("CommandOk").Click();
-  });
-  Tool("Idioma")->trigger();
-  EXPECT_EQ(On<QComboBox>(*desktop, "Privilegios")->currentText(), "Administrator");
-  EXPECT_FALSE(Window().Tree().Tree().findItems("Groups", Qt::MatchRecursive).isEmpty());
-  Connect(seconds(15));
-  EXPECT_TRUE(On<QLabel>(*desktop, "UsedHText")->text().endsWith(" records"));
-  dialogs.OnModal([](Modal& modal) {
-    EXPECT_EQ(AsForm(modal).Get<ComboBox>("ComboLang").Position(), 1) << "the one in use";
-  });
-  Tool("Language")->trigger();
 }
 
 }  // namespace

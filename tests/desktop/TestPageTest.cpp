@@ -2,7 +2,6 @@
 
 #include <QImage>
 #include <QLabel>
-#include <QProgressBar>
 #include <QPushButton>
 #include <QTableWidget>
 

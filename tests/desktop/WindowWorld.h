@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <QTemporaryDir>
+#include <functional>
 #include <memory>
 
 #include "desktop/forms/QtDialogs.h"
@@ -41,18 +42,25 @@ struct WindowWorld {
     Stored("ComPort") = "7";
     Stored("Target") = target;
   }
-  /// Puts a simulated logger on the port.
-  void AddLogger(sim::Model model, const sim::Faults& faults = {}, bool greetsBare = false) {
+  /// Puts a simulated logger on the port, with a change of its options.
+  void AddLogger(sim::Model model, const sim::Faults& faults = {},
+                 const std::function<void(sim::LoggerOptions&)>& change = {}) {
     line = &port.AddDevice(kPort, "/dev/sim", "", [&](LineEnd& end) {
       sim::LoggerOptions options = sim::MakeDefaultOptions(model);
       options.faults = faults;
-      options.greetsBare = greetsBare;
+      if (change) change(options);
       auto made = std::make_unique<sim::Logger>(loop, end, options);
       logger = made.get();
       logger->SetConf(sim::DemoConfiguration(model));
       clock.SetNow(logger->Clock());
       return made;
     });
+  }
+  /// Changes what the logger holds.
+  void Alter(const std::function<void(sim::Configuration&)>& change) {
+    sim::Configuration held = logger->Conf();
+    change(held);
+    logger->SetConf(held);
   }
   /// `asking` takes the place of the window's own dialogs, if set.
   std::unique_ptr<Desktop> Make(Dialogs* asking = nullptr) {

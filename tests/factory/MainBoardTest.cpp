@@ -22,6 +22,7 @@ TEST(MainBoard, AGoodBoardPassesAndGetsItsNumber) {
     atLast.push_back(station.program->Connected ? "open" : "closed");
   };
   station.Run();
+  EXPECT_LT(station.took, std::chrono::seconds(40)) << "without the operator";
   EXPECT_THAT(station.Boxes(), ElementsAre(kMainLast));
   EXPECT_THAT(atLast, ElementsAre("closed"));
   EXPECT_THAT(
@@ -44,32 +45,16 @@ TEST(MainBoard, AGoodBoardPassesAndGetsItsNumber) {
   EXPECT_FALSE(station.program->Connected);
 }
 
-/// The texts of the table of checks: of the inputs, then of the analog inputs.
-constexpr const char* kFailures[8][5] = {
-    {"Error en S0, se esperaba 3, lectura=", "Error en A0, se esperaba 4.7, lectura=",
-     "Error en A1, se esperaba < 0.7, lectura=", "Error en A2, se esperaba < 0.7, lectura=",
-     "Error en A31, se esperaba < 0.7, lectura="},
-    {"Error en S1, se esperaba 10, lectura=", "Error en A0, se esperaba < 0.7, lectura=",
-     "Error en A1, se esperaba 4.7, lectura=", "Error en A2, se esperaba < 0.7, lectura=",
-     "Error en A31, se esperaba < 0.7, lectura="},
-    {"Error en S2, se esperaba 80, lectura=", "Error en A0, se esperaba < 0.7, lectura=",
-     "Error en A1, se esperaba < 0.7, lectura=", "Error en A2, se esperaba 4.7, lectura=",
-     "Error en A3, se esperaba < 0.7, lectura="},
-    {"Error en S3, se esperaba 160, lectura=", "Error en A0, se esperaba < 0.7, lectura=",
-     "Error en A1, se esperaba < 0.7, lectura=", "Error en A2, se esperaba < 0.7, lectura=",
-     "Error en A3, se esperaba 2.5, lectura="},
-    {"Error en S0, se esperaba 3, lectura=", "Error en A0, se esperaba 8.7, lectura=",
-     "Error en A1, se esperaba < 0.7, lectura=", "Error en A2, se esperaba < 0.7, lectura=",
-     "Error en A31, se esperaba < 0.7, lectura="},
-    {"Error en S1, se esperaba 10, lectura=", "Error en A0, se esperaba < 0.7, lectura=",
-     "Error en A1, se esperaba 8.7, lectura=", "Error en A2, se esperaba < 0.7, lectura=",
-     "Error en A31, se esperaba < 0.7, lectura="},
-    {"Error en S2, se esperaba 80, lectura=", "Error en A0, se esperaba < 0.7, lectura=",
-     "Error en A1, se esperaba < 0.7, lectura=", "Error en A2, se esperaba 8.7, lectura=",
-     "Error en A3, se esperaba < 0.7, lectura="},
-    {"Error en S3, se esperaba 160, lectura=", "Error en A0, se esperaba < 0.7, lectura=",
-     "Error en A1, se esperaba < 0.7, lectura=", "Error en A2, se esperaba < 0.7, lectura=",
-     "Error en A3, se esperaba 2.5, lectura="}};
+/// What is told of a value of a stage, the inputs or an analog one, ahead of what was read.
+std::string FailureText(std::size_t stage, std::size_t value) {
+  constexpr const char* kInputs[] = {"3", "10", "80", "160"};
+  const std::size_t own = stage % 4, analog = value - 1;
+  if (value == 0)
+    return "Error en S" + std::to_string(own) + ", se esperaba " + kInputs[own] + ", lectura=";
+  const char* wanted = analog != own ? "< 0.7" : own == 3 ? "2.5" : stage < 4 ? "4.7" : "8.7";
+  const std::string name = analog == 3 && own < 2 ? "31" : std::to_string(analog);
+  return "Error en A" + name + ", se esperaba " + wanted + ", lectura=";
+}
 
 TEST(MainBoard, EachFailureIsToldInItsPlaceAndTheRunGoesOn) {
   const Texts orders = OrdersOfAGoodBoard(Board(sim::Model::BP));
@@ -88,8 +73,7 @@ TEST(MainBoard, EachFailureIsToldInItsPlaceAndTheRunGoesOn) {
           readings = static_cast<std::size_t>(std::ranges::count(station.sent, "#F4"));
       };
       station.Run();
-      const std::string failure =
-          std::string(kFailures[stage][value]) + (value == 0 ? " 9" : " 2.4475");
+      const std::string failure = FailureText(stage, value) + (value == 0 ? " 9" : " 2.4475");
       EXPECT_THAT(station.Boxes(), ElementsAre(failure, kMainLast));
       EXPECT_EQ(readings, stage + 1) << "told within its stage";
       EXPECT_EQ(station.Status(), kFailedText);

@@ -24,6 +24,7 @@ TEST(KA2Board, AGoodBoardPassesAndGetsItsNumber) {
   EXPECT_EQ(station.Caption("DigitSerial"), "") << "shown at the end alone";
   station.Run();
   EXPECT_GE(orders.front(), std::chrono::seconds(2)) << "the board wakes up first";
+  EXPECT_LT(station.took, std::chrono::seconds(18));
   EXPECT_THAT(station.Boxes(), ElementsAre(kBattery, kMainsOff));
   EXPECT_THAT(station.steps, ElementsAre("Iniciando...", "Comprobando E/S...", "Comprobando GSM...",
                                          "Escribiendo numero de serie", kPassedText));
@@ -45,11 +46,11 @@ TEST(KA2Board, EachFailureIsToldInItsPlace) {
        {"Error en circuito de carga, la tension no baja",
         "Error en circuito de carga, la tension no alcanza 4.2v", kBattery, kMainsOff}},
       {[](auto& fixture) {
-         fixture.charger = {0.09F, 4.18F};
+         fixture.charger.assign({0.09F, 4.18F});
        },
        {"Error en circuito de carga, la tension no alcanza 4.2v", kBattery, kMainsOff}},
       {[](auto& fixture) {
-         fixture.charger = {0.09F, 4.19F};
+         fixture.charger.assign({0.09F, 4.19F});
        },
        {kBattery, kMainsOff}},
       {[](auto& fixture) { fixture.inputsOn = 84; },
@@ -63,7 +64,7 @@ TEST(KA2Board, EachFailureIsToldInItsPlace) {
       {[](auto& fixture) { fixture.probe = 5; }, {kBattery, kMainsOff}},
       {[](auto& fixture) { fixture.probe = 40; }, {kBattery, kMainsOff}},
       {[](auto& fixture) {
-         fixture.gsm = {{Duration{}, 4}};
+         fixture.gsm.assign(1, {Duration{}, 4});
        },
        {kBattery, "Error, Gsm no registrado", kMainsOff}},
       {[](auto& fixture) { fixture.mainsLasts.reset(); },
@@ -132,6 +133,7 @@ constexpr const char* kBQLast =
 TEST(BQBoard, AGoodBoardPassesKeyByKey) {
   TestStation station(Board(sim::Model::BQ));
   station.Run();
+  EXPECT_LT(station.took, std::chrono::seconds(32));
   EXPECT_THAT(station.Boxes(), ElementsAre(kBQLast));
   EXPECT_THAT(station.steps,
               ElementsAre("Iniciando...", "Comprobacion de IN0, pulse la tecla 0", "Ok",

@@ -2,7 +2,6 @@
 
 #include <sstream>
 
-#include "base/CodePage.h"
 #include "shell/SimWorld.h"
 #include "shell/navigation/Navigation.h"
 #include "shell/session/FaultWords.h"
@@ -206,20 +205,6 @@ TEST(FirmwareDoubts, FindFilesThatAreSwapped) {
         << c.image;
 }
 
-/// The fault that damages the first answer behind the opening of a session.
-std::string DamagedFirstAnswer() {
-  FirmBench bench;
-  bench.Connect();
-  return "bad-checksum@" + std::to_string(bench.answered + 1) + "!once";
-}
-
-/// The fault that sends the first request behind the opening of a session back.
-std::string EchoedFirstRequest() {
-  FirmBench bench;
-  bench.Connect();
-  return "echo@" + std::to_string(bench.requests + 1) + "!once";
-}
-
 TEST(FirmPage, EachFaultOfTheLoggerEndsItWithWordsOfWhatToDo) {
   struct Case {
     std::string fault;
@@ -228,12 +213,16 @@ TEST(FirmPage, EachFaultOfTheLoggerEndsItWithWordsOfWhatToDo) {
     std::size_t taken;  ///< octets of the image
   };
   constexpr const char* kOutcomes[] = {"as it was", "may be erased", "is erased and holds no"};
+  FirmBench sound;
+  sound.Connect();  // and what comes first behind it
+  const std::string damagedAnswer = "bad-checksum@" + std::to_string(sound.answered + 1) + "!once";
+  const std::string echoedRequest = "echo@" + std::to_string(sound.requests + 1) + "!once";
   for (const Case& c :
        {Case{"refuse-erase", "answered something else: \"#DWLD_ERROR\"", FlashState::Kept, 0},
         // The answer that it erases is lost: the next that comes is that it has.
-        {DamagedFirstAnswer(), "answered something else: \"#DWLD_READY\"", FlashState::InDoubt, 0},
+        {damagedAnswer, "answered something else: \"#DWLD_READY\"", FlashState::InDoubt, 0},
         // What is no word of refusal tells nothing of what the logger has heard.
-        {EchoedFirstRequest(), "answered something else: \"#F0\"", FlashState::InDoubt, 0},
+        {echoedRequest, "answered something else: \"#F0\"", FlashState::InDoubt, 0},
         {"ready-late:45000", "", FlashState::Kept, 27'011},
         {"ready-late:60000", "fell silent", FlashState::Erased, 0},
         {"no-alive-mark@2", "no sign of life by octet 16386", FlashState::Erased, 16'386},

@@ -22,6 +22,12 @@ struct LiveStation {
         sent.push_back(line.substr(at + 7));
     };
   }
+  /// Connects and lets a round come to the monitor.
+  void ShowMonitor() {
+    Connect();
+    navigation.NodeClick("T_Real");
+    Run(std::chrono::milliseconds(900));
+  }
   Form& Monitor() { return program.monitor.GetForm(); }
   template <class Control>
   Control& Get(const std::string& name) {

@@ -62,10 +62,8 @@ TEST(Monitor, ReadsTwiceASecondWhileItHasTheFront) {
 
 TEST(Monitor, ShowsWhatTheLoggerHoldsAndSays) {
   LiveStation station(sim::Model::VR200);
-  station.Connect();
   station.program.conf.Analog[0].NOMBRE = "changed on a page";
-  station.navigation.NodeClick("T_Real");
-  station.Run(milliseconds(900));
+  station.ShowMonitor();
   const RealTimeData& live = station.program.live;
   EXPECT_EQ(station.Caption("Label_AN_Name(0)"), "Nivel depósito");
   EXPECT_EQ(station.Digits("Digit_AN(0)"), NumText(live.AnalogValue[0]));
@@ -80,9 +78,7 @@ TEST(Monitor, ShowsWhatTheLoggerHoldsAndSays) {
   EXPECT_EQ(station.Caption("RTCText"), "RTC: 02/03/2026 9:05:07");
 
   LiveStation modules(sim::Model::S100);
-  modules.Connect();
-  modules.navigation.NodeClick("T_Real");
-  modules.Run(std::chrono::seconds(1));
+  modules.ShowMonitor();
   EXPECT_EQ(modules.Caption("LabelModulo(2)"),
             "Nivel pozo 3:" + NumText(modules.program.live.ModuloValue[2]) + " m");
   modules.program.live.reads[static_cast<int>(LiveAnswer::Modules32)].missed = kRoundsToStale;
@@ -192,9 +188,7 @@ TEST(Monitor, OlderFirmwareLeavesMathBlank) {
   sim::LoggerOptions options = sim::MakeDefaultOptions(sim::Model::BP);
   options.features &= ~sim::kMath;
   LiveStation station(sim::Model::BP, options);
-  station.Connect();
-  station.navigation.NodeClick("T_Real");
-  station.Run(milliseconds(900));
+  station.ShowMonitor();
   EXPECT_EQ(station.Digits("Digit_MAT(0)"), "");
   EXPECT_EQ(station.Digits("Digit_RMAT(0)"), "");
   EXPECT_NE(station.Digits("Digit_AN(0)"), "");
@@ -202,9 +196,7 @@ TEST(Monitor, OlderFirmwareLeavesMathBlank) {
 
 TEST(Monitor, GreysWhatDidNotComeInTwoRounds) {
   LiveStation station(sim::Model::BP);
-  station.Connect();
-  station.navigation.NodeClick("T_Real");
-  station.Run(milliseconds(900));
+  station.ShowMonitor();
   const auto age = [&](const std::string& box) { return station.Get<DigitBox>(box).Stale(); };
   LiveRead& flows = station.program.live.reads[static_cast<int>(LiveAnswer::Flows)];
   const std::string former = station.Digits("Digit_FL(0)");
@@ -232,9 +224,7 @@ TEST(Monitor, GreysWhatDidNotComeInTwoRounds) {
 
 TEST(Monitor, BarsShowTheLimitsOfTheLoadedConfiguration) {
   LiveStation station(sim::Model::BP);
-  station.Connect();
-  station.navigation.NodeClick("T_Real");
-  station.Run(milliseconds(900));
+  station.ShowMonitor();
   const auto& bar = station.Get<LimitBar>("Bar_AN(0)");
   EXPECT_FALSE(bar.face.Visible());
   ASSERT_TRUE(station.program.comms.ReadConf());
@@ -253,9 +243,7 @@ TEST(Monitor, BarsShowTheLimitsOfTheLoadedConfiguration) {
   EXPECT_FALSE(bar.Value()) << "a stale value stands nowhere";
 
   LiveStation modules(sim::Model::S100);
-  modules.Connect();
-  modules.navigation.NodeClick("T_Real");
-  modules.Run(milliseconds(900));
+  modules.ShowMonitor();
   DeviceConf& conf = modules.program.conf;
   conf.Analog[1].ALARM[0].common.HABIL = kTrue;
   conf.Modulo[40].MODO = kModeAnalog;
@@ -267,6 +255,29 @@ TEST(Monitor, BarsShowTheLimitsOfTheLoadedConfiguration) {
       EXPECT_EQ(modules.Get<LimitBar>(name).face.Visible(), shown) << model << name;
       EXPECT_EQ(modules.Get<LimitBar>(name).Value().has_value(), shown);
     }
+  }
+}
+
+/// The values of a logger stay on the monitors until another one's come; they are not that one's.
+TEST(Monitor, ValuesOfASessionBeforeAreNotThoseOfThisOne) {
+  for (const ToolId tool : {ToolId::T_Real_Tavro, ToolId::T_Real_Katodex}) {
+    LiveStation station(sim::Model::VR200);
+    Form& form = tool == ToolId::T_Real_Tavro ? station.Monitor()
+                                              : station.program.cathodicMonitor.GetForm();
+    const auto digits = [&] { return form.Get<DigitBox>("Digit_AN(0)").Stale(); };
+    station.Connect();
+    station.navigation.ShowForm(tool);
+    EXPECT_FALSE(digits().isStale) << "nothing stands there yet";
+    station.Run(std::chrono::seconds(2));
+    EXPECT_FALSE(digits().isStale);
+    station.navigation.HideAll();
+    station.program.session.Close(false);
+    station.Connect();
+    station.navigation.ShowForm(tool);
+    EXPECT_EQ(digits(), (Staleness{.isStale = true, .since = ""})) << "not read";
+    EXPECT_TRUE(form.Get<LedMedio>("Led_F(0)").Stale().isStale);
+    station.Run(std::chrono::seconds(2));
+    EXPECT_FALSE(digits().isStale);
   }
 }
 
