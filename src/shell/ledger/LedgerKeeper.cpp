@@ -41,6 +41,7 @@ LedgerEntry LedgerKeeper::Made(LedgerKind kind) const {
   entry.kind = kind;
   entry.state = LedgerState::UnderWay;
   entry.began = DateTimeText(subject_.platform.clock.LocalNow());
+  entry.utcOffset = UtcOffsetText(subject_.platform.clock.UtcOffset());
   entry.model = subject_.profile.TargetName;
   return entry;
 }
@@ -114,6 +115,7 @@ void LedgerKeeper::DeedBegins(const LinkDeed& deed) {
   }
   if (!deed.file.empty()) deed_.file = subject_.platform.files.Absolute(deed.file);
   if (!deed.text.empty() && Books()) deed_.content = KeepContent(deed.text);
+  if (deed.kind == LedgerKind::VoiceWriting) deed_.file = source_.file;
   if (deed.kind == LedgerKind::Reading && guarded_ && written_ != 0) {
     deed_.about = written_;
     deed_.file = source_.file;
