@@ -74,7 +74,7 @@ class Session {
   bool KeepCopy(const DeviceConf& held);
   void JudgeWriting(const WriteResult& result);
   void JudgeDoubts(const WriteResult& result);
-  void JudgeLedger(bool isOld, bool isNew);
+  void JudgeLedger(const WriteResult& result, bool isOld, bool isNew);
   void Short(Step step, const std::function<LinkResult()>& dialogue,
              const std::function<bool()>& isSo);
   void Live();

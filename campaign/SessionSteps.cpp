@@ -143,7 +143,7 @@ void Session::JudgeWriting(const WriteResult& result) {
   Expect(isOld || isNew || !IsClear(), "the logger holds neither the former nor the new");
   if (isKilled_ || !IsClear()) return;
   JudgeDoubts(result);
-  JudgeLedger(isOld, isNew);
+  JudgeLedger(result, isOld, isNew);
   switch (result.end) {
     case WriteEnd::NotRead:
       Expect(isOld, "it was written though it was not read ahead");
@@ -170,7 +170,7 @@ void Session::JudgeWriting(const WriteResult& result) {
 }
 
 /// What the ledger says of a writing, when nobody remembers it any more.
-void Session::JudgeLedger(bool isOld, bool isNew) {
+void Session::JudgeLedger(const WriteResult& result, bool isOld, bool isNew) {
   if (!world_.ledger.fault.empty()) return;
   const auto from = world_.ledger.entries.begin() + writing_->lastEntry;
   for (const LedgerEntry& entry : std::ranges::subrange(from, world_.ledger.entries.end())) {
@@ -179,8 +179,8 @@ void Session::JudgeLedger(bool isOld, bool isNew) {
     Expect(isKept, "the ledger has lost what was written or read");
     Expect(entry.state != LedgerState::UnderWay || entry.kind == LedgerKind::Session,
            "the ledger says that it is still being written or read");
-    if (entry.kind == LedgerKind::Verification && isDone)
-      Expect(isNew, "the ledger says that it is verified");
+    if (entry.kind == LedgerKind::Verification)
+      Expect(isDone == result.IsAsSent(), "the ledger says of the verification what is not so");
     if (entry.kind != LedgerKind::Writing) continue;
     if (isDone) Expect(isNew, "the ledger says that it is written");
     if (!isDone && !entry.closing)
