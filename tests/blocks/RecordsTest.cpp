@@ -26,6 +26,7 @@ class Records : public BlockFixture {
 /// names and orders them; ">" the statements that these make.
 TEST_F(Records, AreReadAndSentAsIsGolden) {
   std::ifstream goldens(OSTREL_GOLDEN_RECORDS);
+  ASSERT_TRUE(goldens.is_open());
   for (std::string line; std::getline(goldens, line);) {
     const std::string model = line.substr(0, line.find(" without "));
     if (model.empty()) continue;

@@ -44,8 +44,7 @@ bool IsKeptByEmptying(const ConstField& field) {
          is(FlowMeters::kSection, {"PERSISTENCIA", "FLAG"}) || is(Probes::kSection, {"ID"});
 }
 
-/// Puts every channel in force, with its alarm, in a range that is not
-/// "always".
+/// Puts every channel in force, with its alarm, in a range that is not "always".
 void PutInForce(const Field& field) {
   const std::string_view word = field.id.word;
   const bool isOn = field.meta.sense == FieldSense::Enabled;
@@ -111,9 +110,8 @@ TEST_P(FieldWalk, EveryFieldStandsInTheFileAndComesBack) {
   EXPECT_EQ(conf, saved);
 }
 
-/// With every feature, each field of the channels that a model has changes a
-/// statement, once its channel and its alarm are in force and its range is not
-/// "always".
+/// With every feature, each field of the channels that a model has changes a statement, once its
+/// channel and its alarm are in force and its range is not "always".
 TEST_P(FieldWalk, EveryFieldOfTheModelIsSent) {
   const Receiver receiver{profile, kEveryFeature};
   for (const Field& field : FieldsOf(conf, profile)) PutInForce(field);
@@ -133,8 +131,8 @@ TEST_P(FieldWalk, EveryFieldOfTheModelIsSent) {
       return list.All();
     };
     const auto former = statements();
-    // SMS is what a statement means that names no other way, and an identity
-    // what it is; one group stands in the file alone.
+    // SMS is what a statement means that names no other way, and an identity what it is; one group
+    // stands in the file alone.
     const bool isImplied = field.id.word == "SMS" || field.id.word == "ID";
     const bool isFileOnly =
         (field.id.section == &ExpansionInputs::kAnalog && field.id.word == "GRUPO") ||
@@ -153,8 +151,7 @@ TEST_P(FieldWalk, EveryFieldOfTheModelIsSent) {
   EXPECT_GT(sent, 100U);
 }
 
-/// Emptying leaves of every field what a new configuration holds, save for what
-/// is kept on purpose.
+/// Emptying leaves of every field what a new configuration holds, save for what is kept on purpose.
 TEST_P(FieldWalk, EmptyingResetsEveryField) {
   const DeviceConf empty = conf;
   for (const Field& field : FieldsOf(conf, profile)) std::visit(Altered{}, field.value);
@@ -193,8 +190,7 @@ TEST_P(FieldWalk, FilesHoldTheirFixedCounts) {
 
 using SpareRecords = BlockFixture;
 
-/// The record behind the last of an array is what a logger's line may reach,
-/// and nothing else.
+/// The record behind the last of an array is what a logger's line may reach, and nothing else.
 TEST_F(SpareRecords, AreLeftAlone) {
   Use("Ostrel S100");
   conf.Digital[9].NOMBRE = conf.Caudal[9].NOMBRE = conf.Modulo[128].D.NOMBRE = "spare";
@@ -216,8 +212,8 @@ TEST(Orders, EveryBlockHasItsPlaces) {
   for (const UploadStep& step : UploadOrder()) sent.insert(step.pages.begin(), step.pages.end());
   for (const Block& block : Blocks()) {
     EXPECT_EQ(std::ranges::count(kClearAtDownload, block.page), 1);
-    // Of cathodic protection nothing reaches a file, and one half of it is only
-    // read. The voice-call list is sent by itself.
+    // Of cathodic protection nothing reaches a file, and one half of it is only read. The
+    // voice-call list is sent by itself.
     EXPECT_EQ(filed.contains(block.page),
               block.page != PageId::E_Aux && block.page != PageId::Katodex);
     EXPECT_EQ(sent.contains(block.page),

@@ -90,8 +90,7 @@ TEST_F(ConfigurationFile, AskingForAPath) {
   EXPECT_TRUE(world.files.contents["/other.ocf"].starts_with("[General]\r\nVERSION=TAVRO"));
   EXPECT_TRUE(world.dialogs.questions.back().overwritePrompt);
   world.files.contents["/third.ocf"] =
-      "[General]\r\nVERSION=TAVRO\r\nCSM=+34607003110\r\nTLFM "
-      "0=600,Prio=0,PRV0,MASKMODE0";
+      "[General]\r\nVERSION=TAVRO\r\nCSM=+34607003110\r\nTLFM 0=600,Prio=0,PRV0,MASKMODE0";
   world.dialogs.ChoosePath("/third.ocf");
   EXPECT_TRUE(program.AskAndOpen());
   EXPECT_TRUE(program.general.GetForm().Get<OptionButton>("CSMVoda").Selected());

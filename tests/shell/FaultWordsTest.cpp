@@ -27,8 +27,7 @@ TEST(FaultWords, TellPlaceTextRemedyAndHowTheLoggerStands) {
   using enum SessionPhase;
   const std::string former = "the logger's former configuration stays in force";
   const std::string unknown =
-      "whether the logger has taken the configuration "
-      "over is not known: read it back";
+      "whether the logger has taken the configuration over is not known: read it back";
   const std::string unchanged = "the logger's configuration is unchanged";
   for (const auto& [fault, told] : std::vector<std::pair<SessionFault, std::string>>{
            {{.during = Reading, .link = {FaultKind::Silence, 6, ""}},
@@ -36,8 +35,7 @@ TEST(FaultWords, TellPlaceTextRemedyAndHowTheLoggerStands) {
            {{.during = Writing, .link = {FaultKind::Silence, 6, ""}},
             "the logger fell silent at statement 6||" + former},
            {{.during = Reading, .link = {FaultKind::Silence, 6, ""}, .unverified = true},
-            "the logger fell silent at record 6||the logger has taken the new "
-            "configuration over, "
+            "the logger fell silent at record 6||the logger has taken the new configuration over, "
             "which is not verified"},
            {{.during = Writing, .link = {FaultKind::BadChecksum, 6, ""}, .allSent = true},
             "lines arrived damaged at statement 6|check cable and earthing|" + unknown},
@@ -52,8 +50,7 @@ TEST(FaultWords, TellPlaceTextRemedyAndHowTheLoggerStands) {
            {{.during = Opening, .link = {FaultKind::PortClosed, 0, ""}, .brokenOff = true},
             "interrupted before a session stood||" + unchanged},
            {{.link = {FaultKind::PortClosed, 0, ""}, .brokenOff = true, .writingVoiceList = true},
-            "interrupted||the logger's voice-call list may be erased or "
-            "incomplete: write it "
+            "interrupted||the logger's voice-call list may be erased or incomplete: write it "
             "again"},
            {{.during = Writing, .link = {FaultKind::PortClosed, 4, ""}, .brokenOff = true},
             "interrupted||" + former}})

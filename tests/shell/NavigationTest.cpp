@@ -10,8 +10,7 @@ namespace {
 
 using testing::ElementsAre;
 
-/// The tree as lines: a node's children stand behind it in brackets, numbered
-/// ones counted only.
+/// The tree as lines: a node's children stand behind it in brackets, numbered ones counted only.
 std::string Outline(std::string_view model) {
   TargetProfile profile;
   SelectTarget(profile, model);
@@ -38,8 +37,7 @@ std::string Timers(const std::string& key, const std::string& text) {
 
 TEST(NavigationTree, HasTheNodesOfEachModelInOrder) {
   const std::string head =
-      "/Tavro=<Dispositivo> Tavro/General=<General> "
-      "Tavro/Timer=<Temporizadores> " +
+      "/Tavro=<Dispositivo> Tavro/General=<General> Tavro/Timer=<Temporizadores> " +
       Timers("CTimer", "Ciclicos") + Timers("WTimer", "Semanales") + Timers("MTimer", "Mensuales") +
       Timers("LTimer", "Largos");
   const std::string groups = "Tavro/Grupos=Grupos ", analog = "Tavro/E_Analog=<E.Analogicas> ",

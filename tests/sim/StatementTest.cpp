@@ -45,6 +45,7 @@ void Say(const std::string& statement, const Identity& self, Configuration& conf
 /// that it does not tell ("~").
 TEST(SimStatement, ShowsInItsRecordOrIsRefused) {
   std::ifstream goldens(OSTREL_GOLDEN_STATEMENTS);
+  ASSERT_TRUE(goldens.is_open());
   Random random(77);
   for (std::string line; std::getline(goldens, line);) {
     SCOPED_TRACE(line);
