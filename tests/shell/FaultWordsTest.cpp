@@ -41,6 +41,8 @@ TEST(FaultWords, TellPlaceTextRemedyAndHowTheLoggerStands) {
             "lines arrived damaged at statement 6|check cable and earthing|" + unknown},
            {{.during = Writing, .link = {FaultKind::Refused, 3, "50%1%2"}},
             "the logger refused statement 3: \"50%1%2\"||" + former},
+           {{.during = Writing, .link = {FaultKind::NotTakenOver, 9, ""}, .allSent = true},
+            "the logger did not say that it took the configuration over||" + unknown},
            {{.link = {FaultKind::NotTakenOver, 0, "#BE0"}},
             "the logger refused the setting: \"#BE0\"||"},
            {{.during = Opening,
