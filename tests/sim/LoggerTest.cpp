@@ -236,6 +236,11 @@ TEST(SimLogger, ValuesMoveAsThoseOfAWaterworksDo) {
   EXPECT_FLOAT_EQ(live.Modbus(conf, 3, 0), 0) << "a contact that is open";
   EXPECT_GT(live.Modbus(conf, 0, 24 * kHour), live.Modbus(conf, 0, 0)) << "energy grows";
   EXPECT_EQ(live.Modbus(conf, 20, 0), 0) << "it is not set up";
+
+  SimBench probes(Model::KA1);
+  probes.logger.SetConf(DemoConfiguration(Model::KA1));
+  EXPECT_EQ(Field(probes.Ask("#35"), 4), "Temperatura agua");
+  EXPECT_EQ(Field(probes.Ask("#36"), 4), "0") << "no third probe is set up";
 }
 
 }  // namespace
