@@ -22,8 +22,9 @@ class Records : public BlockFixture {
   }
 };
 
-/// Paragraphs of lines that a logger of a model sends; "=" the fields that they fill, as a file
-/// names and orders them; ">" the statements that these make.
+/// Paragraphs of lines ("<") that a logger of a model sends, perhaps without some features; of the
+/// fields ("=") that they fill, as a file names and orders them, unless these are not of interest;
+/// and of the statements (">") that these make.
 TEST_F(Records, AreReadAndSentAsIsGolden) {
   std::ifstream goldens(OSTREL_GOLDEN_RECORDS);
   ASSERT_TRUE(goldens.is_open());
