@@ -250,7 +250,8 @@ void Session::End() {
   program_.reset();
 }
 
-/// A recording can be read, and holds no part of a secret.
+/// A recording can be read, and holds no part of a secret. In which field one stands cannot be told
+/// where damage has made another good line.
 void Session::JudgeRecording() {
   world_.recorder.Finish();
   std::string error;
@@ -263,7 +264,7 @@ void Session::JudgeRecording() {
     const std::size_t at = world_.recording.find(part);
     if (at == std::string::npos) continue;
     const std::size_t start = world_.recording.rfind('\n', at) + 1;
-    return Expect(false,
+    return Expect(!IsClear(),
                   "the recording tells a secret: " +
                       world_.recording.substr(start, world_.recording.find('\n', at) - start));
   }
