@@ -250,18 +250,24 @@ void Session::End() {
   program_.reset();
 }
 
-/// A recording can be read, and holds no part of a secret.
+/// A recording can be read, and holds no part of a secret. In which field one stands cannot be told
+/// where damage has made another good line.
 void Session::JudgeRecording() {
   world_.recorder.Finish();
   std::string error;
   Expect(ReadRecording(world_.recording, error).has_value(), "the recording: " + error);
-  const auto holds = [this](std::string_view part) {
-    return world_.recording.find(part) != std::string::npos;
-  };
-  for (const std::string_view code : kCodes) Expect(!holds(code), "the recording holds a code");
+  std::vector<std::string_view> parts(kCodes.begin(), kCodes.end());
   for (const std::string_view password : kPasswords)
     for (std::size_t at = 0; at + kLeak <= password.size(); ++at)
-      Expect(!holds(password.substr(at, kLeak)), "the recording holds a part of a password");
+      parts.push_back(password.substr(at, kLeak));
+  for (const std::string_view part : parts) {
+    const std::size_t at = world_.recording.find(part);
+    if (at == std::string::npos) continue;
+    const std::size_t start = world_.recording.rfind('\n', at) + 1;
+    return Expect(!IsClear(),
+                  "the recording tells a secret: " +
+                      world_.recording.substr(start, world_.recording.find('\n', at) - start));
+  }
 }
 
 bool Session::Writing::IsNew(const sim::Configuration& held) const {
