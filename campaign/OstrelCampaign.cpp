@@ -68,6 +68,7 @@ int main(int count, char** words) {
                stderr);
     return 2;
   }
+  std::setvbuf(stdout, nullptr, _IOLBF, BUFSIZ);  // several processes tell, each whole lines
   Tally& tally = MakeShared<Tally>();
   Tally& aside = MakeShared<Tally>();
   const auto start = std::chrono::steady_clock::now();

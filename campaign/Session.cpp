@@ -15,10 +15,8 @@ constexpr int kMostSteps = 6;
 constexpr int kMostOpenings = 4;
 constexpr double kByModem = 0.15;
 constexpr double kOtherFeatures = 0.3;
-/// A line that is not paced carries in no time what a logger then works off, each message in 2 ms:
-/// nobody does the next thing ahead of that, since no real line brings it about.
-constexpr Duration kWorkedOff = std::chrono::seconds(1);
 constexpr const char* kPhone = "600123456";
+constexpr std::size_t kLeak = 4;  ///< characters of a password that are too many
 
 }  // namespace
 
@@ -32,8 +30,11 @@ Session::Session(std::uint64_t seed, Tally& tally, bool tells)
     (hurt.isToProgram ? world_.meddler->toProgram : world_.meddler->toDevice)
         .Hurt(hurt.damage, hurt.first, hurt.last, hurt.once);
   const double density = random_.Between(0, 100) / 100.0;
-  world_.logger->SetConf(
-      sim::RandomConfiguration(Self().model, Self().features, random_.Next(), density));
+  sim::Configuration first =
+      sim::RandomConfiguration(Self().model, Self().features, random_.Next(), density);
+  if (!first.gprs.apnPassword.empty()) first.gprs.apnPassword = kPasswords[0];
+  if (!first.gprs.ftpPassword.empty()) first.gprs.ftpPassword = kPasswords[1];
+  world_.logger->SetConf(std::move(first));
   world_.logger->OnExchange([this](const sim::Exchange& exchange) { Follow(exchange); });
   for (const std::size_t kind : faults_.kinds) ++tally_.faults.at(kind);
   if (faults_.kinds.empty()) ++tally_.clean;
@@ -50,6 +51,7 @@ sim::LoggerOptions Session::DrawLogger(sim::Random& random, const sim::Faults& f
   if (random.Chance(kOtherFeatures)) options.features &= static_cast<std::uint32_t>(random.Next());
   options.modem = random.Chance(kByModem);
   options.seed = random.Next();
+  options.accessCode = kCodes[0];
   options.faults = faults;
   if (random.Chance(0.2)) options.clockOffsetSeconds = random.Between(-7200, 7200);
   return options;
@@ -57,7 +59,7 @@ sim::LoggerOptions Session::DrawLogger(sim::Random& random, const sim::Faults& f
 
 void Session::StartProgram() {
   program_ = std::make_unique<Configurator>(
-      world_.platform, ConfiguratorOptions{.programFolder = "", .langFile = "/Lang.txt"});
+      world_.watched, ConfiguratorOptions{.programFolder = "", .langFile = "/Lang.txt"});
   program_->StartForCommand(Self().Traits().displayName, 1);
 }
 
@@ -92,9 +94,11 @@ void Session::DoNext() {
       [](Session& s) { s.VoiceWrite(); },
       [](Session& s) { s.VoiceRead(); },
       [](Session& s) { s.Firmware(); },
-      [](Session& s) { s.Save(); },
-      [](Session& s) { s.Save(); },
-      [](Session& s) { s.Load(); },
+      [](Session& s) { s.SaveSome(); },
+      [](Session& s) { s.SaveSome(); },
+      [](Session& s) { s.LoadSome(); },
+      [](Session& s) { s.UseFileTwice(); },
+      [](Session& s) { s.UseFileTwice(); },
       [](Session& s) { s.program_->session.Close(s.world_.logger->Options().modem); }};
   random_.Pick(kWorks)(*this);
 }
@@ -190,8 +194,15 @@ void Session::Restart() {
   StartProgram();
   Tell("killed, and started anew");
   tally_.Count(Step::Restart, true, {});
-  if (writing_ && world_.ledger.fault.empty() && IsClear()) LookAfterRestart();
+  const bool isKnown = world_.ledger.fault.empty() && IsClear();
+  if (writing_ && isKnown) LookAfterRestart();
+  if (cutOff_ && isKnown)
+    Expect(
+        std::ranges::any_of(FindInterrupted(world_.ledger),
+                            [this](const Interrupted& one) { return one.entry.kind == cutOff_; }),
+        "nothing is told of other work that was cut off");
   writing_.reset();
+  cutOff_.reset();
   taken_.reset();
 }
 
@@ -218,7 +229,8 @@ bool Session::Open() {
   world_.port.Restore(World::kPort);
   const bool isModem = world_.logger->Options().modem;
   if (isModem && (!givesWrongCode_ || random_.Chance(0.5)))
-    world_.dialogs.GiveCode(givesWrongCode_ ? "9999" : world_.logger->Options().accessCode);
+    world_.dialogs.GiveCode(givesWrongCode_ ? std::string(kCodes[1])
+                                            : world_.logger->Options().accessCode);
   return Timed(Step::Open, [&] {
     const bool isOpen = program_->session.Open(World::kPort, isModem ? kPhone : "");
     if (!isOpen) CheckWords(*program_->session.State().failed);
@@ -232,9 +244,30 @@ void Session::End() {
   Expect(wrong.empty(), wrong);
   for (const KeptFile& copy : copies_)
     Expect(world_.files.contents[copy.path] == copy.octets, copy.path + " is not as it was kept");
+  JudgeRecording();
   if (world_.meddler->HasForged()) ++tally_.forged;
   tally_.virtualSeconds += static_cast<std::uint64_t>(world_.loop.Now() / std::chrono::seconds(1));
   program_.reset();
+}
+
+/// A recording can be read, and holds no part of a secret. In which field one stands cannot be told
+/// where damage has made another good line.
+void Session::JudgeRecording() {
+  world_.recorder.Finish();
+  std::string error;
+  Expect(ReadRecording(world_.recording, error).has_value(), "the recording: " + error);
+  std::vector<std::string_view> parts(kCodes.begin(), kCodes.end());
+  for (const std::string_view password : kPasswords)
+    for (std::size_t at = 0; at + kLeak <= password.size(); ++at)
+      parts.push_back(password.substr(at, kLeak));
+  for (const std::string_view part : parts) {
+    const std::size_t at = world_.recording.find(part);
+    if (at == std::string::npos) continue;
+    const std::size_t start = world_.recording.rfind('\n', at) + 1;
+    return Expect(!IsClear(),
+                  "the recording tells a secret: " +
+                      world_.recording.substr(start, world_.recording.find('\n', at) - start));
+  }
 }
 
 bool Session::Writing::IsNew(const sim::Configuration& held) const {

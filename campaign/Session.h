@@ -1,10 +1,12 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <functional>
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "Faults.h"
@@ -14,6 +16,16 @@
 #include "shell/writing/GuardedWrite.h"
 
 namespace ostrel::campaign {
+
+/// A line that is not paced carries in no time what a logger then works off, each message in 2 ms:
+/// nobody does the next thing ahead of that, since no real line brings it about.
+inline constexpr Duration kWorkedOff = std::chrono::seconds(1);
+
+/// Passwords as nothing else is spelt: of the logger's access points, and those that are written.
+inline constexpr std::array<std::string_view, 4> kPasswords{"QZXJWKVY", "JXQVZYKW", "WQYXKZJV",
+                                                            "VKQJYXWZ"};
+/// The logger's access code, and a wrong one. They must be numbers.
+inline constexpr std::array<std::string_view, 2> kCodes{"83059176", "60718395"};
 
 /// One whole session of a program with a logger, all of it drawn from a seed: the logger, what is
 /// done, and what goes wrong. What must hold is looked at behind each step.
@@ -31,6 +43,8 @@ class Session {
     std::int64_t lastEntry = 0;              ///< of the ledger, when it began
     bool IsNew(const sim::Configuration& held) const;
   };
+  /// Whether a writing is to be doubted, since others have changed the logger.
+  enum class Doubted { Unknown, Must, MustNot };
   struct KeptFile {
     std::string path, octets;
   };
@@ -46,6 +60,7 @@ class Session {
   void Kill();
   void Restart();
   void LookAfterRestart();
+  void JudgeRecording();
   void End();
 
   bool Open();
@@ -53,10 +68,13 @@ class Session {
   void TypeOddText();
   bool IsAsHeld(const DeviceConf& read) const;
   bool Read();
-  void Write(bool guarded);
+  /// Whether it was written and verified.
+  bool Write(bool guarded);
   WriteRoad Road(bool guarded);
   bool KeepCopy(const DeviceConf& held);
   void JudgeWriting(const WriteResult& result);
+  void JudgeDoubts(const WriteResult& result);
+  void JudgeLedger(const WriteResult& result, bool isOld, bool isNew);
   void Short(Step step, const std::function<LinkResult()>& dialogue,
              const std::function<bool()>& isSo);
   void Live();
@@ -67,8 +85,12 @@ class Session {
   void VoiceRead();
   bool IsVoiceList(const ConfAutVoz& list) const;
   void Firmware();
-  void Save();
-  void Load();
+  void SaveSome();
+  void LoadSome();
+  bool Save(const std::string& path);
+  bool Load(const std::string& path);
+  void UseFileTwice();
+  bool ChangeByOthers();
 
   /// Checks what the words for a fault claim.
   void CheckWords(const SessionFault& fault);
@@ -96,6 +118,10 @@ class Session {
   std::optional<Writing> writing_;           ///< the one under way
   std::optional<sim::Configuration> taken_;  ///< what the logger took over last, as it said
   std::vector<KeptFile> copies_;
+  std::optional<LedgerKind> cutOff_;  ///< what was killed half done, beside writings
+  Doubted doubted_ = Doubted::Unknown;
+  bool declines_ = false;            ///< the operator does not write in spite of a doubt
+  std::vector<std::string> doubts_;  ///< what was told ahead of the last writing
 };
 
 }  // namespace ostrel::campaign

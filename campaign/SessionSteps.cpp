@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <cstdlib>
 #include <utility>
 
@@ -14,7 +15,6 @@ constexpr const char* kOddTexts[] = {
     "a,b",     "{x}",
     "x\ny",    "caf\xC3\xA9 \xE2\x82\xAC",
     "=;#\"[]", "un nombre que es mucho mas largo que lo que cabe en el logger"};
-constexpr const char* kPaths[] = {"/site.ocf", "/other.ocf"};
 
 /// Intel hex with an end record.
 std::string HexFile(sim::Random& random, int records) {
@@ -45,6 +45,8 @@ void Session::Edit() {
     if (takes) CopyField(ViewOf(taken[i].value), fields[i].value);
   }
   if (random_.Chance(kOddText)) TypeOddText();
+  if (!program_->conf.Gprs.APN_PASS.empty()) program_->conf.Gprs.APN_PASS = kPasswords[2];
+  if (!program_->conf.Gprs.FTP_PASS.empty()) program_->conf.Gprs.FTP_PASS = kPasswords[3];
   program_->ShowConfiguration(DeviceConf(program_->conf));
 }
 
@@ -83,7 +85,12 @@ WriteRoad Session::Road(bool guarded) {
   WriteRoad road{.read = [this] { return program_->session.Download(); },
                  .write = [this] { return program_->session.Upload(); },
                  .verify = guarded};
-  if (guarded) road.keep = [this](const DeviceConf& held) { return KeepCopy(held); };
+  if (!guarded) return road;
+  road.keep = [this](const DeviceConf& held) { return KeepCopy(held); };
+  road.inSpiteOf = [this](const Phrase& doubt) {
+    doubts_.push_back(Filled(doubt));
+    return !declines_;
+  };
   return road;
 }
 
@@ -102,8 +109,9 @@ bool Session::KeepCopy(const DeviceConf& held) {
   return true;
 }
 
-void Session::Write(bool guarded) {
+bool Session::Write(bool guarded) {
   if (random_.Chance(0.9)) Edit();
+  doubts_.clear();
   writing_ = {HeldBy(*world_.logger), {}, static_cast<std::int64_t>(world_.ledger.entries.size())};
   const auto want = [this](const DeviceConf& sent) {
     auto after =
@@ -112,15 +120,19 @@ void Session::Write(bool guarded) {
   };
   want(program_->conf);
   const DeviceConf toSend = program_->conf;
+  bool isVerified = false;
   Timed(guarded ? Step::WriteGuarded : Step::WritePlain, [&] {
     const WriteResult result = WriteGuarded(*program_, Road(guarded));
     want(result.sent);  // what the firmware can do may have become known meanwhile
     Expect(program_->conf == toSend, "the pages show another configuration than was to be written");
     JudgeWriting(result);
+    isVerified = result.verified && result.IsAsSent();
     // What no logger can take is refused, or comes back as another text.
-    return result.IsAsSent() || writing_->wanted.empty() || hasOddText_;
+    return result.IsAsSent() || writing_->wanted.empty() || hasOddText_ ||
+           (declines_ && result.end == WriteEnd::Declined);
   });
   if (!isKilled_) writing_.reset();
+  return isVerified && !isKilled_;
 }
 
 void Session::JudgeWriting(const WriteResult& result) {
@@ -130,13 +142,16 @@ void Session::JudgeWriting(const WriteResult& result) {
   if (!isOld && !isNew) ++tally_.mixes;
   Expect(isOld || isNew || !IsClear(), "the logger holds neither the former nor the new");
   if (isKilled_ || !IsClear()) return;
+  JudgeDoubts(result);
+  JudgeLedger(result, isOld, isNew);
   switch (result.end) {
     case WriteEnd::NotRead:
       Expect(isOld, "it was written though it was not read ahead");
       return CheckWords(program_->session.FaultDuring(SessionPhase::Reading));
     case WriteEnd::NotKept:
-    case WriteEnd::Declined:
       return Expect(isOld, "it was written without a safety copy");
+    case WriteEnd::Declined:
+      return Expect(isOld, "it was written in spite of the operator");
     case WriteEnd::NotWritten:
       return CheckWords(*program_->session.State().failed);
     case WriteEnd::NotReadBack:
@@ -152,6 +167,25 @@ void Session::JudgeWriting(const WriteResult& result) {
   Expect(isNew || !isSame, result.verified ? "written and verified, it says" : "written, it says");
   Expect(isSame || !isNew || hasOddText_,
          "it says that the logger holds another one, which is not so");
+}
+
+/// What the ledger says of a writing, when nobody remembers it any more.
+void Session::JudgeLedger(const WriteResult& result, bool isOld, bool isNew) {
+  if (!world_.ledger.fault.empty()) return;
+  const auto from = world_.ledger.entries.begin() + writing_->lastEntry;
+  for (const LedgerEntry& entry : std::ranges::subrange(from, world_.ledger.entries.end())) {
+    const bool isDone = entry.state == LedgerState::Done;
+    const bool isKept = entry.content.empty() || world_.ledger.contents.contains(entry.content);
+    Expect(isKept, "the ledger has lost what was written or read");
+    Expect(entry.state != LedgerState::UnderWay || entry.kind == LedgerKind::Session,
+           "the ledger says that it is still being written or read");
+    if (entry.kind == LedgerKind::Verification)
+      Expect(isDone == result.IsAsSent(), "the ledger says of the verification what is not so");
+    if (entry.kind != LedgerKind::Writing) continue;
+    if (isDone) Expect(isNew, "the ledger says that it is written");
+    if (!isDone && !entry.closing)
+      Expect(isOld, "the ledger says that the logger was not asked to take anything over");
+  }
 }
 
 /// A dialogue of a few messages, or with the voice-call list: where it says that it was done, so it
@@ -221,9 +255,13 @@ void Session::VoiceWrite() {
   ConfAutVoz list;
   SetNumbers(list, numbers);
   list.MACRO = static_cast<std::int16_t>(random_.Between(-1, 39));
+  const sim::VoiceList before = world_.logger->Conf().voice;
   Short(
       Step::VoiceWrite, [&] { return program_->session.WriteVoiceList(list); },
       [&] { return IsVoiceList(list); });
+  const sim::VoiceList& now = world_.logger->Conf().voice;
+  if (isKilled_ && (now.numbers != before.numbers || now.macro != before.macro))
+    cutOff_ = LedgerKind::VoiceWriting;
 }
 
 void Session::VoiceRead() {
@@ -254,42 +292,10 @@ void Session::Firmware() {
     if (!result && program_->session.State().failed) CheckWords(*program_->session.State().failed);
     return bool(result);
   });
+  if (isKilled_ && !world_.logger->Firmware().IsIdle()) cutOff_ = LedgerKind::Firmware;
   if (!isDone || isKilled_) return;
   program_->session.Close(world_.logger->Options().modem);
   world_.loop.RunFor(world_.logger->Options().flashCopyTime);
-}
-
-void Session::Save() {
-  const std::string path = random_.Pick(kPaths);
-  const auto former = world_.files.contents.find(path);
-  const std::optional<std::string> before =
-      former == world_.files.contents.end() ? std::nullopt : std::optional(former->second);
-  Timed(Step::Save, [&] {
-    const auto saved = program_->SaveTo(path);
-    const std::string whole = ContentOf(world_.files, program_->conf, program_->profile);
-    const auto stands = world_.files.contents.find(path);
-    const std::optional<std::string> now =
-        stands == world_.files.contents.end() ? std::nullopt : std::optional(stands->second);
-    const bool isSaved = saved && saved->Ok();
-    Expect(isSaved ? now == whole : now == before,
-           isSaved ? "a file is saved, it says" : "a saving that failed has changed the file");
-    return isSaved;
-  });
-  const bool isLeft = world_.files.contents.contains(path + "~ostrel-1");
-  Expect(!isLeft || world_.files.log.back().starts_with("remove"), "a temporary file is left");
-}
-
-void Session::Load() {
-  const std::string path = random_.Pick(kPaths);
-  if (!world_.files.contents.contains(path)) return;
-  Timed(Step::Load, [&] {
-    const std::string octets = world_.files.contents[path];
-    const bool isLoaded = program_->OpenFile(path) == RestoreResult::Loaded;
-    Expect(isLoaded, "a file that was saved does not open");
-    Expect(hasOddText_ || ContentOf(world_.files, program_->conf, program_->profile) == octets,
-           "a file that was saved opens as another configuration");
-    return isLoaded;
-  });
 }
 
 }  // namespace ostrel::campaign

@@ -3,12 +3,15 @@
 #include <memory>
 
 #include "Meddler.h"
+#include "platform/TappedPort.h"
 #include "platform/virtual/VirtualWorld.h"
+#include "recording/Recorder.h"
 #include "sim/Logger.h"
 
 namespace ostrel::campaign {
 
-/// What stands around a program: one logger at port 7, behind a line that takes damage.
+/// What stands around a program: one logger at port 7, behind a line that takes damage, and all of
+/// which is recorded.
 struct World : VirtualWorld {
   static constexpr std::int16_t kPort = 7;
 
@@ -22,10 +25,15 @@ struct World : VirtualWorld {
       return made;
     });
     clock.SetNow(options.clockStart);
+    tapped.Join(recorder);
   }
   World(const World&) = delete;
   World& operator=(const World&) = delete;
 
+  std::string recording;
+  Recorder recorder{loop, [this](std::string_view text) { recording += text; }, "campaign"};
+  TappedPort tapped{port};
+  Platform watched = platform.With(tapped);  ///< what the program is given
   Meddler* meddler = nullptr;
   sim::Logger* logger = nullptr;
 };

@@ -108,7 +108,7 @@ bool LoggerSession::Move(std::string_view label, bool (SessionDriver::*transfer)
 }
 
 ExitCode LoggerSession::Download() {
-  configurator_.conf = DeviceConf{};
+  *configurator_.received = DeviceConf{};
   const bool done = Move("download", &SessionDriver::Download);
   if (done && !interrupted_) return ExitCode::Done;
   return Fault(ExitCode::DialogueFailed, configurator_.session.FaultDuring(SessionPhase::Reading));

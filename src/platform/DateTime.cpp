@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <cstdlib>
 #include <string_view>
 
 #include "platform/Digits.h"
@@ -23,6 +24,11 @@ std::string DateTimeText(const DateTime& time) {
 std::string StampText(std::chrono::milliseconds time) {
   const auto whole = std::chrono::floor<std::chrono::seconds>(time);
   return DateTimeText(FromSeconds(whole.count())) + "." + Padded((time - whole).count(), 3);
+}
+
+std::string UtcOffsetText(std::chrono::minutes offset) {
+  const std::int64_t minutes = std::abs(offset.count());
+  return (offset.count() < 0 ? "-" : "+") + Padded(minutes / 60, 2) + ":" + Padded(minutes % 60, 2);
 }
 
 std::optional<DateTime> ReadDateTime(std::string_view text) {

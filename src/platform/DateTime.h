@@ -36,6 +36,9 @@ std::string DateTimeText(const DateTime& time);
 /// "2026-03-02 09:05:07.250", of a time since 1 January 1970.
 std::string StampText(std::chrono::milliseconds time);
 
+/// "+01:00", of how far local time is ahead of universal time.
+std::string UtcOffsetText(std::chrono::minutes offset);
+
 /// Reads "2026-03-02", with a blank or "T" and a time of hours, minutes and perhaps seconds behind
 /// it, else midnight. Nothing for any other text, nor for a moment that does not exist.
 std::optional<DateTime> ReadDateTime(std::string_view text);

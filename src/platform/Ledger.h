@@ -53,10 +53,11 @@ struct LedgerEntry {
                              ///< under another name the last one of the file that it is a copy of
   LedgerKind kind = LedgerKind::Session;
   LedgerState state = LedgerState::UnderWay;
-  bool closing = false;  ///< a writing: the logger has been asked to take everything over; of a
-                         ///< firmware: it has said that it erases the former one
-  bool settled = false;  ///< an interruption of which the operator wants to hear no more
-  std::string began{};   ///< local, "2026-03-02 09:05:07"
+  bool closing = false;     ///< a writing: the logger has been asked to take everything over; of a
+                            ///< firmware: it has said that it erases the former one
+  bool settled = false;     ///< an interruption of which the operator wants to hear no more
+  std::string began{};      ///< local, "2026-03-02 09:05:07"
+  std::string utcOffset{};  ///< how far that is ahead of universal time, "+01:00"
   std::int64_t milliseconds = 0;
   std::string user{};     ///< who worked, as the machine knows him; filled in by the ledger
   std::string machine{};  ///< its name; filled in by the ledger
@@ -84,9 +85,9 @@ struct LedgerEntry {
 /// booleans, a kind and a state. A field that is forgotten stops the build.
 template <class Entry, class Visit>
 void VisitLedgerEntry(Entry& entry, Visit&& visit) {
-  auto& [id, session, about, kind, state, closing, settled, began, milliseconds, user, machine,
-         process, port, phone, model, serial, firmware, features, file, content, former, copy,
-         steps, attempts, fault, detail] = entry;
+  auto& [id, session, about, kind, state, closing, settled, began, utcOffset, milliseconds, user,
+         machine, process, port, phone, model, serial, firmware, features, file, content, former,
+         copy, steps, attempts, fault, detail] = entry;
   visit("id", id);
   visit("session", session);
   visit("about", about);
@@ -95,6 +96,7 @@ void VisitLedgerEntry(Entry& entry, Visit&& visit) {
   visit("closing", closing);
   visit("settled", settled);
   visit("began", began);
+  visit("utcOffset", utcOffset);
   visit("milliseconds", milliseconds);
   visit("user", user);
   visit("machine", machine);

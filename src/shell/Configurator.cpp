@@ -4,6 +4,7 @@
 
 #include "base/Scope.h"
 #include "blocks/Blocks.h"
+#include "blocks/Configuration.h"
 #include "blocks/Orders.h"
 #include "pages/Aut_Voz.h"
 #include "pages/GPRS.h"
@@ -80,7 +81,7 @@ Configurator::Configurator(const Platform& platform, ConfiguratorOptions options
               .ConfFilePath = ConfFilePath,
               .timersRun = options.ticking,
               .programFolder = options.programFolder},
-      ledger({platform_, conf, profile, info}),
+      ledger({platform_, conf, received, profile, info}),
       platform_(platform),
       options_(std::move(options)),
       pages_(MakePages(context)),
@@ -92,7 +93,7 @@ Configurator::Configurator(const Platform& platform, ConfiguratorOptions options
       voiceBar_(
           comms.OnProgress([&bar = PageOf(PageId::Aut_Voz)->GetForm().Get<ProgressBar>("PBar")](
                                const Progress& progress) { ShowListOnBar(progress, bar); })),
-      session(context, comms, general, Connected, [this] { ShowPages(); }),
+      session(context, comms, general, Connected, received, [this] { ShowPages(); }),
       tools{.platform = platform_,
             .comms = comms,
             .dialogs = platform_.dialogs,
@@ -201,14 +202,15 @@ TestPage* Configurator::RunningTest() {
 LinkHooks Configurator::MakeHooks() {
   SessionFrame& frame = general.Session();
   return {
-      .clearPages = [this] { ForEach(kClearAtDownload, &Page::Clear); },
+      .clearPages = [this] { EmptyReceived(); },
       .beginStream =
           [this] {
             for (const Block& block : Blocks())
-              if (block.beginStream) block.beginStream(conf);
+              if (block.beginStream) block.beginStream(*received);
           },
       .loadPages =
           [this] {
+            if (received != &conf) return;
             origin_ = {.isKnown = true};
             ForEach(kLoadAfterDownload, &Page::LoadData);
           },
@@ -233,12 +235,21 @@ LinkHooks Configurator::MakeHooks() {
   };
 }
 
+void Configurator::EmptyReceived() {
+  if (received == &conf)
+    ForEach(kClearAtDownload, &Page::Clear);
+  else
+    *received = EmptyConfiguration(
+        profile, [this](std::string_view text) { return context.Translate(text); });
+}
+
 void Configurator::RegisterWire() {
   std::vector<WireSection> sections;
   for (const Block& block : Blocks())
     for (const LineSection& line : block.lines)
-      sections.push_back(
-          {line.key, [this, read = line.read](LineReader& reader) { read(reader, conf, info); }});
+      sections.push_back({line.key, [this, read = line.read](LineReader& reader) {
+                            read(reader, *received, info);
+                          }});
   std::vector<WireBlock> blocks;
   for (const UploadStep& step : UploadOrder())
     blocks.push_back({step.name, [this, &step](StatementList& out) {

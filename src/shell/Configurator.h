@@ -117,7 +117,7 @@ class Configurator {
     std::optional<Phrase> lacking{};
   };
   const Origin& WhereFrom() const { return origin_; }
-  /// For those who have put back what stood on the pages before.
+  /// Says anew where it comes from.
   void SetOrigin(Origin origin) { origin_ = std::move(origin); }
   /// Asks whether a file of another model may change the model while a session stands. Set by a
   /// face; without one nobody is asked.
@@ -143,6 +143,8 @@ class Configurator {
   /// The page whose test runs; null when none does.
   TestPage* RunningTest();
   DeviceConf conf;
+  /// Where a download goes: the model, but for a reading beside it.
+  DeviceConf* received = &conf;
   TargetProfile profile;
   DeviceInfo info;
   RealTimeData live;
@@ -170,6 +172,8 @@ class Configurator {
   /// The dialogs and dialogues that pages ask for.
   void ConnectPages();
   LinkHooks MakeHooks();
+  /// Empties what a download fills.
+  void EmptyReceived();
   TestPageContext TestParts();
   void RegisterWire();
   void LoadForms();

@@ -40,6 +40,13 @@ class BlockFixture : public testing::Test {
     FAIL() << "no section for " << key;
   }
 
+  /// A field by its address in a file, such as "DIGITAL 8" and "NC".
+  Field FieldAt(const std::string& section, const std::string& key) {
+    for (const Field& field : FieldsOf(conf, profile))
+      if (field.Section() == section && field.Key() == key) return field;
+    throw std::out_of_range(section + " " + key);
+  }
+
   /// The statements that carry the fields of a page.
   std::vector<std::string> Statements(PageId page) const {
     StatementList list;
@@ -70,7 +77,8 @@ class BlockFixture : public testing::Test {
                  });
   }
 
-  /// The fields that an empty configuration has otherwise: "[DIGITAL 8] NOMBRE=Pozo; NC=True; ".
+  /// The fields that an empty configuration has otherwise: "[DIGITAL 8]
+  /// NOMBRE=Pozo; NC=True; ".
   std::string Changes() const {
     const DeviceConf empty = EmptyConfiguration(profile, translate);
     const auto now = FieldsOf(conf, profile), former = FieldsOf(empty, profile);

@@ -13,60 +13,15 @@ class GeneralBlock : public BlockFixture {
   }
 };
 
-TEST_F(GeneralBlock, ReadsItsLines) {
-  for (const char* line : {"DNAME,Depósito", "SMC,+34609090909", "PTLF,600", "RENVT,90", "RENVN,7",
-                           "REST,Fin de alarma"})
-    Receive(line);
-  EXPECT_EQ(conf.General, (ConfGeneral{"Depósito", "+34609090909", 2, 7, "600", "Fin de alarma"}));
-  Receive("RENVN,40000");
-  EXPECT_EQ(conf.General.RENVN, 7);
-}
-
-TEST_F(GeneralBlock, ReadsTelephonesOfOlderFirmware) {
-  struct Case {
-    std::int32_t features;
-    const char* mask;
-    int mode;
-    std::vector<int> channels;
-  };
-  const std::vector<int> twelve{21, 22, 23, 24, 25, 26, 27, 28, 0, 1, 2, 3};
-  for (const Case& c : {Case{0, "65535", 0, {}}, Case{0, "-1", 1, twelve}, Case{0x100, "-1", 0, {}},
-                        Case{0x100, "65535", 1, twelve}, Case{0, "99999999999", 1, {}},
-                        Case{0, "2305", 1, {21, 0, 3}}, Case{0, "0", 1, {}}}) {
-    info.Features = c.features;
-    Receive(std::string("TLF,4,600111222,3,2,") + c.mask);
-    const ConfPhone& phone = conf.Phone[4];
-    EXPECT_EQ(phone.MASKMODE, c.mode) << c.mask;
-    for (int place = 0; place < kMaskPlaces; ++place) {
-      const auto at = static_cast<std::size_t>(place);
-      EXPECT_EQ(phone.ListaMask[place], at < c.channels.size() ? c.channels[at] : kNoChannel);
-    }
-    EXPECT_EQ(phone.Prio, 3);
-    EXPECT_EQ(phone.PRV, 2);
-  }
-}
-
 TEST_F(GeneralBlock, ReadsTelephonesOfNewFirmwareAndFreeSlots) {
   info.Features = 0x10000;
   Receive("TLF,20,600111222,3,2,ignored,2,21,255,61");
-  EXPECT_EQ(conf.Phone[20].MASKMODE, 2);
-  EXPECT_EQ(conf.Phone[20].ListaMask[0], 21);
-  EXPECT_EQ(conf.Phone[20].ListaMask[1], 255);
-  EXPECT_EQ(conf.Phone[20].ListaMask[2], 61);
+  Receive("RENVN,40000");
   EXPECT_EQ(conf.Phone[20].ListaMask[3], 0) << "a missing field is 0";
+  EXPECT_EQ(conf.General.RENVN, 3) << "too wide a number";
   const auto before = conf;
   for (const char* line : {"TLF,20,60,1,1", "TLF,3,", "TLF,99,"}) Receive(line);
   EXPECT_EQ(conf, before) << "a number of less than three characters is a free slot";
-}
-
-TEST_F(GeneralBlock, ComposesItsStatements) {
-  conf.General = {"Nombre", "+34609", 2, 7, "600", "Fin"};
-  EXPECT_EQ(
-      Statements(PageId::General),
-      (std::vector<std::string>{"ID=Nombre", "CSM=+34609", "PTLF=600", "REST=Fin", "CLRTLF"}));
-  info.Features = 0x1;
-  EXPECT_EQ(Statements(PageId::General)[4], "RETRYMAX= 7");
-  EXPECT_EQ(Statements(PageId::General)[5], "RETRYTIME= 120");
 }
 
 TEST_F(GeneralBlock, ComposesTelephonesForEachFirmware) {

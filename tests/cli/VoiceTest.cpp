@@ -44,6 +44,7 @@ TEST(Voice, IsWrittenFromTextAndConfiguration) {
   EXPECT_EQ(world.Voice("write /list.txt"), 0) << world.err;
   EXPECT_THAT(world.Held().numbers, ElementsAre("801", "802", "801"));
   EXPECT_EQ(world.Held().macro, 7) << "the logger keeps its macro";
+  EXPECT_EQ(world.ledger.entries.back().file, "/list.txt");
   EXPECT_EQ(world.Voice("write /list.txt --macro 39 --json"), 0);
   EXPECT_EQ(world.Held().macro, 39);
   EXPECT_EQ(world.Json().object()["written"].toInt(), 3);

@@ -124,23 +124,6 @@ TEST(Form, FindsControlsByNameAndTranslatesThoseWithAKey) {
   EXPECT_EQ(label.face.Caption(), "own");
 }
 
-TEST(CheckNumberBox, ColoursByKind) {
-  struct Case {
-    std::string_view text, kind;
-    bool valid;
-  };
-  Form form("F", "");
-  TextBox box(form, "Box");
-  for (const auto& [text, kind, valid] :
-       {Case{" 12", "int", true}, Case{"12.5", "int", false}, Case{"12.5", "float", true},
-        Case{"1,5,2", "float", false}, Case{"1,5.2", "float", false}, Case{"1,5", "int", false},
-        Case{"", "float", false}, Case{"12", "text", false}}) {
-    box.SetText(text);
-    EXPECT_EQ(CheckNumberBox(box, kind), valid) << text << " as " << kind;
-    EXPECT_EQ(box.face.Colour(), valid ? BackColour::Window : BackColour::Red);
-  }
-}
-
 TEST(CheckNumberBox, PutsADecimalCommaRight) {
   Form form("F", "");
   TextBox box(form, "Box");

@@ -132,18 +132,6 @@ TEST_F(LineTest, GsmLines) {
   EXPECT_EQ(logger.raw, "ATH\r");
 }
 
-TEST_F(LineTest, GetCharAndDelayServeTheLoop) {
-  int ticks = 0;
-  loop.Every(milliseconds(100), "tick", [&ticks] { ++ticks; });
-  At(milliseconds(30), [this] { logger.end->Send("\xE9x"); });
-  EXPECT_EQ(comms.GetChar(10), "");
-  EXPECT_EQ(comms.GetChar(1000), "\xE9");
-  EXPECT_EQ(comms.GetChar(0), "x");
-  EXPECT_EQ(loop.Now(), milliseconds(30));
-  EXPECT_EQ(Took([&] { comms.Delay(1000); }), seconds(1));
-  EXPECT_EQ(ticks, 10);
-}
-
 TEST_F(LineTest, TraceShowsMessagesWithTheirTimeAndNoCode) {
   logger.Next("#40", "#00;BF\r");
   logger.Always("#40", Frames("#BF\xE9"));

@@ -51,14 +51,6 @@ TEST_F(OpeningTest, CableWaitsForAQuietLineAndGreets) {
   EXPECT_EQ(logger.raw, "<up>#64;40\r");
 }
 
-TEST_F(OpeningTest, NoHandshakeClosesThePort) {
-  for (const std::string& answer : {std::string(), Frames("#BE")}) {
-    logger.Always("#40", answer);
-    EXPECT_EQ(comms.StartComs(kPort, "").Fault().kind, Kind::NoHandshake);
-    EXPECT_TRUE(logger.raw.ends_with("#64;40\r<down>")) << logger.raw;
-  }
-}
-
 TEST_F(OpeningTest, ModemPath) {
   struct Case {
     std::string at, ifc, atd;       ///< answers of the modem

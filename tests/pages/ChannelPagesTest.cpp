@@ -54,17 +54,6 @@ TEST_F(ChannelPages, JumperPicturesFollowInterfaceAndModel) {
   }
 }
 
-TEST_F(ChannelPages, APressureLoggerHasNoScaleAndNoGroup) {
-  SelectModel("Tavro BQ");
-  Start(analog);
-  conf.Analog[0].GRUPO = 2;
-  analog.LoadData();
-  analog.Form_Activate();
-  EXPECT_EQ(Enabled(analog, {"Label1", "Label2", "IE", "FE", "Grupo"}), "00000");
-  EXPECT_EQ(On<ComboBox>(analog, "Grupo").Position(), 2) << "shown anew at the end";
-  EXPECT_EQ(On<TextBox>(analog, "EqFE").Text(), "10") << "no place for the sign";
-}
-
 TEST_F(ChannelPages, AnOddVoltageStaysUntilTheRowReplacesIt) {
   Start(groups);
   PutFile("[GRUPO 1]\r\nSALIDA= 2\r\nVOLTAJE= 5\r\nPERIOD= 100");

@@ -133,19 +133,6 @@ TEST_F(GeneralPage, TheListTakesOneRowMoreThanIsKept) {
   EXPECT_EQ(list.Rows().size(), 20U);
 }
 
-TEST_F(GeneralPage, CommitsEachSecondUnlessADownloadRuns) {
-  ComBusy = true;
-  Get<TextBox>("NameBox").Type("Estación 1");
-  Get<TextBox>("RENVT").Type("5x");
-  Tick();
-  EXPECT_EQ(conf.General.DNAME, "");
-  ComBusy = false;
-  Tick();
-  EXPECT_EQ(conf.General.DNAME, "Estación 1");
-  EXPECT_EQ(conf.General.RENVT, 5);
-  EXPECT_EQ(Get<TextBox>("RENVN").Text(), " 3") << "with a place for the sign";
-}
-
 TEST_F(GeneralPage, TheServiceCentreFollowsItsOptionAndBack) {
   Get<OptionButton>("CSMVoda").SetSelected(true);
   EXPECT_EQ(Get<TextBox>("SMSCBox").Text(), "+34607003110");

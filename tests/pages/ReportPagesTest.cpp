@@ -107,15 +107,6 @@ TEST_F(ReportPages, LinesAreTakenBackForEditing) {
   EXPECT_EQ(edit("F3"), "old|oldName!");
 }
 
-TEST_F(ReportPages, EmptyingReachesTheListAndTheModelWithTheNextCommit) {
-  AddMacro(5, "X");
-  macros.Clear();
-  EXPECT_THAT(Rows(macros, "MacroPool"), IsEmpty());
-  EXPECT_EQ(conf.Macro.LINE[0], "MACRO5={X}");
-  macros.Form_Deactivate();
-  EXPECT_EQ(conf.Macro.LINE[0], "");
-}
-
 TEST_F(ReportPages, PasswordsAreHiddenUntilAskedForAndAddressesChecked) {
   auto& show = gprs.GetForm().Get<CheckBox>("CheckMostrar");
   for (const auto* name : {"TextAPNPassword", "TextFTPPass"}) {

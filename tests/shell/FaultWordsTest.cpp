@@ -34,7 +34,6 @@ TEST(FaultWords, TellPlaceTextRemedyAndHowTheLoggerStands) {
             "the logger fell silent at record 6||" + unchanged},
            {{.during = Writing, .link = {FaultKind::Silence, 6, ""}},
             "the logger fell silent at statement 6||" + former},
-           {{.link = {FaultKind::Silence, 0, ""}}, "the logger fell silent||"},
            {{.during = Reading, .link = {FaultKind::Silence, 6, ""}, .unverified = true},
             "the logger fell silent at record 6||the logger has taken the new configuration over, "
             "which is not verified"},
@@ -46,15 +45,12 @@ TEST(FaultWords, TellPlaceTextRemedyAndHowTheLoggerStands) {
             "the logger did not say that it took the configuration over||" + unknown},
            {{.link = {FaultKind::NotTakenOver, 0, "#BE0"}},
             "the logger refused the setting: \"#BE0\"||"},
-           {{.during = Opening, .link = {FaultKind::NoHandshake, 0, ""}},
-            "no logger answers at COM7|check cable and supply|"},
            {{.during = Opening,
            .link = {FaultKind::NoHandshake, 0, ""},
            .code = CodeAnswer::NotGiven},
             "the logger wants an access code||"},
            {{.during = Opening, .link = {FaultKind::PortClosed, 0, ""}, .brokenOff = true},
             "interrupted before a session stood||" + unchanged},
-           {{.link = {FaultKind::PortClosed, 0, ""}, .brokenOff = true}, "interrupted||"},
            {{.link = {FaultKind::PortClosed, 0, ""}, .brokenOff = true, .writingVoiceList = true},
             "interrupted||the logger's voice-call list may be erased or incomplete: write it "
             "again"},

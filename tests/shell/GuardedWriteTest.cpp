@@ -59,7 +59,11 @@ TEST_F(Writing, KeepsTheFormerAndReadsTheNewBack) {
   program.conf.General.DNAME = "Nuevo";
   program.conf.Digital[0].ALARM[3].common.GPRS = kTrue;  // which emptying leaves alone
   const DeviceConf wanted = program.conf;
+  bool staysAllTheWhile = true;
+  world.logger->OnExchange(
+      [&](const sim::Exchange&) { staysAllTheWhile = staysAllTheWhile && program.conf == wanted; });
   const WriteResult result = WriteGuarded(program, Road());
+  EXPECT_TRUE(staysAllTheWhile);
   EXPECT_TRUE(result.IsAsSent() && result.verified);
   EXPECT_EQ(former, read);
   EXPECT_EQ(program.conf, wanted);

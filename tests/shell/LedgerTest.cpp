@@ -34,6 +34,7 @@ TEST_F(Books, TellAllThatWasDoneInASession) {
     EXPECT_EQ(entry.serial, world.logger->Options().serial);
     EXPECT_EQ(entry.model, "Tavro BP");
     EXPECT_THAT(entry.began, StartsWith("20"));
+    EXPECT_EQ(entry.utcOffset, "+01:00");
     EXPECT_EQ(entry.session, entry.kind == LedgerKind::Session ? 0 : 1);
   }
   EXPECT_EQ(entries[0].port, "COM7");
@@ -244,6 +245,9 @@ TEST_F(Books, ChangesThatAFileHasNeverSeenAreTold) {
   sim::Configuration changed = world.logger->Conf();
   changed.ownNumber = "600777888";
   world.logger->SetConf(changed);
+  program->session.WriteVoiceList({});  // which this model turns down, and which is no use of it
+  EXPECT_EQ(world.ledger.entries.back().file, "/site.ocf");
+  EXPECT_EQ(world.ledger.entries.back().state, LedgerState::Failed);
   goesOn = false;
   for (int i = 0; i < 2; ++i) {  // having looked does not make it seen
     held.clear();

@@ -76,32 +76,24 @@ std::optional<NodeTarget> Target(std::string_view key, std::string_view model = 
 TEST(Navigation, KnowsWhereEachKeyLeads) {
   using enum PageId;
   const std::optional<std::int16_t> none;
-  const std::pair<const char*, NodeTarget> table[] = {{"Tavro", {ToolId::TargetSelect, none}},
-                                                      {"General", {General, 0}},
-                                                      {"Grupos", {Grupos, none}},
-                                                      {"E_Analog_3", {E_Analog, 3}},
-                                                      {"E_OneWire_0", {E_OneWire, 0}},
-                                                      {"E_Math_2", {E_Math, 2}},
-                                                      {"Caudal", {SampleRate, none}},
-                                                      {"Caudal_7", {Caudal, 7}},
-                                                      {"E_Digital_8", {E_Digital, 8}},
-                                                      {"CTimer0_3", {CTimer, 0}},
-                                                      {"WTimer4_7", {WTimer, 4}},
-                                                      {"MTimer8_11", {MTimer, 8}},
-                                                      {"LTimer12_15", {LTimer, 12}},
-                                                      {"MODBUS", {CONF_MODBUS, none}},
-                                                      {"MODBUS_31", {E_MODBUS, 31}},
-                                                      {"Flag_15", {Flags, 15}},
-                                                      {"Aut_Voz", {Aut_Voz, none}},
-                                                      {"GPRS", {GPRS, none}},
-                                                      {"Macros", {Macros, none}},
-                                                      {"T_Real", {ToolId::T_Real_Tavro, none}},
-                                                      {"Firmware", {ToolId::Firm, none}},
-                                                      {"Terminal", {ToolId::Terminal, none}},
-                                                      {"PCAT", {Katodex, none}},
-                                                      {"E_Aux_3", {E_Aux, 3}},
-                                                      {"Modulo_95", {E_Modular, 95}}};
-  for (const auto& [key, target] : table) EXPECT_EQ(Target(key), target) << key;
+  constexpr int kNone = -1;
+  const std::tuple<const char*, PageId, int> pages[] = {
+      {"General", General, 0},        {"Grupos", Grupos, kNone},     {"E_Analog_3", E_Analog, 3},
+      {"E_OneWire_0", E_OneWire, 0},  {"E_Math_2", E_Math, 2},       {"Caudal", SampleRate, kNone},
+      {"Caudal_7", Caudal, 7},        {"E_Digital_8", E_Digital, 8}, {"CTimer0_3", CTimer, 0},
+      {"WTimer4_7", WTimer, 4},       {"MTimer8_11", MTimer, 8},     {"LTimer12_15", LTimer, 12},
+      {"MODBUS", CONF_MODBUS, kNone}, {"MODBUS_31", E_MODBUS, 31},   {"Flag_15", Flags, 15},
+      {"Aut_Voz", Aut_Voz, kNone},    {"GPRS", GPRS, kNone},         {"Macros", Macros, kNone},
+      {"PCAT", Katodex, kNone},       {"E_Aux_3", E_Aux, 3},         {"Modulo_95", E_Modular, 95}};
+  for (const auto& [key, page, index] : pages)
+    EXPECT_EQ(Target(key),
+              (NodeTarget{page, index < 0 ? none : std::optional<std::int16_t>(index)}))
+        << key;
+  for (const auto& [key, tool] : {std::pair{"Tavro", ToolId::TargetSelect},
+                                  {"T_Real", ToolId::T_Real_Tavro},
+                                  {"Firmware", ToolId::Firm},
+                                  {"Terminal", ToolId::Terminal}})
+    EXPECT_EQ(Target(key), (NodeTarget{tool, none})) << key;
   for (const auto* key : {"Timer", "CTimer", "E_Analog", "E_OneWire", "E_Digital", "E_Math",
                           "Flags", "Modulo", "E_Analog_4", "E_Digital_9", "E_Digital_08",
                           "MODBUS_32", "Flag_16", "Modulo_96", "CTimer0_4", "", "TEST"})
@@ -149,16 +141,6 @@ TEST_F(NavigationFixture, ShowsOnePageAndCommitsTheOneThatLeaves) {
   core.TargetDeviceChange("Tavro BP");
   EXPECT_EQ(navigation.NodeClick("TEST"), NodeResult::Shown);
   EXPECT_THAT(Visible(), ElementsAre("Test"));
-}
-
-TEST_F(NavigationFixture, ActivatesWhatItShows) {
-  core.TargetDeviceChange("Tavro BQ");
-  navigation.NodeClick("E_Analog_0");
-  EXPECT_TRUE(On<OptionButton>(PageId::E_Analog, "Int_Press").face.Enabled());
-  core.Connected = true;
-  navigation.NodeClick("Tavro");
-  EXPECT_THAT(Visible(), ElementsAre("TargetSelect"));
-  EXPECT_FALSE(core.targetSelect.GetForm().Get<Button>("CommandChange").face.Enabled());
 }
 
 /// What a page offers hangs on the model, whatever changes it.

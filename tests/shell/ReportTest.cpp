@@ -214,6 +214,7 @@ TEST(Report, TellsWhatTheLedgerKnowsOfTheLogger) {
                       .kind = kind,
                       .state = state,
                       .began = "2026-03-02 09:00:00",
+                      .utcOffset = "-03:30",
                       .serial = serial,
                       .content = "0123456789abcdef"});
   };
@@ -230,14 +231,15 @@ TEST(Report, TellsWhatTheLedgerKnowsOfTheLogger) {
   core.live.DeviceClock = {2026, 3, 2, 9, 4, 0};
   Handover handover;
   AddLogger(handover.work, core, world.platform, "/data", {.clock = true});
-  EXPECT_THAT(handover.Rows("What was written"),
-              ElementsAre(testing::Contains("failed"),
-                          ElementsAre("2026-03-02 09:00:00", "writing", "read back: the same",
-                                      "0123456789ab", "2"),
-                          ElementsAre("2026-03-02 09:00:00", "total", "", "0123456789ab", "5"),
-                          ElementsAre("2026-03-02 09:00:00", "writing", "read back: different",
-                                      "0123456789ab", "7"),
-                          testing::Contains("clock"), testing::Contains("firmware")));
+  EXPECT_THAT(
+      handover.Rows("What was written"),
+      ElementsAre(testing::Contains("failed"),
+                  ElementsAre("2026-03-02 09:00:00 -03:30", "writing", "read back: the same",
+                              "0123456789ab", "2"),
+                  ElementsAre("2026-03-02 09:00:00 -03:30", "total", "", "0123456789ab", "5"),
+                  ElementsAre("2026-03-02 09:00:00 -03:30", "writing", "read back: different",
+                              "0123456789ab", "7"),
+                  testing::Contains("clock"), testing::Contains("firmware")));
   const std::string hash = handover.work.hash;
   EXPECT_EQ(hash.size(), 64U);
   EXPECT_EQ(handover.work.clock, core.live.DeviceClock);

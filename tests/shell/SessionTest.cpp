@@ -244,23 +244,6 @@ TEST_F(Session, AFailedTransferKeepsTheSession) {
   EXPECT_FALSE(program.session.State().failed) << "of a session that was closed nothing is told";
 }
 
-/// Three times three waits for an answer and the drains ahead of them, even when the refresh of the
-/// information has found the logger silent already.
-TEST_F(Session, ASilentLoggerCostsNineWaits) {
-  SilentDevice mute;
-  world.port.AddDevice(8, "mute", "", mute);
-  world.port.SetCommPort(8);
-  ASSERT_EQ(world.port.SetPortOpen(true), PortFault::None);
-  for (const int reply : {1000, 10'000}) {
-    program.comms.ReplyTimeout = reply;
-    program.comms.ReadInfo();
-    const TimePoint start = world.loop.Now();
-    EXPECT_FALSE(program.session.Download());
-    EXPECT_EQ(Status(), "Error!");
-    EXPECT_EQ(world.loop.Now() - start, milliseconds(9 * reply + 300));
-  }
-}
-
 /// While a download replaces the model, moving between pages must not write the emptied controls
 /// into it.
 TEST_F(Session, MovingAboutDuringADownloadCommitsNothing) {

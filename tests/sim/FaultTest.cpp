@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 
 #include <bit>
+#include <sstream>
 
 #include "sim/Faults.h"
 #include "sim/SimBench.h"
@@ -16,28 +17,14 @@ using testing::IsEmpty;
 using testing::SizeIs;
 
 TEST(SimFault, TextsAreReadAndWritten) {
-  for (const char* text : {"drop-octet@1",
-                           "flip-bit@10-900",
-                           "duplicate@3!once",
-                           "delay@2:500",
-                           "delay@2-4:500!once",
-                           "bad-checksum@7",
-                           "carrier-drop@1!once",
-                           "vanish@2",
-                           "silent@1",
-                           "silent-after-record@0",
-                           "silent-after-statement@40!once",
-                           "refuse-statement@0",
-                           "torn-refusal@40:15",
-                           "wrong-closing@2!once",
-                           "refuse-command@3",
-                           "silent-after-number@1",
-                           "wrong-sum@1!once",
-                           "refuse-erase@1",
-                           "ready-late@1:500",
-                           "no-alive-mark@2",
-                           "silent-after-octet@9",
-                           "refuse-loader@1!once"}) {
+  std::istringstream texts(
+      "drop-octet@1 flip-bit@10-900 duplicate@3!once delay@2:500 delay@2-4:500!once "
+      "bad-checksum@7 carrier-drop@1!once vanish@2 silent@1 silent-after-record@0 "
+      "silent-after-statement@40!once refuse-statement@0 torn-refusal@40:15 "
+      "wrong-closing@2!once refuse-command@3 silent-after-number@1 wrong-sum@1!once "
+      "refuse-erase@1 ready-late@1:500 no-alive-mark@2 silent-after-octet@9 "
+      "refuse-loader@1!once");
+  for (std::string text; texts >> text;) {
     std::string error;
     const auto fault = ParseFault(text, error);
     ASSERT_TRUE(fault) << text << ": " << error;

@@ -1,4 +1,10 @@
-#include "sim/StatementBench.h"
+#include <gmock/gmock.h>
+
+#include <fstream>
+
+#include "sim/Random.h"
+#include "sim/wire/LineComposer.h"
+#include "sim/wire/StatementParser.h"
 
 namespace ostrel::sim {
 namespace {
@@ -7,66 +13,62 @@ using testing::Contains;
 using testing::Not;
 using testing::StartsWith;
 
-TEST(SimStatement, OfAnAlarmIsRefusedWhenItIsMalformed) {
-  const std::string head = "+ALMD0=x,INDEX= 0,";
-  ExpectRefused(
-      Model::VR200,
-      "PO= 0,PC= 0,EQ= 0;PC= 0,EQ= 0;PC= 0,PO= 0.5,EQ= 0;PC= 0,PO= 1e99,EQ= 0;PC= 0,PO= 0;"
-      "PC= 0,PO= 1x,EQ= 0;PC= 0,PO= 0,EQ= 17;PC= 0,PO= 0,RESEND,SREST,EQ= 0;"
-      "PC= 0,PO= 0,RING,NOSEND,EQ= 0;PC= 0,PO= 0,SMS,EQ= 0",
-      head, ",ACTCLOSE=,ACTOPEN=");
-  ExpectRefused(Model::VR200,
-                "0:00:00;08:00:00,STOP=9:00:00,WEEK=1111111;8:00:00,STOP=24:00:00,WEEK=1111111;"
-                "8:00:00,STOP=9:00:00,WEEK=111111;8:00:00,STOP=9:00:00,WEEK=1111112",
-                head + "PC= 0,PO= 0,START=", ",EQ= 0,ACTCLOSE=,ACTOPEN=");
-  ExpectRefused(Model::VR200,
-                "ACTCLOSE= 1 2 3 4 5 6 7 8 9,ACTOPEN=;ACTCLOSE= 0,ACTOPEN=;ACTCLOSE= 1;"
-                "ACTCLOSE= 32768,ACTOPEN=;ACTCLOSE=5,ACTOPEN=;ACTHI=,ACTLO=",
-                head + "PC= 0,PO= 0,EQ= 0,");
+constexpr std::uint32_t kAllFeatures = 0xFFFFFFFF;
+
+/// The statement with up to three characters lost, turned or put in.
+std::string Damaged(std::string statement, Random& random) {
+  for (int hits = random.Between(1, 3); hits > 0 && !statement.empty(); --hits) {
+    const auto at = static_cast<std::size_t>(random.Next() % statement.size());
+    const int way = random.Between(0, 2);
+    if (way == 0) statement.erase(at, 1);
+    if (way == 1) statement[at] = static_cast<char>(random.Between(0, 255));
+    if (way == 2) statement.insert(at, 1, random.Pick(std::string_view(", -=+0129.EA#\r{")));
+  }
+  return statement;
 }
 
-TEST(SimStatement, IsKnownAndToldByItsFirmwareAlone) {
-  struct Gate {
-    std::uint32_t bit;
-    Model model;
-    const char* statement;
-    const char* record = "";  ///< head of the records that go with the bit, "" for none
-    bool otherwise = false;   ///< it is taken without the bit, instead of with it
-  };
-  const Gate gates[] = {
-      {kResendRules, Model::KA1, "RETRYMAX= 3"},
-      {kResendRules, Model::KA1, "RETRYTIME= 60"},
-      {kExtendedMasks, Model::BP, "+TLF=600,Prio=0,PRV0,MASKMODE0"},
-      {kExtendedMasks, Model::BP, "+TLF=600,Prio=0,PRV0,D0,A3", "", true},
-      {kNormallyClosed, Model::S100, "DINAME1=x,NC"},
-      {kAnalogPersistence, Model::BP,
-       "+ALMA0=,INDEX= 0,MAX= 0,MIN= 0,HIST= 0,P= 0,EQ= 0,ACTHI=,ACTLO=,ACTNOM="},
-      {kAnalogPersistence, Model::BP,
-       "+ALMA0=,INDEX= 0,MAX= 0,MIN= 0,HIST= 0,EQ= 0,ACTHI=,ACTLO=,ACTNOM=", "", true},
-      {kFlagAlarms, Model::KA2, "-ALMF0,INDEX= 0"},
-      {kFlagAlarms, Model::KA2, "+ALMF0=,INDEX= 0,ACTHI=,ACTLO="},
-      {kMonthlyTimers, Model::KA2, "-MT0", "MTIMER,"},
-      {kTotalRatio, Model::KA2, "TOTALRATIO0= 1", "TOTALRATIO,"},
-      {kSampleRate, Model::BQ, "SAMPLERATE=0"},
-      {kMath, Model::VR200, "DISMC0", "MATH,"},
-      {kModbusSlave, Model::VR200, "MBSLAVE=0"},
-      {kModbusSlave, Model::VR200, "MBSLAVEADD= 1"},
-      {kGprs, Model::VR200, "APNSERVER=", "GPRS,"},
-      {kGprs, Model::VR200, "FTPIP=10.0.0.1", "GPRS,"},
-      {kFtp, Model::VR200, "FTPIP=10.0.0.1"},
-      {kMissedCall, Model::VR200, "+TEL=600"},
-  };
-  for (const Gate& gate : gates) {
-    for (const bool with : {true, false}) {
-      const Identity self{gate.model, with ? kAllFeatures : ~gate.bit};
-      Configuration conf;
-      EXPECT_EQ(ApplyStatement(gate.statement, self, conf).empty(), with != gate.otherwise)
-          << gate.statement;
-      if (*gate.record == '\0') continue;
-      const auto records = ConfigurationRecords(conf, self);
-      EXPECT_EQ(testing::Value(records, Contains(StartsWith(gate.record))), with) << gate.record;
+/// Takes statements; damaged ones are refused or leave something sound.
+void Say(const std::string& statement, const Identity& self, Configuration& conf, Random& random) {
+  const Configuration before = conf;
+  EXPECT_EQ(ApplyStatement(statement, self, conf), "") << statement;
+  for (int round = 0; round < 100; ++round) {
+    const std::string damaged = Damaged(statement, random);
+    Configuration spoilt = before;
+    if (!ApplyStatement(damaged, self, spoilt).empty()) continue;
+    for (const std::string& record : ConfigurationRecords(spoilt, self))
+      ASSERT_EQ(record.find_first_of("\r\n"), std::string::npos) << "after " << damaged;
+  }
+}
+
+/// Paragraphs of statements that a model takes ("<"), perhaps without some features, each with the
+/// record (">") in which the last one shows; of statements that it refuses ("!"); and of records
+/// that it does not tell ("~").
+TEST(SimStatement, ShowsInItsRecordOrIsRefused) {
+  std::ifstream goldens(OSTREL_GOLDEN_STATEMENTS);
+  ASSERT_TRUE(goldens.is_open());
+  Random random(77);
+  for (std::string line; std::getline(goldens, line);) {
+    SCOPED_TRACE(line);
+    Identity self{ParseModel(line.substr(0, line.find(' '))).value(), kAllFeatures};
+    if (line.find(" without ") != std::string::npos)
+      self.features &=
+          ~static_cast<std::uint32_t>(std::stoul(line.substr(line.rfind(' ')), nullptr, 16));
+    Configuration conf;
+    while (std::getline(goldens, line) && !line.empty()) {
+      const std::string text = line.substr(2);
+      if (line[0] == '<') Say(text, self, conf, random);
+      EXPECT_TRUE(line[0] != '>' ||
+                  testing::Value(ConfigurationRecords(conf, self), Contains(text)))
+          << text;
+      EXPECT_TRUE(line[0] != '~' ||
+                  !testing::Value(ConfigurationRecords(conf, self), Contains(StartsWith(text))))
+          << text;
+      EXPECT_TRUE(line[0] != '!' || !ApplyStatement(text, self, conf).empty()) << text;
     }
   }
+  Configuration conf;
+  for (const char* control : {"ID=a\tb", "ID=a\x7F"})
+    EXPECT_NE(ApplyStatement(control, {Model::BP, kAllFeatures}, conf), "");
 }
 
 TEST(SimStatement, TakingOutAlarmsAndInputs) {
@@ -102,6 +104,57 @@ TEST(SimStatement, ATavroPassesOverModbusAndProbes) {
     for (const char* head : {"MODBUS", "ONEWIRE"})
       EXPECT_THAT(ConfigurationRecords(conf, self), Not(Contains(StartsWith(head))));
   }
+}
+
+TEST(SimStatement, AnExpansionInputForgetsWhatItsFormerModeHeld) {
+  const Identity self{Model::S100, kAllFeatures};
+  Configuration conf;
+  const auto say = [&](const char* statement) {
+    EXPECT_EQ(ApplyStatement(statement, self, conf), "") << statement;
+  };
+  const char* const digital = "EXPINPUTDCONF4=x,ADRS= 1,chanel= 2,group= 3,NC";
+  const char* const alarm = "+ALMEXPINPUTD4=a,INDEX= 0,PC= 5,PO= 5,EQ= 2,ACTCLOSE=,ACTOPEN=";
+  say(digital);
+  say(alarm);
+  say(digital);
+  EXPECT_EQ(conf.expansion[4].alarms[0].text, "a") << "the mode is the same";
+  say("EXPINPUTCCONF4=y,ADRS= 1,chanel= 2,group= 3,UNIT=m,RATIO=2");
+  EXPECT_EQ(conf.expansion[4].alarms, ExpansionInput().alarms);
+  EXPECT_NE(ApplyStatement(alarm, self, conf), "");
+  say("DISEXPINPUT4");
+  EXPECT_EQ(conf, Configuration());
+  EXPECT_THAT(ConfigurationRecords(conf, self),
+              testing::Not(testing::Contains(testing::StartsWith("EXPINPUT"))));
+}
+
+TEST(SimStatement, TheListHasTwentySlots) {
+  const Identity self{Model::KA1, 0};
+  Configuration conf;
+  conf.phones[3].number = "600";
+  int taken = 0;
+  while (ApplyStatement("+TLF=60" + std::to_string(taken) + ",Prio=0,PRV0", self, conf).empty())
+    ++taken;
+  EXPECT_EQ(taken, 19);
+  EXPECT_EQ(conf.phones[2].number, "602");
+  EXPECT_EQ(conf.phones[3].number, "600");
+  EXPECT_EQ(conf.phones[4].number, "603");
+}
+
+TEST(SimStatement, MacrosShareAMemoryOf1024Characters) {
+  const Identity self{Model::KA1, kAllFeatures};
+  Configuration conf;
+  const auto add = [&](std::size_t length) {
+    return ApplyStatement("F0={" + std::string(length - 5, 'x') + "}", self, conf).empty();
+  };
+  EXPECT_TRUE(add(1000));
+  EXPECT_FALSE(add(25));
+  EXPECT_TRUE(add(24)) << "the same number stands twice";
+  EXPECT_FALSE(add(5));
+  EXPECT_EQ(conf.macros.size(), 2U);
+  EXPECT_EQ(ApplyStatement("CLEARMACRO", self, conf), "");
+  int lines = 0;
+  while (add(5)) ++lines;
+  EXPECT_EQ(lines, 56) << "programs hold no more lines";
 }
 
 }  // namespace

@@ -233,8 +233,9 @@ std::optional<ConfAutVoz> OpenConfigured(CommandContext& context, const VoiceOpt
   return list;
 }
 
-ExitCode WriteOnline(Online& online, ConfAutVoz list, bool keepsMacro) {
+ExitCode WriteOnline(Online& online, const std::string& file, ConfAutVoz list, bool keepsMacro) {
   CommandContext& context = online.context;
+  if (file != kStandard) online.configurator.ledger.TakeFile(file);
   const ExitCode wanted = WantList(online);
   if (wanted != ExitCode::Done) return wanted;
   if (keepsMacro) {
@@ -280,8 +281,9 @@ ExitCode RunWrite(CommandContext& context, const VoiceOptions& options) {
   const ExitCode may = MayEmpty(context, options.file, *list);
   if (may != ExitCode::Done) return may;
   const bool keepsMacro = !isConfiguration && options.macro.empty();
-  return RunOnline(context, isConfiguration ? options.file : std::string(),
-                   [&](Online& online) { return WriteOnline(online, *list, keepsMacro); });
+  return RunOnline(context, isConfiguration ? options.file : std::string(), [&](Online& online) {
+    return WriteOnline(online, options.file, *list, keepsMacro);
+  });
 }
 
 }  // namespace

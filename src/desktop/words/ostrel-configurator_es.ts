@@ -3280,6 +3280,10 @@
         <translation>pasos</translation>
     </message>
     <message>
+        <source>utcOffset</source>
+        <translation>diferencia con UTC</translation>
+    </message>
+    <message>
         <source>attempts</source>
         <translation>intentos</translation>
     </message>

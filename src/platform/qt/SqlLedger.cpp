@@ -30,6 +30,7 @@ constexpr std::array kSteps{
     "steps INTEGER, attempts INTEGER, fault TEXT, detail TEXT);"
     "CREATE TABLE content (hash TEXT PRIMARY KEY, octets BLOB NOT NULL)",
     "CREATE INDEX entry_serial ON entry (serial); CREATE INDEX entry_file ON entry (file)",
+    "ALTER TABLE entry ADD COLUMN utcOffset TEXT",
 };
 
 QString TextOf(const std::string& text) { return QString::fromStdString(text); }

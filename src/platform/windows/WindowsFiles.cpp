@@ -117,17 +117,22 @@ FileResult SetAccess(const std::string& path, PACL list, bool inherits) {
   return code == ERROR_SUCCESS ? FileResult{} : Failure(code);
 }
 
+/// Whether a file that was opened can be read as one, and how large it is.
+FileResult LookAt(const Handle& file, const std::string& path, LARGE_INTEGER& size) {
+  if (IsFolder(AttributesOf(path))) return {"it is no regular file"};
+  if (!file) return Outcome(false);
+  // A device such as "NUL" or "COM1" has a file's name in every folder.
+  if (::GetFileType(file.Get()) != FILE_TYPE_DISK) return {"it is no regular file"};
+  return Outcome(::GetFileSizeEx(file.Get(), &size) != 0);
+}
+
 }  // namespace
 
 FileResult WindowsFiles::ReadUpTo(const std::string& path, std::size_t most, std::string& octets) {
   octets.clear();
   const Handle file = OpenFile(path, GENERIC_READ, OPEN_EXISTING);
   LARGE_INTEGER size{};
-  if (IsFolder(AttributesOf(path))) return {"it is no regular file"};
-  if (!file) return Outcome(false);
-  // A device such as "NUL" or "COM1" has a file's name in every folder.
-  if (::GetFileType(file.Get()) != FILE_TYPE_DISK) return {"it is no regular file"};
-  if (!::GetFileSizeEx(file.Get(), &size)) return Outcome(false);
+  if (FileResult looked = LookAt(file, path, size); !looked.Ok()) return looked;
   const bool isLarge = size.QuadPart > static_cast<LONGLONG>(most);
   if (!isLarge && !ReadAll(file.Get(), most, octets)) {
     const FileResult failed = Outcome(false);
@@ -143,10 +148,7 @@ FileResult WindowsFiles::ReadEnd(const std::string& path, std::size_t most, std:
   octets.clear();
   const Handle file = OpenFile(path, GENERIC_READ, OPEN_EXISTING);
   LARGE_INTEGER size{};
-  if (IsFolder(AttributesOf(path))) return {"it is no regular file"};
-  if (!file) return Outcome(false);
-  if (::GetFileType(file.Get()) != FILE_TYPE_DISK) return {"it is no regular file"};
-  if (!::GetFileSizeEx(file.Get(), &size)) return Outcome(false);
+  if (FileResult looked = LookAt(file, path, size); !looked.Ok()) return looked;
   LARGE_INTEGER start{};
   start.QuadPart = std::max<LONGLONG>(size.QuadPart - static_cast<LONGLONG>(most), 0);
   if (::SetFilePointerEx(file.Get(), start, nullptr, FILE_BEGIN) &&

@@ -17,9 +17,10 @@ constexpr std::size_t kLookedInto = 8;
 /// How many copies of copies of a file are followed.
 constexpr int kCopiesFollowed = 16;
 
-/// Whether an entry tells of a content that its file has had. A writing counts however it ended.
+/// Whether an entry tells of a configuration that its file has had. A writing counts however it
+/// ended; a voice-call list goes ways of its own.
 bool TellsContent(const LedgerEntry& entry) {
-  return !entry.content.empty() &&
+  return !entry.content.empty() && entry.kind != LedgerKind::VoiceWriting &&
          (entry.state == LedgerState::Done || entry.kind == LedgerKind::Writing);
 }
 

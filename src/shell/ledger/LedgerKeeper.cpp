@@ -41,6 +41,7 @@ LedgerEntry LedgerKeeper::Made(LedgerKind kind) const {
   entry.kind = kind;
   entry.state = LedgerState::UnderWay;
   entry.began = DateTimeText(subject_.platform.clock.LocalNow());
+  entry.utcOffset = UtcOffsetText(subject_.platform.clock.UtcOffset());
   entry.model = subject_.profile.TargetName;
   return entry;
 }
@@ -82,9 +83,9 @@ std::string LedgerKeeper::KeepContent(const std::string& octets) {
   return hash;
 }
 
-std::string LedgerKeeper::KeepConfiguration() {
+std::string LedgerKeeper::KeepConfiguration(const DeviceConf& conf) {
   if (!Books()) return {};
-  return KeepContent(ContentOf(subject_.platform.files, subject_.conf, subject_.profile));
+  return KeepContent(ContentOf(subject_.platform.files, conf, subject_.profile));
 }
 
 void LedgerKeeper::Close(LedgerEntry& entry, bool done, TimePoint began) {
@@ -114,6 +115,7 @@ void LedgerKeeper::DeedBegins(const LinkDeed& deed) {
   }
   if (!deed.file.empty()) deed_.file = subject_.platform.files.Absolute(deed.file);
   if (!deed.text.empty() && Books()) deed_.content = KeepContent(deed.text);
+  if (deed.kind == LedgerKind::VoiceWriting) deed_.file = source_.file;
   if (deed.kind == LedgerKind::Reading && guarded_ && written_ != 0) {
     deed_.about = written_;
     deed_.file = source_.file;
@@ -124,7 +126,7 @@ void LedgerKeeper::DeedBegins(const LinkDeed& deed) {
 
 void LedgerKeeper::Composed() {
   if (deed_.kind != LedgerKind::Writing) return;
-  const std::string content = KeepConfiguration();
+  const std::string content = KeepConfiguration(subject_.conf);
   if (deed_.id != 0 && content == deed_.content) return;
   deed_.content = content;
   Keep(deed_);
@@ -155,10 +157,12 @@ void LedgerKeeper::DeedEnds(const LinkDeed& deed, const LinkFault& fault) {
 
 void LedgerKeeper::EndReading(bool done) {
   if (done) {
-    deed_.content = held_ = KeepConfiguration();
+    deed_.content = held_ = KeepConfiguration(*subject_.received);
     copy_.clear();
-    source_.file.clear();
-    ComesFromLogger();
+    if (subject_.received == &subject_.conf) {
+      source_.file.clear();
+      ComesFromLogger();
+    }
   }
   Keep(deed_);
   if (done) reading_ = deed_;

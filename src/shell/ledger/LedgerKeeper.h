@@ -47,6 +47,7 @@ class LedgerKeeper {
   struct Subject {
     const Platform& platform;
     const DeviceConf& conf;
+    DeviceConf* const& received;  ///< where a download goes: the model, or beside it
     const TargetProfile& profile;
     const DeviceInfo& info;
   };
@@ -86,9 +87,6 @@ class LedgerKeeper {
   /// Serial number of the logger that the configuration was last read from; empty where it comes
   /// from a file, or is not known.
   const std::string& Origin() const { return source_.serial; }
-  const LedgerSource& Source() const { return source_; }
-  /// For those who have put back what stood on the pages before.
-  void SetSource(LedgerSource source) { source_ = std::move(source); }
   /// Where it keeps; null without a ledger.
   Ledger* Books() const { return subject_.platform.ledger; }
 
@@ -103,7 +101,7 @@ class LedgerKeeper {
   void Tell(const std::string& why);
   /// Keeps the octets of a configuration. Gives their hash.
   std::string KeepContent(const std::string& octets);
-  std::string KeepConfiguration();
+  std::string KeepConfiguration(const DeviceConf& conf);
   void EndReading(bool done);
   void EndWriting(bool done);
   void Close(LedgerEntry& entry, bool done, TimePoint began);

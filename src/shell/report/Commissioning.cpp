@@ -79,7 +79,7 @@ std::vector<RecordedWork> WorkDoneTo(const std::string& serial, Ledger& books) {
     std::string verified =
         isDone ? VerifiedWords(entry, entries) : std::string(OutcomeOf(entry, books));
     if (!isDone && verified.empty()) continue;  // it is under way
-    done.push_back({.when = entry.began,
+    done.push_back({.when = entry.began + (entry.utcOffset.empty() ? "" : " " + entry.utcOffset),
                     .what = std::string(WordOf(entry.kind)),
                     .verified = std::move(verified),
                     .hash = entry.content.substr(0, kHashShown),

@@ -39,9 +39,10 @@ class SessionDriver::Working {
 };
 
 SessionDriver::SessionDriver(PageContext& context, Comms& comms, General& general, bool& Connected,
-                             std::function<void()> showPages)
+                             DeviceConf* const& received, std::function<void()> showPages)
     : context_(context),
       comms_(comms),
+      received_(received),
       showPages_(std::move(showPages)),
       general_(general),
       session_(general.Session()),
@@ -248,7 +249,7 @@ bool SessionDriver::Transfer(SessionPhase kind, std::string_view status, std::st
     BeginWatch(kind);
     const bool reads = kind == SessionPhase::Reading;
     end.done = reads ? ReadOrPutBack() : comms_.WriteConf();
-    end.held = reads ? context_.conf : std::move(sent_);
+    end.held = reads ? *received_ : std::move(sent_);
     if (end.done || !reads) unverified_ = end.done && !reads;
     working.Ended(end.done);
   }
@@ -312,12 +313,13 @@ LinkResult SessionDriver::SendFirmware(const FirmwareFiles& files,
 }
 
 bool SessionDriver::ReadOrPutBack() {
-  const DeviceConf before = context_.conf;
-  lastReadFailed_ = true;
+  const DeviceConf before = *received_;
+  const bool isOfPages = received_ == &context_.conf;
   const auto putBack = [&] {
-    context_.conf = before;
-    showPages_();
+    *received_ = before;
+    if (isOfPages) showPages_();
   };
+  lastReadFailed_ = true;
   try {
     lastReadFailed_ = !comms_.ReadConf();
   } catch (...) {

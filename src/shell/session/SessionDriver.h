@@ -38,7 +38,7 @@ class SessionDriver {
  public:
   /// `showPages` shows the model on all pages.
   SessionDriver(PageContext& context, Comms& comms, General& general, bool& Connected,
-                std::function<void()> showPages);
+                DeviceConf* const& received, std::function<void()> showPages);
 
   /// One tick of `TimerComms`. A tick that arrives inside another one does nothing: the dialogue
   /// that the outer tick runs must not be disturbed.
@@ -169,6 +169,7 @@ class SessionDriver {
 
   PageContext& context_;
   Comms& comms_;
+  DeviceConf* const& received_;  ///< where a download goes: the model, or beside it
   std::function<void()> showPages_;
   General& general_;
   SessionFrame& session_;

@@ -10,29 +10,6 @@
 namespace ostrel {
 namespace {
 
-/// Puts back what stood on the pages, at the end of a scope.
-class PagesKept {
- public:
-  explicit PagesKept(Configurator& configurator)
-      : configurator_(configurator),
-        conf_(configurator.conf),
-        origin_(configurator.WhereFrom()),
-        source_(configurator.ledger.Source()) {}
-  ~PagesKept() {
-    configurator_.ShowConfiguration(conf_);
-    configurator_.SetOrigin(std::move(origin_));
-    configurator_.ledger.SetSource(std::move(source_));
-  }
-  PagesKept(const PagesKept&) = delete;
-  PagesKept& operator=(const PagesKept&) = delete;
-
- private:
-  Configurator& configurator_;
-  DeviceConf conf_;
-  Configurator::Origin origin_;
-  LedgerSource source_;
-};
-
 /// Reads what the logger holds, and gets the consent to replace it. Nothing when all is well.
 std::optional<WriteEnd> Prepare(Configurator& configurator, const WriteRoad& road,
                                 const DeviceConf& toSend) {
@@ -69,11 +46,10 @@ WriteEnd Send(Configurator& configurator, const WriteRoad& road, WriteResult& re
 
 std::optional<DeviceConf> ReadBeside(Configurator& configurator,
                                      const std::function<bool()>& read) {
-  const PagesKept kept(configurator);
-  // Emptying leaves some fields alone: what stands on the pages must not pass for what was read.
-  configurator.conf = DeviceConf{};
+  DeviceConf held;
+  const Lent beside(configurator.received, &held);
   if (!read()) return {};
-  return configurator.conf;
+  return held;
 }
 
 WriteResult WriteGuarded(Configurator& configurator, const WriteRoad& road) {

@@ -13,7 +13,7 @@ class Configurator;
 /// How a configuration is written with its guards. Each step says whether it succeeded; a face runs
 /// the transfers in its own way.
 struct WriteRoad {
-  std::function<bool()> read;   ///< downloads into the model
+  std::function<bool()> read;   ///< downloads into `Configurator::received`
   std::function<bool()> write;  ///< uploads the model
   /// Keeps what the logger held before; null keeps nothing.
   std::function<bool(const DeviceConf& held)> keep{};
@@ -46,13 +46,12 @@ struct WriteResult {
   bool IsAsSent() const { return end == WriteEnd::Written && (!verified || verified->isSame); }
 };
 
-/// What a logger holds, read beside the pages: they stay as they are, and so does what is known of
-/// where they come from. Nothing when reading failed.
+/// What a logger holds, read beside the model: it stays as it is all the while, and so does what is
+/// known of where it comes from. Nothing when reading failed.
 std::optional<DeviceConf> ReadBeside(Configurator& configurator, const std::function<bool()>& read);
 
 /// Writes the configuration of a configurator: first reads and keeps what the logger holds, then
-/// sends, then reads everything back and compares. However it ends, the pages show again what was
-/// to be written.
+/// sends, then reads everything back and compares. The model stays as it is.
 WriteResult WriteGuarded(Configurator& configurator, const WriteRoad& road);
 
 }  // namespace ostrel

@@ -1,9 +1,6 @@
 #include "tools/live/LiveRecording.h"
 
-#include <cstdlib>
-
 #include "base/Csv.h"
-#include "platform/Digits.h"
 
 namespace ostrel {
 namespace {
@@ -28,9 +25,7 @@ std::string HeadOf(const LiveValue& value) {
 std::string UtcText(const WallTime& time) { return IsoText(time.local - time.utcOffset) + "Z"; }
 
 std::string LocalText(const WallTime& time) {
-  const std::int64_t minutes = std::abs(time.utcOffset.count());
-  return IsoText(time.local) + (time.utcOffset.count() < 0 ? "-" : "+") + Padded(minutes / 60, 2) +
-         ":" + Padded(minutes % 60, 2);
+  return IsoText(time.local) + UtcOffsetText(time.utcOffset);
 }
 
 void LiveRecording::WriteHead(const LiveRound& round) {

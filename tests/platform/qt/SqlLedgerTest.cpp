@@ -110,8 +110,11 @@ TEST_F(OnDisk, IsDurableAndShared) {
 
 TEST_F(OnDisk, AnOlderSchemaGrowsAndALaterOneIsLeftAlone) {
   Ledger().Add({.serial = "Q1"});
-  Run({"DROP INDEX entry_serial", "DROP INDEX entry_file", "PRAGMA user_version=1"});
-  EXPECT_EQ(Ledger().Find({.serial = "Q1"}).size(), 1U);
+  Run({"DROP INDEX entry_serial", "DROP INDEX entry_file",
+       "ALTER TABLE entry DROP COLUMN utcOffset", "PRAGMA user_version=1"});
+  ASSERT_EQ(Ledger().Find({.serial = "Q1"}).size(), 1U);
+  EXPECT_EQ(Ledger().Find({.serial = "Q1"}).front().utcOffset, "") << "nobody knows it any more";
+  EXPECT_EQ(Ledger().Add({.utcOffset = "-03:30"}), 2);
   Run({"DROP INDEX entry_serial", "PRAGMA user_version=77"});
   SqlLedger later = Ledger();
   EXPECT_EQ(later.Add({}), 0);
