@@ -1,5 +1,6 @@
 #include "base/CodePage.h"
 #include "cli/World.h"
+#include "model/DeviceInfo.h"
 
 namespace ostrel::cli {
 namespace {

@@ -93,6 +93,7 @@ TEST(InterruptedUpload, IsToldWithItsWaysOut) {
     const QJsonArray open = world.Json().array();
     EXPECT_EQ(open.size(), 1);
     EXPECT_EQ(open[0].toObject()["holding"].toString(), "former");
+    EXPECT_TRUE(open[0].toObject()["canPutBack"].toBool());
     return "interrupted " + std::to_string(open[0].toObject()["id"].toInt()) + " --port sim:VR200 ";
   };
   std::string way = interrupt();
@@ -101,6 +102,7 @@ TEST(InterruptedUpload, IsToldWithItsWaysOut) {
   EXPECT_THAT(world.out, testing::StartsWith("the logger holds its former configuration\n"));
   EXPECT_THAT(world.out, HasSubstr("--put-back")) << "the ways out are still there";
   world.Alter([](sim::Configuration& conf) { conf.name = "Otro"; });
+  EXPECT_EQ(world.Run(way + "--look"), 1) << "it holds neither";
   world.Expect(way + "--finish", 5, "the logger was changed by others");
   EXPECT_EQ(world.Run(way + "--finish --force"), 0) << "as it is advised" << world.err;
   EXPECT_EQ(world.Logger().Conf().name, "Nuevo");
@@ -113,6 +115,9 @@ TEST(InterruptedUpload, IsToldWithItsWaysOut) {
   EXPECT_EQ(world.Run(way + "--put-back"), 0) << world.err;
   EXPECT_EQ(world.Logger().Conf().name, former);
   way = interrupt();
+  for (LedgerEntry& entry : world.ledger.entries) entry.serial = "OTHER";
+  for (const char* there : {"--look", "--put-back --force"})
+    world.Expect(way + there, 5, "the interrupted one is OTHER");
   EXPECT_EQ(world.Run(way + "--forget"), 0);
   EXPECT_EQ(world.Run("ports"), 0);
   EXPECT_THAT(world.err, Not(HasSubstr("interrupted")));

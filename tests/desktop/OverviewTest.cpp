@@ -104,6 +104,10 @@ TEST_F(OverviewBP, ANoteTellsWhatAFieldKeepsOfANumber) {
     desktop->Navigator().CommitFront();
     EXPECT_EQ(Core().conf.LTimer[0].PERIOD, kept.second) << typed;
   }
+  Type(On(*desktop, kPeriod), "5");
+  loop.RunFor(seconds(2));
+  Type(On(*desktop, kPeriod), "50000");
+  EXPECT_EQ(NoteOf(kPeriod), kCases[3].second.first) << "5 was looked at, and not taken";
 }
 
 TEST_F(OverviewBP, FindingsStandAtTheirFieldsAndAPanelLeadsThere) {

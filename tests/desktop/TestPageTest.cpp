@@ -98,14 +98,16 @@ TEST_F(TestPageView, ARunEndsOnItsColourWithItsValues) {
 TEST_F(TestPageView, TheStopButtonEndsTheRunWithTheFixtureOff) {
   Connect();
   TextBox& who = desktop->Navigator().Front()->Get<TextBox>("TextOperator");
+  TextBox& where = desktop->Navigator().Front()->Get<TextBox>("TextStation");
   who.Type("Luz");
+  where.Type("");
   const auto& fixture = world.logger->InFixture();
   int level = 0;
   for (const auto& [second, node] : {std::pair{6, "General"}, {8, "TEST"}})
     world.loop.After(std::chrono::seconds(second), "operator",
                      [this, node = node] { desktop->Window().GoTo(node); });
   world.loop.After(std::chrono::seconds(9), "operator", [&] {
-    EXPECT_EQ(who.Text(), "Luz");
+    EXPECT_EQ(who.Text() + where.Text(), "Luz") << "as it stands recorded";
     for (int output = 0; output < 4; ++output) level += fixture.Level(output);
     On<QPushButton>(*desktop, "CommandStop")->click();
     On<QPushButton>(*desktop, "CommandStop")->click();
@@ -120,7 +122,7 @@ TEST_F(TestPageView, TheStopButtonEndsTheRunWithTheFixtureOff) {
   world.loop.RunFor(std::chrono::seconds(2));
   EXPECT_FALSE(desktop->Core().comms.PortOpen()) << "the session was to end with the run";
   const std::string kept = *world.files.Read(world.Path("factory") + "/test-main.csv");
-  EXPECT_NE(kept.find(",Luz,Puesto 1,"), std::string::npos) << kept;
+  EXPECT_NE(kept.find(",Luz,,"), std::string::npos) << kept;
   EXPECT_NE(kept.find(",stopped,yes,"), std::string::npos) << kept;
 }
 

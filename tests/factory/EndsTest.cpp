@@ -76,6 +76,11 @@ TEST(TestEnds, TheButtonTellsWhyItDoesNotBegin) {
   station.program->comms.LinkBusy = false;
   station.Run();
   EXPECT_EQ(station.Status(), kPassedText);
+  EXPECT_TRUE(station.program->session.Open(SimWorld::kPort, ""));
+  station.world.loop.RunFor(std::chrono::seconds(2));
+  station.program->comms.LinkBusy = true;
+  station.Press("Command1");
+  EXPECT_EQ(station.Colour(), BackColour::Window) << "no verdict on this board";
 }
 
 TEST(RecordTable, GoesOnWhateverStandsInIt) {

@@ -208,12 +208,12 @@ TEST(MainBoard, OnlyTheTextZeroIsABlankNumber) {
 TEST(MainBoard, WhileATestRunsNothingElseUsesTheSession) {
   TestStation station(Board(sim::Model::BP));
   station.onStep = [&](const std::string& text) {
+    EXPECT_FALSE(text == "Iniciando..." && FaceOf(station.page->GetForm()["Command1"]).Enabled());
     if (text != "Comprobando E/S (1/8)...") return;
     SessionFrame& frame = station.program->general.Session();
     EXPECT_FALSE(frame.Leer.face.Enabled());
     station.program->session.AskFor(SessionPhase::Reading);
     EXPECT_FALSE(frame.ReadRequest);
-    EXPECT_FALSE(FaceOf(station.page->GetForm()["Command1"]).Enabled());
     EXPECT_FALSE(FaceOf(station.page->GetForm()["TextOperator"]).Enabled()) << "it stands recorded";
     frame.IniCom.Click();
   };

@@ -155,9 +155,13 @@ TEST(BQBoard, WithoutKeysItGoesStraightToTheModem) {
   options.fixture.keys.clear();
   TestStation station(options);
   station.page->GetForm().Get<CheckBox>("Check1").SetChecked(true);
+  station.onSent = [&](const std::string& message) {
+    if (message == "#F4") station.world.logger->InFixture().Sleep();
+  };
   station.Run();
   EXPECT_THAT(station.steps, ElementsAre("Iniciando...", "Comprobando GSM...",
                                          "Comprobacion de consumo en modo idle", kFailedText));
+  EXPECT_EQ(station.LastRecord("bq")["given serial"], "") << "it has not confirmed it";
   EXPECT_THAT(station.Boxes(), ElementsAre("Tension de bateria demasiado baja", kBQLast));
 }
 

@@ -3,6 +3,7 @@
 #include "FactoryWorld.h"
 #include "factory/RecordFile.h"
 #include "factory/SerialCounter.h"
+#include "factory/Station.h"
 #include "shell/ledger/TestRunBook.h"
 
 namespace ostrel {
@@ -105,8 +106,12 @@ TEST(Records, ARowABoardInOneTable) {
   station.page->GetForm().Get<CheckBox>("Check1").SetChecked(true);
   station.page->GetForm().Get<TextBox>("TextOperator").Type("Luz, \"jefa\"");
   station.Run();
+  EXPECT_EQ(StoredStation(station.world.settings, {}).operatorName, "Luz, \"jefa\"");
+  station.page->Form_Deactivate();
   EXPECT_TRUE(station.program->session.Open(SimWorld::kPort, ""));
   station.world.loop.RunFor(std::chrono::seconds(2));
+  EXPECT_FALSE(FaceOf(station.page->GetForm()["Command1"]).Enabled()) << "it rests, unseen";
+  station.page->Form_Activate();
   station.Run();
   const std::string table = station.Records("bq");
   station.page->GetForm().Get<TextBox>("TextStation").Type("Puesto 2");

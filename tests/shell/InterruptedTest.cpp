@@ -230,6 +230,7 @@ TEST(FindInterrupted, TellsWhatIsOpenAndWhy) {
            {{Work(Writing), Work(Reading, Failed)}, {"1 " + former}},
            {{Work(Writing), Work(Reading, Done, "B")}, {"1 " + former}},
            {{Work(Writing), Work(Writing, Done)}, {}},
+           {{Work(Writing), Work(Writing, Failed)}, {"1 " + former}},
            {{Work(Writing), Work(Writing, UnderWay, "B")}, {"1 " + former, "2 " + former}},
            {{Work(VoiceWriting), Work(Reading, Done)}, {"1 " + voice}},
            {{Work(VoiceWriting), Work(VoiceReading, Done)}, {}},

@@ -233,6 +233,11 @@ TEST_F(Books, ALoggerThatAFileIsNotForIsDoubted) {
 }
 
 TEST_F(Books, ChangesThatAFileHasNeverSeenAreTold) {
+  const auto keptInAnotherForm = [this](const std::string& hash) {
+    const std::string octets = world.ledger.contents[hash] + "\r\n";
+    if (!hash.empty()) world.ledger.KeepContent(Sha256(octets), octets);
+    return hash.empty() ? "" : Sha256(octets);
+  };
   Connect();
   ASSERT_TRUE(program->session.Download());
   program->ConfFilePath = "/site.ocf";
@@ -260,6 +265,14 @@ TEST_F(Books, ChangesThatAFileHasNeverSeenAreTold) {
   held.clear();
   EXPECT_TRUE(Write().IsAsSent());
   EXPECT_EQ(held, "");
+  for (LedgerEntry& entry : world.ledger.entries)
+    for (std::string* hash : {&entry.content, &entry.former}) *hash = keptInAnotherForm(*hash);
+  sim::Configuration earlier = world.logger->Conf();
+  earlier.name = "Primero";
+  world.logger->SetConf(earlier);
+  EXPECT_TRUE(Write().IsAsSent());
+  EXPECT_EQ(held, "") << "it held that before the last one";
+  changed.ownNumber = "600777889";
   world.logger->SetConf(changed);
   for (LedgerEntry& entry : world.ledger.entries) entry.serial = "OTHER";
   EXPECT_TRUE(Write().IsAsSent());
