@@ -59,7 +59,8 @@ void MainWindow::ShowLink() {
        .whyNot = why ? SentenceOf(*why) : QString()});
   RestForUpdate(state.phase == SessionPhase::Updating);
   Rest(session.OwnsModel());
-  const bool isReading = state.phase == SessionPhase::Reading;
+  const bool isReading =
+      state.phase == SessionPhase::Reading && configurator_.received == &configurator_.conf;
   pages_->Cover(
       isReading ? Words::tr("The configuration is being read. The page shows it when it is whole.")
                 : QString());

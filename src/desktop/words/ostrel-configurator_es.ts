@@ -856,8 +856,8 @@
         <translation>Escrito y verificado: el registrador contiene lo que muestran las páginas.</translation>
     </message>
     <message>
-        <source>the pages show again what was there before the reading</source>
-        <translation>las páginas vuelven a mostrar lo que había antes de la lectura</translation>
+        <source>the pages show what was there before the reading</source>
+        <translation>las páginas muestran lo que había antes de la lectura</translation>
     </message>
     <message>
         <source>%1 is protected: %2. Replace it all the same?</source>

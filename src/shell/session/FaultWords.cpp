@@ -170,7 +170,7 @@ FaultWords WordsOf(const SessionFault& occurred, std::string_view port) {
     words.what = {"interrupted"};
   words.outcome = Outcome(fault);
   if (fault.during == SessionPhase::Reading)
-    words.pages = {"the pages show again what was there before the reading"};
+    words.pages = {"the pages show what was there before the reading"};
   return words;
 }
 
