@@ -69,7 +69,7 @@ TEST(Recordings, ComeToTheSameAgain) {
   for (const auto& entry : fs::directory_iterator(OSTREL_RECORDINGS)) {
     if (entry.path().extension() != ".rec") continue;
     SCOPED_TRACE(entry.path().filename());
-    PlaysAgain(entry.path().filename());
+    PlaysAgain(entry.path().filename().string());
     ++count;
   }
   EXPECT_GE(count, 6);

@@ -17,9 +17,9 @@ class ModbusChannelControls {
                                          .title = "Configuracion canal MODBUS ",
                                          .help = "MODBUS",
                                          .channels = 32};
-  static constexpr std::array kThresholds{ThresholdBox{"Minimo"}, ThresholdBox{"Maximo"},
-                                          ThresholdBox{"Histeresis"},
-                                          ThresholdBox{"Persist", {}, kInt}};
+  static constexpr std::array<ThresholdBox, 4> kThresholds{
+      ThresholdBox{"Minimo"}, ThresholdBox{"Maximo"}, ThresholdBox{"Histeresis"},
+      ThresholdBox{"Persist", {}, kInt}};
 
   ModbusChannelControls(Form& form, PageContext& context);
 

@@ -15,8 +15,8 @@ class ModuloDigitalControls {
  public:
   using Record = ModuloDigital;
   static constexpr NumberForm kNumberForm = NumberForm::Num;
-  static constexpr std::array kThresholds{ThresholdBox{"Persist", "Persist:"},
-                                          ThresholdBox{"Rearm", "Rearme:"}};
+  static constexpr std::array<ThresholdBox, 2> kThresholds{ThresholdBox{"Persist", "Persist:"},
+                                                           ThresholdBox{"Rearm", "Rearme:"}};
   static ControlNames kNames() { return {.prefix = "D_"}; }
 
   ModuloDigitalControls(Form& form, const PageContext&);
@@ -37,8 +37,9 @@ class ModuloFlowControls {
  public:
   using Record = ModuloFlow;
   static constexpr NumberForm kNumberForm = NumberForm::Dec;
-  static constexpr std::array kThresholds{ThresholdBox{"Minimo"}, ThresholdBox{"Maximo"},
-                                          ThresholdBox{"Histeresis"}, ThresholdBox{"Persist"}};
+  static constexpr std::array<ThresholdBox, 4> kThresholds{
+      ThresholdBox{"Minimo"}, ThresholdBox{"Maximo"}, ThresholdBox{"Histeresis"},
+      ThresholdBox{"Persist"}};
   static ControlNames kNames() { return {.prefix = "Q_"}; }
 
   ModuloFlowControls(Form& form, PageContext& context);
@@ -94,8 +95,9 @@ class ModuloAnalogControls {
  public:
   using Record = ModuloAnalog;
   static constexpr NumberForm kNumberForm = NumberForm::Dec;
-  static constexpr std::array kThresholds{ThresholdBox{"Minimo"}, ThresholdBox{"Maximo"},
-                                          ThresholdBox{"Histeresis"}, ThresholdBox{"Persist"}};
+  static constexpr std::array<ThresholdBox, 4> kThresholds{
+      ThresholdBox{"Minimo"}, ThresholdBox{"Maximo"}, ThresholdBox{"Histeresis"},
+      ThresholdBox{"Persist"}};
   static ControlNames kNames() { return {.prefix = "A_"}; }
 
   ModuloAnalogControls(Form& form, const PageContext&);

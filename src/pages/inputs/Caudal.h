@@ -17,10 +17,10 @@ class FlowChannel {
                                          .title = "Configuracion caudalimetro",
                                          .help = "Flow",
                                          .channels = 9};
-  static constexpr std::array kThresholds{ThresholdBox{.name = "Minimo", .isScaled = true},
-                                          ThresholdBox{.name = "Maximo", .isScaled = true},
-                                          ThresholdBox{.name = "Histeresis", .isScaled = true},
-                                          ThresholdBox{.name = "Persist"}};
+  static constexpr std::array<ThresholdBox, 4> kThresholds{
+      ThresholdBox{.name = "Minimo", .isScaled = true},
+      ThresholdBox{.name = "Maximo", .isScaled = true},
+      ThresholdBox{.name = "Histeresis", .isScaled = true}, ThresholdBox{.name = "Persist"}};
 
   FlowChannel(Form& form, const PageContext& context);
 

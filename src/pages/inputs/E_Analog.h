@@ -17,8 +17,9 @@ class AnalogChannel {
                                          .title = "Configuracion entrada analogica ",
                                          .help = "Analog",
                                          .channels = 4};
-  static constexpr std::array kThresholds{ThresholdBox{"Minimo"}, ThresholdBox{"Maximo"},
-                                          ThresholdBox{"Histeresis"}, ThresholdBox{"Persist"}};
+  static constexpr std::array<ThresholdBox, 4> kThresholds{
+      ThresholdBox{"Minimo"}, ThresholdBox{"Maximo"}, ThresholdBox{"Histeresis"},
+      ThresholdBox{"Persist"}};
 
   AnalogChannel(Form& form, const PageContext& context);
 

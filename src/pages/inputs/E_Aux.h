@@ -17,8 +17,9 @@ class AuxiliaryChannel {
                                          .title = "Configuracion entrada auxiliar ",
                                          .help = {},
                                          .channels = 4};
-  static constexpr std::array kThresholds{ThresholdBox{"Minimo"}, ThresholdBox{"Maximo"},
-                                          ThresholdBox{"Histeresis"}, ThresholdBox{"Persist"}};
+  static constexpr std::array<ThresholdBox, 4> kThresholds{
+      ThresholdBox{"Minimo"}, ThresholdBox{"Maximo"}, ThresholdBox{"Histeresis"},
+      ThresholdBox{"Persist"}};
 
   AuxiliaryChannel(Form& form, const PageContext&);
 

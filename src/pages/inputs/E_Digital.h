@@ -17,8 +17,8 @@ class DigitalChannel {
                                          .help = "Digital",
                                          .channels = 9,
                                          .thresholds = NumberForm::Num};
-  static constexpr std::array kThresholds{ThresholdBox{"Persist", "Persist:"},
-                                          ThresholdBox{"Rearm", "Rearme:"}};
+  static constexpr std::array<ThresholdBox, 2> kThresholds{ThresholdBox{"Persist", "Persist:"},
+                                                           ThresholdBox{"Rearm", "Rearme:"}};
 
   DigitalChannel(Form& form, const PageContext& context);
 

@@ -17,8 +17,9 @@ class MathChannel {
                                          .title = "Configuracion canal matematico ",
                                          .help = "Math",
                                          .channels = 4};
-  static constexpr std::array kThresholds{ThresholdBox{"Minimo"}, ThresholdBox{"Maximo"},
-                                          ThresholdBox{"Histeresis"}, ThresholdBox{"Persist"}};
+  static constexpr std::array<ThresholdBox, 4> kThresholds{
+      ThresholdBox{"Minimo"}, ThresholdBox{"Maximo"}, ThresholdBox{"Histeresis"},
+      ThresholdBox{"Persist"}};
 
   MathChannel(Form& form, const PageContext&);
 

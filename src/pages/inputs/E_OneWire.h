@@ -17,8 +17,9 @@ class ProbeChannel {
                                          .title = "Configuracion sonda 1Wire ",
                                          .help = "Probe",
                                          .channels = 4};
-  static constexpr std::array kThresholds{ThresholdBox{"Minimo"}, ThresholdBox{"Maximo"},
-                                          ThresholdBox{"Histeresis"}, ThresholdBox{"Persist"}};
+  static constexpr std::array<ThresholdBox, 4> kThresholds{
+      ThresholdBox{"Minimo"}, ThresholdBox{"Maximo"}, ThresholdBox{"Histeresis"},
+      ThresholdBox{"Persist"}};
 
   ProbeChannel(Form& form, const PageContext& context);
 
