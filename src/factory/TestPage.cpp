@@ -75,7 +75,7 @@ void TestPage::Tick() {
 }
 
 void TestPage::ShowRunning(bool runs) {
-  Command1.face.SetEnabled(!runs && MayRun());
+  Command1.face.SetEnabled(MayRun());
   CommandStop.face.SetEnabled(runs);
   for (Face* face : {&TextOperator.face, &TextStation.face}) face->SetEnabled(!runs);
   if (Check1) Check1->face.SetEnabled(!runs);

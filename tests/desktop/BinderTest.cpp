@@ -331,6 +331,7 @@ TEST_F(Binder, LimitsTypingButShowsLongerTextsOfCode) {
 }
 
 TEST_F(Binder, PaintsBadNumbersAndSaysWhatIsKeptOfThem) {
+  UseLanguage("en");
   auto* edit = Show<QLineEdit>("text");
   text.Kept = [] { return TextBox::KeptNumber{"12", false}; };
   Type(edit, "12x");
