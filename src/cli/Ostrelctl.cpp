@@ -173,6 +173,7 @@ ExitCode RunChosen(const std::vector<Command>& commands, Environment& environmen
 ExitCode RunOstrelctl(std::span<const std::string> args, Environment& environment) {
   CLI::App app("Reads, checks, compares and writes the configurations of telemetry loggers",
                "ostrelctl");
+  app.allow_windows_style_options(false);  // "/site.ocf" is a file everywhere
   GlobalOptions options;
   options.lang = environment.lang;
   AddGlobals(app, options);

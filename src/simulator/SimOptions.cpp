@@ -105,6 +105,7 @@ std::string_view MatchWords(ReplayMatch match) {
 bool ParseSimOptions(std::span<const std::string> args, SimOptions& options, std::ostream& out,
                      std::ostream& err, ExitCode& code) {
   CLI::App app("A simulated telemetry logger on a pseudo-terminal", "ostrel-sim");
+  app.allow_windows_style_options(false);  // "/state" is a file everywhere
   Texts texts;
   AddOptions(app, options, texts);
   code = ExitCode::Done;

@@ -58,8 +58,8 @@ TEST(TerminalCommand, LeavesTracesAloneUnlessTold) {
   ConsoleWorld world;
   EXPECT_EQ(world.Run("terminal --port sim:VR200 --traces on --seconds 4.5 --stamp"), 0);
   EXPECT_TRUE(world.Logger().Traces());
-  EXPECT_THAT(world.out, testing::ContainsRegex("^09:05:[0-9.]{6} [0-9:]{8} rx 04\n"
-                                                "09:05:[0-9.]{6} [0-9:]{8} DI="));
+  EXPECT_THAT(world.out, HasShape("^09:05:[0-9.]{6} [0-9:]{8} rx 04\n"
+                                  "09:05:[0-9.]{6} [0-9:]{8} DI="));
   EXPECT_EQ(world.Run("terminal --port sim:VR200 --seconds 2 --json --stamp"), 0);
   EXPECT_TRUE(world.Logger().Traces());
   EXPECT_THAT(world.out, HasSubstr("\"text\":\""));

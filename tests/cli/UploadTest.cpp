@@ -201,7 +201,7 @@ TEST(Upload, ASafetyCopyIsWrittenBack) {
   ASSERT_EQ(world.Run("upload /a.ocf --no-backup --port sim:VR200"), 0) << world.err;
   EXPECT_EQ(world.Run("backups"), 0);
   const std::string name = world.out.substr(0, world.out.find(' '));
-  EXPECT_THAT(world.out, testing::MatchesRegex(name + "  Ostrel VR200  2026-03-02 09:05:..\n"));
+  EXPECT_THAT(world.out, HasShape("^" + name + "  Ostrel VR200  2026-03-02 09:05:..\n$"));
   world.Expect("restore none --port sim:VR200", 5, "\"ostrelctl backups\" lists them");
   EXPECT_EQ(world.Run("restore " + name + " --port sim:VR200"), 0) << world.err;
   EXPECT_EQ(world.Logger().Conf(), former);

@@ -8,6 +8,7 @@
 #include <QJsonObject>
 #include <functional>
 #include <initializer_list>
+#include <regex>
 #include <sstream>
 #include <string>
 #include <string_view>
@@ -20,6 +21,9 @@
 #include "platform/virtual/VirtualWorld.h"
 
 namespace ostrel::cli {
+
+/// A text in which something matches a regular expression, in full syntax on every system.
+MATCHER_P(HasShape, shape, "") { return std::regex_search(arg, std::regex(shape)); }
 
 /// Makes options of the simulated loggers with a change.
 inline SimulatedLoggers::MakeOptions With(std::function<void(sim::LoggerOptions&)> change) {
