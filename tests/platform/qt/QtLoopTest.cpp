@@ -25,11 +25,11 @@ const auto kNo = [] { return false; };
 TEST(QtEventLoopTest, ServesTimersByDueTimeAndKeepsTheDeadline) {
   QtEventLoop loop;
   std::vector<std::string> notes;
-  loop.After(milliseconds(4), "second", [&] { notes.push_back("second"); });
+  loop.After(milliseconds(90), "second", [&] { notes.push_back("second"); });
   loop.After(milliseconds(2), "first", [&] { notes.push_back("first"); });
   const TimerId gone = loop.After(milliseconds(1), "gone", [&] { notes.push_back("gone"); });
   loop.Cancel(gone);
-  loop.After(milliseconds(4), "third", [&] { notes.push_back("third"); });
+  loop.After(milliseconds(90), "third", [&] { notes.push_back("third"); });
   EXPECT_FALSE(loop.RunUntil(kNo, loop.Now() + milliseconds(200)));
   EXPECT_GE(loop.Now(), milliseconds(200));
   EXPECT_THAT(notes, ElementsAre("first", "second", "third"));
