@@ -424,7 +424,8 @@ TEST_F(WindowLivePanels, AcceptanceWaitsForTheEndOfADownload) {
     for (const char* button : {"AcceptanceExport", "PlotPicture"})
       EXPECT_FALSE(Find<QPushButton>(button)->isEnabled());
   });
-  modals.Expect([](QWidget* question) {
+  ModalScript asked;  // where the change was seen in time
+  asked.Expect([](QWidget* question) {
     for (auto* button : question->findChildren<QAbstractButton*>())
       if (button->text().contains("without saving")) button->click();
   });
