@@ -5,7 +5,6 @@
 #include <string>
 #include <string_view>
 
-#include "base/Scope.h"
 #include "cli/Console.h"
 #include "cli/ConsoleDialogs.h"
 #include "cli/Environment.h"
@@ -60,11 +59,7 @@ class CommandContext {
   }
   /// The same in another language, by its column in the table of texts.
   Translation TranslatorTo(std::int16_t column) {
-    return [this, column](std::string_view text) {
-      const AtEnd back([this, before = lang_.SelectedLang()] { lang_.SetSelectedLang(before); });
-      lang_.SetSelectedLang(column);
-      return lang_.TranslateIfRoom(text);
-    };
+    return [this, column](std::string_view text) { return lang_.TranslateToIfRoom(column, text); };
   }
 
   /// The model to work with, by its display name: that of the options, else that of the simulated

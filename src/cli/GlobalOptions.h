@@ -4,6 +4,8 @@
 #include <optional>
 #include <string>
 
+#include "lang/Lang.h"
+
 namespace ostrel::cli {
 
 /// The options that every command takes.
@@ -18,7 +20,7 @@ struct GlobalOptions {
   std::string record;       ///< file that gets every octet both ways
   std::string words;        ///< the command line, without what says where and who
   std::string simState;     ///< file in which a simulated logger is kept
-  std::int16_t lang = 1;
+  std::int16_t lang = kSpanishColumn;
   std::optional<std::int32_t> features;
   bool json = false;
   bool quiet = false;

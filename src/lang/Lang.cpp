@@ -46,10 +46,10 @@ std::vector<std::string> Lang::OfferedNames() const {
   return names;
 }
 
-std::string Lang::Translate(std::string_view text) {
-  if (!langReady_ || selectedLang_ == 1) return std::string(text);
+std::string Lang::TranslateTo(std::int16_t column, std::string_view text) {
+  if (!langReady_ || column == kSpanishColumn) return std::string(text);
   if (const auto found = rowOfKey_.find(text); found != rowOfKey_.end()) {
-    const std::string_view translation = ColumnText(langLines_[found->second], selectedLang_);
+    const std::string_view translation = ColumnText(langLines_[found->second], column);
     return std::string(translation.empty() ? text : translation);
   }
   // The free row takes part in the search and matches the empty text.
@@ -58,9 +58,9 @@ std::string Lang::Translate(std::string_view text) {
   return std::string(text);
 }
 
-std::string Lang::TranslateIfRoom(std::string_view text) {
+std::string Lang::TranslateToIfRoom(std::int16_t column, std::string_view text) {
   try {
-    return Translate(text);
+    return TranslateTo(column, text);
   } catch (const BoundFailure&) {
     return std::string(text);
   }

@@ -16,6 +16,8 @@ namespace ostrel {
 inline constexpr int kLangRows = 401;
 /// Language names that are read from the header, column 0 included.
 inline constexpr int kLangColumns = 6;
+/// Columns of the languages that the program is shipped with. Spanish is the keys' own.
+inline constexpr std::int16_t kSpanishColumn = 1, kEnglishColumn = 2;
 
 /// Translates the interface. The Spanish text in the code is the key of its translation. The table
 /// is a text file, one row a line and one field in braces a language; a text that it lacks is added
@@ -30,7 +32,7 @@ class Lang {
   bool Init();
   bool LangReady() const { return langReady_; }
 
-  /// Column of the language in use; 1 is the keys' own language.
+  /// Column of the language in use.
   std::int16_t SelectedLang() const { return selectedLang_; }
   void SetSelectedLang(std::int16_t column) { selectedLang_ = column; }
 
@@ -52,10 +54,14 @@ class Lang {
 
   /// The text in the language in use; the text itself when there is no translation. A text that
   /// has no row gets one; when the table is full that raises `BoundFailure` and changes nothing.
-  std::string Translate(std::string_view text);
+  std::string Translate(std::string_view text) { return TranslateTo(selectedLang_, text); }
 
   /// The same, but a text for which the table has no room is given back as it stands.
-  std::string TranslateIfRoom(std::string_view text);
+  std::string TranslateIfRoom(std::string_view text) {
+    return TranslateToIfRoom(selectedLang_, text);
+  }
+  /// The same in the language of a column, whichever is in use.
+  std::string TranslateToIfRoom(std::int16_t column, std::string_view text);
 
   /// Appends a row and saves the table. Raises `BoundFailure` when it is full. Does nothing before
   /// a successful `Init`, so that a table that could not be read is never replaced.
@@ -70,12 +76,13 @@ class Lang {
     using is_transparent = void;
   };
 
+  std::string TranslateTo(std::int16_t column, std::string_view text);
   void SplitRows(std::string_view text);
   void IndexRow(int row);
 
   Files& files_;
   std::string path_;
-  std::int16_t selectedLang_ = 1;
+  std::int16_t selectedLang_ = kSpanishColumn;
   std::int16_t langCount_ = 0;
   bool langReady_ = false;
   Bounded<std::string, kLangColumns> langNames_;

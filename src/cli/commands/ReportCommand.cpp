@@ -9,9 +9,6 @@ namespace {
 constexpr std::string_view kHtmlEnd = ".html";
 constexpr std::string_view kPdfEnd = ".pdf";
 constexpr std::string_view kPortWord = "port";
-// Columns of the table of texts.
-constexpr std::int16_t kSpanish = 1;
-constexpr std::int16_t kEnglish = 2;
 
 struct ReportOptions {
   std::string file;  ///< or "port"
@@ -35,7 +32,7 @@ ExitCode WriteReport(CommandContext& context, const ReportOptions& options,
             return context.environment.translate ? context.environment.translate(code, text)
                                                  : std::string(text);
           },
-      .translate = context.TranslatorTo(code == "es" ? kSpanish : kEnglish)};
+      .translate = context.TranslatorTo(code == "es" ? kSpanishColumn : kEnglishColumn)};
   std::string octets = ReportHtml(CommissioningReport(work, language, context.platform.files));
   if (options.out.ends_with(kPdfEnd)) octets = context.environment.makePdf(octets);
   FileResult saved = {"it could not be set as pages"};

@@ -28,7 +28,9 @@ using namespace ostrel;
 using namespace ostrel::cli;
 
 /// The column of the language table that stands for the locale: Spanish, or else English.
-std::int16_t LangColumn() { return QLocale::system().language() == QLocale::Spanish ? 1 : 2; }
+std::int16_t LangColumn() {
+  return QLocale::system().language() == QLocale::Spanish ? kSpanishColumn : kEnglishColumn;
+}
 
 int Run(const std::vector<std::string>& args) {
   Machine machine;

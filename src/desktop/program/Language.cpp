@@ -13,7 +13,7 @@ namespace ostrel {
 QString LanguageCode(const Lang& lang) {
   constexpr int kLastColumn = kLangColumns - 1;
   const int column = lang.SelectedLang();
-  if (column <= 1) return "es";
+  if (column <= kSpanishColumn) return "es";
   const QString name = column <= kLastColumn ? ToQt(lang.LangName(column)) : QString();
   const bool isSpanish =
       name.compare(QLocale(QLocale::Spanish).nativeLanguageName(), Qt::CaseInsensitive) == 0;
