@@ -31,7 +31,8 @@ struct Environment {
   Ask ask;  ///< empty when no operator sits at the terminal
   /// Reads an open descriptor to its end, or to the end of its first line, which it leaves out.
   std::function<FileResult(int descriptor, bool lineOnly, std::string& octets)> readDescriptor;
-  std::int16_t lang = kSpanishColumn;    ///< column of the language table that the user's language asks for
+  std::int16_t lang =
+      kSpanishColumn;       ///< column of the language table that the user's language asks for
   std::string code;         ///< access code of the environment; empty for none
   std::string dataFolder;   ///< the user's own; made when needed
   Station station{};        ///< of factory tests, where none is stored

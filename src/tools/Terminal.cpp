@@ -88,13 +88,19 @@ void Terminal::Send(std::string_view head, TextBox& box, TypedHistory& history) 
   Post(std::string(head) + box.Text(), [&history, text = box.Text()] { history.Add(text); });
 }
 
-/// No reply is awaited: what the logger says is shown as it comes. A dialogue that has the line
-/// keeps it: a box that tells of that would hold the dialogue up, so the line below tells.
+/// Why nothing can be sent now; empty where it can. A box that tells of it would hold a dialogue up
+/// that has the line, so the line below the text tells.
+std::string_view Terminal::Hindrance() const {
+  if (context_.comms.LinkBusy) return "La linea esta ocupada: no se ha enviado nada";
+  if (!context_.comms.PortOpen()) return "No hay ninguna sesion: no se ha enviado nada";
+  return {};
+}
+
+/// No reply is awaited: what the logger says is shown as it comes.
 void Terminal::Post(std::string message, const std::function<void()>& sent) {
   context_.comms.Reading().WhenFree([this, message = std::move(message), sent]() mutable {
-    if (context_.comms.LinkBusy)
-      return LabelLines.face.SetCaption(
-          context_.Translate("La linea esta ocupada: no se ha enviado nada"));
+    if (const std::string_view why = Hindrance(); !why.empty())
+      return LabelLines.face.SetCaption(context_.Translate(why));
     context_.comms.TxSer(message, 0);
     if (sent) sent();
     ShowLines();

@@ -30,6 +30,7 @@ class Terminal final : public FrontForm {
   void Show(std::string_view text);
   void Send(std::string_view head, TextBox& box, TypedHistory& history);
   /// Sends a message and runs `sent`, unless a dialogue has the line.
+  std::string_view Hindrance() const;
   void Post(std::string message, const std::function<void()>& sent = {});
   void Save();
   void SwitchLog();

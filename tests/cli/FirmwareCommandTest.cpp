@@ -30,6 +30,29 @@ TEST(FirmwareCommand, LooksAtTheFilesAndAsksBeforeItErases) {
   }
 }
 
+TEST(FirmwareCommand, AnInterruptIsAskedForTwiceWhileThereIsNoFirmware) {
+  using std::chrono::seconds;
+  struct Case {
+    std::vector<int> at;  ///< seconds after the beginning of the update
+    int code;
+  };
+  for (const Case& c : {Case{{1}, 0}, {{1, 7}, 0}, {{1, 5}, 4}}) {
+    World world(WithFaults({"ready-late:8000"}));
+    world.files.contents["/i.hex"] = HexFile(400);
+    world.files.contents["/CopyFlash.hex"] = HexFile(10);
+    bool hasBegun = false;
+    world.Logger().OnExchange([&](const sim::Exchange& exchange) {
+      if (exchange.request != "#F0" || std::exchange(hasBegun, true)) return;
+      for (const int second : c.at)
+        world.loop.After(seconds(second), "interrupt", [&] { world.environment.onInterrupt(); });
+    });
+    EXPECT_EQ(world.Run("firmware /i.hex /CopyFlash.hex --yes --port sim:VR200"), c.code)
+        << world.err;
+    EXPECT_TRUE(hasBegun);
+    EXPECT_THAT(world.err, HasSubstr("interrupt again within 5 s to break off"));
+  }
+}
+
 /// A logger without firmware greets, and has no other answer until it is sent one.
 TEST(FirmwareCommand, IsStartedAgainAfterAFailure) {
   World world(WithFaults({"refuse-loader!once"}));

@@ -94,6 +94,10 @@ TEST(Online, RecordsLiveValues) {
     why = "it is a folder";
     return path == "/" ? nullptr : std::make_unique<std::ostream>(nullptr);  // takes nothing
   };
+  world.files.contents["/old.csv"] = "utc,local,DI0\n";
+  world.Expect(watch + "/old.csv", 5, "/old.csv holds something already: --yes replaces");
+  EXPECT_EQ(world.Run(watch + "/old.csv --yes"), 5) << "it takes nothing";
+  EXPECT_THAT(world.err, HasSubstr("cannot write the values"));
   world.Expect(watch + "/full", 5, "cannot write the values to /full to the end");
   world.Expect(watch + "/", 5, "cannot write the values to /: it is a folder");
   EXPECT_EQ(world.Run("live --port sim:BQ --count 3"), 2);

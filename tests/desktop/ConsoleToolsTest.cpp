@@ -47,6 +47,20 @@ TEST_F(ConsoleTools, TheConsoleShowsEachLineOnceAndItsEnd) {
   Type(find, "THREE");
   Press(find, Qt::Key_Return);
   EXPECT_EQ(text->textCursor().selectedText(), "three");
+  const auto isMissed = [&] {
+    return Window().Pages().Front()->findChild<QLabel*>("NotFound")->isVisibleTo(&Window());
+  };
+  const int found = text->textCursor().position();
+  Type(find, "threefold");
+  Press(find, Qt::Key_Return);
+  EXPECT_TRUE(isMissed());
+  EXPECT_EQ(text->textCursor().position(), found);
+  Type(find, "e");
+  EXPECT_FALSE(isMissed());
+  Press(find, Qt::Key_Return);
+  EXPECT_GT(text->textCursor().position(), found);
+  for (int i = 0; i < 2; ++i) Press(find, Qt::Key_Return, {}, Qt::ShiftModifier);
+  EXPECT_LT(text->textCursor().position(), found);
   EXPECT_TRUE(On<QCheckBox>(*desktop, "PauseCheck")->isChecked())
       << "what was found stays in sight";
   Window().Pages().Redraw();

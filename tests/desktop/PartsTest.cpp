@@ -19,6 +19,7 @@
 #include "platform/virtual/LinePort.h"
 #include "platform/virtual/VirtualDialogs.h"
 #include "platform/virtual/VirtualLoop.h"
+#include "shell/check/CheckRules.h"
 #include "shell/schedule/ScheduleWords.h"
 #include "shell/session/FaultWords.h"
 

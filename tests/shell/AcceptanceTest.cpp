@@ -48,20 +48,20 @@ TEST(Acceptance, ListsWhatIsConfiguredInTheOrderOfTheTree) {
 }
 
 TEST(Acceptance, KnowsWhatAnInputMeasures) {
-  constexpr LiveRead kCame{.hasCome = true, .missed = 1, .at = {}};
-  constexpr LiveRead kStale{.hasCome = true, .missed = 2, .at = {}};
+  constexpr LiveRead kCame{.hasCome = true, .missed = 0, .at = {}};
+  constexpr LiveRead kMissed{.hasCome = true, .missed = 1, .at = {}};
   const LiveRound round{{},
                         {{{LiveKind::Digital, 3}, "", "", {}, true, kCame},
                          {{LiveKind::Counter, 3}, "", "", 1042., {}, kCame},
                          {{LiveKind::Flow, 3}, "", "m3/h", double(3.2F), {}, kCame},
-                         {{LiveKind::Modbus, 31}, "", "bar", 1., {}, kStale}}};
+                         {{LiveKind::Modbus, 31}, "", "bar", 1., {}, kMissed}}};
   const auto valueOf = [&](const std::string& node, int number) {
     return InputValue({.node = node, .kind = {}, .number = number}, round);
   };
   EXPECT_EQ(valueOf("Caudal_3", 3), "3.2 m3/h; 1042");
   EXPECT_EQ(valueOf("E_Digital_3", 3), "1");
   EXPECT_EQ(valueOf("E_Digital_4", 4), "") << "the model has none";
-  EXPECT_EQ(valueOf("MODBUS_31", 31), "") << "too old";
+  EXPECT_EQ(valueOf("MODBUS_31", 31), "") << "of the round before";
 }
 
 TEST(Acceptance, IsKeptAtEachChange) {
@@ -102,6 +102,36 @@ TEST(Acceptance, IsKeptAtEachChange) {
   EXPECT_NE(newer.Error(), "");
   newer.Begin({""});
   EXPECT_EQ(newer.Error(), "");
+}
+
+TEST(Acceptance, GoesAlongWhenTheConfigurationGetsAName) {
+  VirtualFiles files;
+  VirtualClock clock;
+  AcceptanceWork work(files, clock, "/data");
+  const auto begin = [&](const char* serial, const char* name) {
+    work.Begin({serial,
+                name,
+                "Tavro BP",
+                {{"E_Digital_0", "digital input", 0}, {"E_Digital_1", "digital input", 1}}});
+    return work.Present().points[1].verdict;
+  };
+  const auto noted = [&](const char* name) {
+    return !AcceptanceFiles(files, "/data").Read("1", name).acceptance.points.empty();
+  };
+  begin("1", "");
+  work.Judge(1, Verdict::Failed, "0");
+  EXPECT_EQ(begin("1", "a.ocf"), Verdict::Failed);
+  EXPECT_TRUE(noted("a.ocf")) << "at once";
+  EXPECT_EQ(begin("1", "b.ocf"), Verdict::Open) << "of another name";
+  work.Judge(1, Verdict::Passed, "1");
+  EXPECT_EQ(begin("1", ""), Verdict::Failed);
+  EXPECT_EQ(begin("2", "a.ocf"), Verdict::Open) << "of another logger";
+  begin("1", "");
+  EXPECT_EQ(begin("1", "b.ocf"), Verdict::Passed) << "what stands under the name already";
+  begin("1", "");
+  work.Judge(1, Verdict::Open, "");
+  begin("1", "c.ocf");
+  EXPECT_FALSE(noted("c.ocf")) << "nothing was noted";
 }
 
 TEST(Acceptance, KeepsNotesOfInputsThatHaveGone) {

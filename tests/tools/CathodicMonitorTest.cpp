@@ -21,6 +21,8 @@ TEST(CathodicMonitor, WritesAllOutputsAndKeepsItsFirstNames) {
   station.program.live.AnalogName[0] = "of a later session";
   station.Run(milliseconds(900));
   EXPECT_EQ(FaceOf(form["Label_AN_Name(0)"]).Caption(), "Nivel depósito");
+  EXPECT_EQ(FaceOf(form["Label_MAT_Name(0)"]).Caption(), station.program.live.MathName[0]);
+  EXPECT_NE(station.program.live.MathName[0], "");
   EXPECT_EQ(FaceOf(form["Label_AUX_Name(1)"]).Caption(), "Canal 1 (150mVCC):");
   EXPECT_EQ(FaceOf(form["Label_AUX_Unit(1)"]).Caption(), "mV");
   EXPECT_EQ(form.Get<DigitBox>("Digit_AUX(3)").Text(), " 0");

@@ -184,6 +184,34 @@ TEST(Monitor, ATickSwitchesAnOutputOverOnce) {
   EXPECT_EQ(station.Get<LedMedio>("Led_O(5)").Value(), LedMedio::kLit);
 }
 
+TEST(Monitor, AnOutputIsTickedOnlyWhereItsStateIsKnown) {
+  LiveStation station(sim::Model::KA1);
+  const auto& box = station.Get<CheckBox>("CheckCambiarEstado(0)");
+  const auto tick = [&] { station.Get<CheckBox>("CheckCambiarEstado(0)").SetChecked(true); };
+  station.ShowMonitor();
+  EXPECT_TRUE(box.face.Enabled());
+  tick();
+  station.navigation.NodeClick("General");
+  station.navigation.NodeClick("T_Real");
+  EXPECT_FALSE(box.Checked()) << "whoever leaves the page has thought better of it";
+  for (int round = 0; round < kRoundsToStale; ++round)
+    station.program.live.reads[static_cast<int>(LiveAnswer::Masks)].Note(false, {});
+  tick();
+  station.program.monitor.Form_Activate();
+  EXPECT_FALSE(box.face.Enabled()) << "the state is an old one";
+  EXPECT_FALSE(box.Checked());
+  station.Run(milliseconds(1200));
+  EXPECT_TRUE(box.face.Enabled());
+  station.program.session.Close(false);
+  tick();
+  station.Run(milliseconds(1200));
+  EXPECT_FALSE(box.Checked() || box.face.Enabled()) << "there is no session";
+  tick();
+  station.Connect();
+  station.Run(milliseconds(1200));
+  EXPECT_EQ(station.world.logger->Outputs(), 0u);
+}
+
 TEST(Monitor, OlderFirmwareLeavesMathBlank) {
   sim::LoggerOptions options = sim::MakeDefaultOptions(sim::Model::BP);
   options.features &= ~sim::kMath;
@@ -192,6 +220,11 @@ TEST(Monitor, OlderFirmwareLeavesMathBlank) {
   EXPECT_EQ(station.Digits("Digit_MAT(0)"), "");
   EXPECT_EQ(station.Digits("Digit_RMAT(0)"), "");
   EXPECT_NE(station.Digits("Digit_AN(0)"), "");
+  EXPECT_EQ(station.Get<DigitBox>("Digit_MAT(0)").Stale(), Staleness{}) << "nothing stands there";
+  station.Get<DigitBox>("Digit_MAT(0)").SetText("of another logger");
+  station.Run(milliseconds(1200));
+  EXPECT_EQ(station.Digits("Digit_MAT(0)"), "of another logger");
+  EXPECT_TRUE(station.Get<DigitBox>("Digit_MAT(0)").Stale().isStale);
 }
 
 TEST(Monitor, GreysWhatDidNotComeInTwoRounds) {

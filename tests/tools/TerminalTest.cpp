@@ -87,6 +87,11 @@ TEST_F(TerminalPage, ShowsWhatComesWhileItIsInFrontOfAnOpenSession) {
   program.Connected = false;
   Comes("of nobody");
   EXPECT_EQ(Shown(), "\n");
+  program.session.Close(false);
+  form.Get<TextBox>("TextComando").Type("VER");
+  Press("EnviarBut");
+  EXPECT_EQ(FaceOf(form["LabelLines"]).Caption(), "No hay ninguna sesion: no se ha enviado nada");
+  EXPECT_THAT(asked, IsEmpty());
 }
 
 TEST_F(TerminalPage, SendsWhatIsTypedAndKeepsItForTheArrowKeys) {

@@ -1,3 +1,6 @@
+#include <utility>
+
+#include "base/Scope.h"
 #include "cli/TransferLine.h"
 #include "cli/commands/Commands.h"
 #include "cli/commands/OnlineCommand.h"
@@ -7,6 +10,7 @@ namespace ostrel::cli {
 namespace {
 
 constexpr std::string_view kStay = "--yes sends them all the same";
+constexpr Duration kSecondThought = std::chrono::seconds(5);
 
 /// Reads the files and has the operator look at what seems wrong with them.
 ExitCode TakeFiles(CommandContext& context, const FirmwarePaths& paths, FirmwareFiles& files) {
@@ -43,6 +47,19 @@ std::string_view StageWords(FirmwareStage stage) {
   return "all is sent: the logger writes its flash";
 }
 
+/// While the flash holds no firmware an interrupt only tells what it would leave behind; one more,
+/// soon after it, breaks off.
+std::function<void()> AskingTwice(Online& online, std::function<void()> breakOff) {
+  return [&online, breakOff = std::move(breakOff), until = TimePoint::min()]() mutable {
+    const EventLoop& loop = online.context.platform.loop;
+    if (online.configurator.session.Flash() == FlashState::Kept || loop.Now() < until)
+      return breakOff();
+    until = loop.Now() + kSecondThought;
+    online.context.console.Say(
+        "the logger has no firmware until this ends: interrupt again within 5 s to break off");
+  };
+}
+
 ExitCode SendFiles(Online& online, const FirmwareFiles& files) {
   CommandContext& context = online.context;
   const std::string& logger = online.configurator.profile.TargetName;
@@ -57,6 +74,8 @@ ExitCode SendFiles(Online& online, const FirmwareFiles& files) {
   };
   ExitCode code = ExitCode::Done;
   {
+    std::function<void()>& onInterrupt = context.environment.onInterrupt;
+    const Lent<std::function<void()>> asksTwice(onInterrupt, AskingTwice(online, onInterrupt));
     const TransferLine shown(context.console, online.configurator.session.Watch(), "firmware",
                              context.environment.errIsTerminal);
     code = online.session.SendFirmware(files, tell);

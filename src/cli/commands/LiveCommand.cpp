@@ -154,8 +154,19 @@ class LiveRun {
  private:
   bool IsOnOutput() const { return options_.csv == kStandard; }
 
+  /// A former recording goes with a question alone: nobody measures those rounds again.
+  bool MayReplace() {
+    std::string end;
+    const FileResult read = context_.platform.files.ReadEnd(options_.csv, 1, end);
+    return !read.Ok() || end.empty() ||
+           context_.dialogs.Confirm(options_.csv + " holds something already. Replace it?");
+  }
+
   ExitCode OpenRecording() {
     if (options_.csv.empty()) return ExitCode::Done;
+    if (!IsOnOutput() && !MayReplace())
+      return context_.console.Fail(ExitCode::BadFile, options_.csv + " holds something already: " +
+                                                          "--yes replaces a recording");
     std::string why;
     auto out = IsOnOutput() ? std::make_unique<std::ostream>(context_.console.Out().rdbuf())
                             : context_.environment.openRecording(options_.csv, why);

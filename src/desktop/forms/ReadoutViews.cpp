@@ -77,10 +77,6 @@ class DigitView final : public Readout {
   }
   QSize minimumSizeHint() const override { return sizeHint(); }
   QString ValueText() const override { return WithAge(ToQt(box_.Text()).trimmed(), box_.Stale()); }
-  void Follow() {
-    setToolTip(ValueText());
-    Told();
-  }
 
  protected:
   void paintEvent(QPaintEvent*) override {
@@ -132,10 +128,6 @@ class LampView final : public Readout {
   }
   QString ValueText() const override {
     return WithAge(IsLit() ? Words::tr("on") : Words::tr("off"), lamp_.Stale());
-  }
-  void Follow() {
-    setToolTip(ValueText());
-    Told();
   }
 
  protected:
@@ -195,9 +187,8 @@ class LimitView final : public Readout {
   }
   void Follow() {
     setAccessibleName(Words::tr("Alarm limits of %1").arg(ToQt(bar_.face.Caption())));
-    setToolTip(ValueText());
     updateGeometry();
-    Told();
+    Readout::Follow();
   }
 
  protected:
@@ -298,7 +289,8 @@ Bound MakeReadout(Control& control, QWidget* parent) {
 
 }  // namespace
 
-void Readout::Told() {
+void Readout::Follow() {
+  setToolTip(ValueText());
   update();
   if (!QAccessible::isActive()) return;
   QAccessibleValueChangeEvent event(this, ValueText());

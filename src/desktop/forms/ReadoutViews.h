@@ -13,9 +13,8 @@ class Readout : public QWidget {
   using QWidget::QWidget;
   virtual QString ValueText() const = 0;
 
- protected:
   /// Draws anew, and tells what is shown now.
-  void Told();
+  void Follow();
 };
 
 Bound BindReadout(DigitBox& box, QWidget* parent);

@@ -1,4 +1,6 @@
 #include <QCheckBox>
+#include <QKeyEvent>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
@@ -10,23 +12,46 @@
 namespace ostrel {
 namespace {
 
-/// Finds what is typed, from the cursor on and then from the start. New text would carry the place
-/// that was found out of sight, so it is held back from then on.
-QLineEdit* FindBox(FormView& view, QPlainTextEdit* text, QCheckBox* pause) {
-  auto* box = view.Own(new QLineEdit(&view));
-  box->setObjectName("Find");
-  box->setClearButtonEnabled(true);
-  box->setPlaceholderText(Words::tr("Find in the text"));
-  box->setAccessibleName(Words::tr("Find in the text"));
-  QObject::connect(box, &QLineEdit::returnPressed, text, [box, text, pause] {
-    if (box->text().isEmpty()) return;
-    pause->setChecked(true);
-    if (text->find(box->text())) return;
-    text->moveCursor(QTextCursor::Start);
-    text->find(box->text());
-  });
-  return box;
-}
+/// Finds what is typed, forwards with Return and backwards with Shift, and says where it is not
+/// there. New text would carry the place that was found out of sight, so it is held back from then
+/// on.
+class FindBox final : public QLineEdit {
+ public:
+  FindBox(QPlainTextEdit& text, QCheckBox& pause, QLabel& missed)
+      : text_(text), pause_(pause), missed_(missed) {
+    setObjectName("Find");
+    setClearButtonEnabled(true);
+    setPlaceholderText(Words::tr("Find in the text"));
+    setAccessibleName(Words::tr("Find in the text"));
+    connect(this, &QLineEdit::textChanged, &missed, &QWidget::hide);
+  }
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override {
+    QLineEdit::keyPressEvent(event);
+    const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (!isReturn || text().isEmpty()) return;
+    const bool isFound = Find(event->modifiers().testFlag(Qt::ShiftModifier));
+    if (isFound) pause_.setChecked(true);
+    missed_.setVisible(!isFound);
+  }
+
+ private:
+  /// From the cursor on, and then from the other end. Where nothing is found the cursor stays.
+  bool Find(bool backwards) {
+    const auto way = backwards ? QTextDocument::FindBackward : QTextDocument::FindFlags();
+    if (text_.find(text(), way)) return true;
+    const QTextCursor before = text_.textCursor();
+    text_.moveCursor(backwards ? QTextCursor::End : QTextCursor::Start);
+    if (text_.find(text(), way)) return true;
+    text_.setTextCursor(before);
+    return false;
+  }
+
+  QPlainTextEdit& text_;
+  QCheckBox& pause_;
+  QLabel& missed_;
+};
 
 Card SendCard(FormView& view) {
   const Card card = MakeCard(view, std::string_view("EnviarFrame"));
@@ -56,7 +81,11 @@ Card ConsoleCard(FormView& view) {
        {view.Show("StampCheck"), static_cast<QWidget*>(pause), view.Show("LogCheck")})
     row->addWidget(widget);
   auto* text = static_cast<QPlainTextEdit*>(view.ShowNamed("TextWin", Words::tr("Console")));
-  row->addWidget(FindBox(view, text, pause), 1);
+  auto* missed = view.Own(new QLabel(Words::tr("Not found"), &view));
+  missed->setObjectName("NotFound");
+  missed->hide();
+  row->addWidget(view.Own(new FindBox(*text, *pause, *missed)), 1);
+  row->addWidget(missed);
   for (const auto* name : {"SaveBut", "BorrarBut"}) row->addWidget(view.Show(name));
   card.grid->addLayout(row, 0, 0);
   text->setMinimumHeight(160);

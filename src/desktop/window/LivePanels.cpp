@@ -113,11 +113,12 @@ void LivePanels::FollowConfiguration() {
   Acceptance subject{.serialNumber = configurator_.info.SerialNumber,
                      .configuration = ConfigurationName(file_),
                      .model = configurator_.profile.TargetName};
-  const bool isSame = workOn_ == configurator_.conf && subject.model == present.model &&
-                      subject.configuration == present.configuration;
+  const bool isSame = workOn_ == configurator_.conf && subject.model == present.model;
+  const bool hasSameName = subject.configuration == present.configuration;
   if (!configurator_.Connected)
-    subject.serialNumber = isSame ? present.serialNumber : std::string();
-  if (isSame && subject.serialNumber == present.serialNumber) return;
+    subject.serialNumber =
+        isSame && (hasSameName || present.configuration.empty()) ? present.serialNumber : "";
+  if (isSame && hasSameName && subject.serialNumber == present.serialNumber) return;
   workOn_ = configurator_.conf;
   subject.points = ConfiguredInputs(
       {configurator_.profile, configurator_.conf},

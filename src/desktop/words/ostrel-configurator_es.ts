@@ -3516,6 +3516,10 @@
         <translation>Buscar en el texto</translation>
     </message>
     <message>
+        <source>Not found</source>
+        <translation>No se encuentra</translation>
+    </message>
+    <message>
         <source>Command:</source>
         <translation>Comando:</translation>
     </message>

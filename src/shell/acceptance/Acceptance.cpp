@@ -38,6 +38,10 @@ std::set<std::string> NodesOf(const TargetProfile& profile) {
   return keys;
 }
 
+bool IsOfSameInput(const AcceptancePoint& one, const AcceptancePoint& other) {
+  return one.node == other.node && one.kind == other.kind && one.name == other.name;
+}
+
 }  // namespace
 
 std::string_view VerdictWord(Verdict verdict) {
@@ -84,9 +88,8 @@ std::vector<AcceptancePoint> WithNotes(std::vector<AcceptancePoint> inputs,
                                        const std::vector<AcceptancePoint>& noted) {
   for (const AcceptancePoint& note : noted) {
     if (!note.IsTouched()) continue;
-    const auto input = std::ranges::find_if(inputs, [&](const AcceptancePoint& each) {
-      return each.node == note.node && each.kind == note.kind && each.name == note.name;
-    });
+    const auto input = std::ranges::find_if(
+        inputs, [&](const AcceptancePoint& each) { return IsOfSameInput(each, note); });
     if (input == inputs.end())
       inputs.push_back(note);
     else
@@ -95,13 +98,24 @@ std::vector<AcceptancePoint> WithNotes(std::vector<AcceptancePoint> inputs,
   return inputs;
 }
 
+std::vector<AcceptancePoint> NotesOf(const std::vector<AcceptancePoint>& inputs,
+                                     const std::vector<AcceptancePoint>& noted) {
+  std::vector<AcceptancePoint> notes;
+  for (const AcceptancePoint& note : noted)
+    if (note.IsTouched() && std::ranges::any_of(inputs, [&](const AcceptancePoint& each) {
+          return IsOfSameInput(each, note);
+        }))
+      notes.push_back(note);
+  return notes;
+}
+
 std::string InputValue(const AcceptancePoint& point, const LiveRound& round) {
   const auto target = FindNodeTarget(point.node, {}, false);
   std::string text;
   for (const auto& [page, kind] : kMeasured) {
     if (!target || target->form != FormId(page)) continue;
     const LiveValue* value = round.Find({kind, point.number});
-    if (!value || value->read.IsStale() || !value->HasValue()) continue;
+    if (!value || !value->IsFresh()) continue;
     text += (text.empty() ? "" : "; ") + LiveText(*value);
     if (!value->unit.empty()) text += " " + value->unit;
   }

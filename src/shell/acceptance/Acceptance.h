@@ -61,8 +61,12 @@ std::vector<AcceptancePoint> ConfiguredInputs(const ModelConfiguration& configur
 std::vector<AcceptancePoint> WithNotes(std::vector<AcceptancePoint> inputs,
                                        const std::vector<AcceptancePoint>& noted);
 
+/// The touched points of `noted` that are of one of the inputs.
+std::vector<AcceptancePoint> NotesOf(const std::vector<AcceptancePoint>& inputs,
+                                     const std::vector<AcceptancePoint>& noted);
+
 /// What an input measures in a round, with its unit: "3.2 m3/h; 1042" where it counts, too. Empty
-/// for what has not come lately.
+/// for what did not come in it.
 std::string InputValue(const AcceptancePoint& point, const LiveRound& round);
 
 /// How many points have a verdict.

@@ -5,13 +5,20 @@
 namespace ostrel {
 
 void AcceptanceWork::Begin(const Acceptance& subject) {
-  present_ = subject;
+  const Acceptance former = std::exchange(present_, subject);
   error_.clear();
   if (subject.serialNumber.empty()) return;
   AcceptanceFiles::Kept kept = files_.Read(subject.serialNumber, subject.configuration);
   error_ = kept.result.error;
   isForeign_ = !kept.result.Ok();
   present_.points = WithNotes(std::move(present_.points), kept.acceptance.points);
+  const bool isNamed = former.configuration.empty() && !subject.configuration.empty() &&
+                       former.serialNumber == subject.serialNumber && former.model == subject.model;
+  if (!isNamed || isForeign_ || !kept.acceptance.points.empty()) return;
+  const std::vector<AcceptancePoint> notes = NotesOf(subject.points, former.points);
+  if (notes.empty()) return;
+  present_.points = WithNotes(std::move(present_.points), notes);
+  Keep();
 }
 
 void AcceptanceWork::Judge(std::size_t place, Verdict verdict, const std::string& value) {

@@ -18,6 +18,7 @@ class AcceptanceWork {
 
   /// Takes the inputs of a configuration, with what was noted of them on this logger before.
   /// `subject` says which logger and configuration; without a serial number nothing can be noted.
+  /// Where the configuration gets a name only now, what was noted of its inputs goes along.
   void Begin(const Acceptance& subject);
 
   const Acceptance& Present() const { return present_; }

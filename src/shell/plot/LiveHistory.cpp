@@ -4,11 +4,13 @@
 #include <array>
 #include <cmath>
 #include <limits>
+#include <span>
 
 namespace ostrel {
 namespace {
 
 constexpr std::size_t kRoundsAChunk = 1024;
+constexpr int kFull = 16;  // values of a pixel column
 constexpr double kGap = std::numeric_limits<double>::quiet_NaN();
 
 // What stands for a value that did not come.
@@ -18,11 +20,16 @@ constexpr float kGapOf(float) { return std::numeric_limits<float>::quiet_NaN(); 
 constexpr double kGapOf(double) { return kGap; }
 
 template <class Cell>
-double NumberOf(Cell cell) {
+bool IsGap(Cell cell) {
   if constexpr (std::is_integral_v<Cell>)
-    return cell == kGapOf(cell) ? kGap : static_cast<double>(cell);
+    return cell == kGapOf(cell);
   else
-    return static_cast<double>(cell);
+    return std::isnan(cell);
+}
+
+template <class Cell>
+double NumberOf(Cell cell) {
+  return IsGap(cell) ? kGap : static_cast<double>(cell);
 }
 
 template <class Cell>
@@ -78,7 +85,7 @@ void LiveHistory::Learn(const LiveRound& round) {
 }
 
 LiveHistory::Chunk& LiveHistory::Begin(const LiveRound& round, Moment at) {
-  Chunk& chunk = chunks_.emplace_back(Chunk{at, round.at.utcOffset, {}, {}, {}});
+  Chunk& chunk = chunks_.emplace_back(Chunk{.start = at, .offset = round.at.utcOffset});
   chunk.after.reserve(kRoundsAChunk);
   chunk.ids.reserve(round.values.size());
   chunk.columns.reserve(round.values.size());
@@ -111,6 +118,7 @@ void LiveHistory::Add(const LiveRound& round) {
   };
   const bool goesOn = !chunks_.empty() && fits(chunks_.back());
   Chunk& chunk = goesOn ? chunks_.back() : Begin(round, at);
+  chunk.isSteady = chunk.isSteady && (chunk.after.empty() || at - chunk.Last() <= kPause);
   chunk.after.push_back(static_cast<std::uint32_t>((at - chunk.start).count()));
   for (std::size_t i = 0; i < chunk.columns.size(); ++i)
     std::visit(
@@ -118,6 +126,12 @@ void LiveHistory::Add(const LiveRound& round) {
           cells.push_back(CellOf<std::decay_t<decltype(cells[0])>>(round.values[i]));
         },
         chunk.columns[i]);
+}
+
+std::size_t LiveHistory::Chunk::FirstFrom(Moment at) const {
+  const auto within = std::ranges::partition_point(
+      after, [&](std::uint32_t ms) { return start + Moment(ms) < at; });
+  return std::size_t(within - after.begin());
 }
 
 /// The first chunk that reaches a moment.
@@ -150,12 +164,42 @@ class LiveHistory::Thinner {
     points_[3] = {at, value};
     ++count_;
   }
+  /// Takes the cells of a column from one on, up to the first that is later than a moment.
+  template <class Cell>
+  void Take(const Chunk& chunk, const std::vector<Cell>& cells, std::size_t from, Moment to) {
+    for (std::size_t i = from; i < cells.size();) {
+      Take(chunk.At(i), NumberOf(cells[i]));
+      if (chunk.At(i++) > to) return;
+      if (chunk.isSteady) i = TakeRun(chunk, cells, i, chunk.FirstFrom(std::min(end_, to)));
+    }
+  }
   std::vector<CurvePoint> Curve() {
     Flush();
     return std::move(curve_);
   }
 
  private:
+  /// Takes what follows in the same pixel column up to the next gap, as taking it one by one does;
+  /// where it went on.
+  template <class Cell>
+  std::size_t TakeRun(const Chunk& chunk, const std::vector<Cell>& cells, std::size_t from,
+                      std::size_t end) {
+    if (count_ == 0) return from;
+    Cell least = static_cast<Cell>(points_[1].value),
+         greatest = static_cast<Cell>(points_[2].value);
+    std::size_t leastAt = end, greatestAt = end, i = from;
+    for (; i < end && !IsGap(cells[i]); ++i) {
+      if (cells[i] < least) least = cells[leastAt = i];
+      if (cells[i] > greatest) greatest = cells[greatestAt = i];
+    }
+    if (i == from) return i;
+    if (leastAt < end) points_[1] = {chunk.At(leastAt), NumberOf(least)};
+    if (greatestAt < end) points_[2] = {chunk.At(greatestAt), NumberOf(greatest)};
+    last_ = chunk.At(i - 1);
+    points_[3] = {last_, NumberOf(cells[i - 1])};
+    count_ += static_cast<int>(i - from);
+    return i;
+  }
   /// Once a column: more of them would not be seen.
   void Break(Moment at) {
     if (isBroken_) return;
@@ -166,7 +210,9 @@ class LiveHistory::Thinner {
   void Flush() {
     if (count_ == 0) return;
     if (points_[2].at < points_[1].at) std::swap(points_[1], points_[2]);
-    for (const CurvePoint& point : points_)
+    // Where a column is crossed over and over, its extremes cover where the line comes and goes.
+    const std::span points(points_);
+    for (const CurvePoint& point : count_ > kFull ? points.subspan(1, 2) : points)
       if (curve_.empty() || curve_.back().at != point.at || std::isnan(curve_.back().value))
         curve_.push_back(point);
     count_ = 0;
@@ -190,22 +236,12 @@ std::vector<CurvePoint> LiveHistory::Curve(LiveId id, const TimeSpan& span, int 
       thinner.Take(before.Last(), ValueOf(*column, before.after.size() - 1));
   for (; chunk != chunks_.end(); ++chunk) {
     const Column* column = chunk->Find(id);
-    const auto& after = chunk->after;
-    const auto firstWithin = std::ranges::partition_point(
-        after, [&](std::uint32_t ms) { return chunk->start + Moment(ms) < span.from; });
-    std::size_t i = std::size_t(firstWithin - after.begin());
+    std::size_t i = chunk->FirstFrom(span.from);
     if (i > 0) --i;
     if (!column) {
       thinner.Take(chunk->At(i), kGap);
     } else {
-      std::visit(
-          [&](const auto& cells) {
-            for (; i < cells.size(); ++i) {
-              thinner.Take(chunk->At(i), NumberOf(cells[i]));
-              if (chunk->At(i) > span.to) break;
-            }
-          },
-          *column);
+      std::visit([&](const auto& cells) { thinner.Take(*chunk, cells, i, span.to); }, *column);
     }
     if (chunk->Last() > span.to) break;
   }

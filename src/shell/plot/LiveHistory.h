@@ -81,13 +81,16 @@ class LiveHistory {
   struct Chunk {
     Moment start;
     std::chrono::minutes offset;
-    std::vector<LiveId> ids;
-    std::vector<std::uint32_t> after;  ///< milliseconds from the start
-    std::vector<Column> columns;       ///< one for each of `ids`
+    std::vector<LiveId> ids{};
+    std::vector<std::uint32_t> after{};  ///< milliseconds from the start
+    std::vector<Column> columns{};       ///< one for each of `ids`
+    bool isSteady = true;                ///< no two of its rounds have a pause between them
 
     Moment At(std::size_t round) const { return start + Moment(after[round]); }
     Moment Last() const { return At(after.size() - 1); }
     const Column* Find(LiveId id) const;
+    /// The first round that is not before a moment; their count where all are.
+    std::size_t FirstFrom(Moment at) const;
     std::size_t Octets() const;
   };
   class Thinner;

@@ -102,14 +102,24 @@ void LiveShow::ShowLamps(Lamps& lamps, std::uint32_t mask) const {
 }
 
 void LiveShow::ShowMath(MathPart& math) const {
-  if (!Has(context_.info.Features, Feature::Math)) return;
+  const bool computes = Has(context_.info.Features, Feature::Math);
+  const auto show = [&](MeasureRow& row, LiveId id, LiveAnswer answer, const std::string& text,
+                        double number) {
+    const std::string kept = row.digit.Text();
+    if (computes || !kept.empty()) Measure(row, id, answer, computes ? text : kept, number);
+  };
   const RealTimeData& live = context_.live;
   for (int i = 0; i < std::min<int>(kMathRows, context_.profile.MathCount); ++i)
-    Measure(math.rows[static_cast<std::size_t>(i)], {LiveKind::Math, i}, LiveAnswer::Math,
-            NumText(live.MathValue[i]), live.MathValue[i]);
+    show(math.rows[static_cast<std::size_t>(i)], {LiveKind::Math, i}, LiveAnswer::Math,
+         NumText(live.MathValue[i]), live.MathValue[i]);
   for (int i = 0; i < kMathRegisters; ++i)
-    Measure(math.registers[static_cast<std::size_t>(i)], {LiveKind::MathRegister, i},
-            LiveAnswer::MathRaw, live.MathRaw[i], 0);
+    show(math.registers[static_cast<std::size_t>(i)], {LiveKind::MathRegister, i},
+         LiveAnswer::MathRaw, live.MathRaw[i], 0);
+}
+
+void ShowMathNames(MathPart& math, const RealTimeData& live, const TargetProfile& model) {
+  for (int i = 0; i < std::min<int>(kMathRows, model.MathCount); ++i)
+    math.rows[static_cast<std::size_t>(i)].SetNames(live.MathName[i], live.MathUnit[i]);
 }
 
 void LiveShow::ShowClock(ReadoutLine& line) const {

@@ -68,6 +68,9 @@ struct MathPart {
   MeasureRows registers;
 };
 
+/// Names the math channels as the logger does.
+void ShowMathNames(MathPart& math, const RealTimeData& live, const TargetProfile& model);
+
 /// Brings what was read onto the controls of a monitor, and marks what has not come lately: after
 /// two rounds without it, and as soon as the session has ended.
 class LiveShow {
@@ -80,7 +83,8 @@ class LiveShow {
                double number) const;
   void Bar(LimitBar& bar, LiveId id, LiveAnswer answer, double number) const;
   void ShowLamps(Lamps& lamps, std::uint32_t mask) const;
-  /// On firmware that computes channels; on older one they stay as they are.
+  /// On firmware that computes channels; on older one they stay as they are, and grey where they
+  /// are of another logger.
   void ShowMath(MathPart& math) const;
   /// "RTC: 02/03/2026 9:05:07".
   void ShowClock(ReadoutLine& line) const;

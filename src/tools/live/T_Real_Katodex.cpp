@@ -78,6 +78,7 @@ void T_Real_Katodex::TakeRound() {
 }
 
 void T_Real_Katodex::ShowNames() {
+  ShowMathNames(math_, context_.live, context_.profile);
   if (std::exchange(hasNames_, true)) return;
   for (int i = 0; i < kAnalogRows; ++i)
     analogs_[static_cast<std::size_t>(i)].SetNames(context_.live.AnalogName[i],

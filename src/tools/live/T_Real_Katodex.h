@@ -48,7 +48,7 @@ class T_Real_Katodex final : public FrontForm {
   MathPart math_;
   Timer Timer1;
   LivePoll::RoundFeed::Subscription rounds_;  ///< while it has the front
-  bool hasNames_ = false;                     ///< those of the first round stay for the whole run
+  bool hasNames_ = false;                     ///< of the inputs: those of the first round stay
   std::optional<std::int16_t> pending_;       ///< the outputs to be written
 };
 

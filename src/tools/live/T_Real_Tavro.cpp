@@ -62,6 +62,7 @@ void T_Real_Tavro::LoadText() {
 void T_Real_Tavro::Form_Activate() {
   LoadText();
   Shape();
+  FollowOutputs();
   Show();
   rounds_ = poll_.OnRound([this](const LiveRound&) { TakeRound(); });
   Timer1.SetEnabled(true);
@@ -70,6 +71,7 @@ void T_Real_Tavro::Form_Activate() {
 void T_Real_Tavro::Form_Deactivate() {
   Timer1.SetEnabled(false);
   rounds_.reset();
+  for (CheckBox& box : CheckCambiarEstado) box.SetChecked(false);
 }
 
 int T_Real_Tavro::Outputs() const {
@@ -136,6 +138,7 @@ void T_Real_Tavro::Poll() {
   recorder_.Follow();
   // A tick waits for the end of another dialogue, as the reading does.
   if (context_.comms.LinkBusy) return;
+  FollowOutputs();
   if (!context_.Connected) return Show();
   const Lent polling(polls_, true);
   SwitchTicked();
@@ -146,6 +149,7 @@ void T_Real_Tavro::Poll() {
 /// ticks may all fall into them.
 void T_Real_Tavro::TakeRound() {
   Show();
+  FollowOutputs();
   if (!polls_) SwitchTicked();
 }
 
@@ -154,6 +158,16 @@ void T_Real_Tavro::SwitchTicked() {
     if (!At(CheckCambiarEstado, i).Checked()) continue;
     OutputChange(static_cast<std::int16_t>(i));
     At(CheckCambiarEstado, i).SetChecked(false);
+  }
+}
+
+/// An output is switched to the other state than was read. Where that is not known to be the state
+/// of now, nothing can be ticked, and a tick from before does not count any more.
+void T_Real_Tavro::FollowOutputs() {
+  const bool isKnown = !show_.AgeOf(LiveAnswer::Masks).isStale;
+  for (CheckBox& box : CheckCambiarEstado) {
+    box.face.SetEnabled(isKnown);
+    if (!isKnown) box.SetChecked(false);
   }
 }
 
@@ -185,8 +199,7 @@ void T_Real_Tavro::ShowNames() {
   if (context_.profile.IsVR200)
     for (int i = 0; i < kModbusRows; ++i)
       At(modbus_, i).SetNames(live.ModbusName[i], live.ModbusUnit[i]);
-  for (int i = 0; i < std::min<int>(kMathRows, context_.profile.MathCount); ++i)
-    At(math_.rows, i).SetNames(live.MathName[i], live.MathUnit[i]);
+  ShowMathNames(math_, live, context_.profile);
 }
 
 void T_Real_Tavro::ShowValues() {

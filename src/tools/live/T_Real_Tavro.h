@@ -34,6 +34,7 @@ class T_Real_Tavro final : public FrontForm {
   void Poll();
   void TakeRound();
   void SwitchTicked();
+  void FollowOutputs();
   void Show();
   void ShowNames();
   void ShowValues();

@@ -9,6 +9,7 @@
 #include <fstream>
 #include <sstream>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "tools/HexFiles.h"
@@ -49,6 +50,13 @@ class EndToEnd : public testing::Test {
   fs::path folder_;
 };
 
+/// Waits for the end of a process; its exit code, or -1 when a signal killed it.
+int EndOf(pid_t process) {
+  int status = 0;
+  waitpid(process, &status, 0);
+  return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+}
+
 /// `ostrel-sim` while it runs.
 class Simulator {
  public:
@@ -83,11 +91,8 @@ class Simulator {
   }
   /// Ends it; its exit code, or -1 when the signal killed it.
   int Stop(int signal) {
-    int status = 0;
     kill(process_, signal);
-    waitpid(process_, &status, 0);
-    process_ = 0;
-    return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+    return EndOf(std::exchange(process_, 0));
   }
 
   std::string path;  ///< of the pseudo-terminal
@@ -214,10 +219,19 @@ TEST_F(EndToEnd, TheConsoleAndAnUpdateGoOverAPseudoTerminal) {
 
 TEST_F(EndToEnd, AnInterruptEndsADownloadWithoutAFile) {
   Simulator simulator({"--model", "VR200", "--pace"});
-  const std::string line = "timeout --preserve-status --signal=INT 5 " +
-                           (Programs() / "ostrelctl").string() + " download " + Path("a.ocf") +
-                           " --target VR200 --port " + simulator.path + " 2>" + Path("err");
-  EXPECT_EQ(WEXITSTATUS(std::system(line.c_str())), 4);
+  const std::string line = "exec " + (Programs() / "ostrelctl").string() + " download " +
+                           Path("a.ocf") + " --target VR200 --port " + simulator.path + " 2>" +
+                           Path("err");
+  const pid_t download = fork();
+  if (download == 0) {
+    execl("/bin/sh", "sh", "-c", line.c_str(), nullptr);
+    _exit(127);
+  }
+  std::string told = simulator.Line();
+  while (!told.empty() && told.find("  #42 -> #BD") == std::string::npos) told = simulator.Line();
+  EXPECT_FALSE(told.empty()) << "no download";
+  kill(download, SIGINT);
+  EXPECT_EQ(EndOf(download), 4);
   EXPECT_THAT(Read("err"), HasSubstr("interrupted; the logger's configuration is unchanged"));
   EXPECT_FALSE(fs::exists(Path("a.ocf")));
 }
