@@ -123,6 +123,7 @@ struct LedgerQuery {
   std::int64_t after = 0;  ///< only entries with a larger number
   std::string serial{};
   std::string file{};
+  std::string content{};
   std::string since{};   ///< only entries begun then or later
   std::size_t most = 0;  ///< the newest so many
 };

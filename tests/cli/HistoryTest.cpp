@@ -52,6 +52,8 @@ TEST(Identity, AFileOfAnotherLoggerIsRefusedUnlessForced) {
   FileWorld world;
   for (LedgerEntry& entry : world.ledger.entries) entry.serial = "OTHER";
   world.Expect("upload /a.ocf --port sim:VR200", 5, "was last used with the logger OTHER");
+  world.files.contents["/renamed.ocf"] = world.files.contents["/a.ocf"];
+  world.Expect("upload /renamed.ocf --port sim:VR200", 5, "was last used with the logger OTHER");
   EXPECT_EQ(world.Run("upload history:2 --port sim:VR200"), 5) << "nor does what was kept of it";
   EXPECT_EQ(world.Logger().UploadsTaken(), 0U);
   EXPECT_EQ(world.Run("upload /a.ocf --force --port sim:VR200"), 0);

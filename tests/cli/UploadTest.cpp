@@ -146,8 +146,8 @@ TEST(Upload, OneWordSendsTheFileOfAnotherModel) {
 TEST(Upload, IsRefusedByWhatIsReadAhead) {
   World world(With([](sim::LoggerOptions& options) { options.greetsBare = true; }));
   world.HaveFile("/ka1.ocf", "KA1");
-  world.files.contents["/sent.ocf"] = world.files.contents["/ka1.ocf"];  // of unknown descent
-  world.Expect("upload /sent.ocf --target KA1 --port sim:VR200", 5,
+  world.ledger.entries.clear();  // the file is of unknown descent
+  world.Expect("upload /ka1.ocf --target KA1 --port sim:VR200", 5,
                "fits the model Ostrel VR200, and the model chosen is Ostrel KA1. Nothing was sent");
   EXPECT_EQ(world.Logger().UploadsTaken(), 0U);
   EXPECT_EQ(world.Backups(), 0U);

@@ -138,11 +138,18 @@ TEST_F(WindowHistory, TellsATestRunInItsOwnLanguage) {
 TEST_F(WindowHistory, TellsOfWhatWasInterruptedAndOffersAWayOut) {
   ReadLogger();
   ledger.Add(CutWriting());
+  LedgerEntry list = CutWriting();
+  list.kind = LedgerKind::VoiceWriting;
+  ledger.Add(list);
   Restart();
   ASSERT_FALSE(dialogs.boxes.empty());
   EXPECT_NE(dialogs.boxes.back().text.find("contenga su configuración anterior"), std::string::npos)
       << dialogs.boxes.back().text;
   modals.Expect(Chooses("Leer y comparar"));
+  modals.Expect([&](QWidget* modal) {
+    EXPECT_FALSE(Core().session.OwnsModel()) << "one at a time";
+    Chooses("No avisar más")(modal);
+  });
   Window().show();
   Connect();
   loop.RunFor(seconds(40));

@@ -43,9 +43,15 @@ WriteDialog::WriteDialog(const WriteQuestion& question, QWidget* parent)
   column->addWidget(guarded_);
   column->addWidget(showChanges_);
   column->addWidget(plain_);
+  QLabel* unseen = AddText(column,
+                           Words::tr("Nothing is read ahead of it: what others have changed in the "
+                                     "logger is written over unseen."),
+                           "Unseen");
   column->addSpacing(8);
   guarded_->setChecked(true);
+  unseen->setEnabled(false);
   connect(guarded_, &QRadioButton::toggled, showChanges_, &QWidget::setEnabled);
+  connect(plain_, &QRadioButton::toggled, unseen, &QWidget::setEnabled);
 
   auto* buttons = new QDialogButtonBox(this);
   auto* write = buttons->addButton(

@@ -294,7 +294,8 @@ class MainWindow final : public QMainWindow {
           *redo_ = nullptr, *report_ = nullptr, *doctor_ = nullptr, *liveTools_ = nullptr,
           *traceSwitch_ = nullptr, *findingsSwitch_ = nullptr, *more_ = nullptr;
   QLabel* ledgerFault_ = nullptr;
-  std::string offeredTo_;  ///< serial number of the logger that ways out were offered for
+  std::string offeredTo_;    ///< serial number of the logger that ways out were offered for
+  bool isOffering_ = false;  ///< a question about ways out stands
   std::optional<LedgerEntry> looksFor_;     ///< the interrupted writing whose logger is being read
   std::pair<std::int64_t, QString> found_;  ///< what reading for an interrupted writing has found
   QString otherwise_;  ///< what is told for as long as a logger holds something else than was sent

@@ -4,6 +4,7 @@
 #include <QStatusBar>
 #include <utility>
 
+#include "base/Scope.h"
 #include "desktop/dialogs/CompareWindow.h"
 #include "desktop/dialogs/HistoryDialog.h"
 #include "desktop/forms/Words.h"
@@ -98,11 +99,15 @@ void MainWindow::OfferWayOut() {
   const std::string& serial = configurator_.info.SerialNumber;
   if (session.State().phase == SessionPhase::Closed) offeredTo_.clear();
   if (!books || session.State().phase != SessionPhase::Open || IsLineInUse() ||
-      session.OwnsModel() || serial.empty() || offeredTo_ == serial)
+      session.OwnsModel() || serial.empty() || offeredTo_ == serial || isOffering_)
     return;
   offeredTo_ = serial;
-  for (const Interrupted& one : FindInterrupted(*books))
+  const Lent<bool> offering(isOffering_, true);
+  for (const Interrupted& one : FindInterrupted(*books)) {
     if (one.entry.serial == serial) AskWayOut(one);
+    if (session.OwnsModel())
+      return offeredTo_.clear();  // what is open behind this way out comes then
+  }
 }
 
 void MainWindow::AskWayOut(const Interrupted& interrupted) {
@@ -156,7 +161,7 @@ void MainWindow::TellWhatWasFound(const DeviceConf& read) {
   if (configurator_.info.SerialNumber != sought.serial) return;
   const Holding found = WhatWasFound(configurator_, sought, read);
   found_ = {sought.id, SentenceOf(FoundWords(found))};
-  if (found != Holding::New) return offeredTo_.clear();  // the ways out come again, with that
+  if (found != Holding::New) return;  // the ways out come again, with that
   Settle(*parts_.platform.ledger, sought);
   Tell(found_.second);
 }

@@ -3316,6 +3316,10 @@
         <translation>se leyó el %1</translation>
     </message>
     <message>
+        <source>it was read on %1, and told neither of the two to the letter</source>
+        <translation>se leyó el %1, y no dijo ninguna de las dos al pie de la letra</translation>
+    </message>
+    <message>
         <source>Nothing was written: what the logger held before is not kept.</source>
         <translation>No se escribió nada: no se conserva lo que el registrador contenía antes.</translation>
     </message>
@@ -3514,6 +3518,10 @@
     <message>
         <source>Find in the text</source>
         <translation>Buscar en el texto</translation>
+    </message>
+    <message>
+        <source>Nothing is read ahead of it: what others have changed in the logger is written over unseen.</source>
+        <translation>No se lee nada antes: lo que otros hayan cambiado en el equipo se sobrescribe sin verlo.</translation>
     </message>
     <message>
         <source>Not found</source>

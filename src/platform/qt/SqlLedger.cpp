@@ -17,8 +17,8 @@ namespace ostrel {
 namespace {
 
 constexpr auto kOwnersAlone = QFileDevice::ReadOwner | QFileDevice::WriteOwner;
-/// How long another program may hold the file, in ms.
-constexpr const char* kPatience = "QSQLITE_BUSY_TIMEOUT=2000";
+/// What the database calls a file that another program holds, in the lowest octet of its codes.
+constexpr int kIsHeld = 5;
 
 /// What each version of the schema adds to the one before; the first one makes it. A step that was
 /// once released is never changed.
@@ -84,8 +84,8 @@ LedgerEntry EntryOf(const QSqlQuery& row) {
 
 }  // namespace
 
-SqlLedger::SqlLedger(std::string path, RunningProgram program)
-    : path_(std::move(path)), program_(std::move(program)) {
+SqlLedger::SqlLedger(std::string path, RunningProgram program, std::chrono::milliseconds patience)
+    : path_(std::move(path)), program_(std::move(program)), patience_(patience) {
   static int count = 0;
   connection_ = QString("ledger %1").arg(++count);
 }
@@ -101,22 +101,32 @@ bool SqlLedger::Fail(const QString& why) {
   return false;
 }
 
+bool SqlLedger::Fail(const QSqlError& error) {
+  isHeld_ = isHeld_ || error.nativeErrorCode().toInt() % 256 == kIsHeld;
+  return Fail(error.text().trimmed());
+}
+
 bool SqlLedger::Run(QSqlQuery& statement) {
-  if (!statement.exec()) return Fail(statement.lastError().text().trimmed());
+  if (!statement.exec()) return Fail(statement.lastError());
   fault_.clear();
   return true;
 }
 
 bool SqlLedger::Run(const QString& statement) {
   QSqlQuery query(Base());
-  return query.prepare(statement) ? Run(query) : Fail(query.lastError().text().trimmed());
+  return query.prepare(statement) ? Run(query) : Fail(query.lastError());
 }
 
 bool SqlLedger::Open(bool makes) {
   if (state_ != State::Unopened) return state_ == State::Open;
   if (!makes && !QFile::exists(TextOf(path_))) return false;
+  wasHeld_ = std::exchange(isHeld_, false);
   const bool isOpen = MakeFile() && Connect() && Migrate();
   state_ = isOpen ? State::Open : State::Unusable;
+  if (!isOpen && isHeld_) {
+    QSqlDatabase::removeDatabase(connection_);
+    state_ = State::Unopened;
+  }
   return isOpen;
 }
 
@@ -133,9 +143,11 @@ bool SqlLedger::MakeFile() {
 bool SqlLedger::Connect() {
   QSqlDatabase base = QSqlDatabase::addDatabase("QSQLITE", connection_);
   base.setDatabaseName(TextOf(path_));
-  base.setConnectOptions(kPatience);
-  if (!base.open()) return Fail(base.lastError().text().trimmed());
-  return Run("PRAGMA journal_mode=WAL") && Run("PRAGMA synchronous=FULL");
+  // Who has waited once in vain looks in from then on, and does not hold the work up again.
+  base.setConnectOptions(QString("QSQLITE_BUSY_TIMEOUT=%1").arg(wasHeld_ ? 0 : patience_.count()));
+  if (!base.open()) return Fail(base.lastError());
+  return Run("PRAGMA journal_mode=WAL") && Run("PRAGMA synchronous=FULL") &&
+         Run(QString("PRAGMA busy_timeout=%1").arg(patience_.count()));
 }
 
 int SqlLedger::Version() const {
@@ -199,6 +211,7 @@ std::vector<LedgerEntry> SqlLedger::Find(const LedgerQuery& query) {
   narrow(query.id != 0, "id=?", ValueOf(query.id));
   narrow(!query.serial.empty(), "serial=?", TextOf(query.serial));
   narrow(!query.file.empty(), "file=?", TextOf(query.file));
+  narrow(!query.content.empty(), "content=?", TextOf(query.content));
   narrow(!query.since.empty(), "began>=?", TextOf(query.since));
   QSqlQuery rows(Base());
   rows.setForwardOnly(true);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QString>
+#include <chrono>
 #include <optional>
 #include <string>
 #include <vector>
@@ -9,6 +10,7 @@
 #include "platform/RunningProgram.h"
 
 class QSqlDatabase;
+class QSqlError;
 class QSqlQuery;
 
 namespace ostrel {
@@ -18,8 +20,9 @@ namespace ostrel {
 /// It needs an application object.
 class SqlLedger final : public Ledger {
  public:
-  /// `program` is who writes into it.
-  SqlLedger(std::string path, RunningProgram program);
+  /// `program` is who writes into it; another one may hold the file as long as `patience`.
+  SqlLedger(std::string path, RunningProgram program,
+            std::chrono::milliseconds patience = std::chrono::seconds(2));
   ~SqlLedger() override;
   SqlLedger(const SqlLedger&) = delete;
   SqlLedger& operator=(const SqlLedger&) = delete;
@@ -44,12 +47,16 @@ class SqlLedger final : public Ledger {
   bool Run(QSqlQuery& statement);
   bool Run(const QString& statement);
   bool Fail(const QString& why);
+  bool Fail(const QSqlError& error);
   QSqlDatabase Base() const;
 
   std::string path_;
   RunningProgram program_;
+  std::chrono::milliseconds patience_;
   QString connection_;
   State state_ = State::Unopened;
+  bool isHeld_ = false;   ///< another program had the file all the time
+  bool wasHeld_ = false;  ///< at the last try to open it
   std::string fault_;
 };
 

@@ -6,7 +6,8 @@ namespace {
 bool IsSought(const LedgerQuery& query, const LedgerEntry& entry) {
   return (query.id == 0 || entry.id == query.id) && entry.id > query.after &&
          (query.serial.empty() || entry.serial == query.serial) &&
-         (query.file.empty() || entry.file == query.file) && entry.began >= query.since;
+         (query.file.empty() || entry.file == query.file) &&
+         (query.content.empty() || entry.content == query.content) && entry.began >= query.since;
 }
 
 }  // namespace

@@ -47,9 +47,28 @@ std::vector<LedgerEntry> UsesOf(Ledger& books, std::string file) {
   return uses;
 }
 
+bool HasMetALogger(const LedgerEntry& use) {
+  return !use.serial.empty() && (use.state == LedgerState::Done || use.closing);
+}
+
+std::string HashOfHeld(const Configurator& configurator, const DeviceConf& conf) {
+  return Sha256(ContentOf(configurator.context.platform.files, conf, configurator.profile));
+}
+
 std::vector<LedgerEntry> UsesOf(const LedgerKeeper& keeper) {
-  if (!keeper.Books() || keeper.File().empty()) return {};
+  if (!keeper.Books()) return {};
   return UsesOf(*keeper.Books(), keeper.File());
+}
+
+/// The same, where a file that nothing is known of by its name, or that came through a pipe, is
+/// known by what it holds.
+std::vector<LedgerEntry> UsesByNameOrContent(const Configurator& configurator) {
+  std::vector<LedgerEntry> uses = UsesOf(configurator.ledger);
+  if (std::ranges::any_of(uses, HasMetALogger)) return uses;
+  uses =
+      configurator.ledger.Books()->Find({.content = HashOfHeld(configurator, configurator.conf)});
+  std::erase_if(uses, [](const LedgerEntry& entry) { return !TellsContent(entry); });
+  return uses;
 }
 
 /// The newest use with a logger.
@@ -71,8 +90,8 @@ std::vector<Phrase> DoubtsOfIdentity(const Configurator& configurator) {
   const LedgerKeeper& keeper = configurator.ledger;
   const std::string& serial = configurator.info.SerialNumber;
   if (!keeper.Books()) return {};
-  if (keeper.File().empty()) {
-    if (keeper.Origin().empty() || keeper.Origin() == serial) return {};
+  if (keeper.File().empty() && !keeper.Origin().empty()) {
+    if (keeper.Origin() == serial) return {};
     if (serial.empty())
       return {
           {"the configuration was read from the logger %1, and the logger that answers has not "
@@ -81,11 +100,8 @@ std::vector<Phrase> DoubtsOfIdentity(const Configurator& configurator) {
     return {{"the configuration was read from the logger %1, and the logger that answers is %2",
              {keeper.Origin(), serial}}};
   }
-  const std::vector<LedgerEntry> uses = UsesOf(keeper);
-  const auto isUse = [](const LedgerEntry& entry) {
-    return !entry.serial.empty() && (entry.state == LedgerState::Done || entry.closing);
-  };
-  const auto last = std::ranges::find_if(uses, isUse);
+  const std::vector<LedgerEntry> uses = UsesByNameOrContent(configurator);
+  const auto last = std::ranges::find_if(uses, HasMetALogger);
   if (last == uses.end()) return {};
   std::vector<Phrase> doubts;
   if (serial.empty())
@@ -100,7 +116,7 @@ std::vector<Phrase> DoubtsOfIdentity(const Configurator& configurator) {
          {last->serial, last->began, serial}});
   const auto features = static_cast<std::uint32_t>(configurator.info.Features);
   const auto told = std::ranges::find_if(uses, [&](const LedgerEntry& entry) {
-    return isUse(entry) && entry.features != LedgerEntry::kUnknown;
+    return HasMetALogger(entry) && entry.features != LedgerEntry::kUnknown;
   });
   if (told != uses.end() && told->features != features)
     doubts.push_back(
@@ -126,8 +142,7 @@ std::optional<Phrase> DoubtOfHeld(const Configurator& configurator, const Device
   for (const LedgerEntry& use : uses)
     for (const std::string& hash : {use.content, use.former})
       if (!hash.empty() && std::ranges::find(known, hash) == known.end()) known.push_back(hash);
-  const std::string hash =
-      Sha256(ContentOf(configurator.context.platform.files, held, configurator.profile));
+  const std::string hash = HashOfHeld(configurator, held);
   if (std::ranges::find(known, hash) != known.end()) return {};
   // A logger may tell the same thing in another form than it was sent.
   std::optional<Comparison> changes;

@@ -10,11 +10,12 @@ namespace ostrel {
 
 class Configurator;
 
-// Whether a configuration goes to the logger that it is for, as far as the ledger knows. Of a file
-// without a history nothing is known, and nothing is said.
+// Whether a configuration goes to the logger that it is for, as far as the ledger knows. Where that
+// is nothing, nothing is said.
 
 /// What speaks against it before anything has been asked of the logger: the file, or what stands on
-/// the pages, was last used with another logger, or with a firmware of other features.
+/// the pages, was last used with another logger, or with a firmware of other features. A file that
+/// the ledger does not have by its name is known by its content.
 std::vector<Phrase> DoubtsOfIdentity(const Configurator& configurator);
 
 /// Whether the file was used with the logger that answers, so that what it holds can be judged.

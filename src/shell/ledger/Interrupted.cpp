@@ -11,6 +11,8 @@ namespace {
 
 /// What is older than so many entries is not told any more.
 constexpr std::size_t kLookedThrough = 2000;
+constexpr const char* kNotKnown =
+    "whether it holds its former or the new configuration is not known";
 
 /// Work that leaves a logger in doubt when it is interrupted.
 bool LeavesDoubt(LedgerKind kind) {
@@ -18,9 +20,14 @@ bool LeavesDoubt(LedgerKind kind) {
          kind == LedgerKind::Firmware;
 }
 
+bool IsOfSameMatter(const LedgerEntry& one, const LedgerEntry& other) {
+  return one.kind == other.kind && one.serial == other.serial && !one.serial.empty();
+}
+
 /// Whether an entry of the same logger ends the doubt that work has left: it was done once more, or
-/// what it was to bring was found there.
+/// what it was to bring was found there, or nobody wants to hear of what was begun even later.
 bool Ends(const LedgerEntry& entry, const LedgerEntry& work) {
+  if (entry.settled && IsOfSameMatter(entry, work)) return true;
   if (entry.serial != work.serial) return false;
   // Who tells its version has not erased it: the order was never heard.
   if (work.kind == LedgerKind::Firmware && !work.closing && entry.kind == LedgerKind::Session)
@@ -42,21 +49,30 @@ bool HasHarmed(const LedgerEntry& work) {
 /// Whether a program was ended in the midst of what an entry tells of.
 bool IsCutOff(const Ledger& books, const LedgerEntry& entry) { return books.IsCutOff(entry); }
 
-/// The reading of that logger among later entries, the newest first, that found what it held
-/// before.
-std::string WhenFoundFormer(const LedgerEntry& work, const std::vector<LedgerEntry>& later) {
-  for (const LedgerEntry& entry : later)
-    if (entry.kind == LedgerKind::Reading && entry.state == LedgerState::Done &&
-        entry.serial == work.serial)
-      return !work.former.empty() && entry.content == work.former ? entry.began : std::string();
-  return {};
+/// The last reading of that logger among later entries, the newest first.
+auto LastReading(const LedgerEntry& work, const std::vector<LedgerEntry>& later) {
+  return std::ranges::find_if(later, [&](const LedgerEntry& entry) {
+    return entry.kind == LedgerKind::Reading && entry.state == LedgerState::Done &&
+           !entry.content.empty() && entry.serial == work.serial;
+  });
 }
 
-Holding HoldingOf(const LedgerEntry& entry, const std::string& foundFormer) {
-  if (!foundFormer.empty()) return Holding::Former;
-  if (entry.state == LedgerState::Done) return Holding::New;
-  if (entry.kind != LedgerKind::Writing || entry.closing) return Holding::Unknown;
+Holding HoldingOf(const LedgerEntry& work) {
+  if (work.state == LedgerState::Done) return Holding::New;
+  if (work.kind != LedgerKind::Writing || work.closing) return Holding::Unknown;
   return Holding::Former;
+}
+
+/// An interruption as far as later entries tell of it. A reading that is neither of the two to the
+/// letter may still be one of them, told in another form.
+Interrupted Judged(const LedgerEntry& work, const std::vector<LedgerEntry>& later) {
+  const auto reading = LastReading(work, later);
+  if (work.kind != LedgerKind::Writing || work.former.empty() || reading == later.end())
+    return {.entry = work, .holding = HoldingOf(work)};
+  const bool isFormer = reading->content == work.former;
+  return {.entry = work,
+          .holding = isFormer ? Holding::Former : Holding::Unknown,
+          .readOn = reading->began};
 }
 
 Phrase WhatWasInterrupted(const LedgerEntry& entry) {
@@ -85,11 +101,9 @@ std::vector<Interrupted> FindInterrupted(Ledger& books) {
                         (isReadBack || IsCutOff(books, entry) ||
                          (work->state == LedgerState::Failed && HasHarmed(*work)));
     const auto ends = [&](const LedgerEntry& one) { return Ends(one, *work); };
-    if (isOpen && std::ranges::none_of(later, ends)) {
-      std::string foundFormer = WhenFoundFormer(*work, later);
-      const Holding holding = HoldingOf(*work, foundFormer);
-      open.push_back({.entry = *work, .holding = holding, .foundFormer = std::move(foundFormer)});
-    }
+    const auto follows = [&](const Interrupted& one) { return IsOfSameMatter(one.entry, *work); };
+    if (isOpen && std::ranges::none_of(later, ends) && std::ranges::none_of(open, follows))
+      open.push_back(Judged(*work, later));
     later.push_back(entry);
   }
   std::ranges::reverse(open);
@@ -105,9 +119,13 @@ InterruptedWords WordsOf(const Interrupted& interrupted) {
   } else if (entry.kind == LedgerKind::Firmware) {
     words.holding = {"whether it holds a whole firmware is not known"};
     words.why = {"a firmware is written over the former one"};
-  } else if (!interrupted.foundFormer.empty()) {
+  } else if (!interrupted.readOn.empty() && interrupted.holding == Holding::Former) {
     words.holding = {"it holds its former configuration"};
-    words.why = {"it was read on %1", {interrupted.foundFormer}};
+    words.why = {"it was read on %1", {interrupted.readOn}};
+  } else if (!interrupted.readOn.empty()) {
+    words.holding = {kNotKnown};
+    words.why = {"it was read on %1, and told neither of the two to the letter",
+                 {interrupted.readOn}};
   } else if (interrupted.holding == Holding::Former) {
     words.holding = {"it most probably holds its former configuration"};
     words.why = {"it had not been asked to take the new one over"};
@@ -115,7 +133,7 @@ InterruptedWords WordsOf(const Interrupted& interrupted) {
     words.holding = {"it most probably holds the new configuration"};
     words.why = {"it has said that it took it over, which is not verified"};
   } else {
-    words.holding = {"whether it holds its former or the new configuration is not known"};
+    words.holding = {kNotKnown};
     words.why = {"it had been asked to take the new one over, and its answer is not known"};
   }
   return words;

@@ -19,7 +19,7 @@ enum class Holding { Former, New, Unknown };
 struct Interrupted {
   LedgerEntry entry;  ///< of the writing, also where it was its reading back that was interrupted
   Holding holding = Holding::Unknown;
-  std::string foundFormer{};  ///< when it was last read since, and held its former configuration
+  std::string readOn{};  ///< when it was last read since; empty where nothing came of that
 
   /// Whether reading the logger's configuration tells anything about it.
   bool CanLook() const { return entry.kind == LedgerKind::Writing && !entry.content.empty(); }
@@ -36,7 +36,8 @@ struct InterruptedWords {
   Phrase why{};      ///< how that is known
 };
 
-/// All interruptions that are open, the oldest first. One is closed by a later writing of the same
+/// All interruptions that are open, the oldest first, and of one kind on one logger the last alone:
+/// what was begun later is what was wanted last. One is closed by a later writing of the same
 /// logger that succeeded, by a reading that found what was to be written, and by `Settle`.
 std::vector<Interrupted> FindInterrupted(Ledger& books);
 

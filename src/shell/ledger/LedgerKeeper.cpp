@@ -211,12 +211,16 @@ void LedgerKeeper::InfoChanged(std::string_view key) {
   if (session_.id != 0) Keep(session_);
 }
 
-void LedgerKeeper::TakeFile(const std::string& path) {
-  source_ = {.file = subject_.platform.files.Absolute(path)};
+/// A file has one name, whichever link it was reached by.
+std::string LedgerKeeper::NameOf(const std::string& path) const {
+  Files& files = subject_.platform.files;
+  return files.Resolve(files.Absolute(path));
 }
 
+void LedgerKeeper::TakeFile(const std::string& path) { source_ = {.file = NameOf(path)}; }
+
 void LedgerKeeper::Saved(const std::string& path, const std::string& octets) {
-  const std::string before = std::exchange(source_.file, subject_.platform.files.Absolute(path));
+  const std::string before = std::exchange(source_.file, NameOf(path));
   if (!Books()) return;
   LedgerEntry entry = Made(LedgerKind::Saving);
   entry.file = source_.file;

@@ -94,6 +94,7 @@ class LedgerKeeper {
   std::function<void(const std::string& why)> OnFault;
 
  private:
+  std::string NameOf(const std::string& path) const;
   LedgerEntry Made(LedgerKind kind) const;
   void Keep(LedgerEntry& entry);
   /// Keeps what could not be kept when it was due.

@@ -27,10 +27,11 @@ class OnDisk : public testing::Test {
   }
 
   /// The ledger as a program opens it.
-  SqlLedger Ledger() const {
-    return SqlLedger(path, {.user = "nadia", .nameOf = [](const std::string& number) {
-                              return "boot/" + number + "/77";
-                            }});
+  SqlLedger Ledger(std::chrono::milliseconds patience = std::chrono::seconds(2)) const {
+    const RunningProgram program{.user = "nadia", .nameOf = [](const std::string& number) {
+                                   return "boot/" + number + "/77";
+                                 }};
+    return SqlLedger(path, program, patience);
   }
 
   QTemporaryDir folder;
@@ -79,6 +80,7 @@ TEST_F(OnDisk, WhatOneProgramKeepsAnotherFinds) {
   EXPECT_EQ(one.Find({.serial = "Q2"}).size(), 1U);
   EXPECT_EQ(one.Find({.file = entry.file}).size(), 1U);
   EXPECT_EQ(one.Find({.file = "none"}).size(), 0U);
+  EXPECT_EQ(one.Find({.content = entry.content}).size(), 1U);
   EXPECT_EQ(one.Find({.since = "2026-03-03"}).size(), 1U);
   EXPECT_EQ(one.Find({.after = 1, .most = 1}).front().id, 2);
   EXPECT_EQ(one.Find({.after = 1}).size(), 1U);
@@ -129,6 +131,24 @@ TEST_F(OnDisk, AFileThatIsNoLedgerIsToldAndLeftAlone) {
   EXPECT_FALSE(ledger.KeepContent("h", "octets"));
   EXPECT_TRUE(ledger.Find({}).empty());
   EXPECT_FALSE(ledger.Fault().empty());
+}
+
+TEST_F(OnDisk, AFileThatAnotherProgramHoldsIsTriedAgain) {
+  Ledger().Add({});
+  SqlLedger ledger = Ledger(std::chrono::milliseconds(0));
+  {
+    QSqlDatabase base = QSqlDatabase::addDatabase("QSQLITE", "holder");
+    base.setDatabaseName(QString::fromStdString(path));
+    ASSERT_TRUE(base.open());
+    QSqlQuery query(base);
+    for (const char* hold : {"PRAGMA journal_mode=DELETE", "BEGIN EXCLUSIVE"})
+      ASSERT_TRUE(query.exec(hold)) << hold;
+    EXPECT_EQ(ledger.Add({}), 0);
+    EXPECT_TRUE(ledger.Fault().starts_with("database is locked")) << ledger.Fault();
+  }
+  QSqlDatabase::removeDatabase("holder");
+  EXPECT_EQ(ledger.Add({}), 2) << ledger.Fault();
+  EXPECT_EQ(ledger.Fault(), "");
 }
 
 }  // namespace
