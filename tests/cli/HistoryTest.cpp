@@ -100,6 +100,9 @@ TEST(InterruptedUpload, IsToldWithItsWaysOut) {
   };
   std::string way = interrupt();
   world.Expect("ports", 0, "was interrupted: it most probably holds its former");
+  constexpr const char* kWays[] = {"--forget", "--look", "--finish", "--put-back"};
+  EXPECT_EQ(world.Run("interrupted"), 0);
+  for (const char* each : kWays) EXPECT_THAT(world.out, HasSubstr(each));
   EXPECT_EQ(world.Run(way + "--look"), 0) << world.err;
   EXPECT_THAT(world.out, testing::StartsWith("the logger holds its former configuration\n"));
   EXPECT_THAT(world.out, HasSubstr("--put-back")) << "the ways out are still there";
@@ -123,6 +126,11 @@ TEST(InterruptedUpload, IsToldWithItsWaysOut) {
   EXPECT_EQ(world.Run(way + "--forget"), 0);
   EXPECT_EQ(world.Run("ports"), 0);
   EXPECT_THAT(world.err, Not(HasSubstr("interrupted")));
+  world.ledger.Add({.kind = LedgerKind::VoiceWriting, .serial = "Q"});
+  world.ledger.process += "+";
+  EXPECT_EQ(world.Run("interrupted"), 0);
+  for (const char* each : kWays)
+    EXPECT_EQ(world.out.find(each) != std::string::npos, each == kWays[0]) << "of a list" << each;
 }
 
 }  // namespace

@@ -414,6 +414,20 @@ TEST_F(WindowLivePanels, AcceptanceGoesByTheNameOfTheConfiguration) {
   }
 }
 
+TEST_F(WindowLivePanels, AcceptanceGetsItsNameAtTheDesk) {
+  Core().conf.Digital[0].NOMBRE = "Door";
+  Switch("Ctrl+K");
+  Run(seconds(2));
+  Find<QPushButton>("AcceptancePass")->click();
+  Core().session.Close(false);
+  Run(seconds(2));
+  dialogs.ChoosePath(Path("a.ocf"));
+  Tool("Guardar como")->trigger();
+  Run(seconds(2));
+  const QString summary = Find<QLabel>("AcceptanceSummary")->text();
+  EXPECT_TRUE(summary.contains(", a.ocf: 1 passed")) << FromQt(summary);
+}
+
 TEST_F(WindowLivePanels, AcceptanceWaitsForTheEndOfADownload) {
   Core().conf.Digital[0].NOMBRE = "Door";
   for (const char* keys : {"Ctrl+L", "Ctrl+K"}) Switch(keys);

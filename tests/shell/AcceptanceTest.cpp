@@ -108,10 +108,10 @@ TEST(Acceptance, GoesAlongWhenTheConfigurationGetsAName) {
   VirtualFiles files;
   VirtualClock clock;
   AcceptanceWork work(files, clock, "/data");
-  const auto begin = [&](const char* serial, const char* name) {
+  const auto begin = [&](const char* serial, const char* name, const char* model = "Tavro BP") {
     work.Begin({serial,
                 name,
-                "Tavro BP",
+                model,
                 {{"E_Digital_0", "digital input", 0}, {"E_Digital_1", "digital input", 1}}});
     return work.Present().points[1].verdict;
   };
@@ -128,6 +128,8 @@ TEST(Acceptance, GoesAlongWhenTheConfigurationGetsAName) {
   EXPECT_EQ(begin("2", "a.ocf"), Verdict::Open) << "of another logger";
   begin("1", "");
   EXPECT_EQ(begin("1", "b.ocf"), Verdict::Passed) << "what stands under the name already";
+  begin("1", "");
+  EXPECT_EQ(begin("1", "d.ocf", "Tavro BQ"), Verdict::Open) << "of another model";
   begin("1", "");
   work.Judge(1, Verdict::Open, "");
   begin("1", "c.ocf");

@@ -87,6 +87,21 @@ TEST(LiveHistory, BreaksACurveWhereAReadFailedOrNobodyRead) {
     EXPECT_EQ(history.ValueAt(kLevel, seconds(at)), level) << at;
 }
 
+/// What a pixel column brings together is drawn as its first, extreme and last values, and is
+/// broken where it was.
+TEST(LiveHistory, AColumnHasItsBreakAndItsEnds) {
+  const auto drawn = [](const LiveRead& fourth, int pause) {
+    LiveHistory history;
+    int at = 0;
+    for (const double level : {3, 9, 1, 7, 4, 8, 2, 5})
+      history.Add(
+          LevelRound(seconds(at++ < 3 ? at : at + pause), level, level == 7 ? fourth : kCame));
+    return Drawn(history.Curve(kLevel, {seconds(0), seconds(100)}, 1));
+  };
+  EXPECT_EQ(drawn(kMissed, 0), "1000:3 2000:9 3000:1 4000:- 5000:4 6000:8 7000:2 8000:5 ");
+  EXPECT_EQ(drawn(kCame, 31), "1000:3 2000:9 3000:1 3001:- 35000:7 37000:8 38000:2 39000:5 ");
+}
+
 TEST(LiveHistory, ALineThatFailsAllTheTimeIsThinnedToo) {
   constexpr int kRounds = 20'000, kColumns = 100;
   LiveHistory history;
