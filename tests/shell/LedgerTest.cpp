@@ -128,6 +128,30 @@ TEST_F(Books, AFileThatIsSavedElsewhereKeepsItsHistory) {
   EXPECT_THAT(Doubts(), ElementsAre(HasSubstr("logger " + serial), HasSubstr("the features")));
 }
 
+/// A link leads to the file's own history; a file of no history is known by its content, as it was
+/// with a logger.
+TEST_F(Books, AFileIsKnownByItsLinkAndByItsContent) {
+  Connect();
+  ASSERT_TRUE(program->session.Download());
+  ASSERT_TRUE(program->SaveTo("/a.ocf")->Ok());
+  program->session.Close(false);
+  world.files.links["/link.ocf"] = "/a.ocf";
+  Open("/link.ocf");
+  EXPECT_EQ(program->ledger.File(), "/a.ocf");
+  world.files.contents["/copy.ocf"] = world.files.contents["/a.ocf"];
+  Open("/copy.ocf");
+  const std::string content = world.ledger.entries.back().content;
+  for (const auto& [kind, count] :
+       {std::pair{LedgerKind::VoiceWriting, 0U}, {LedgerKind::Writing, 1U}}) {
+    world.ledger.entries.clear();
+    world.ledger.Add(
+        {.kind = kind, .state = LedgerState::Done, .serial = "OTHER", .content = content});
+    EXPECT_EQ(Doubts().size(), count);
+  }
+  Name("of no other logger");
+  EXPECT_THAT(Doubts(), IsEmpty());
+}
+
 /// A reading beside the pages neither hands the pages to the logger that is read, nor does it count
 /// as seen.
 TEST_F(Books, ComparingWithALoggerLeavesTheFileItsHistory) {
